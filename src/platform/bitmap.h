@@ -1,0 +1,32 @@
+/// \file
+/// Pixels in memory: the common currency of pictures, surfaces and tests.
+#pragma once
+
+#include "platform/types.h"
+
+#include <vector>
+
+namespace lumtex {
+
+/// Rows from the top, no padding; each pixel is 0xAARRGGBB with colour premultiplied by alpha.
+struct Bitmap {
+    Long width = 0;  ///< pixels
+    Long height = 0; ///< pixels
+    std::vector<std::uint32_t> pixels;
+
+    Bitmap() = default;
+    Bitmap(Long width, Long height, std::uint32_t fill = 0)
+        : width(width), height(height),
+          pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), fill) {}
+
+    std::uint32_t& at(Long x, Long y) { return pixels[index(x, y)]; }
+    std::uint32_t at(Long x, Long y) const { return pixels[index(x, y)]; }
+    bool operator==(const Bitmap&) const = default;
+
+  private:
+    std::size_t index(Long x, Long y) const {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
+    }
+};
+
+} // namespace lumtex

@@ -1,0 +1,41 @@
+/// \file
+/// A bag of named values, each left out while it equals its default.
+#pragma once
+
+#include "platform/variant.h"
+
+namespace lumtex {
+
+/// The host's bag, or one in memory. Names compare without regard to case.
+class PropertyBag {
+  public:
+    PropertyBag() = default;
+    PropertyBag(const PropertyBag&) = delete;
+    PropertyBag& operator=(const PropertyBag&) = delete;
+    virtual ~PropertyBag() = default;
+
+    /// The value stored under `name`, or `defaultValue` where there is none.
+    virtual Variant ReadProperty(StringView name, const Variant& defaultValue) const = 0;
+    /// Stores `value`, or removes the name where the value equals the default. Numbers compare by value,
+    /// objects by identity.
+    virtual void WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) = 0;
+};
+
+/// Keeps its values in the order in which they were first written.
+class MemoryPropertyBag final : public PropertyBag {
+  public:
+    struct Entry {
+        String name;
+        Variant value;
+    };
+
+    Variant ReadProperty(StringView name, const Variant& defaultValue) const override;
+    void WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) override;
+
+    const std::vector<Entry>& entries() const { return entries_; }
+
+  private:
+    std::vector<Entry> entries_;
+};
+
+} // namespace lumtex

@@ -1,0 +1,128 @@
+/// \file
+/// The drawing operations. Everything that the control shows is made of these.
+#pragma once
+
+#include "platform/color.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
+#include "platform/picture.h"
+
+#include <span>
+
+namespace lumtex {
+
+/// How `polygon` fills: the inside is painted in FillColor, or left as it is.
+enum class FillStyle : Integer {
+    solid = 0,
+    transparent = 1,
+};
+
+/// Format bits of `drawText`; left, centre and right are 0, 1 and 2.
+enum TextFormat : Long {
+    dtLeft = 0x0,
+    dtCenter = 0x1,
+    dtRight = 0x2,
+    dtVCenter = 0x4,
+    dtSingleLine = 0x20,
+    dtCalcRect = 0x400,
+    dtWordEllipsis = 0x40000,
+};
+
+/// A device-independent bitmap of 24 bits per pixel: blue, green, red; the first row is the lowest; each row
+/// padded to a multiple of four bytes.
+struct Dib24 {
+    Long width = 0;
+    Long height = 0;
+    std::span<const Byte> bytes;
+};
+
+/// A persistent drawing surface, measured in pixels from its left upper corner.
+///
+/// Coordinates are floating point and are rounded to whole pixels, ties to even; one that is not finite or
+/// does not fit throws RuntimeError 6. Everything is clipped to the surface. Colours may name system colours.
+/// Never null, owned by whoever made it; nothing keeps a picture or font beyond the call.
+class Surface {
+  public:
+    Surface() = default;
+    Surface(const Surface&) = delete;
+    Surface& operator=(const Surface&) = delete;
+    virtual ~Surface() = default;
+
+    virtual Long scaleWidth() const = 0;
+    virtual Long scaleHeight() const = 0;
+    /// Pixels per inch, by which twips and HIMETRIC units are converted.
+    virtual Double pixelsPerInchX() const = 0;
+    virtual Double pixelsPerInchY() const = 0;
+
+    /// Clears to BackColor and moves the text cursor to (0, 0).
+    virtual void Cls() = 0;
+
+    virtual OLE_COLOR BackColor() const = 0;
+    /// Fills the whole surface at once, erasing all that was drawn.
+    virtual void letBackColor(OLE_COLOR color) = 0;
+    /// Colour of text and of a polygon's outline.
+    virtual OLE_COLOR ForeColor() const = 0;
+    virtual void letForeColor(OLE_COLOR color) = 0;
+    virtual OLE_COLOR FillColor() const = 0;
+    virtual void letFillColor(OLE_COLOR color) = 0;
+    virtual FillStyle fillStyle() const = 0;
+    virtual void letFillStyle(FillStyle style) = 0;
+    virtual const FontSpec& font() const = 0;
+    virtual void setFont(const FontSpec& font) = 0;
+
+    /// One pixel wide; the last pixel is not set, so a line of no length sets none.
+    virtual void line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) = 0;
+    /// Outlined rectangle, both corners included.
+    virtual void box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) = 0;
+    /// Filled rectangle, both corners included, in whatever order they are given.
+    virtual void fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) = 0;
+    virtual void pset(Single x, Single y, OLE_COLOR color) = 0;
+    /// Filled in FillColor when `fillStyle` is solid, outlined in ForeColor. Alternate winding; the fill
+    /// leaves out right and lower edges, the outline covers them.
+    virtual void polygon(std::span<const Point> points) = 0;
+
+    /// At its own size, from HIMETRIC units.
+    virtual void paintPicture(const Picture& picture, Single x, Single y) = 0;
+    /// Stretched to `width` x `height` pixels; nothing for a size of zero or less.
+    virtual void paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) = 0;
+    /// A part of the picture, in pixels of the picture, copied to a rectangle. What lies outside the picture
+    /// is not painted.
+    virtual void paintPicture(const Picture& picture,
+                              Single x,
+                              Single y,
+                              Single width,
+                              Single height,
+                              Single sourceX,
+                              Single sourceY,
+                              Single sourceWidth,
+                              Single sourceHeight) = 0;
+    /// Stretches `source` over the target by plain copy; a target without extent paints nothing.
+    virtual void stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) = 0;
+
+    /// Text cursor, used by `print` alone.
+    virtual Single CurrentX() const = 0;
+    virtual Single CurrentY() const = 0;
+    virtual void letCurrentX(Single x) = 0;
+    virtual void letCurrentY(Single y) = 0;
+    /// Writes at the text cursor in ForeColor, then moves the cursor to the start of the next line.
+    virtual void print(StringView text) = 0;
+
+    /// Extent in the current font, in whole pixels. The height of a text is its lines times the line height.
+    virtual Single textWidth(StringView text) = 0;
+    virtual Single textHeight(StringView text) = 0;
+
+    /// The platform's formatted output, by `TextFormat` bits, clipped to `rect`. With dtCalcRect nothing is
+    /// painted and `rect` is set to what the text needs. Returns the height of the text in pixels, counted
+    /// from the top of `rect`. Lines break at CR, LF and CR LF, never at words. A line too wide for `rect`
+    /// ends in an ellipsis when dtWordEllipsis is set.
+    virtual Long drawText(StringView text, Rect& rect, Long format) = 0;
+
+    /// A copy of what stands on the surface now, as a picture box's `Image` gives it.
+    virtual Bitmap image() const = 0;
+};
+
+/// `value` in another unit, unrounded, computed in double precision and held as Single.
+Single scaleX(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to);
+Single scaleY(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to);
+
+} // namespace lumtex

@@ -1,0 +1,36 @@
+/// \file
+/// A world makes the platform's things: windows, child widgets, surfaces. One per backend.
+#pragma once
+
+#include "platform/guide_line.h"
+#include "platform/runtime.h"
+#include "platform/text_box.h"
+#include "platform/timer.h"
+#include "platform/window.h"
+
+#include <functional>
+#include <memory>
+
+namespace lumtex {
+
+/// Lives longer than everything made by it. What it makes belongs to the caller.
+class World {
+  public:
+    World() = default;
+    World(const World&) = delete;
+    World& operator=(const World&) = delete;
+    virtual ~World() = default;
+
+    virtual Runtime& runtime() = 0;
+
+    /// A hidden window of no size whose events go to `client`. `parent` is null for a control that the host
+    /// places itself. Later children lie above earlier ones.
+    virtual std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) = 0;
+    virtual std::unique_ptr<TextBox> createTextBox(Window& parent, TextBoxClient& client) = 0;
+    virtual std::unique_ptr<GuideLine> createGuideLine(Window& parent) = 0;
+    virtual std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) = 0;
+    /// An off-screen surface, as a hidden picture box has it.
+    virtual std::unique_ptr<Surface> createSurface(Long width, Long height) = 0;
+};
+
+} // namespace lumtex
