@@ -15,8 +15,9 @@ struct Bitmap {
     std::vector<std::uint32_t> pixels;
 
     Bitmap() = default;
-    Bitmap(Long width, Long height, std::uint32_t fill = 0)
-        : width(width), height(height),
+    /// `fill` everywhere; negative sizes count as 0.
+    Bitmap(Long columns, Long rows, std::uint32_t fill = 0)
+        : width(columns > 0 ? columns : 0), height(rows > 0 ? rows : 0),
           pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), fill) {}
 
     std::uint32_t& at(Long x, Long y) { return pixels[index(x, y)]; }

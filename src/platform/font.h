@@ -5,6 +5,7 @@
 #include "platform/types.h"
 
 #include <memory>
+#include <utility>
 
 namespace lumtex {
 
@@ -23,7 +24,7 @@ struct FontSpec {
 /// A font object with reference semantics. A change shows wherever the object is shared.
 class Font {
   public:
-    explicit Font(FontSpec spec) : spec(std::move(spec)) {}
+    explicit Font(FontSpec attributes) : spec(std::move(attributes)) {}
     Font& operator=(const Font&) = delete;
     virtual ~Font() = default;
 

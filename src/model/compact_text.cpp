@@ -1,0 +1,110 @@
+#include "model/compact_text.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <stdexcept>
+
+namespace lumtex {
+
+namespace {
+
+constexpr std::size_t lengthOffset = sizeof(void*);
+constexpr std::size_t longestText = std::numeric_limits<std::uint32_t>::max();
+
+bool fitsBytes(StringView text) {
+    // Gathering the bits of all units lets the compiler use wide instructions.
+    char16_t seen = 0;
+    for (const char16_t unit : text)
+        seen = static_cast<char16_t>(seen | unit);
+    return seen < 256;
+}
+
+void narrow(StringView text, unsigned char* target) {
+    std::transform(
+        text.begin(), text.end(), target, [](char16_t unit) { return static_cast<unsigned char>(unit); });
+}
+
+} // namespace
+
+CompactText& CompactText::operator=(CompactText&& other) noexcept {
+    if (this != &other) {
+        release();
+        bytes_ = other.bytes_;
+        other.forget();
+    }
+    return *this;
+}
+
+unsigned char* CompactText::heap() const {
+    unsigned char* memory = nullptr;
+    std::memcpy(&memory, bytes_.data(), sizeof memory);
+    return memory;
+}
+
+std::size_t CompactText::heapLength() const {
+    std::uint32_t length = 0;
+    std::memcpy(&length, bytes_.data() + lengthOffset, sizeof length);
+    return length;
+}
+
+void CompactText::setHeap(unsigned char* memory, std::size_t length, unsigned char tag) {
+    const auto units = static_cast<std::uint32_t>(length);
+    std::memcpy(bytes_.data(), &memory, sizeof memory);
+    std::memcpy(bytes_.data() + lengthOffset, &units, sizeof units);
+    bytes_[inlineCapacity] = tag;
+}
+
+void CompactText::store(StringView text) {
+    const bool inBytes = fitsBytes(text);
+    if (inBytes && text.size() <= inlineCapacity) {
+        narrow(text, bytes_.data());
+        bytes_[inlineCapacity] = static_cast<unsigned char>(text.size());
+        return;
+    }
+    if (text.size() > longestText)
+        throw std::length_error("a cell's text is too long");
+    if (inBytes) {
+        auto* memory = new unsigned char[text.size()];
+        narrow(text, memory);
+        setHeap(memory, text.size(), narrowOnHeap);
+    } else {
+        auto* memory = new unsigned char[text.size() * sizeof(char16_t)];
+        std::memcpy(memory, text.data(), text.size() * sizeof(char16_t));
+        setHeap(memory, text.size(), wideOnHeap);
+    }
+}
+
+void CompactText::release() {
+    if (onHeap())
+        delete[] heap();
+}
+
+std::size_t CompactText::size() const {
+    return onHeap() ? heapLength() : tag();
+}
+
+String CompactText::toString() const {
+    String text;
+    copyTo(text);
+    return text;
+}
+
+void CompactText::copyTo(String& target) const {
+    const std::size_t length = size();
+    target.resize(length);
+    if (tag() == wideOnHeap) {
+        std::memcpy(target.data(), heap(), length * sizeof(char16_t));
+    } else {
+        const unsigned char* source = onHeap() ? heap() : bytes_.data();
+        std::copy_n(source, length, target.begin());
+    }
+}
+
+std::size_t CompactText::heapBytes() const {
+    if (!onHeap())
+        return 0;
+    return tag() == wideOnHeap ? heapLength() * sizeof(char16_t) : heapLength();
+}
+
+} // namespace lumtex

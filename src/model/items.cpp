@@ -1,0 +1,139 @@
+#include "model/items.h"
+
+#include <memory>
+#include <new>
+#include <vector>
+
+namespace lumtex {
+
+/// Header of a row's cells. A block whose cells moved to a larger one stays, as a signpost, until its last
+/// holder has followed.
+struct Items::Block {
+    using Extras = std::vector<std::unique_ptr<CellExtras>>;
+
+    std::uint32_t references = 1;
+    std::uint32_t count = 0;
+    std::uint32_t capacity = 0;
+    bool moved = false;
+    union {
+        Extras* extras = nullptr; ///< owned; null while no cell has any
+        Block* successor;         ///< once moved; holds one reference
+    };
+
+    ListViewItem* cells() { return std::launder(reinterpret_cast<ListViewItem*>(this + 1)); }
+};
+
+static_assert(alignof(ListViewItem) <= alignof(std::max_align_t));
+
+Items::Block* Items::allocate(std::size_t capacity) {
+    void* memory = ::operator new(sizeof(Block) + capacity * sizeof(ListViewItem));
+    auto* block = new (memory) Block;
+    block->capacity = static_cast<std::uint32_t>(capacity);
+    return block;
+}
+
+void Items::release(Block* block) {
+    while (block != nullptr && --block->references == 0) {
+        Block* next = nullptr;
+        if (block->moved) {
+            next = block->successor;
+        } else {
+            delete block->extras;
+            std::destroy_n(block->cells(), block->count);
+        }
+        block->~Block();
+        ::operator delete(block);
+        block = next;
+    }
+}
+
+Items Items::create(std::size_t capacity) {
+    Items items;
+    items.block_ = allocate(capacity);
+    return items;
+}
+
+Items::Items(const Items& other) noexcept : block_(other.block()) {
+    if (block_ != nullptr)
+        ++block_->references;
+}
+
+Items::~Items() {
+    release(block_);
+}
+
+Items::Block* Items::block() const {
+    while (block_ != nullptr && block_->moved) {
+        Block* successor = block_->successor;
+        ++successor->references;
+        release(block_);
+        block_ = successor;
+    }
+    return block_;
+}
+
+std::size_t Items::count() const {
+    const Block* current = block();
+    return current != nullptr ? current->count : 0;
+}
+
+ListViewItem& Items::operator[](std::size_t index) {
+    return block()->cells()[index];
+}
+const ListViewItem& Items::operator[](std::size_t index) const {
+    return block()->cells()[index];
+}
+
+Items::Block* Items::grow(std::size_t capacity) {
+    Block* old = block();
+    Block* larger = allocate(capacity);
+    std::uninitialized_move_n(old->cells(), old->count, larger->cells());
+    std::destroy_n(old->cells(), old->count);
+    larger->count = old->count;
+    larger->extras = old->extras;
+    old->count = 0;
+    old->moved = true;
+    old->successor = larger;
+    return block();
+}
+
+void Items::append(CompactText text, StyleHandle style) {
+    Block* current = block();
+    if (current == nullptr)
+        current = block_ = allocate(1);
+    if (current->count == current->capacity)
+        current = grow(current->count + std::size_t{1});
+    new (current->cells() + current->count) ListViewItem(std::move(text), style);
+    ++current->count;
+}
+
+const CellExtras* Items::extras(std::size_t index) const {
+    const Block* current = block();
+    if (current == nullptr || current->extras == nullptr || index >= current->extras->size())
+        return nullptr;
+    return (*current->extras)[index].get();
+}
+
+CellExtras& Items::needExtras(std::size_t index) {
+    Block* current = block();
+    if (current->extras == nullptr)
+        current->extras = new Block::Extras;
+    if (current->extras->size() <= index)
+        current->extras->resize(index + 1);
+    std::unique_ptr<CellExtras>& slot = (*current->extras)[index];
+    if (!slot)
+        slot = std::make_unique<CellExtras>();
+    return *slot;
+}
+
+bool Items::hasExtras() const {
+    const Block* current = block();
+    return current != nullptr && current->extras != nullptr;
+}
+
+std::size_t Items::heapBytes() const {
+    const Block* current = block();
+    return current != nullptr ? sizeof(Block) + current->capacity * sizeof(ListViewItem) : 0;
+}
+
+} // namespace lumtex

@@ -1,0 +1,61 @@
+/// \file
+/// The cells of one row.
+#pragma once
+
+#include "model/list_view_item.h"
+
+#include <cstddef>
+#include <utility>
+
+namespace lumtex {
+
+/// A reference to an ordered collection of cells. Copies share the collection, so a cell added through one
+/// shows in all. A default one refers to nothing, which reads as an empty collection.
+///
+/// The cells lie in one block behind their header, so that a row is one allocation.
+class Items {
+  public:
+    Items() = default;
+    /// An empty collection with room for `capacity` cells.
+    static Items create(std::size_t capacity);
+
+    Items(const Items& other) noexcept;
+    Items(Items&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
+    Items& operator=(Items other) noexcept {
+        std::swap(block_, other.block_);
+        return *this;
+    }
+    ~Items();
+
+    std::size_t count() const;
+    bool sharesWith(const Items& other) const { return block() == other.block(); }
+
+    /// `index` counts from 0 and must lie below `count`.
+    ListViewItem& operator[](std::size_t index);
+    const ListViewItem& operator[](std::size_t index) const;
+
+    /// Appends a cell, which every holder of the collection sees. Grows where there is no room left.
+    void append(CompactText text, StyleHandle style);
+
+    /// The rare fields of a cell; null while it has none.
+    const CellExtras* extras(std::size_t index) const;
+    /// The same, made on demand.
+    CellExtras& needExtras(std::size_t index);
+    bool hasExtras() const;
+
+    /// Bytes of the block, the rare fields aside, for the accounting of benchmarks.
+    std::size_t heapBytes() const;
+
+  private:
+    struct Block;
+
+    /// The block that holds the cells now; a block that grew leaves its successor's address behind.
+    Block* block() const;
+    static void release(Block* block);
+    static Block* allocate(std::size_t capacity);
+    Block* grow(std::size_t capacity);
+
+    mutable Block* block_ = nullptr;
+};
+
+} // namespace lumtex

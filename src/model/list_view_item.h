@@ -1,0 +1,79 @@
+/// \file
+/// One cell.
+#pragma once
+
+#include "model/cell_style.h"
+#include "model/compact_text.h"
+
+#include <memory>
+
+namespace lumtex {
+
+/// The fields of a cell that few cells have.
+struct CellExtras {
+    CellExtras() = default;
+    CellExtras(const CellExtras&) = delete;
+    CellExtras& operator=(const CellExtras&) = delete;
+    ~CellExtras() { setObject(nullptr); }
+
+    PictureRef Icon;
+    PictureRef IconSelected;
+    Variant Tag; ///< Empty until the host writes it
+    String ToolTip;
+
+    const ObjectRef& object() const { return object_; }
+    void setObject(ObjectRef object);
+
+    /// How many cells of this thread hold an object. While none does, a pass need not look for them.
+    static std::size_t objectsInCells();
+
+  private:
+    ObjectRef object_;
+};
+
+/// A cell in 24 bytes: its text, a share of a style, and the width that painting measured. The rare fields
+/// lie with the row's `Items`.
+class ListViewItem {
+  public:
+    /// Takes over one count of `style`.
+    ListViewItem(CompactText text, StyleHandle style) : text_(std::move(text)), style_(style) {}
+    ListViewItem(const ListViewItem&) = delete;
+    ListViewItem& operator=(const ListViewItem&) = delete;
+    ListViewItem(ListViewItem&& other) noexcept;
+    ListViewItem& operator=(ListViewItem&&) = delete;
+    ~ListViewItem();
+
+    String Text() const { return text_.toString(); }
+    const CompactText& text() const { return text_; }
+    void letText(StringView text) { text_.assign(text); }
+
+    const CellStyle& style() const { return CellStyles::ofThread()[style_]; }
+    StyleHandle styleHandle() const { return style_; }
+    /// Applies `change` to a copy of the style and shares the result.
+    template <class Change>
+    void restyle(Change change) {
+        CellStyle changed = style();
+        change(changed);
+        share(changed);
+    }
+
+    bool Checked() const { return checked_ != 0; }
+    void letChecked(bool checked) { checked_ = checked ? 1 : 0; }
+
+    Single TextWidth() const { return textWidth_; } ///< pixels, as the last paint measured it
+    void letTextWidth(Single width) { textWidth_ = width; }
+
+  private:
+    static constexpr StyleHandle noStyle = 0x7FFFFFFF;
+
+    void share(const CellStyle& style);
+
+    CompactText text_;
+    Single textWidth_ = 0;
+    StyleHandle style_ : 31;
+    StyleHandle checked_ : 1 = 0;
+};
+
+static_assert(sizeof(ListViewItem) == 24);
+
+} // namespace lumtex
