@@ -1,5 +1,5 @@
 /// \file
-/// UTF-8 for files and logs, UTF-16 everywhere else.
+/// UTF-8 for files and logs, UTF-16 everywhere else; and what all readers of text share.
 #pragma once
 
 #include "platform/types.h"
@@ -11,5 +11,12 @@ std::string toUtf8(StringView text);
 
 /// Malformed bytes become U+FFFD, one for each maximal bad sequence.
 String fromUtf8(std::string_view text);
+
+/// `text` without the blanks at both ends: space, the controls from tab to carriage return, and the no-break
+/// space. Points into `text`.
+StringView trimmed(StringView text);
+
+/// Whether two names are the same but for the case of A to Z. Member and property names hold nothing else.
+bool sameName(StringView a, StringView b);
 
 } // namespace lumtex

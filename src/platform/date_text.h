@@ -1,0 +1,12 @@
+/// \file
+/// The span of time that a Date can name.
+#pragma once
+
+#include "platform/variant.h"
+
+namespace lumtex {
+
+/// From the start of 100-01-01 to the end of 9999-12-31, which is the span that date texts can show.
+bool isDateInRange(Double days);
+
+} // namespace lumtex

@@ -1,0 +1,14 @@
+#include "platform/object.h"
+
+#include "platform/variant.h"
+
+namespace lumtex {
+
+Variant Object::get(StringView name) {
+    return get(name, {});
+}
+Variant Object::call(StringView name) {
+    return call(name, {});
+}
+
+} // namespace lumtex

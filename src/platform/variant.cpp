@@ -1,0 +1,210 @@
+#include "platform/variant.h"
+
+#include "platform/date_text.h"
+#include "platform/number_text.h"
+#include "platform/rounding.h"
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+
+#include <cmath>
+#include <limits>
+
+namespace lumtex {
+
+namespace {
+
+Double numberOf(const String& text) {
+    const NumberFromText result = readNumber(text);
+    if (result.outcome == NumberFromText::notANumber)
+        throw RuntimeError(typeMismatch);
+    if (result.outcome == NumberFromText::tooLarge)
+        throw RuntimeError(overflow);
+    return result.value;
+}
+
+struct ToDouble {
+    Double operator()(std::monostate) const { return 0; }
+    Double operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
+    Double operator()(bool value) const { return value ? -1 : 0; }
+    Double operator()(Byte value) const { return value; }
+    Double operator()(Integer value) const { return value; }
+    Double operator()(Long value) const { return value; }
+    Double operator()(Single value) const { return static_cast<Double>(value); }
+    Double operator()(Double value) const { return value; }
+    Double operator()(Date value) const { return value.days; }
+    Double operator()(const String& text) const { return numberOf(text); }
+    template <class MissingOrObject>
+    Double operator()(const MissingOrObject&) const {
+        throw RuntimeError(typeMismatch);
+    }
+};
+
+struct ToText {
+    String operator()(std::monostate) const { return {}; }
+    String operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
+    String operator()(bool value) const { return value ? u"True" : u"False"; }
+    String operator()(Byte value) const { return textFromNumber(static_cast<Double>(value)); }
+    String operator()(Integer value) const { return textFromNumber(static_cast<Double>(value)); }
+    String operator()(Long value) const { return textFromNumber(static_cast<Double>(value)); }
+    String operator()(Single value) const { return textFromNumber(value); }
+    String operator()(Double value) const { return textFromNumber(value); }
+    String operator()(Date value) const { return textFromDate(value); }
+    String operator()(const String& text) const { return text; }
+    template <class MissingOrObject>
+    String operator()(const MissingOrObject&) const {
+        throw RuntimeError(typeMismatch);
+    }
+};
+
+struct MinusOne {
+    Variant operator()(std::monostate) const { return Integer{-1}; }
+    Variant operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
+    Variant operator()(bool value) const { return static_cast<Integer>((value ? -1 : 0) - 1); }
+    Variant operator()(Byte value) const {
+        if (value == 0)
+            return Integer{-1};
+        return static_cast<Byte>(value - 1);
+    }
+    Variant operator()(Integer value) const {
+        if (value == std::numeric_limits<Integer>::min())
+            return Long{value} - 1;
+        return static_cast<Integer>(value - 1);
+    }
+    Variant operator()(Long value) const {
+        if (value == std::numeric_limits<Long>::min())
+            return static_cast<Double>(value) - 1;
+        return value - 1;
+    }
+    Variant operator()(Single value) const { return value - 1; }
+    Variant operator()(Double value) const { return value - 1; }
+    Variant operator()(Date value) const { return Date{value.days - 1}; }
+    Variant operator()(const String& text) const { return numberOf(text) - 1; }
+    template <class MissingOrObject>
+    Variant operator()(const MissingOrObject&) const {
+        throw RuntimeError(typeMismatch);
+    }
+};
+
+/// The reference that a Variant of kind `Ref` holds; none for Empty, and for a reference of another kind that
+/// holds nothing, since nothing is the same of every kind.
+template <class Ref>
+struct ToReference {
+    Ref operator()(std::monostate) const { return nullptr; }
+    Ref operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
+    Ref operator()(const Ref& held) const { return held; }
+    template <class T>
+    Ref operator()(const std::shared_ptr<T>& other) const {
+        if (other)
+            throw RuntimeError(typeMismatch);
+        return nullptr;
+    }
+    template <class NoObject>
+    Ref operator()(const NoObject&) const {
+        throw RuntimeError(typeMismatch);
+    }
+};
+
+} // namespace
+
+bool Variant::isObject() const {
+    return std::holds_alternative<ObjectRef>(value_) || std::holds_alternative<PictureRef>(value_) ||
+           std::holds_alternative<FontRef>(value_);
+}
+
+bool Variant::isNumeric() const {
+    if (const String* held = text())
+        return numberFromText(*held).has_value();
+    return !isNull() && !isMissing() && !isObject() && !std::holds_alternative<Date>(value_);
+}
+
+Long Variant::toLong() const {
+    if (const Long* held = std::get_if<Long>(&value_))
+        return *held;
+    return roundToLong(toDouble());
+}
+
+Integer Variant::toInteger() const {
+    return roundToInteger(toDouble());
+}
+
+Byte Variant::toByte() const {
+    // Wanted: True is 255 as a Byte, all bits set, though -1 as a number is out of range.
+    if (const bool* held = std::get_if<bool>(&value_))
+        return *held ? std::numeric_limits<Byte>::max() : Byte{0};
+    return roundToByte(toDouble());
+}
+
+Single Variant::toSingle() const {
+    if (const Single* held = std::get_if<Single>(&value_))
+        return *held;
+    const auto value = static_cast<Single>(toDouble());
+    if (std::isinf(value))
+        throw RuntimeError(overflow);
+    return value;
+}
+
+Double Variant::toDouble() const {
+    return std::visit(ToDouble{}, value_);
+}
+
+bool Variant::toBoolean() const {
+    if (const String* held = text()) {
+        if (sameName(*held, u"True"))
+            return true;
+        if (sameName(*held, u"False"))
+            return false;
+    }
+    return toDouble() != 0;
+}
+
+Date Variant::toDate() const {
+    if (const Date* held = std::get_if<Date>(&value_))
+        return *held;
+    if (const String* held = text()) {
+        if (const auto date = dateFromText(*held))
+            return *date;
+    }
+    const Double value = toDouble();
+    if (!isDateInRange(value))
+        throw RuntimeError(overflow);
+    return Date{value};
+}
+
+String Variant::toText() const {
+    return std::visit(ToText{}, value_);
+}
+
+OLE_COLOR Variant::toColor() const {
+    if (const Long* held = std::get_if<Long>(&value_))
+        return static_cast<OLE_COLOR>(*held);
+    const Double value = toDouble();
+    constexpr Double span = 4294967296.0;
+    // What lies above the Longs comes down by a whole turn, so that one rounding rule serves both halves.
+    const bool aboveLongs = value > std::numeric_limits<Long>::max() && value < span - 0.5;
+    return static_cast<OLE_COLOR>(roundToLong(aboveLongs ? value - span : value));
+}
+
+ObjectRef Variant::toObject() const {
+    ObjectRef held = std::visit(ToReference<ObjectRef>{}, value_);
+    if (!held)
+        throw RuntimeError(objectVariableNotSet);
+    return held;
+}
+
+PictureRef Variant::toPicture() const {
+    return std::visit(ToReference<PictureRef>{}, value_);
+}
+
+FontRef Variant::toFont() const {
+    return std::visit(ToReference<FontRef>{}, value_);
+}
+
+Variant minusOne(const Variant& value) {
+    return std::visit(MinusOne{}, value.storage());
+}
+
+Long zeroBasedSlow(const Variant& index) {
+    return minusOne(index).toLong();
+}
+
+} // namespace lumtex
