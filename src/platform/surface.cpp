@@ -1,0 +1,36 @@
+#include "platform/surface.h"
+
+namespace lumtex {
+
+namespace {
+
+constexpr Double twipsPerInch = 1440;
+constexpr Double himetricPerInch = 2540;
+
+Double unitsPerInch(ScaleUnit unit, Double pixelsPerInch) {
+    switch (unit) {
+    case twips:
+        return twipsPerInch;
+    case himetric:
+        return himetricPerInch;
+    case pixels:
+        break;
+    }
+    return pixelsPerInch;
+}
+
+Single scale(Double value, ScaleUnit from, ScaleUnit to, Double pixelsPerInch) {
+    return static_cast<Single>(value * unitsPerInch(to, pixelsPerInch) / unitsPerInch(from, pixelsPerInch));
+}
+
+} // namespace
+
+Single scaleX(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to) {
+    return scale(value, from, to, surface.pixelsPerInchX());
+}
+
+Single scaleY(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to) {
+    return scale(value, from, to, surface.pixelsPerInchY());
+}
+
+} // namespace lumtex
