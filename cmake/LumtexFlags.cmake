@@ -1,7 +1,7 @@
 # Everything compiles with the flags of this one interface target.
 add_library(lumtex_flags INTERFACE)
 target_compile_features(lumtex_flags INTERFACE cxx_std_20)
-target_include_directories(lumtex_flags INTERFACE "${PROJECT_SOURCE_DIR}/src")
+target_include_directories(lumtex_flags INTERFACE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_BINARY_DIR}/generated")
 # Contracted multiply-adds would make coordinates differ from one processor to the next.
 target_compile_options(
     lumtex_flags
