@@ -22,8 +22,8 @@ struct CellStyle {
     Variant BackColorSelect = u"def";
     OLE_COLOR ForeColorDis = grayText;
     OLE_COLOR BackColorDis = buttonFace;
-    Long IconAlignment = cItemLeft;
-    Long Alignment = cItemLeft;
+    cItemAlign IconAlignment = cItemLeft;
+    cItemAlign Alignment = cItemLeft;
     bool AllowEdit = false;
     bool Enabled = true;
     FontSpec font;
@@ -78,6 +78,21 @@ class CellStyles {
     std::deque<Slot> slots_;
     std::vector<StyleHandle> free_;
     std::unordered_set<StyleHandle, Hash, Equal> index_;
+};
+
+/// Holds one count of a style while cells are made from it.
+class StyleLease {
+  public:
+    /// Takes over a count that `acquire` gave.
+    explicit StyleLease(StyleHandle handle) : handle_(handle) {}
+    StyleLease(const StyleLease&) = delete;
+    StyleLease& operator=(const StyleLease&) = delete;
+    ~StyleLease() { CellStyles::ofThread().release(handle_); }
+
+    StyleHandle handle() const { return handle_; }
+
+  private:
+    StyleHandle handle_;
 };
 
 } // namespace lumtex

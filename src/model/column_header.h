@@ -15,12 +15,12 @@ struct ColumnHeader {
     PictureRef Icon;
     PictureRef IconHover; ///< while the mouse is over the header
     PictureRef IconDown;  ///< while the header is pressed
-    Long IconAlignment = cColumnLeft;
+    cColumnHeaderAlign IconAlignment = cColumnLeft;
     Single Left = 0;  ///< twips
     Single Width = 0; ///< twips
     String Tag;
     String Key; ///< the host's; stored and saved, never used to find a column
-    Long Alignment = cColumnLeft;
+    cColumnHeaderAlign Alignment = cColumnLeft;
     OLE_COLOR ForeColor = 0;
     OLE_COLOR ForeColorHover = 0;
     OLE_COLOR ForeColorDown = 0;

@@ -35,8 +35,9 @@ struct CellExtras {
 /// lie with the row's `Items`.
 class ListViewItem {
   public:
-    /// Takes over one count of `style`.
-    ListViewItem(CompactText text, StyleHandle style) : text_(std::move(text)), style_(style) {}
+    ListViewItem(CompactText text, StyleHandle style) : text_(std::move(text)), style_(style) {
+        CellStyles::ofThread().addReference(style);
+    }
     ListViewItem(const ListViewItem&) = delete;
     ListViewItem& operator=(const ListViewItem&) = delete;
     ListViewItem(ListViewItem&& other) noexcept;

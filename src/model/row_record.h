@@ -12,7 +12,7 @@ struct RowRecord {
     Items items;
     Single Height = 0; ///< pixels, as the last pass that reached the row measured it
     Single Top = 0;    ///< pixels on the control's surface, as that pass placed it
-    Long TextPosition = cTextPosTop;
+    cTextPosition TextPosition = cTextPosTop;
     bool Selected = false;
     bool Enabled = false;
     bool Checked = false;

@@ -1,0 +1,19 @@
+/// Handing the ten scroll colours to the bars.
+#include "model/list_view.h"
+#include "platform/property_bag.h"
+#include "scroll/scroll_colors.h"
+
+namespace lumtex {
+
+void lmListView::CheckProperty() {
+    Procedure p = procedure(u"CheckProperty");
+    MemoryPropertyBag bag;
+    for (const ScrollColor& color : scrollColors) {
+        p.step([&] { bag.WriteProperty(color.name, properties_.*color.field, color.bagDefault); });
+    }
+    p.step([&] { HS->SetNewProperty(bag); });
+    p.step([&] { VS->SetNewProperty(bag); });
+    CheckForRedraw();
+}
+
+} // namespace lumtex

@@ -1,0 +1,20 @@
+/// \file
+/// The shape that all accessors of cells share; for the files that define them.
+#pragma once
+
+#include "model/list_view.h"
+
+namespace lumtex {
+
+template <class T, class Read>
+T lmListView::itemGet(StringView name, const Variant& Row, const Variant& Column, Read read) {
+    return procedure(name).value<T>([&] { return read(cellAt(Row, Column)); });
+}
+
+template <class Write>
+void lmListView::itemLet(StringView name, const Variant& Row, const Variant& Column, Write write) {
+    procedure(name).step([&] { write(cellAt(Row, Column)); });
+    CheckForRedraw();
+}
+
+} // namespace lumtex

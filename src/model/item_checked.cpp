@@ -1,0 +1,33 @@
+/// Check marks of cells, and the counts that go with them.
+#include "model/item_access.h"
+
+namespace lumtex {
+
+bool lmListView::ItemChecked(const Variant& Row, const Variant& Column) {
+    return itemGet<bool>(u"ItemChecked", Row, Column, [](const Cell& cell) { return cell.item().Checked(); });
+}
+
+void lmListView::letItemChecked(const Variant& Row, const Variant& Column, bool checked) {
+    Procedure p = procedure(u"ItemChecked");
+    // A cell that cannot be read counts as unchanged, so that the count stays true.
+    const bool unchanged = p.condition([&] { return cellAt(Row, Column).item().Checked() == checked; }, true);
+    if (unchanged)
+        return;
+    p.step([&] { cellAt(Row, Column).item().letChecked(checked); });
+    p.step([&] { columnAt(zeroBased(Column)).ItemsChecked += checked ? 1 : -1; });
+    CheckForRedraw();
+}
+
+Long lmListView::ItemsCheckedCount(Long Column) {
+    Procedure p = procedure(u"ItemsCheckedCount");
+    return p.value<Long>([&] {
+        if (Column >= 1 && Column <= ColumnsCount())
+            return columnAt(Column - 1).ItemsChecked;
+        Long sum = 0;
+        for (std::size_t i = 0; i < columns_.size(); ++i)
+            sum += columnAt(static_cast<Long>(i)).ItemsChecked;
+        return sum;
+    });
+}
+
+} // namespace lumtex

@@ -1,0 +1,92 @@
+/// Birth and end of the control, and the look-ups that every accessor stands on.
+#include "model/list_view.h"
+
+#include "platform/runtime_error.h"
+
+namespace lumtex {
+
+namespace {
+
+/// The client area at design time, in twips.
+constexpr Single designWidth = 4635;
+constexpr Single designHeight = 3900;
+
+/// Timers tick as fast as the platform lets them.
+constexpr Long timerInterval = 1; // milliseconds
+
+const FontSpec designFont{.Name = u"Verdana", .Size = 9.75F};
+
+} // namespace
+
+lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Window* parent)
+    : world_(world), host_(host), events_(events), window_(world.createWindow(parent, *this)),
+      VS(std::make_unique<lmVScroll>(
+          world, *window_, ScrollBar::Events{[this] { VS_Change(); }, [this] { VS_Scroll(); }})),
+      HS(std::make_unique<lmHScroll>(
+          world, *window_, ScrollBar::Events{[this] { HS_Change(); }, [this] { HS_Scroll(); }})),
+      txtEdit(world.createTextBox(*window_, *this)), Line1(world.createGuideLine(*window_)),
+      tmrMouseIn(world.createTimer([] {})), tmrMouseAction(world.createTimer([] {})),
+      Picture1(world.createSurface(1, 1)), lblFont(std::make_shared<Font>(designFont)),
+      artwork_(ListViewArtwork::standard()) {
+    tmrMouseIn->letInterval(timerInterval);
+    tmrMouseAction->letInterval(timerInterval);
+    // The size of the design comes before the properties, so it must not paint.
+    paint_.paintBusy = true;
+    const Surface& surface = window_->surface();
+    window_->place(
+        0, 0, scaleX(surface, designWidth, twips, pixels), scaleY(surface, designHeight, twips, pixels));
+    paint_.paintBusy = false;
+}
+
+lmListView::~lmListView() = default;
+
+Procedure lmListView::procedure(StringView name) const {
+    return Procedure{runtime(), name, ModuleKind::control, u"lmListView"};
+}
+
+bool lmListView::ArrDim(const Variant& which) const {
+    Procedure p = procedure(u"ArrDim");
+    return p.value<bool>([&] {
+        const Double array = which.toDouble();
+        if (array == 0)
+            return !rows_.empty();
+        if (array == 1)
+            return !columns_.empty();
+        return false;
+    });
+}
+
+/// Makes the column where its slot holds none. Throws 9 where there is no such slot.
+ColumnHeader& lmListView::columnAt(Long index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= columns_.size())
+        throw RuntimeError(subscriptOutOfRange);
+    std::unique_ptr<ColumnHeader>& slot = columns_[static_cast<std::size_t>(index)];
+    if (!slot)
+        slot = std::make_unique<ColumnHeader>();
+    return *slot;
+}
+
+RowRecord& lmListView::rowAt(const Variant& Index) {
+    const Long index = zeroBased(Index);
+    if (index < 0 || static_cast<std::size_t>(index) >= rows_.size())
+        throw RuntimeError(subscriptOutOfRange);
+    return rows_[static_cast<std::size_t>(index)];
+}
+
+lmListView::Cell lmListView::cellAt(const Variant& Row, const Variant& Column) {
+    Items& items = rowAt(Row).items;
+    // Wanted: a text is a key, and no cell has a key, so that a numeric text fails too.
+    if (Column.isString())
+        throw RuntimeError(invalidProcedureCall);
+    const Long number = Column.toLong();
+    if (number < 1 || static_cast<std::size_t>(number) > items.count())
+        throw RuntimeError(subscriptOutOfRange);
+    return {items, static_cast<std::size_t>(number) - 1};
+}
+
+void lmListView::CheckForRedraw() {
+    if (properties_.AutoRedraw || designMode())
+        Redraw();
+}
+
+} // namespace lumtex

@@ -1,0 +1,475 @@
+/// \file
+/// The control: its public members as hosts know them, and the state its rooms share.
+#pragma once
+
+#include "interaction/interaction_state.h"
+#include "model/column_header.h"
+#include "model/enumerations.h"
+#include "model/list_view_events.h"
+#include "model/properties.h"
+#include "model/row_record.h"
+#include "model/setter_table.h"
+#include "platform/host.h"
+#include "platform/world.h"
+#include "render/artwork.h"
+#include "render/paint_state.h"
+#include "scroll/scroll_bar.h"
+#include "scroll/scroll_state.h"
+#include "services/ignoring_errors.h"
+#include "services/procedure.h"
+#include "sortfind/sort_state.h"
+
+#include <optional>
+#include <vector>
+
+namespace lumtex {
+
+/// An owner-drawn list of rows and columns.
+///
+/// `Row`, `Column` and `Index` arguments count from 1; `ListIndex`, `NewIndex`, `TopIndex` and the `aIndex`
+/// of `RowsAdd` count from 0, with -1 for none. Column widths, `RowHeight` and `EmptyColumnFieldWidth` are
+/// twips, all other sizes pixels. No member throws: a failure is reported (see `reportError`), what was
+/// stored before the failing statement stays, and a get that failed returns its type's zero.
+///
+/// The world, the host and the event receiver must outlive the control. After construction the host calls
+/// exactly one of the two `UserControl_...Properties` entry points.
+class lmListView final : public UserControl, private TextBoxClient {
+  public:
+    lmListView(World& world, Host& host, lmListViewEvents& events, Window* parent = nullptr);
+    ~lmListView() override;
+
+    // Lifecycle
+
+    /// A new instance without saved state. Paints nothing; the first resize does.
+    void UserControl_InitProperties();
+
+    // Filling the list
+
+    /// Appends a column, and an empty cell to every row. `aWidth` is in twips. A colour of 0 means black.
+    void ColumnsAdd(const Variant& aText,
+                    PictureRef aIcon = nullptr,
+                    PictureRef aIconHover = nullptr,
+                    PictureRef aIconDown = nullptr,
+                    cColumnHeaderAlign aAlignment = cColumnLeft,
+                    Single aWidth = 1000,
+                    bool aAllowSorting = false,
+                    OLE_COLOR aForeColor = 0,
+                    StringView aKey = {},
+                    StringView aTag = {},
+                    OLE_COLOR aForeColorHover = 0,
+                    OLE_COLOR aForeColorDown = 0);
+    /// Inserts a row before `aIndex`, or appends it where `aIndex` is out of range; the place it took is
+    /// written back. The texts are split at `aSplit`; without them all cells are empty. A list without
+    /// columns takes no rows.
+    void
+    RowsAdd(Variant& aIndex, StringView aSplit = u",", std::optional<StringView> aItemTexts = std::nullopt);
+    /// The same for a caller who does not want to know the place.
+    void RowsAdd(Variant&& aIndex = Long{-1},
+                 StringView aSplit = u",",
+                 std::optional<StringView> aItemTexts = std::nullopt) {
+        RowsAdd(aIndex, aSplit, aItemTexts);
+    }
+
+    // Counts
+
+    Long RowsCount() const { return rowsAllocated_ ? static_cast<Long>(rows_.size()) : 0; }
+    Long ColumnsCount() const { return columnsAllocated_ ? static_cast<Long>(columns_.size()) : 0; }
+    /// The row last added by `RowsAdd`; not corrected when rows move or go.
+    Long NewIndex() const { return properties_.NewIndex; }
+
+    // Painting
+
+    /// Paints the whole control, whatever `AutoRedraw` says.
+    void Redraw();
+    /// Clears the surface; the content stays and comes back with the next paint.
+    void ClearListView();
+
+    // Scrolling
+
+    void CheckScroll();
+    Long TopIndex() const { return VS->Value(); }
+    void letTopIndex(Long topIndex);
+
+    // Columns
+
+    String ColumnText(const Variant& Index);
+    void letColumnText(const Variant& Index, StringView text);
+    PictureRef ColumnIcon(const Variant& Index);
+    void setColumnIcon(const Variant& Index, PictureRef icon);
+    PictureRef ColumnIconHover(const Variant& Index);
+    void setColumnIconHover(const Variant& Index, PictureRef icon);
+    PictureRef ColumnIconDown(const Variant& Index);
+    void setColumnIconDown(const Variant& Index, PictureRef icon);
+    Single ColumnLeft(const Variant& Index);
+    Single ColumnWidth(const Variant& Index);
+    void letColumnWidth(const Variant& Index, Single width);
+    String ColumnTag(const Variant& Index);
+    void letColumnTag(const Variant& Index, StringView tag);
+    String ColumnKey(const Variant& Index);
+    void letColumnKey(const Variant& Index, StringView key);
+    cColumnHeaderAlign ColumnAlignment(const Variant& Index);
+    void letColumnAlignment(const Variant& Index, cColumnHeaderAlign alignment);
+    cColumnHeaderAlign ColumnIconAlignment(const Variant& Index);
+    void letColumnIconAlignment(const Variant& Index, cColumnHeaderAlign alignment);
+    OLE_COLOR ColumnForeColor(const Variant& Index);
+    void letColumnForeColor(const Variant& Index, OLE_COLOR color);
+    OLE_COLOR ColumnForeColorHover(const Variant& Index);
+    void letColumnForeColorHover(const Variant& Index, OLE_COLOR color);
+    OLE_COLOR ColumnForeColorDown(const Variant& Index);
+    void letColumnForeColorDown(const Variant& Index, OLE_COLOR color);
+    bool ColumnAllowSorting(const Variant& Index);
+    void letColumnAllowSorting(const Variant& Index, bool allow);
+    bool ColumnCheckBoxes(const Variant& Index);
+    void letColumnCheckBoxes(const Variant& Index, bool checkBoxes);
+    bool ColumnAdjustItemIcons(const Variant& Index);
+    void letColumnAdjustItemIcons(const Variant& Index, bool adjust);
+    /// True for any size but zero; assigning stores 0 or -1. The real sizes come from `ColumnsAdd`.
+    bool ColumnItemIconH(const Variant& Index);
+    void letColumnItemIconH(const Variant& Index, bool height);
+    bool ColumnItemIconW(const Variant& Index);
+    void letColumnItemIconW(const Variant& Index, bool width);
+
+    // Rows
+
+    bool RowEnabled(const Variant& Index);
+    void letRowEnabled(const Variant& Index, bool enabled);
+    bool RowSelected(const Variant& Index);
+    void letRowSelected(const Variant& Index, bool selected);
+    bool RowChecked(const Variant& Index);
+    void letRowChecked(const Variant& Index, bool checked);
+    cTextPosition TextPosition(const Variant& Index);
+    void letTextPosition(const Variant& Index, cTextPosition position);
+
+    /// The current row; yields to the host once.
+    Long ListIndex();
+    void letListIndex(Long index);
+
+    // Cells
+
+    bool ItemFontBold(const Variant& Row, const Variant& Column);
+    void letItemFontBold(const Variant& Row, const Variant& Column, bool bold);
+    bool ItemFontItalic(const Variant& Row, const Variant& Column);
+    void letItemFontItalic(const Variant& Row, const Variant& Column, bool italic);
+    bool ItemFontUnderline(const Variant& Row, const Variant& Column);
+    void letItemFontUnderline(const Variant& Row, const Variant& Column, bool underline);
+    bool ItemFontStrikethrough(const Variant& Row, const Variant& Column);
+    void letItemFontStrikethrough(const Variant& Row, const Variant& Column, bool strikethrough);
+    Single ItemFontSize(const Variant& Row, const Variant& Column);
+    void letItemFontSize(const Variant& Row, const Variant& Column, Single points);
+    String ItemFontName(const Variant& Row, const Variant& Column);
+    void letItemFontName(const Variant& Row, const Variant& Column, StringView name);
+    OLE_COLOR ItemForeColor(const Variant& Row, const Variant& Column);
+    void letItemForeColor(const Variant& Row, const Variant& Column, OLE_COLOR color);
+    /// A colour, or "def" for the look that painting decides; stored as it comes.
+    Variant ItemBackColor(const Variant& Row, const Variant& Column);
+    void letItemBackColor(const Variant& Row, const Variant& Column, const Variant& color);
+    Variant ItemForeColorSelect(const Variant& Row, const Variant& Column);
+    void letItemForeColorSelect(const Variant& Row, const Variant& Column, const Variant& color);
+    Variant ItemBackColorSelect(const Variant& Row, const Variant& Column);
+    void letItemBackColorSelect(const Variant& Row, const Variant& Column, const Variant& color);
+    /// A colour; "def" is a type mismatch.
+    Variant ItemForeColorDis(const Variant& Row, const Variant& Column);
+    void letItemForeColorDis(const Variant& Row, const Variant& Column, const Variant& color);
+    Variant ItemBackColorDis(const Variant& Row, const Variant& Column);
+    void letItemBackColorDis(const Variant& Row, const Variant& Column, const Variant& color);
+    /// Does not repaint.
+    Variant ItemTag(const Variant& Row, const Variant& Column);
+    void letItemTag(const Variant& Row, const Variant& Column, const Variant& tag);
+    /// Does not repaint.
+    bool ItemEnabled(const Variant& Row, const Variant& Column);
+    void letItemEnabled(const Variant& Row, const Variant& Column, bool enabled);
+    PictureRef ItemIcon(const Variant& Row, const Variant& Column);
+    void setItemIcon(const Variant& Row, const Variant& Column, PictureRef icon);
+    PictureRef ItemIconSelected(const Variant& Row, const Variant& Column);
+    void setItemIconSelected(const Variant& Row, const Variant& Column, PictureRef icon);
+    bool ItemAllowEdit(const Variant& Row, const Variant& Column);
+    void letItemAllowEdit(const Variant& Row, const Variant& Column, bool allow);
+    /// Keeps the column's count of checked cells true. Raises no event.
+    bool ItemChecked(const Variant& Row, const Variant& Column);
+    void letItemChecked(const Variant& Row, const Variant& Column, bool checked);
+    cItemAlign ItemAlignment(const Variant& Row, const Variant& Column);
+    void letItemAlignment(const Variant& Row, const Variant& Column, cItemAlign alignment);
+    cItemAlign ItemIconAlignment(const Variant& Row, const Variant& Column);
+    void letItemIconAlignment(const Variant& Row, const Variant& Column, cItemAlign alignment);
+    String ItemText(const Variant& Row, const Variant& Column);
+    void letItemText(const Variant& Row, const Variant& Column, StringView text);
+    String ItemToolTip(const Variant& Row, const Variant& Column);
+    void letItemToolTip(const Variant& Row, const Variant& Column, StringView toolTip);
+    /// Pixels, as the last paint measured the text; 0 for a cell never painted.
+    Single ItemTextWidth(const Variant& Row, const Variant& Column);
+    /// A control of the host that is shown over the cell. One with a window becomes a child of this control.
+    ObjectRef ItemObject(const Variant& Row, const Variant& Column);
+    void setItemObject(const Variant& Row, const Variant& Column, ObjectRef object);
+    /// Checked cells of a column; of all columns where `Column` is out of range.
+    Long ItemsCheckedCount(Long Column = 0);
+
+    // Properties: what a setter does beyond storing, `setterTable` tells; values are not checked. Fonts are
+    // cloned on the way in.
+
+    FontRef DefaultItemFont() const { return properties_.DefaultItemFont; }
+    void setDefaultItemFont(const FontRef& font);
+    OLE_COLOR DefaultItemForeColor() const { return properties_.DefaultItemForeColor; }
+    void letDefaultItemForeColor(OLE_COLOR value);
+    OLE_COLOR BackColor() const { return properties_.BackColor; }
+    void letBackColor(OLE_COLOR value);
+    OLE_COLOR BackColorDisabled() const { return properties_.BackColorDisabled; }
+    void letBackColorDisabled(OLE_COLOR value);
+    bool Enabled() const { return properties_.Enabled; }
+    void letEnabled(bool value);
+    bool ClickOnIndexChange() const { return properties_.ClickOnIndexChange; }
+    void letClickOnIndexChange(bool value);
+    cColorStyle ColorStyle() const { return properties_.ColorStyle; }
+    void letColorStyle(cColorStyle value);
+    OLE_COLOR BorderColor() const { return properties_.BorderColor; }
+    void letBorderColor(OLE_COLOR value);
+    cListViewStyle Style() const { return properties_.Style; }
+    void letStyle(cListViewStyle value);
+    bool FullRowSelect() const { return properties_.FullRowSelect; }
+    void letFullRowSelect(bool value);
+    bool AllowEdit() const { return properties_.AllowEdit; }
+    void letAllowEdit(bool value);
+    OLE_COLOR ValueColor() const { return properties_.ValueColor; }
+    void letValueColor(OLE_COLOR value);
+    bool BorderVisible() const { return properties_.BorderVisible; }
+    void letBorderVisible(bool value);
+    Single IndentTop() const { return properties_.IndentTop; }
+    void letIndentTop(Single value);
+    Single IndentLeft() const { return properties_.IndentLeft; }
+    void letIndentLeft(Single value);
+    Single IndentRight() const { return properties_.IndentRight; }
+    void letIndentRight(Single value);
+    Single IndentBottom() const { return properties_.IndentBottom; }
+    void letIndentBottom(Single value);
+    Single DistPicText() const { return properties_.DistPicText; }
+    void letDistPicText(Single value);
+    bool AutoCheckScroll() const { return properties_.AutoCheckScroll; }
+    void letAutoCheckScroll(bool value);
+    bool AutoRedraw() const { return properties_.AutoRedraw; }
+    void letAutoRedraw(bool value);
+    bool IconSelect() const { return properties_.IconSelect; }
+    void letIconSelect(bool value);
+    Single IconW() const { return properties_.IconW; }
+    void letIconW(Single value);
+    Single IconH() const { return properties_.IconH; }
+    void letIconH(Single value);
+    Single ColumnIconW() const { return properties_.ColumnIconW; }
+    void letColumnIconW(Single value);
+    Single ColumnIconH() const { return properties_.ColumnIconH; }
+    void letColumnIconH(Single value);
+    cScrollColorStyle ScrollColorStyle() const { return properties_.ScrollColorStyle; }
+    void letScrollColorStyle(cScrollColorStyle value);
+    bool GridLines() const { return properties_.GridLines; }
+    void letGridLines(bool value);
+    OLE_COLOR GridLineColor() const { return properties_.GridLineColor; }
+    void letGridLineColor(OLE_COLOR value);
+    bool MultiSelect() const { return properties_.MultiSelect; }
+    void letMultiSelect(bool value);
+    bool HideColumnHeaders() const { return properties_.HideColumnHeaders; }
+    void letHideColumnHeaders(bool value);
+    Long ColumnTextY() const { return properties_.ColumnTextY; }
+    void letColumnTextY(Long value);
+    bool MoveColumnTextAtDown() const { return properties_.MoveColumnTextAtDown; }
+    void letMoveColumnTextAtDown(bool value);
+    FontRef DefaultColumnFont() const { return properties_.DefaultColumnFont; }
+    void setDefaultColumnFont(const FontRef& font);
+    OLE_COLOR DefaultColumnForeColor() const { return properties_.DefaultColumnForeColor; }
+    void letDefaultColumnForeColor(OLE_COLOR value);
+    Single EmptyColumnFieldWidth() const { return properties_.EmptyColumnFieldWidth; }
+    void letEmptyColumnFieldWidth(Single value);
+    OLE_COLOR ColumnBackColor() const { return properties_.ColumnBackColor; }
+    void letColumnBackColor(OLE_COLOR value);
+    OLE_COLOR ColumnHoverColor() const { return properties_.ColumnHoverColor; }
+    void letColumnHoverColor(OLE_COLOR value);
+    OLE_COLOR ColumnDownColor() const { return properties_.ColumnDownColor; }
+    void letColumnDownColor(OLE_COLOR value);
+    bool RowsDynamic() const { return properties_.RowsDynamic; }
+    void letRowsDynamic(bool value);
+    Single RowHeight() const { return properties_.RowHeight; }
+    void letRowHeight(Single value);
+    OLE_COLOR ScrollBackColor() const { return properties_.ScrollBackColor; }
+    void letScrollBackColor(OLE_COLOR value);
+    OLE_COLOR ScrollArrows() const { return properties_.ScrollArrows; }
+    void letScrollArrows(OLE_COLOR value);
+    OLE_COLOR ScrollButtons() const { return properties_.ScrollButtons; }
+    void letScrollButtons(OLE_COLOR value);
+    OLE_COLOR ScrollBar() const { return properties_.ScrollBar; }
+    void letScrollBar(OLE_COLOR value);
+    OLE_COLOR ScrollArrowsDown() const { return properties_.ScrollArrowsDown; }
+    void letScrollArrowsDown(OLE_COLOR value);
+    OLE_COLOR ScrollButtonsDown() const { return properties_.ScrollButtonsDown; }
+    void letScrollButtonsDown(OLE_COLOR value);
+    OLE_COLOR ScrollBarDown() const { return properties_.ScrollBarDown; }
+    void letScrollBarDown(OLE_COLOR value);
+    OLE_COLOR ScrollArrowsHover() const { return properties_.ScrollArrowsHover; }
+    void letScrollArrowsHover(OLE_COLOR value);
+    OLE_COLOR ScrollButtonsHover() const { return properties_.ScrollButtonsHover; }
+    void letScrollButtonsHover(OLE_COLOR value);
+    OLE_COLOR ScrollBarHover() const { return properties_.ScrollBarHover; }
+    void letScrollBarHover(OLE_COLOR value);
+    OLE_COLOR EmptyColumnFieldColor() const { return properties_.EmptyColumnFieldColor; }
+    void letEmptyColumnFieldColor(OLE_COLOR value);
+    cWheelFunction WheelFunction() const { return properties_.WheelFunction; }
+    void letWheelFunction(cWheelFunction value);
+    Long WheelScrollLines() const { return properties_.WheelScrollLines; }
+    void letWheelScrollLines(Long value);
+    bool DefaultIconSelectedIsIcon() const { return properties_.DefaultIconSelectedIsIcon; }
+    void letDefaultIconSelectedIsIcon(bool value);
+    Long ScrollButtonJumpLines() const { return properties_.ScrollButtonJumpLines; }
+    void letScrollButtonJumpLines(Long value);
+    cTextPosition TextPositionDefault() const { return properties_.TextPositionDefault; }
+    void letTextPositionDefault(cTextPosition value);
+    bool DrawItemIcons() const { return properties_.DrawItemIcons; }
+    void letDrawItemIcons(bool value);
+    bool DrawColumnIcons() const { return properties_.DrawColumnIcons; }
+    void letDrawColumnIcons(bool value);
+    PictureRef BackgroundPicture() const { return properties_.BackgroundPicture; }
+    void setBackgroundPicture(PictureRef picture);
+    PictureRef Skin() const { return properties_.Skin; }
+    void setSkin(PictureRef picture);
+    bool FixColumns() const { return properties_.FixColumns; }
+    void letFixColumns(bool value);
+    bool CheckMouseOver() const { return properties_.CheckMouseOver; }
+    void letCheckMouseOver(bool value);
+    Integer OLEDragMode() const { return properties_.OLEDragMode; }
+    void letOLEDragMode(Integer value);
+    Integer OLEDropMode() const { return properties_.OLEDropMode; }
+    void letOLEDropMode(Integer value);
+    bool AutoRowColor() const { return properties_.AutoRowColor; }
+    void letAutoRowColor(bool value);
+    OLE_COLOR RowColorFirst() const { return properties_.RowColorFirst; }
+    void letRowColorFirst(OLE_COLOR value);
+    OLE_COLOR RowColorSecond() const { return properties_.RowColorSecond; }
+    void letRowColorSecond(OLE_COLOR value);
+    bool HideSelection() const { return properties_.HideSelection; }
+    void letHideSelection(bool value);
+
+    /// The window's number, and that of the in-place editor.
+    WindowHandle hwnd() const { return window_->hWnd(); }
+    WindowHandle hwndEdit() const { return txtEdit->hWnd(); }
+
+    /// Where the host places and shows the control.
+    Window& window() { return *window_; }
+
+    // Platform events
+
+    void UserControl_Resize() override;
+
+  private:
+    friend class PaintPass;
+    friend class ListViewInspector; ///< how tests look inside
+
+    // Failure path
+
+    Procedure procedure(StringView name) const;
+    Runtime& runtime() const { return world_.runtime(); }
+
+    // Model (model/)
+
+    bool ArrDim(const Variant& which) const;
+    StyleHandle emptyItemStyle();
+    void appendCell(Items& items, StringView text, StyleHandle style);
+    void growRows();
+    ColumnHeader& columnAt(Long index);
+    RowRecord& rowAt(const Variant& Index);
+    struct Cell {
+        Items& items;
+        std::size_t index;
+        ListViewItem& item() const { return items[index]; }
+    };
+    Cell cellAt(const Variant& Row, const Variant& Column);
+    void CheckForRedraw();
+    void CheckProperty();
+    // Reached by the property bag alone.
+    bool AllowItemMoving() const { return properties_.AllowItemMoving; }
+    void letAllowItemMoving(bool value);
+    bool designMode() const { return !host_.UserMode(); }
+
+    template <class T>
+    T columnGet(StringView name, const Variant& Index, T ColumnHeader::*field);
+    template <class T, class Value>
+    void columnLet(StringView name, const Variant& Index, T ColumnHeader::*field, Value&& value);
+    template <class T>
+    T rowGet(StringView name, const Variant& Index, T RowRecord::*field);
+    template <class T>
+    void rowLet(StringView name, const Variant& Index, T RowRecord::*field, T value);
+    template <class T, class Read>
+    T itemGet(StringView name, const Variant& Row, const Variant& Column, Read read);
+    template <class Write>
+    void itemLet(StringView name, const Variant& Row, const Variant& Column, Write write);
+    template <class T>
+    T styleGet(StringView name, const Variant& Row, const Variant& Column, T CellStyle::*field);
+    template <class T>
+    void
+    styleLet(StringView name, const Variant& Row, const Variant& Column, T CellStyle::*field, const T& value);
+    template <class T>
+    T fontGet(StringView name, const Variant& Row, const Variant& Column, T FontSpec::*field);
+    template <class T>
+    void
+    fontLet(StringView name, const Variant& Row, const Variant& Column, T FontSpec::*field, const T& value);
+    template <class T>
+    T extraGet(StringView name, const Variant& Row, const Variant& Column, T CellExtras::*field);
+
+    template <class T>
+    void store(Property property, T& field, T value);
+    void storeFont(Property property, FontRef& field, const FontRef& font);
+
+    // Painting (render/)
+
+    Long ColumnHeight();
+    OLE_COLOR aktValueColor() const;
+    void DrawBorder();
+    void SplitSkin();
+    void paintDesignView();
+    Single columnWidthInPixels(Long index);
+
+    // Interaction (interaction/)
+
+    void NoSelected(std::optional<Long> index = std::nullopt);
+    void UserControl_Click() override;
+    void textBoxKeyPress(Integer& KeyAscii) override;
+    void textBoxLostFocus() override;
+
+    // Scrolling (scroll/)
+
+    Long VisibleItems();
+    void CheckScrollPlacement();
+    void VS_Change();
+    void VS_Scroll();
+    void HS_Change();
+    void HS_Scroll();
+
+    World& world_;
+    Host& host_;
+    lmListViewEvents& events_;
+    std::unique_ptr<Window> window_;
+
+    // Children, under the names of their event handlers.
+    std::unique_ptr<lmVScroll> VS;
+    std::unique_ptr<lmHScroll> HS;
+    std::unique_ptr<TextBox> txtEdit;
+    std::unique_ptr<GuideLine> Line1;
+    std::unique_ptr<Timer> tmrMouseIn;
+    std::unique_ptr<Timer> tmrMouseAction;
+    std::unique_ptr<Surface> Picture1; ///< measures, so that the list's own surface keeps its font
+    FontRef lblFont;                   ///< initial value of the two default fonts
+    ListViewArtwork artwork_;
+
+    Properties properties_;
+    std::vector<RowRecord> rows_;
+    std::vector<std::unique_ptr<ColumnHeader>> columns_;
+    bool rowsAllocated_ = false;    ///< from the first `RowsAdd` until `RowsClear`
+    bool columnsAllocated_ = false; ///< from the first `ColumnsAdd` until `ColumnsClear`
+    Long newColumnSlot_ = 0;        ///< 0-based; the column that `ColumnsAdd` is filling
+    Single topInset_ = 0;           ///< pixels above a text placed at the top of its row
+
+    PaintState paint_;
+    MouseState mouse_;
+    HeaderPressState headerPress_;
+    SelectionState selection_;
+    EditState edit_;
+    ItemMoveState move_;
+    SortState sort_;
+    ScrollState scroll_;
+};
+
+} // namespace lumtex

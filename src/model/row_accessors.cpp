@@ -1,0 +1,71 @@
+/// Reading and writing one field of one row.
+#include "model/list_view.h"
+
+namespace lumtex {
+
+template <class T>
+T lmListView::rowGet(StringView name, const Variant& Index, T RowRecord::*field) {
+    return procedure(name).value<T>([&] { return rowAt(Index).*field; });
+}
+
+template <class T>
+void lmListView::rowLet(StringView name, const Variant& Index, T RowRecord::*field, T value) {
+    procedure(name).step([&] { rowAt(Index).*field = value; });
+    CheckForRedraw();
+}
+
+bool lmListView::RowEnabled(const Variant& Index) {
+    return rowGet(u"RowEnabled", Index, &RowRecord::Enabled);
+}
+
+void lmListView::letRowEnabled(const Variant& Index, bool enabled) {
+    procedure(u"RowEnabled").step([&] { rowAt(Index).Enabled = enabled; });
+    for (Long column = 1; column <= ColumnsCount(); ++column)
+        letItemEnabled(Index, column, enabled);
+    CheckForRedraw();
+}
+
+bool lmListView::RowChecked(const Variant& Index) {
+    return rowGet(u"RowChecked", Index, &RowRecord::Checked);
+}
+
+void lmListView::letRowChecked(const Variant& Index, bool checked) {
+    rowLet(u"RowChecked", Index, &RowRecord::Checked, checked);
+}
+
+cTextPosition lmListView::TextPosition(const Variant& Index) {
+    return rowGet(u"TextPosition", Index, &RowRecord::TextPosition);
+}
+
+void lmListView::letTextPosition(const Variant& Index, cTextPosition position) {
+    rowLet(u"TextPosition", Index, &RowRecord::TextPosition, position);
+}
+
+bool lmListView::RowSelected(const Variant& Index) {
+    return rowGet(u"RowSelected", Index, &RowRecord::Selected);
+}
+
+void lmListView::letRowSelected(const Variant& Index, bool selected) {
+    Procedure p = procedure(u"RowSelected");
+    if (!properties_.MultiSelect) {
+        for (RowRecord& row : rows_)
+            row.Selected = false;
+    }
+    p.step([&] { rowAt(Index).Selected = selected; });
+    if (selected) {
+        const Long top = VS->Value();
+        const Long visible = VisibleItems();
+        const bool outOfView = p.condition(
+            [&] {
+                const Double row = Index.toDouble();
+                const Double first = top;
+                return row >= first + visible || row < first + 1;
+            },
+            false);
+        if (outOfView)
+            p.step([&] { letTopIndex(zeroBased(Index)); });
+    }
+    CheckForRedraw();
+}
+
+} // namespace lumtex

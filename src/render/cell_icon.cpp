@@ -1,0 +1,53 @@
+/// The icon or check box of a cell.
+#include "platform/rounding.h"
+#include "render/paint_pass.h"
+#include "render/paint_pass_statement.h"
+#include "render/picture_size.h"
+
+namespace lumtex {
+
+void PaintPass::chooseCheckBox(const ListViewItem& item) {
+    checkBoxCell = properties.Style == cCheckBoxes && list.ColumnCheckBoxes(state.scanColumn);
+    if (checkBoxCell) {
+        const auto& boxes = item.style().Enabled ? list.artwork_.img : list.artwork_.imgd;
+        cellIcon = boxes[item.Checked() ? 2 : 1];
+    } else if (!properties.DrawItemIcons) {
+        cellIcon = nullptr;
+    }
+}
+
+void PaintPass::cellIconPicture(const CellStyle& style) {
+    const Picture& box = *list.artwork_.img[1];
+    Single iconBoxWidth = properties.IconW;
+    statement([&] {
+        if (checkBoxCell)
+            iconBoxWidth = static_cast<Single>(GetPictureWidth(surface, box));
+        lastIconHeight =
+            checkBoxCell ? static_cast<Single>(GetPictureHeight(surface, box)) : properties.IconH;
+    });
+    if (!properties.RowsDynamic) {
+        // Wanted: IconH counts here for a check box too.
+        statement([&] {
+            state.textRect.Top = roundToLong(
+                (scaleY(surface, properties.RowHeight, twips, pixels) - properties.IconH) / 2 + rowY + 1);
+        });
+    }
+    const auto iconY = static_cast<Single>(state.textRect.Top);
+    const Single d = downOffset;
+    Single iconX = penX + 5 + d;
+    if (style.IconAlignment == cItemRight)
+        iconX = penX + columnWidthPx - 5 - iconBoxWidth + d;
+    else if (style.IconAlignment == cItemCenter) // Wanted: no shift and no inset in the middle.
+        iconX = (columnWidthPx - iconBoxWidth) / 2 + penX;
+
+    // The text lies below the picture.
+    statement([&] {
+        const ColumnHeader& column = list.columnAt(state.scanColumn - 1);
+        if (checkBoxCell || !column.AdjustItemIcons)
+            surface.paintPicture(*cellIcon, iconX, iconY);
+        else
+            surface.paintPicture(*cellIcon, iconX, iconY, column.ItemIconW, column.ItemIconH);
+    });
+}
+
+} // namespace lumtex

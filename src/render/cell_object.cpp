@@ -1,0 +1,33 @@
+/// A control of the host, shown over its cell in place of text and icon.
+#include "platform/rounding.h"
+#include "render/paint_pass.h"
+#include "render/paint_pass_statement.h"
+
+#include <array>
+
+namespace lumtex {
+
+void PaintPass::cellObject(const ObjectRef& shared) {
+    const ObjectRef object = shared; // the host may take it out of the cell while it is called
+    // Wanted: the parent's scale is asked for and then not used; the target is always twips.
+    ignoringErrors([&] { object->get(u"Parent").toObject()->get(u"ScaleMode"); });
+    statement([&] { object->put(u"Visible", true); });
+
+    Single targetHeight = 0;
+    statement([&] {
+        targetHeight = properties.RowsDynamic
+                           ? scaleY(surface, static_cast<Double>(cellHeight) - 1, pixels, twips)
+                           : properties.RowHeight - static_cast<Single>(list.runtime().twipsPerPixelY());
+    });
+    statement([&] {
+        const Double objectHeight = object->get(u"Height").toDouble();
+        const Double top = scaleY(surface, rowY + 1, pixels, twips) +
+                           (static_cast<Double>(roundToLong(targetHeight)) - objectHeight) / 2;
+        std::array<Variant, 3> place{scaleX(surface, penX, pixels, twips),
+                                     static_cast<Single>(top),
+                                     scaleX(surface, columnWidthPx - 1, pixels, twips)};
+        object->call(u"Move", place);
+    });
+}
+
+} // namespace lumtex

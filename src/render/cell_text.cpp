@@ -1,0 +1,56 @@
+/// The text of a cell.
+#include "platform/rounding.h"
+#include "render/paint_pass.h"
+#include "render/paint_pass_statement.h"
+
+namespace lumtex {
+
+/// Makes room beside the text where the icon stands at the same side; elsewhere the two may overlap.
+void PaintPass::cellIconRoom(const CellStyle& style) {
+    Rect& rect = state.textRect;
+    // Wanted: a check box takes the room of an icon, not its own 13 pixels.
+    const Single d = downOffset;
+    if (style.IconAlignment == cItemLeft && textAlignment == dtLeft)
+        rect.Left =
+            roundToLong(properties.IconW + static_cast<Single>(rect.Left) + properties.DistPicText + d);
+    else if (style.IconAlignment == cItemRight && textAlignment == dtRight)
+        rect.Right =
+            roundToLong(static_cast<Single>(rect.Right) - (properties.IconW + properties.DistPicText) + d);
+}
+
+/// Chooses the format, and for rows of fixed height the top of the text.
+Long PaintPass::textFormatForCell() {
+    if (properties.RowsDynamic)
+        return textAlignment + dtWordEllipsis + dtSingleLine + dtVCenter;
+
+    const Long format = textAlignment + dtWordEllipsis;
+    Rect& rect = state.textRect;
+    Rect measured = rect;
+    const Long textHeight = surface.drawText(state.cellText, measured, format + dtCalcRect);
+    switch (list.rowAt(Variant(state.scanIndex + 1)).TextPosition) {
+    case cTextPosTop:
+        rect.Top = roundToLong(rowY + list.topInset_);
+        break;
+    case cTextPosCenter:
+        rect.Top = roundToLong(
+            (scaleY(surface, properties.RowHeight, twips, pixels) - static_cast<Single>(textHeight)) / 2 +
+            rowY);
+        break;
+    case cTextPosBottom:
+        rect.Top = roundToLong(static_cast<Single>(rect.Bottom) - static_cast<Single>(textHeight));
+        break;
+    }
+    // A text taller than its row starts at the row's top; only the next row's paint cuts it.
+    if (rowY > static_cast<Single>(rect.Top))
+        rect.Top = roundToLong(rowY);
+    return format;
+}
+
+void PaintPass::cellText(ListViewItem& item) {
+    statement([&] { item.text().copyTo(state.cellText); });
+    statement([&] { textFormat = textFormatForCell(); });
+    statement([&] { item.letTextWidth(surface.textWidth(state.cellText)); });
+    statement([&] { surface.drawText(state.cellText, state.textRect, textFormat); });
+}
+
+} // namespace lumtex

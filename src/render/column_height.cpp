@@ -1,0 +1,34 @@
+/// Measures of the header band.
+#include "model/list_view.h"
+#include "platform/rounding.h"
+
+namespace lumtex {
+
+namespace {
+
+constexpr Single bandMargin = 6; // pixels above and below a header's text, foot lines included
+
+} // namespace
+
+/// The band's height in pixels, 0 while headers are hidden. Measures on a surface of its own, so that it may
+/// be called in the middle of a pass.
+Long lmListView::ColumnHeight() {
+    if (properties_.HideColumnHeaders)
+        return 0;
+    Procedure p = procedure(u"ColumnHeight");
+    p.step([&] {
+        if (properties_.DefaultColumnFont)
+            Picture1->setFont(properties_.DefaultColumnFont->spec);
+    });
+    return p.value<Long>([&] {
+        return roundToLong(Picture1->textHeight(u"A") + static_cast<Double>(properties_.ColumnTextY) +
+                           bandMargin);
+    });
+}
+
+/// Unrounded, as all working coordinates are.
+Single lmListView::columnWidthInPixels(Long index) {
+    return scaleX(window_->surface(), columnAt(index).Width, twips, pixels);
+}
+
+} // namespace lumtex

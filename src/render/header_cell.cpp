@@ -1,0 +1,163 @@
+/// One header cell: background by state, text, icon, sort arrow; and the field beside the last one.
+#include "render/draw_arrow.h"
+#include "render/header_strokes.h"
+#include "render/paint_pass.h"
+#include "render/picture_size.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace lumtex {
+
+namespace {
+
+/// Pixels between a cell's edge and what stands in it, and between a text and its sort arrow.
+constexpr Single inset = 5;
+constexpr Single arrowWidth = 8;
+
+/// A column this narrow, in twips as stored, shows no icon.
+constexpr Single widthWithoutIcon = 3;
+
+/// The platform's format bits; a number that is no alignment counts as left.
+constexpr Long alignmentBits(cColumnHeaderAlign alignment) {
+    return alignment == cColumnCenter || alignment == cColumnRight ? alignment : cColumnLeft;
+}
+
+} // namespace
+
+void PaintPass::headerCell(HeaderLook look) {
+    const Single width = columnWidthPx;
+    const StrokeFrame frame{penX, penX + width, static_cast<Single>(borderWidth), footOfHeader()};
+    const ColumnHeader& column = list.columnAt(state.scanIndex);
+    headerBackground(look, frame);
+    OLE_COLOR color = column.ForeColor;
+    cellIcon = column.Icon;
+    if (look == HeaderLook::hover) {
+        color = column.ForeColorHover;
+        cellIcon = column.IconHover;
+    } else if (look == HeaderLook::down) {
+        color = column.ForeColorDown;
+        cellIcon = column.IconDown;
+    }
+    if (!properties.DrawColumnIcons)
+        cellIcon = nullptr;
+    checkpoint();
+    headerText(column, color);
+    if (list.sort_.sortColumn == state.scanIndex)
+        sortArrow(column);
+}
+
+void PaintPass::headerBackground(HeaderLook look, const StrokeFrame& frame) {
+    switch (look) {
+    case HeaderLook::normal:
+        paintStrokes(surface, looks::headerNormal, frame, properties);
+        break;
+    case HeaderLook::hover:
+        paintStrokes(surface, looks::headerHover, frame, properties);
+        hoverBar(frame);
+        break;
+    case HeaderLook::down:
+        paintStrokes(surface, looks::headerDown, frame, properties);
+        break;
+    }
+}
+
+void PaintPass::hoverBar(const StrokeFrame& frame) {
+    const cColorStyle style = properties.ColorStyle;
+    if (style == cXPOlive) {
+        paintStrokes(surface, looks::oliveBar, frame, properties);
+        return;
+    }
+    if (style != cXPBlue && style != cXPSilver)
+        return;
+    const auto& pieces = list.artwork_.imgCol;
+    const Single top = frame.at({Edge::bar, 0});
+    surface.paintPicture(*pieces[0], frame.left, top);
+    const Single stampsLeft = frame.left + static_cast<Single>(GetPictureWidth(surface, *pieces[0]));
+    // Wanted: the stamps run one pixel past the cell; the next cell paints over it. Those off the surface are
+    // left out, so that a very wide column costs no more than the surface is wide.
+    const Single firstStep = std::max(0.0F, std::floor(-stampsLeft) - 1);
+    const Single lastStep = std::min(std::floor(frame.right - stampsLeft),
+                                     static_cast<Single>(surface.scaleWidth()) - stampsLeft);
+    bool odd = std::fmod(firstStep, 2.0F) != 0;
+    for (Single step = firstStep; step <= lastStep; step += 1) {
+        surface.paintPicture(odd ? *pieces[2] : *pieces[1], stampsLeft + step, top);
+        odd = !odd;
+    }
+    surface.paintPicture(
+        *pieces[3], frame.right - static_cast<Single>(GetPictureWidth(surface, *pieces[3])), top);
+}
+
+void PaintPass::headerText(const ColumnHeader& column, OLE_COLOR color) {
+    surface.letForeColor(color);
+    const HeaderPressState& press = list.headerPress_;
+    // Wanted: the mouse button does not decide here, unlike for the look.
+    downOffset = properties.MoveColumnTextAtDown && press.pressedColumn == state.scanIndex &&
+                         press.hoverColumn == state.scanIndex
+                     ? 1
+                     : 0;
+    const Single d = downOffset;
+    const Single x = penX;
+    const Single w = columnWidthPx;
+    const auto textY = static_cast<Single>(properties.ColumnTextY);
+    Rect& rect = state.textRect;
+    rect = {roundToLong(x + inset + d),
+            roundToLong(headerTop + textY + d),
+            roundToLong(x + w - inset + d),
+            roundToLong(headerTop + headerHeight + d)};
+
+    const Single iconWidth = properties.IconW;
+    if (cellIcon) {
+        // Wanted: the list's IconW, not ColumnIconW, and the shift counts twice.
+        if (column.IconAlignment == cColumnLeft && column.Alignment == cColumnLeft)
+            rect.Left = roundToLong(static_cast<Single>(rect.Left) + iconWidth + properties.DistPicText + d);
+        else if (column.IconAlignment == cColumnRight && column.Alignment == cColumnRight)
+            rect.Right =
+                roundToLong(static_cast<Single>(rect.Right) - (iconWidth + properties.DistPicText) + d);
+    }
+    surface.drawText(column.Text, rect, alignmentBits(column.Alignment) + dtSingleLine + dtWordEllipsis);
+
+    if (cellIcon && column.Width > widthWithoutIcon) {
+        Single iconX = x + inset + d;
+        if (column.IconAlignment == cColumnRight)
+            iconX = x + w - inset - iconWidth + d;
+        else if (column.IconAlignment == cColumnCenter)
+            iconX = (x + inset + d) + (w - iconWidth) / 2;
+        surface.paintPicture(
+            *cellIcon, iconX, static_cast<Single>(rect.Top), properties.ColumnIconW, properties.ColumnIconH);
+    }
+}
+
+void PaintPass::sortArrow(const ColumnHeader& column) {
+    const Single d = downOffset;
+    const Single textWidth = surface.textWidth(column.Text);
+    Single x = (penX + inset + d) + textWidth + inset;
+    if (column.Alignment == cColumnRight)
+        x = (penX + columnWidthPx - inset - textWidth) + d - inset - arrowWidth;
+    else if (column.Alignment == cColumnCenter)
+        x = (penX + inset + d) + (columnWidthPx + textWidth) / 2;
+    const Single y = (static_cast<Single>(list.ColumnHeight()) - 5) / 2;
+    DrawArrow(surface, list.sort_.sortAscending, x, y);
+}
+
+void PaintPass::emptyColumnField() {
+    switch (properties.ColorStyle) {
+    case cXPBlue:
+    case cXPSilver:
+    case cXPOlive:
+    case cCustom:
+        break;
+    default:
+        return;
+    }
+    const auto surfaceWidth = static_cast<Single>(surface.scaleWidth());
+    const Single right = penX >= surfaceWidth
+                             ? penX + scaleX(surface, properties.EmptyColumnFieldWidth, twips, pixels)
+                             : surfaceWidth;
+    paintStrokes(surface,
+                 looks::emptyField,
+                 {penX, right, static_cast<Single>(borderWidth), footOfHeader()},
+                 properties);
+}
+
+} // namespace lumtex

@@ -1,0 +1,104 @@
+/// \file
+/// One run-time repaint, from the guard to the border.
+#pragma once
+
+#include "model/list_view.h"
+#include "render/strokes.h"
+
+namespace lumtex {
+
+/// Made for one pass and thrown away after it. The members named here are the working values that the steps
+/// of a pass hand to one another; what must outlive the pass lies in `PaintState`.
+///
+/// Each step is a member function in the file of its name: header_pass.cpp, header_cell.cpp, row_pass.cpp,
+/// list_cell.cpp, cell_text.cpp, cell_icon.cpp, cell_object.cpp.
+class PaintPass {
+  public:
+    explicit PaintPass(lmListView& list);
+
+    void run();
+
+  private:
+    /// Ends the pass at once, from however deep.
+    struct PassEnds {};
+
+    enum class HeaderLook : Byte { normal, hover, down };
+
+    // Running and ending (paint_pass.cpp)
+
+    void runSteps();
+    void clear();
+    void backgroundAndHeaders();
+    void paintBackgroundPicture();
+    void scrollCorner();
+    /// Gives up while a bar's handler waits in its yield; `paintBusy` stays set.
+    void checkpoint() const;
+    /// One statement that fails the common way: reported, and then the pass ends with `paintBusy` still set;
+    /// under the silent flag the pass goes on with the next statement.
+    template <class Statement>
+    void statement(Statement body);
+
+    // Headers (header_pass.cpp, header_cell.cpp)
+
+    void findFirstColumn();
+    void beginHeaders();
+    void headerPass();
+    void trackMouse();
+    HeaderLook headerLook() const;
+    void headerCell(HeaderLook look);
+    void headerBackground(HeaderLook look, const StrokeFrame& frame);
+    void hoverBar(const StrokeFrame& frame);
+    void headerText(const ColumnHeader& column, OLE_COLOR textColor);
+    void sortArrow(const ColumnHeader& column);
+    void emptyColumnField();
+    void resizeCursor();
+    Single footOfHeader() const { return headerHeight - 3 + static_cast<Single>(borderWidth); }
+
+    // Rows (row_pass.cpp)
+
+    void hideObjects(Long firstRow, Long lastRow);
+    void beginRows();
+    void rowPass();
+    void rowCells();
+    void finishRow();
+
+    // Cells (list_cell.cpp, cell_text.cpp, cell_icon.cpp, cell_object.cpp)
+
+    void listCell();
+    void measureCellHeight();
+    void cellBackground(const ListViewItem& item, bool rowSelected);
+    OLE_COLOR selectionColor(const Variant& color, OLE_COLOR otherwise) const;
+    void cellObject(const ObjectRef& object);
+    void cellRectangle(const CellStyle& style);
+    void cellColorsAndIcon(const ListViewItem& item, bool rowSelected);
+    void chooseCheckBox(const ListViewItem& item);
+    void cellIconRoom(const CellStyle& style);
+    void cellText(ListViewItem& item);
+    void cellIconPicture(const CellStyle& style);
+    Long textFormatForCell();
+
+    lmListView& list;
+    Properties& properties;
+    PaintState& state;
+    Surface& surface;
+
+    Byte borderWidth = 0;
+    Single penX = 0; ///< left edge of the cell being painted
+    static constexpr Single headerTop = 0;
+    Single headerHeight = 0;
+    Single rowY = 0;           ///< top of the row being painted
+    Single columnWidthPx = 0;  ///< of the current column
+    Long cellHeight = 0;       ///< of the current cell
+    Single rowBandHeight = 0;  ///< the row's height as it will be stored and stepped
+    Single lastIconHeight = 0; ///< of the last icon laid out in this pass; 0 until the first
+    Byte downOffset = 0;       ///< text shift of the last header cell painted; the list's cells read it too
+    PictureRef cellIcon;       ///< the picture chosen for the current cell, or none
+    Long fillColor = 0;        ///< -1: no fill; keeps its value where a cell assigns none
+    Long textAlignment = 0;    ///< keeps its value where a cell assigns none
+    OLE_COLOR textColor = 0;
+    Long textFormat = 0;
+    bool checkBoxCell = false;
+    Items items; ///< of the current row; a copy, so that a host may change the list meanwhile
+};
+
+} // namespace lumtex

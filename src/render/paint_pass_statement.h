@@ -1,0 +1,18 @@
+/// \file
+/// How a statement of a pass fails; for the files of the pass alone.
+#pragma once
+
+#include "render/paint_pass.h"
+#include "services/bas_error.h"
+
+namespace lumtex {
+
+template <class Statement>
+void PaintPass::statement(Statement body) {
+    const bool silent = silentError();
+    const bool succeeded = list.procedure(u"Redraw").step(body);
+    if (!succeeded && !silent)
+        throw PassEnds{};
+}
+
+} // namespace lumtex

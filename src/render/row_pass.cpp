@@ -1,0 +1,107 @@
+/// The rows: how tall each is, where it lies, and its grid lines.
+#include "render/paint_pass.h"
+#include "render/paint_pass_statement.h"
+
+#include <algorithm>
+
+namespace lumtex {
+
+/// Hides the host's controls in rows that are out of view; rows count from 1. An object without Visible is
+/// passed over.
+void PaintPass::hideObjects(Long firstRow, Long lastRow) {
+    if (CellExtras::objectsInCells() == 0)
+        return;
+    for (state.scanColumn = firstRow; state.scanColumn <= lastRow; ++state.scanColumn) {
+        for (state.scanObjectColumn = 1; state.scanObjectColumn <= list.ColumnsCount();
+             ++state.scanObjectColumn) {
+            ignoringErrors([&] {
+                const auto cell = list.cellAt(state.scanColumn, state.scanObjectColumn);
+                const CellExtras* extras = cell.items.extras(cell.index);
+                if (extras == nullptr || !extras->object())
+                    return;
+                const ObjectRef object = extras->object();
+                object->put(u"Visible", false);
+            });
+        }
+    }
+}
+
+void PaintPass::beginRows() {
+    state.scanIndex = list.VS->Value();
+    state.scanColumn = state.firstColumn + 1;
+    rowY = properties.HideColumnHeaders ? 0 : static_cast<Single>(list.ColumnHeight());
+    penX = state.firstColumnX;
+    rowBandHeight = 0;
+}
+
+void PaintPass::rowPass() {
+    statement([&] { beginRows(); });
+    do {
+        checkpoint();
+        items = Items{};
+        statement([&] { items = list.rowAt(Variant(state.scanIndex + 1)).items; });
+        rowCells();
+        finishRow();
+        checkpoint();
+    } while (state.scanIndex <= list.RowsCount() - 1 && rowY <= static_cast<Single>(surface.scaleHeight()));
+    if (state.scanIndex + 1 <= list.RowsCount())
+        hideObjects(state.scanIndex + 1, list.RowsCount());
+}
+
+/// All columns from the first visible one on: nothing stops at the surface's right edge.
+void PaintPass::rowCells() {
+    // A host called in here may have taken columns away, hence no test for the exact end.
+    while (state.scanColumn <= list.ColumnsCount()) {
+        checkpoint();
+        statement([&] { columnWidthPx = list.columnWidthInPixels(state.scanColumn - 1); });
+        if (penX + columnWidthPx >= 0 && columnWidthPx != 0)
+            listCell();
+        // Wanted: the height of the cell counts, where its font is taller than the band so far.
+        statement([&] {
+            if (surface.textHeight(u"A") > rowBandHeight)
+                rowBandHeight = static_cast<Single>(cellHeight);
+        });
+        if (properties.GridLines) {
+            const Single x = penX + columnWidthPx - 1;
+            statement([&] { surface.line(x, rowY, x, rowY + rowBandHeight, properties.GridLineColor); });
+        }
+        penX += columnWidthPx;
+        ++state.scanColumn;
+        checkpoint();
+    }
+}
+
+void PaintPass::finishRow() {
+    const auto surfaceWidth = static_cast<Single>(surface.scaleWidth());
+    if (properties.AllowItemMoving && list.move_.moveTargetRow == state.scanIndex)
+        statement([&] { surface.box(0, rowY, surfaceWidth, rowY + 1, black); });
+    penX = state.firstColumnX;
+    state.scanColumn = state.firstColumn + 1;
+    if (lastIconHeight == 0) {
+        // Wanted: until the first icon of a pass, every row has the height of the default font, however tall
+        // the fonts of its cells are.
+        statement([&] {
+            if (properties.DefaultItemFont)
+                surface.setFont(properties.DefaultItemFont->spec);
+        });
+        statement([&] {
+            rowBandHeight = properties.RowsDynamic ? surface.textHeight(u"A")
+                                                   : scaleY(surface, properties.RowHeight, twips, pixels);
+        });
+    }
+    if (properties.GridLines) {
+        const auto border = static_cast<Single>(borderWidth);
+        const Single y = rowY + rowBandHeight;
+        statement([&] { surface.line(border, y, surfaceWidth - border, y, properties.GridLineColor); });
+    }
+    if (state.scanIndex >= 0 && static_cast<std::size_t>(state.scanIndex) < list.rows_.size()) {
+        RowRecord& row = list.rows_[static_cast<std::size_t>(state.scanIndex)];
+        row.Height = rowBandHeight;
+        row.Top = rowY;
+    }
+    rowY += rowBandHeight;
+    rowBandHeight = 0;
+    ++state.scanIndex;
+}
+
+} // namespace lumtex

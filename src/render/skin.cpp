@@ -1,0 +1,43 @@
+/// Cutting the pieces of the hover bar from a strip.
+#include "model/list_view.h"
+
+namespace lumtex {
+
+namespace {
+
+struct Piece {
+    Long sourceX; // pixels
+    Long width;
+};
+
+/// In the order of `imgCol`: left cap, two stamps, right cap.
+constexpr std::array<Piece, 4> pieces{{{0, 6}, {6, 1}, {7, 1}, {8, 8}}};
+constexpr Long stripHeight = 3;
+constexpr OLE_COLOR boardColor = white;
+
+} // namespace
+
+void lmListView::SplitSkin() {
+    Procedure p = procedure(u"SplitSkin");
+    const PictureRef source = properties_.Skin ? properties_.Skin : artwork_.imgDefault;
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        p.step([&] {
+            const auto width = static_cast<Single>(pieces[i].width);
+            const std::unique_ptr<Surface> pSkin = world_.createSurface(pieces[i].width, stripHeight);
+            // What the strip does not cover stays the board's background.
+            pSkin->letBackColor(boardColor);
+            pSkin->paintPicture(*source,
+                                0,
+                                0,
+                                width,
+                                stripHeight,
+                                static_cast<Single>(pieces[i].sourceX),
+                                0,
+                                width,
+                                stripHeight);
+            artwork_.imgCol[i] = std::make_shared<BitmapPicture>(pSkin->image());
+        });
+    }
+}
+
+} // namespace lumtex
