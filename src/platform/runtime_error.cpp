@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
 namespace lumtex {
 
@@ -52,21 +54,48 @@ constexpr auto descriptions = std::to_array<Description>({
     {481, u"Invalid picture"},
 });
 
-} // namespace
+constexpr StringView unknownNumber = u"Application-defined or object-defined error";
 
-String errorDescription(Long number) {
+using SharedTexts = std::shared_ptr<const RuntimeError::Texts>;
+
+SharedTexts makeTexts(String description) {
+    std::string utf8 = toUtf8(description);
+    return std::make_shared<const RuntimeError::Texts>(
+        RuntimeError::Texts{std::move(description), std::move(utf8)});
+}
+
+/// The texts of `descriptions` at the same positions, and last that of all other numbers.
+std::vector<SharedTexts> makeKnownTexts() {
+    std::vector<SharedTexts> texts;
+    for (const Description& entry : descriptions)
+        texts.push_back(makeTexts(entry.text));
+    texts.push_back(makeTexts(String(unknownNumber)));
+    return texts;
+}
+
+const SharedTexts& textsOf(Long number) {
+    static const std::vector<SharedTexts> known = makeKnownTexts();
     const auto* const found = std::lower_bound(
         descriptions.begin(), descriptions.end(), number, [](const Description& entry, Long wanted) {
             return entry.number < wanted;
         });
     if (found != descriptions.end() && found->number == number)
-        return found->text;
-    return u"Application-defined or object-defined error";
+        return known[static_cast<std::size_t>(found - descriptions.begin())];
+    return known.back();
 }
 
-RuntimeError::RuntimeError(Long number) : RuntimeError(number, errorDescription(number)) {}
+// Made before anything can fail, since a shortage of memory is itself a failure with a text.
+[[maybe_unused]] const SharedTexts& madeAtStart = textsOf(outOfMemory);
+
+} // namespace
+
+const String& errorDescription(Long number) {
+    return textsOf(number)->description;
+}
+
+RuntimeError::RuntimeError(Long number) : number_(number), texts_(textsOf(number)) {}
 
 RuntimeError::RuntimeError(Long number, String description)
-    : std::runtime_error(toUtf8(description)), number_(number), description_(std::move(description)) {}
+    : number_(number), texts_(makeTexts(std::move(description))) {}
 
 } // namespace lumtex

@@ -4,8 +4,9 @@
 
 #include "platform/types.h"
 
-#include <stdexcept>
-#include <utility>
+#include <exception>
+#include <memory>
+#include <string>
 
 namespace lumtex {
 
@@ -29,20 +30,30 @@ enum ErrorNumber : Long {
 };
 
 /// The text that goes with a number; "Application-defined or object-defined error" for an unknown one.
-String errorDescription(Long number);
+const String& errorDescription(Long number);
 
 /// Thrown by a failing primitive; never leaves a public procedure.
-class RuntimeError : public std::runtime_error {
+///
+/// Shares its texts, so that neither copying one nor making one from a number asks for memory: a report that
+/// memory ran out must not fail for the same reason.
+class RuntimeError : public std::exception {
   public:
     explicit RuntimeError(Long number);
     RuntimeError(Long number, String description);
 
     Long number() const { return number_; }
-    const String& description() const { return description_; }
+    const String& description() const { return texts_->description; }
+    /// The description as UTF-8.
+    const char* what() const noexcept override { return texts_->utf8.c_str(); }
+
+    struct Texts {
+        String description;
+        std::string utf8;
+    };
 
   private:
     Long number_;
-    String description_;
+    std::shared_ptr<const Texts> texts_;
 };
 
 } // namespace lumtex

@@ -1,6 +1,6 @@
 #include "services/bas_error.h"
 
-#include "services/ignoring_errors.h"
+#include "platform/text.h"
 
 #include <array>
 
@@ -9,6 +9,7 @@ namespace lumtex {
 namespace {
 
 constexpr StringView handlerProgramId = u"LumtexErrorHandler.ErrorHandler";
+constexpr StringView handlerMethod = u"RaiseError";
 constexpr StringView settingsKey = u"Software\\Lumtex";
 constexpr StringView logSetting = u"ErrorLog";
 constexpr StringView besideComponent = u"*app*";
@@ -17,102 +18,110 @@ constexpr StringView boxTitle = u"Error";
 constexpr StringView lineEnd = u"\r\n";
 constexpr std::size_t ruleLength = 30;
 
-struct SilentFlag {
-    bool silent = false;
-    bool initialised = false;
+constexpr std::array<StringView, 3> moduleKindTexts = {u"Benutzersteuerelement", u"Klassenmodul", u"Modul"};
+
+int runningReports = 0;
+
+class RunningReport {
+  public:
+    RunningReport() { ++runningReports; }
+    RunningReport(const RunningReport&) = delete;
+    RunningReport& operator=(const RunningReport&) = delete;
+    ~RunningReport() { --runningReports; }
 };
 
-// The one piece of state that all controls of a process share.
-SilentFlag silentFlag;
+/// Ignores even what no statement may throw: this is where a failure ends, and the outlets are not ours.
+template <class Body>
+bool attempt(Body&& body) noexcept {
+    try {
+        body();
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
 
-String trimmedOfBlanks(const String& text) {
+StringView withoutSpaces(StringView text) {
     const std::size_t first = text.find_first_not_of(u' ');
-    if (first == String::npos)
+    if (first == StringView::npos)
         return {};
     return text.substr(first, text.find_last_not_of(u' ') - first + 1);
 }
 
-void writeLogRecord(Runtime& runtime, const String& text) {
-    String folder = trimmedOfBlanks(runtime.setting(settingsKey, logSetting));
+String numberText(Long number) {
+    return Variant(number).toText();
+}
+
+/// Empty where no log is wanted.
+String logPath(const Runtime& runtime) {
+    const String setting = runtime.setting(settingsKey, logSetting);
+    const StringView folder = withoutSpaces(setting);
     if (folder.empty())
+        return {};
+    String path = folder == besideComponent ? runtime.component().folder : String(folder);
+    if (!path.ends_with(u'\\'))
+        path += u'\\';
+    return path.append(logFileName);
+}
+
+void writeLogRecord(Runtime& runtime, StringView text) {
+    const String path = logPath(runtime);
+    if (path.empty())
         return;
-    if (folder == besideComponent)
-        folder = runtime.component().folder;
-    if (folder.empty() || folder.back() != u'\\')
-        folder += u'\\';
     const Date now = runtime.now();
     String record = runtime.dateText(now) + u" " + runtime.timeText(now);
     record.append(lineEnd).append(text).append(lineEnd).append(ruleLength, u'-').append(lineEnd);
-    runtime.appendToFile(folder.append(logFileName), record);
+    runtime.appendToFile(path, record);
 }
 
 void callHandler(Runtime& runtime, Object& handler, const ErrorReport& report) {
-    // The last six go by reference; what a handler makes of them is not read back.
-    std::array<Variant, 8> arguments{runtime.currentExePath(),
-                                     runtime.applicationObject(),
-                                     report.number,
-                                     report.description,
-                                     report.procedure,
-                                     report.line,
-                                     String(moduleKindText(report.moduleKind)),
-                                     report.moduleName};
-    handler.call(u"RaiseError", arguments);
+    // The last six go by reference, but what a handler makes of them is not read back.
+    std::array<Variant, 8> arguments = {runtime.currentExePath(),
+                                        runtime.applicationObject(),
+                                        report.number,
+                                        report.description,
+                                        report.procedure,
+                                        report.line,
+                                        moduleKindText(report.moduleKind),
+                                        report.moduleName};
+    handler.call(handlerMethod, arguments);
 }
 
 } // namespace
 
 StringView moduleKindText(ModuleKind kind) {
-    switch (kind) {
-    case ModuleKind::control:
-        return u"Benutzersteuerelement";
-    case ModuleKind::classModule:
-        return u"Klassenmodul";
-    case ModuleKind::module:
-        break;
-    }
-    return u"Modul";
+    return moduleKindTexts[static_cast<std::size_t>(kind)];
 }
 
 String reportText(const ErrorReport& report, const ComponentInfo& component) {
-    String text = u"Error no.: ";
-    text.append(textFromNumber(static_cast<Double>(report.number))).append(lineEnd);
+    String text;
+    text.append(u"Error no.: ").append(numberText(report.number)).append(lineEnd);
     text.append(u"Error description: ").append(report.description).append(lineEnd);
     text.append(u"Project: ").append(component.exeName).append(lineEnd);
-    text.append(u"Module: ").append(moduleKindText(report.moduleKind)).append(u" ");
-    text.append(report.moduleName).append(lineEnd);
-    text.append(u"Line/Procedure: ").append(textFromNumber(static_cast<Double>(report.line)));
+    text.append(u"Module: ").append(moduleKindText(report.moduleKind));
+    text.append(u" ").append(report.moduleName).append(lineEnd);
+    text.append(u"Line/Procedure: ").append(numberText(report.line));
     text.append(u"/").append(report.procedure).append(lineEnd);
-    text.append(u"Version: ").append(textFromNumber(static_cast<Double>(component.major)));
-    text.append(u".").append(textFromNumber(static_cast<Double>(component.minor)));
-    text.append(u".").append(textFromNumber(static_cast<Double>(component.revision)));
+    text.append(u"Version: ").append(numberText(component.major));
+    text.append(u".").append(numberText(component.minor));
+    text.append(u".").append(numberText(component.revision));
     return text;
 }
 
 void reportError(Runtime& runtime, const ErrorReport& report) noexcept {
+    const bool tooDeep = runningReports >= mostNestedReports;
+    const RunningReport running;
     ObjectRef handler;
-    ignoringErrors([&] { handler = runtime.createObject(handlerProgramId); });
+    if (!tooDeep)
+        attempt([&] { handler = runtime.createObject(handlerProgramId); });
     String text;
-    ignoringErrors([&] { text = reportText(report, runtime.component()); });
-    ignoringErrors([&] { writeLogRecord(runtime, text); });
-    if (handler && ignoringErrors([&] { callHandler(runtime, *handler, report); }))
+    attempt([&] { text = reportText(report, runtime.component()); });
+    attempt([&] { writeLogRecord(runtime, text); });
+    if (tooDeep)
         return;
-    ignoringErrors([&] { runtime.messageBox(text, boxCritical, boxTitle); });
-}
-
-bool silentError() {
-    return silentFlag.silent;
-}
-
-Error::Error() {
-    if (!silentFlag.initialised)
-        silentFlag = {.silent = false, .initialised = true};
-}
-
-bool Error::SilentError() const {
-    return silentFlag.silent;
-}
-void Error::letSilentError(bool silent) {
-    silentFlag.silent = silent;
+    if (handler && attempt([&] { callHandler(runtime, *handler, report); }))
+        return;
+    attempt([&] { runtime.messageBox(text, boxCritical, boxTitle); });
 }
 
 } // namespace lumtex

@@ -1,44 +1,39 @@
 /// \file
-/// The report of a failed statement, its outlets, and the switch that silences it.
+/// The report of a failed statement, and its three outlets.
 #pragma once
 
 #include "platform/runtime.h"
-#include "platform/runtime_error.h"
 
 namespace lumtex {
 
-/// Where the failing procedure lies; reports carry the word that `moduleKindText` gives.
+/// Where a failing procedure lies.
 enum class ModuleKind : Byte { control, classModule, module };
 
+/// The word for it in reports.
 StringView moduleKindText(ModuleKind kind);
 
+/// The views need to live only as long as the call they are handed to.
 struct ErrorReport {
     Long number = 0;
-    String description;
-    String procedure;
+    StringView description;
+    StringView procedure;
     Long line = 0; ///< 0 for a procedure without line numbers, as all of this system are
     ModuleKind moduleKind = ModuleKind::module;
-    String moduleName;
+    StringView moduleName;
 };
 
 /// The report's six lines, separated by CR LF, without a line end after the last.
 String reportText(const ErrorReport& report, const ComponentInfo& component);
 
-/// Hands a report to its outlets: the log file where the settings name a folder, then the external handler;
-/// and the message box where there is no handler, or its call failed. Nothing escapes. Looks neither at the
-/// silent flag nor at what an earlier report found.
+/// Hands a report to its outlets: to the log file where the settings name a folder, then to the external
+/// handler; and to the message box where there is no handler, or its call failed. Looks at settings and
+/// handler anew each time, and not at the silent flag. Nothing escapes.
+///
+/// The host's code runs in the handler and during the box, and may fail again: then a second report comes on
+/// top of the first. On top of `mostNestedReports` there is only the log, or a handler that itself fails
+/// would never come to an end.
 void reportError(Runtime& runtime, const ErrorReport& report) noexcept;
 
-/// The switch of the whole process: while it is set, nothing is reported.
-bool silentError();
-
-/// The public class by which hosts reach the switch. The first one of a process starts it at False.
-class Error {
-  public:
-    Error();
-
-    bool SilentError() const;
-    void letSilentError(bool silent);
-};
+constexpr int mostNestedReports = 8;
 
 } // namespace lumtex

@@ -4,24 +4,24 @@
 
 #include "platform/runtime_error.h"
 
-#include <new>
+#include <exception>
 #include <optional>
-#include <stdexcept>
 
 namespace lumtex {
 
-/// Runs `body`; its failure, or none. Memory that ran out counts as error 7.
+/// The run-time error that a caught exception stands for: itself, or 7 where memory ran out or a text grew
+/// past its largest length. Anything else is no failure of a statement but a fault of the program, and goes
+/// on its way: call this only while handling `caught`.
+RuntimeError failureFrom(const std::exception& caught);
+
+/// Runs `body`; its failure, or none.
 template <class Body>
 std::optional<RuntimeError> failureOf(Body&& body) {
     try {
         body();
         return std::nullopt;
-    } catch (const RuntimeError& error) {
-        return error;
-    } catch (const std::bad_alloc&) {
-        return RuntimeError(outOfMemory);
-    } catch (const std::length_error&) {
-        return RuntimeError(outOfMemory);
+    } catch (const std::exception& caught) {
+        return failureFrom(caught);
     }
 }
 

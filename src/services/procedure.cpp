@@ -1,21 +1,23 @@
 #include "services/procedure.h"
 
-#include "services/ignoring_errors.h"
+#include "services/error.h"
 
 namespace lumtex {
 
 void Procedure::report(const RuntimeError& error) noexcept {
     if (silentError())
         return;
-    ignoringErrors([&] {
-        reportError(runtime_,
-                    {.number = error.number(),
-                     .description = error.description(),
-                     .procedure = String(name_),
-                     .line = 0,
-                     .moduleKind = moduleKind_,
-                     .moduleName = String(moduleName_)});
-    });
+    reportError(runtime_,
+                {.number = error.number(),
+                 .description = error.description(),
+                 .procedure = name_,
+                 .line = 0,
+                 .moduleKind = moduleKind_,
+                 .moduleName = moduleName_});
+}
+
+void Procedure::reportCaught(const std::exception& caught) {
+    report(failureFrom(caught));
 }
 
 } // namespace lumtex

@@ -353,9 +353,9 @@ TEST(VariantToObject, GivesAnObjectOrFails) {
         {Variant(Missing{}), typeMismatch},
         {Variant(Null{}), invalidUseOfNull},
     };
-    for (const auto& [value, number] : rows) {
-        SCOPED_TRACE(value.storage().index());
-        EXPECT_EQ(errorNumberOf([&] { value.toObject(); }), number);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.first.storage().index());
+        EXPECT_EQ(errorNumberOf([&] { row.first.toObject(); }), row.second);
     }
 }
 

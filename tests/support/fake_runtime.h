@@ -1,0 +1,102 @@
+/// \file
+/// A Runtime that remembers what it was asked for and fails where a test says so.
+#pragma once
+
+#include "platform/runtime.h"
+#include "platform/runtime_error.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <map>
+#include <set>
+#include <vector>
+
+namespace lumtex {
+
+/// Everything a test sets or reads is a plain member. Nothing of the system around is touched: the clock
+/// stands still, files are texts in a map.
+class FakeRuntime final : public Runtime {
+  public:
+    struct Box {
+        String text;
+        Long style;
+        String title;
+    };
+
+    /// What was asked for, in order, one line for each outlet of a report.
+    std::vector<String> journal;
+    std::vector<Box> boxes;
+    /// Runs while a box is open, as events of the host would.
+    std::function<void()> onMessageBox = [] {};
+    std::function<void()> onDoEvents = [] {};
+    /// Runs before a file is written; throws where writing shall fail.
+    std::function<void()> onAppend = [] {};
+
+    /// By key, "\" and name.
+    std::map<String, String> settings;
+    /// Folders that exist, without a closing "\".
+    std::set<String> folders;
+    std::map<String, String> files;
+    /// By program identifier; what is not in here cannot be created.
+    std::map<String, std::function<ObjectRef()>> factories;
+
+    ComponentInfo info{u"LumtexListView", u"C:\\Components", 1, 2, 34};
+    String exePath = u"C:\\Programs\\Host.exe";
+    ObjectRef application;
+    Date clock{45351.5};
+
+    void DoEvents() override { run(onDoEvents); }
+
+    void messageBox(StringView text, Long style, StringView title) override {
+        journal.push_back(u"box");
+        boxes.push_back({String(text), style, String(title)});
+        run(onMessageBox);
+    }
+
+    const ComponentInfo& component() const override { return info; }
+    String currentExePath() const override { return exePath; }
+
+    String setting(StringView key, StringView name) const override {
+        const auto found = settings.find(String(key) + u"\\" + String(name));
+        return found == settings.end() ? String() : found->second;
+    }
+
+    Date now() const override { return clock; }
+    String dateText(Date date) const override { return textFromDate(Date{std::trunc(date.days)}); }
+    String timeText(Date date) const override {
+        return textFromDate(Date{std::fabs(date.days - std::trunc(date.days))});
+    }
+
+    std::optional<Double> numberFromText(StringView text) const override {
+        return lumtex::numberFromText(text);
+    }
+    std::optional<Date> dateFromText(StringView text) const override { return lumtex::dateFromText(text); }
+
+    void appendToFile(StringView path, StringView text) override {
+        journal.push_back(u"append " + String(path));
+        run(onAppend);
+        const std::size_t folderEnd = path.find_last_of(u'\\');
+        if (folderEnd == StringView::npos || !folders.contains(String(path.substr(0, folderEnd))))
+            throw RuntimeError(pathNotFound);
+        files[String(path)] += text;
+    }
+
+    ObjectRef createObject(StringView programId) override {
+        journal.push_back(u"create " + String(programId));
+        const auto found = factories.find(String(programId));
+        if (found == factories.end())
+            throw RuntimeError(429);
+        return found->second();
+    }
+    ObjectRef applicationObject() override { return application; }
+
+    Long twipsPerPixelX() const override { return 15; }
+    Long twipsPerPixelY() const override { return 15; }
+
+  private:
+    /// A copy, since what runs may put something else in its place.
+    static void run(std::function<void()> hostCode) { hostCode(); }
+};
+
+} // namespace lumtex
