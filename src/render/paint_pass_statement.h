@@ -3,7 +3,7 @@
 #pragma once
 
 #include "render/paint_pass.h"
-#include "services/bas_error.h"
+#include "services/error.h"
 
 namespace lumtex {
 
