@@ -84,6 +84,11 @@ class lmListView final : public UserControl, private TextBoxClient {
     /// Clears the surface; the content stays and comes back with the next paint.
     void ClearListView();
 
+    // Editing
+
+    /// Closes the in-place editor and drops what was typed.
+    void StopEdit();
+
     // Scrolling
 
     void CheckScroll();
