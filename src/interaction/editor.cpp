@@ -31,6 +31,8 @@ void lmListView::textBoxKeyPress(Integer& KeyAscii) {
 }
 
 // Wanted: a loss of focus throws the typing away.
-void lmListView::textBoxLostFocus() { StopEdit(); }
+void lmListView::textBoxLostFocus() {
+    StopEdit();
+}
 
 } // namespace lumtex

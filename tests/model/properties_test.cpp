@@ -33,7 +33,10 @@ Variant number(T value) {
 
 /// In the order in which they are assigned. `AllowItemMoving` has no public accessor.
 const std::vector<StartValue>& startValues() {
-#define PLAIN(name, value) {u## #name, [](lmListView& list) { return number(list.name()); }, number(value)}
+#define PLAIN(name, value)                                                                                   \
+    {                                                                                                        \
+        u## #name, [](lmListView& list) { return number(list.name()); }, number(value)                       \
+    }
     static const std::vector<StartValue> values = {
         {u"DefaultItemFont", [](lmListView& list) { return list.DefaultItemFont()->spec.Name; }, u"Verdana"},
         PLAIN(DefaultItemForeColor, OLE_COLOR{0}),
@@ -168,8 +171,11 @@ struct NameRule {
 };
 
 TEST(NewInstance, OneProgramIsKnownByItsName) {
-    for (const NameRule& rule :
-         {NameRule{u"qrdmph", 4, 3}, {u"QRDmph", 4, 3}, {u"qrdmph1", 1, 0}, {u"", 1, 0}, {u"LumtexListView", 1, 0}}) {
+    for (const NameRule& rule : {NameRule{u"qrdmph", 4, 3},
+                                 {u"QRDmph", 4, 3},
+                                 {u"qrdmph1", 1, 0},
+                                 {u"", 1, 0},
+                                 {u"LumtexListView", 1, 0}}) {
         Fresh fresh;
         fresh.desktop.runtime().componentInfo.exeName = rule.exeName;
         fresh.list.UserControl_InitProperties();
@@ -186,34 +192,79 @@ struct Change {
     std::function<void(lmListView&)> assign;
 };
 
-#define FLIP(name) {Property::name, [](lmListView& list) { list.let##name(!list.name()); }}
+#define FLIP(name)                                                                                           \
+    {                                                                                                        \
+        Property::name, [](lmListView& list) { list.let##name(!list.name()); }                               \
+    }
 #define RAISE(name)                                                                                          \
-    {Property::name, [](lmListView& list) {                                                                  \
-         using Type = decltype(list.name());                                                                 \
-         list.let##name(static_cast<Type>(list.name() + 1));                                                 \
-     }}
+    {                                                                                                        \
+        Property::name, [](lmListView& list) {                                                               \
+            using Type = decltype(list.name());                                                              \
+            list.let##name(static_cast<Type>(list.name() + 1));                                              \
+        }                                                                                                    \
+    }
 
 const std::vector<Change>& plainChanges() {
     static const std::vector<Change> changes = {
-        RAISE(ColumnTextY), FLIP(HideColumnHeaders), RAISE(DefaultItemForeColor), RAISE(DefaultColumnForeColor),
-        RAISE(Style), FLIP(FullRowSelect), FLIP(HideSelection), FLIP(AutoRowColor), RAISE(RowColorFirst),
-        RAISE(RowColorSecond), RAISE(ValueColor), FLIP(IconSelect), FLIP(BorderVisible), RAISE(IndentTop),
-        RAISE(IndentLeft), RAISE(IndentRight), RAISE(IndentBottom), RAISE(DistPicText),
-        RAISE(EmptyColumnFieldWidth), RAISE(EmptyColumnFieldColor), RAISE(IconW), RAISE(IconH),
-        RAISE(ColumnIconW), RAISE(ColumnIconH), FLIP(GridLines), RAISE(GridLineColor), RAISE(ColumnBackColor),
-        RAISE(ColumnHoverColor), RAISE(ColumnDownColor), RAISE(RowHeight), FLIP(DefaultIconSelectedIsIcon),
-        FLIP(MoveColumnTextAtDown), FLIP(ClickOnIndexChange), FLIP(AllowEdit),
-        {Property::AllowItemMoving, [](lmListView& list) { ListViewInspector(list).letAllowItemMoving(true); }},
-        FLIP(CheckMouseOver), FLIP(FixColumns), RAISE(OLEDragMode), FLIP(MultiSelect), RAISE(WheelFunction),
-        RAISE(WheelScrollLines), RAISE(BackColor), RAISE(BackColorDisabled), RAISE(BorderColor),
-        FLIP(DrawItemIcons), FLIP(DrawColumnIcons),
+        RAISE(ColumnTextY),
+        FLIP(HideColumnHeaders),
+        RAISE(DefaultItemForeColor),
+        RAISE(DefaultColumnForeColor),
+        RAISE(Style),
+        FLIP(FullRowSelect),
+        FLIP(HideSelection),
+        FLIP(AutoRowColor),
+        RAISE(RowColorFirst),
+        RAISE(RowColorSecond),
+        RAISE(ValueColor),
+        FLIP(IconSelect),
+        FLIP(BorderVisible),
+        RAISE(IndentTop),
+        RAISE(IndentLeft),
+        RAISE(IndentRight),
+        RAISE(IndentBottom),
+        RAISE(DistPicText),
+        RAISE(EmptyColumnFieldWidth),
+        RAISE(EmptyColumnFieldColor),
+        RAISE(IconW),
+        RAISE(IconH),
+        RAISE(ColumnIconW),
+        RAISE(ColumnIconH),
+        FLIP(GridLines),
+        RAISE(GridLineColor),
+        RAISE(ColumnBackColor),
+        RAISE(ColumnHoverColor),
+        RAISE(ColumnDownColor),
+        RAISE(RowHeight),
+        FLIP(DefaultIconSelectedIsIcon),
+        FLIP(MoveColumnTextAtDown),
+        FLIP(ClickOnIndexChange),
+        FLIP(AllowEdit),
+        {Property::AllowItemMoving,
+         [](lmListView& list) { ListViewInspector(list).letAllowItemMoving(true); }},
+        FLIP(CheckMouseOver),
+        FLIP(FixColumns),
+        RAISE(OLEDragMode),
+        FLIP(MultiSelect),
+        RAISE(WheelFunction),
+        RAISE(WheelScrollLines),
+        RAISE(BackColor),
+        RAISE(BackColorDisabled),
+        RAISE(BorderColor),
+        FLIP(DrawItemIcons),
+        FLIP(DrawColumnIcons),
         {Property::BackgroundPicture,
-         [](lmListView& list) {
-             list.setBackgroundPicture(std::make_shared<BitmapPicture>(Bitmap(2, 2)));
-         }},
-        RAISE(ScrollBackColor), RAISE(ScrollArrows), RAISE(ScrollButtons), RAISE(ScrollBar),
-        RAISE(ScrollArrowsDown), RAISE(ScrollButtonsDown), RAISE(ScrollBarDown), RAISE(ScrollArrowsHover),
-        RAISE(ScrollButtonsHover), RAISE(ScrollBarHover),
+         [](lmListView& list) { list.setBackgroundPicture(std::make_shared<BitmapPicture>(Bitmap(2, 2))); }},
+        RAISE(ScrollBackColor),
+        RAISE(ScrollArrows),
+        RAISE(ScrollButtons),
+        RAISE(ScrollBar),
+        RAISE(ScrollArrowsDown),
+        RAISE(ScrollButtonsDown),
+        RAISE(ScrollBarDown),
+        RAISE(ScrollArrowsHover),
+        RAISE(ScrollButtonsHover),
+        RAISE(ScrollBarHover),
     };
     return changes;
 }
@@ -400,11 +451,16 @@ TEST(ScrollColors, AreWrittenInOrderWithTheirDefaults) {
         OLE_COLOR value;
     };
     constexpr Expected expected[] = {
-        {u"ScrollBackColor", 0xFFFFFF},       {u"ScrollArrows", 0},
-        {u"ScrollButtons", 0x8000000F},       {u"ScrollBar", 0x8000000F},
-        {u"ScrollArrowsDown", 0},             {u"ScrollButtonsDown", 0x8000000F},
-        {u"ScrollBarDown", 0x8000000F},       {u"ScrollArrowsHover", 0},
-        {u"ScrollButtonsHover", 0x8000000F},  {u"ScrollBarHover", 0x8000000F},
+        {u"ScrollBackColor", 0xFFFFFF},
+        {u"ScrollArrows", 0},
+        {u"ScrollButtons", 0x8000000F},
+        {u"ScrollBar", 0x8000000F},
+        {u"ScrollArrowsDown", 0},
+        {u"ScrollButtonsDown", 0x8000000F},
+        {u"ScrollBarDown", 0x8000000F},
+        {u"ScrollArrowsHover", 0},
+        {u"ScrollButtonsHover", 0x8000000F},
+        {u"ScrollBarHover", 0x8000000F},
     };
     ASSERT_EQ(scrollColors.size(), std::size(expected));
     for (std::size_t i = 0; i < scrollColors.size(); ++i) {

@@ -12,8 +12,8 @@
 
 namespace lumtex::testing {
 
-/// `ItemDown Row=2 Column=1`, indented by the depth of yields. A host handler set by `on` runs after its line was
-/// written.
+/// `ItemDown Row=2 Column=1`, indented by the depth of yields. A host handler set by `on` runs after its line
+/// was written.
 class RecordingEvents final : public lmListViewEvents {
   public:
     using Arguments = std::vector<std::pair<const char*, Variant>>;

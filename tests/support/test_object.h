@@ -14,8 +14,8 @@
 
 namespace lumtex::testing {
 
-/// Knows the properties and methods that a test gives it, and notes what is done with them. Anything else fails
-/// with 438, as late binding does.
+/// Knows the properties and methods that a test gives it, and notes what is done with them. Anything else
+/// fails with 438, as late binding does.
 class TestObject final : public Object {
   public:
     std::map<String, Variant> properties;

@@ -1,0 +1,86 @@
+#include "model/event_table.h"
+#include "platform/text.h"
+
+#include <gtest/gtest.h>
+
+namespace lumtex::testing {
+
+namespace {
+
+const char* nameOf(ArgumentType type) {
+    switch (type) {
+    case ArgumentType::boolean:
+        return "Boolean";
+    case ArgumentType::integer:
+        return "Integer";
+    case ArgumentType::long_:
+        return "Long";
+    case ArgumentType::single:
+        return "Single";
+    case ArgumentType::string:
+        return "String";
+    case ArgumentType::variant:
+        return "Variant";
+    case ArgumentType::object:
+        break;
+    }
+    return "Data";
+}
+
+/// "Name(A: Long, B: Integer ref)"
+std::string signatureOf(const EventDescription& event) {
+    std::string text = toUtf8(event.name) + "(";
+    for (const EventArgument& argument : event.arguments()) {
+        if (text.back() != '(')
+            text += ", ";
+        text += toUtf8(argument.name) + ": " + nameOf(argument.type) + (argument.byReference ? " ref" : "");
+    }
+    return text + ")";
+}
+
+constexpr const char* mouse = "(Button: Integer ref, Shift: Integer ref, X: Single ref, Y: Single ref)";
+constexpr const char* cell = "(Row: Long, Column: Long)";
+
+} // namespace
+
+TEST(Events, AreTwentySevenInTheirOrderWithTheirArguments) {
+    const std::vector<std::string> expected = {
+        "Click()",
+        "DblClick()",
+        "ItemCheck(Row: Long, Column: Long, NewValue: Boolean, Cancel: Boolean ref)",
+        "ItemChecked(Row: Long, Column: Long, NewValue: Boolean)",
+        std::string("MouseUp") + mouse,
+        std::string("MouseMove") + mouse,
+        std::string("MouseDown") + mouse,
+        "ColumnClick(Column: Long ref)",
+        "Scroll()",
+        "KeyDown(KeyCode: Integer ref, Shift: Integer ref)",
+        "KeyPress(KeyAscii: Integer ref)",
+        "KeyUp(KeyCode: Integer ref, Shift: Integer ref)",
+        "OLECompleteDrag(Effect: Long ref)",
+        "OLEDragDrop(Data: Data ref, Effect: Long ref, Button: Integer ref, Shift: Integer ref, X: Single "
+        "ref, "
+        "Y: Single ref)",
+        "OLEDragOver(Data: Data ref, Effect: Long ref, Button: Integer ref, Shift: Integer ref, X: Single "
+        "ref, "
+        "Y: Single ref, State: Integer ref)",
+        "OLEGiveFeedback(Effect: Long ref, DefaultCursors: Boolean ref)",
+        "OLESetData(Data: Data ref, DataFormat: Integer ref)",
+        "OLEStartDrag(Data: Data ref, AllowedEffects: Long ref)",
+        "ErrorWrongIndex(Index: Variant ref)",
+        "SortDone()",
+        "ListViewError(eSub: String, eNumber: Long, eDescription: String)",
+        std::string("ItemClick") + cell,
+        std::string("ItemDblClick") + cell,
+        std::string("ItemDown") + cell,
+        std::string("ItemUp") + cell,
+        "ItemChanged(Row: Long, Column: Long, NewValue: String)",
+        "ItemOver(Row: Long, Column: Long, bOverItem: Boolean)",
+    };
+    std::vector<std::string> actual;
+    for (const EventDescription& event : eventTable)
+        actual.push_back(signatureOf(event));
+    EXPECT_EQ(actual, expected);
+}
+
+} // namespace lumtex::testing
