@@ -1,0 +1,324 @@
+#include "painted_list.h"
+#include "render/clone_font.h"
+#include "render/draw_arrow.h"
+#include "render/gradient.h"
+#include "render/picture_size.h"
+
+namespace lumtex::testing {
+
+namespace {
+
+std::uint32_t at(RasterSurface& surface, Long x, Long y) {
+    return surface.pixels()[static_cast<std::size_t>(y * surface.scaleWidth() + x)] & 0xFFFFFFU;
+}
+
+} // namespace
+
+TEST(Gradient, RunsFromLeftToRight) {
+    RasterSurface surface(4, 2, testFonts());
+    const Rect rect{0, 0, 4, 2};
+    DrawGradient(surface, &rect, 0x000000, 0x0000C8, leftToRight);
+    for (Long y = 0; y < 2; ++y) {
+        EXPECT_EQ(at(surface, 0, y), 0x000000U);
+        EXPECT_EQ(at(surface, 1, y), 0x320000U);
+        EXPECT_EQ(at(surface, 2, y), 0x640000U);
+        EXPECT_EQ(at(surface, 3, y), 0x960000U);
+    }
+}
+
+TEST(Gradient, RunsFromBottomToTopAndMovesOnAtEveryPixelOfItsStrip) {
+    RasterSurface surface(4, 2, testFonts());
+    const Rect rect{0, 0, 4, 2};
+    DrawGradient(surface, &rect, 0x000000, 0x000050, bottomToTop);
+    const std::uint32_t lower[] = {0x000000, 0x0A0000, 0x140000, 0x1E0000};
+    const std::uint32_t upper[] = {0x280000, 0x320000, 0x3C0000, 0x460000};
+    for (Long x = 0; x < 4; ++x) {
+        EXPECT_EQ(at(surface, x, 1), lower[x]);
+        EXPECT_EQ(at(surface, x, 0), upper[x]);
+    }
+}
+
+TEST(Gradient, ChannelsAreRoundedHalfToEven) {
+    RasterSurface surface(2, 1, testFonts());
+    const Rect rect{0, 0, 2, 1};
+    DrawGradient(surface, &rect, 0x000000, 0x000001, leftToRight);
+    EXPECT_EQ(at(surface, 1, 0), 0x000000U) << "0.5 rounds to 0";
+    DrawGradient(surface, &rect, 0x000001, 0x000002, leftToRight);
+    EXPECT_EQ(at(surface, 1, 0), 0x020000U) << "1.5 rounds to 2";
+}
+
+TEST(Gradient, WhatCannotBePaintedPaintsNothing) {
+    RasterSurface inner(4, 4, testFonts());
+    RecordingSurface surface(inner);
+    const Rect noWidth{2, 0, 2, 4};
+    const Rect noHeight{0, 2, 4, 2};
+    const Rect turned{4, 4, 0, 0};
+    const Rect all{0, 0, 4, 4};
+    const Rect huge{-0x7FFFFFFF, 0, 0x7FFFFFFF, 1};
+    DrawGradient(surface, nullptr, 0, 0xFF, leftToRight);
+    DrawGradient(surface, &noWidth, 0, 0xFF, leftToRight);
+    DrawGradient(surface, &noHeight, 0, 0xFF, bottomToTop);
+    DrawGradient(surface, &turned, 0, 0xFF, leftToRight);
+    DrawGradient(surface, &turned, 0, 0xFF, bottomToTop);
+    DrawGradient(surface, &all, 0, 0xFF, 2);
+    DrawGradient(surface, &huge, 0, 0xFF, leftToRight);
+    EXPECT_TRUE(surface.log.empty());
+    DrawGradient(surface, &noHeight, 0, 0xFF, leftToRight);
+    EXPECT_EQ(surface.log, Lines{"Stretch 0,2 4x0 from 4x1"})
+        << "no division by the height; it paints nothing";
+    EXPECT_EQ(at(inner, 0, 2), 0xFFFFFFU);
+}
+
+TEST(SortArrow, PointsDownForZeroUpForOneAndNowhereElse) {
+    RasterSurface inner(20, 20, testFonts());
+    RecordingSurface surface(inner);
+    DrawArrow(surface, 0, 2, 3);
+    DrawArrow(surface, 1, 2, 3);
+    DrawArrow(surface, 2, 2, 3);
+    DrawArrow(surface, 0, 2.5F, 7.5F);
+    EXPECT_EQ(
+        surface.lines("Polygon"),
+        (Lines{
+            "Polygon 2,3 10,3 6,7", "Polygon 2,8 10,8 6,3", "Polygon 0,0 0,0 0,0", "Polygon 2,8 10,8 6,12"}));
+}
+
+TEST(CloneFontTest, GivesNoneForNoneElseAFontOfItsOwn) {
+    EXPECT_EQ(CloneFont(nullptr), nullptr);
+    const auto font = std::make_shared<Font>(FontSpec{.Name = u"a", .Size = 3, .Underline = true});
+    const FontRef clone = CloneFont(font);
+    EXPECT_NE(clone, font);
+    EXPECT_EQ(clone->spec, font->spec);
+}
+
+TEST(PictureSize, ComesBackFromHimetricUnits) {
+    const RasterSurface surface(1, 1, testFonts());
+    for (const Long size : {0, 1, 3, 13, 16, 17, 32, 1000}) {
+        const BitmapPicture picture(Bitmap(size, size));
+        EXPECT_EQ(GetPictureWidth(surface, picture), size);
+        EXPECT_EQ(GetPictureHeight(surface, picture), size);
+    }
+    EXPECT_EQ(BitmapPicture(Bitmap(13, 13)).Width(), 344);
+}
+
+TEST(Artwork, HasItsSizes) {
+    const ListViewArtwork& artwork = ListViewArtwork::standard();
+    for (const std::size_t i : {1, 2}) {
+        EXPECT_EQ(artwork.img[i]->bitmap().width, 13);
+        EXPECT_EQ(artwork.img[i]->bitmap().height, 13);
+        EXPECT_EQ(artwork.imgd[i]->bitmap().width, 13);
+        EXPECT_EQ(artwork.imgd[i]->bitmap().height, 13);
+    }
+    const Long widths[] = {6, 1, 1, 8};
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(artwork.imgCol[i]->bitmap().width, widths[i]);
+        EXPECT_EQ(artwork.imgCol[i]->bitmap().height, 3);
+    }
+    EXPECT_EQ(artwork.imgDefault->bitmap().width, 16);
+    EXPECT_EQ(artwork.imgDefault->bitmap().height, 3);
+    EXPECT_EQ(artwork.imgResize->bitmap().width, 32);
+    EXPECT_EQ(artwork.imgResize->bitmap().height, 32);
+}
+
+namespace {
+
+/// Pixels as rows of six hexadecimal digits each.
+std::vector<std::string> rowsOf(const PictureRef& picture) {
+    constexpr const char* digits = "0123456789ABCDEF";
+    std::vector<std::string> rows;
+    const Bitmap& bitmap = picture->bitmap();
+    for (Long y = 0; y < bitmap.height; ++y) {
+        std::string row;
+        for (Long x = 0; x < bitmap.width; ++x) {
+            for (int shift = 20; shift >= 0; shift -= 4)
+                row += digits[(bitmap.at(x, y) >> static_cast<unsigned>(shift)) & 0xFU];
+            row += ' ';
+        }
+        row.pop_back();
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+/// Rows of letters, each replaced by its colour.
+std::vector<std::string> inked(const std::vector<std::string>& rows, const std::vector<std::string>& inks) {
+    std::vector<std::string> result;
+    for (const std::string& row : rows) {
+        std::string line;
+        for (const char letter : row)
+            line += inks[static_cast<std::size_t>(letter - '0')] + " ";
+        line.pop_back();
+        result.push_back(line);
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(Artwork, TheHoverBarsPiecesHaveTheirPixels) {
+    const auto& pieces = ListViewArtwork::standard().imgCol;
+    EXPECT_EQ(rowsOf(pieces[0]),
+              (Lines{"F9CC68 FAD587 FCDF9D FBCF70 FAC042 FCB825",
+                     "F2E0B5 FBBA2F FCE0A6 FAE4B2 FADC9C FCD685",
+                     "ECE9D8 EFE2C4 F5CC71 FBC553 FABC39 FBB521"}));
+    EXPECT_EQ(rowsOf(pieces[1]), (Lines{"FAAD08", "F9C654", "FAB117"}));
+    EXPECT_EQ(rowsOf(pieces[2]), (Lines{"FAAB00", "FCC247", "FAB218"}));
+    EXPECT_EQ(rowsOf(pieces[3]),
+              (Lines{"FAAA00 F4A700 F2A400 F0A400 E89E00 E29A00 DE9600 E4C784",
+                     "F9BC3B F2B83A EDA710 E89F00 DF9700 DD9600 E5A010 ECE9D8",
+                     "F4AD14 ECA614 E39C05 DD9600 DA9D1A DFBE71 ECE9D8 ECE9D8"}));
+}
+
+TEST(Artwork, TheCheckBoxesHaveTheirPixels) {
+    const ListViewArtwork& artwork = ListViewArtwork::standard();
+    EXPECT_EQ(rowsOf(artwork.img[1]),
+              inked({"0000000000000",
+                     "0111112335560",
+                     "0111223456670",
+                     "0112234566670",
+                     "0123344667880",
+                     "0123456676880",
+                     "0334466688880",
+                     "0345667688990",
+                     "0356668888990",
+                     "0566787889990",
+                     "0566888899990",
+                     "0678788999990",
+                     "0000000000000"},
+                    {"185284",
+                     "DEDED6",
+                     "DEDEDE",
+                     "E7E7DE",
+                     "E7E7E7",
+                     "EFEFE7",
+                     "EFEFEF",
+                     "F7F7EF",
+                     "F7F7F7",
+                     "FFFFFF"}));
+    EXPECT_EQ(
+        rowsOf(artwork.img[2]),
+        inked({"0000000000000",
+               "0222222344560",
+               "0222233445650",
+               "0222333551670",
+               "0223334511770",
+               "0221355111770",
+               "0231151117780",
+               "0341111177870",
+               "0445111778880",
+               "0456517787880",
+               "0565777888880",
+               "0667778878880",
+               "0000000000000"},
+              {"185284", "21A521", "E7E7DE", "E7E7E7", "EFEFE7", "EFEFEF", "F7F7EF", "F7F7F7", "FFFFFF"}));
+    EXPECT_EQ(rowsOf(artwork.imgd[1]),
+              inked({"0000000000000",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0000000000000"},
+                    {"CECEBD", "FFFFFF"}));
+    EXPECT_EQ(rowsOf(artwork.imgd[2]),
+              inked({"0000000000000",
+                     "0111111111110",
+                     "0111111111110",
+                     "0111111110110",
+                     "0111111100110",
+                     "0110111000110",
+                     "0110010001110",
+                     "0110000011110",
+                     "0111000111110",
+                     "0111101111110",
+                     "0111111111110",
+                     "0111111111110",
+                     "0000000000000"},
+                    {"CECEBD", "FFFFFF"}));
+}
+
+using DesignView = PaintedList;
+
+TEST_F(DesignView, ShowsTheControlsName) {
+    host.userMode = false;
+    host.name = u"lmListView7";
+    list.letBorderVisible(true);
+    addColumns({60});
+    list.letDefaultColumnForeColor(0x112233);
+    EXPECT_EQ(repaint(),
+              (Lines{"Cls",
+                     "BackColor FFFFFF",
+                     "Font Verdana 9.75",
+                     "ForeColor 112233",
+                     "Print 3,3 lmListView7",
+                     "Box 0,0-199,99 B99D7F"}));
+}
+
+TEST_F(DesignView, ShowsACheckBoxInCheckBoxStyle) {
+    host.userMode = false;
+    list.letStyle(cCheckBoxes);
+    list.letEnabled(false);
+    list.letBackColorDisabled(0x123456);
+    EXPECT_EQ(repaint(),
+              (Lines{"Cls",
+                     "BackColor 123456",
+                     "Font Verdana 9.75",
+                     "ForeColor 0",
+                     "Picture 3,5",
+                     "Print 19,3 lmListView1"}));
+}
+
+TEST_F(DesignView, DoesNotTouchTheBusyFlag) {
+    host.userMode = false;
+    inside.paint().paintBusy = true;
+    EXPECT_FALSE(repaint().empty());
+    EXPECT_TRUE(inside.paint().paintBusy);
+}
+
+using SelectionColour = PaintedList;
+
+TEST_F(SelectionColour, FollowsTheStyleAndIsZeroForAnUnknownOne) {
+    list.letValueColor(0x123456);
+    struct {
+        Long style;
+        OLE_COLOR color;
+    } const table[] = {{0, 0xC56A31}, {1, 0xBFB4B2}, {2, 0x70A093}, {99, 0x123456}, {3, 0}};
+    for (const auto& row : table) {
+        list.letColorStyle(static_cast<cColorStyle>(row.style));
+        EXPECT_EQ(inside.aktValueColor(), row.color) << row.style;
+    }
+}
+
+using SkinCutting = PaintedList;
+
+TEST_F(SkinCutting, TakesThePiecesFromTheStrip) {
+    Bitmap strip(20, 4, 0xFF000000U);
+    for (Long y = 0; y < 4; ++y) {
+        for (Long x = 0; x < 20; ++x)
+            strip.at(x, y) = 0xFF000000U | static_cast<std::uint32_t>(x * 256 + y);
+    }
+    list.setSkin(std::make_shared<BitmapPicture>(strip));
+    const auto& pieces = inside.artwork().imgCol;
+    EXPECT_EQ(pieces[0]->bitmap().at(5, 2), 0xFF000502U);
+    EXPECT_EQ(pieces[1]->bitmap().at(0, 0), 0xFF000600U);
+    EXPECT_EQ(pieces[2]->bitmap().at(0, 1), 0xFF000701U);
+    EXPECT_EQ(pieces[3]->bitmap().at(7, 0), 0xFF000F00U) << "what lies past 16 pixels is unused";
+    EXPECT_EQ(pieces[3]->bitmap().height, 3) << "only the top three rows count";
+    list.setSkin(nullptr);
+    EXPECT_EQ(inside.artwork().imgCol[3]->bitmap(), ListViewArtwork::standard().imgCol[3]->bitmap());
+}
+
+TEST_F(SkinCutting, AStripThatIsTooSmallLeavesTheBoardsBackground) {
+    list.setSkin(plainPicture(7, 2, 0xFF112233U));
+    const auto& pieces = inside.artwork().imgCol;
+    EXPECT_EQ(pieces[0]->bitmap().at(5, 1), 0xFF112233U);
+    EXPECT_EQ(pieces[0]->bitmap().at(5, 2), 0xFFFFFFFFU);
+    EXPECT_EQ(pieces[2]->bitmap().at(0, 0), 0xFFFFFFFFU);
+}
+
+} // namespace lumtex::testing
