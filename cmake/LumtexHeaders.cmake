@@ -1,0 +1,25 @@
+# Every header compiles alone: the target `headers` compiles one file per header, which includes nothing else.
+# Private headers count too, therefore this stands in for CMAKE_VERIFY_INTERFACE_HEADER_SETS.
+add_custom_target(headers COMMENT "Every header compiles alone")
+
+# lumtex_headers_alone(<room> <header>...): headers relative to the current folder, and to the include path.
+function(lumtex_headers_alone room)
+    if(NOT ARGN)
+        return()
+    endif()
+    set(sources "")
+    foreach(header IN LISTS ARGN)
+        string(REPLACE "/" "__" name "${header}")
+        set(source "${CMAKE_CURRENT_BINARY_DIR}/headers/${name}.cpp")
+        # Twice, so that a header without its guard is found out.
+        file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"@header@\"\n#include \"@header@\"\n" @ONLY)
+        list(APPEND sources "${source}")
+    endforeach()
+    add_library(${room}_headers OBJECT EXCLUDE_FROM_ALL ${sources})
+    target_link_libraries(${room}_headers PRIVATE ${room})
+    get_target_property(libraries ${room} LINK_LIBRARIES)
+    if(libraries)
+        target_link_libraries(${room}_headers PRIVATE ${libraries})
+    endif()
+    add_dependencies(headers ${room}_headers)
+endfunction()
