@@ -21,9 +21,9 @@ target_compile_options(
               -Wimplicit-fallthrough
               -Werror
               -ffp-contract=off)
-# Optimising, GCC 12 takes the joining of UTF-16 strings for overlapping copies and for reads past an end.
+# Optimising, GCC 12 takes the joining of UTF-16 strings for copies that overlap or pass an end.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(lumtex_flags INTERFACE -Wno-restrict -Wno-array-bounds)
+    target_compile_options(lumtex_flags INTERFACE -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow)
 endif()
 # An index out of range stops a debug build instead of reading on.
 target_compile_definitions(lumtex_flags INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)

@@ -8,7 +8,7 @@ void lmListView::store(Property property, T& field, T value) {
     const auto& [name, setterClass] = setterOf(property);
     Procedure p = procedure(name);
     p.step([&] { field = std::move(value); });
-    p.step([&] { host_.PropertyChanged(name); });
+    p.step([&, name = name] { host_.PropertyChanged(name); });
     switch (setterClass) {
     case SetterClass::checkForRedraw:
         CheckForRedraw();
