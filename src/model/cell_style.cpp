@@ -24,7 +24,7 @@ struct HashOfValue {
 std::size_t hashOf(const CellStyle& style) {
     std::size_t seed = style.ForeColor;
     for (const Variant* color : {&style.BackColor, &style.ForeColorSelect, &style.BackColorSelect})
-        mix(seed, std::visit(HashOfValue{}, color->storage()));
+        mix(seed, color->visit(HashOfValue{}));
     mix(seed, style.ForeColorDis);
     mix(seed, style.BackColorDis);
     mix(seed, static_cast<std::size_t>(style.IconAlignment));

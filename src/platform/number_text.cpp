@@ -10,7 +10,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
-#include <string>
 
 namespace lumtex {
 
@@ -140,47 +139,61 @@ NumberFromText bitsFromText(StringView digits, unsigned base) {
     return {NumberFromText::number, static_cast<Double>(static_cast<Long>(bits))};
 }
 
-/// The digits of a positive number with their decimal exponent, as "d.ddd" times ten to the `exponent`.
-struct Digits {
-    std::string digits;
-    int exponent = 0;
+/// A positive number as its significant digits, with the first before the point, times ten to the `exponent`.
+class Digits {
+  public:
+    Digits(Double value, int precision) {
+        const auto written =
+            std::to_chars(text_.begin(), text_.end(), value, std::chars_format::scientific, precision - 1);
+        char* const mark = std::find(text_.begin(), written.ptr, 'e');
+        // A plus is no part of what from_chars reads.
+        std::from_chars(mark[1] == '+' ? mark + 2 : mark + 1, written.ptr, exponent_);
+        std::remove(text_.begin(), mark, '.');
+        count_ = precision;
+        while (count_ > 1 && text_[static_cast<std::size_t>(count_ - 1)] == '0')
+            --count_;
+    }
+
+    int count() const { return count_; }
+    int exponent() const { return exponent_; }
+    /// Appends the digits from `first` up to `end`, with zeros for those past the last.
+    void appendTo(String& target, int first, int end) const {
+        for (int i = first; i < end; ++i)
+            target.push_back(i < count_ ? static_cast<char16_t>(text_[static_cast<std::size_t>(i)]) : u'0');
+    }
+
+  private:
+    std::array<char, 32> text_{};
+    int count_ = 0;
+    int exponent_ = 0;
 };
 
-Digits digitsOf(Double value, int precision) {
-    std::array<char, 64> buffer{};
-    const auto result = std::to_chars(
-        buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific, precision - 1);
-    const std::string_view text(buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data()));
-    const std::size_t mark = text.find('e');
-    Digits parts;
-    for (const char c : text.substr(0, mark)) {
-        if (c != '.')
-            parts.digits.push_back(c);
+void appendExponentForm(String& target, const Digits& digits) {
+    digits.appendTo(target, 0, 1);
+    if (digits.count() > 1) {
+        target.push_back(u'.');
+        digits.appendTo(target, 1, digits.count());
     }
-    parts.digits.erase(std::max<std::size_t>(parts.digits.find_last_not_of('0') + 1, 1));
-    const char* exponent = text.data() + mark + 1;
-    // A plus is no part of what from_chars reads.
-    if (*exponent == '+')
-        ++exponent;
-    std::from_chars(exponent, result.ptr, parts.exponent);
-    return parts;
+    target.append(digits.exponent() < 0 ? u"E-" : u"E+");
+    const int exponent = std::abs(digits.exponent());
+    if (exponent >= 100)
+        target.push_back(static_cast<char16_t>(u'0' + exponent / 100));
+    target.push_back(static_cast<char16_t>(u'0' + exponent / 10 % 10));
+    target.push_back(static_cast<char16_t>(u'0' + exponent % 10));
 }
 
-std::string exponentForm(const Digits& parts) {
-    std::string text = parts.digits.substr(0, 1);
-    if (parts.digits.size() > 1)
-        text += "." + parts.digits.substr(1);
-    const std::string exponent = std::to_string(std::abs(parts.exponent));
-    return text + (parts.exponent < 0 ? "E-" : "E+") + (exponent.size() < 2 ? "0" : "") + exponent;
-}
-
-std::string plainForm(const Digits& parts) {
-    if (parts.exponent < 0)
-        return "0." + std::string(static_cast<std::size_t>(-parts.exponent - 1), '0') + parts.digits;
-    const auto whole = static_cast<std::size_t>(parts.exponent) + 1;
-    if (parts.digits.size() <= whole)
-        return parts.digits + std::string(whole - parts.digits.size(), '0');
-    return parts.digits.substr(0, whole) + "." + parts.digits.substr(whole);
+void appendPlainForm(String& target, const Digits& digits) {
+    const int whole = digits.exponent() + 1;
+    if (whole > 0) {
+        digits.appendTo(target, 0, whole);
+    } else {
+        target.push_back(u'0');
+    }
+    if (digits.count() > whole) {
+        target.push_back(u'.');
+        target.append(static_cast<std::size_t>(std::max(-whole, 0)), u'0');
+        digits.appendTo(target, std::max(whole, 0), digits.count());
+    }
 }
 
 String textOf(Double value, int precision) {
@@ -190,12 +203,17 @@ String textOf(Double value, int precision) {
         return value < 0 ? u"-1.#INF" : u"1.#INF";
     if (value == 0)
         return u"0";
-    const Digits parts = digitsOf(std::fabs(value), precision);
+    const Digits digits(std::fabs(value), precision);
+    String text;
+    if (value < 0)
+        text.push_back(u'-');
     // The plain form shows at most `precision` digits before the point, and as many behind it.
-    const int decimals = static_cast<int>(parts.digits.size()) - 1 - parts.exponent;
-    const bool plain = parts.exponent < precision && decimals <= precision;
-    const std::string text = (value < 0 ? "-" : "") + (plain ? plainForm(parts) : exponentForm(parts));
-    return {text.begin(), text.end()};
+    const int decimals = digits.count() - 1 - digits.exponent();
+    if (digits.exponent() < precision && decimals <= precision)
+        appendPlainForm(text, digits);
+    else
+        appendExponentForm(text, digits);
+    return text;
 }
 
 } // namespace

@@ -13,14 +13,12 @@ bool isNumber(const Variant& value) {
 }
 
 bool isNothing(const Variant& value) {
-    return value.isObject() && std::visit(
-                                   [](const auto& held) {
-                                       if constexpr (requires { held == nullptr; })
-                                           return held == nullptr;
-                                       else
-                                           return false;
-                                   },
-                                   value.storage());
+    return value.visit([](const auto& held) {
+        if constexpr (requires { held == nullptr; })
+            return held == nullptr;
+        else
+            return false;
+    });
 }
 
 /// Numbers of different kinds are equal where their values are, empty references in any case; anything else

@@ -106,19 +106,14 @@ struct ToReference {
 
 } // namespace
 
-bool Variant::isObject() const {
-    return std::holds_alternative<ObjectRef>(value_) || std::holds_alternative<PictureRef>(value_) ||
-           std::holds_alternative<FontRef>(value_);
-}
-
 bool Variant::isNumeric() const {
     if (const String* held = text())
         return numberFromText(*held).has_value();
-    return !isNull() && !isMissing() && !isObject() && !std::holds_alternative<Date>(value_);
+    return !isNull() && !isMissing() && !isObject() && as<Date>() == nullptr;
 }
 
 Long Variant::toLong() const {
-    if (const Long* held = std::get_if<Long>(&value_))
+    if (const Long* held = as<Long>())
         return *held;
     return roundToLong(toDouble());
 }
@@ -129,13 +124,13 @@ Integer Variant::toInteger() const {
 
 Byte Variant::toByte() const {
     // Wanted: True is 255 as a Byte, all bits set, though -1 as a number is out of range.
-    if (const bool* held = std::get_if<bool>(&value_))
+    if (const bool* held = as<bool>())
         return *held ? std::numeric_limits<Byte>::max() : Byte{0};
     return roundToByte(toDouble());
 }
 
 Single Variant::toSingle() const {
-    if (const Single* held = std::get_if<Single>(&value_))
+    if (const Single* held = as<Single>())
         return *held;
     const auto value = static_cast<Single>(toDouble());
     if (std::isinf(value))
@@ -144,7 +139,7 @@ Single Variant::toSingle() const {
 }
 
 Double Variant::toDouble() const {
-    return std::visit(ToDouble{}, value_);
+    return visit(ToDouble{});
 }
 
 bool Variant::toBoolean() const {
@@ -158,7 +153,7 @@ bool Variant::toBoolean() const {
 }
 
 Date Variant::toDate() const {
-    if (const Date* held = std::get_if<Date>(&value_))
+    if (const Date* held = as<Date>())
         return *held;
     if (const String* held = text()) {
         if (const auto date = dateFromText(*held))
@@ -171,11 +166,11 @@ Date Variant::toDate() const {
 }
 
 String Variant::toText() const {
-    return std::visit(ToText{}, value_);
+    return visit(ToText{});
 }
 
 OLE_COLOR Variant::toColor() const {
-    if (const Long* held = std::get_if<Long>(&value_))
+    if (const Long* held = as<Long>())
         return static_cast<OLE_COLOR>(*held);
     const Double value = toDouble();
     constexpr Double span = 4294967296.0;
@@ -185,22 +180,22 @@ OLE_COLOR Variant::toColor() const {
 }
 
 ObjectRef Variant::toObject() const {
-    ObjectRef held = std::visit(ToReference<ObjectRef>{}, value_);
+    ObjectRef held = visit(ToReference<ObjectRef>{});
     if (!held)
         throw RuntimeError(objectVariableNotSet);
     return held;
 }
 
 PictureRef Variant::toPicture() const {
-    return std::visit(ToReference<PictureRef>{}, value_);
+    return visit(ToReference<PictureRef>{});
 }
 
 FontRef Variant::toFont() const {
-    return std::visit(ToReference<FontRef>{}, value_);
+    return visit(ToReference<FontRef>{});
 }
 
 Variant minusOne(const Variant& value) {
-    return std::visit(MinusOne{}, value.storage());
+    return value.visit(MinusOne{});
 }
 
 Long zeroBasedSlow(const Variant& index) {

@@ -7,7 +7,12 @@
 #include "platform/picture.h"
 #include "platform/types.h"
 
+#include <cstddef>
+#include <cstring>
+#include <new>
 #include <optional>
+#include <type_traits>
+#include <utility>
 #include <variant>
 
 namespace lumtex {
@@ -33,37 +38,75 @@ struct Missing {
 /// Conversions throw RuntimeError 13 for a value of the wrong kind (text that is no number, an object, an
 /// argument left out), 6 for one out of range, 94 for Null. True converts to -1, Empty to 0 or the empty
 /// text. docs/conversions.md has the rules.
+///
+/// Most Variants are indices and colours, made and dropped at each access to a cell, so a value without text
+/// or object is copied and dropped inline; for this the class keeps its own union in place of a std::variant.
 class Variant {
   public:
-    Variant() = default;
+    Variant() : Variant(std::monostate{}) {}
     Variant(std::nullptr_t) = delete;
-    Variant(bool value) : value_(value) {}
-    Variant(Byte value) : value_(value) {}
-    Variant(Integer value) : value_(value) {}
-    Variant(Long value) : value_(value) {}
-    Variant(Single value) : value_(value) {}
-    Variant(Double value) : value_(value) {}
+    Variant(bool value) { hold(value); }
+    Variant(Byte value) { hold(value); }
+    Variant(Integer value) { hold(value); }
+    Variant(Long value) { hold(value); }
+    Variant(Single value) { hold(value); }
+    Variant(Double value) { hold(value); }
     /// A colour number keeps its 32 bits and travels as a Long.
-    Variant(OLE_COLOR color) : value_(static_cast<Long>(color)) {}
-    Variant(Date value) : value_(value) {}
-    Variant(Null value) : value_(value) {}
-    Variant(Missing value) : value_(value) {}
-    Variant(String value) : value_(std::move(value)) {}
-    Variant(StringView value) : value_(String(value)) {}
-    Variant(const char16_t* value) : value_(String(value)) {}
+    Variant(OLE_COLOR color) : Variant(static_cast<Long>(color)) {}
+    Variant(Date value) { hold(value); }
+    Variant(std::monostate value) { hold(value); }
+    Variant(Null value) { hold(value); }
+    Variant(Missing value) { hold(value); }
+    Variant(String value) { hold(std::move(value)); }
+    Variant(StringView value) : Variant(String(value)) {}
+    Variant(const char16_t* value) : Variant(String(value)) {}
     /// Any other pointer would silently become a Boolean.
     template <class T>
     Variant(T*) = delete;
-    Variant(ObjectRef value) : value_(std::move(value)) {}
-    Variant(PictureRef value) : value_(std::move(value)) {}
-    Variant(FontRef value) : value_(std::move(value)) {}
+    Variant(ObjectRef value) { hold(std::move(value)); }
+    Variant(PictureRef value) { hold(std::move(value)); }
+    Variant(FontRef value) { hold(std::move(value)); }
 
-    bool isEmpty() const { return std::holds_alternative<std::monostate>(value_); }
-    bool isNull() const { return std::holds_alternative<Null>(value_); }
-    bool isMissing() const { return std::holds_alternative<Missing>(value_); }
-    bool isString() const { return std::holds_alternative<String>(value_); }
+    Variant(const Variant& other) {
+        if (other.isPlain())
+            copyPlain(other);
+        else
+            copyHeld(other);
+    }
+    /// Leaves `other` with its kind, and with the empty text or reference where it held one.
+    Variant(Variant&& other) noexcept {
+        if (other.isPlain())
+            copyPlain(other);
+        else
+            moveHeld(other);
+    }
+    Variant& operator=(const Variant& other) {
+        if (isPlain() && other.isPlain()) {
+            copyPlain(other);
+        } else {
+            replaceBy(Variant(other));
+        }
+        return *this;
+    }
+    Variant& operator=(Variant&& other) noexcept {
+        if (isPlain() && other.isPlain()) {
+            copyPlain(other);
+        } else {
+            replaceBy(Variant(std::move(other)));
+        }
+        return *this;
+    }
+    ~Variant() {
+        if (!isPlain())
+            dropHeld();
+    }
+
+    bool isEmpty() const { return kind_ == Kind::empty; }
+    bool isNull() const { return kind_ == Kind::null; }
+    bool isMissing() const { return kind_ == Kind::missing; }
+    bool isString() const { return kind_ == Kind::text; }
     /// True for an object, picture or font, and for an empty reference to one.
-    bool isObject() const;
+    bool isObject() const { return kind_ >= Kind::object; }
     /// True for a number, a Boolean, Empty, and for text that converts to a number; not for a Date.
     bool isNumeric() const;
 
@@ -88,30 +131,135 @@ class Variant {
     PictureRef toPicture() const;
     FontRef toFont() const;
 
-    /// The text if it holds one, without conversion.
-    const String* text() const { return std::get_if<String>(&value_); }
+    /// The value if it is of the type `T`, without conversion. Empty has the type std::monostate.
+    template <class T>
+    const T* as() const {
+        return kind_ == Types::kindOf<T>() ? &held<T>() : nullptr;
+    }
+    const String* text() const { return as<String>(); }
+
+    /// Calls `visitor` with the value as the type that it has.
+    template <class Visitor>
+    decltype(auto) visit(Visitor&& visitor) const {
+        switch (kind_) {
+        case Kind::null:
+            return visitor(held<Null>());
+        case Kind::missing:
+            return visitor(held<Missing>());
+        case Kind::boolean:
+            return visitor(held<bool>());
+        case Kind::byteNumber:
+            return visitor(held<Byte>());
+        case Kind::integerNumber:
+            return visitor(held<Integer>());
+        case Kind::longNumber:
+            return visitor(held<Long>());
+        case Kind::singleNumber:
+            return visitor(held<Single>());
+        case Kind::doubleNumber:
+            return visitor(held<Double>());
+        case Kind::date:
+            return visitor(held<Date>());
+        case Kind::text:
+            return visitor(held<String>());
+        case Kind::object:
+            return visitor(held<ObjectRef>());
+        case Kind::picture:
+            return visitor(held<PictureRef>());
+        case Kind::font:
+            return visitor(held<FontRef>());
+        case Kind::empty:
+            break;
+        }
+        return visitor(held<std::monostate>());
+    }
 
     /// Same kind and same value; objects by identity. Not the language's `=`, which converts.
-    bool operator==(const Variant&) const = default;
-
-    using Storage = std::variant<std::monostate,
-                                 Null,
-                                 Missing,
-                                 bool,
-                                 Byte,
-                                 Integer,
-                                 Long,
-                                 Single,
-                                 Double,
-                                 Date,
-                                 String,
-                                 ObjectRef,
-                                 PictureRef,
-                                 FontRef>;
-    const Storage& storage() const { return value_; }
+    bool operator==(const Variant& other) const {
+        return kind_ == other.kind_ &&
+               visit([&]<class T>(const T& value) { return value == other.held<T>(); });
+    }
 
   private:
-    Storage value_;
+    /// Up to `date` the values are plain, from `object` on they are references.
+    enum class Kind : Byte {
+        empty,
+        null,
+        missing,
+        boolean,
+        byteNumber,
+        integerNumber,
+        longNumber,
+        singleNumber,
+        doubleNumber,
+        date,
+        text,
+        object,
+        picture,
+        font,
+    };
+
+    static constexpr std::size_t plainSize = sizeof(Double);
+
+    template <class... Ts>
+    struct TypeList {
+        template <class T>
+        static constexpr Kind kindOf() {
+            static_assert((std::is_same_v<T, Ts> || ...), "a Variant holds no such type");
+            Byte position = 0;
+            static_cast<void>(((std::is_same_v<T, Ts> || (++position, false)) || ...));
+            return static_cast<Kind>(position);
+        }
+    };
+    /// In the order of `Kind`.
+    using Types = TypeList<std::monostate,
+                           Null,
+                           Missing,
+                           bool,
+                           Byte,
+                           Integer,
+                           Long,
+                           Single,
+                           Double,
+                           Date,
+                           String,
+                           ObjectRef,
+                           PictureRef,
+                           FontRef>;
+
+    bool isPlain() const { return kind_ <= Kind::date; }
+
+    template <class T>
+    void hold(T value) {
+        static_assert(sizeof(T) <= sizeof(bytes_) && alignof(T) <= alignof(Double));
+        if constexpr (std::is_trivially_copyable_v<T>) {
+            static_assert(sizeof(T) <= plainSize);
+            // All that copyPlain takes has a value.
+            std::memset(bytes_, 0, plainSize);
+        }
+        ::new (static_cast<void*>(bytes_)) T(std::move(value));
+        kind_ = Types::kindOf<T>();
+    }
+    template <class T>
+    const T& held() const {
+        return *std::launder(reinterpret_cast<const T*>(bytes_));
+    }
+    template <class T>
+    T& held() {
+        return *std::launder(reinterpret_cast<T*>(bytes_));
+    }
+
+    void copyPlain(const Variant& other) {
+        std::memcpy(bytes_, other.bytes_, plainSize);
+        kind_ = other.kind_;
+    }
+    void copyHeld(const Variant& other);
+    void moveHeld(Variant& other) noexcept;
+    void dropHeld() noexcept;
+    void replaceBy(Variant fresh) noexcept;
+
+    alignas(Double) std::byte bytes_[sizeof(String)];
+    Kind kind_ = Kind::empty;
 };
 
 /// `value` - 1 as the language computes it on a Variant: text becomes a Double and a Boolean an Integer;
@@ -124,7 +272,7 @@ Long zeroBasedSlow(const Variant& index);
 /// The 0-based position that a 1-based `index` names: index - 1 computed on the Variant, then rounded.
 inline Long zeroBased(const Variant& index) {
     // Each access to a cell comes through here, nearly always with a Long.
-    const Long* held = std::get_if<Long>(&index.storage());
+    const Long* held = index.as<Long>();
     return held != nullptr && *held > 0 ? *held - 1 : zeroBasedSlow(index);
 }
 

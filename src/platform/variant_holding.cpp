@@ -1,0 +1,43 @@
+/// Copying and dropping the values that own something.
+#include "platform/variant.h"
+
+namespace lumtex {
+
+namespace {
+
+template <class T>
+constexpr bool ownsSomething = !std::is_trivially_copyable_v<T>;
+
+} // namespace
+
+void Variant::copyHeld(const Variant& other) {
+    other.visit([&]<class T>(const T& value) {
+        if constexpr (ownsSomething<T>)
+            hold<T>(value);
+    });
+}
+
+void Variant::moveHeld(Variant& other) noexcept {
+    other.visit([&]<class T>(const T& /*value*/) {
+        if constexpr (ownsSomething<T>)
+            hold<T>(std::move(other.held<T>()));
+    });
+}
+
+void Variant::dropHeld() noexcept {
+    visit([&]<class T>(const T& /*value*/) { held<T>().~T(); });
+}
+
+void Variant::replaceBy(Variant fresh) noexcept {
+    // Dropping an object may run code of the host that looks at this very Variant: by then it has its new
+    // value.
+    const Variant old(std::move(*this));
+    if (!isPlain())
+        dropHeld();
+    if (fresh.isPlain())
+        copyPlain(fresh);
+    else
+        moveHeld(fresh);
+}
+
+} // namespace lumtex
