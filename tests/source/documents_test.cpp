@@ -1,0 +1,86 @@
+/// What the documents promise about the tree.
+#include "source_tree.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <regex>
+
+#include <gtest/gtest.h>
+
+namespace lumtex::source {
+namespace {
+
+/// The lines between the first one that is `begin` and the next that is `end`.
+std::vector<std::string> between(const SourceFile& file, std::string_view begin, std::string_view end) {
+    const auto first = std::find(file.lines.begin(), file.lines.end(), begin);
+    if (first == file.lines.end())
+        return {};
+    const auto last = std::find(first + 1, file.lines.end(), end);
+    return last == file.lines.end() ? std::vector<std::string>() : std::vector<std::string>(first + 1, last);
+}
+
+std::vector<std::string> printedExample(const SourceFile& readme) {
+    return between(readme, "```cpp", "```");
+}
+
+std::vector<std::string> compiledExample(const SourceFile& program) {
+    return between(program, "// [readme", "// readme]");
+}
+
+/// Links to files of the tree, pictures included; those to other sites, and within a page, are left out.
+std::vector<Finding> brokenLinks(const SourceFile& file) {
+    static const std::regex link(R"(\]\(([^)#\s]+)[^)]*\))");
+    const std::filesystem::path root = LUMTEX_SOURCE_DIR;
+    const std::filesystem::path folder = (root / file.path).parent_path();
+    std::vector<Finding> findings;
+    for (std::size_t i = 0; i < file.lines.size(); ++i) {
+        const std::string& line = file.lines[i];
+        for (std::sregex_iterator match(line.begin(), line.end(), link), none; match != none; ++match) {
+            const std::string target = (*match)[1];
+            if (target.find("://") == std::string::npos && !std::filesystem::exists(folder / target))
+                findings.push_back({file.path, i + 1, "there is no " + target});
+        }
+    }
+    return findings;
+}
+
+std::vector<SourceFile> documents() {
+    std::vector<SourceFile> files = readTree("docs", {".md"});
+    for (const char* name : {"README.md", "CONTRIBUTING.md", "CHANGELOG.md"})
+        files.push_back(readFile(name));
+    return files;
+}
+
+TEST(Readme, ShowsTheVeryExampleThatIsCompiled) {
+    const auto compiled = compiledExample(readFile("tests/examples/readme_example.cpp"));
+    ASSERT_FALSE(compiled.empty());
+    EXPECT_EQ(printedExample(readFile("README.md")), compiled);
+}
+
+TEST(Readme, IsCaughtWhereItsExampleDiffersOrIsMissing) {
+    const SourceFile program("a.cpp", "// [readme\nint a;\n\nint b;\n// readme]\nint c;\n");
+    const auto compiled = compiledExample(program);
+    EXPECT_EQ(compiled, (std::vector<std::string>{"int a;", "", "int b;"}));
+    EXPECT_EQ(printedExample({"README.md", "Text\n```cpp\nint a;\n\nint b;\n```\nmore\n"}), compiled);
+    EXPECT_NE(printedExample({"README.md", "```cpp\nint a;\nint b;\n```\n"}), compiled);
+    EXPECT_NE(printedExample({"README.md", "```cpp\nint a;\n\nint b;\n"}), compiled)
+        << "the block does not end";
+    EXPECT_NE(printedExample({"README.md", "int a;\n"}), compiled);
+}
+
+TEST(Documents, LinkToFilesThatAreThere) {
+    EXPECT_EQ(offenders(documents(), brokenLinks), "");
+}
+
+TEST(Documents, WithBrokenLinksAreCaught) {
+    const SourceFile sample(
+        "docs/sample.md",
+        "See [the build](../CMakeLists.txt) and [nothing](nothing.md), or\n"
+        "![a picture](images/none.png#small), [a site](https://example.org/x.md), [below](#below).\n");
+    EXPECT_EQ(report(brokenLinks(sample)),
+              "docs/sample.md:1: there is no nothing.md\n"
+              "docs/sample.md:2: there is no images/none.png\n");
+}
+
+} // namespace
+} // namespace lumtex::source
