@@ -19,14 +19,27 @@ bool runsInKnownProgram(const ComponentInfo& component) {
 
 } // namespace
 
-void lmListView::UserControl_InitProperties() {
-    Procedure p = procedure(u"UserControl_InitProperties");
+/// A container without a font leaves that of the design.
+void lmListView::takeContainersFont() {
     ignoringErrors([&] {
         if (const FontRef font = host_.parentFont())
             lblFont->spec = font->spec;
     });
-    const bool known = runsInKnownProgram(runtime().component());
-    topInset_ = known ? 3 : 0;
+}
+
+void lmListView::recogniseProgram() {
+    knownProgram_ = runsInKnownProgram(runtime().component());
+    topInset_ = knownProgram_ ? 3 : 0;
+}
+
+Long lmListView::defaultJumpLines() const {
+    return knownProgram_ ? 4 : 1;
+}
+
+void lmListView::UserControl_InitProperties() {
+    Procedure p = procedure(u"UserControl_InitProperties");
+    takeContainersFont();
+    recogniseProgram();
 
     p.step([&] { paint_.paintBusy = true; });
     setDefaultItemFont(lblFont);
@@ -84,7 +97,7 @@ void lmListView::UserControl_InitProperties() {
     letWheelFunction(cWheelScroll);
     letDefaultIconSelectedIsIcon(true);
     letWheelScrollLines(1);
-    letScrollButtonJumpLines(known ? 4 : 1);
+    letScrollButtonJumpLines(defaultJumpLines());
     letTextPositionDefault(cTextPosCenter);
     letDrawItemIcons(true);
     letDrawColumnIcons(true);

@@ -10,6 +10,7 @@
 #include "model/row_record.h"
 #include "model/setter_table.h"
 #include "platform/host.h"
+#include "platform/property_bag.h"
 #include "platform/world.h"
 #include "render/artwork.h"
 #include "render/paint_state.h"
@@ -42,6 +43,9 @@ class lmListView final : public UserControl, private TextBoxClient {
 
     /// A new instance without saved state. Paints nothing; the first resize does.
     void UserControl_InitProperties();
+    /// A saved instance, or a new one that starts in its full idle state: an empty bag gives the same values.
+    /// The list is empty afterwards.
+    void UserControl_ReadProperties(const PropertyBag& bag);
 
     // Filling the list
 
@@ -69,6 +73,10 @@ class lmListView final : public UserControl, private TextBoxClient {
                  std::optional<StringView> aItemTexts = std::nullopt) {
         RowsAdd(aIndex, aSplit, aItemTexts);
     }
+
+    /// Removes all rows, or all columns. The selection, `ListIndex` and `NewIndex` stay as they are.
+    void RowsClear();
+    void ColumnsClear();
 
     // Counts
 
@@ -363,6 +371,12 @@ class lmListView final : public UserControl, private TextBoxClient {
     friend class PaintPass;
     friend class ListViewInspector; ///< how tests look inside
 
+    // Lifecycle (model/)
+
+    void takeContainersFont();
+    void recogniseProgram();
+    Long defaultJumpLines() const;
+
     // Failure path
 
     Procedure procedure(StringView name) const;
@@ -465,6 +479,7 @@ class lmListView final : public UserControl, private TextBoxClient {
     bool rowsAllocated_ = false;    ///< from the first `RowsAdd` until `RowsClear`
     bool columnsAllocated_ = false; ///< from the first `ColumnsAdd` until `ColumnsClear`
     Long newColumnSlot_ = 0;        ///< 0-based; the column that `ColumnsAdd` is filling
+    bool knownProgram_ = false;     ///< see `recogniseProgram`
     Single topInset_ = 0;           ///< pixels above a text placed at the top of its row
 
     PaintState paint_;

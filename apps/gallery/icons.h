@@ -1,0 +1,12 @@
+/// \file
+/// The icons of the gallery, 16 x 16.
+#pragma once
+
+#include "platform/picture.h"
+
+namespace lumtex::gallery {
+
+PictureRef folderIcon();
+PictureRef documentIcon();
+
+} // namespace lumtex::gallery

@@ -1,0 +1,71 @@
+#include "list_fixture.h"
+
+namespace lumtex::testing {
+
+using ReadProperties = ListFixture;
+
+TEST_F(ReadProperties, AnEmptyBagGivesTheValuesOfANewInstanceButForTwoColours) {
+    host.changed.clear();
+    list.UserControl_ReadProperties(MemoryPropertyBag());
+    EXPECT_EQ(list.BackColor(), 0xFFFFFFU);
+    EXPECT_EQ(list.RowHeight(), 240);
+    EXPECT_EQ(list.TextPositionDefault(), cTextPosCenter);
+    EXPECT_EQ(list.ScrollButtonJumpLines(), 1);
+    EXPECT_EQ(list.RowColorFirst(), 0xFFFFFFU);
+    EXPECT_EQ(list.RowColorSecond(), 0xFFFFFFU);
+    // 69 keys, one of which does not tell the host, and two more lines: the bars' style and the index at the
+    // end.
+    EXPECT_EQ(host.changed.size(), 69U - 1 + 2);
+    EXPECT_EQ(host.changed.front(), u"DefaultItemFont");
+    EXPECT_EQ(host.changed.back(), u"ListIndex");
+    EXPECT_EQ(reportCount(), 0U);
+}
+
+TEST_F(ReadProperties, TheArraysExistAndTheStateIsIdle) {
+    inside.header().pressedColumn = 4;
+    list.UserControl_ReadProperties(MemoryPropertyBag());
+    EXPECT_TRUE(inside.ArrDim(Long{0}));
+    EXPECT_TRUE(inside.ArrDim(Long{1}));
+    EXPECT_EQ(list.RowsCount(), 0);
+    EXPECT_EQ(list.ColumnsCount(), 0);
+    EXPECT_EQ(inside.header().pressedColumn, -1);
+    EXPECT_EQ(inside.header().hoverColumn, -1);
+    EXPECT_EQ(inside.sort().sortColumn, -1);
+    EXPECT_EQ(inside.sort().sortAscending, 1);
+    EXPECT_EQ(inside.selection().selectionAnchor, -1);
+    EXPECT_TRUE(inside.selection().selectOnIndexSet);
+    EXPECT_FALSE(inside.selection().indexScrollArmed);
+}
+
+TEST_F(ReadProperties, ASavedListLoadsEmpty) {
+    addColumns({50});
+    addRows(2, u"a");
+    list.UserControl_ReadProperties(MemoryPropertyBag());
+    EXPECT_EQ(list.RowsCount(), 0);
+    EXPECT_EQ(list.ColumnsCount(), 0);
+}
+
+TEST_F(ReadProperties, WithoutAScrollStyleTheBarsEndAtItsDefault) {
+    MemoryPropertyBag bag;
+    bag.WriteProperty(u"ColorStyle", Long{2}, Long{0});
+    list.UserControl_ReadProperties(bag);
+    EXPECT_EQ(list.ColorStyle(), cXPOlive);
+    EXPECT_EQ(list.ScrollColorStyle(), cXPScrollBlue);
+}
+
+TEST_F(ReadProperties, AnUnusableValueIsReportedAndReadingGoesOn) {
+    MemoryPropertyBag bag;
+    bag.WriteProperty(u"IconW", u"wide", Long{0});
+    bag.WriteProperty(u"IconH", Long{24}, Long{0});
+    list.UserControl_ReadProperties(bag);
+    EXPECT_EQ(lastReport(), "13 UserControl_ReadProperties");
+    EXPECT_EQ(list.IconH(), 24);
+    EXPECT_EQ(list.IconW(), 16) << "stays as it was";
+}
+
+TEST_F(ReadProperties, PaintsWhenAllIsRead) {
+    // Once for the cleared rows, once for the cleared columns, once at the end.
+    EXPECT_EQ(paintsOf([&] { list.UserControl_ReadProperties(MemoryPropertyBag()); }), 3);
+}
+
+} // namespace lumtex::testing
