@@ -5,6 +5,7 @@
 #include "services/ignoring_errors.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace lumtex {
@@ -104,17 +105,17 @@ void ScrollBar::box(Span along, const Scheme& scheme) {
 }
 
 void ScrollBar::arrow(Span button, bool towardsEnd, const Scheme& scheme) {
-    constexpr Single halfWidth = 4;
-    constexpr Single depth = 4;
+    constexpr Single depth = 4; // rows of the triangle, each two pixels shorter than the one before
     Surface& surface = window_->surface();
-    const Single middle = (axis_ == Axis::vertical ? Width() : Height()) / 2;
+    const Single middle = std::floor((axis_ == Axis::vertical ? Width() : Height()) / 2);
+    const Single first = button.start + std::floor(buttonLength / 2) - 2;
     for (Single row = 0; row < depth; row += 1) {
-        const Single along = button.start + buttonLength / 2 - 2 + (towardsEnd ? row : depth - 1 - row);
-        const Single reach = halfWidth - row;
+        const Single along = first + (towardsEnd ? row : depth - 1 - row);
+        const Single reach = depth - 1 - row;
         if (axis_ == Axis::vertical)
-            surface.line(middle - reach, along, middle + reach, along, scheme.arrow);
+            surface.line(middle - reach, along, middle + reach + 1, along, scheme.arrow);
         else
-            surface.line(along, middle - reach, along, middle + reach, scheme.arrow);
+            surface.line(along, middle - reach, along, middle + reach + 1, scheme.arrow);
     }
 }
 
