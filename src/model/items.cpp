@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <new>
+#include <stdexcept>
 #include <vector>
 
 namespace lumtex {
@@ -11,10 +12,14 @@ namespace lumtex {
 struct Items::Block {
     using Extras = std::vector<std::unique_ptr<CellExtras>>;
 
-    std::uint32_t references = 1;
-    std::uint32_t count = 0;
-    std::uint32_t capacity = 0;
-    bool moved = false;
+    static constexpr std::size_t mostCells = (std::size_t{1} << 23U) - 1;
+
+    // Sixteen bytes in all, since every row has one. Only a record that is being moved is held more than
+    // once.
+    std::uint64_t references : 16 = 1;
+    std::uint64_t moved : 1 = 0;
+    std::uint64_t count : 23 = 0;
+    std::uint64_t capacity : 24 = 0;
     union {
         Extras* extras = nullptr; ///< owned; null while no cell has any
         Block* successor;         ///< once moved; holds one reference
@@ -26,16 +31,18 @@ struct Items::Block {
 static_assert(alignof(ListViewItem) <= alignof(std::max_align_t));
 
 Items::Block* Items::allocate(std::size_t capacity) {
+    if (capacity > Block::mostCells)
+        throw std::length_error("a row holds too many cells");
     void* memory = ::operator new(sizeof(Block) + capacity * sizeof(ListViewItem));
     auto* block = new (memory) Block;
-    block->capacity = static_cast<std::uint32_t>(capacity);
+    block->capacity = capacity;
     return block;
 }
 
 void Items::release(Block* block) {
     while (block != nullptr && --block->references == 0) {
         Block* next = nullptr;
-        if (block->moved) {
+        if (block->moved != 0) {
             next = block->successor;
         } else {
             delete block->extras;
@@ -63,7 +70,7 @@ Items::~Items() {
 }
 
 Items::Block* Items::block() const {
-    while (block_ != nullptr && block_->moved) {
+    while (block_ != nullptr && block_->moved != 0) {
         Block* successor = block_->successor;
         ++successor->references;
         release(block_);
@@ -92,7 +99,7 @@ Items::Block* Items::grow(std::size_t capacity) {
     larger->count = old->count;
     larger->extras = old->extras;
     old->count = 0;
-    old->moved = true;
+    old->moved = 1;
     old->successor = larger;
     return block();
 }
@@ -102,7 +109,7 @@ void Items::append(CompactText text, StyleHandle style) {
     if (current == nullptr)
         current = block_ = allocate(1);
     if (current->count == current->capacity)
-        current = grow(current->count + std::size_t{1});
+        current = grow(std::size_t{current->count} + 1);
     new (current->cells() + current->count) ListViewItem(std::move(text), style);
     ++current->count;
 }

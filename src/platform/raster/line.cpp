@@ -11,6 +11,8 @@ namespace {
 
 using Wide = std::int64_t;
 
+constexpr Long maximum = 0x7FFFFFFF;
+
 /// Steps along the longer axis, clipped to those that can be seen, so that a line of any length is cheap.
 struct Steps {
     Wide first;
@@ -31,6 +33,17 @@ void drawLine(const Canvas& canvas, Point from, Point to, Pixel color) {
     const Wide count = std::max(std::abs(dx), std::abs(dy));
     if (count == 0)
         return;
+    // Most lines are upright or level, and those are areas one pixel wide.
+    if (dx == 0 || dy == 0) {
+        if (from.x == maximum || from.y == maximum)
+            return;
+        const Long left = dx < 0 ? to.x + 1 : from.x;
+        const Long top = dy < 0 ? to.y + 1 : from.y;
+        const Long right = dx > 0 ? to.x : from.x + 1;
+        const Long bottom = dy > 0 ? to.y : from.y + 1;
+        fillArea(canvas, {left, top, right, bottom}, color);
+        return;
+    }
     const bool alongX = std::abs(dx) >= std::abs(dy);
     const Wide majorStart = alongX ? from.x : from.y;
     const Wide minorStart = alongX ? from.y : from.x;
