@@ -1,98 +1,94 @@
 #include "platform/headless/desktop.h"
 
-#include "platform/headless/headless_widgets.h"
-
-#include <algorithm>
+#include "platform/headless/headless_guide_line.h"
+#include "platform/headless/headless_text_box.h"
+#include "platform/headless/headless_window.h"
+#include "platform/runtime_error.h"
 
 namespace lumtex {
 
-Desktop::Desktop(std::shared_ptr<raster::FontLibrary> fonts) : fonts_(std::move(fonts)), runtime_(*this) {}
+Desktop::Desktop(std::shared_ptr<raster::FontLibrary> fonts) : fonts_(std::move(fonts)), runtime_(*this) {
+    tree_.onRemove = [this](const Pane& pane) {
+        pointer_.forget(pane);
+        focus_.forget(pane);
+    };
+}
 
 Desktop::~Desktop() = default;
 
+Pane& Desktop::paneOf(WindowHandle handle) const {
+    Pane* pane = tree_.find(handle);
+    if (pane == nullptr)
+        throw RuntimeError(invalidProcedureCall);
+    return *pane;
+}
+
 std::unique_ptr<Window> Desktop::createWindow(Window* parent, UserControl& client) {
-    auto* const outer = static_cast<HeadlessWindow*>(parent);
-    auto window = std::make_unique<HeadlessWindow>(*this, outer, client, nextHandle_++);
-    if (parent == nullptr)
-        window->letVisible(true);
+    Pane* outer = parent != nullptr ? &paneOf(parent->hWnd()) : nullptr;
+    auto window = std::make_unique<HeadlessWindow>(*this, outer, client);
+    window->visible_ = parent == nullptr;
     return window;
 }
 
 std::unique_ptr<TextBox> Desktop::createTextBox(Window& parent, TextBoxClient& client) {
-    return std::make_unique<HeadlessTextBox>(
-        *this, static_cast<HeadlessWindow&>(parent), client, nextHandle_++);
+    return std::make_unique<HeadlessTextBox>(*this, paneOf(parent.hWnd()), client);
 }
 
 std::unique_ptr<GuideLine> Desktop::createGuideLine(Window& parent) {
-    return std::make_unique<HeadlessGuideLine>(guideLines_, static_cast<HeadlessWindow&>(parent));
+    return std::make_unique<HeadlessGuideLine>(dynamic_cast<HeadlessWindow&>(paneOf(parent.hWnd())));
 }
 
 std::unique_ptr<Timer> Desktop::createTimer(std::function<void()> onTimer) {
-    return std::make_unique<HeadlessTimer>(*this, std::move(onTimer));
+    return std::make_unique<HeadlessTimer>(clock_, std::move(onTimer));
+}
+
+void Desktop::refuseHugeSize(Long width, Long height) {
+    if (width > 0 && height > 0 && std::int64_t{width} * height > mostPixels)
+        throw RuntimeError(outOfMemory);
 }
 
 std::unique_ptr<Surface> Desktop::createSurface(Long width, Long height) {
+    refuseHugeSize(width, height);
     return std::make_unique<RasterSurface>(width, height, fonts_);
 }
 
-HeadlessWindow* Desktop::find(WindowHandle handle) const {
-    const auto found = std::find_if(windows_.begin(), windows_.end(), [&](const HeadlessWindow* window) {
-        return window->hWnd() == handle;
-    });
-    return found != windows_.end() ? *found : nullptr;
-}
-
-/// The topmost shown window at a point of the desktop: later ones lie above earlier ones, children above
-/// their parents.
-HeadlessWindow* Desktop::windowAt(Point point) const {
-    HeadlessWindow* best = nullptr;
-    const auto isInside = [](const HeadlessWindow* window, const HeadlessWindow* outer) {
-        while (window != nullptr && window != outer)
-            window = window->parent();
-        return window == outer;
-    };
-    // Windows are in order of creation, so among siblings the last one wins; descending stays inside the
-    // winner.
-    for (bool found = true; found;) {
-        found = false;
-        for (auto it = windows_.rbegin(); it != windows_.rend(); ++it) {
-            HeadlessWindow* window = *it;
-            if (window->parent() == best && window->shown() && window->contains(point) &&
-                isInside(window, best)) {
-                best = window;
-                found = true;
-                break;
-            }
-        }
-    }
-    return best;
-}
-
 Window* Desktop::focus() const {
-    return find(focus_);
+    return dynamic_cast<HeadlessWindow*>(focus_.holder());
 }
 
-void Desktop::setFocus(WindowHandle handle) {
-    if (focus_ == handle)
+WindowHandle Desktop::focused() const {
+    const Pane* holder = focus_.holder();
+    return holder != nullptr ? holder->handle() : 0;
+}
+
+void Desktop::inputLost(const Pane& pane) {
+    pointer_.forget(pane);
+    focus_.leave(pane);
+}
+
+void Desktop::postPaint(const Pane& pane) {
+    loop_.postPaint([this, handle = pane.handle()] {
+        if (Pane* painted = tree_.find(handle))
+            painted->paint();
+    });
+}
+
+void Desktop::onYield(std::function<void()> body, int times) {
+    if (times > 0)
+        yieldHooks_.push_back({std::move(body), times});
+}
+
+void Desktop::runYieldHook() {
+    if (yieldHooks_.empty())
         return;
-    const WindowHandle old = std::exchange(focus_, handle);
-    if (HeadlessWindow* window = find(old))
-        window->client().UserControl_LostFocus();
-    for (HeadlessTextBox* box : textBoxes_) {
-        if (box->hWnd() == old) {
-            box->client().textBoxLostFocus();
-            break;
-        }
-    }
-    if (HeadlessWindow* window = find(handle))
-        window->client().UserControl_GotFocus();
+    const std::function<void()> body = yieldHooks_.front().body;
+    if (--yieldHooks_.front().times == 0)
+        yieldHooks_.pop_front();
+    body();
 }
 
-void Desktop::forget(WindowHandle handle) {
-    for (WindowHandle* held : {&capture_, &pressed_, &focus_}) {
-        if (*held == handle)
-            *held = 0;
-    }
+void Desktop::yield() {
+    loop_.yield([this] { runYieldHook(); });
 }
 
 } // namespace lumtex

@@ -2,128 +2,162 @@
 /// A small simulated desktop: windows, a pointer, a keyboard, timers on a clock that only moves by hand.
 #pragma once
 
+#include "platform/headless/event_loop.h"
+#include "platform/headless/focus.h"
 #include "platform/headless/headless_runtime.h"
+#include "platform/headless/keyboard.h"
+#include "platform/headless/pointer.h"
+#include "platform/headless/timer_clock.h"
+#include "platform/headless/window_tree.h"
 #include "platform/raster/font_library.h"
 #include "platform/world.h"
 
 #include <chrono>
 #include <deque>
 #include <memory>
-#include <vector>
 
 namespace lumtex {
 
 class HeadlessWindow;
-class HeadlessTextBox;
-class HeadlessGuideLine;
-class HeadlessTimer;
 
-/// The world that tests, benchmarks and pictures run in. Nothing happens by itself: input is queued or
-/// delivered by the verbs below, and time passes through `advance`. Positions are pixels of the desktop,
-/// whose origin is that of every top-level window's parent.
+/// The world that tests, benchmarks and pictures run in. Nothing happens by itself: input comes through the
+/// verbs below, and time passes through `advance`. Points are pixels of the desktop, or of a window's surface
+/// where one is named.
 ///
-/// Plain verbs queue the input and run the queue; those with `post` only queue.
+/// A verb with `post` only changes state: the input has happened, the pointer is where it was moved to, and
+/// the event waits until the loop runs. A plain verb also runs the loop, so that everything is delivered when
+/// it returns. The `shift` of a verb adds to the shift keys that are held on the keyboard.
 class Desktop final : public World {
   public:
+    /// Pixels that one surface may have at most.
+    static constexpr std::int64_t mostPixels = std::int64_t{1} << 26U;
+
     explicit Desktop(std::shared_ptr<raster::FontLibrary> fonts = raster::FontLibrary::ofSystem());
     ~Desktop() override;
 
     HeadlessRuntime& runtime() override { return runtime_; }
+    /// A window without a parent is shown from the start, as if its host had done so, and no UserControl_Show
+    /// comes of that.
     std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) override;
     std::unique_ptr<TextBox> createTextBox(Window& parent, TextBoxClient& client) override;
     std::unique_ptr<GuideLine> createGuideLine(Window& parent) override;
     std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) override;
+    /// Throws RuntimeError 7 for more than `mostPixels`.
     std::unique_ptr<Surface> createSurface(Long width, Long height) override;
 
     // Pointer
 
     /// A point of the window's surface, on the desktop.
     Point onDesktop(const Window& window, Single x, Single y) const;
-    Point pointer() const { return pointer_; }
-    void postMove(Point to);
+    Point onDesktop(const TextBox& box, Single x, Single y) const;
+    Point pointer() const { return pointer_.place(); }
+
+    void postMove(Point to, Integer shift = 0);
     void postPress(MouseButton button = leftButton, Integer shift = 0);
-    void postRelease(MouseButton button = leftButton, Integer shift = 0);
+    /// The second press of a double click, which two presses alone never make.
     void postDoublePress(MouseButton button = leftButton, Integer shift = 0);
+    void postRelease(MouseButton button = leftButton, Integer shift = 0);
+    /// 120 a notch, positive away from the user.
     void postWheel(Long rotation, Integer shift = 0);
-    void move(Point to);
+
+    void move(Point to, Integer shift = 0);
+    void move(const Window& window, Single x, Single y, Integer shift = 0);
+    /// Where the pointer is; the forms with a window move it there first.
     void press(MouseButton button = leftButton, Integer shift = 0);
+    void press(const Window& window, Single x, Single y, MouseButton button = leftButton, Integer shift = 0);
     void release(MouseButton button = leftButton, Integer shift = 0);
+    /// Press and release.
     void click(MouseButton button = leftButton, Integer shift = 0);
+    void click(const Window& window, Single x, Single y, MouseButton button = leftButton, Integer shift = 0);
+    /// A click, the second press, its release.
     void doubleClick(MouseButton button = leftButton, Integer shift = 0);
+    void
+    doubleClick(const Window& window, Single x, Single y, MouseButton button = leftButton, Integer shift = 0);
     /// Presses where the pointer is, moves, releases there.
     void dragTo(Point to, MouseButton button = leftButton, Integer shift = 0);
+    void dragTo(const Window& window, Single x, Single y, MouseButton button = leftButton, Integer shift = 0);
     void wheel(Long rotation, Integer shift = 0);
 
-    // Keyboard; key codes are the classic virtual key numbers
+    // Keyboard
 
+    /// A key that enters a character posts that too. Shift, Control and Alt stay held until they go up.
     void postKeyDown(Integer keyCode, Integer shift = 0);
     void postKeyUp(Integer keyCode, Integer shift = 0);
-    void postCharacter(Integer character);
+    /// A character without a key, as an input method enters it.
+    void postCharacter(Integer unit);
+
+    void keyDown(Integer keyCode, Integer shift = 0);
+    void keyUp(Integer keyCode, Integer shift = 0);
+    /// Down and up.
     void key(Integer keyCode, Integer shift = 0);
+    /// Each unit as its key goes down and up; one that has no key comes as `keys::packet`.
     void type(StringView text);
 
-    // Queue and clock
+    // Loop and clock
 
-    /// Runs what is queued, and what that queues. Stops after `longestRun` events, so that a storm that feeds
-    /// itself ends.
-    void run();
-    static constexpr int longestRun = 100000;
-    bool idle() const { return queue_.empty(); }
-    /// The next `DoEvents` runs `body` once, before anything that is queued.
-    void onYield(std::function<void()> body) { yieldHooks_.push_back(std::move(body)); }
-    /// How many yields are on the stack.
-    int yieldDepth() const { return yieldDepth_; }
-    std::chrono::milliseconds time() const { return time_; }
-    /// Lets time pass and delivers each tick at its moment, in order of time, then of arrival.
-    void advance(std::chrono::milliseconds span);
-    /// Moves the clock without running anything; ticks that came due wait for the next run.
-    void jump(std::chrono::milliseconds span) { time_ += span; }
+    /// Queues host code.
+    void post(std::function<void()> body) { loop_.post(std::move(body)); }
+    /// Delivers until nothing waits: events, then paints, then ticks that are due. Bounded, see EventLoop.
+    void run() { loop_.run(); }
+    bool idle() const { return loop_.idle(); }
+    /// Each of the next `times` calls of `DoEvents` runs `body`, before anything that waits. Several bodies
+    /// take turns in the order in which they were given.
+    void onYield(std::function<void()> body, int times = 1);
+    /// How many yields, or open message boxes, are on the stack.
+    int yieldDepth() const { return loop_.yieldDepth(); }
+    std::chrono::milliseconds time() const { return clock_.now(); }
+    /// Lets time pass and delivers each tick at its moment, in order of time, then of arrival. A span below 0
+    /// counts as none.
+    void advance(std::chrono::milliseconds span) { loop_.advance(span); }
+    /// Moves the clock without running anything; ticks that came due wait for the next run, one a timer.
+    void jump(std::chrono::milliseconds span) { clock_.moveTo(clock_.after(span)); }
 
     // Looking
 
-    /// The window as a user sees it, with all that lies in it.
+    /// The window as a user sees it, with all that lies in it, the pointer left out.
     Bitmap screenshot(const Window& window) const;
+    /// The window that has the focus; none also where a text box has it.
     Window* focus() const;
+    /// The window or text box that has the focus, or the mouse; 0 for none.
+    WindowHandle focused() const;
+    WindowHandle captured() const { return pointer_.captured(); }
+
+    // For what the desktop makes
+
+    WindowTree& tree() { return tree_; }
+    const WindowTree& tree() const { return tree_; }
+    Focus& keyFocus() { return focus_; }
+    Pointer& mouse() { return pointer_; }
+    const std::shared_ptr<raster::FontLibrary>& fonts() const { return fonts_; }
+    /// The pane, or what it lies in, was hidden or disabled.
+    void inputLost(const Pane& pane);
+    void postPaint(const Pane& pane);
+    EventLoop& loop() { return loop_; }
+    /// One yield of the control, with its hook.
+    void yield();
+    /// Throws RuntimeError 7 for more than `mostPixels`.
+    static void refuseHugeSize(Long width, Long height);
 
   private:
-    friend class HeadlessWindow;
-    friend class HeadlessTextBox;
-    friend class HeadlessTimer;
-    friend class HeadlessRuntime;
+    struct YieldHook {
+        std::function<void()> body;
+        int times;
+    };
 
-    void doEvents();
-    void post(std::function<void()> deliver);
-    bool deliverOne();
-    HeadlessTimer* dueTimer();
-    HeadlessWindow* windowAt(Point point) const;
-    HeadlessWindow* mouseTarget() const;
-    HeadlessWindow* find(WindowHandle handle) const;
-    void deliverMouse(void (UserControl::*handler)(Integer, Integer, Single, Single),
-                      HeadlessWindow& target,
-                      Integer button,
-                      Integer shift);
-    void deliverPress(MouseButton button, Integer shift, bool isDouble);
-    void deliverRelease(MouseButton button, Integer shift);
-    void deliverMove(Point to);
-    void setFocus(WindowHandle handle);
-    void forget(WindowHandle handle);
+    /// Throws RuntimeError 5 for a window or box that is not of this desktop.
+    Pane& paneOf(WindowHandle handle) const;
+    void runYieldHook();
+    Integer withHeldKeys(Integer shift) const;
 
     std::shared_ptr<raster::FontLibrary> fonts_;
+    WindowTree tree_;
+    TimerClock clock_;
+    EventLoop loop_{clock_};
+    Focus focus_{tree_};
+    Pointer pointer_{tree_, focus_};
+    Keyboard keyboard_{focus_};
     HeadlessRuntime runtime_;
-    std::vector<HeadlessWindow*> windows_; ///< all, in order of creation
-    std::vector<HeadlessTextBox*> textBoxes_;
-    std::vector<HeadlessGuideLine*> guideLines_;
-    std::vector<HeadlessTimer*> timers_;
-    WindowHandle nextHandle_ = 0x10001;
-    std::deque<std::function<void()>> queue_;
-    std::deque<std::function<void()>> yieldHooks_;
-    int yieldDepth_ = 0;
-    std::chrono::milliseconds time_{0};
-    Point pointer_{-1, -1};
-    Integer heldButton_ = noButton;
-    WindowHandle capture_ = 0;
-    WindowHandle pressed_ = 0; ///< the window whose press waits for its release
-    WindowHandle focus_ = 0;
+    std::deque<YieldHook> yieldHooks_;
 };
 
 } // namespace lumtex

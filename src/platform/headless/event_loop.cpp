@@ -1,75 +1,68 @@
-/// The queue and the clock of the simulated desktop.
-#include "platform/headless/desktop.h"
-#include "platform/headless/headless_widgets.h"
-
-#include <algorithm>
-#include <tuple>
+#include "platform/headless/event_loop.h"
 
 namespace lumtex {
 
-void Desktop::post(std::function<void()> deliver) {
-    queue_.push_back(std::move(deliver));
+namespace {
+
+/// Counts a level, also when a test leaves it by an exception.
+class Level {
+  public:
+    explicit Level(int& depth) : depth_(depth) { ++depth_; }
+    Level(const Level&) = delete;
+    Level& operator=(const Level&) = delete;
+    ~Level() { --depth_; }
+
+  private:
+    int& depth_;
+};
+
+bool deliverFirst(std::deque<std::function<void()>>& queue) {
+    if (queue.empty())
+        return false;
+    const std::function<void()> event = std::move(queue.front());
+    queue.pop_front();
+    event();
+    return true;
 }
 
-/// The timer whose tick is due first, or none.
-HeadlessTimer* Desktop::dueTimer() {
-    HeadlessTimer* next = nullptr;
-    const auto order = [](const HeadlessTimer& timer) { return std::tuple(timer.due(), timer.arrival()); };
-    for (HeadlessTimer* timer : timers_) {
-        if (timer->ticking() && timer->due() <= time_ && (next == nullptr || order(*timer) < order(*next)))
-            next = timer;
-    }
-    return next;
+} // namespace
+
+bool EventLoop::deliverOne() {
+    return deliverFirst(events_) || deliverFirst(paints_) || clock_.deliverTick();
 }
 
-bool Desktop::deliverOne() {
-    if (!queue_.empty()) {
-        const std::function<void()> deliver = std::move(queue_.front());
-        queue_.pop_front();
-        deliver();
-        return true;
-    }
-    if (HeadlessTimer* timer = dueTimer()) {
-        timer->tick(time_);
-        return true;
-    }
-    return false;
-}
-
-void Desktop::run() {
-    for (int count = 0; count < longestRun && deliverOne(); ++count) {
-    }
-}
-
-void Desktop::doEvents() {
-    ++yieldDepth_;
-    if (!yieldHooks_.empty()) {
-        const std::function<void()> hook = std::move(yieldHooks_.front());
-        yieldHooks_.pop_front();
-        hook();
-    }
-    run();
-    --yieldDepth_;
-}
-
-void Desktop::advance(std::chrono::milliseconds span) {
-    const std::chrono::milliseconds end = time_ + span;
-    run();
-    for (int count = 0; count < longestRun; ++count) {
-        std::chrono::milliseconds next = end;
-        bool due = false;
-        for (const HeadlessTimer* timer : timers_) {
-            if (timer->ticking() && timer->due() <= next) {
-                next = timer->due();
-                due = true;
-            }
+void EventLoop::run() {
+    if (runDepth_ == deepest)
+        return;
+    if (runDepth_ == 0)
+        budget_ = longestRun;
+    const Level level(runDepth_);
+    while (budget_ > 0) {
+        --budget_;
+        if (!deliverOne()) {
+            ++budget_;
+            return;
         }
-        if (!due)
-            break;
-        time_ = std::max(time_, next);
+    }
+}
+
+void EventLoop::yield(const std::function<void()>& before) {
+    if (yieldDepth_ == deepest)
+        return;
+    const Level level(yieldDepth_);
+    before();
+    run();
+}
+
+void EventLoop::advance(TimerClock::Span span) {
+    const TimerClock::Span end = clock_.after(span);
+    run();
+    // A tick that is still due after a run was kept back by a storm, and would be for ever.
+    for (auto due = clock_.nextDue(); due && *due <= end && *due > clock_.now(); due = clock_.nextDue()) {
+        clock_.moveTo(*due);
         run();
     }
-    time_ = std::max(time_, end);
+    clock_.moveTo(end);
 }
 
 } // namespace lumtex

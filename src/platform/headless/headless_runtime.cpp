@@ -6,73 +6,102 @@
 #include "platform/version.h"
 
 #include <algorithm>
-#include <cmath>
 #include <filesystem>
-#include <fstream>
 
 namespace lumtex {
 
 namespace {
 
-constexpr Long noSuchClass = 429;
+constexpr Long cannotCreateObject = 429;
+constexpr Double millisecondsPerDay = 24.0 * 60 * 60 * 1000;
 
-String lowered(StringView text) {
-    String result(text);
-    std::transform(result.begin(), result.end(), result.begin(), [](char16_t unit) {
-        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
-    });
-    return result;
+char16_t folded(char16_t unit) {
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
 }
 
-std::filesystem::path processPath() {
+/// -1, 0 or 1.
+int compareNames(StringView a, StringView b) {
+    const auto order = std::lexicographical_compare_three_way(
+        a.begin(), a.end(), b.begin(), b.end(), [](char16_t left, char16_t right) {
+            return folded(left) <=> folded(right);
+        });
+    return order < 0 ? -1 : (order > 0 ? 1 : 0);
+}
+
+std::filesystem::path programPath() {
     std::error_code failure;
     return std::filesystem::read_symlink("/proc/self/exe", failure);
 }
 
-String settingKey(StringView key, StringView name) {
-    return lowered(key) + u"\\" + lowered(name);
+String textOf(const std::filesystem::path& path) {
+    return fromUtf8(path.string());
 }
+
+/// The invariant text of a moment is a date, a time, or both with a blank between them.
+constexpr StringView startDay = u"1899-12-30";
+constexpr StringView midnight = u"00:00:00";
 
 } // namespace
 
+bool HeadlessRuntime::NameOrder::operator()(StringView a, StringView b) const {
+    return compareNames(a, b) < 0;
+}
+
+bool HeadlessRuntime::SettingOrder::operator()(const Key& a, const Key& b) const {
+    const int keys = compareNames(a.first, b.first);
+    return keys != 0 ? keys < 0 : compareNames(a.second, b.second) < 0;
+}
+
 HeadlessRuntime::HeadlessRuntime(Desktop& desktop)
     : componentInfo{.exeName = u"LumtexListView",
-                    .folder = fromUtf8(processPath().parent_path().string()),
+                    .folder = textOf(programPath().parent_path()),
                     .major = versionMajor,
                     .minor = versionMinor,
                     .revision = versionRevision},
       desktop_(desktop) {}
 
 void HeadlessRuntime::DoEvents() {
-    desktop_.doEvents();
+    desktop_.yield();
 }
 
 void HeadlessRuntime::messageBox(StringView text, Long style, StringView title) {
     boxes.push_back({String(text), style, String(title)});
-    if (whileBoxIsOpen)
-        whileBoxIsOpen();
+    // A copy, since the host may replace it while it runs.
+    desktop_.loop().yield([answer = whileBoxIsOpen] {
+        if (answer)
+            answer();
+    });
 }
 
 String HeadlessRuntime::currentExePath() const {
-    return fromUtf8(processPath().string());
+    return textOf(programPath());
 }
 
 String HeadlessRuntime::setting(StringView key, StringView name) const {
-    const auto found = settings_.find(settingKey(key, name));
+    const auto found = settings_.find({String(key), String(name)});
     return found != settings_.end() ? found->second : String{};
 }
 
 void HeadlessRuntime::letSetting(StringView key, StringView name, StringView text) {
-    settings_[settingKey(key, name)] = text;
+    settings_[{String(key), String(name)}] = text;
+}
+
+Date HeadlessRuntime::now() const {
+    return {clock.days + static_cast<Double>(desktop_.time().count()) / millisecondsPerDay};
 }
 
 String HeadlessRuntime::dateText(Date date) const {
-    return textFromDate(Date{std::floor(date.days)});
+    const String text = textFromDate(date);
+    const bool isTimeAlone = text.find(u'-') == String::npos;
+    return isTimeAlone ? String(startDay) : text.substr(0, text.find(u' '));
 }
 
 String HeadlessRuntime::timeText(Date date) const {
-    const Double time = date.days - std::floor(date.days);
-    return time == 0 ? String(u"00:00:00") : textFromDate(Date{time});
+    const String text = textFromDate(date);
+    if (text.find(u'-') == String::npos)
+        return text;
+    const std::size_t gap = text.find(u' ');
+    return gap != String::npos ? text.substr(gap + 1) : String(midnight);
 }
 
 std::optional<Double> HeadlessRuntime::numberFromText(StringView text) const {
@@ -82,19 +111,10 @@ std::optional<Date> HeadlessRuntime::dateFromText(StringView text) const {
     return lumtex::dateFromText(text);
 }
 
-void HeadlessRuntime::appendToFile(StringView path, StringView text) {
-    std::string native = toUtf8(path);
-    std::replace(native.begin(), native.end(), '\\', '/');
-    std::ofstream file(native, std::ios::binary | std::ios::app);
-    file << toUtf8(text);
-    if (!file.flush())
-        throw RuntimeError(pathNotFound);
-}
-
 ObjectRef HeadlessRuntime::createObject(StringView programId) {
     const auto found = factories.find(String(programId));
-    if (found == factories.end())
-        throw RuntimeError(noSuchClass);
+    if (found == factories.end() || !found->second)
+        throw RuntimeError(cannotCreateObject);
     return found->second();
 }
 

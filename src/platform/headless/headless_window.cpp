@@ -1,109 +1,127 @@
 #include "platform/headless/headless_window.h"
 
+#include "platform/headless/headless_guide_line.h"
+#include "platform/raster/canvas.h"
 #include "platform/rounding.h"
 
 #include <algorithm>
 
 namespace lumtex {
 
-HeadlessWindow::HeadlessWindow(Desktop& desktop,
-                               HeadlessWindow* parent,
-                               UserControl& client,
-                               WindowHandle handle)
-    : desktop_(desktop), parent_(parent), client_(client), handle_(handle), surface_(0, 0, desktop.fonts_) {
-    desktop_.windows_.push_back(this);
-}
+namespace {
+
+constexpr std::uint32_t guideColor = 0xFF000000U; // 0xAARRGGBB
+
+} // namespace
+
+HeadlessWindow::HeadlessWindow(Desktop& desktop, Pane* parent, UserControl& client)
+    : Pane(desktop.tree(), parent), desktop_(desktop), client_(client), surface_(0, 0, desktop.fonts()) {}
 
 HeadlessWindow::~HeadlessWindow() {
-    std::erase(desktop_.windows_, this);
-    for (HeadlessWindow* window : desktop_.windows_) {
-        if (window->parent_ == this)
-            window->parent_ = nullptr;
-    }
-    desktop_.forget(handle_);
+    for (HeadlessGuideLine* guide : guides_)
+        guide->loseParent();
 }
 
 void HeadlessWindow::place(Single left, Single top, Single width, Single height) {
-    left_ = roundToLong(left);
-    top_ = roundToLong(top);
+    const Point corner{roundToLong(left), roundToLong(top)};
     const Long newWidth = std::max<Long>(roundToLong(width), 0);
     const Long newHeight = std::max<Long>(roundToLong(height), 0);
-    if (newWidth == surface_.scaleWidth() && newHeight == surface_.scaleHeight())
-        return;
-    surface_.resize(newWidth, newHeight);
-    client_.UserControl_Resize();
+    const bool resized = newWidth != surface_.scaleWidth() || newHeight != surface_.scaleHeight();
+    if (resized) {
+        Desktop::refuseHugeSize(newWidth, newHeight);
+        surface_.resize(newWidth, newHeight);
+    }
+    letArea(corner, newWidth, newHeight);
+    if (resized)
+        client_.UserControl_Resize();
 }
 
 void HeadlessWindow::letVisible(bool visible) {
     visible_ = visible;
-    if (visible && !wasShown_) {
+    if (!visible) {
+        desktop_.inputLost(*this);
+    } else if (!wasShown_) {
         wasShown_ = true;
         client_.UserControl_Show();
     }
 }
 
+void HeadlessWindow::letEnabled(bool enabled) {
+    enabled_ = enabled;
+    if (!enabled)
+        desktop_.inputLost(*this);
+}
+
 void HeadlessWindow::setFocus() {
-    desktop_.setFocus(handle_);
+    desktop_.keyFocus().moveTo(*this);
 }
 void HeadlessWindow::setCapture() {
-    desktop_.capture_ = handle_;
+    desktop_.mouse().capture(*this);
 }
-
 void HeadlessWindow::releaseCapture() {
-    if (desktop_.capture_ == handle_)
-        desktop_.capture_ = 0;
-}
-
-Point HeadlessWindow::origin() const {
-    Point origin{left_, top_};
-    for (const HeadlessWindow* window = parent_; window != nullptr; window = window->parent_) {
-        origin.x += window->left_;
-        origin.y += window->top_;
-    }
-    return origin;
-}
-
-bool HeadlessWindow::shown() const {
-    return visible_ && (parent_ == nullptr || parent_->shown());
-}
-bool HeadlessWindow::takesInput() const {
-    return enabled_ && (parent_ == nullptr || parent_->takesInput());
-}
-
-bool HeadlessWindow::contains(Point onDesktop) const {
-    const Point at = origin();
-    const bool inside = onDesktop.x >= at.x && onDesktop.y >= at.y &&
-                        onDesktop.x < at.x + surface_.scaleWidth() &&
-                        onDesktop.y < at.y + surface_.scaleHeight();
-    return inside && (parent_ == nullptr || parent_->contains(onDesktop));
+    desktop_.mouse().releaseCapture(*this);
 }
 
 bool HeadlessWindow::underPointer() const {
-    return desktop_.windowAt(desktop_.pointer_) == this;
+    return desktop_.tree().at(desktop_.pointer()) == this;
 }
 
 bool HeadlessWindow::pointerStrictlyInside() const {
-    const Point at = origin();
-    const Point point = desktop_.pointer_;
-    return underPointer() && at.x < point.x && at.y < point.y && at.x + surface_.scaleWidth() > point.x &&
-           at.y + surface_.scaleHeight() > point.y;
+    // Right and lower bounds lie outside, so that only the first row and column count as outside too.
+    const Point at = pointer();
+    return underPointer() && at.x > 0 && at.y > 0;
 }
 
 Point HeadlessWindow::pointer() const {
-    const Point at = origin();
-    return {desktop_.pointer_.x - at.x, desktop_.pointer_.y - at.y};
+    return fromDesktop(desktop_.pointer());
 }
 
 bool HeadlessWindow::adopt(WindowHandle child) {
-    HeadlessWindow* window = desktop_.find(child);
-    // A window cannot lie in itself, nor in what lies in it.
-    for (const HeadlessWindow* outer = this; outer != nullptr; outer = outer->parent_) {
-        if (outer == window)
-            return false;
-    }
-    if (window == nullptr)
+    Pane* pane = desktop_.tree().find(child);
+    if (pane == nullptr || !desktop_.tree().adopt(*this, *pane))
         return false;
-    window->parent_ = this;
+    if (!pane->takesInput())
+        desktop_.inputLost(*pane);
+    return true;
+}
+
+void HeadlessWindow::present() {
+    ++presented_;
+    if (std::exchange(paintWaits_, true))
+        return;
+    desktop_.postPaint(*this);
+}
+
+void HeadlessWindow::paint() {
+    paintWaits_ = false;
+    ++painted_;
+}
+
+Bitmap HeadlessWindow::picture() const {
+    Bitmap picture = surface_.image();
+    const raster::Canvas canvas{picture.pixels.data(), picture.width, picture.height};
+    for (const HeadlessGuideLine* guide : guides_) {
+        if (guide->Visible())
+            raster::drawLine(canvas, guide->from(), guide->to(), guideColor);
+    }
+    return picture;
+}
+
+void HeadlessWindow::mouseDown(Integer button, Integer shift, Point at) {
+    client_.UserControl_MouseDown(button, shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
+}
+void HeadlessWindow::doubleClick(Point /*at*/) {
+    client_.UserControl_DblClick();
+}
+void HeadlessWindow::mouseMove(Integer buttons, Integer shift, Point at) {
+    client_.UserControl_MouseMove(buttons, shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
+}
+void HeadlessWindow::mouseUp(Integer button, Integer shift, Point at) {
+    client_.UserControl_MouseUp(button, shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
+}
+
+bool HeadlessWindow::wheel(Long rotation, Integer shift, Point at) {
+    client_.UserControl_Wheel(rotation, shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
     return true;
 }
 

@@ -3,27 +3,33 @@
 #pragma once
 
 #include "platform/headless/desktop.h"
+#include "platform/headless/pane.h"
 #include "platform/raster/raster_surface.h"
 
 namespace lumtex {
 
-class HeadlessWindow final : public Window {
+class HeadlessGuideLine;
+
+class HeadlessWindow final : public Window, public Pane {
   public:
-    HeadlessWindow(Desktop& desktop, HeadlessWindow* parent, UserControl& client, WindowHandle handle);
+    HeadlessWindow(Desktop& desktop, Pane* parent, UserControl& client);
     ~HeadlessWindow() override;
 
-    WindowHandle hWnd() const override { return handle_; }
+    WindowHandle hWnd() const override { return handle(); }
     RasterSurface& surface() override { return surface_; }
     const RasterSurface& surface() const { return surface_; }
-    Single Left() const override { return static_cast<Single>(left_); }
-    Single Top() const override { return static_cast<Single>(top_); }
+    Single Left() const override { return static_cast<Single>(area().Left); }
+    Single Top() const override { return static_cast<Single>(area().Top); }
     Single Width() const override { return static_cast<Single>(surface_.scaleWidth()); }
     Single Height() const override { return static_cast<Single>(surface_.scaleHeight()); }
+    /// Throws RuntimeError 6 for a place that is no 32-bit number, and 7 for a size past
+    /// `Desktop::mostPixels`; the window then stays as it was.
     void place(Single left, Single top, Single width, Single height) override;
-    bool Visible() const override { return visible_; }
+    bool Visible() const override { return isVisible(); }
+    /// Hiding it, or disabling it, passes on a focus and ends a capture in it.
     void letVisible(bool visible) override;
-    bool Enabled() const override { return enabled_; }
-    void letEnabled(bool enabled) override { enabled_ = enabled; }
+    bool Enabled() const override { return isEnabled(); }
+    void letEnabled(bool enabled) override;
     Integer OLEDropMode() const override { return oleDropMode_; }
     void letOLEDropMode(Integer mode) override { oleDropMode_ = mode; }
     Integer MousePointer() const override { return mousePointer_; }
@@ -37,37 +43,44 @@ class HeadlessWindow final : public Window {
     Point pointer() const override;
     bool underPointer() const override;
     bool adopt(WindowHandle child) override;
-    void present() override { ++presented_; }
+    void present() override;
 
-    /// How often the screen was asked to show the surface.
+    /// How often the screen was asked to show the surface, and how many paints came of it. Requests that come
+    /// before their paint share one.
     int presented() const { return presented_; }
-    HeadlessWindow* parent() const { return parent_; }
-    UserControl& client() const { return client_; }
-    /// The left upper corner on the desktop.
-    Point origin() const;
-    /// Shown, and so are all windows that it lies in.
-    bool shown() const;
-    /// Enabled, and so are all windows that it lies in.
-    bool takesInput() const;
-    bool contains(Point onDesktop) const;
+    int painted() const { return painted_; }
+
+    void addGuide(HeadlessGuideLine& guide) { guides_.push_back(&guide); }
+    void removeGuide(HeadlessGuideLine& guide) { std::erase(guides_, &guide); }
+
+    Bitmap picture() const override;
+    void mouseDown(Integer button, Integer shift, Point at) override;
+    void doubleClick(Point at) override;
+    void mouseMove(Integer buttons, Integer shift, Point at) override;
+    void mouseUp(Integer button, Integer shift, Point at) override;
+    void click() override { client_.UserControl_Click(); }
+    void keyDown(Integer keyCode, Integer shift) override { client_.UserControl_KeyDown(keyCode, shift); }
+    void character(Integer unit) override { client_.UserControl_KeyPress(unit); }
+    void keyUp(Integer keyCode, Integer shift) override { client_.UserControl_KeyUp(keyCode, shift); }
+    void gotFocus() override { client_.UserControl_GotFocus(); }
+    void lostFocus() override { client_.UserControl_LostFocus(); }
+    bool wheel(Long rotation, Integer shift, Point at) override;
+    void paint() override;
 
   private:
     friend class Desktop;
 
     Desktop& desktop_;
-    HeadlessWindow* parent_;
     UserControl& client_;
-    WindowHandle handle_;
     RasterSurface surface_;
-    Long left_ = 0;
-    Long top_ = 0;
-    bool visible_ = false;
+    std::vector<HeadlessGuideLine*> guides_;
     bool wasShown_ = false;
-    bool enabled_ = true;
+    bool paintWaits_ = false;
     Integer oleDropMode_ = 0;
     Integer mousePointer_ = pointerDefault;
     PictureRef mouseIcon_;
     int presented_ = 0;
+    int painted_ = 0;
 };
 
 } // namespace lumtex

@@ -1,110 +1,69 @@
-/// Pointer and keyboard of the simulated desktop.
+/// What a user does: the verbs of pointer and keyboard.
 #include "platform/headless/desktop.h"
-#include "platform/headless/headless_widgets.h"
+#include "platform/headless/headless_window.h"
 #include "platform/rounding.h"
 
 namespace lumtex {
 
 namespace {
 
-constexpr Integer lastControlCharacterKey = 31;
-
-} // namespace
-
-Point Desktop::onDesktop(const Window& window, Single x, Single y) const {
-    const Point origin = static_cast<const HeadlessWindow&>(window).origin();
+Point shifted(Point origin, Single x, Single y) {
     return {origin.x + roundToLong(x), origin.y + roundToLong(y)};
 }
 
-HeadlessWindow* Desktop::mouseTarget() const {
-    HeadlessWindow* target = capture_ != 0 ? find(capture_) : windowAt(pointer_);
-    return target != nullptr && target->takesInput() ? target : nullptr;
+} // namespace
+
+Integer Desktop::withHeldKeys(Integer shift) const {
+    return static_cast<Integer>(shift | keyboard_.shift());
 }
 
-void Desktop::deliverMouse(void (UserControl::*handler)(Integer, Integer, Single, Single),
-                           HeadlessWindow& target,
-                           Integer button,
-                           Integer shift) {
-    const Point at = target.pointer();
-    (target.client().*handler)(button, shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
+Point Desktop::onDesktop(const Window& window, Single x, Single y) const {
+    return shifted(paneOf(window.hWnd()).origin(), x, y);
 }
 
-void Desktop::deliverMove(Point to) {
-    pointer_ = to;
-    if (HeadlessWindow* target = mouseTarget())
-        deliverMouse(&UserControl::UserControl_MouseMove, *target, heldButton_, 0);
+Point Desktop::onDesktop(const TextBox& box, Single x, Single y) const {
+    return shifted(paneOf(box.hWnd()).origin(), x, y);
 }
 
-void Desktop::deliverPress(MouseButton button, Integer shift, bool isDouble) {
-    heldButton_ = static_cast<Integer>(heldButton_ | button);
-    HeadlessWindow* target = mouseTarget();
-    if (target == nullptr)
-        return;
-    // A window that was pressed gets all that follows, up to the release.
-    if (capture_ == 0)
-        capture_ = target->hWnd();
-    pressed_ = target->hWnd();
-    setFocus(pressed_);
-    target = find(pressed_);
-    if (target == nullptr)
-        return;
-    if (isDouble)
-        target->client().UserControl_DblClick();
-    else
-        deliverMouse(&UserControl::UserControl_MouseDown, *target, button, shift);
-}
-
-void Desktop::deliverRelease(MouseButton button, Integer shift) {
-    heldButton_ = static_cast<Integer>(heldButton_ & ~button);
-    HeadlessWindow* target = mouseTarget();
-    const WindowHandle pressed = std::exchange(pressed_, 0);
-    if (target == nullptr)
-        return;
-    if (capture_ == pressed)
-        capture_ = 0;
-    const WindowHandle handle = target->hWnd();
-    deliverMouse(&UserControl::UserControl_MouseUp, *target, button, shift);
-    // The handler may have destroyed the window, or moved it away.
-    target = find(handle);
-    if (target != nullptr && handle == pressed && target->contains(pointer_))
-        target->client().UserControl_Click();
-}
-
-void Desktop::postMove(Point to) {
-    post([this, to] { deliverMove(to); });
+void Desktop::postMove(Point to, Integer shift) {
+    post([this, event = pointer_.moveTo(to, withHeldKeys(shift))] { pointer_.deliverMove(event); });
 }
 
 void Desktop::postPress(MouseButton button, Integer shift) {
-    post([this, button, shift] { deliverPress(button, shift, false); });
+    post([this, event = pointer_.press(button, withHeldKeys(shift))] { pointer_.deliverPress(event); });
 }
 
 void Desktop::postDoublePress(MouseButton button, Integer shift) {
-    post([this, button, shift] { deliverPress(button, shift, true); });
+    post([this, event = pointer_.press(button, withHeldKeys(shift))] { pointer_.deliverDoublePress(event); });
 }
 
 void Desktop::postRelease(MouseButton button, Integer shift) {
-    post([this, button, shift] { deliverRelease(button, shift); });
+    post([this, event = pointer_.release(button, withHeldKeys(shift))] { pointer_.deliverRelease(event); });
 }
 
 void Desktop::postWheel(Long rotation, Integer shift) {
-    post([this, rotation, shift] {
-        HeadlessWindow* target = windowAt(pointer_);
-        if (target == nullptr || !target->takesInput())
-            return;
-        const Point at = target->pointer();
-        target->client().UserControl_Wheel(
-            rotation, shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
+    post([this, rotation, event = pointer_.turnWheel(withHeldKeys(shift))] {
+        pointer_.deliverWheel(event, rotation);
     });
 }
 
-void Desktop::move(Point to) {
-    postMove(to);
+void Desktop::move(Point to, Integer shift) {
+    postMove(to, shift);
     run();
+}
+
+void Desktop::move(const Window& window, Single x, Single y, Integer shift) {
+    move(onDesktop(window, x, y), shift);
 }
 
 void Desktop::press(MouseButton button, Integer shift) {
     postPress(button, shift);
     run();
+}
+
+void Desktop::press(const Window& window, Single x, Single y, MouseButton button, Integer shift) {
+    move(window, x, y, shift);
+    press(button, shift);
 }
 
 void Desktop::release(MouseButton button, Integer shift) {
@@ -117,6 +76,11 @@ void Desktop::click(MouseButton button, Integer shift) {
     release(button, shift);
 }
 
+void Desktop::click(const Window& window, Single x, Single y, MouseButton button, Integer shift) {
+    move(window, x, y, shift);
+    click(button, shift);
+}
+
 void Desktop::doubleClick(MouseButton button, Integer shift) {
     click(button, shift);
     postDoublePress(button, shift);
@@ -124,10 +88,19 @@ void Desktop::doubleClick(MouseButton button, Integer shift) {
     release(button, shift);
 }
 
+void Desktop::doubleClick(const Window& window, Single x, Single y, MouseButton button, Integer shift) {
+    move(window, x, y, shift);
+    doubleClick(button, shift);
+}
+
 void Desktop::dragTo(Point to, MouseButton button, Integer shift) {
     press(button, shift);
-    move(to);
+    move(to, shift);
     release(button, shift);
+}
+
+void Desktop::dragTo(const Window& window, Single x, Single y, MouseButton button, Integer shift) {
+    dragTo(onDesktop(window, x, y), button, shift);
 }
 
 void Desktop::wheel(Long rotation, Integer shift) {
@@ -136,48 +109,46 @@ void Desktop::wheel(Long rotation, Integer shift) {
 }
 
 void Desktop::postKeyDown(Integer keyCode, Integer shift) {
-    post([this, keyCode, shift] {
-        if (HeadlessWindow* target = find(focus_); target != nullptr && target->takesInput())
-            target->client().UserControl_KeyDown(keyCode, shift);
-    });
+    keyboard_.hold(keyCode);
+    const Integer held = withHeldKeys(shift);
+    post([this, keyCode, held] { keyboard_.deliverKeyDown(keyCode, held); });
+    if (const Integer unit = characterOf(keyCode, held))
+        postCharacter(unit);
 }
 
 void Desktop::postKeyUp(Integer keyCode, Integer shift) {
-    post([this, keyCode, shift] {
-        if (HeadlessWindow* target = find(focus_); target != nullptr && target->takesInput())
-            target->client().UserControl_KeyUp(keyCode, shift);
-    });
+    keyboard_.letGo(keyCode);
+    post([this, keyCode, held = withHeldKeys(shift)] { keyboard_.deliverKeyUp(keyCode, held); });
 }
 
-void Desktop::postCharacter(Integer character) {
-    post([this, character] {
-        if (HeadlessWindow* target = find(focus_); target != nullptr && target->takesInput()) {
-            target->client().UserControl_KeyPress(character);
-            return;
-        }
-        for (HeadlessTextBox* box : textBoxes_) {
-            if (box->hWnd() == focus_ && box->parent().takesInput()) {
-                box->enter(character);
-                return;
-            }
-        }
-    });
+void Desktop::postCharacter(Integer unit) {
+    post([this, unit] { keyboard_.deliverCharacter(unit); });
 }
 
-void Desktop::key(Integer keyCode, Integer shift) {
+void Desktop::keyDown(Integer keyCode, Integer shift) {
     postKeyDown(keyCode, shift);
-    // Enter, Escape and their like are characters too.
-    if (keyCode <= lastControlCharacterKey &&
-        (keyCode == 8 || keyCode == 9 || keyCode == 13 || keyCode == 27))
-        postCharacter(keyCode);
+    run();
+}
+
+void Desktop::keyUp(Integer keyCode, Integer shift) {
     postKeyUp(keyCode, shift);
     run();
 }
 
+void Desktop::key(Integer keyCode, Integer shift) {
+    keyDown(keyCode, shift);
+    keyUp(keyCode, shift);
+}
+
 void Desktop::type(StringView text) {
-    for (const char16_t unit : text)
-        postCharacter(static_cast<Integer>(unit));
-    run();
+    for (const char16_t unit : text) {
+        const KeyStroke stroke = keyStrokeOf(unit);
+        postKeyDown(stroke.keyCode, stroke.shift);
+        if (stroke.keyCode == keys::packet)
+            postCharacter(static_cast<Integer>(unit));
+        postKeyUp(stroke.keyCode, stroke.shift);
+        run();
+    }
 }
 
 } // namespace lumtex

@@ -1,7 +1,5 @@
 /// What a user would see of a window.
 #include "platform/headless/desktop.h"
-#include "platform/headless/headless_widgets.h"
-#include "platform/raster/canvas.h"
 
 #include <algorithm>
 
@@ -9,51 +7,46 @@ namespace lumtex {
 
 namespace {
 
-/// Copies `source` to (`left`, `top`) of `target`, clipped.
-void lay(Bitmap& target, const Bitmap& source, Long left, Long top) {
-    const raster::Canvas canvas{target.pixels.data(), target.width, target.height};
-    raster::blendPicture(canvas,
-                         source,
-                         {0, 0, source.width, source.height},
-                         {left, top, left + source.width, top + source.height});
+/// Places in 64 bits, since they are sums of numbers that may be anywhere in 32.
+struct Clip {
+    std::int64_t left;
+    std::int64_t top;
+    std::int64_t right;
+    std::int64_t bottom;
+
+    bool isEmpty() const { return left >= right || top >= bottom; }
+};
+
+/// Copies the part of `source`, whose corner lies at (`x`, `y`) of `target`, that `clip` lets through.
+void lay(Bitmap& target, const Bitmap& source, std::int64_t x, std::int64_t y, const Clip& clip) {
+    const Long columns = static_cast<Long>(clip.right - clip.left);
+    for (std::int64_t row = clip.top; row < clip.bottom; ++row) {
+        const std::uint32_t* from = source.pixels.data() + (row - y) * source.width + (clip.left - x);
+        std::copy_n(from, columns, target.pixels.data() + row * target.width + clip.left);
+    }
+}
+
+void compose(Bitmap& target, const Pane& pane, std::int64_t x, std::int64_t y, const Clip& outer) {
+    const std::int64_t width = std::int64_t{pane.area().Right} - pane.area().Left;
+    const std::int64_t height = std::int64_t{pane.area().Bottom} - pane.area().Top;
+    const Clip clip{std::max(outer.left, x),
+                    std::max(outer.top, y),
+                    std::min(outer.right, x + width),
+                    std::min(outer.bottom, y + height)};
+    if (clip.isEmpty())
+        return;
+    lay(target, pane.picture(), x, y, clip);
+    for (const Pane* child : pane.children()) {
+        if (child->isVisible())
+            compose(target, *child, x + child->area().Left, y + child->area().Top, clip);
+    }
 }
 
 } // namespace
 
 Bitmap Desktop::screenshot(const Window& window) const {
-    const auto& shown = static_cast<const HeadlessWindow&>(window);
-    Bitmap picture = shown.surface().image();
-    const raster::Canvas canvas{picture.pixels.data(), picture.width, picture.height};
-    for (const HeadlessGuideLine* line : guideLines_) {
-        if (&line->parent() == &shown && line->Visible()) {
-            raster::drawLine(canvas,
-                             {static_cast<Long>(line->X1()), static_cast<Long>(line->Y1())},
-                             {static_cast<Long>(line->X2()), static_cast<Long>(line->Y2())},
-                             0xFF000000U);
-        }
-    }
-    for (const HeadlessWindow* child : windows_) {
-        if (child->parent() == &shown && child->Visible())
-            lay(picture, screenshot(*child), child->left_, child->top_);
-    }
-    for (const HeadlessTextBox* box : textBoxes_) {
-        if (&box->parent() != &shown || !box->Visible())
-            continue;
-        RasterSurface field(static_cast<Long>(box->Width()), static_cast<Long>(box->Height()), fonts_);
-        field.setFont(box->font());
-        field.letForeColor(box->ForeColor());
-        const String text = box->Text();
-        const auto start = static_cast<std::size_t>(box->SelStart());
-        const auto length = static_cast<std::size_t>(box->SelLength());
-        const Single from = 1 + field.textWidth(StringView(text).substr(0, start));
-        const Single to = from + field.textWidth(StringView(text).substr(start, length));
-        if (length > 0)
-            field.fillBox(from, 0, to, box->Height(), 0x8000000DU);
-        field.letCurrentX(1);
-        field.letCurrentY((box->Height() - field.textHeight(text)) / 2);
-        field.print(text);
-        lay(picture, field.image(), static_cast<Long>(box->Left()), static_cast<Long>(box->Top()));
-    }
+    Bitmap picture(static_cast<Long>(window.Width()), static_cast<Long>(window.Height()));
+    compose(picture, paneOf(window.hWnd()), 0, 0, {0, 0, picture.width, picture.height});
     return picture;
 }
 

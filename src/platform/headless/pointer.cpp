@@ -1,0 +1,105 @@
+#include "platform/headless/pointer.h"
+
+#include <utility>
+
+namespace lumtex {
+
+Pointer::Event Pointer::moveTo(Point place, Integer shift) {
+    place_ = place;
+    return {place_, noButton, buttons_, shift};
+}
+
+Pointer::Event Pointer::press(MouseButton button, Integer shift) {
+    buttons_ = static_cast<Integer>(buttons_ | button);
+    return {place_, button, buttons_, shift};
+}
+
+Pointer::Event Pointer::release(MouseButton button, Integer shift) {
+    buttons_ = static_cast<Integer>(buttons_ & ~button);
+    return {place_, button, buttons_, shift};
+}
+
+Pointer::Event Pointer::turnWheel(Integer shift) const {
+    return {place_, noButton, buttons_, shift};
+}
+
+Pane* Pointer::targetOf(const Event& event) const {
+    return captured_ != 0 ? tree_.find(captured_) : tree_.at(event.at);
+}
+
+void Pointer::deliverMove(const Event& event) {
+    if (Pane* target = targetOf(event))
+        target->mouseMove(event.buttons, event.shift, target->fromDesktop(event.at));
+}
+
+Pane* Pointer::pressTarget(const Event& event) {
+    Pane* target = targetOf(event);
+    if (target == nullptr)
+        return nullptr;
+    const WindowHandle handle = target->handle();
+    captured_ = handle;
+    // A window whose child has the focus does not take it away: an open editor stays open until the window
+    // has decided what to do with it.
+    const Pane* held = focus_.holder();
+    if (held == nullptr || !held->isWithin(*target))
+        focus_.moveTo(*target);
+    target = tree_.find(handle);
+    return target != nullptr && target->takesInput() ? target : nullptr;
+}
+
+void Pointer::deliverPress(const Event& event) {
+    Pane* target = pressTarget(event);
+    if (target == nullptr)
+        return;
+    pressed_ = target->handle();
+    pressedButton_ = event.button;
+    target->mouseDown(event.button, event.shift, target->fromDesktop(event.at));
+}
+
+void Pointer::deliverDoublePress(const Event& event) {
+    pressed_ = 0;
+    if (Pane* target = pressTarget(event))
+        target->doubleClick(target->fromDesktop(event.at));
+}
+
+void Pointer::deliverRelease(const Event& event) {
+    Pane* target = targetOf(event);
+    const bool endsPress = event.button == pressedButton_;
+    const WindowHandle pressed = endsPress ? std::exchange(pressed_, 0) : 0;
+    if (event.buttons == noButton)
+        captured_ = 0;
+    if (target == nullptr)
+        return;
+    const WindowHandle handle = target->handle();
+    target->mouseUp(event.button, event.shift, target->fromDesktop(event.at));
+    target = tree_.find(handle);
+    if (target != nullptr && handle == pressed && target->takesInput() && target->covers(event.at))
+        target->click();
+}
+
+void Pointer::deliverWheel(const Event& event, Long rotation) {
+    Pane* target = tree_.at(event.at);
+    while (target != nullptr && !target->wheel(rotation, event.shift, target->fromDesktop(event.at)))
+        target = target->parent();
+}
+
+void Pointer::capture(const Pane& pane) {
+    if (pane.takesInput())
+        captured_ = pane.handle();
+}
+
+void Pointer::releaseCapture(const Pane& pane) {
+    if (captured_ == pane.handle())
+        captured_ = 0;
+}
+
+void Pointer::forget(const Pane& pane) {
+    const Pane* captured = tree_.find(captured_);
+    if (captured != nullptr && captured->isWithin(pane))
+        captured_ = 0;
+    const Pane* pressed = tree_.find(pressed_);
+    if (pressed != nullptr && pressed->isWithin(pane))
+        pressed_ = 0;
+}
+
+} // namespace lumtex
