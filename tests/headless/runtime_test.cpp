@@ -1,0 +1,207 @@
+#include "desktop_fixture.h"
+#include "error_number.h"
+#include "platform/text.h"
+#include "platform/version.h"
+#include "test_object.h"
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace lumtex::testing {
+
+using MessageBoxes = DesktopFixture;
+using RuntimeRules = DesktopFixture;
+
+TEST_F(MessageBoxes, AreNotedWithTextStyleAndTitle) {
+    desktop.runtime().messageBox(u"Min darf nicht größer sein als Max!", boxCritical, u"");
+    desktop.runtime().messageBox(u"b", boxPlain, u"Error");
+    ASSERT_EQ(desktop.runtime().boxes.size(), 2U);
+    EXPECT_EQ(desktop.runtime().boxes[0].text, u"Min darf nicht größer sein als Max!");
+    EXPECT_EQ(desktop.runtime().boxes[0].style, boxCritical);
+    EXPECT_EQ(desktop.runtime().boxes[0].title, u"");
+    EXPECT_EQ(desktop.runtime().boxes[1].title, u"Error");
+}
+
+TEST_F(MessageBoxes, LetHostCodeAndWaitingEventsRunWhileTheyAreOpen) {
+    desktop.runtime().whileBoxIsOpen = [this] { events.record("host"); };
+    desktop.postMove({15, 25});
+    desktop.runtime().messageBox(u"", boxPlain, u"");
+    events.record("dismissed");
+    EXPECT_TRUE(sameLog(events.take(), {"  host", "  a.MouseMove Button=0 Shift=0 X=5 Y=5", "dismissed"}));
+}
+
+TEST_F(MessageBoxes, ASecondBoxComesOnTopOfTheFirst) {
+    events.on("a.MouseMove", [this] {
+        events.record("second");
+        desktop.runtime().messageBox(u"second", boxPlain, u"");
+    });
+    desktop.runtime().whileBoxIsOpen = [this] {
+        events.record("open", {{"boxes", static_cast<Long>(desktop.runtime().boxes.size())}});
+    };
+    desktop.postMove({15, 25});
+    desktop.runtime().messageBox(u"first", boxPlain, u"");
+    EXPECT_TRUE(sameLog(
+        events.take(),
+        {"  open boxes=1", "  a.MouseMove Button=0 Shift=0 X=5 Y=5", "  second", "    open boxes=2"}));
+}
+
+TEST_F(MessageBoxes, HostCodeMayTakeItselfBack) {
+    int opened = 0;
+    desktop.runtime().whileBoxIsOpen = [&] {
+        ++opened;
+        desktop.runtime().whileBoxIsOpen = nullptr;
+    };
+    desktop.runtime().messageBox(u"", boxPlain, u"");
+    desktop.runtime().messageBox(u"", boxPlain, u"");
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(MessageBoxes, BoxesThatOpenBoxesEndAtTheBound) {
+    desktop.runtime().whileBoxIsOpen = [this] {
+        desktop.post([] {});
+        desktop.runtime().messageBox(u"again", boxPlain, u"");
+    };
+    desktop.runtime().messageBox(u"first", boxPlain, u"");
+    EXPECT_EQ(desktop.runtime().boxes.size(), static_cast<std::size_t>(EventLoop::deepest) + 1);
+    EXPECT_EQ(desktop.yieldDepth(), 0);
+    EXPECT_TRUE(desktop.idle());
+}
+
+TEST_F(RuntimeRules, SettingsAreFoundInAnyCase) {
+    HeadlessRuntime& runtime = desktop.runtime();
+    EXPECT_EQ(runtime.setting(u"Software\\Lumtex", u"ErrorLog"), u"");
+    runtime.letSetting(u"Software\\Lumtex", u"ErrorLog", u"C:\\Log");
+    EXPECT_EQ(runtime.setting(u"software\\LUMTEX", u"errorLOG"), u"C:\\Log");
+    EXPECT_EQ(runtime.setting(u"Software\\Lumtex", u"Other"), u"");
+    EXPECT_EQ(runtime.setting(u"Software", u"Lumtex\\ErrorLog"), u"");
+    runtime.letSetting(u"SOFTWARE\\LUMTEX", u"ERRORLOG", u"D:\\");
+    EXPECT_EQ(runtime.setting(u"Software\\Lumtex", u"ErrorLog"), u"D:\\");
+}
+
+TEST_F(RuntimeRules, TheComponentIsTheProjectUntilATestSaysOtherwise) {
+    const ComponentInfo& info = desktop.runtime().component();
+    EXPECT_EQ(info.exeName, u"LumtexListView");
+    EXPECT_EQ(info.major, versionMajor);
+    EXPECT_EQ(info.minor, versionMinor);
+    EXPECT_EQ(info.revision, versionRevision);
+    EXPECT_TRUE(std::filesystem::is_directory(toUtf8(info.folder)));
+    desktop.runtime().componentInfo.exeName = u"Other";
+    EXPECT_EQ(info.exeName, u"Other");
+}
+
+TEST_F(RuntimeRules, TheRunningProgramIsNamed) {
+    const std::filesystem::path path = toUtf8(desktop.runtime().currentExePath());
+    EXPECT_EQ(path.filename(), "lumtex_test_headless");
+    EXPECT_TRUE(std::filesystem::exists(path));
+}
+
+TEST_F(RuntimeRules, TheDateMovesWithTheVirtualClock) {
+    HeadlessRuntime& runtime = desktop.runtime();
+    EXPECT_EQ(runtime.dateText(runtime.now()), u"2000-01-01");
+    EXPECT_EQ(runtime.timeText(runtime.now()), u"12:00:00");
+    runtime.clock = Date{45000.25};
+    desktop.advance(std::chrono::hours(24) + std::chrono::seconds(61));
+    EXPECT_EQ(runtime.dateText(runtime.now()), u"2023-03-16");
+    EXPECT_EQ(runtime.timeText(runtime.now()), u"06:01:01");
+}
+
+struct Moment {
+    const char* name;
+    Double days;
+    StringView date;
+    StringView time;
+};
+
+constexpr std::array<Moment, 6> moments{{
+    {"midnight", 36526, u"2000-01-01", u"00:00:00"},
+    {"last second", 36526.99999, u"2000-01-01", u"23:59:59"},
+    {"rounded up to the next day", 36526.999999, u"2000-01-02", u"00:00:00"},
+    {"start day", 0, u"1899-12-30", u"00:00:00"},
+    {"a time alone", 0.5, u"1899-12-30", u"12:00:00"},
+    {"before the start day the time counts forward", -1.25, u"1899-12-29", u"06:00:00"},
+}};
+
+TEST_F(RuntimeRules, DatesAndTimesHaveTheirFixedForms) {
+    for (const Moment& moment : moments) {
+        SCOPED_TRACE(moment.name);
+        EXPECT_EQ(desktop.runtime().dateText(Date{moment.days}), moment.date);
+        EXPECT_EQ(desktop.runtime().timeText(Date{moment.days}), moment.time);
+    }
+}
+
+TEST_F(RuntimeRules, TextConvertsByTheInvariantRules) {
+    EXPECT_EQ(desktop.runtime().numberFromText(u" 1.5e2 "), 150.0);
+    EXPECT_EQ(desktop.runtime().numberFromText(u"1,5"), std::nullopt);
+    EXPECT_EQ(desktop.runtime().dateFromText(u"2000-01-01"), Date{36526});
+    EXPECT_EQ(desktop.runtime().dateFromText(u"x"), std::nullopt);
+}
+
+/// A folder of its own, gone with the test.
+class AppendToFile : public DesktopFixture {
+  protected:
+    AppendToFile() { std::filesystem::create_directories(folder); }
+    ~AppendToFile() override { std::filesystem::remove_all(folder); }
+
+    static std::string contentOf(const std::filesystem::path& file) {
+        std::ifstream stream(file, std::ios::binary);
+        std::ostringstream content;
+        content << stream.rdbuf();
+        return content.str();
+    }
+    String pathTo(const std::string& name) const { return fromUtf8((folder / name).string()); }
+
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() /
+        ("lumtex_headless_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+         ::testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+TEST_F(AppendToFile, GrowsTheFileAndKeepsLineEndsAsGiven) {
+    desktop.runtime().appendToFile(pathTo("log.txt"), u"größer\r\n");
+    desktop.runtime().appendToFile(pathTo("log.txt"), u"b\n");
+    EXPECT_EQ(contentOf(folder / "log.txt"),
+              "gr\xC3\xB6\xC3\x9F"
+              "er\r\nb\n");
+}
+
+TEST_F(AppendToFile, BackslashesSeparateFolders) {
+    std::filesystem::create_directories(folder / "inner");
+    String path = pathTo("inner");
+    path += u"\\log.txt";
+    desktop.runtime().appendToFile(path, u"a");
+    EXPECT_EQ(contentOf(folder / "inner" / "log.txt"), "a");
+}
+
+TEST_F(AppendToFile, FailsWithThePathWhereTheFolderDoesNotExist) {
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(pathTo("missing\\log.txt"), u"a"); }),
+              pathNotFound);
+    EXPECT_FALSE(std::filesystem::exists(folder / "missing"));
+}
+
+TEST_F(AppendToFile, FailsWithTheAccessWhereTheFileCannotBeOpened) {
+    constexpr Long pathOrFileAccess = 75;
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(fromUtf8(folder.string()), u"a"); }),
+              pathOrFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(u"", u"a"); }), pathOrFileAccess);
+}
+
+TEST_F(RuntimeRules, ObjectsComeFromTheirFactories) {
+    constexpr Long cannotCreateObject = 429;
+    HeadlessRuntime& runtime = desktop.runtime();
+    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), cannotCreateObject);
+    const auto object = std::make_shared<TestObject>();
+    runtime.factories[u"Some.Class"] = [&] { return object; };
+    EXPECT_EQ(runtime.createObject(u"some.CLASS"), object);
+    runtime.factories[u"Some.Class"] = nullptr;
+    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), cannotCreateObject);
+}
+
+TEST_F(RuntimeRules, APixelIsFifteenTwips) {
+    EXPECT_EQ(desktop.runtime().twipsPerPixelX(), 15);
+    EXPECT_EQ(desktop.runtime().twipsPerPixelY(), 15);
+    EXPECT_EQ(desktop.runtime().applicationObject(), nullptr);
+}
+
+} // namespace lumtex::testing
