@@ -1,4 +1,4 @@
-/// Numbers and text, by rules that no locale changes.
+/// Text to number, by rules that no locale changes.
 #include "platform/number_text.h"
 
 #include "platform/text.h"
@@ -8,7 +8,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 
 namespace lumtex {
@@ -98,13 +97,13 @@ class Reader {
     StringView rest_;
 };
 
-/// Large enough to decide any number, small enough never to overflow when a text's length is added.
-constexpr std::int64_t endlessExponent = std::numeric_limits<std::int64_t>::max() / 4;
+/// Past the length of any text, so that it decides whatever digits stand before it.
+constexpr std::int64_t endlessExponent = 100'000'000'000'000'000;
 
 std::int64_t readExponent(Reader& reader) {
     std::int64_t exponent = 0;
     while (reader.atDigit())
-        exponent = std::min<std::int64_t>(exponent * 10 + (reader.take() - u'0'), endlessExponent / 10);
+        exponent = std::min(exponent * 10 + (reader.take() - u'0'), endlessExponent);
     return exponent;
 }
 
@@ -137,83 +136,6 @@ NumberFromText bitsFromText(StringView digits, unsigned base) {
     if (tooLarge)
         return {NumberFromText::tooLarge, 0};
     return {NumberFromText::number, static_cast<Double>(static_cast<Long>(bits))};
-}
-
-/// A positive number as its significant digits, with the first before the point, times ten to the `exponent`.
-class Digits {
-  public:
-    Digits(Double value, int precision) {
-        const auto written =
-            std::to_chars(text_.begin(), text_.end(), value, std::chars_format::scientific, precision - 1);
-        char* const mark = std::find(text_.begin(), written.ptr, 'e');
-        // A plus is no part of what from_chars reads.
-        std::from_chars(mark[1] == '+' ? mark + 2 : mark + 1, written.ptr, exponent_);
-        std::remove(text_.begin(), mark, '.');
-        count_ = precision;
-        while (count_ > 1 && text_[static_cast<std::size_t>(count_ - 1)] == '0')
-            --count_;
-    }
-
-    int count() const { return count_; }
-    int exponent() const { return exponent_; }
-    /// Appends the digits from `first` up to `end`, with zeros for those past the last.
-    void appendTo(String& target, int first, int end) const {
-        for (int i = first; i < end; ++i)
-            target.push_back(i < count_ ? static_cast<char16_t>(text_[static_cast<std::size_t>(i)]) : u'0');
-    }
-
-  private:
-    std::array<char, 32> text_{};
-    int count_ = 0;
-    int exponent_ = 0;
-};
-
-void appendExponentForm(String& target, const Digits& digits) {
-    digits.appendTo(target, 0, 1);
-    if (digits.count() > 1) {
-        target.push_back(u'.');
-        digits.appendTo(target, 1, digits.count());
-    }
-    target.append(digits.exponent() < 0 ? u"E-" : u"E+");
-    const int exponent = std::abs(digits.exponent());
-    if (exponent >= 100)
-        target.push_back(static_cast<char16_t>(u'0' + exponent / 100));
-    target.push_back(static_cast<char16_t>(u'0' + exponent / 10 % 10));
-    target.push_back(static_cast<char16_t>(u'0' + exponent % 10));
-}
-
-void appendPlainForm(String& target, const Digits& digits) {
-    const int whole = digits.exponent() + 1;
-    if (whole > 0) {
-        digits.appendTo(target, 0, whole);
-    } else {
-        target.push_back(u'0');
-    }
-    if (digits.count() > whole) {
-        target.push_back(u'.');
-        target.append(static_cast<std::size_t>(std::max(-whole, 0)), u'0');
-        digits.appendTo(target, std::max(whole, 0), digits.count());
-    }
-}
-
-String textOf(Double value, int precision) {
-    if (std::isnan(value))
-        return u"1.#QNAN";
-    if (std::isinf(value))
-        return value < 0 ? u"-1.#INF" : u"1.#INF";
-    if (value == 0)
-        return u"0";
-    const Digits digits(std::fabs(value), precision);
-    String text;
-    if (value < 0)
-        text.push_back(u'-');
-    // The plain form shows at most `precision` digits before the point, and as many behind it.
-    const int decimals = digits.count() - 1 - digits.exponent();
-    if (digits.exponent() < precision && decimals <= precision)
-        appendPlainForm(text, digits);
-    else
-        appendExponentForm(text, digits);
-    return text;
 }
 
 } // namespace
@@ -271,13 +193,6 @@ std::optional<Double> numberFromText(StringView text) {
     if (result.outcome != NumberFromText::number)
         return std::nullopt;
     return result.value;
-}
-
-String textFromNumber(Double value) {
-    return textOf(value, 15);
-}
-String textFromNumber(Single value) {
-    return textOf(static_cast<Double>(value), 7);
 }
 
 } // namespace lumtex

@@ -16,8 +16,8 @@ class PropertyBag {
 
     /// The value stored under `name`, or `defaultValue` where there is none.
     virtual Variant ReadProperty(StringView name, const Variant& defaultValue) const = 0;
-    /// Stores `value`, or removes the name where the value equals the default. Numbers compare by value,
-    /// objects by identity.
+    /// Stores `value`, or removes the name where the value equals the default. Numbers and Booleans compare
+    /// by value, objects by identity, and an empty reference equals any other.
     virtual void WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) = 0;
 };
 

@@ -25,6 +25,7 @@ enum ErrorNumber : Long {
     objectVariableNotSet = 91,
     invalidPatternString = 93,
     invalidUseOfNull = 94,
+    cannotCreateObject = 429,
     objectDoesNotSupportMember = 438,
     invalidPicture = 481,
 };

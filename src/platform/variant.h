@@ -267,6 +267,7 @@ class Variant {
 /// keep it. Throws as the conversions do.
 Variant minusOne(const Variant& value);
 
+/// zeroBased for what is no positive Long.
 Long zeroBasedSlow(const Variant& index);
 
 /// The 0-based position that a 1-based `index` names: index - 1 computed on the Variant, then rounded.

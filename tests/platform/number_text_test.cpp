@@ -1,8 +1,12 @@
 #include "platform/number_text.h"
 #include "platform/variant.h"
 
+#include <array>
+#include <bit>
+#include <charconv>
 #include <cmath>
 #include <limits>
+#include <random>
 
 #include <gtest/gtest.h>
 
@@ -36,6 +40,8 @@ constexpr NumberRow numberRows[] = {
     {"a negative exponent", u"25e-1", 2.5},
     {"the largest Double", u"1.7976931348623157e308", std::numeric_limits<Double>::max()},
     {"the smallest Double", u"5e-324", std::numeric_limits<Double>::denorm_min()},
+    {"just enough for the smallest Double", u"3e-324", std::numeric_limits<Double>::denorm_min()},
+    {"just too small for a Double", u"2e-324", 0},
     {"too small for a Double", u"1e-400", 0},
     {"far too small for a Double", u"1e-99999999999999999999999", 0},
     {"many digits, a small number", u"0.00000000000000000000000000000000000000000000000001e50", 1},
@@ -140,6 +146,32 @@ TEST(NumberFromText, RoundsCorrectlyPastTheDigitsItKeeps) {
     EXPECT_EQ(numberFromText(tie), 1.0);
     EXPECT_EQ(numberFromText(tie + String(2000, u'0')), 1.0);
     EXPECT_EQ(numberFromText(tie + String(2000, u'0') + u"1"), std::nextafter(1.0, 2.0));
+}
+
+TEST(NumberFromText, AnyDoubleWrittenExactlyReadsBack) {
+    std::mt19937_64 random(20240229);
+    for (int i = 0; i < 20000; ++i) {
+        const auto number = std::bit_cast<Double>(random());
+        if (!std::isfinite(number))
+            continue;
+        std::array<char, 64> buffer{};
+        const auto written = std::to_chars(buffer.begin(), buffer.end(), number);
+        ASSERT_EQ(numberFromText(String(buffer.begin(), written.ptr)), number) << buffer.data();
+    }
+}
+
+TEST(NumberFromText, AnyNumberTextReadsBackAsTheNumberItShows) {
+    std::mt19937_64 random(19991231);
+    for (int i = 0; i < 20000; ++i) {
+        const auto number = std::bit_cast<Double>(random());
+        // The largest ones round up past the largest Double.
+        if (!std::isfinite(number) || std::fabs(number) > 1.79769313486231e308)
+            continue;
+        const String text = textFromNumber(number);
+        const auto read = numberFromText(text);
+        ASSERT_TRUE(read.has_value());
+        ASSERT_EQ(textFromNumber(*read), text);
+    }
 }
 
 TEST(NumberFromText, TextsOfTenMillionUnitsAreReadInOnePass) {

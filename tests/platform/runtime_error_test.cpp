@@ -38,7 +38,7 @@ constexpr Row rows[] = {
     {invalidUseOfNull, u"Invalid use of Null"},
     {380, u"Invalid property value"},
     {424, u"Object required"},
-    {429, u"ActiveX component can't create object"},
+    {cannotCreateObject, u"ActiveX component can't create object"},
     {430, u"Class does not support Automation or does not support expected interface"},
     {objectDoesNotSupportMember, u"Object doesn't support this property or method"},
     {448, u"Named argument not found"},

@@ -86,7 +86,7 @@ class FakeRuntime final : public Runtime {
         journal.push_back(u"create " + String(programId));
         const auto found = factories.find(String(programId));
         if (found == factories.end())
-            throw RuntimeError(429);
+            throw RuntimeError(cannotCreateObject);
         return found->second();
     }
     ObjectRef applicationObject() override { return application; }
