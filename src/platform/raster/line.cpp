@@ -2,7 +2,6 @@
 #include "platform/raster/canvas.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 
 namespace lumtex::raster {
@@ -51,13 +50,26 @@ void drawLine(const Canvas& canvas, Point from, Point to, Pixel color) {
     const int direction = (alongX ? dx : dy) > 0 ? 1 : -1;
     const Wide majorSize = alongX ? canvas.width : canvas.height;
     const Wide minorSize = alongX ? canvas.height : canvas.width;
-    const double slope = static_cast<double>(minorTravel) / static_cast<double>(count);
 
     const Steps steps = visibleSteps(majorStart, direction, count, majorSize);
+    if (steps.first >= steps.last)
+        return;
+    // Both factors are below 2^32, so whole numbers carry even the longest line exactly.
+    const auto length = static_cast<std::uint64_t>(count);
+    const auto climb = static_cast<std::uint64_t>(std::abs(minorTravel));
+    const std::uint64_t travelled = climb * static_cast<std::uint64_t>(steps.first);
+    auto shift = static_cast<Wide>(travelled / length);
+    std::uint64_t rest = travelled % length;
     for (Wide step = steps.first; step < steps.last; ++step) {
-        const double offset = std::fabs(slope) * static_cast<double>(step);
-        const auto shift = static_cast<Wide>(std::floor(offset + 0.5));
-        const Wide minor = minorStart + (minorTravel < 0 ? -shift : shift);
+        // Halfway between two pixels the upper or left one is set, whichever way the line runs.
+        const bool down = minorTravel > 0;
+        const Wide nearest = shift + ((down ? 2 * rest > length : 2 * rest >= length) ? 1 : 0);
+        const Wide minor = minorStart + (down ? nearest : -nearest);
+        rest += climb;
+        if (rest >= length) {
+            rest -= length;
+            ++shift;
+        }
         if (minor < 0 || minor >= minorSize)
             continue;
         const Wide major = majorStart + direction * step;
