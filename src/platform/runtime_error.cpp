@@ -67,6 +67,7 @@ SharedTexts makeTexts(String description) {
 /// The texts of `descriptions` at the same positions, and last that of all other numbers.
 std::vector<SharedTexts> makeKnownTexts() {
     std::vector<SharedTexts> texts;
+    texts.reserve(std::size(descriptions) + 1);
     for (const Description& entry : descriptions)
         texts.push_back(makeTexts(entry.text));
     texts.push_back(makeTexts(String(unknownNumber)));

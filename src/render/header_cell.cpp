@@ -74,8 +74,8 @@ void PaintPass::hoverBar(const StrokeFrame& frame) {
     const Single top = frame.at({Edge::bar, 0});
     surface.paintPicture(*pieces[0], frame.left, top);
     const Single stampsLeft = frame.left + static_cast<Single>(GetPictureWidth(surface, *pieces[0]));
-    // Wanted: the stamps run one pixel past the cell; the next cell paints over it. Those off the surface are
-    // left out, so that a very wide column costs no more than the surface is wide.
+    // Stamps off the surface are left out, so that a very wide column costs no more than the surface is wide.
+    // Wanted: the stamps run one pixel past the cell; the next cell paints over it.
     const Single firstStep = std::max(0.0F, std::floor(-stampsLeft) - 1);
     const Single lastStep = std::min(std::floor(frame.right - stampsLeft),
                                      static_cast<Single>(surface.scaleWidth()) - stampsLeft);

@@ -17,6 +17,7 @@ struct ScrollColor {
 
 /// In the order in which they are written.
 // Wanted: the bag's default for ScrollBackColor differs from the list's own start value.
+
 // clang-format off
 constexpr auto scrollColors = std::to_array<ScrollColor>({
     {u"ScrollBackColor",     &Properties::ScrollBackColor,     white},

@@ -33,6 +33,7 @@ TEST_F(ControlCore, WithoutRowsListIndexReadsNoneWhateverIsStored) {
     EXPECT_EQ(list.ListIndex(), -1);
 }
 
+// Wanted: each read yields to the host once.
 TEST_F(ControlCore, ListIndexYieldsOncePerRead) {
     int yields = 0;
     desktop.onYield([&] { ++yields; });

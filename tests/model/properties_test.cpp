@@ -339,6 +339,7 @@ TEST_F(Setters, ScrollColorStyleDoesNotRepaint) {
     EXPECT_EQ(host.changed, std::vector<String>{u"ScrollColorStyle"});
 }
 
+// Wanted: a value below 1 is dropped silently.
 TEST_F(Setters, AJumpBelowOneIsDroppedSilently) {
     list.letScrollButtonJumpLines(7);
     host.changed.clear();
@@ -380,6 +381,7 @@ TEST_F(Setters, RowsDynamicChecksTheBarsAndRepaints) {
     EXPECT_EQ(inside.vertical().Tag, u"False") << "three rows of 16 pixels fit";
 }
 
+// Wanted: the one setter that does not tell the host.
 TEST_F(Setters, TextPositionDefaultRepaintsButDoesNotTellTheHost) {
     addColumns({50});
     addRows(1);
@@ -445,6 +447,7 @@ TEST_F(Setters, ClearListViewErasesThePictureAndKeepsTheContent) {
     EXPECT_NE(pixel(10, 10), 0xFF0000U);
 }
 
+// Wanted: the bag's default for ScrollBackColor differs from the list's own start value.
 TEST(ScrollColors, AreWrittenInOrderWithTheirDefaults) {
     struct Expected {
         const char16_t* name;

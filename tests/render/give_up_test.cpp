@@ -39,6 +39,7 @@ class GivingUp : public PaintedList {
     }
 };
 
+// Wanted: a pass that gave up leaves `paintBusy` set.
 TEST_F(GivingUp, BeforeTheOriginSearch) {
     const Lines log = paintUntil("BackColor");
     EXPECT_EQ(after(log, "BackColor"), Lines{});

@@ -148,6 +148,7 @@ TEST_F(HeaderCell, TheHoverBarOfBlueAndSilverIsMadeOfPictures) {
     }
 }
 
+// Wanted: the stamps run one pixel past the cell; the next cell paints over it.
 TEST_F(HeaderCell, TheNextCellPaintsOverTheStampThatSticksOut) {
     mouseAt(10, 5);
     repaint();

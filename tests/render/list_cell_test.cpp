@@ -323,6 +323,7 @@ TEST_F(ListCell, ACheckBoxInTheMiddleOrAtTheRightUsesItsOwnWidth) {
     EXPECT_EQ(repainted("Picture"), (Lines{"Picture 42,28", "Picture 23.5,48"}));
 }
 
+// Wanted: no shift and no inset in the middle.
 TEST_F(ListCell, TheShiftOfThePressedLastHeaderReachesTheCells) {
     list.letMoveColumnTextAtDown(true);
     inside.header().pressedColumn = 1;

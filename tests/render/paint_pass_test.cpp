@@ -202,6 +202,7 @@ TEST_F(PaintPassOrder, TheDropMarkerIsABarOfTwoPixelsAcrossTheSurface) {
     EXPECT_TRUE(repainted("Box").empty());
 }
 
+// Wanted: the height of the cell counts, where its font is taller than the band so far.
 TEST_F(PaintPassOrder, FixedRowsHaveTheirHeightWhateverTheirFont) {
     addColumns({60});
     addRows(2, u"a");
@@ -271,6 +272,7 @@ struct GripCase {
     Long resizeColumn;
 };
 
+// Wanted: the grip names both sides of the divider, but only points inside this column get here.
 TEST_F(PaintPassOrder, TheGripIsTheLastFivePixelsInsideAColumn) {
     addColumns({60, 60});
     for (const GripCase& row : {GripCase{"before it", 54, -1},

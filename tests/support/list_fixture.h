@@ -40,6 +40,9 @@ class ListViewInspector {
     Long VisibleItems() { return list_.VisibleItems(); }
     OLE_COLOR aktValueColor() { return list_.aktValueColor(); }
     void CheckForRedraw() { list_.CheckForRedraw(); }
+    void verticalChange() { list_.VS_Change(); }
+    void verticalScroll() { list_.VS_Scroll(); }
+    void horizontalScroll() { list_.HS_Scroll(); }
     Single topInset() const { return list_.topInset_; }
     void letAllowItemMoving(bool value) { list_.letAllowItemMoving(value); }
 

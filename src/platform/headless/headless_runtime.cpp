@@ -12,7 +12,6 @@ namespace lumtex {
 
 namespace {
 
-constexpr Long cannotCreateObject = 429;
 constexpr Double millisecondsPerDay = 24.0 * 60 * 60 * 1000;
 
 char16_t folded(char16_t unit) {

@@ -1,0 +1,154 @@
+#include "list_fixture.h"
+
+namespace lumtex::testing {
+
+/// 300 x 200 pixels; headers are 25 tall.
+class ListScroll : public ListFixture {
+  protected:
+    void fixedRows(int pixels) {
+        list.letRowsDynamic(false);
+        list.letRowHeight(static_cast<Single>(pixels * 15));
+    }
+};
+
+TEST_F(ListScroll, WithoutColumnsBothBarsAreHiddenAndAtZero) {
+    addColumns({400});
+    addRows(3);
+    inside.clearColumns();
+    list.CheckScroll();
+    for (ScrollBar* bar : std::initializer_list<ScrollBar*>{&inside.vertical(), &inside.horizontal()}) {
+        EXPECT_FALSE(bar->Visible());
+        EXPECT_EQ(bar->Max(), 0);
+        EXPECT_EQ(bar->Value(), 0);
+        EXPECT_EQ(bar->Tag, u"True") << "the decisions stay";
+    }
+}
+
+// Wanted: the whole width counts, although the vertical bar takes some of it away.
+TEST_F(ListScroll, ColumnsThatFillTheSurfaceNeedNoBarAndOnePixelMoreDoes) {
+    addColumns({300});
+    addRows(3);
+    EXPECT_EQ(inside.vertical().Tag, u"True");
+    EXPECT_EQ(inside.horizontal().Tag, u"False");
+    list.letColumnWidth(1, 301 * 15);
+    list.CheckScroll();
+    EXPECT_EQ(inside.horizontal().Tag, u"True");
+    EXPECT_EQ(inside.horizontal().Max(), 1);
+}
+
+// Wanted: any shrinking of the range throws the view back to the left edge.
+TEST_F(ListScroll, ARangeThatShrinksThrowsTheViewBack) {
+    addColumns({400});
+    inside.horizontal().letValue(20);
+    list.letColumnWidth(1, 399 * 15);
+    list.CheckScroll();
+    EXPECT_EQ(inside.horizontal().Max(), 99);
+    EXPECT_EQ(inside.horizontal().Value(), 0);
+}
+
+// Wanted: a hidden horizontal bar is widened too.
+TEST_F(ListScroll, ANeededVerticalBarWidensTheOther) {
+    fixedRows(25);
+    addColumns({50});
+    addRows(8);
+    EXPECT_EQ(inside.vertical().Tag, u"True");
+    EXPECT_EQ(inside.horizontal().Tag, u"False");
+    EXPECT_EQ(inside.horizontal().Max(), static_cast<Long>(inside.vertical().Width()));
+}
+
+// Wanted: with a positive height this test cannot be met.
+TEST_F(ListScroll, RowsThatFillTheSurfaceExactlyNeedNoBarAndOneMoreDoes) {
+    fixedRows(25);
+    addColumns({50});
+    addRows(7);
+    EXPECT_EQ(inside.VisibleItems(), 7);
+    EXPECT_TRUE(inside.scroll().lastRowHidden);
+    EXPECT_EQ(inside.vertical().Tag, u"False");
+    addRows(1);
+    EXPECT_EQ(inside.vertical().Max(), 1);
+    EXPECT_TRUE(inside.scroll().lastRowHidden);
+}
+
+TEST_F(ListScroll, DynamicRowsNeedTheBarFromTheSecondOn) {
+    addColumns({50});
+    addRows(1);
+    EXPECT_EQ(inside.vertical().Tag, u"False");
+    addRows(1);
+    EXPECT_EQ(inside.vertical().Tag, u"True");
+    EXPECT_EQ(inside.vertical().Max(), 1);
+}
+
+// Wanted: the walk starts at row 0 whatever the top row is, and a row never painted has no height.
+TEST_F(ListScroll, VisibleRowsAreCountedFromTheTopOfTheList) {
+    list.letAutoRedraw(false);
+    addColumns({50});
+    addRows(20);
+    EXPECT_EQ(inside.VisibleItems(), 20) << "before the first paint every row counts as fitting";
+    list.Redraw();
+    // (200 - 25) / 17 is a little over 10; the rows below the view have no height yet.
+    inside.vertical().letValue(15);
+    EXPECT_EQ(inside.VisibleItems(), 10);
+}
+
+// Wanted: twice in a row, and never compared with the bar's end.
+TEST_F(ListScroll, TheTopRowIsBoundByTheRowsAndNotByTheBar) {
+    addColumns({50});
+    addRows(5);
+    list.letTopIndex(99);
+    EXPECT_EQ(list.TopIndex(), 4);
+    list.letTopIndex(-3);
+    EXPECT_EQ(list.TopIndex(), 0);
+    list.RowsClear();
+    list.letTopIndex(3);
+    EXPECT_EQ(list.TopIndex(), -1) << "an empty list has no row to show";
+}
+
+// Wanted: the ranges, and whether the bars are needed, stay as the last check left them.
+TEST_F(ListScroll, AResizeMovesTheBarsAndKeepsTheDecision) {
+    addColumns({250});
+    addRows(2);
+    list.window().place(100, 100, 200, 150);
+    EXPECT_EQ(inside.horizontal().Tag, u"False");
+    EXPECT_FALSE(inside.horizontal().Visible());
+    EXPECT_EQ(inside.vertical().Left(), 200 - inside.vertical().Width() - 1);
+    EXPECT_EQ(inside.vertical().Height(), 148);
+    list.CheckScroll();
+    EXPECT_TRUE(inside.horizontal().Visible());
+}
+
+TEST_F(ListScroll, BothBarsLeaveTheirCornerFree) {
+    addColumns({400});
+    addRows(2);
+    EXPECT_EQ(inside.vertical().Top(), 1);
+    EXPECT_EQ(inside.vertical().Height(), 198 - inside.horizontal().Height());
+    EXPECT_EQ(inside.horizontal().Width(), 298 - inside.vertical().Width());
+    EXPECT_EQ(inside.horizontal().Top(), 199 - inside.horizontal().Height());
+    list.letBorderVisible(false);
+    list.CheckScroll();
+    EXPECT_EQ(inside.vertical().Left(), 300 - inside.vertical().Width()) << "they touch the edges";
+}
+
+/// The bars' own handles come with a later piece of work; until then their events are raised here.
+TEST_F(ListScroll, APaintInsideABarsYieldGivesUp) {
+    addColumns({50});
+    addRows(5);
+    desktop.onYield([&] {
+        EXPECT_TRUE(inside.scroll().scrollPending);
+        list.Redraw();
+        EXPECT_TRUE(inside.paint().paintBusy) << "the nested pass gave up";
+        inside.paint().paintBusy = false;
+    });
+    EXPECT_EQ(paintsOf([&] { inside.verticalChange(); }), 2);
+    EXPECT_FALSE(inside.scroll().scrollPending);
+}
+
+// Wanted: scrolling sideways raises no event.
+TEST_F(ListScroll, OnlyScrollingUpAndDownIsTold) {
+    addColumns({50});
+    inside.horizontalScroll();
+    EXPECT_TRUE(events.log.empty());
+    inside.verticalScroll();
+    EXPECT_EQ(events.log, std::vector<std::string>{"Scroll"});
+}
+
+} // namespace lumtex::testing
