@@ -4,7 +4,9 @@
 
 #include "platform/surface.h"
 #include "platform/text.h"
+#include "platform/variant.h"
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
