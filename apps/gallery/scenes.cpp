@@ -126,8 +126,9 @@ Bitmap contactSheet(Desktop& desktop, const std::vector<Scene>& scenes) {
     sheet->letForeColor(0x404040);
     sheet->setFont({.Name = u"Verdana", .Size = 9});
     for (std::size_t i = 0; i < scenes.size(); ++i) {
+        const std::size_t row = i / looks().size();
         const Single x = margin + static_cast<Single>(i % looks().size()) * (width + margin);
-        const Single y = margin + static_cast<Single>(i / looks().size()) * (height + caption + margin);
+        const Single y = margin + static_cast<Single>(row) * (height + caption + margin);
         sheet->letCurrentX(x);
         sheet->letCurrentY(y);
         sheet->print(fromUtf8(scenes[i].name));

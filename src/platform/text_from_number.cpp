@@ -20,7 +20,8 @@ class Digits {
         char* const mark = std::find(text_.begin(), written.ptr, 'e');
         // A plus is no part of what from_chars reads.
         std::from_chars(mark[1] == '+' ? mark + 2 : mark + 1, written.ptr, exponent_);
-        std::remove(text_.begin(), mark, '.');
+        // Only the digits before the exponent are read from here on.
+        static_cast<void>(std::remove(text_.begin(), mark, '.'));
         count_ = precision;
         while (count_ > 1 && text_[static_cast<std::size_t>(count_ - 1)] == '0')
             --count_;

@@ -8,7 +8,7 @@
 namespace lumtex {
 
 PaintPass::PaintPass(lmListView& owner)
-    : list(owner), properties(owner.properties_), state(owner.paint_), surface(owner.window_->surface()) {}
+    : PaintPassValues(owner, owner.properties_, owner.paint_, owner.window_->surface()) {}
 
 void PaintPass::run() {
     if (state.paintBusy)

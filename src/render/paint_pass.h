@@ -7,14 +7,43 @@
 
 namespace lumtex {
 
-/// Made for one pass and thrown away after it. The members named here are the working values that the steps
-/// of a pass hand to one another; what must outlive the pass lies in `PaintState`.
+/// What a pass works on, and the working values that its steps hand to one another. What must outlive the
+/// pass lies in `PaintState`.
+struct PaintPassValues {
+    PaintPassValues(lmListView& owner, Properties& values, PaintState& kept, Surface& target)
+        : list(owner), properties(values), state(kept), surface(target) {}
+
+    lmListView& list;
+    Properties& properties;
+    PaintState& state;
+    Surface& surface;
+
+    Byte borderWidth = 0;
+    Single penX = 0; ///< left edge of the cell being painted
+    static constexpr Single headerTop = 0;
+    Single headerHeight = 0;
+    Single rowY = 0;           ///< top of the row being painted
+    Single columnWidthPx = 0;  ///< of the current column
+    Long cellHeight = 0;       ///< of the current cell
+    Single rowBandHeight = 0;  ///< the row's height as it will be stored and stepped
+    Single lastIconHeight = 0; ///< of the last icon laid out in this pass; 0 until the first
+    Byte downOffset = 0;       ///< text shift of the last header cell painted; the list's cells read it too
+    PictureRef cellIcon;       ///< the picture chosen for the current cell, or none
+    Long fillColor = 0;        ///< -1: no fill; keeps its value where a cell assigns none
+    Long textAlignment = 0;    ///< keeps its value where a cell assigns none
+    OLE_COLOR textColor = 0;
+    Long textFormat = 0;
+    bool checkBoxCell = false;
+    Items items; ///< of the current row; a copy, so that a host may change the list meanwhile
+};
+
+/// Made for one pass and thrown away after it.
 ///
 /// Each step is a member function in the file of its name: header_pass.cpp, header_cell.cpp, row_pass.cpp,
 /// list_cell.cpp, cell_text.cpp, cell_icon.cpp, cell_object.cpp.
-class PaintPass {
+class PaintPass : private PaintPassValues {
   public:
-    explicit PaintPass(lmListView& list);
+    explicit PaintPass(lmListView& owner);
 
     void run();
 
@@ -68,7 +97,7 @@ class PaintPass {
     void measureCellHeight();
     void cellBackground(const ListViewItem& item, bool rowSelected);
     OLE_COLOR selectionColor(const Variant& color, OLE_COLOR otherwise) const;
-    void cellObject(const ObjectRef& object);
+    void cellObject(const ObjectRef& shared);
     void cellRectangle(const CellStyle& style);
     void cellColorsAndIcon(const ListViewItem& item, bool rowSelected);
     void chooseCheckBox(const ListViewItem& item);
@@ -76,29 +105,6 @@ class PaintPass {
     void cellText(ListViewItem& item);
     void cellIconPicture(const CellStyle& style);
     Long textFormatForCell();
-
-    lmListView& list;
-    Properties& properties;
-    PaintState& state;
-    Surface& surface;
-
-    Byte borderWidth = 0;
-    Single penX = 0; ///< left edge of the cell being painted
-    static constexpr Single headerTop = 0;
-    Single headerHeight = 0;
-    Single rowY = 0;           ///< top of the row being painted
-    Single columnWidthPx = 0;  ///< of the current column
-    Long cellHeight = 0;       ///< of the current cell
-    Single rowBandHeight = 0;  ///< the row's height as it will be stored and stepped
-    Single lastIconHeight = 0; ///< of the last icon laid out in this pass; 0 until the first
-    Byte downOffset = 0;       ///< text shift of the last header cell painted; the list's cells read it too
-    PictureRef cellIcon;       ///< the picture chosen for the current cell, or none
-    Long fillColor = 0;        ///< -1: no fill; keeps its value where a cell assigns none
-    Long textAlignment = 0;    ///< keeps its value where a cell assigns none
-    OLE_COLOR textColor = 0;
-    Long textFormat = 0;
-    bool checkBoxCell = false;
-    Items items; ///< of the current row; a copy, so that a host may change the list meanwhile
 };
 
 } // namespace lumtex

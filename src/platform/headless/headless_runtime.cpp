@@ -96,7 +96,7 @@ String HeadlessRuntime::dateText(Date date) const {
 }
 
 String HeadlessRuntime::timeText(Date date) const {
-    const String text = textFromDate(date);
+    String text = textFromDate(date);
     if (text.find(u'-') == String::npos)
         return text;
     const std::size_t gap = text.find(u' ');
