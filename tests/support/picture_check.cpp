@@ -61,8 +61,8 @@ void save(const Bitmap& bitmap, const fs::path& file) {
     savePng(bitmap, file);
 }
 
-std::string placeOf(const std::source_location& where) {
-    return std::string(where.file_name()) + ":" + std::to_string(where.line());
+std::string placeOf(const SourcePlace& where) {
+    return std::string(where.file) + ":" + std::to_string(where.line);
 }
 
 /// The place that asked for `name` first.
@@ -82,7 +82,7 @@ PictureFolders usualPictureFolders() {
 ::testing::AssertionResult showsPicture(const std::string& name,
                                         const Bitmap& actual,
                                         const PictureFolders& folders,
-                                        std::source_location where) {
+                                        SourcePlace where) {
     const fs::path reference = folders.references / (name + ".png");
     const fs::path failure = folders.failures / (name + ".png");
     if (const std::string& owner = ownerOf(name, placeOf(where)); owner != placeOf(where))

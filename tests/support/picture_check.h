@@ -5,7 +5,6 @@
 #include "platform/bitmap.h"
 
 #include <filesystem>
-#include <source_location>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -23,6 +22,12 @@ struct PictureFolders {
 /// tests/golden and out/golden of the source tree; accepts what LUMTEX_ACCEPT_PICTURES names.
 PictureFolders usualPictureFolders();
 
+/// A line of the tests. Clang 14 knows no std::source_location.
+struct SourcePlace {
+    const char* file;
+    int line;
+};
+
 /// Does `actual`, which must be opaque, equal the reference `name`.png?
 ///
 /// One that differs or is missing fails and leaves `name`.png among the failures: actual, expected and
@@ -32,6 +37,6 @@ PictureFolders usualPictureFolders();
 ::testing::AssertionResult showsPicture(const std::string& name,
                                         const Bitmap& actual,
                                         const PictureFolders& folders = usualPictureFolders(),
-                                        std::source_location where = std::source_location::current());
+                                        SourcePlace where = {__builtin_FILE(), __builtin_LINE()});
 
 } // namespace lumtex::testing
