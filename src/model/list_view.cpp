@@ -26,8 +26,8 @@ lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Windo
           world, *window_, ScrollBar::Events{[this] { HS_Change(); }, [this] { HS_Scroll(); }})),
       txtEdit(world.createTextBox(*window_, *this)), Line1(world.createGuideLine(*window_)),
       tmrMouseIn(world.createTimer([] {})), tmrMouseAction(world.createTimer([] {})),
-      Picture1(world.createSurface(1, 1)), lblFont(std::make_shared<Font>(designFont)),
-      artwork_(ListViewArtwork::standard()) {
+      Picture1(world.createSurface(1, 1)) {
+    lblFont = std::make_shared<Font>(designFont);
     tmrMouseIn->letInterval(timerInterval);
     tmrMouseAction->letInterval(timerInterval);
     // The size of the design comes before the properties, so it must not paint.

@@ -1,27 +1,19 @@
 /// \file
-/// The control: its public members as hosts know them, and the state its rooms share.
+/// The control: its public members as hosts know them. What it keeps between calls, `ListViewState` tells.
 #pragma once
 
-#include "interaction/interaction_state.h"
-#include "model/column_header.h"
 #include "model/enumerations.h"
 #include "model/list_view_events.h"
-#include "model/properties.h"
-#include "model/row_record.h"
+#include "model/list_view_state.h"
 #include "model/setter_table.h"
 #include "platform/host.h"
 #include "platform/property_bag.h"
 #include "platform/world.h"
-#include "render/artwork.h"
-#include "render/paint_state.h"
 #include "scroll/scroll_bar.h"
-#include "scroll/scroll_state.h"
 #include "services/ignoring_errors.h"
 #include "services/procedure.h"
-#include "sortfind/sort_state.h"
 
 #include <optional>
-#include <vector>
 
 namespace lumtex {
 
@@ -34,7 +26,7 @@ namespace lumtex {
 ///
 /// The world, the host and the event receiver must outlive the control. After construction the host calls
 /// exactly one of the two `UserControl_...Properties` entry points.
-class lmListView final : public UserControl, private TextBoxClient {
+class lmListView final : public UserControl, private TextBoxClient, private ListViewState {
   public:
     lmListView(World& world, Host& host, lmListViewEvents& events, Window* parent = nullptr);
     ~lmListView() override;
@@ -470,26 +462,6 @@ class lmListView final : public UserControl, private TextBoxClient {
     std::unique_ptr<Timer> tmrMouseIn;
     std::unique_ptr<Timer> tmrMouseAction;
     std::unique_ptr<Surface> Picture1; ///< measures, so that the list's own surface keeps its font
-    FontRef lblFont;                   ///< initial value of the two default fonts
-    ListViewArtwork artwork_;
-
-    Properties properties_;
-    std::vector<RowRecord> rows_;
-    std::vector<std::unique_ptr<ColumnHeader>> columns_;
-    bool rowsAllocated_ = false;    ///< from the first `RowsAdd` until `RowsClear`
-    bool columnsAllocated_ = false; ///< from the first `ColumnsAdd` until `ColumnsClear`
-    Long newColumnSlot_ = 0;        ///< 0-based; the column that `ColumnsAdd` is filling
-    bool knownProgram_ = false;     ///< see `recogniseProgram`
-    Single topInset_ = 0;           ///< pixels above a text placed at the top of its row
-
-    PaintState paint_;
-    MouseState mouse_;
-    HeaderPressState headerPress_;
-    SelectionState selection_;
-    EditState edit_;
-    ItemMoveState move_;
-    SortState sort_;
-    ScrollState scroll_;
 };
 
 } // namespace lumtex

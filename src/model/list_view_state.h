@@ -1,0 +1,45 @@
+/// \file
+/// What the control keeps between calls: its settings, its content, and a struct for each room that writes
+/// one.
+#pragma once
+
+#include "interaction/interaction_state.h"
+#include "model/column_header.h"
+#include "model/properties.h"
+#include "model/row_record.h"
+#include "render/artwork.h"
+#include "render/paint_state.h"
+#include "scroll/scroll_state.h"
+#include "sortfind/sort_state.h"
+
+#include <memory>
+#include <vector>
+
+namespace lumtex {
+
+/// The data of `lmListView`, its children apart. Which room owns which part, docs/architecture.md tells; the
+/// type of each struct says what its members mean.
+struct ListViewState {
+    FontRef lblFont; ///< initial value of the two default fonts
+    ListViewArtwork artwork_ = ListViewArtwork::standard();
+
+    Properties properties_;
+    std::vector<RowRecord> rows_;
+    std::vector<std::unique_ptr<ColumnHeader>> columns_;
+    bool rowsAllocated_ = false;    ///< from the first `RowsAdd` until `RowsClear`
+    bool columnsAllocated_ = false; ///< from the first `ColumnsAdd` until `ColumnsClear`
+    Long newColumnSlot_ = 0;        ///< 0-based; the column that `ColumnsAdd` is filling
+    bool knownProgram_ = false;     ///< see `recogniseProgram`
+    Single topInset_ = 0;           ///< pixels above a text placed at the top of its row
+
+    PaintState paint_;
+    MouseState mouse_;
+    HeaderPressState headerPress_;
+    SelectionState selection_;
+    EditState edit_;
+    ItemMoveState move_;
+    SortState sort_;
+    ScrollState scroll_;
+};
+
+} // namespace lumtex
