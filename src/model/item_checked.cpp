@@ -23,9 +23,10 @@ Long lmListView::ItemsCheckedCount(Long Column) {
     return p.value<Long>([&] {
         if (Column >= 1 && Column <= ColumnsCount())
             return columnAt(Column - 1).ItemsChecked;
+        const Long last = upperBoundOfColumns();
         Long sum = 0;
-        for (std::size_t i = 0; i < columns_.size(); ++i)
-            sum += columnAt(static_cast<Long>(i)).ItemsChecked;
+        for (Long column = 0; column <= last; ++column)
+            sum += columnAt(column).ItemsChecked;
         return sum;
     });
 }

@@ -1,5 +1,6 @@
 /// The current row.
 #include "model/list_view.h"
+#include "platform/rounding.h"
 
 namespace lumtex {
 
@@ -20,8 +21,9 @@ void lmListView::letListIndex(Long index) {
         p.step([&] { host_.PropertyChanged(u"ListIndex"); });
         return;
     }
-    if (index < 0 || static_cast<std::size_t>(index) >= rows_.size() ||
-        !rows_[static_cast<std::size_t>(index)].Enabled) {
+    const bool rejectedIndex = p.condition(
+        [&] { return index < 0 || index > upperBoundOfRows() || !recordAt(index).Enabled; }, true);
+    if (rejectedIndex) {
         Variant rejected = index;
         p.step([&] { events_.ErrorWrongIndex(rejected); });
         return;
@@ -41,6 +43,22 @@ void lmListView::letListIndex(Long index) {
         CheckForRedraw();
     }
     p.step([&] { host_.PropertyChanged(u"ListIndex"); });
+}
+
+Long lmListView::RowIndex() {
+    return procedure(u"RowIndex").value<Long>([&] { return roundToLong(ListIndex() + 1.0); });
+}
+
+void lmListView::letRowIndex(Long index) {
+    Procedure p = procedure(u"RowIndex");
+    p.step([&] { letListIndex(roundToLong(index - 1.0)); });
+    const Long top = VS->Value();
+    const Long visible = VisibleItems();
+    // Wanted: a place counted from 1 against a top row counted from 0.
+    if (p.condition([&] { return index < top || index > roundToLong(static_cast<Double>(top) + visible); },
+                    true))
+        p.step([&] { letTopIndex(roundToLong(index - 1.0)); });
+    CheckForRedraw();
 }
 
 } // namespace lumtex

@@ -66,11 +66,15 @@ ColumnHeader& lmListView::columnAt(Long index) {
     return *slot;
 }
 
-RowRecord& lmListView::rowAt(const Variant& Index) {
-    const Long index = zeroBased(Index);
-    if (index < 0 || static_cast<std::size_t>(index) >= rows_.size())
+/// `position` counts from 0. Throws 9 where there is no such element.
+RowRecord& lmListView::recordAt(Long position) {
+    if (position < 0 || static_cast<std::size_t>(position) >= rows_.size())
         throw RuntimeError(subscriptOutOfRange);
-    return rows_[static_cast<std::size_t>(index)];
+    return rows_[static_cast<std::size_t>(position)];
+}
+
+RowRecord& lmListView::rowAt(const Variant& Index) {
+    return recordAt(zeroBased(Index));
 }
 
 lmListView::Cell lmListView::cellAt(const Variant& Row, const Variant& Column) {

@@ -4,8 +4,8 @@
 
 #include "model/enumerations.h"
 #include "model/list_view_events.h"
+#include "model/list_view_properties.h"
 #include "model/list_view_state.h"
-#include "model/setter_table.h"
 #include "platform/host.h"
 #include "platform/property_bag.h"
 #include "platform/world.h"
@@ -26,7 +26,10 @@ namespace lumtex {
 ///
 /// The world, the host and the event receiver must outlive the control. After construction the host calls
 /// exactly one of the two `UserControl_...Properties` entry points.
-class lmListView final : public UserControl, private TextBoxClient, private ListViewState {
+class lmListView final : public UserControl,
+                         public ListViewProperties,
+                         private TextBoxClient,
+                         private ListViewState {
   public:
     lmListView(World& world, Host& host, lmListViewEvents& events, Window* parent = nullptr);
     ~lmListView() override;
@@ -70,8 +73,22 @@ class lmListView final : public UserControl, private TextBoxClient, private List
     void RowsClear();
     void ColumnsClear();
 
+    /// Removes one row; what the control keeps as the place is written back. A place out of range removes
+    /// nothing and is not reported. Yields to the host after each row that moves up.
+    void RowsRemove(Variant& Index);
+    /// The same for a caller whose place is a value.
+    void RowsRemove(Variant&& Index) { RowsRemove(Index); }
+    /// Removes all selected rows, painting once at the end.
+    void RowsSelectedRemove();
+    /// Repaints; the columns stay.
+    void ColumnsRemove(const Variant& Index);
+    /// True for whatever is no number, and for every index once there was a row, or a column.
+    bool WrongIndex(const Variant& Index);
+    bool WrongColumnIndex(const Variant& Index);
+
     // Counts
 
+    Long RowSelectedCount();
     Long RowsCount() const { return rowsAllocated_ ? static_cast<Long>(rows_.size()) : 0; }
     Long ColumnsCount() const { return columnsAllocated_ ? static_cast<Long>(columns_.size()) : 0; }
     /// The row last added by `RowsAdd`; not corrected when rows move or go.
@@ -148,6 +165,9 @@ class lmListView final : public UserControl, private TextBoxClient, private List
     /// The current row; yields to the host once.
     Long ListIndex();
     void letListIndex(Long index);
+    /// The same counted from 1, with 0 for none. Assigning also scrolls the row into view.
+    Long RowIndex();
+    void letRowIndex(Long index);
 
     // Cells
 
@@ -208,145 +228,20 @@ class lmListView final : public UserControl, private TextBoxClient, private List
     /// Checked cells of a column; of all columns where `Column` is out of range.
     Long ItemsCheckedCount(Long Column = 0);
 
-    // Properties: what a setter does beyond storing, `setterTable` tells; values are not checked. Fonts are
-    // cloned on the way in.
+    // Properties whose setters do more than `setterTable` can say
 
-    FontRef DefaultItemFont() const { return properties_.DefaultItemFont; }
-    void setDefaultItemFont(const FontRef& font);
-    OLE_COLOR DefaultItemForeColor() const { return properties_.DefaultItemForeColor; }
-    void letDefaultItemForeColor(OLE_COLOR value);
-    OLE_COLOR BackColor() const { return properties_.BackColor; }
-    void letBackColor(OLE_COLOR value);
-    OLE_COLOR BackColorDisabled() const { return properties_.BackColorDisabled; }
-    void letBackColorDisabled(OLE_COLOR value);
-    bool Enabled() const { return properties_.Enabled; }
-    void letEnabled(bool value);
-    bool ClickOnIndexChange() const { return properties_.ClickOnIndexChange; }
-    void letClickOnIndexChange(bool value);
-    cColorStyle ColorStyle() const { return properties_.ColorStyle; }
-    void letColorStyle(cColorStyle value);
-    OLE_COLOR BorderColor() const { return properties_.BorderColor; }
-    void letBorderColor(OLE_COLOR value);
-    cListViewStyle Style() const { return properties_.Style; }
-    void letStyle(cListViewStyle value);
-    bool FullRowSelect() const { return properties_.FullRowSelect; }
-    void letFullRowSelect(bool value);
-    bool AllowEdit() const { return properties_.AllowEdit; }
-    void letAllowEdit(bool value);
-    OLE_COLOR ValueColor() const { return properties_.ValueColor; }
-    void letValueColor(OLE_COLOR value);
-    bool BorderVisible() const { return properties_.BorderVisible; }
-    void letBorderVisible(bool value);
-    Single IndentTop() const { return properties_.IndentTop; }
-    void letIndentTop(Single value);
-    Single IndentLeft() const { return properties_.IndentLeft; }
-    void letIndentLeft(Single value);
-    Single IndentRight() const { return properties_.IndentRight; }
-    void letIndentRight(Single value);
-    Single IndentBottom() const { return properties_.IndentBottom; }
-    void letIndentBottom(Single value);
-    Single DistPicText() const { return properties_.DistPicText; }
-    void letDistPicText(Single value);
-    bool AutoCheckScroll() const { return properties_.AutoCheckScroll; }
-    void letAutoCheckScroll(bool value);
-    bool AutoRedraw() const { return properties_.AutoRedraw; }
-    void letAutoRedraw(bool value);
-    bool IconSelect() const { return properties_.IconSelect; }
-    void letIconSelect(bool value);
-    Single IconW() const { return properties_.IconW; }
-    void letIconW(Single value);
-    Single IconH() const { return properties_.IconH; }
-    void letIconH(Single value);
-    Single ColumnIconW() const { return properties_.ColumnIconW; }
-    void letColumnIconW(Single value);
-    Single ColumnIconH() const { return properties_.ColumnIconH; }
-    void letColumnIconH(Single value);
-    cScrollColorStyle ScrollColorStyle() const { return properties_.ScrollColorStyle; }
-    void letScrollColorStyle(cScrollColorStyle value);
-    bool GridLines() const { return properties_.GridLines; }
-    void letGridLines(bool value);
-    OLE_COLOR GridLineColor() const { return properties_.GridLineColor; }
-    void letGridLineColor(OLE_COLOR value);
-    bool MultiSelect() const { return properties_.MultiSelect; }
-    void letMultiSelect(bool value);
-    bool HideColumnHeaders() const { return properties_.HideColumnHeaders; }
-    void letHideColumnHeaders(bool value);
-    Long ColumnTextY() const { return properties_.ColumnTextY; }
-    void letColumnTextY(Long value);
-    bool MoveColumnTextAtDown() const { return properties_.MoveColumnTextAtDown; }
-    void letMoveColumnTextAtDown(bool value);
-    FontRef DefaultColumnFont() const { return properties_.DefaultColumnFont; }
-    void setDefaultColumnFont(const FontRef& font);
-    OLE_COLOR DefaultColumnForeColor() const { return properties_.DefaultColumnForeColor; }
-    void letDefaultColumnForeColor(OLE_COLOR value);
-    Single EmptyColumnFieldWidth() const { return properties_.EmptyColumnFieldWidth; }
-    void letEmptyColumnFieldWidth(Single value);
-    OLE_COLOR ColumnBackColor() const { return properties_.ColumnBackColor; }
-    void letColumnBackColor(OLE_COLOR value);
-    OLE_COLOR ColumnHoverColor() const { return properties_.ColumnHoverColor; }
-    void letColumnHoverColor(OLE_COLOR value);
-    OLE_COLOR ColumnDownColor() const { return properties_.ColumnDownColor; }
-    void letColumnDownColor(OLE_COLOR value);
-    bool RowsDynamic() const { return properties_.RowsDynamic; }
-    void letRowsDynamic(bool value);
-    Single RowHeight() const { return properties_.RowHeight; }
-    void letRowHeight(Single value);
-    OLE_COLOR ScrollBackColor() const { return properties_.ScrollBackColor; }
-    void letScrollBackColor(OLE_COLOR value);
-    OLE_COLOR ScrollArrows() const { return properties_.ScrollArrows; }
-    void letScrollArrows(OLE_COLOR value);
-    OLE_COLOR ScrollButtons() const { return properties_.ScrollButtons; }
-    void letScrollButtons(OLE_COLOR value);
-    OLE_COLOR ScrollBar() const { return properties_.ScrollBar; }
-    void letScrollBar(OLE_COLOR value);
-    OLE_COLOR ScrollArrowsDown() const { return properties_.ScrollArrowsDown; }
-    void letScrollArrowsDown(OLE_COLOR value);
-    OLE_COLOR ScrollButtonsDown() const { return properties_.ScrollButtonsDown; }
-    void letScrollButtonsDown(OLE_COLOR value);
-    OLE_COLOR ScrollBarDown() const { return properties_.ScrollBarDown; }
-    void letScrollBarDown(OLE_COLOR value);
-    OLE_COLOR ScrollArrowsHover() const { return properties_.ScrollArrowsHover; }
-    void letScrollArrowsHover(OLE_COLOR value);
-    OLE_COLOR ScrollButtonsHover() const { return properties_.ScrollButtonsHover; }
-    void letScrollButtonsHover(OLE_COLOR value);
-    OLE_COLOR ScrollBarHover() const { return properties_.ScrollBarHover; }
-    void letScrollBarHover(OLE_COLOR value);
-    OLE_COLOR EmptyColumnFieldColor() const { return properties_.EmptyColumnFieldColor; }
-    void letEmptyColumnFieldColor(OLE_COLOR value);
-    cWheelFunction WheelFunction() const { return properties_.WheelFunction; }
-    void letWheelFunction(cWheelFunction value);
-    Long WheelScrollLines() const { return properties_.WheelScrollLines; }
-    void letWheelScrollLines(Long value);
-    bool DefaultIconSelectedIsIcon() const { return properties_.DefaultIconSelectedIsIcon; }
-    void letDefaultIconSelectedIsIcon(bool value);
-    Long ScrollButtonJumpLines() const { return properties_.ScrollButtonJumpLines; }
-    void letScrollButtonJumpLines(Long value);
-    cTextPosition TextPositionDefault() const { return properties_.TextPositionDefault; }
-    void letTextPositionDefault(cTextPosition value);
-    bool DrawItemIcons() const { return properties_.DrawItemIcons; }
-    void letDrawItemIcons(bool value);
-    bool DrawColumnIcons() const { return properties_.DrawColumnIcons; }
-    void letDrawColumnIcons(bool value);
-    PictureRef BackgroundPicture() const { return properties_.BackgroundPicture; }
-    void setBackgroundPicture(PictureRef picture);
-    PictureRef Skin() const { return properties_.Skin; }
-    void setSkin(PictureRef picture);
-    bool FixColumns() const { return properties_.FixColumns; }
-    void letFixColumns(bool value);
-    bool CheckMouseOver() const { return properties_.CheckMouseOver; }
-    void letCheckMouseOver(bool value);
-    Integer OLEDragMode() const { return properties_.OLEDragMode; }
-    void letOLEDragMode(Integer value);
-    Integer OLEDropMode() const { return properties_.OLEDropMode; }
-    void letOLEDropMode(Integer value);
-    bool AutoRowColor() const { return properties_.AutoRowColor; }
-    void letAutoRowColor(bool value);
-    OLE_COLOR RowColorFirst() const { return properties_.RowColorFirst; }
-    void letRowColorFirst(OLE_COLOR value);
-    OLE_COLOR RowColorSecond() const { return properties_.RowColorSecond; }
-    void letRowColorSecond(OLE_COLOR value);
-    bool HideSelection() const { return properties_.HideSelection; }
-    void letHideSelection(bool value);
+    void setDefaultItemFont(const FontRef& font) override;
+    void letEnabled(bool value) override;
+    void letColorStyle(cColorStyle value) override;
+    void letAutoCheckScroll(bool value) override;
+    void letAutoRedraw(bool value) override;
+    void letScrollColorStyle(cScrollColorStyle value) override;
+    void setDefaultColumnFont(const FontRef& font) override;
+    void letRowsDynamic(bool value) override;
+    void letScrollButtonJumpLines(Long value) override;
+    void letTextPositionDefault(cTextPosition value) override;
+    void setSkin(PictureRef picture) override;
+    void letOLEDropMode(Integer value) override;
 
     /// The window's number, and that of the in-place editor.
     WindowHandle hwnd() const { return window_->hWnd(); }
@@ -381,7 +276,11 @@ class lmListView final : public UserControl, private TextBoxClient, private List
     void appendCell(Items& items, StringView text, StyleHandle style);
     void growRows();
     ColumnHeader& columnAt(Long index);
+    RowRecord& recordAt(Long position);
     RowRecord& rowAt(const Variant& Index);
+    Long upperBoundOfRows() const;
+    Long upperBoundOfColumns() const;
+    void removeRow(Long Index, Procedure& p);
     struct Cell {
         Items& items;
         std::size_t index;
@@ -390,9 +289,6 @@ class lmListView final : public UserControl, private TextBoxClient, private List
     Cell cellAt(const Variant& Row, const Variant& Column);
     void CheckForRedraw();
     void CheckProperty();
-    // Reached by the property bag alone.
-    bool AllowItemMoving() const { return properties_.AllowItemMoving; }
-    void letAllowItemMoving(bool value);
     bool designMode() const { return !host_.UserMode(); }
 
     template <class T>
@@ -420,8 +316,7 @@ class lmListView final : public UserControl, private TextBoxClient, private List
     template <class T>
     T extraGet(StringView name, const Variant& Row, const Variant& Column, T CellExtras::*field);
 
-    template <class T>
-    void store(Property property, T& field, T value);
+    void propertyStored(Property property) override;
     void storeFont(Property property, FontRef& field, const FontRef& font);
 
     // Painting (render/)

@@ -1,11 +1,10 @@
 /// \file
-/// What the control keeps between calls: its settings, its content, and a struct for each room that writes
+/// What the control keeps between calls: its content, and a struct for each room that writes
 /// one.
 #pragma once
 
 #include "interaction/interaction_state.h"
 #include "model/column_header.h"
-#include "model/properties.h"
 #include "model/row_record.h"
 #include "render/artwork.h"
 #include "render/paint_state.h"
@@ -17,13 +16,12 @@
 
 namespace lumtex {
 
-/// The data of `lmListView`, its children apart. Which room owns which part, docs/architecture.md tells; the
-/// type of each struct says what its members mean.
+/// The data of `lmListView`, its properties and children apart. Which room owns which part,
+/// docs/architecture.md tells; the type of each struct says what its members mean.
 struct ListViewState {
     FontRef lblFont; ///< initial value of the two default fonts
     ListViewArtwork artwork_ = ListViewArtwork::standard();
 
-    Properties properties_;
     std::vector<RowRecord> rows_;
     std::vector<std::unique_ptr<ColumnHeader>> columns_;
     bool rowsAllocated_ = false;    ///< from the first `RowsAdd` until `RowsClear`

@@ -48,8 +48,11 @@ bool lmListView::RowSelected(const Variant& Index) {
 void lmListView::letRowSelected(const Variant& Index, bool selected) {
     Procedure p = procedure(u"RowSelected");
     if (!properties_.MultiSelect) {
-        for (RowRecord& row : rows_)
-            row.Selected = false;
+        p.step([&] {
+            const Long last = upperBoundOfRows();
+            for (Long row = 0; row <= last; ++row)
+                recordAt(row).Selected = false;
+        });
     }
     p.step([&] { rowAt(Index).Selected = selected; });
     if (selected) {
@@ -66,6 +69,16 @@ void lmListView::letRowSelected(const Variant& Index, bool selected) {
             p.step([&] { letTopIndex(zeroBased(Index)); });
     }
     CheckForRedraw();
+}
+
+Long lmListView::RowSelectedCount() {
+    return procedure(u"RowSelectedCount").value<Long>([&] {
+        const Long last = upperBoundOfRows();
+        Long count = 0;
+        for (Long row = 0; row <= last; ++row)
+            count += recordAt(row).Selected ? 1 : 0;
+        return count;
+    });
 }
 
 } // namespace lumtex

@@ -1,0 +1,71 @@
+/// Removing rows, and the entry for columns.
+#include "model/list_view.h"
+
+namespace lumtex {
+
+void lmListView::RowsRemove(Variant& Index) {
+    if (!rowsAllocated_)
+        return;
+    Procedure p = procedure(u"RowsRemove");
+    // A place that cannot be understood counts as out of range, which is neither reported nor told.
+    const bool outOfRange = p.condition(
+        [&] { return Index.toDouble() < 1 || Index.toDouble() > upperBoundOfRows() + 1.0; }, true);
+    if (!outOfRange) {
+        p.step([&] { Index = Index.toLong(); });
+        removeRow(Index.toLong(), p);
+        CheckForRedraw();
+    }
+    // Wanted: the scroll check comes after the repaint, and for a place out of range too.
+    if (properties_.AutoCheckScroll)
+        CheckScroll();
+}
+
+/// `Index` counts from 1 and is in range.
+void lmListView::removeRow(Long Index, Procedure& p) {
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+        const Long slot = static_cast<Long>(column);
+        if (ItemChecked(Index, slot + 1))
+            p.step([&] { --columnAt(slot).ItemsChecked; });
+    }
+    const Long last = upperBoundOfRows();
+    for (Long row = Index; row <= last; ++row) {
+        p.step([&] { recordAt(row - 1) = recordAt(row); });
+        // Wanted: the host gets its turn after each row, and sees the row behind the gap twice.
+        runtime().DoEvents();
+    }
+    // Wanted: ListIndex, NewIndex and the top row keep their numbers.
+    if (RowsCount() < 2)
+        RowsClear();
+    else
+        rows_.pop_back();
+}
+
+void lmListView::RowsSelectedRemove() {
+    const bool autoCheckScroll = properties_.AutoCheckScroll;
+    const bool autoRedraw = properties_.AutoRedraw;
+    paint_.paintBusy = true;
+    Long row = 1;
+    // Wanted: the first row is looked at before the count, so a list that never had rows reports its absence.
+    do {
+        if (RowSelected(row))
+            RowsRemove(row);
+        else
+            ++row;
+    } while (row <= RowsCount());
+    properties_.AutoCheckScroll = autoCheckScroll;
+    properties_.AutoRedraw = autoRedraw;
+    paint_.paintBusy = false;
+    CheckScroll();
+    Redraw();
+}
+
+void lmListView::ColumnsRemove(const Variant& /*Index*/) {
+    if (!columnsAllocated_)
+        return;
+    // Wanted: every index is a wrong one once there are columns, so no column ever goes.
+    if (properties_.AutoCheckScroll)
+        CheckScroll();
+    CheckForRedraw();
+}
+
+} // namespace lumtex
