@@ -27,6 +27,8 @@ enum ErrorNumber : Long {
     invalidUseOfNull = 94,
     cannotCreateObject = 429,
     objectDoesNotSupportMember = 438,
+    argumentNotOptional = 449,
+    wrongNumberOfArguments = 450,
     invalidPicture = 481,
 };
 

@@ -42,6 +42,12 @@ std::vector<Finding> abstractLayerReachesOut(const SourceFile& file) {
     return includesOutside(file, isAbstractLayer);
 }
 
+std::vector<Finding> automationReachesOut(const SourceFile& file) {
+    return includesOutside(file, [](const auto& name) {
+        return name.starts_with("automation/") || isLogic(name) || isAbstractLayer(name);
+    });
+}
+
 std::vector<Finding> backendReachesLogic(const SourceFile& file) {
     std::vector<Finding> findings;
     for (const Include& include : includesOf(file))
@@ -83,6 +89,19 @@ TEST(LogicFolders, AreCaughtAtABackendsOrAToolkitsHeader) {
               "src/model/sample.cpp:3: platform/raster/canvas.h is out of reach for this folder\n"
               "src/model/sample.cpp:5: <windows.h> is of no standard library\n"
               "src/model/sample.cpp:6: automation/interface.h is out of reach for this folder\n");
+}
+
+TEST(Automation, SeesTheControlAndNoBackend) {
+    EXPECT_EQ(offenders(readTree("src/automation", {".h", ".cpp"}), automationReachesOut), "");
+}
+
+TEST(Automation, IsCaughtAtABackend) {
+    const SourceFile sample("src/automation/sample.cpp",
+                            "#include \"automation/member.h\"\n"
+                            "#include \"model/list_view.h\"\n"
+                            "#include \"platform/headless/desktop.h\"\n");
+    EXPECT_EQ(report(automationReachesOut(sample)),
+              "src/automation/sample.cpp:3: platform/headless/desktop.h is out of reach for this folder\n");
 }
 
 TEST(AbstractLayer, IncludesOnlyItself) {

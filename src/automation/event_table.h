@@ -2,19 +2,17 @@
 /// The control's events as data: names, arguments, and how each argument travels.
 #pragma once
 
+#include "automation/type_info.h"
 #include "model/list_view_events.h"
 
 #include <array>
 #include <span>
-#include <type_traits>
 
 namespace lumtex {
 
-enum class ArgumentType : Byte { boolean, integer, long_, single, string, variant, object };
-
 struct EventArgument {
-    const char16_t* name;
-    ArgumentType type;
+    StringView name;
+    TypeInfo type;
     bool byReference;
 
     bool operator==(const EventArgument&) const = default;
@@ -23,7 +21,7 @@ struct EventArgument {
 struct EventDescription {
     static constexpr std::size_t mostArguments = 7;
 
-    const char16_t* name;
+    StringView name;
     std::array<EventArgument, mostArguments> slots;
     std::size_t count;
 
@@ -32,36 +30,12 @@ struct EventDescription {
 
 namespace detail {
 
-template <class T>
-constexpr ArgumentType argumentTypeOf() {
-    using Value = std::remove_cvref_t<T>;
-    if constexpr (std::is_same_v<Value, bool>)
-        return ArgumentType::boolean;
-    else if constexpr (std::is_same_v<Value, Integer>)
-        return ArgumentType::integer;
-    else if constexpr (std::is_same_v<Value, Long>)
-        return ArgumentType::long_;
-    else if constexpr (std::is_same_v<Value, Single>)
-        return ArgumentType::single;
-    else if constexpr (std::is_same_v<Value, String>)
-        return ArgumentType::string;
-    else if constexpr (std::is_same_v<Value, Variant>)
-        return ArgumentType::variant;
-    else
-        return ArgumentType::object;
-}
-
-/// A reference that may be written to travels back; text is handed over as a constant one.
-template <class T>
-constexpr bool travelsBack = std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>>;
-
 template <class... Arguments, class... Names>
 constexpr EventDescription
-describe(void (lmListViewEvents::*)(Arguments...), const char16_t* name, Names... names) {
+describe(void (lmListViewEvents::*)(Arguments...), StringView name, Names... names) {
     static_assert(sizeof...(Arguments) == sizeof...(Names), "every argument has a name");
-    return {name,
-            {EventArgument{names, argumentTypeOf<Arguments>(), travelsBack<Arguments>}...},
-            sizeof...(Arguments)};
+    return {
+        name, {EventArgument{names, typeOf<Arguments>(), travelsBack<Arguments>}...}, sizeof...(Arguments)};
 }
 
 } // namespace detail

@@ -1,4 +1,4 @@
-#include "model/event_table.h"
+#include "automation/event_table.h"
 #include "platform/text.h"
 
 #include <gtest/gtest.h>
@@ -7,33 +7,14 @@ namespace lumtex::testing {
 
 namespace {
 
-const char* nameOf(ArgumentType type) {
-    switch (type) {
-    case ArgumentType::boolean:
-        return "Boolean";
-    case ArgumentType::integer:
-        return "Integer";
-    case ArgumentType::long_:
-        return "Long";
-    case ArgumentType::single:
-        return "Single";
-    case ArgumentType::string:
-        return "String";
-    case ArgumentType::variant:
-        return "Variant";
-    case ArgumentType::object:
-        break;
-    }
-    return "Data";
-}
-
 /// "Name(A: Long, B: Integer ref)"
 std::string signatureOf(const EventDescription& event) {
     std::string text = toUtf8(event.name) + "(";
     for (const EventArgument& argument : event.arguments()) {
         if (text.back() != '(')
             text += ", ";
-        text += toUtf8(argument.name) + ": " + nameOf(argument.type) + (argument.byReference ? " ref" : "");
+        text +=
+            toUtf8(argument.name) + ": " + toUtf8(argument.type.name) + (argument.byReference ? " ref" : "");
     }
     return text + ")";
 }
@@ -58,15 +39,15 @@ TEST(Events, AreTwentySevenInTheirOrderWithTheirArguments) {
         "KeyPress(KeyAscii: Integer ref)",
         "KeyUp(KeyCode: Integer ref, Shift: Integer ref)",
         "OLECompleteDrag(Effect: Long ref)",
-        "OLEDragDrop(Data: Data ref, Effect: Long ref, Button: Integer ref, Shift: Integer ref, X: Single "
+        "OLEDragDrop(Data: Object ref, Effect: Long ref, Button: Integer ref, Shift: Integer ref, X: Single "
         "ref, "
         "Y: Single ref)",
-        "OLEDragOver(Data: Data ref, Effect: Long ref, Button: Integer ref, Shift: Integer ref, X: Single "
+        "OLEDragOver(Data: Object ref, Effect: Long ref, Button: Integer ref, Shift: Integer ref, X: Single "
         "ref, "
         "Y: Single ref, State: Integer ref)",
         "OLEGiveFeedback(Effect: Long ref, DefaultCursors: Boolean ref)",
-        "OLESetData(Data: Data ref, DataFormat: Integer ref)",
-        "OLEStartDrag(Data: Data ref, AllowedEffects: Long ref)",
+        "OLESetData(Data: Object ref, DataFormat: Integer ref)",
+        "OLEStartDrag(Data: Object ref, AllowedEffects: Long ref)",
         "ErrorWrongIndex(Index: Variant ref)",
         "SortDone()",
         "ListViewError(eSub: String, eNumber: Long, eDescription: String)",

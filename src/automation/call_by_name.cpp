@@ -1,0 +1,112 @@
+/// Calls by member names over Variants.
+#include "automation/call_by_name.h"
+
+#include "automation/member_table.h"
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+
+#include <algorithm>
+
+namespace lumtex {
+
+namespace {
+
+Variant valueOf(const DefaultValue& value) {
+    switch (value.kind) {
+    case DefaultValue::Kind::required:
+        throw RuntimeError(argumentNotOptional);
+    case DefaultValue::Kind::missing:
+        return Missing{};
+    case DefaultValue::Kind::nothing:
+        return {};
+    case DefaultValue::Kind::boolean:
+        return value.number != 0;
+    case DefaultValue::Kind::number:
+        return value.number;
+    case DefaultValue::Kind::text:
+        return value.text;
+    }
+    return {};
+}
+
+const Member& needMember(StringView name) {
+    const Member* member = findMember(name);
+    if (member == nullptr)
+        throw RuntimeError(objectDoesNotSupportMember);
+    return *member;
+}
+
+Member::Invoke needEntry(Member::Invoke entry) {
+    if (entry == nullptr)
+        throw RuntimeError(objectDoesNotSupportMember);
+    return entry;
+}
+
+bool endsInList(const Member& member) {
+    return member.count > 0 && member.slots[member.count - 1].type.code == TypeCode::variantList;
+}
+
+} // namespace
+
+const Member* findMember(StringView name) {
+    const auto all = memberTable();
+    const auto found =
+        std::ranges::find_if(all, [&](const Member& member) { return sameName(member.name, name); });
+    return found == all.end() ? nullptr : &*found;
+}
+
+const Member* findMember(Long number) {
+    const auto all = memberTable();
+    const auto found = std::ranges::find(all, number, &Member::number);
+    return found == all.end() ? nullptr : &*found;
+}
+
+Variant CallByName::get(StringView name, std::span<Variant> arguments) {
+    const Member& member = needMember(name);
+    return invoke(member, needEntry(member.get), arguments, nullptr);
+}
+
+void CallByName::let(StringView name, std::span<Variant> arguments, const Variant& value) {
+    const Member& member = needMember(name);
+    if (member.isReference())
+        throw RuntimeError(objectDoesNotSupportMember);
+    invoke(member, needEntry(member.let), arguments, &value);
+}
+
+void CallByName::set(StringView name, std::span<Variant> arguments, const Variant& value) {
+    const Member& member = needMember(name);
+    if (!member.isReference())
+        throw RuntimeError(objectDoesNotSupportMember);
+    invoke(member, needEntry(member.let), arguments, &value);
+}
+
+Variant CallByName::call(StringView name, std::span<Variant> arguments) {
+    const Member& member = needMember(name);
+    return invoke(member, needEntry(member.call), arguments, nullptr);
+}
+
+/// `value` is what an assignment assigns.
+Variant CallByName::invoke(const Member& member,
+                           Member::Invoke entry,
+                           std::span<Variant> arguments,
+                           const Variant* value) {
+    const std::size_t fixed = endsInList(member) ? member.count - 1 : member.count;
+    if (arguments.size() > fixed && !endsInList(member))
+        throw RuntimeError(wrongNumberOfArguments);
+
+    std::vector<Variant> all(arguments.begin(), arguments.end());
+    all.resize(std::max(all.size(), fixed), Missing{});
+    for (std::size_t i = 0; i < fixed; ++i)
+        if (all[i].isMissing())
+            all[i] = valueOf(member.slots[i].defaultValue);
+    if (value != nullptr)
+        all.push_back(*value);
+
+    Variant result = entry(list_, all);
+    for (std::size_t i = 0; i < std::min(arguments.size(), fixed); ++i)
+        if (member.slots[i].byReference && !arguments[i].isMissing())
+            arguments[i] = std::move(all[i]);
+    return result;
+}
+
+} // namespace lumtex

@@ -1,0 +1,140 @@
+/// \file
+/// Builds the entries of the member table from the functions themselves, so that no type is written twice.
+#pragma once
+
+#include "automation/argument.h"
+#include "automation/member.h"
+#include "model/list_view.h"
+
+#include <initializer_list>
+#include <tuple>
+#include <utility>
+
+namespace lumtex::detail {
+
+/// A parameter's name, and what its absence means.
+struct Named {
+    StringView name;
+    DefaultValue defaultValue{};
+
+    constexpr Named(const char16_t* required) : name(required) {}
+    constexpr Named(const char16_t* optional, DefaultValue value) : name(optional), defaultValue(value) {}
+};
+
+using enum DefaultValue::Kind;
+
+constexpr Named orNumber(const char16_t* name, Double value) {
+    return {name, {number, value}};
+}
+constexpr Named orText(const char16_t* name, StringView value) {
+    return {name, {text, 0, value}};
+}
+constexpr Named orFalse(const char16_t* name) {
+    return {name, {boolean}};
+}
+constexpr Named orNothing(const char16_t* name) {
+    return {name, {nothing}};
+}
+constexpr Named orMissing(const char16_t* name) {
+    return {name, {missing}};
+}
+
+/// The pieces of a member function's type, and the call through Variants.
+template <auto function, class Result_, class... Parameters>
+struct Callable {
+    using Result = Result_;
+    static constexpr std::size_t count = sizeof...(Parameters);
+    static constexpr std::array<TypeInfo, count> types{typeOf<Parameters>()...};
+    static constexpr std::array<bool, count> byReference{travelsBack<Parameters>...};
+
+    static Variant invoke(lmListView& list, std::span<Variant> arguments) {
+        return invokeWith(list, arguments, std::make_index_sequence<count>{});
+    }
+
+  private:
+    template <std::size_t... positions>
+    static Variant invokeWith(lmListView& list,
+                              [[maybe_unused]] std::span<Variant> arguments,
+                              std::index_sequence<positions...>) {
+        // Converted from the first to the last, before the call.
+        std::tuple<std::optional<Argument<Parameters>>...> slots;
+        (std::get<positions>(slots).emplace(arguments, positions), ...);
+        Variant result;
+        if constexpr (std::is_void_v<Result>)
+            (list.*function)(std::get<positions>(slots)->pass()...);
+        else
+            result = toVariant((list.*function)(std::get<positions>(slots)->pass()...));
+        (std::get<positions>(slots)->writeBack(), ...);
+        return result;
+    }
+};
+
+template <auto function, class Type = decltype(function)>
+struct Function;
+
+template <auto function, class Class, class Result, class... Parameters>
+struct Function<function, Result (Class::*)(Parameters...)> : Callable<function, Result, Parameters...> {};
+
+template <auto function, class Class, class Result, class... Parameters>
+struct Function<function, Result (Class::*)(Parameters...) const>
+    : Callable<function, Result, Parameters...> {};
+
+template <class Of>
+constexpr void nameParameters(Member& member, std::initializer_list<Named> names) {
+    for (const Named& named : names) {
+        member.slots[member.count] = {
+            named.name, Of::types[member.count], named.defaultValue, Of::byReference[member.count]};
+        ++member.count;
+    }
+}
+
+/// Counts the names against the function's parameters while the table is compiled.
+consteval void sameCount(std::size_t names, std::size_t parameters) {
+    if (names != parameters)
+        throw "every parameter has a name";
+}
+
+template <auto get>
+consteval Member
+readOnly(Long number, StringView name, StringView help, std::initializer_list<Named> names = {}) {
+    using Get = Function<get>;
+    sameCount(names.size(), Get::count);
+    Member member{number,
+                  name,
+                  help,
+                  typeOf<typename Get::Result>(),
+                  Repaint::never,
+                  {},
+                  0,
+                  &Get::invoke,
+                  nullptr,
+                  nullptr};
+    nameParameters<Get>(member, names);
+    return member;
+}
+
+template <auto get, auto let>
+consteval Member property(
+    Long number, StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
+    using Let = Function<let>;
+    sameCount(names.size() + 1, Let::count);
+    Member member = readOnly<get>(number, name, help, names);
+    if (member.type != Let::types.back())
+        throw "what is read has the type of what is assigned";
+    member.repaint = repaint;
+    member.let = &Let::invoke;
+    return member;
+}
+
+template <auto function>
+consteval Member method(
+    Long number, StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
+    using Call = Function<function>;
+    sameCount(names.size(), Call::count);
+    Member member{
+        number, name, help, typeOf<typename Call::Result>(), repaint, {}, 0, nullptr, nullptr, &Call::invoke};
+    nameParameters<Call>(member, names);
+    return member;
+}
+
+} // namespace lumtex::detail

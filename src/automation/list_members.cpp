@@ -1,0 +1,121 @@
+/// Members that work on the list as a whole.
+#include "automation/describe_member.h"
+#include "automation/member_table.h"
+
+namespace lumtex {
+
+namespace {
+
+using namespace detail;
+
+constexpr auto rowsAdd =
+    static_cast<void (lmListView::*)(Variant&, StringView, std::optional<StringView>)>(&lmListView::RowsAdd);
+constexpr auto rowsRemove = static_cast<void (lmListView::*)(Variant&)>(&lmListView::RowsRemove);
+
+constexpr auto members = std::to_array<Member>({
+    method<&lmListView::ColumnsAdd>(
+        1,
+        u"ColumnsAdd",
+        Repaint::asAutoRedraw,
+        u"Appends a column, and an empty cell to every row. The width is in twips; a colour of 0 is black.",
+        {u"aText",
+         orNothing(u"aIcon"),
+         orNothing(u"aIconHover"),
+         orNothing(u"aIconDown"),
+         orNumber(u"aAlignment", cColumnLeft),
+         orNumber(u"aWidth", 1000),
+         orFalse(u"aAllowSorting"),
+         orNumber(u"aForeColor", 0),
+         orText(u"aKey", u""),
+         orText(u"aTag", u""),
+         orNumber(u"aForeColorHover", 0),
+         orNumber(u"aForeColorDown", 0)}),
+    method<&lmListView::ColumnsClear>(
+        2,
+        u"ColumnsClear",
+        Repaint::asAutoRedraw,
+        u"Removes all columns. Rows keep their cells, so clear the rows first for an empty list."),
+    method<&lmListView::ColumnsRemove>(
+        3,
+        u"ColumnsRemove",
+        Repaint::asAutoRedraw,
+        u"Checks the scroll bars and repaints. The columns stay: a single column cannot be removed.",
+        {u"Index"}),
+    readOnly<&lmListView::ColumnsCount>(4, u"ColumnsCount", u"The number of columns."),
+    method<rowsAdd>(
+        5,
+        u"RowsAdd",
+        Repaint::asAutoRedraw,
+        u"Inserts a row before the 0-based place, or appends it where that is out of range, and writes back "
+        u"the place it took. The texts are split at the separator, without quoting. A list without columns "
+        u"takes no rows.",
+        {orNumber(u"aIndex", -1), orText(u"aSplit", u","), orMissing(u"aItemTexts")}),
+    method<rowsRemove>(
+        6,
+        u"RowsRemove",
+        Repaint::asAutoRedraw,
+        u"Removes the row with the 1-based number. A number out of range removes nothing and is not "
+        u"reported. The host gets its turn after each row that moves up.",
+        {u"Index"}),
+    method<&lmListView::RowsSelectedRemove>(
+        7, u"RowsSelectedRemove", Repaint::always, u"Removes all selected rows and paints once at the end."),
+    method<&lmListView::RowsClear>(8,
+                                   u"RowsClear",
+                                   Repaint::asAutoRedraw,
+                                   u"Removes all rows. ListIndex and NewIndex keep their numbers."),
+    readOnly<&lmListView::RowsCount>(9, u"RowsCount", u"The number of rows."),
+    method<&lmListView::RowSelectedCount>(
+        10, u"RowSelectedCount", Repaint::never, u"The number of selected rows, counted anew."),
+    method<&lmListView::WrongIndex>(
+        11,
+        u"WrongIndex",
+        Repaint::never,
+        u"True for whatever is no number, and for every index once the list has had a row.",
+        {u"Index"}),
+    method<&lmListView::WrongColumnIndex>(
+        12,
+        u"WrongColumnIndex",
+        Repaint::never,
+        u"True for whatever is no number, and for every index once the list has had a column.",
+        {u"Index"}),
+    readOnly<&lmListView::NewIndex>(
+        13,
+        u"NewIndex",
+        u"The 0-based place of the row last added. It is not corrected when rows move or go."),
+    property<&lmListView::ListIndex, &lmListView::letListIndex>(
+        14,
+        u"ListIndex",
+        Repaint::asAutoRedraw,
+        u"The current row, 0-based; -1 for none. A number that no enabled row has is refused with "
+        u"ErrorWrongIndex. Reading gives the host its turn once."),
+    property<&lmListView::RowIndex, &lmListView::letRowIndex>(
+        15,
+        u"RowIndex",
+        Repaint::asAutoRedraw,
+        u"The current row, 1-based; 0 for none. Assigning also scrolls to the row."),
+    property<&lmListView::TopIndex, &lmListView::letTopIndex>(
+        16, u"TopIndex", Repaint::asAutoRedraw, u"The first row shown, 0-based."),
+    method<&lmListView::CheckScroll>(17,
+                                     u"CheckScroll",
+                                     Repaint::never,
+                                     u"Decides anew which scroll bars are needed, and how far they reach."),
+    method<&lmListView::Redraw>(
+        18, u"Redraw", Repaint::always, u"Paints the whole control, whatever AutoRedraw says."),
+    method<&lmListView::ClearListView>(
+        19,
+        u"ClearListView",
+        Repaint::never,
+        u"Erases the picture, not the content, which comes back with the next paint."),
+    method<&lmListView::StopEdit>(
+        20, u"StopEdit", Repaint::never, u"Closes the in-place editor and drops what was typed."),
+    readOnly<&lmListView::hwnd>(21, u"hwnd", u"The number of the control's window."),
+    readOnly<&lmListView::hwndEdit>(22, u"hwndEdit", u"The number of the in-place editor's window."),
+});
+
+} // namespace
+
+std::span<const Member> listMembers() {
+    return members;
+}
+
+} // namespace lumtex

@@ -1,0 +1,68 @@
+/// \file
+/// What the table of the public interface says of each member.
+#pragma once
+
+#include "automation/type_info.h"
+
+#include <array>
+#include <span>
+
+namespace lumtex {
+
+class lmListView;
+
+/// What a caller who leaves an optional argument out has said.
+struct DefaultValue {
+    enum class Kind : Byte { required, missing, nothing, boolean, number, text };
+
+    Kind kind = Kind::required;
+    Double number = 0; ///< 0 and -1 for a Boolean
+    StringView text{};
+
+    bool operator==(const DefaultValue&) const = default;
+};
+
+struct Parameter {
+    StringView name;
+    TypeInfo type;
+    DefaultValue defaultValue;
+    bool byReference; ///< the control may write into the caller's variable
+
+    constexpr bool optional() const { return defaultValue.kind != DefaultValue::Kind::required; }
+};
+
+/// When assigning a property, or calling a method, repaints the control.
+enum class Repaint : Byte {
+    never,
+    asAutoRedraw, ///< where `AutoRedraw` or design mode asks for it
+    always,
+};
+
+/// One property or method of `lmListView`.
+struct Member {
+    static constexpr std::size_t mostParameters = 12;
+
+    /// Reads, assigns or calls by Variants. All parameters have a value; of an assignment, the new value
+    /// comes last. By-reference parameters are written back. Throws where an argument cannot be converted.
+    using Invoke = Variant (*)(lmListView& list, std::span<Variant> arguments);
+
+    Long number; ///< the dispatch number; it never changes once a version has been given out
+    StringView name;
+    StringView help; ///< one line: units, index base, and what is surprising
+    TypeInfo type;   ///< of the property, or of the method's result
+    Repaint repaint;
+    std::array<Parameter, mostParameters> slots;
+    std::size_t count;
+    Invoke get;  ///< none for a method, or a property that cannot be read
+    Invoke let;  ///< none for a method, or a property that cannot be assigned
+    Invoke call; ///< none for a property
+
+    constexpr std::span<const Parameter> parameters() const { return {slots.data(), count}; }
+    constexpr bool isMethod() const { return call != nullptr; }
+    /// A reference is assigned with `Set`, a value with `Let`.
+    constexpr bool isReference() const {
+        return type.code == TypeCode::picture || type.code == TypeCode::font || type.code == TypeCode::object;
+    }
+};
+
+} // namespace lumtex

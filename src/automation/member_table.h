@@ -1,0 +1,22 @@
+/// \file
+/// The public interface of the control, described once.
+#pragma once
+
+#include "automation/member.h"
+
+#include <span>
+
+namespace lumtex {
+
+/// All properties and methods, in order of their groups: list, properties, columns, rows, cells. Calls by
+/// name, the reference pages and the tests are made from it. A new public member gets its line in the file
+/// of its group, and a dispatch number that was never used.
+std::span<const Member> memberTable();
+
+std::span<const Member> listMembers();
+std::span<const Member> propertyMembers();
+std::span<const Member> columnMembers();
+std::span<const Member> rowMembers();
+std::span<const Member> itemMembers();
+
+} // namespace lumtex

@@ -1,0 +1,18 @@
+/// \file
+/// The interface reference, written from the tables.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lumtex {
+
+struct ReferencePage {
+    std::string fileName; ///< in the folder of the reference, without a path
+    std::string text;     ///< Markdown in UTF-8
+};
+
+/// A page for each member, one for the events, one for the enumerations, and README.md as their index.
+std::vector<ReferencePage> referencePages();
+
+} // namespace lumtex

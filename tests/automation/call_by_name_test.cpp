@@ -1,0 +1,112 @@
+#include "automation/call_by_name.h"
+#include "error_number.h"
+#include "list_fixture.h"
+
+namespace lumtex::testing {
+
+namespace {
+
+class CallingByName : public ListFixture {
+  protected:
+    template <class... Values>
+    static std::vector<Variant> with(Values... values) {
+        return {Variant(values)...};
+    }
+
+    CallByName byName{list};
+};
+
+TEST_F(CallingByName, ReadsAssignsAndCallsWhateverTheCaseOfTheName) {
+    auto column = with(u"Name");
+    byName.call(u"columnsADD", column);
+    auto row = with(Long{-1}, u";", u"Ada");
+    byName.call(u"RowsAdd", row);
+    auto cell = with(Long{1}, Long{1});
+    EXPECT_EQ(byName.get(u"itemtext", cell), Variant(u"Ada"));
+    byName.let(u"ITEMTEXT", cell, u"Grace");
+    EXPECT_EQ(list.ItemText(1, 1), u"Grace");
+    byName.let(u"GridLines", {}, true);
+    EXPECT_TRUE(list.GridLines());
+    EXPECT_EQ(byName.get(u"RowsCount"), Variant(Long{1}));
+}
+
+TEST_F(CallingByName, ArgumentsThatAreLeftOutTakeTheirDefaults) {
+    auto column = with(u"Name");
+    byName.call(u"ColumnsAdd", column);
+    EXPECT_EQ(list.ColumnWidth(1), 1000);
+    auto some = with(u"Other", Missing{}, Missing{}, Missing{}, Missing{}, Long{450});
+    byName.call(u"ColumnsAdd", some);
+    EXPECT_EQ(list.ColumnWidth(2), 450);
+    EXPECT_TRUE(some[1].isMissing());
+    byName.call(u"RowsAdd");
+    EXPECT_EQ(list.ItemText(1, 1), u"");
+    EXPECT_EQ(byName.call(u"ItemsCheckedCount"), Variant(Long{0}));
+}
+
+TEST_F(CallingByName, WhatTheControlWritesComesBackInByReferenceArguments) {
+    addColumns({50});
+    auto row = with(Long{99});
+    byName.call(u"RowsAdd", row);
+    EXPECT_EQ(row[0], Variant(Long{0}));
+    auto removed = with(u"1");
+    byName.call(u"RowsRemove", removed);
+    EXPECT_EQ(removed[0], Variant(Long{1}));
+}
+
+TEST_F(CallingByName, ValuesAreConvertedToTheTypesOfTheInterface) {
+    addColumns({50});
+    auto first = with(Long{1});
+    byName.let(u"ColumnWidth", first, u"12.5");
+    EXPECT_EQ(list.ColumnWidth(1), 12.5F);
+    byName.let(u"ColumnAlignment", first, 2.5);
+    EXPECT_EQ(list.ColumnAlignment(1), cColumnRight);
+    byName.let(u"ColumnItemIconH", first, Long{24});
+    EXPECT_EQ(inside.columns()[0]->ItemIconH, -1);
+    EXPECT_EQ(byName.get(u"ColumnItemIconH", first), Variant(true));
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"ColumnWidth", first, u"wide"); }), typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"OLEDragMode", {}, Long{70000}); }), overflow);
+    EXPECT_EQ(list.ColumnWidth(1), 12.5F);
+    EXPECT_EQ(reportCount(), 0U);
+}
+
+TEST_F(CallingByName, AMemberIsUsedOnlyAsWhatItIs) {
+    EXPECT_EQ(errorNumberOf([&] { byName.get(u"NoSuchMember"); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.call(u"RowsCount"); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.get(u"Redraw"); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"RowsCount", {}, Long{1}); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"Skin", {}, PictureRef{}); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.set(u"GridLines", {}, true); }), objectDoesNotSupportMember);
+}
+
+TEST_F(CallingByName, TheNumberOfArgumentsIsChecked) {
+    auto one = with(Long{1});
+    auto three = with(Long{1}, Long{1}, Long{1});
+    EXPECT_EQ(errorNumberOf([&] { byName.get(u"ItemText", one); }), argumentNotOptional);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"ItemText", one, u"x"); }), argumentNotOptional);
+    EXPECT_EQ(errorNumberOf([&] { byName.get(u"ItemText", three); }), wrongNumberOfArguments);
+    EXPECT_EQ(errorNumberOf([&] { byName.call(u"Redraw", one); }), wrongNumberOfArguments);
+}
+
+TEST_F(CallingByName, FailuresOfTheControlAreReportedThereAndNotThrown) {
+    auto nowhere = with(Long{7}, Long{1});
+    EXPECT_EQ(byName.get(u"ItemText", nowhere), Variant(u""));
+    EXPECT_EQ(lastReport(), "9 ItemText");
+}
+
+TEST_F(CallingByName, ReferencesAreSetAndNothingTakesThemAway) {
+    const FontRef font = std::make_shared<Font>(FontSpec{.Name = u"Verdana", .Size = 20});
+    byName.set(u"DefaultItemFont", {}, font);
+    EXPECT_EQ(list.DefaultItemFont()->spec.Size, 20);
+    byName.set(u"DefaultItemFont", {}, FontRef{});
+    EXPECT_EQ(byName.get(u"DefaultItemFont"), Variant(FontRef{}));
+    EXPECT_EQ(errorNumberOf([&] { byName.set(u"Skin", {}, font); }), typeMismatch);
+}
+
+TEST_F(CallingByName, MembersAreFoundByTheirNumbersToo) {
+    EXPECT_EQ(findMember(Long{5})->name, u"RowsAdd");
+    EXPECT_EQ(findMember(Long{-12345}), nullptr);
+    EXPECT_EQ(findMember(u"rowsadd")->number, 5);
+}
+
+} // namespace
+} // namespace lumtex::testing

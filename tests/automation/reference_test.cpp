@@ -1,0 +1,68 @@
+#include "automation/enumeration_table.h"
+#include "automation/member_table.h"
+#include "automation/reference.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace lumtex::testing {
+namespace {
+
+const std::filesystem::path folder = std::filesystem::path(LUMTEX_SOURCE_DIR) / "docs" / "reference";
+
+std::string contentOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+TEST(Reference, InTheTreeIsTheOneThatTheTablesGive) {
+    std::set<std::string> expected;
+    for (const ReferencePage& page : referencePages()) {
+        expected.insert(page.fileName);
+        EXPECT_EQ(contentOf(folder / page.fileName), page.text) << page.fileName << ": run scripts/reference";
+    }
+    std::set<std::string> found;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        found.insert(entry.path().filename().string());
+    EXPECT_EQ(found, expected);
+}
+
+TEST(Reference, HasAPageForEachMemberThatNamesItsParameters) {
+    const auto pages = referencePages();
+    for (const Member& member : memberTable()) {
+        const auto page = std::ranges::find(pages, toUtf8(member.name) + ".md", &ReferencePage::fileName);
+        ASSERT_NE(page, pages.end()) << toUtf8(member.name);
+        EXPECT_NE(page->text.find(toUtf8(member.help)), std::string::npos);
+        for (const Parameter& parameter : member.parameters())
+            EXPECT_NE(page->text.find("| `" + toUtf8(parameter.name) + "` |"), std::string::npos)
+                << page->text;
+    }
+}
+
+TEST(Reference, ListsEveryEnumerationThatAMemberUses) {
+    std::set<StringView> known;
+    for (const Enumeration& enumeration : enumerationTable)
+        known.insert(enumeration.name);
+    EXPECT_EQ(known.size(), 11U);
+    const auto check = [&](const TypeInfo& type) {
+        if (type.code == TypeCode::enumeration) {
+            EXPECT_TRUE(known.contains(type.name)) << toUtf8(type.name);
+        }
+    };
+    for (const Member& member : memberTable()) {
+        check(member.type);
+        for (const Parameter& parameter : member.parameters())
+            check(parameter.type);
+    }
+}
+
+} // namespace
+} // namespace lumtex::testing
