@@ -7,6 +7,8 @@
 #include "platform/variant.h"
 
 #include <optional>
+#include <span>
+#include <vector>
 
 namespace lumtex {
 
@@ -17,6 +19,40 @@ struct ComponentInfo {
     Long major = 0;
     Long minor = 0;
     Long revision = 0;
+};
+
+/// A value of the settings store, as it lies there.
+struct StoredSetting {
+    enum Type : Long { text = 1, textWithVariables = 2, number = 4 };
+
+    Long type = text;
+    /// Text in UTF-8, usually with a closing zero; a number as four bytes, the lowest first.
+    std::vector<Byte> data;
+};
+
+/// The part of the settings store that belongs to the user; the platform's own number for it.
+constexpr std::uint32_t currentUserHive = 0x80000001U;
+
+/// The system under the program. One of another family says 2, 5, 1 and maps its look onto the theme names.
+struct SystemVersion {
+    Long platformId = 0; ///< 2 for the family that has themes
+    Long major = 0;
+    Long minor = 0;
+};
+
+/// Something to be opened by whatever the user's desktop opens it with.
+struct ShellRequest {
+    Long window = 0; ///< the window on whose behalf
+    String verb;
+    String file; ///< a program, a document or a web address
+    String parameters;
+    String folder; ///< the working directory
+    Long show = 1; ///< 1 as usual, 3 maximised
+};
+
+enum SoundFlags : Long {
+    soundAsync = 1,     ///< return at once
+    soundNoDefault = 2, ///< silence where the file cannot be played
 };
 
 enum MessageBoxStyle : Long {
@@ -42,9 +78,10 @@ class Runtime {
     /// The full path of the program that the process runs; empty where it cannot be told.
     virtual String currentExePath() const = 0;
 
-    /// The current user's settings: the text stored under `name` in `key`, empty where there is none.
-    /// `key` separates its parts with "\".
-    virtual String setting(StringView key, StringView name) const = 0;
+    /// The value `name` under `key` of the settings store, none where there is none. `key` separates its
+    /// parts with "\".
+    virtual std::optional<StoredSetting>
+    storedSetting(std::uint32_t hive, StringView key, StringView name) const = 0;
 
     /// Today's date and the time of the day.
     virtual Date now() const = 0;
@@ -56,14 +93,40 @@ class Runtime {
     virtual std::optional<Double> numberFromText(StringView text) const = 0;
     virtual std::optional<Date> dateFromText(StringView text) const = 0;
 
-    /// Appends UTF-16 `text` to a file in the platform's text encoding, creating the file. Throws
-    /// RuntimeError 76 where the folder does not exist.
+    // Files of text in the platform's encoding. These throw RuntimeError 76 where the folder does not exist,
+    // 75 where the file cannot be opened for another reason.
+
+    /// The whole file. Throws 53 where there is none.
+    virtual String readFile(StringView path) const = 0;
+    /// Creates a file without content, or empties the one that is there.
+    virtual void createFile(StringView path) = 0;
+    /// Creates the file if need be. Throws 57 for text that could not be written.
     virtual void appendToFile(StringView path, StringView text) = 0;
+
+    /// Looks for a file or folder; the last part of `pattern` may hold "*" and "?". A search that found
+    /// something has a handle, to be closed; -1 otherwise. Closing -1 does nothing.
+    virtual Long findFirstFile(StringView pattern) = 0;
+    virtual void findClose(Long handle) = 0;
 
     /// Creates an automation object by its program identifier; throws RuntimeError 429 where there is none.
     virtual ObjectRef createObject(StringView programId) = 0;
     /// The component's application object, as handed to an error handler; may be none.
     virtual ObjectRef applicationObject() = 0;
+
+    // The user's desktop. None of these throws, and what it cannot do it leaves undone.
+
+    /// Plays a sound file by the bits of `SoundFlags`.
+    virtual void playSound(StringView file, Long flags) = 0;
+    virtual SystemVersion systemVersion() const = 0;
+    /// The names of the active theme: its file, colour scheme and size, as zero-terminated text in the
+    /// buffers. Returns 0, or anything else and leaves the buffers alone where no theme is active.
+    virtual Long currentThemeName(std::span<char16_t> themeFile,
+                                  std::span<char16_t> colorName,
+                                  std::span<char16_t> sizeName) const = 0;
+    /// Is a key down now (the highest bit), was it pressed since the last call (the lowest)? Mouse buttons
+    /// are the keys 1 left, 2 right and 4 middle; a world may know these alone.
+    virtual Integer asyncKeyState(Long virtualKey) = 0;
+    virtual void shellExecute(const ShellRequest& request) = 0;
 
     virtual Long twipsPerPixelX() const = 0;
     virtual Long twipsPerPixelY() const = 0;

@@ -6,6 +6,7 @@
 #include "platform/runtime.h"
 #include "platform/text_box.h"
 #include "platform/timer.h"
+#include "platform/tip_platform.h"
 #include "platform/window.h"
 
 #include <functional>
@@ -22,6 +23,7 @@ class World {
     virtual ~World() = default;
 
     virtual Runtime& runtime() = 0;
+    virtual TipPlatform& tips() = 0;
 
     /// A hidden window of no size whose events go to `client`. `parent` is null for a control that the host
     /// places itself. Later children lie above earlier ones.

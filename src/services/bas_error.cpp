@@ -1,6 +1,6 @@
 #include "services/bas_error.h"
 
-#include "platform/text.h"
+#include "services/registry_value.h"
 
 #include <array>
 
@@ -54,7 +54,7 @@ String numberText(Long number) {
 
 /// Empty where no log is wanted.
 String logPath(const Runtime& runtime) {
-    const String setting = runtime.setting(settingsKey, logSetting);
+    const String setting = RegistryValue(runtime, currentUserHive, settingsKey, logSetting);
     const StringView folder = withoutSpaces(setting);
     if (folder.empty())
         return {};

@@ -69,15 +69,28 @@ TEST_F(MessageBoxes, BoxesThatOpenBoxesEndAtTheBound) {
     EXPECT_TRUE(desktop.idle());
 }
 
+/// The text under a key of the current user, without its closing zero; "-" for none.
+std::string settingOf(const HeadlessRuntime& runtime, StringView key, StringView name) {
+    const std::optional<StoredSetting> stored = runtime.storedSetting(currentUserHive, key, name);
+    return stored ? std::string(stored->data.begin(), stored->data.end() - 1) : "-";
+}
+
 TEST_F(RuntimeRules, SettingsAreFoundInAnyCase) {
     HeadlessRuntime& runtime = desktop.runtime();
-    EXPECT_EQ(runtime.setting(u"Software\\Lumtex", u"ErrorLog"), u"");
+    EXPECT_EQ(settingOf(runtime, u"Software\\Lumtex", u"ErrorLog"), "-");
     runtime.letSetting(u"Software\\Lumtex", u"ErrorLog", u"C:\\Log");
-    EXPECT_EQ(runtime.setting(u"software\\LUMTEX", u"errorLOG"), u"C:\\Log");
-    EXPECT_EQ(runtime.setting(u"Software\\Lumtex", u"Other"), u"");
-    EXPECT_EQ(runtime.setting(u"Software", u"Lumtex\\ErrorLog"), u"");
+    EXPECT_EQ(settingOf(runtime, u"software\\LUMTEX", u"errorLOG"), "C:\\Log");
+    EXPECT_EQ(settingOf(runtime, u"Software\\Lumtex", u"Other"), "-");
+    EXPECT_EQ(settingOf(runtime, u"Software", u"Lumtex\\ErrorLog"), "-");
     runtime.letSetting(u"SOFTWARE\\LUMTEX", u"ERRORLOG", u"D:\\");
-    EXPECT_EQ(runtime.setting(u"Software\\Lumtex", u"ErrorLog"), u"D:\\");
+    EXPECT_EQ(settingOf(runtime, u"Software\\Lumtex", u"ErrorLog"), "D:\\");
+}
+
+TEST_F(RuntimeRules, SettingsOfAnotherHiveAreOthers) {
+    HeadlessRuntime& runtime = desktop.runtime();
+    runtime.letSetting(currentUserHive + 1, u"Software", u"Name", {StoredSetting::number, {1, 0, 0, 0}});
+    EXPECT_EQ(settingOf(runtime, u"Software", u"Name"), "-");
+    EXPECT_EQ(runtime.storedSetting(currentUserHive + 1, u"software", u"name")->type, StoredSetting::number);
 }
 
 TEST_F(RuntimeRules, TheComponentIsTheProjectUntilATestSaysOtherwise) {
@@ -181,10 +194,9 @@ TEST_F(AppendToFile, FailsWithThePathWhereTheFolderDoesNotExist) {
 }
 
 TEST_F(AppendToFile, FailsWithTheAccessWhereTheFileCannotBeOpened) {
-    constexpr Long pathOrFileAccess = 75;
     EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(fromUtf8(folder.string()), u"a"); }),
-              pathOrFileAccess);
-    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(u"", u"a"); }), pathOrFileAccess);
+              pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(u"", u"a"); }), pathFileAccess);
 }
 
 TEST_F(RuntimeRules, ObjectsComeFromTheirFactories) {

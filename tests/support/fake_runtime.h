@@ -4,6 +4,7 @@
 
 #include "platform/runtime.h"
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -57,9 +58,13 @@ class FakeRuntime final : public Runtime {
     const ComponentInfo& component() const override { return info; }
     String currentExePath() const override { return exePath; }
 
-    String setting(StringView key, StringView name) const override {
+    std::optional<StoredSetting>
+    storedSetting(std::uint32_t hive, StringView key, StringView name) const override {
         const auto found = settings.find(String(key) + u"\\" + String(name));
-        return found == settings.end() ? String() : found->second;
+        if (hive != currentUserHive || found == settings.end())
+            return std::nullopt;
+        const std::string utf8 = toUtf8(found->second);
+        return StoredSetting{StoredSetting::text, {utf8.begin(), utf8.end()}};
     }
 
     Date now() const override { return clock; }
@@ -76,11 +81,35 @@ class FakeRuntime final : public Runtime {
     void appendToFile(StringView path, StringView text) override {
         journal.push_back(u"append " + String(path));
         run(onAppend);
-        const std::size_t folderEnd = path.find_last_of(u'\\');
-        if (folderEnd == StringView::npos || !folders.contains(String(path.substr(0, folderEnd))))
-            throw RuntimeError(pathNotFound);
+        demandFolderOf(path);
         files[String(path)] += text;
     }
+
+    String readFile(StringView path) const override {
+        const auto found = files.find(String(path));
+        if (found == files.end())
+            throw RuntimeError(fileNotFound);
+        return found->second;
+    }
+    void createFile(StringView path) override {
+        demandFolderOf(path);
+        files[String(path)].clear();
+    }
+    Long findFirstFile(StringView pattern) override {
+        journal.push_back(u"find " + String(pattern));
+        return files.contains(String(pattern)) ? 7 : -1;
+    }
+    void findClose(Long handle) override { journal.push_back(u"close " + Variant(handle).toText()); }
+
+    void playSound(StringView /*file*/, Long /*flags*/) override {}
+    SystemVersion systemVersion() const override { return {}; }
+    Long currentThemeName(std::span<char16_t> /*themeFile*/,
+                          std::span<char16_t> /*colorName*/,
+                          std::span<char16_t> /*sizeName*/) const override {
+        return -1;
+    }
+    Integer asyncKeyState(Long /*virtualKey*/) override { return 0; }
+    void shellExecute(const ShellRequest& /*request*/) override {}
 
     ObjectRef createObject(StringView programId) override {
         journal.push_back(u"create " + String(programId));
@@ -95,6 +124,12 @@ class FakeRuntime final : public Runtime {
     Long twipsPerPixelY() const override { return 15; }
 
   private:
+    void demandFolderOf(StringView path) const {
+        const std::size_t folderEnd = path.find_last_of(u'\\');
+        if (folderEnd == StringView::npos || !folders.contains(String(path.substr(0, folderEnd))))
+            throw RuntimeError(pathNotFound);
+    }
+
     /// A copy, since what runs may put something else in its place.
     static void run(std::function<void()> hostCode) { hostCode(); }
 };

@@ -56,6 +56,7 @@ class RecordingWorld final : public World {
     explicit RecordingWorld(Desktop& desktop) : desktop_(desktop) {}
 
     Runtime& runtime() override { return desktop_.runtime(); }
+    TipPlatform& tips() override { return desktop_.tips(); }
     std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) override {
         return std::make_unique<RecordingWindow>(desktop_.createWindow(innerOf(parent), client));
     }

@@ -5,6 +5,7 @@
 #include "platform/headless/event_loop.h"
 #include "platform/headless/focus.h"
 #include "platform/headless/headless_runtime.h"
+#include "platform/headless/headless_tips.h"
 #include "platform/headless/keyboard.h"
 #include "platform/headless/pointer.h"
 #include "platform/headless/timer_clock.h"
@@ -36,6 +37,7 @@ class Desktop final : public World {
     ~Desktop() override;
 
     HeadlessRuntime& runtime() override { return runtime_; }
+    HeadlessTips& tips() override { return tips_; }
     /// A window without a parent is shown from the start, as if its host had done so, and no UserControl_Show
     /// comes of that.
     std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) override;
@@ -157,6 +159,7 @@ class Desktop final : public World {
     Pointer pointer_{tree_, focus_};
     Keyboard keyboard_{focus_};
     HeadlessRuntime runtime_;
+    HeadlessTips tips_{tree_};
     std::deque<YieldHook> yieldHooks_;
 };
 

@@ -6,7 +6,7 @@
 
 #include <functional>
 #include <map>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 namespace lumtex {
@@ -22,6 +22,18 @@ class HeadlessRuntime final : public Runtime {
         String title;
     };
 
+    struct Sound {
+        String file;
+        Long flags = 0;
+    };
+
+    /// What `currentThemeName` tells.
+    struct Theme {
+        String file;
+        String colorName;
+        String sizeName;
+    };
+
     /// Names without regard to case.
     struct NameOrder {
         bool operator()(StringView a, StringView b) const;
@@ -35,7 +47,8 @@ class HeadlessRuntime final : public Runtime {
     void messageBox(StringView text, Long style, StringView title) override;
     const ComponentInfo& component() const override { return componentInfo; }
     String currentExePath() const override;
-    String setting(StringView key, StringView name) const override;
+    std::optional<StoredSetting>
+    storedSetting(std::uint32_t hive, StringView key, StringView name) const override;
     /// `clock`, and the virtual time that has passed.
     Date now() const override;
     /// "2000-01-31", under any settings.
@@ -45,16 +58,34 @@ class HeadlessRuntime final : public Runtime {
     /// The invariant rules.
     std::optional<Double> numberFromText(StringView text) const override;
     std::optional<Date> dateFromText(StringView text) const override;
-    /// UTF-8, line ends as given; "\" in the path separates folders. Throws RuntimeError 75 for a file that
-    /// cannot be opened in a folder that exists, and 57 for text that could not be written.
+    // Files of the machine: UTF-8, line ends as given; "\" in a path separates folders.
+
+    String readFile(StringView path) const override;
+    void createFile(StringView path) override;
     void appendToFile(StringView path, StringView text) override;
+    /// Names with regard to case, as the machine has them.
+    Long findFirstFile(StringView pattern) override;
+    void findClose(Long handle) override;
+
     /// Made by one of `factories`.
     ObjectRef createObject(StringView programId) override;
     ObjectRef applicationObject() override { return application; }
+    /// Noted, not heard.
+    void playSound(StringView file, Long flags) override { sounds.push_back({String(file), flags}); }
+    SystemVersion systemVersion() const override { return version; }
+    Long currentThemeName(std::span<char16_t> themeFile,
+                          std::span<char16_t> colorName,
+                          std::span<char16_t> sizeName) const override;
+    /// The buttons of the desktop's mouse; no other key is ever down.
+    Integer asyncKeyState(Long virtualKey) override;
+    /// Noted, not opened.
+    void shellExecute(const ShellRequest& request) override { opened.push_back(request); }
     Long twipsPerPixelX() const override { return 15; }
     Long twipsPerPixelY() const override { return 15; }
 
+    /// Of the current user.
     void letSetting(StringView key, StringView name, StringView text);
+    void letSetting(std::uint32_t hive, StringView key, StringView name, StoredSetting value);
 
     std::vector<Box> boxes;               ///< all that were shown, in order
     std::function<void()> whileBoxIsOpen; ///< host code, with the box as the last of `boxes`
@@ -64,15 +95,21 @@ class HeadlessRuntime final : public Runtime {
     /// By program identifier.
     std::map<String, std::function<ObjectRef()>, NameOrder> factories;
     ObjectRef application;
+    std::vector<Sound> sounds;        ///< all that were to be played, in order
+    std::vector<ShellRequest> opened; ///< all that was to be opened, in order
+    SystemVersion version{2, 5, 1};
+    std::optional<Theme> theme;       ///< none: the classic look
+    std::vector<Long> closedSearches; ///< the handles that `findClose` got, in order
 
   private:
     struct SettingOrder {
-        using Key = std::pair<String, String>;
+        using Key = std::tuple<std::uint32_t, String, String>;
         bool operator()(const Key& a, const Key& b) const;
     };
 
     Desktop& desktop_;
-    std::map<SettingOrder::Key, String, SettingOrder> settings_; ///< by key and name
+    std::map<SettingOrder::Key, StoredSetting, SettingOrder> settings_; ///< by hive, key and name
+    Long lastSearch_ = 0;
 };
 
 } // namespace lumtex

@@ -11,6 +11,7 @@ Pointer::Event Pointer::moveTo(Point place, Integer shift) {
 
 Pointer::Event Pointer::press(MouseButton button, Integer shift) {
     buttons_ = static_cast<Integer>(buttons_ | button);
+    pressedSince_ = static_cast<Integer>(pressedSince_ | button);
     return {place_, button, buttons_, shift};
 }
 
@@ -21,6 +22,12 @@ Pointer::Event Pointer::release(MouseButton button, Integer shift) {
 
 Pointer::Event Pointer::turnWheel(Integer shift) const {
     return {place_, noButton, buttons_, shift};
+}
+
+bool Pointer::takePressed(Integer button) {
+    const bool pressed = (pressedSince_ & button) != 0;
+    pressedSince_ = static_cast<Integer>(pressedSince_ & ~button);
+    return pressed;
 }
 
 Pane* Pointer::targetOf(const Event& event) const {

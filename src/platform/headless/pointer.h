@@ -27,6 +27,8 @@ class Pointer {
 
     Point place() const { return place_; }
     Integer buttons() const { return buttons_; }
+    /// Was `button` pressed since it was asked for the last time?
+    bool takePressed(Integer button);
 
     // What happens is known at once; the event is what is to be delivered.
 
@@ -59,6 +61,7 @@ class Pointer {
     Focus& focus_;
     Point place_{-1, -1};
     Integer buttons_ = noButton;
+    Integer pressedSince_ = noButton; ///< the last questions, one bit a button
     WindowHandle captured_ = 0;
     WindowHandle pressed_ = 0; ///< the pane whose press waits for its release
     Integer pressedButton_ = noButton;

@@ -1,0 +1,35 @@
+/// \file
+/// A tip for a control in one call.
+#pragma once
+
+#include "platform/world.h"
+#include "services/tool_tip.h"
+
+#include <memory>
+
+namespace lumtex {
+
+/// Owns one `lmToolTip`, made on first need. The world must outlive it.
+class QI {
+  public:
+    explicit QI(World& world) : world_(world) {}
+
+    /// Gives `Control` a tip, or its tip another text. `Delay` is the time that it stays up, in milliseconds;
+    /// `MaxWidth` is in pixels, below 1 for no limit.
+    void
+    Create(const ObjectRef& Parent, const ObjectRef& Control, StringView Text, Long Delay, Integer MaxWidth);
+    /// Nothing happens for a control without a tip.
+    void Remove(const ObjectRef& Control);
+
+    /// The tip window; none before the first call.
+    lmToolTip* toolTip() { return toolTip_.get(); }
+
+  private:
+    Procedure procedure(StringView name) const;
+    lmToolTip& needToolTip();
+
+    World& world_;
+    std::unique_ptr<lmToolTip> toolTip_;
+};
+
+} // namespace lumtex

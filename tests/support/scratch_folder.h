@@ -1,0 +1,46 @@
+/// \file
+/// A folder of the machine for one test.
+#pragma once
+
+#include "platform/text.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace lumtex::testing {
+
+/// Empty at first, and gone with the object. Named after the test that makes it.
+class ScratchFolder {
+  public:
+    ScratchFolder() {
+        std::filesystem::remove_all(path);
+        std::filesystem::create_directories(path);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    ~ScratchFolder() {
+        std::error_code failure;
+        std::filesystem::remove_all(path, failure);
+    }
+
+    String pathTo(const std::string& name) const { return fromUtf8((path / name).string()); }
+    /// The bytes of a file; "missing" where there is none.
+    std::string contentOf(const std::string& name) const {
+        std::ifstream stream(path / name, std::ios::binary);
+        return stream ? std::string(std::istreambuf_iterator<char>(stream), {}) : "missing";
+    }
+    void write(const std::string& name, const std::string& bytes) const {
+        std::ofstream(path / name, std::ios::binary) << bytes;
+    }
+
+    const std::filesystem::path path =
+        std::filesystem::temp_directory_path() /
+        ("lumtex_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->test_suite_name()) +
+         "_" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+} // namespace lumtex::testing
