@@ -3,9 +3,9 @@
 
 #include "automation/member_table.h"
 #include "platform/runtime_error.h"
-#include "platform/text.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace lumtex {
 
@@ -36,6 +36,15 @@ const Member& needMember(StringView name) {
     return *member;
 }
 
+/// Names hold no letters but A to Z.
+String inLowerCase(StringView name) {
+    String lower(name);
+    for (char16_t& unit : lower)
+        if (unit >= u'A' && unit <= u'Z')
+            unit = static_cast<char16_t>(unit - u'A' + u'a');
+    return lower;
+}
+
 Member::Invoke needEntry(Member::Invoke entry) {
     if (entry == nullptr)
         throw RuntimeError(objectDoesNotSupportMember);
@@ -49,10 +58,14 @@ bool endsInList(const Member& member) {
 } // namespace
 
 const Member* findMember(StringView name) {
-    const auto all = memberTable();
-    const auto found =
-        std::ranges::find_if(all, [&](const Member& member) { return sameName(member.name, name); });
-    return found == all.end() ? nullptr : &*found;
+    static const auto byName = [] {
+        std::unordered_map<String, const Member*> map;
+        for (const Member& member : memberTable())
+            map.emplace(inLowerCase(member.name), &member);
+        return map;
+    }();
+    const auto found = byName.find(inLowerCase(name));
+    return found == byName.end() ? nullptr : found->second;
 }
 
 const Member* findMember(Long number) {

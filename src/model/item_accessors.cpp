@@ -67,7 +67,8 @@ void lmListView::letItemBackColorSelect(const Variant& Row, const Variant& Colum
 // clang-format on
 
 Variant lmListView::ItemForeColorDis(const Variant& Row, const Variant& Column) {
-    return styleGet(u"ItemForeColorDis", Row, Column, &CellStyle::ForeColorDis);
+    return itemGet<Variant>(
+        u"ItemForeColorDis", Row, Column, [](const Cell& cell) { return cell.item().style().ForeColorDis; });
 }
 
 void lmListView::letItemForeColorDis(const Variant& Row, const Variant& Column, const Variant& color) {
@@ -78,7 +79,8 @@ void lmListView::letItemForeColorDis(const Variant& Row, const Variant& Column, 
 }
 
 Variant lmListView::ItemBackColorDis(const Variant& Row, const Variant& Column) {
-    return styleGet(u"ItemBackColorDis", Row, Column, &CellStyle::BackColorDis);
+    return itemGet<Variant>(
+        u"ItemBackColorDis", Row, Column, [](const Cell& cell) { return cell.item().style().BackColorDis; });
 }
 
 void lmListView::letItemBackColorDis(const Variant& Row, const Variant& Column, const Variant& color) {
