@@ -24,10 +24,16 @@ lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Windo
           world, *window_, ScrollBar::Events{[this] { VS_Change(); }, [this] { VS_Scroll(); }})),
       HS(std::make_unique<lmHScroll>(
           world, *window_, ScrollBar::Events{[this] { HS_Change(); }, [this] { HS_Scroll(); }})),
+      Wheel1(std::make_unique<Wheel>(world.runtime(),
+                                     [this](Integer& Rotation, Integer& Keys, Single& X, Single& Y) {
+                                         Wheel1_WheelScroll(Rotation, Keys, X, Y);
+                                     })),
       txtEdit(world.createTextBox(*window_, *this)), Line1(world.createGuideLine(*window_)),
       tmrMouseIn(world.createTimer([] {})), tmrMouseAction(world.createTimer([] {})),
       Picture1(world.createSurface(1, 1)) {
     lblFont = std::make_shared<Font>(designFont);
+    VS->UserControl_InitProperties();
+    HS->UserControl_InitProperties();
     tmrMouseIn->letInterval(timerInterval);
     tmrMouseAction->letInterval(timerInterval);
     // The size of the design comes before the properties, so it must not paint.
@@ -38,7 +44,15 @@ lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Windo
     paint_.paintBusy = false;
 }
 
-lmListView::~lmListView() = default;
+lmListView::~lmListView() {
+    UserControl_Terminate();
+}
+
+/// Everything but the wheel goes with its owner.
+void lmListView::UserControl_Terminate() {
+    if (!designMode())
+        Wheel1->DisableWheel();
+}
 
 Procedure lmListView::procedure(StringView name) const {
     return Procedure{runtime(), name, ModuleKind::control, u"lmListView"};

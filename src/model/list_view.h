@@ -10,6 +10,7 @@
 #include "platform/property_bag.h"
 #include "platform/world.h"
 #include "scroll/scroll_bar.h"
+#include "scroll/wheel.h"
 #include "services/ignoring_errors.h"
 #include "services/procedure.h"
 
@@ -253,6 +254,8 @@ class lmListView final : public UserControl,
     // Platform events
 
     void UserControl_Resize() override;
+    /// Swallowed once saved settings were read in run mode; before that it is not for this control.
+    bool UserControl_Wheel(Long Rotation, Integer Shift, Single X, Single Y) override;
 
   private:
     friend class PaintPass;
@@ -263,6 +266,7 @@ class lmListView final : public UserControl,
     void takeContainersFont();
     void recogniseProgram();
     Long defaultJumpLines() const;
+    void UserControl_Terminate();
 
     // Failure path
 
@@ -343,6 +347,12 @@ class lmListView final : public UserControl,
     void VS_Scroll();
     void HS_Change();
     void HS_Scroll();
+    void Wheel1_WheelScroll(Integer& Rotation, Integer& Keys, Single& X, Single& Y);
+    void wheelLinesDown(Procedure& p, Integer Rotation);
+    void wheelLinesUp(Procedure& p);
+    void wheelIndexDown(Procedure& p, Integer Rotation);
+    void wheelIndexUp(Procedure& p, Integer Rotation);
+    bool stopsWheel(Procedure& p, Long index);
 
     World& world_;
     Host& host_;
@@ -352,6 +362,7 @@ class lmListView final : public UserControl,
     // Children, under the names of their event handlers.
     std::unique_ptr<lmVScroll> VS;
     std::unique_ptr<lmHScroll> HS;
+    std::unique_ptr<Wheel> Wheel1;
     std::unique_ptr<TextBox> txtEdit;
     std::unique_ptr<GuideLine> Line1;
     std::unique_ptr<Timer> tmrMouseIn;

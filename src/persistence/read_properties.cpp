@@ -100,6 +100,10 @@ void lmListView::UserControl_ReadProperties(const PropertyBag& bag) {
     move_.moveTargetRow = -1;
     p.step([&] { tmrMouseIn->letEnabled(false); });
     p.step([&] { tmrMouseAction->letEnabled(false); });
+    if (!designMode()) {
+        Wheel1->lethWndCapture(hwnd());
+        Wheel1->EnableWheel();
+    }
     Redraw();
 }
 

@@ -37,8 +37,11 @@ class UserControl {
     virtual void UserControl_Click() {}
     /// In place of the second press of a double click; the release follows as usual.
     virtual void UserControl_DblClick() {}
-    /// Wheel rotation in the platform's unit: 120 a notch, positive away from the user.
-    virtual void UserControl_Wheel(Long /*Rotation*/, Integer /*Shift*/, Single /*X*/, Single /*Y*/) {}
+    /// Wheel rotation in the platform's unit: 120 a notch, positive away from the user. False: not for this
+    /// control, but for the one around it.
+    virtual bool UserControl_Wheel(Long /*Rotation*/, Integer /*Shift*/, Single /*X*/, Single /*Y*/) {
+        return false;
+    }
 
     /// Key codes are the classic virtual key numbers.
     virtual void UserControl_KeyDown(Integer /*KeyCode*/, Integer /*Shift*/) {}

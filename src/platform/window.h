@@ -37,7 +37,7 @@ class Window {
     virtual void place(Single left, Single top, Single width, Single height) = 0;
 
     virtual bool Visible() const = 0;
-    /// The first showing delivers UserControl_Show.
+    /// Each showing of a hidden window delivers UserControl_Show.
     virtual void letVisible(bool visible) = 0;
     virtual bool Enabled() const = 0;
     /// A disabled window gets no mouse and no keys.

@@ -37,8 +37,11 @@ class Pad final : public UserControl {
     }
     void UserControl_Click() override { note(".Click"); }
     void UserControl_DblClick() override { note(".DblClick"); }
-    void UserControl_Wheel(Long Rotation, Integer Shift, Single X, Single Y) override {
+    bool takesWheel = true;
+    bool UserControl_Wheel(Long Rotation, Integer Shift, Single X, Single Y) override {
+        const bool takes = takesWheel; // host code at the event may destroy the pad
         events_.record(name_ + ".Wheel", {{"Rotation", Rotation}, {"Shift", Shift}, {"X", X}, {"Y", Y}});
+        return takes;
     }
     void UserControl_KeyDown(Integer KeyCode, Integer Shift) override {
         events_.record(name_ + ".KeyDown", {{"KeyCode", KeyCode}, {"Shift", Shift}});

@@ -279,4 +279,25 @@ TEST_F(Wheel, TurnsTheWindowUnderThePointerAndNotTheOneWithTheFocus) {
     EXPECT_TRUE(sameLog(events.take(), {"b.Wheel Rotation=-240 Shift=0 X=5 Y=5"}));
 }
 
+TEST_F(Wheel, GoesOnToTheWindowAroundWhereItIsNotTaken) {
+    const auto b = child("b", *a, 10, 10, 20, 20);
+    b->takesWheel = false;
+    desktop.move(a->window(), 15, 15);
+    events.clear();
+    desktop.wheel(120);
+    EXPECT_TRUE(sameLog(events.take(),
+                        {"b.Wheel Rotation=120 Shift=0 X=5 Y=5", "a.Wheel Rotation=120 Shift=0 X=15 Y=15"}));
+}
+
+TEST_F(Wheel, GoesOnFromAWindowThatWasDestroyedByIt) {
+    auto b = child("b", *a, 10, 10, 20, 20);
+    b->takesWheel = false;
+    events.on("b.Wheel", [&] { b.reset(); });
+    desktop.move(a->window(), 15, 15);
+    events.clear();
+    desktop.wheel(120);
+    EXPECT_TRUE(sameLog(events.take(),
+                        {"b.Wheel Rotation=120 Shift=0 X=5 Y=5", "a.Wheel Rotation=120 Shift=0 X=15 Y=15"}));
+}
+
 } // namespace lumtex::testing

@@ -5,6 +5,7 @@
 #include "platform/rounding.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace lumtex {
 
@@ -37,13 +38,11 @@ void HeadlessWindow::place(Single left, Single top, Single width, Single height)
 }
 
 void HeadlessWindow::letVisible(bool visible) {
-    visible_ = visible;
-    if (!visible) {
+    const bool wasVisible = std::exchange(visible_, visible);
+    if (!visible)
         desktop_.inputLost(*this);
-    } else if (!wasShown_) {
-        wasShown_ = true;
+    else if (!wasVisible)
         client_.UserControl_Show();
-    }
 }
 
 void HeadlessWindow::letEnabled(bool enabled) {
@@ -121,8 +120,7 @@ void HeadlessWindow::mouseUp(Integer button, Integer shift, Point at) {
 }
 
 bool HeadlessWindow::wheel(Long rotation, Integer shift, Point at) {
-    client_.UserControl_Wheel(rotation, shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
-    return true;
+    return client_.UserControl_Wheel(rotation, shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
 }
 
 } // namespace lumtex

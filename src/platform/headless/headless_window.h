@@ -74,7 +74,6 @@ class HeadlessWindow final : public Window, public Pane {
     UserControl& client_;
     RasterSurface surface_;
     std::vector<HeadlessGuideLine*> guides_;
-    bool wasShown_ = false;
     bool paintWaits_ = false;
     Integer oleDropMode_ = 0;
     Integer mousePointer_ = pointerDefault;

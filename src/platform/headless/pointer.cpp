@@ -85,9 +85,12 @@ void Pointer::deliverRelease(const Event& event) {
 }
 
 void Pointer::deliverWheel(const Event& event, Long rotation) {
-    Pane* target = tree_.at(event.at);
-    while (target != nullptr && !target->wheel(rotation, event.shift, target->fromDesktop(event.at)))
-        target = target->parent();
+    for (Pane* target = tree_.at(event.at); target != nullptr;) {
+        const WindowHandle outer = target->parent() != nullptr ? target->parent()->handle() : 0;
+        if (target->wheel(rotation, event.shift, target->fromDesktop(event.at)))
+            return;
+        target = tree_.find(outer);
+    }
 }
 
 void Pointer::capture(const Pane& pane) {

@@ -1,0 +1,44 @@
+#include "scroll/wheel.h"
+
+#include "platform/rounding.h"
+#include "services/procedure.h"
+
+namespace lumtex {
+
+namespace {
+
+constexpr Double deltaOfNotch = 120;
+
+} // namespace
+
+Wheel::Wheel(Runtime& runtime, WheelScroll wheelScroll)
+    : runtime_(runtime), wheelScroll_(std::move(wheelScroll)) {}
+
+void Wheel::EnableWheel() {
+    if (hWndCapture_ == 0)
+        return;
+    active_ = true;
+    if (listensTo_ == 0)
+        listensTo_ = hWndCapture_;
+}
+
+void Wheel::DisableWheel() {
+    if (hWndCapture_ == 0 || !active_)
+        return;
+    listensTo_ = 0;
+    active_ = false;
+}
+
+bool Wheel::WndProc(WindowHandle hWnd, Long delta, Integer Keys, Single X, Single Y) {
+    if (!isListeningTo(hWnd))
+        return false;
+    Procedure p{runtime_, u"WheelProc", ModuleKind::module, u"basWheel"};
+    p.step([&] {
+        // Wanted: less than half a notch is a turn by 0, and half a notch rounds to the even number.
+        Integer rotation = roundToInteger(delta / deltaOfNotch);
+        wheelScroll_(rotation, Keys, X, Y);
+    });
+    return true;
+}
+
+} // namespace lumtex

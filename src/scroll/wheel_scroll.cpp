@@ -1,0 +1,108 @@
+/// What the mouse wheel does to the list.
+#include "model/list_view.h"
+#include "platform/rounding.h"
+
+namespace lumtex {
+
+bool lmListView::UserControl_Wheel(Long Rotation, Integer Shift, Single X, Single Y) {
+    return Wheel1->WndProc(hwnd(), Rotation, Shift, X, Y);
+}
+
+void lmListView::Wheel1_WheelScroll(Integer& Rotation, Integer& /*Keys*/, Single& /*X*/, Single& /*Y*/) {
+    Procedure p = procedure(u"Wheel1_WheelScroll");
+    if (RowsCount() == 0 || ColumnsCount() == 0)
+        return;
+    const bool down = Rotation < 1;
+    switch (properties_.WheelFunction) {
+    case cWheelScroll:
+        if (down)
+            wheelLinesDown(p, Rotation);
+        else
+            wheelLinesUp(p);
+        break;
+    case cWheelListIndex:
+        if (down)
+            wheelIndexDown(p, Rotation);
+        else
+            wheelIndexUp(p, Rotation);
+        break;
+    case cWheelOff:
+        break;
+    }
+    Wheel1->lethWndCapture(hwnd());
+    Redraw();
+    p.step([&] { runtime().DoEvents(); });
+}
+
+// Wanted: the size of a turn does not matter, and a turn by 0 goes to the end of the range, as does a turn
+// down with a hidden bar.
+void lmListView::wheelLinesDown(Procedure& p, Integer Rotation) {
+    const Double next = static_cast<Double>(VS->Value()) + properties_.WheelScrollLines;
+    if (Rotation < 0 && VS->Visible() && next < VS->Max())
+        p.step([&] { VS->letValue(roundToLong(next)); });
+    else
+        VS->letValue(VS->Max());
+    p.step([&] { events_.Scroll(); });
+}
+
+void lmListView::wheelLinesUp(Procedure& p) {
+    const Double next = static_cast<Double>(VS->Value()) - properties_.WheelScrollLines;
+    if (VS->Visible() && next >= 1)
+        p.step([&] { VS->letValue(roundToLong(next)); });
+    else
+        VS->letValue(0);
+    p.step([&] { events_.Scroll(); });
+}
+
+/// Is the row enabled? A row that went away in a yield is reported and ends the walk, as an enabled one does.
+bool lmListView::stopsWheel(Procedure& p, Long index) {
+    return p.condition([&] { return rowAt(Variant(index + 1)).Enabled; }, true);
+}
+
+void lmListView::wheelIndexDown(Procedure& p, Integer Rotation) {
+    const auto last = [&] { return RowsCount() - 1; };
+    if (Rotation >= 0 || ListIndex() - Rotation >= last() || ListIndex() >= last()) {
+        letListIndex(last());
+        return;
+    }
+    Long i = ListIndex() + 1;
+    for (;; ++i) {
+        if (i > last())
+            return;
+        if (stopsWheel(p, i))
+            break;
+        p.step([&] { runtime().DoEvents(); });
+        if (i == last())
+            return;
+    }
+    if (ListIndex() < last()) {
+        p.step([&] { runtime().DoEvents(); });
+        letListIndex(i);
+        p.step([&] { runtime().DoEvents(); });
+    }
+}
+
+void lmListView::wheelIndexUp(Procedure& p, Integer Rotation) {
+    // Wanted: the turn is added, so that only row 0 or no row at all takes the short way.
+    if (ListIndex() + Rotation <= 0 || ListIndex() <= 0) {
+        letListIndex(0);
+        return;
+    }
+    for (Long i = ListIndex() - 1; i >= 0; --i) {
+        if (stopsWheel(p, i)) {
+            if (ListIndex() > 0) {
+                p.step([&] { runtime().DoEvents(); });
+                letListIndex(i);
+                p.step([&] { runtime().DoEvents(); });
+            }
+            break;
+        }
+        p.step([&] { runtime().DoEvents(); });
+    }
+    if (ListIndex() < VS->Value()) {
+        VS->letValue(ListIndex());
+        p.step([&] { events_.Scroll(); });
+    }
+}
+
+} // namespace lumtex
