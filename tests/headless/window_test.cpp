@@ -206,7 +206,7 @@ TEST_F(WindowAdoption, AnAdoptedWindowThatOutlivesItsParentStaysBehindHidden) {
     EXPECT_TRUE(sameLog(events.take(), {}));
     stranger->window().letVisible(true);
     desktop.move({15, 15});
-    EXPECT_TRUE(sameLog(events.take(), {"s.MouseMove Button=0 Shift=0 X=15 Y=15"}));
+    EXPECT_TRUE(sameLog(events.take(), {"s.Show", "s.MouseMove Button=0 Shift=0 X=15 Y=15"}));
 }
 
 TEST_F(WindowAdoption, AWindowOfAnotherDesktopIsNoParent) {
