@@ -8,6 +8,7 @@
 #include "platform/headless/headless_window.h"
 #include "platform/text.h"
 
+#include <array>
 #include <map>
 #include <memory>
 #include <random>
@@ -157,6 +158,47 @@ void readAndWriteCells(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * count * columns);
 }
 
+/// Removes a row near the top; nothing waits for the host. The row comes back at the end, untimed.
+void removeNearTheTop(benchmark::State& state) {
+    ListOnDesktop fixture;
+    fixture.fill(rowsOf(state.range(0)));
+    for (auto _ : state) {
+        fixture.list.RowsRemove(2);
+        state.PauseTiming();
+        fixture.list.RowsAdd(Long{-1}, separator, u"x");
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+/// Something that is asked once for each record whether anybody waits.
+class Queue {
+  public:
+    Queue() = default;
+    Queue(const Queue&) = delete;
+    Queue& operator=(const Queue&) = delete;
+    virtual ~Queue() = default;
+    virtual bool isEmpty() const { return true; }
+};
+
+/// The peer: records of the same size, moved one by one, with that question after each.
+void removeFromPlainVector(benchmark::State& state) {
+    using Record = std::array<std::int64_t, sizeof(RowRecord) / sizeof(std::int64_t)>;
+    std::vector<Record> records(static_cast<std::size_t>(state.range(0)));
+    const auto queue = std::make_unique<Queue>();
+    for (auto _ : state) {
+        const Queue* asked = queue.get();
+        benchmark::DoNotOptimize(asked);
+        for (std::size_t i = 2; i < records.size(); ++i) {
+            records[i - 1] = records[i];
+            if (!asked->isEmpty())
+                throw std::runtime_error("nobody waits here");
+        }
+        benchmark::ClobberMemory();
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
 void repaintScreen(benchmark::State& state) {
     ListOnDesktop fixture;
     fixture.fill(rowsOf(1000));
@@ -188,9 +230,11 @@ void fillScreen(benchmark::State& state) {
 
 } // namespace
 
-BENCHMARK(loadList)->Arg(100'000)->Unit(benchmark::kMillisecond);
-BENCHMARK(loadPlainVectors)->Arg(100'000)->Unit(benchmark::kMillisecond);
-BENCHMARK(readAndWriteCells)->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(loadList)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(loadPlainVectors)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(readAndWriteCells)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(removeNearTheTop)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(removeFromPlainVector)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(repaintScreen)
     ->ArgNames({"grid", "fills"})
     ->Args({0, 0})

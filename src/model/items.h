@@ -21,7 +21,13 @@ class Items {
 
     Items(const Items& other) noexcept;
     Items(Items&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
-    Items& operator=(Items other) noexcept {
+    Items& operator=(const Items& other) noexcept {
+        Items copy(other);
+        std::swap(block_, copy.block_);
+        return *this;
+    }
+    /// Leaves `other` with what was here, so that rows move without a look at their cells.
+    Items& operator=(Items&& other) noexcept {
         std::swap(block_, other.block_);
         return *this;
     }

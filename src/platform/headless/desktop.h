@@ -102,6 +102,8 @@ class Desktop final : public World {
     /// Delivers until nothing waits: events, then paints, then ticks that are due. Bounded, see EventLoop.
     void run() { loop_.run(); }
     bool idle() const { return loop_.idle(); }
+    /// Whether a yield would do anything: something waits, or a body of `onYield`.
+    bool hasPendingEvents() const { return !yieldHooks_.empty() || !loop_.idle(); }
     /// Each of the next `times` calls of `DoEvents` runs `body`, before anything that waits. Several bodies
     /// take turns in the order in which they were given.
     void onYield(std::function<void()> body, int times = 1);

@@ -76,6 +76,10 @@ void HeadlessRuntime::DoEvents() {
     desktop_.yield();
 }
 
+bool HeadlessRuntime::hasPendingEvents() const {
+    return desktop_.hasPendingEvents();
+}
+
 void HeadlessRuntime::messageBox(StringView text, Long style, StringView title) {
     boxes.push_back({String(text), style, String(title)});
     // A copy, since the host may replace it while it runs.

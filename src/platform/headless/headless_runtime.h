@@ -42,6 +42,7 @@ class HeadlessRuntime final : public Runtime {
     explicit HeadlessRuntime(Desktop& desktop);
 
     void DoEvents() override;
+    bool hasPendingEvents() const override;
     /// Notes the box and counts as a yield: runs `whileBoxIsOpen`, then the loop, then the box is dismissed.
     /// A box inside too many others is noted and does nothing else.
     void messageBox(StringView text, Long style, StringView title) override;

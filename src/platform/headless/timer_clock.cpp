@@ -23,7 +23,7 @@ TimerClock::Span TimerClock::after(Span span) const {
 HeadlessTimer* TimerClock::first() const {
     HeadlessTimer* first = nullptr;
     for (HeadlessTimer* timer : timers_) {
-        if (timer->runs() && (first == nullptr || timer->isBefore(*first)))
+        if (first == nullptr || timer->isBefore(*first))
             first = timer;
     }
     return first;
@@ -32,11 +32,6 @@ HeadlessTimer* TimerClock::first() const {
 std::optional<TimerClock::Span> TimerClock::nextDue() const {
     const HeadlessTimer* timer = first();
     return timer != nullptr ? std::optional(timer->due()) : std::nullopt;
-}
-
-bool TimerClock::isDue() const {
-    const std::optional<Span> due = nextDue();
-    return due && *due <= now_;
 }
 
 bool TimerClock::deliverTick() {
@@ -48,9 +43,7 @@ bool TimerClock::deliverTick() {
 }
 
 HeadlessTimer::HeadlessTimer(TimerClock& clock, std::function<void()> onTimer)
-    : clock_(clock), onTimer_(std::move(onTimer)) {
-    clock_.add(*this);
-}
+    : clock_(clock), onTimer_(std::move(onTimer)) {}
 
 HeadlessTimer::~HeadlessTimer() {
     clock_.remove(*this);
@@ -61,15 +54,24 @@ void HeadlessTimer::start() {
     arrival_ = clock_.nextArrival();
 }
 
+/// The clock knows the timers that run, and no others.
+void HeadlessTimer::tellTheClock() {
+    clock_.remove(*this);
+    if (enabled_ && interval_ > 0)
+        clock_.add(*this);
+}
+
 void HeadlessTimer::letEnabled(bool enabled) {
     if (enabled && !enabled_)
         start();
     enabled_ = enabled;
+    tellTheClock();
 }
 
 void HeadlessTimer::letInterval(Long milliseconds) {
     interval_ = std::max(milliseconds, Long{0});
     start();
+    tellTheClock();
 }
 
 bool HeadlessTimer::isBefore(const HeadlessTimer& other) const {

@@ -30,7 +30,8 @@ class TimerClock {
 
     /// The moment of the next tick, which may be past; none where no timer runs.
     std::optional<Span> nextDue() const;
-    bool isDue() const;
+    /// Asked at each yield, mostly while no timer runs.
+    bool isDue() const { return !timers_.empty() && nextDue() <= now_; }
     /// Delivers the tick that is due first, if any is.
     bool deliverTick();
 
@@ -44,7 +45,7 @@ class TimerClock {
 
     Span now_{0};
     std::uint64_t arrivals_ = 0;
-    std::vector<HeadlessTimer*> timers_;
+    std::vector<HeadlessTimer*> timers_; ///< those that run
 };
 
 /// Keeps its rhythm from the moment it was started: a tick that is delivered late does not put off the next
@@ -60,13 +61,13 @@ class HeadlessTimer final : public Timer {
     /// Starts over, also for the interval that it has; a negative one counts as 0.
     void letInterval(Long milliseconds) override;
 
-    bool runs() const { return enabled_ && interval_ > 0; }
     TimerClock::Span due() const { return due_; }
     bool isBefore(const HeadlessTimer& other) const;
     void tick();
 
   private:
     void start();
+    void tellTheClock();
 
     TimerClock& clock_;
     std::function<void()> onTimer_;
