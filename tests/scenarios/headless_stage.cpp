@@ -1,0 +1,85 @@
+#include "headless_stage.h"
+
+#include "platform/headless/desktop.h"
+#include "platform/text.h"
+#include "recording_events.h"
+#include "test_fonts.h"
+#include "test_host.h"
+
+namespace lumtex::testing {
+
+namespace {
+
+/// Takes the focus from the list.
+class Neighbour final : public UserControl {};
+
+class HeadlessStage final : public Stage {
+  public:
+    HeadlessStage() : neighbour_(desktop_.createWindow(nullptr, neighbourClient_)) {
+        events_.depth = [this] { return desktop_.yieldDepth(); };
+        desktop_.runtime().whileBoxIsOpen = [this] { noteReport(); };
+        list_.UserControl_ReadProperties(MemoryPropertyBag{});
+        list_.window().place(100, 100, 300, 200);
+        neighbour_->place(600, 100, 50, 50);
+        desktop_.run();
+        events_.log.clear();
+    }
+
+    lmListView& list() override { return list_; }
+    std::vector<std::string>& log() override { return events_.log; }
+    void onEvent(const std::string& event, std::function<void()> handler) override {
+        events_.on(event, std::move(handler));
+    }
+    void onYield(std::function<void()> body) override { desktop_.onYield(std::move(body)); }
+    void cancelChecks(bool cancel) override { events_.cancelCheck = cancel; }
+
+    void resize(Long width, Long height) override {
+        list_.window().place(100, 100, width, height);
+        desktop_.run();
+    }
+    void move(Single x, Single y, Integer shift) override { desktop_.move(list_.window(), x, y, shift); }
+    void press(MouseButton button, Integer shift) override { desktop_.press(button, shift); }
+    void doublePress(MouseButton button, Integer shift) override {
+        desktop_.postDoublePress(button, shift);
+        desktop_.run();
+    }
+    void release(MouseButton button, Integer shift) override { desktop_.release(button, shift); }
+    void wheel(Long rotation, Integer shift) override { desktop_.wheel(rotation, shift); }
+    void keyDown(Integer keyCode) override { desktop_.keyDown(keyCode); }
+    void keyUp(Integer keyCode) override { desktop_.keyUp(keyCode); }
+    void type(StringView text) override { desktop_.type(text); }
+    void focus(bool onTheList) override {
+        (onTheList ? list_.window() : *neighbour_).setFocus();
+        desktop_.run();
+    }
+    void advance(std::chrono::milliseconds span) override { desktop_.advance(span); }
+    Bitmap picture() override { return desktop_.screenshot(list_.window()); }
+
+  private:
+    /// "report 13 ItemText"
+    void noteReport() {
+        const std::string text = toUtf8(desktop_.runtime().boxes.back().text);
+        const auto between = [&](const std::string& label, char end) {
+            const std::size_t first = text.find(label) + label.size();
+            return text.substr(first, text.find(end, first) - first);
+        };
+        const std::string place = between("Line/Procedure: ", '\r');
+        events_.log.push_back("report " + between("Error no.: ", '\r') + " " +
+                              place.substr(place.find('/') + 1));
+    }
+
+    Desktop desktop_{testFonts()};
+    TestHost host_;
+    RecordingEvents events_;
+    lmListView list_{desktop_, host_, events_};
+    Neighbour neighbourClient_;
+    std::unique_ptr<Window> neighbour_;
+};
+
+} // namespace
+
+std::unique_ptr<Stage> makeHeadlessStage() {
+    return std::make_unique<HeadlessStage>();
+}
+
+} // namespace lumtex::testing

@@ -1,0 +1,107 @@
+/// Plays every script of this folder and compares the whole log.
+///
+/// LUMTEX_ACCEPT_SCENARIOS=1 writes the logs that came out into the scripts; such a run fails where anything
+/// changed, and what it wrote is to be read before it is committed.
+#include "headless_stage.h"
+#include "log_comparison.h"
+#include "player.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+namespace lumtex::testing {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path folder = fs::path(LUMTEX_TEST_DATA) / "scenarios";
+
+std::vector<fs::path> scripts() {
+    std::vector<fs::path> found;
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+        if (entry.path().extension() == ".scenario")
+            found.push_back(entry.path());
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+std::string nameOf(const ::testing::TestParamInfo<fs::path>& info) {
+    std::string name = fs::relative(info.param, folder).replace_extension().string();
+    for (char& character : name)
+        if (std::isalnum(static_cast<unsigned char>(character)) == 0)
+            character = '_';
+    return name;
+}
+
+std::string contentOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+std::vector<std::string> flat(const Script& script, const std::vector<std::vector<std::string>>& logs) {
+    std::vector<std::string> lines;
+    for (std::size_t step = 0; step < script.steps.size(); ++step) {
+        lines.push_back(script.steps[step].text);
+        for (const std::string& entry : logs[step])
+            lines.push_back("> " + entry);
+    }
+    return lines;
+}
+
+class Scenario : public ::testing::TestWithParam<fs::path> {};
+
+TEST_P(Scenario, LeavesTheLogThatItSays) {
+    const Script script = parseScript(contentOf(GetParam()));
+    ASSERT_FALSE(script.steps.empty());
+    std::vector<std::vector<std::string>> expected;
+    for (const Step& step : script.steps)
+        expected.push_back(step.expected);
+
+    const std::unique_ptr<Stage> stage = makeHeadlessStage();
+    const auto logs = play(script, *stage);
+
+    if (std::getenv("LUMTEX_ACCEPT_SCENARIOS") != nullptr && logs != expected)
+        std::ofstream(GetParam(), std::ios::binary) << withLogs(script, logs);
+    EXPECT_TRUE(sameLog(flat(script, logs), flat(script, expected)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Headless, Scenario, ::testing::ValuesIn(scripts()), nameOf);
+
+TEST(Script, KeepsQuotedTextsTogetherAndLogsWithTheirSteps) {
+    const Script script =
+        parseScript("# first\n\ncall RowsAdd -1 \",\" \"a b,\\\"c\\\"\"\n> one\n>   two\nshow\n");
+    ASSERT_EQ(script.steps.size(), 2U);
+    EXPECT_EQ(script.steps[0].words,
+              (std::vector<std::string>{"call", "RowsAdd", "-1", "\",\"", "\"a b,\\\"c\\\"\""}));
+    EXPECT_EQ(script.steps[0].expected, (std::vector<std::string>{"one", "  two"}));
+    EXPECT_EQ(script.steps[1].line, 6U);
+    EXPECT_EQ(withLogs(script, {{"three"}, {}}),
+              "# first\n\ncall RowsAdd -1 \",\" \"a b,\\\"c\\\"\"\n> three\nshow\n");
+}
+
+TEST(Script, RefusesALogBeforeItsStepAndAnOpenQuote) {
+    EXPECT_THROW(parseScript("> one\n"), std::runtime_error);
+    EXPECT_THROW(parseScript("type \"a\n"), std::runtime_error);
+}
+
+TEST(Script, WritesValuesAsItReadsThem) {
+    for (const char* word :
+         {"12", "-3", "2.5", "\"a \\\"b\\\" \\\\\"", "\"\\u20ac\"", "True", "Empty", "Null", "Nothing", "-"})
+        EXPECT_EQ(wordFor(valueOf(word)), word);
+    EXPECT_EQ(wordFor(valueOf("0x10")), "16");
+    EXPECT_THROW(valueOf("maybe"), std::runtime_error);
+}
+
+TEST(Script, StopsAtAStepThatItDoesNotKnow) {
+    const std::unique_ptr<Stage> stage = makeHeadlessStage();
+    EXPECT_THROW(play(parseScript("dance 1 2\n"), *stage), std::runtime_error);
+    EXPECT_THROW(play(parseScript("press cell 1\n"), *stage), std::runtime_error);
+    EXPECT_THROW(play(parseScript("let GridLines\n"), *stage), std::runtime_error);
+}
+
+} // namespace
+} // namespace lumtex::testing
