@@ -13,6 +13,7 @@ struct MouseState {
     Single lastMouseY = 0;
     Integer lastMouseButton = 0; ///< of the last press, move or release
     bool mouseInside = false;    ///< the cursor is inside the control's window
+    Single rowScanTop = 0;       ///< pixels; top of the row that a press last looked at
     Long hoverRow = 0;           ///< never stored to but for clearing it
     Long hoverCellColumn = 0;    ///< never stored to but for clearing it
 };

@@ -1,4 +1,5 @@
 /// Taking the selection from all rows.
+#include "interaction/shared_count.h"
 #include "model/list_view.h"
 
 namespace lumtex {
@@ -11,7 +12,19 @@ void lmListView::NoSelected(std::optional<Long> index) {
     for (RowRecord& row : rows_)
         row.Selected = false;
     if (index)
-        p.step([&] { rowAt(Variant(*index + 1)).Selected = true; });
+        p.step([&] { recordAt(*index).Selected = true; });
+}
+
+/// `index` counts from 0. Wanted: each row is a turn of the host, and whoever counts in the same member
+/// during it, a paint for one, leaves rows out.
+void lmListView::SetNewSelected(Long index) {
+    Procedure p = procedure(u"SetNewSelected");
+    countShared(paint_.scanIndex, 0, RowsCount() - 1, [&] {
+        p.step([&] { recordAt(paint_.scanIndex).Selected = false; });
+        runtime().DoEvents();
+        return true;
+    });
+    p.step([&] { recordAt(index).Selected = true; });
 }
 
 } // namespace lumtex

@@ -133,6 +133,24 @@ CellExtras& Items::needExtras(std::size_t index) {
     return *slot;
 }
 
+void Items::exchangeCell(std::size_t index, Items& other) {
+    if (sharesWith(other))
+        return;
+    // Room first: what can run out of memory must not leave half an exchange.
+    if (extras(index) != nullptr || other.extras(index) != nullptr) {
+        needExtras(index);
+        other.needExtras(index);
+        std::swap((*block()->extras)[index], (*other.block()->extras)[index]);
+    }
+    ListViewItem* const mine = &(*this)[index];
+    ListViewItem* const theirs = &other[index];
+    ListViewItem kept(std::move(*mine));
+    std::destroy_at(mine);
+    std::construct_at(mine, std::move(*theirs));
+    std::destroy_at(theirs);
+    std::construct_at(theirs, std::move(kept));
+}
+
 bool Items::hasExtras() const {
     const Block* current = block();
     return current != nullptr && current->extras != nullptr;

@@ -43,6 +43,9 @@ class Items {
     /// Appends a cell, which every holder of the collection sees. Grows where there is no room left.
     void append(CompactText text, StyleHandle style);
 
+    /// The cells of the same place in two collections change places, rare fields included. Both must have it.
+    void exchangeCell(std::size_t index, Items& other);
+
     /// The rare fields of a cell; null while it has none.
     const CellExtras* extras(std::size_t index) const;
     /// The same, made on demand.

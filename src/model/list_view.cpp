@@ -29,7 +29,8 @@ lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Windo
                                          Wheel1_WheelScroll(Rotation, Keys, X, Y);
                                      })),
       txtEdit(world.createTextBox(*window_, *this)), Line1(world.createGuideLine(*window_)),
-      tmrMouseIn(world.createTimer([] {})), tmrMouseAction(world.createTimer([] {})),
+      tmrMouseIn(world.createTimer([this] { tmrMouseIn_Timer(); })),
+      tmrMouseAction(world.createTimer([this] { tmrMouseAction_Timer(); })),
       Picture1(world.createSurface(1, 1)) {
     lblFont = std::make_shared<Font>(designFont);
     VS->UserControl_InitProperties();

@@ -13,6 +13,7 @@
 #include "scroll/wheel.h"
 #include "services/ignoring_errors.h"
 #include "services/procedure.h"
+#include "services/qi.h"
 
 #include <optional>
 
@@ -94,6 +95,10 @@ class lmListView final : public UserControl,
     Long ColumnsCount() const { return columnsAllocated_ ? static_cast<Long>(columns_.size()) : 0; }
     /// The row last added by `RowsAdd`; not corrected when rows move or go.
     Long NewIndex() const { return properties_.NewIndex; }
+    /// The column under the last press or release, counted from 1; -1 for none.
+    Long ColumnIndex() const {
+        return headerPress_.currentColumn == -1 ? -1 : headerPress_.currentColumn + 1;
+    }
 
     // Painting
 
@@ -104,6 +109,9 @@ class lmListView final : public UserControl,
 
     // Editing
 
+    /// Opens the in-place editor over a cell, scrolls towards it, and selects the whole text. Asks for no
+    /// permission, neither the list's nor the cell's.
+    void SetEdit(const Variant& Row, const Variant& Column);
     /// Closes the in-place editor and drops what was typed.
     void StopEdit();
 
@@ -256,6 +264,31 @@ class lmListView final : public UserControl,
     void UserControl_Resize() override;
     /// Swallowed once saved settings were read in run mode; before that it is not for this control.
     bool UserControl_Wheel(Long Rotation, Integer Shift, Single X, Single Y) override;
+    void UserControl_MouseDown(Integer Button, Integer Shift, Single X, Single Y) override;
+    void UserControl_MouseMove(Integer Button, Integer Shift, Single X, Single Y) override;
+    void UserControl_MouseUp(Integer Button, Integer Shift, Single X, Single Y) override;
+    void UserControl_Click() override;
+    void UserControl_DblClick() override;
+    void UserControl_KeyDown(Integer KeyCode, Integer Shift) override;
+    void UserControl_KeyPress(Integer KeyAscii) override;
+    void UserControl_KeyUp(Integer KeyCode, Integer Shift) override;
+    void UserControl_OLECompleteDrag(Long& Effect) override;
+    void UserControl_OLEDragDrop(const DragData& Data,
+                                 Long& Effect,
+                                 Integer& Button,
+                                 Integer& Shift,
+                                 Single& X,
+                                 Single& Y) override;
+    void UserControl_OLEDragOver(const DragData& Data,
+                                 Long& Effect,
+                                 Integer& Button,
+                                 Integer& Shift,
+                                 Single& X,
+                                 Single& Y,
+                                 Integer& State) override;
+    void UserControl_OLEGiveFeedback(Long& Effect, bool& DefaultCursors) override;
+    void UserControl_OLESetData(const DragData& Data, Integer& DataFormat) override;
+    void UserControl_OLEStartDrag(const DragData& Data, Long& AllowedEffects) override;
 
   private:
     friend class PaintPass;
@@ -334,8 +367,52 @@ class lmListView final : public UserControl,
 
     // Interaction (interaction/)
 
+    struct ColumnHit {
+        Long index;   ///< 0-based
+        Single left;  ///< pixels of the surface
+        Single width; ///< pixels
+    };
+    /// Does a row's top edge belong to it?
+    enum class RowEdge : Byte { excluded, included };
+
+    std::optional<ColumnHit> columnUnder(Single X);
+    std::optional<Long> rowUnder(Single Y, RowEdge topEdge, Procedure& p);
+    std::optional<Long> rowPressed(Single Y, Procedure& p);
+    Long lastRowToScan() const;
+
+    void press(Single X, Single Y, Procedure& p);
+    void pressColumn(Single X, Single Y);
+    void pressRow(Long row, Single X, Single Y, Procedure& p);
+    void pressSelection(Long row, Procedure& p);
+    bool inCheckBoxZone(Single X, Single Y, Procedure& p);
+    void toggleCheckBox();
+
+    void moveOverHeaders(Single X, Single Y);
+    void drag(Single Y, std::optional<Long> row);
+    void leaveItem();
+
+    void endResize(Single X, Procedure& p);
+    void clickColumn(Procedure& p);
+    void endHeaderPress();
+    void releaseOnRow(Long row);
+
+    void tmrMouseIn_Timer();
+    void tmrMouseAction_Timer();
+    void MouseOut(Single X, Single Y);
+
     void NoSelected(std::optional<Long> index = std::nullopt);
-    void UserControl_Click() override;
+    void SetNewSelected(Long index);
+    bool rowCanBeCurrent(Long row, Procedure& p);
+    void arrowDown(Long visible, Procedure& p);
+    void arrowUp(Long visible, Procedure& p);
+
+    void dragRow(Long row);
+    void dropRow();
+    void MoveItemUp(Long Row, Long Count);
+    void MoveItemDown(Long Row, Long Count);
+
+    void editedRowIntoView(const Variant& Row, Procedure& p);
+    void dressEditor(const Variant& Row, const Variant& Column, Procedure& p);
     void textBoxKeyPress(Integer& KeyAscii) override;
     void textBoxLostFocus() override;
 
@@ -367,6 +444,7 @@ class lmListView final : public UserControl,
     std::unique_ptr<GuideLine> Line1;
     std::unique_ptr<Timer> tmrMouseIn;
     std::unique_ptr<Timer> tmrMouseAction;
+    std::unique_ptr<QI> tips_; ///< made on first need
     std::unique_ptr<Surface> Picture1; ///< measures, so that the list's own surface keeps its font
 };
 

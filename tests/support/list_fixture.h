@@ -21,6 +21,7 @@ class ListViewInspector {
     PaintState& paint() { return list_.paint_; }
     MouseState& mouse() { return list_.mouse_; }
     HeaderPressState& header() { return list_.headerPress_; }
+    EditState& edit() { return list_.edit_; }
     SelectionState& selection() { return list_.selection_; }
     ItemMoveState& itemMove() { return list_.move_; }
     ScrollState& scroll() { return list_.scroll_; }
@@ -44,6 +45,11 @@ class ListViewInspector {
     void verticalScroll() { list_.VS_Scroll(); }
     void horizontalScroll() { list_.HS_Scroll(); }
     Single topInset() const { return list_.topInset_; }
+    void MouseOut(Single x, Single y) { list_.MouseOut(x, y); }
+    void SetNewSelected(Long index) { list_.SetNewSelected(index); }
+    void MoveItemUp(Long row, Long count) { list_.MoveItemUp(row, count); }
+    void MoveItemDown(Long row, Long count) { list_.MoveItemDown(row, count); }
+    QI* tips() { return list_.tips_.get(); }
     void letAllowItemMoving(bool value) { list_.letAllowItemMoving(value); }
 
     /// What `RowsClear` and `ColumnsClear` leave behind: one blank element and the flag False.

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,10 @@ class RecordingEvents final : public lmListViewEvents {
     void on(const std::string& name, std::function<void()> handler) { handlers_[name] = std::move(handler); }
     /// What a handler of `ItemCheck` and `ErrorWrongIndex` writes into its by-reference argument.
     bool cancelCheck = false;
+    /// What a handler of `KeyDown` makes of the key.
+    std::optional<Integer> otherKey;
+    /// Where a handler of `MouseMove` and `MouseUp` puts the mouse.
+    std::optional<Single> otherY;
 
     void Click() override { note("Click", {}); }
     void DblClick() override { note("DblClick", {}); }
@@ -35,9 +40,11 @@ class RecordingEvents final : public lmListViewEvents {
     }
     void MouseUp(Integer& Button, Integer& Shift, Single& X, Single& Y) override {
         mouse("MouseUp", Button, Shift, X, Y);
+        Y = otherY.value_or(Y);
     }
     void MouseMove(Integer& Button, Integer& Shift, Single& X, Single& Y) override {
         mouse("MouseMove", Button, Shift, X, Y);
+        Y = otherY.value_or(Y);
     }
     void MouseDown(Integer& Button, Integer& Shift, Single& X, Single& Y) override {
         mouse("MouseDown", Button, Shift, X, Y);
@@ -46,10 +53,51 @@ class RecordingEvents final : public lmListViewEvents {
     void Scroll() override { note("Scroll", {}); }
     void KeyDown(Integer& KeyCode, Integer& Shift) override {
         note("KeyDown", {{"KeyCode", KeyCode}, {"Shift", Shift}});
+        KeyCode = otherKey.value_or(KeyCode);
     }
     void KeyPress(Integer& KeyAscii) override { note("KeyPress", {{"KeyAscii", KeyAscii}}); }
     void KeyUp(Integer& KeyCode, Integer& Shift) override {
         note("KeyUp", {{"KeyCode", KeyCode}, {"Shift", Shift}});
+    }
+    void OLECompleteDrag(Long& Effect) override { note("OLECompleteDrag", {{"Effect", Effect}}); }
+    void OLEDragDrop(DragData& Data,
+                     Long& Effect,
+                     Integer& Button,
+                     Integer& Shift,
+                     Single& X,
+                     Single& Y) override {
+        note("OLEDragDrop",
+             {{"Data", Data != nullptr},
+              {"Effect", Effect},
+              {"Button", Button},
+              {"Shift", Shift},
+              {"X", X},
+              {"Y", Y}});
+    }
+    void OLEDragOver(DragData& Data,
+                     Long& Effect,
+                     Integer& Button,
+                     Integer& Shift,
+                     Single& X,
+                     Single& Y,
+                     Integer& State) override {
+        note("OLEDragOver",
+             {{"Data", Data != nullptr},
+              {"Effect", Effect},
+              {"Button", Button},
+              {"Shift", Shift},
+              {"X", X},
+              {"Y", Y},
+              {"State", State}});
+    }
+    void OLEGiveFeedback(Long& Effect, bool& DefaultCursors) override {
+        note("OLEGiveFeedback", {{"Effect", Effect}, {"DefaultCursors", DefaultCursors}});
+    }
+    void OLESetData(DragData& Data, Integer& DataFormat) override {
+        note("OLESetData", {{"Data", Data != nullptr}, {"DataFormat", DataFormat}});
+    }
+    void OLEStartDrag(DragData& Data, Long& AllowedEffects) override {
+        note("OLEStartDrag", {{"Data", Data != nullptr}, {"AllowedEffects", AllowedEffects}});
     }
     void ErrorWrongIndex(Variant& Index) override { note("ErrorWrongIndex", {{"Index", Index}}); }
     void SortDone() override { note("SortDone", {}); }

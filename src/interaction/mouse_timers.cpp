@@ -1,0 +1,43 @@
+/// The two timers of the mouse: one notices that it has left, one scrolls while a drag is held outside.
+#include "model/list_view.h"
+
+namespace lumtex {
+
+void lmListView::tmrMouseIn_Timer() {
+    if (designMode()) {
+        tmrMouseIn->letEnabled(false);
+        return;
+    }
+    // A child over the surface, a bar for one, counts as outside.
+    if (window_->pointerStrictlyInside()) {
+        mouse_.mouseInside = true;
+        return;
+    }
+    mouse_.mouseInside = false;
+    window_->letMousePointer(pointerDefault);
+    Redraw();
+    tmrMouseIn->letEnabled(false);
+}
+
+void lmListView::tmrMouseAction_Timer() {
+    if (designMode() || mouse_.lastMouseButton == noButton) {
+        tmrMouseAction->letEnabled(false);
+        move_.moveTargetRow = -1;
+        tmrMouseAction->Tag.clear();
+        return;
+    }
+    if (tmrMouseAction->Tag == u"up" && TopIndex() >= 1) {
+        if (properties_.AllowItemMoving)
+            move_.moveTargetRow = TopIndex() - 1;
+        letTopIndex(TopIndex() - 1);
+    } else if (tmrMouseAction->Tag == u"down") {
+        if (properties_.AllowItemMoving)
+            move_.moveTargetRow = TopIndex() + VisibleItems();
+        // Wanted: at the last row it keeps ticking.
+        letTopIndex(TopIndex() + 1);
+    } else {
+        tmrMouseAction->letEnabled(false);
+    }
+}
+
+} // namespace lumtex

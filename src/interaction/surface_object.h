@@ -1,0 +1,31 @@
+/// \file
+/// The control's own surface, for those who know controls by late binding alone.
+#pragma once
+
+#include "platform/object.h"
+#include "platform/runtime_error.h"
+#include "platform/variant.h"
+#include "platform/window.h"
+
+namespace lumtex {
+
+/// Has a `hwnd`, and nothing else.
+class SurfaceObject final : public Object {
+  public:
+    explicit SurfaceObject(WindowHandle handle) : handle_(handle) {}
+
+    Variant get(StringView name, std::span<Variant> /*arguments*/) override {
+        if (name != u"hwnd")
+            throw RuntimeError(objectDoesNotSupportMember);
+        return Variant(handle_);
+    }
+    void put(StringView /*name*/, const Variant& /*value*/) override { throw RuntimeError(objectDoesNotSupportMember); }
+    Variant call(StringView /*name*/, std::span<Variant> /*arguments*/) override {
+        throw RuntimeError(objectDoesNotSupportMember);
+    }
+
+  private:
+    WindowHandle handle_;
+};
+
+} // namespace lumtex
