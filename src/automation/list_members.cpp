@@ -110,6 +110,14 @@ constexpr auto members = std::to_array<Member>({
         20, u"StopEdit", Repaint::never, u"Closes the in-place editor and drops what was typed."),
     readOnly<&lmListView::hwnd>(21, u"hwnd", u"The number of the control's window."),
     readOnly<&lmListView::hwndEdit>(22, u"hwndEdit", u"The number of the in-place editor's window."),
+    method<&lmListView::SetEdit>(
+        23,
+        u"SetEdit",
+        Repaint::asAutoRedraw,
+        u"Opens the in-place editor over a cell, with the whole text selected. No permission is asked for.",
+        {u"Row", u"Column"}),
+    readOnly<&lmListView::ColumnIndex>(
+        24, u"ColumnIndex", u"The 1-based column under the last press or release; -1 for none."),
 });
 
 } // namespace

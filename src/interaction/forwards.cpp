@@ -14,7 +14,7 @@ void lmListView::UserControl_Click() {
     events_.Click();
 }
 
-/// Wanted: opens the editor by the cell's permission alone, whatever AllowEdit says.
+// Wanted: opens the editor by the cell's permission alone, whatever AllowEdit says.
 void lmListView::UserControl_DblClick() {
     events_.DblClick();
     if (edit_.lastClickRow < 0 || edit_.lastClickColumn < 0)

@@ -17,8 +17,8 @@ void lmListView::dragRow(Long row) {
     Redraw();
 }
 
-/// Wanted: nothing asks whether a drag took place, and the row behind the current one is meant: each click
-/// moves cells.
+// Wanted: nothing asks whether a drag took place, and the row behind the current one is meant: each click
+// moves cells.
 void lmListView::dropRow() {
     const Long row = RowIndex();
     if (move_.moveTargetRow <= row)
@@ -30,7 +30,9 @@ void lmListView::dropRow() {
         Redraw();
 }
 
-/// `Row` counts from 0. Wanted: the two rows swap their cells and nothing else; the rows between stay.
+// Wanted: the two rows swap their cells and nothing else; the rows between stay.
+
+/// `Row` counts from 0.
 void lmListView::MoveItemUp(Long Row, Long Count) {
     if (RowsCount() == 0 || ColumnsCount() == 0)
         return;

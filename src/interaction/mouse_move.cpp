@@ -73,7 +73,7 @@ void lmListView::drag(Single Y, std::optional<Long> row) {
     }
 }
 
-/// Wanted: nothing stores a number in the two fields, so the event is never raised.
+// Wanted: nothing stores a number in the two fields, so the event is never raised.
 void lmListView::leaveItem() {
     if (mouse_.hoverRow == 0 && mouse_.hoverCellColumn == 0)
         return;

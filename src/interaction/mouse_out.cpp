@@ -3,7 +3,7 @@
 
 namespace lumtex {
 
-/// Wanted: nothing calls it.
+// Wanted: nothing calls it.
 void lmListView::MouseOut(Single X, Single Y) {
     const Surface& surface = window_->surface();
     if (X < 0 || Y < 0 || X > static_cast<Single>(surface.scaleWidth()) ||

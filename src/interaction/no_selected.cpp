@@ -15,8 +15,10 @@ void lmListView::NoSelected(std::optional<Long> index) {
         p.step([&] { recordAt(*index).Selected = true; });
 }
 
-/// `index` counts from 0. Wanted: each row is a turn of the host, and whoever counts in the same member
-/// during it, a paint for one, leaves rows out.
+// Wanted: each row is a turn of the host, and whoever counts in the same member during it, a paint for one,
+// leaves rows out.
+
+/// `index` counts from 0.
 void lmListView::SetNewSelected(Long index) {
     Procedure p = procedure(u"SetNewSelected");
     countShared(paint_.scanIndex, 0, RowsCount() - 1, [&] {

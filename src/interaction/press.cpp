@@ -42,7 +42,7 @@ void lmListView::press(Single X, Single Y, Procedure& p) {
         Redraw();
         return;
     }
-    // Wanted: with hidden headers the rows are looked for from 0 on, while painting starts them at 1.
+    // Wanted: with hidden headers the rows are looked for from 0 on, while their colour starts at 1.
     const bool onBody = properties_.HideColumnHeaders || Y > static_cast<Single>(ColumnHeight());
     if (!onBody || X >= paint_.columnsRight)
         return;
@@ -88,7 +88,7 @@ void lmListView::pressRow(Long row, Single X, Single Y, Procedure& p) {
     events_.ItemDown(row + 1, column + 1);
 }
 
-/// Wanted: a press at the place of a check box toggles the cell, whether its column draws boxes or not.
+// Wanted: a press at the place of a check box toggles the cell, whether its column draws boxes or not.
 bool lmListView::inCheckBoxZone(Single X, Single Y, Procedure& p) {
     const Surface& surface = window_->surface();
     const Picture& box = *artwork_.img[1];

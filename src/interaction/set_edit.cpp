@@ -28,7 +28,7 @@ void lmListView::SetEdit(const Variant& Row, const Variant& Column) {
     txtEdit->letSelLength(static_cast<Long>(txtEdit->Text().size()));
 }
 
-/// Wanted: a number counted from 1 against a top row counted from 0, and the way down goes past the row.
+// Wanted: a number counted from 1 against a top row counted from 0, and the way down goes past the row.
 void lmListView::editedRowIntoView(const Variant& Row, Procedure& p) {
     Double row = 0;
     if (!p.step([&] { row = Row.toDouble(); }))
@@ -39,7 +39,7 @@ void lmListView::editedRowIntoView(const Variant& Row, Procedure& p) {
         p.step([&] { letTopIndex(roundToLong(row + VisibleItems())); });
 }
 
-/// Wanted: the background is not copied.
+// Wanted: the background is not copied.
 void lmListView::dressEditor(const Variant& Row, const Variant& Column, Procedure& p) {
     const auto dress = [&](auto change) {
         p.step([&] {

@@ -19,7 +19,9 @@ class SurfaceObject final : public Object {
             throw RuntimeError(objectDoesNotSupportMember);
         return Variant(handle_);
     }
-    void put(StringView /*name*/, const Variant& /*value*/) override { throw RuntimeError(objectDoesNotSupportMember); }
+    void put(StringView /*name*/, const Variant& /*value*/) override {
+        throw RuntimeError(objectDoesNotSupportMember);
+    }
     Variant call(StringView /*name*/, std::span<Variant> /*arguments*/) override {
         throw RuntimeError(objectDoesNotSupportMember);
     }

@@ -273,12 +273,8 @@ class lmListView final : public UserControl,
     void UserControl_KeyPress(Integer KeyAscii) override;
     void UserControl_KeyUp(Integer KeyCode, Integer Shift) override;
     void UserControl_OLECompleteDrag(Long& Effect) override;
-    void UserControl_OLEDragDrop(const DragData& Data,
-                                 Long& Effect,
-                                 Integer& Button,
-                                 Integer& Shift,
-                                 Single& X,
-                                 Single& Y) override;
+    void UserControl_OLEDragDrop(
+        const DragData& Data, Long& Effect, Integer& Button, Integer& Shift, Single& X, Single& Y) override;
     void UserControl_OLEDragOver(const DragData& Data,
                                  Long& Effect,
                                  Integer& Button,
@@ -444,7 +440,7 @@ class lmListView final : public UserControl,
     std::unique_ptr<GuideLine> Line1;
     std::unique_ptr<Timer> tmrMouseIn;
     std::unique_ptr<Timer> tmrMouseAction;
-    std::unique_ptr<QI> tips_; ///< made on first need
+    std::unique_ptr<QI> tips_;         ///< made on first need
     std::unique_ptr<Surface> Picture1; ///< measures, so that the list's own surface keeps its font
 };
 

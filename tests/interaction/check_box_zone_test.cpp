@@ -1,5 +1,4 @@
 #include "interaction/check_box_zone.h"
-
 #include "played_list.h"
 
 namespace lumtex::testing {
@@ -24,7 +23,6 @@ struct ZoneRow {
 
 // The second of two columns of 60 pixels, a box of 13.
 // clang-format off
-// Wanted: five pixels wider than the picture, up to the cell's right edge.
 constexpr ZoneRow zoneRows[] = {
     {"left",   cItemLeft,   66,    79},
     {"centre", cItemCenter, 84.5F, 97.5F},
@@ -32,6 +30,7 @@ constexpr ZoneRow zoneRows[] = {
 };
 // clang-format on
 
+// Wanted: five pixels wider than the picture, up to the cell's right edge.
 TEST(CheckBoxZone, FollowsTheIconsAlignment) {
     for (const ZoneRow& row : zoneRows) {
         const auto zone = checkBoxZone(row.alignment, 60, 60, 13, 0);
@@ -82,12 +81,12 @@ TEST_F(CheckBoxZonePress, TrustsTheStoredLeftOfTheColumn) {
 TEST_F(CheckBoxZonePress, AsksBeforeAndTellsAfter) {
     fill(3);
     press({columnLeft(2) + 10, rowTop(2) + 8});
-    EXPECT_EQ(taken(),
-              (Lines{"ItemCheck Row=2 Column=2 NewValue=True",
-                     "ItemChecked Row=2 Column=2 NewValue=True",
-                     "ItemDown Row=2 Column=2",
-                     "MouseDown Button=1 Shift=0 X=70 Y=" +
-                         std::to_string(static_cast<int>(rowTop(2) + 8))}));
+    EXPECT_EQ(
+        taken(),
+        (Lines{"ItemCheck Row=2 Column=2 NewValue=True",
+               "ItemChecked Row=2 Column=2 NewValue=True",
+               "ItemDown Row=2 Column=2",
+               "MouseDown Button=1 Shift=0 X=70 Y=" + std::to_string(static_cast<int>(rowTop(2) + 8))}));
     EXPECT_TRUE(list.ItemChecked(2, 2));
     EXPECT_EQ(list.ItemsCheckedCount(2), 1);
 }

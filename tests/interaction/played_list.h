@@ -59,19 +59,16 @@ class PlayedList : public ListFixture {
     At cell(Long row, Long column) {
         return {columnLeft(column) + columnWidth(column) / 2, rowTop(row) + rowHeight / 2};
     }
-    At header(Long column) {
-        return {columnLeft(column) + columnWidth(column) / 2, headerHeight() / 2};
-    }
+    At header(Long column) { return {columnLeft(column) + columnWidth(column) / 2, headerHeight() / 2}; }
     /// Inside the grip at a column's right edge.
-    At divider(Long column) {
-        return {columnLeft(column) + columnWidth(column) - 2, headerHeight() / 2};
-    }
+    At divider(Long column) { return {columnLeft(column) + columnWidth(column) - 2, headerHeight() / 2}; }
 
     void move(At at) { desktop.move(list.window(), at.x, at.y); }
-    /// Moves there, and lets the list notice that the mouse is inside.
+    /// Moves there, lets the list notice that the mouse is inside, and stirs it once more.
     void hover(At at) {
         move(at);
         desktop.advance(std::chrono::milliseconds(1));
+        move(at);
         events.log.clear();
     }
     void press(At at, MouseButton button = leftButton) {
@@ -86,7 +83,8 @@ class PlayedList : public ListFixture {
     /// The log so far, moves left out; starts a new one.
     std::vector<std::string> taken() {
         std::vector<std::string> log = std::exchange(events.log, {});
-        std::erase_if(log, [](const std::string& line) { return line.find("MouseMove") != std::string::npos; });
+        std::erase_if(log,
+                      [](const std::string& line) { return line.find("MouseMove") != std::string::npos; });
         return log;
     }
     /// The names alone.

@@ -19,7 +19,6 @@ struct SelectionRow {
 };
 
 // Five rows; before the press row 2 is current, rows 2 and 4 are selected, and row 3 is disabled.
-// Wanted: whatever MultiSelect says, Control takes the selection from the current row.
 // clang-format off
 constexpr SelectionRow selectionRows[] = {
     {"single, no key",                   false, 0,  1,  5, "index=5 selected=5",       4},
@@ -38,6 +37,7 @@ constexpr SelectionRow selectionRows[] = {
 };
 // clang-format on
 
+// Wanted: whatever MultiSelect says, Control takes the selection from the current row.
 TEST_F(PressSelection, FollowsModeAndKey) {
     fill(5);
     for (const SelectionRow& row : selectionRows) {

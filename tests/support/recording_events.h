@@ -60,12 +60,8 @@ class RecordingEvents final : public lmListViewEvents {
         note("KeyUp", {{"KeyCode", KeyCode}, {"Shift", Shift}});
     }
     void OLECompleteDrag(Long& Effect) override { note("OLECompleteDrag", {{"Effect", Effect}}); }
-    void OLEDragDrop(DragData& Data,
-                     Long& Effect,
-                     Integer& Button,
-                     Integer& Shift,
-                     Single& X,
-                     Single& Y) override {
+    void OLEDragDrop(
+        DragData& Data, Long& Effect, Integer& Button, Integer& Shift, Single& X, Single& Y) override {
         note("OLEDragDrop",
              {{"Data", Data != nullptr},
               {"Effect", Effect},

@@ -1,0 +1,141 @@
+#include "played_list.h"
+
+namespace lumtex::testing {
+
+class MouseMove : public PlayedList {};
+
+TEST_F(MouseMove, IsRememberedAndToldAndStartsTheHoverTimer) {
+    fill(2);
+    EXPECT_FALSE(inside.mouseInTimer().Enabled());
+    move({33, 44});
+    EXPECT_EQ(events.log, Lines{"MouseMove Button=0 Shift=0 X=33 Y=44"});
+    EXPECT_EQ(inside.mouse().lastMouseX, 33);
+    EXPECT_EQ(inside.mouse().lastMouseY, 44);
+    EXPECT_EQ(inside.mouse().lastMouseButton, 0);
+    EXPECT_TRUE(inside.mouseInTimer().Enabled());
+}
+
+TEST_F(MouseMove, YieldsAtBothEndsAndWithoutRowsAtTheStartAlone) {
+    const At low{30, 150};
+    EXPECT_EQ(yieldsOf([&] { list.UserControl_MouseMove(0, 0, low.x, low.y); }), 1);
+    fill(2);
+    EXPECT_EQ(yieldsOf([&] { list.UserControl_MouseMove(0, 0, low.x, low.y); }), 2);
+}
+
+TEST_F(MouseMove, YieldsBeforeItRemembersThePlace) {
+    fill(2);
+    move({10, 150});
+    Single seen = 0;
+    desktop.onYield([&] { seen = inside.mouse().lastMouseX; });
+    list.UserControl_MouseMove(0, 0, 20, 150);
+    EXPECT_EQ(seen, 10);
+}
+
+TEST_F(MouseMove, WithoutAButtonEndsWhatAPressBegan) {
+    fill(2);
+    inside.header() = {true, 0, 0, -1, 0, true};
+    list.UserControl_MouseMove(rightButton, 0, 30, 150);
+    EXPECT_TRUE(inside.header().pressPending);
+    EXPECT_TRUE(inside.header().resizing);
+    list.UserControl_MouseMove(0, 0, 30, 150);
+    EXPECT_FALSE(inside.header().pressPending);
+    EXPECT_FALSE(inside.header().resizing);
+    EXPECT_EQ(inside.header().pressedColumn, -1);
+    EXPECT_EQ(inside.header().resizeColumn, -1);
+}
+
+// Wanted: a move on the exact line paints twice.
+TEST_F(MouseMove, PaintsOverTheHeadersAndOnceMoreWhenTheHoverLeaves) {
+    struct Row {
+        const char* name;
+        Single beyond; ///< pixels under the header's foot
+        Long hover;
+        int paints;
+    };
+    fill(2);
+    for (const Row& row : {Row{"over the headers", -3, -1, 1},
+                           Row{"over the headers, from a header", -3, 0, 1},
+                           Row{"on the line", 0, -1, 2},
+                           Row{"under it, nothing hovered", 1, -1, 0},
+                           Row{"under it, the hover leaves", 1, 0, 1}}) {
+        hover(cell(2, 1));
+        inside.header().hoverColumn = row.hover;
+        const Single y = headerHeight() + row.beyond;
+        EXPECT_EQ(paintsOf([&] { list.UserControl_MouseMove(0, 0, 30, y); }), row.paints) << row.name;
+        EXPECT_EQ(inside.header().hoverColumn, row.beyond > 0 ? -1 : 0) << row.name;
+    }
+}
+
+TEST_F(MouseMove, WithHiddenHeadersPaintsNothing) {
+    fill(2);
+    list.letHideColumnHeaders(true);
+    hover(cell(2, 1));
+    inside.header().hoverColumn = 0;
+    window().letMousePointer(pointerCustom);
+    EXPECT_EQ(paintsOf([&] { list.UserControl_MouseMove(0, 0, 30, 0); }), 0);
+    EXPECT_EQ(window().MousePointer(), pointerCustom);
+}
+
+TEST_F(MouseMove, UnderTheHeadersTakesTheResizeCursorAway) {
+    fill(2);
+    hover(divider(1));
+    move(divider(1));
+    EXPECT_EQ(window().MousePointer(), pointerCustom);
+    move(cell(1, 1));
+    EXPECT_EQ(window().MousePointer(), pointerDefault);
+}
+
+TEST_F(MouseMove, CarriesTheGuideLineAlong) {
+    fill(2);
+    press(divider(1));
+    move({80, 5});
+    ASSERT_TRUE(inside.header().resizing);
+    move({95, 50});
+    EXPECT_TRUE(inside.guide().Visible());
+    EXPECT_EQ(inside.guide().X1(), 95);
+    EXPECT_EQ(inside.guide().X2(), 95);
+    EXPECT_EQ(inside.guide().Y1(), 0);
+    EXPECT_EQ(inside.guide().Y2(), 200);
+}
+
+TEST_F(MouseMove, GoesOnWithThePlaceThatTheHostMadeOfIt) {
+    fill(3);
+    hover(cell(1, 1));
+    events.otherY = rowTop(3) + 5;
+    list.UserControl_MouseMove(leftButton, 0, 30, rowTop(2) + 5);
+    EXPECT_EQ(selection(), "index=3 selected=3");
+    EXPECT_EQ(inside.mouse().lastMouseY, rowTop(2) + 5);
+}
+
+// Wanted: nothing stores a number in the two fields, so the event is never raised.
+TEST_F(MouseMove, NeverRaisesItemOver) {
+    fill(3);
+    list.letCheckMouseOver(true);
+    for (const At at : {cell(1, 1), cell(2, 2), At{200, 100}, header(1), At{30, 190}, cell(3, 1)}) {
+        hover(at);
+        move(at);
+    }
+    EXPECT_EQ(takenNames(), Lines{});
+    EXPECT_EQ(inside.mouse().hoverRow, 0);
+    EXPECT_EQ(inside.mouse().hoverCellColumn, 0);
+    EXPECT_EQ(inside.tips(), nullptr);
+}
+
+TEST_F(MouseMove, WouldRaiseItemOverWithZerosForAnItemThatWasStored) {
+    fill(3);
+    list.letCheckMouseOver(true);
+    inside.mouse().hoverRow = 2;
+    move(cell(3, 1));
+    desktop.advance(std::chrono::milliseconds(1));
+    events.log.clear();
+    inside.mouse().hoverRow = 2;
+    move(cell(2, 1));
+    EXPECT_EQ(takenNames(), Lines{}) << "over an item";
+    move({200, 100});
+    EXPECT_EQ(taken(), Lines{"ItemOver Row=0 Column=0 bOverItem=False"});
+    EXPECT_EQ(inside.mouse().hoverRow, 0);
+    EXPECT_NE(inside.tips(), nullptr);
+    EXPECT_EQ(reportCount(), 0U);
+}
+
+} // namespace lumtex::testing
