@@ -252,6 +252,9 @@ class lmListView final : public UserControl,
     void setSkin(PictureRef picture) override;
     void letOLEDropMode(Integer value) override;
 
+    /// Shows the about box and returns once it was closed.
+    void About();
+
     /// The window's number, and that of the in-place editor.
     WindowHandle hwnd() const { return window_->hWnd(); }
     WindowHandle hwndEdit() const { return txtEdit->hWnd(); }

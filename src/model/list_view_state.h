@@ -16,6 +16,8 @@
 
 namespace lumtex {
 
+class LumtexAbout;
+
 /// The data of `lmListView`, its properties and children apart. Which room owns which part,
 /// docs/architecture.md tells; the type of each struct says what its members mean.
 struct ListViewState {
@@ -38,6 +40,7 @@ struct ListViewState {
     ItemMoveState move_;
     SortState sort_;
     ScrollState scroll_;
+    std::shared_ptr<LumtexAbout> about_; ///< the form of the world, from the first `About` on
 };
 
 } // namespace lumtex

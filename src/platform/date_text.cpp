@@ -138,6 +138,12 @@ bool isDateInRange(Double days) {
     return days > firstDay - 1 && days < lastDay + 1;
 }
 
+int yearOf(Date date) {
+    if (!isDateInRange(date.days))
+        throw RuntimeError(overflow);
+    return int{year_month_day{startDay + days{static_cast<int>(date.days)}}.year()};
+}
+
 std::optional<Date> dateFromText(StringView text) {
     text = trimmed(text);
     if (const auto seconds = secondsOfTimePart(text))

@@ -28,6 +28,13 @@ class World {
     /// A hidden window of no size whose events go to `client`. `parent` is null for a control that the host
     /// places itself. Later children lie above earlier ones.
     virtual std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) = 0;
+    /// A hidden window without a frame, placed in pixels of the screen.
+    virtual std::unique_ptr<Window> createForm(UserControl& client) = 0;
+    /// Shows a form above the program's other windows, which take no input meanwhile, and gives it the focus.
+    /// Events are delivered until the form is hidden, by its own doing or by the desktop's; then it returns.
+    virtual void showModal(Window& form) = 0;
+    /// Pixels of the screen on which forms appear.
+    virtual Point screenSize() const = 0;
     virtual std::unique_ptr<TextBox> createTextBox(Window& parent, TextBoxClient& client) = 0;
     virtual std::unique_ptr<GuideLine> createGuideLine(Window& parent) = 0;
     virtual std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) = 0;

@@ -14,6 +14,8 @@
 
 namespace lumtex {
 
+class LumtexAbout;
+
 /// Both bars are one class over an axis; `lmVScroll` and `lmHScroll` name the two, and BarTraits tells them
 /// apart. "Low" is the end at the top or the left.
 ///
@@ -68,6 +70,9 @@ class ScrollBar : public UserControl {
     /// A saved bar. A range whose ends come in the wrong order is refused with a message box.
     void UserControl_ReadProperties(const PropertyBag& bag);
     void UserControl_WriteProperties(PropertyBag& bag) const;
+
+    /// Shows the about box and returns at once.
+    void About();
 
     Single Left() const { return window_->Left(); }
     Single Top() const { return window_->Top(); }
@@ -155,6 +160,7 @@ class ScrollBar : public UserControl {
     ScrollThumb thumb_;
     ArrowButton low_;
     ArrowButton high_;
+    std::shared_ptr<LumtexAbout> about_;
 };
 
 class lmVScroll final : public ScrollBar {

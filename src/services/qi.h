@@ -9,6 +9,8 @@
 
 namespace lumtex {
 
+class LumtexAbout;
+
 /// Owns one `lmToolTip`, made on first need. The world must outlive it.
 class QI {
   public:
@@ -21,6 +23,9 @@ class QI {
     /// Nothing happens for a control without a tip.
     void Remove(const ObjectRef& Control);
 
+    /// Shows the about box, hides it, then shows it modally.
+    void About();
+
     /// The tip window; none before the first call.
     lmToolTip* toolTip() { return toolTip_.get(); }
 
@@ -30,6 +35,7 @@ class QI {
 
     World& world_;
     std::unique_ptr<lmToolTip> toolTip_;
+    std::shared_ptr<LumtexAbout> about_;
 };
 
 } // namespace lumtex

@@ -5,8 +5,11 @@
 #include "platform/headless/headless_window.h"
 #include "recording_surface.h"
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace lumtex::testing {
 
@@ -18,6 +21,8 @@ class RecordingWindow final : public Window {
     HeadlessWindow& inner() { return static_cast<HeadlessWindow&>(*inner_); }
     RecordingSurface& recorder() { return surface_; }
 
+    std::function<void(bool)> onVisible; ///< before the window is shown or hidden
+
     WindowHandle hWnd() const override { return inner_->hWnd(); }
     Surface& surface() override { return surface_; }
     Single Left() const override { return inner_->Left(); }
@@ -28,7 +33,11 @@ class RecordingWindow final : public Window {
         inner_->place(left, top, width, height);
     }
     bool Visible() const override { return inner_->Visible(); }
-    void letVisible(bool visible) override { inner_->letVisible(visible); }
+    void letVisible(bool visible) override {
+        if (onVisible)
+            onVisible(visible);
+        inner_->letVisible(visible);
+    }
     bool Enabled() const override { return inner_->Enabled(); }
     void letEnabled(bool enabled) override { inner_->letEnabled(enabled); }
     Integer OLEDropMode() const override { return inner_->OLEDropMode(); }
@@ -60,6 +69,17 @@ class RecordingWorld final : public World {
     std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) override {
         return std::make_unique<RecordingWindow>(desktop_.createWindow(innerOf(parent), client));
     }
+    std::unique_ptr<Window> createForm(UserControl& client) override {
+        auto form = std::make_unique<RecordingWindow>(desktop_.createForm(client));
+        form->onVisible = [this](bool visible) { forms.emplace_back(visible ? "show" : "hide"); };
+        return form;
+    }
+    void showModal(Window& form) override {
+        forms.emplace_back("modal");
+        desktop_.showModal(*innerOf(&form));
+        forms.emplace_back("modal end");
+    }
+    Point screenSize() const override { return desktop_.screenSize(); }
     std::unique_ptr<TextBox> createTextBox(Window& parent, TextBoxClient& client) override {
         return desktop_.createTextBox(*innerOf(&parent), client);
     }
@@ -72,6 +92,8 @@ class RecordingWorld final : public World {
     std::unique_ptr<Surface> createSurface(Long width, Long height) override {
         return desktop_.createSurface(width, height);
     }
+
+    std::vector<std::string> forms; ///< how forms came and went: show, hide, modal, modal end
 
   private:
     static Window* innerOf(Window* window) {

@@ -30,6 +30,21 @@ std::unique_ptr<Window> Desktop::createWindow(Window* parent, UserControl& clien
     return window;
 }
 
+std::unique_ptr<Window> Desktop::createForm(UserControl& client) {
+    return std::make_unique<HeadlessWindow>(*this, nullptr, client);
+}
+
+void Desktop::showModal(Window& form) {
+    form.letVisible(true);
+    form.setFocus();
+    // A copy, since the host may replace it while it runs.
+    loop_.yield([&form, use = whileFormIsOpen] {
+        if (use)
+            use(form);
+    });
+    form.letVisible(false);
+}
+
 std::unique_ptr<TextBox> Desktop::createTextBox(Window& parent, TextBoxClient& client) {
     return std::make_unique<HeadlessTextBox>(*this, paneOf(parent.hWnd()), client);
 }

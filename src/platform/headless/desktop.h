@@ -41,6 +41,11 @@ class Desktop final : public World {
     /// A window without a parent is shown from the start, as if its host had done so, and no UserControl_Show
     /// comes of that.
     std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) override;
+    std::unique_ptr<Window> createForm(UserControl& client) override;
+    /// Counts as a yield: shows the form, runs `whileFormIsOpen`, then the loop. A form that is still open
+    /// after that is hidden, as if the user had closed it.
+    void showModal(Window& form) override;
+    Point screenSize() const override { return {1024, 768}; }
     std::unique_ptr<TextBox> createTextBox(Window& parent, TextBoxClient& client) override;
     std::unique_ptr<GuideLine> createGuideLine(Window& parent) override;
     std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) override;
@@ -125,6 +130,9 @@ class Desktop final : public World {
     /// The window or text box that has the focus, or the mouse; 0 for none.
     WindowHandle focused() const;
     WindowHandle captured() const { return pointer_.captured(); }
+
+    /// What a user does while a modal form is open, and host code that runs then.
+    std::function<void(Window&)> whileFormIsOpen;
 
     // For what the desktop makes
 
