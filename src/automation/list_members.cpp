@@ -118,6 +118,8 @@ constexpr auto members = std::to_array<Member>({
         {u"Row", u"Column"}),
     readOnly<&lmListView::ColumnIndex>(
         24, u"ColumnIndex", u"The 1-based column under the last press or release; -1 for none."),
+    method<&lmListView::About>(
+        -552, u"About", Repaint::never, u"Shows the about box and returns once it was closed."),
 });
 
 } // namespace
