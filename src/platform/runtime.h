@@ -21,6 +21,12 @@ struct ComponentInfo {
     Long revision = 0;
 };
 
+/// A running process, as a listing of all processes names it.
+struct ProcessEntry {
+    Long id = 0;
+    String fileName; ///< of its program, with or without a path; ends at the first zero
+};
+
 /// A value of the settings store, as it lies there.
 struct StoredSetting {
     enum Type : Long { text = 1, textWithVariables = 2, number = 4 };
@@ -78,8 +84,12 @@ class Runtime {
     virtual void messageBox(StringView text, Long style, StringView title) = 0;
 
     virtual const ComponentInfo& component() const = 0;
-    /// The full path of the program that the process runs; empty where it cannot be told.
-    virtual String currentExePath() const = 0;
+
+    virtual Long currentProcessId() const = 0;
+    /// All processes, or as many as the world knows, its own among them; none where they cannot be listed.
+    virtual std::optional<std::vector<ProcessEntry>> processes() const = 0;
+    /// `file`, completed from the current folder where it has no full path of its own.
+    virtual String fullPathName(StringView file) const = 0;
 
     /// The value `name` under `key` of the settings store, none where there is none. `key` separates its
     /// parts with "\".

@@ -1,5 +1,6 @@
 #include "services/bas_error.h"
 
+#include "services/current_exe_path.h"
 #include "services/registry_value.h"
 
 #include <array>
@@ -76,7 +77,7 @@ void writeLogRecord(Runtime& runtime, StringView text) {
 
 void callHandler(Runtime& runtime, Object& handler, const ErrorReport& report) {
     // The last six go by reference, but what a handler makes of them is not read back.
-    std::array<Variant, 8> arguments = {runtime.currentExePath(),
+    std::array<Variant, 8> arguments = {CurrentExePath(runtime),
                                         runtime.applicationObject(),
                                         report.number,
                                         report.description,

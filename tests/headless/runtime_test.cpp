@@ -104,10 +104,21 @@ TEST_F(RuntimeRules, TheComponentIsTheProjectUntilATestSaysOtherwise) {
     EXPECT_EQ(info.exeName, u"Other");
 }
 
-TEST_F(RuntimeRules, TheRunningProgramIsNamed) {
-    const std::filesystem::path path = toUtf8(desktop.runtime().currentExePath());
+TEST_F(RuntimeRules, TheRunningProgramIsTheOneProcess) {
+    const HeadlessRuntime& runtime = desktop.runtime();
+    const std::optional<std::vector<ProcessEntry>> processes = runtime.processes();
+    ASSERT_TRUE(processes.has_value());
+    ASSERT_EQ(processes->size(), 1U);
+    EXPECT_EQ(processes->front().id, runtime.currentProcessId());
+    const std::filesystem::path path = toUtf8(runtime.fullPathName(processes->front().fileName));
     EXPECT_EQ(path.filename(), "lumtex_test_headless");
     EXPECT_TRUE(std::filesystem::exists(path));
+}
+
+TEST_F(RuntimeRules, AFileNameIsCompletedFromTheCurrentFolder) {
+    const String current = fromUtf8(std::filesystem::current_path().string());
+    EXPECT_EQ(desktop.runtime().fullPathName(u"name.txt"), current + u"/name.txt");
+    EXPECT_EQ(desktop.runtime().fullPathName(u"/some/./name.txt"), u"/some/name.txt");
 }
 
 TEST_F(RuntimeRules, TheDateMovesWithTheVirtualClock) {

@@ -43,7 +43,8 @@ class FakeRuntime final : public Runtime {
     std::map<String, std::function<ObjectRef()>> factories;
 
     ComponentInfo info{u"LumtexListView", u"C:\\Components", 1, 2, 34};
-    String exePath = u"C:\\Programs\\Host.exe";
+    std::optional<std::vector<ProcessEntry>> processList{{{4, u"System"}, {77, u"Host.exe"}}};
+    String currentFolder = u"C:\\Programs";
     ObjectRef application;
     Date clock{45351.5};
 
@@ -56,7 +57,9 @@ class FakeRuntime final : public Runtime {
     }
 
     const ComponentInfo& component() const override { return info; }
-    String currentExePath() const override { return exePath; }
+    Long currentProcessId() const override { return 77; }
+    std::optional<std::vector<ProcessEntry>> processes() const override { return processList; }
+    String fullPathName(StringView file) const override { return currentFolder + u"\\" + String(file); }
 
     std::optional<StoredSetting>
     storedSetting(std::uint32_t hive, StringView key, StringView name) const override {

@@ -70,7 +70,7 @@ HeadlessRuntime::HeadlessRuntime(Desktop& desktop)
                     .major = versionMajor,
                     .minor = versionMinor,
                     .revision = versionRevision},
-      desktop_(desktop) {}
+      processList{{{processId, textOf(programPath())}}}, desktop_(desktop) {}
 
 void HeadlessRuntime::DoEvents() {
     desktop_.yield();
@@ -89,8 +89,10 @@ void HeadlessRuntime::messageBox(StringView text, Long style, StringView title) 
     });
 }
 
-String HeadlessRuntime::currentExePath() const {
-    return textOf(programPath());
+String HeadlessRuntime::fullPathName(StringView file) const {
+    std::error_code failure;
+    const auto path = std::filesystem::absolute(toUtf8(file), failure);
+    return failure ? String() : textOf(path.lexically_normal());
 }
 
 std::optional<StoredSetting>

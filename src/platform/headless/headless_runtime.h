@@ -47,7 +47,9 @@ class HeadlessRuntime final : public Runtime {
     /// A box inside too many others is noted and does nothing else.
     void messageBox(StringView text, Long style, StringView title) override;
     const ComponentInfo& component() const override { return componentInfo; }
-    String currentExePath() const override;
+    Long currentProcessId() const override { return processId; }
+    std::optional<std::vector<ProcessEntry>> processes() const override { return processList; }
+    String fullPathName(StringView file) const override;
     std::optional<StoredSetting>
     storedSetting(std::uint32_t hive, StringView key, StringView name) const override;
     /// `clock`, and the virtual time that has passed.
@@ -92,6 +94,9 @@ class HeadlessRuntime final : public Runtime {
     std::function<void()> whileBoxIsOpen; ///< host code, with the box as the last of `boxes`
     /// At first the project's name and version, and the folder of the running program.
     ComponentInfo componentInfo;
+    /// The program of this machine that runs the desktop, under a number that is the same in every run.
+    static constexpr Long processId = 4711;
+    std::optional<std::vector<ProcessEntry>> processList;
     Date clock{36526.5}; ///< the moment at which the virtual clock started; at first noon of 2000-01-01
     /// By program identifier.
     std::map<String, std::function<ObjectRef()>, NameOrder> factories;

@@ -1,0 +1,13 @@
+/// \file
+/// The program that the process runs.
+#pragma once
+
+#include "platform/runtime.h"
+
+namespace lumtex {
+
+/// Found by a walk over all processes; empty where these cannot be listed, or the own one is not among them,
+/// or its path is longer than 255 code units.
+String CurrentExePath(const Runtime& runtime);
+
+} // namespace lumtex
