@@ -59,6 +59,14 @@ void select(lmListView& list, bool on) {
     list.letTopIndex(0);
 }
 
+/// Too wide and too long for its window, with some rows out of view above.
+void scroll(lmListView& list, bool on) {
+    for (Long column = 1; column <= list.ColumnsCount(); ++column)
+        list.letColumnWidth(column, list.ColumnWidth(column) * (on ? 2.0F : 0.5F));
+    list.CheckScroll();
+    list.letTopIndex(on ? list.RowsCount() / 3 : 0);
+}
+
 const std::vector<Look>& looks() {
     static const std::vector<Look> all = {
         {"plain", [](lmListView&, bool) {}},
@@ -72,6 +80,7 @@ const std::vector<Look>& looks() {
              });
          }},
         {"fonts", mixFonts},
+        {"scrolled", scroll},
     };
     return all;
 }
@@ -88,6 +97,9 @@ void dress(lmListView& list, cColorStyle style) {
     list.letValueColor(0x8A5A2B);
     list.letBorderColor(0xB08C5A);
     list.letScrollBackColor(0xF7F0E8);
+    list.letScrollBar(0xD9B98C);
+    list.letScrollButtons(0xE8D9C5);
+    list.letScrollArrows(0x8A5A2B);
     list.letAutoRowColor(true);
     list.letRowColorFirst(0xFFFFFF);
     list.letRowColorSecond(0xFBF5EE);

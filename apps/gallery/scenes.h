@@ -15,8 +15,8 @@ struct Scene {
     Bitmap picture;
 };
 
-/// Every style with every look: plain, grid lines, selection, disabled cells, mixed fonts; style by style.
-/// The list is left in the last of them.
+/// Every style with every look: plain, grid lines, selection, disabled cells, mixed fonts, both bars; style
+/// by style. The list is left in the last of them.
 std::vector<Scene> renderScenes(Desktop& desktop, lmListView& list);
 
 /// All scenes side by side at half their size, one row a style, with their names.

@@ -146,7 +146,7 @@ constexpr std::array<Chevron, 4> chevrons{{
       "..xxx",
       "...xx",
       "....x"},
-     5,
+     6,
      4},
     {{"x....", //
       "xx...",
@@ -157,7 +157,7 @@ constexpr std::array<Chevron, 4> chevrons{{
       "xxx..",
       "xx...",
       "x...."},
-     7,
+     6,
      4},
 }};
 
