@@ -26,14 +26,12 @@ void lmListView::CheckScroll() {
     if (total > static_cast<Single>(surface.scaleWidth())) {
         HS->letMin(0);
         const Long oldMax = HS->Max();
-        p.step([&] {
-            const Single range = total - static_cast<Single>(surface.scaleWidth()) +
-                                 scaleX(surface, properties_.EmptyColumnFieldWidth, twips, pixels);
-            HS->letMax(roundToLong(range));
-            // Wanted: any shrinking of the range throws the view back to the left edge.
-            if (range < static_cast<Single>(oldMax))
-                HS->letValue(0);
-        });
+        const Single range = total - static_cast<Single>(surface.scaleWidth()) +
+                             scaleX(surface, properties_.EmptyColumnFieldWidth, twips, pixels);
+        p.step([&] { HS->letMax(roundToLong(range)); });
+        // Wanted: any shrinking of the range throws the view back to the left edge.
+        if (range < static_cast<Single>(oldMax))
+            HS->letValue(0);
         HS->Tag = u"True";
     } else {
         HS->Tag = u"False";

@@ -36,8 +36,6 @@ class ScrollInspector {
 
 namespace lumtex::testing {
 
-using Lines = std::vector<std::string>;
-
 /// The bar lies at (20, 30) of a window of 300 x 300 and is 134 pixels long, 100 of them between its buttons;
 /// `Max` 50 makes the thumb 50 long, so that it travels one pixel for a unit. The log holds the bar's events.
 class OneBar {

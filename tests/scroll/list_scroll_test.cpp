@@ -1,3 +1,4 @@
+#include "bar_fixture.h"
 #include "list_fixture.h"
 
 namespace lumtex::testing {
@@ -126,20 +127,100 @@ TEST_F(ListScroll, BothBarsLeaveTheirCornerFree) {
     list.letBorderVisible(false);
     list.CheckScroll();
     EXPECT_EQ(inside.vertical().Left(), 300 - inside.vertical().Width()) << "they touch the edges";
+    EXPECT_EQ(inside.vertical().Top(), 0);
+    EXPECT_EQ(inside.horizontal().Left(), 0);
+    EXPECT_EQ(inside.horizontal().Top(), 200 - inside.horizontal().Height());
 }
 
-/// The bars' own handles come with a later piece of work; until then their events are raised here.
-TEST_F(ListScroll, APaintInsideABarsYieldGivesUp) {
+TEST_F(ListScroll, ResizingShowsNoHiddenBarUntilTheNextCheck) {
+    fixedRows(25);
     addColumns({50});
-    addRows(5);
-    desktop.onYield([&] {
-        EXPECT_TRUE(inside.scroll().scrollPending);
-        list.Redraw();
-        EXPECT_TRUE(inside.paint().paintBusy) << "the nested pass gave up";
-        inside.paint().paintBusy = false;
-    });
-    EXPECT_EQ(paintsOf([&] { inside.verticalChange(); }), 2);
-    EXPECT_FALSE(inside.scroll().scrollPending);
+    addRows(7);
+    list.window().place(100, 100, 300, 100);
+    EXPECT_FALSE(inside.vertical().Visible());
+    list.CheckScroll();
+    EXPECT_TRUE(inside.vertical().Visible());
+    list.window().place(100, 100, 300, 400);
+    EXPECT_TRUE(inside.vertical().Visible());
+    list.CheckScroll();
+    EXPECT_FALSE(inside.vertical().Visible());
+    EXPECT_EQ(inside.vertical().Height(), 0) << "a bar that is not needed has no length";
+}
+
+TEST_F(ListScroll, ABarThatComesBackHasAThumbOfItsLength) {
+    fixedRows(25);
+    addColumns({50});
+    addRows(9);
+    ASSERT_TRUE(inside.vertical().Visible());
+    const Single length = ScrollInspector::thumb(inside.vertical()).window().Height();
+    EXPECT_EQ(length, 198 - 2 - 34) << "9 rows, 7 of which fit";
+    list.window().place(100, 100, 300, 400);
+    list.CheckScroll();
+    list.window().place(100, 100, 300, 200);
+    list.CheckScroll();
+    EXPECT_EQ(ScrollInspector::thumb(inside.vertical()).window().Height(), length);
+}
+
+TEST_F(ListScroll, TheEmptyColumnFieldAddsToTheRange) {
+    list.letEmptyColumnFieldWidth(20 * 15);
+    addColumns({310});
+    EXPECT_EQ(inside.horizontal().Max(), 30);
+}
+
+TEST_F(ListScroll, AMissingColumnIsMadeOnTheWay) {
+    addColumns({100, 250});
+    inside.columns()[0].reset();
+    list.CheckScroll();
+    EXPECT_NE(inside.columns()[0], nullptr);
+    EXPECT_EQ(inside.horizontal().Tag, u"False");
+}
+
+TEST_F(ListScroll, ASurfaceShorterThanItsHeadersHasNoVisibleRow) {
+    addColumns({50});
+    EXPECT_EQ(inside.VisibleItems(), 0) << "no rows";
+    EXPECT_EQ(inside.scroll().visibleRowCount, -1);
+    addRows(3);
+    list.window().place(0, 0, 300, 24);
+    EXPECT_EQ(inside.VisibleItems(), -1);
+    fixedRows(20);
+    EXPECT_EQ(inside.VisibleItems(), -1);
+    list.window().place(0, 0, 300, 25);
+    EXPECT_EQ(inside.VisibleItems(), 0);
+}
+
+TEST_F(ListScroll, TheHorizontalBarTakesRoomFromTheRows) {
+    fixedRows(25);
+    addColumns({50});
+    addRows(7);
+    EXPECT_EQ(inside.VisibleItems(), 7);
+    list.letColumnWidth(1, 400 * 15);
+    list.CheckScroll();
+    EXPECT_EQ(inside.VisibleItems(), 6);
+    EXPECT_EQ(inside.vertical().Max(), 1);
+    EXPECT_EQ(inside.horizontal().Max(), 100 + 17);
+}
+
+TEST_F(ListScroll, ATopRowRaisesARangeThatIsTooShort) {
+    fixedRows(25);
+    addColumns({50});
+    list.letAutoCheckScroll(false);
+    addRows(20);
+    EXPECT_EQ(inside.vertical().Max(), 0);
+    list.letTopIndex(3);
+    EXPECT_EQ(inside.vertical().Max(), 13);
+    EXPECT_EQ(list.TopIndex(), 3);
+    list.letTopIndex(18);
+    EXPECT_EQ(inside.vertical().Max(), 13);
+    EXPECT_EQ(inside.vertical().Value(), 18) << "past the bar's end";
+    EXPECT_EQ(host.changed.back(), u"TopIndex");
+}
+
+TEST_F(ListScroll, TwoDynamicRowsNeedTheBarHoweverTallTheSurface) {
+    list.window().place(0, 0, 300, 2000);
+    addColumns({50});
+    addRows(2);
+    EXPECT_TRUE(inside.vertical().Visible());
+    EXPECT_EQ(inside.vertical().Max(), 1);
 }
 
 // Wanted: scrolling sideways raises no event.

@@ -5,8 +5,6 @@
 
 namespace lumtex::testing {
 
-using Lines = std::vector<std::string>;
-
 class WheelReceiver : public ::testing::Test {
   protected:
     bool turn(Long delta, WindowHandle window = 7) { return wheel.WndProc(window, delta, 3, 40, 50); }

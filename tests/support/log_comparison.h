@@ -12,6 +12,8 @@
 
 namespace lumtex::testing {
 
+using Lines = std::vector<std::string>;
+
 /// Both logs line by line, "!" between lines that differ. A line that one log lacks counts as a difference.
 inline std::string sideBySide(const std::vector<std::string>& actual,
                               const std::vector<std::string>& expected) {

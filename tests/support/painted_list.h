@@ -3,6 +3,7 @@
 #pragma once
 
 #include "list_fixture.h"
+#include "log_comparison.h"
 #include "recording_world.h"
 #include "services/error.h"
 #include "test_object.h"
@@ -68,7 +69,5 @@ class PaintedList : public ::testing::Test {
     lmListView list{world, host, events};
     ListViewInspector inside{list};
 };
-
-using Lines = std::vector<std::string>;
 
 } // namespace lumtex::testing
