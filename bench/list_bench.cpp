@@ -3,15 +3,11 @@
 /// Every peer gets the rows of one seed. Bytes are those that the allocator handed out, its own overhead
 /// included.
 #include "allocation_counter.h"
-#include "model/list_view.h"
-#include "platform/headless/desktop.h"
-#include "platform/headless/headless_window.h"
+#include "list_on_desktop.h"
 #include "platform/text.h"
 
 #include <array>
-#include <map>
 #include <memory>
-#include <random>
 #include <stdexcept>
 
 #include <benchmark/benchmark.h>
@@ -20,71 +16,12 @@
 namespace {
 
 using namespace lumtex;
-
-constexpr int columns = 5;
-constexpr StringView separator = u"|";
-
-/// Rows of a running number, a name of 8 to 20 letters, one of 200 cities, a decimal number and an ISO date.
-std::vector<String> makeRows(int count) {
-    std::mt19937 random(20261121);
-    const auto between = [&](int low, int high) {
-        return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
-    };
-    const auto word = [&](int length) {
-        std::string text;
-        for (int i = 0; i < length; ++i)
-            text += static_cast<char>('a' + between(0, 25));
-        return text;
-    };
-    const auto twoDigits = [](int value) { return std::to_string(100 + value).substr(1); };
-    std::vector<std::string> cities;
-    for (int i = 0; i < 200; ++i)
-        cities.push_back(word(between(4, 14)));
-    std::vector<String> rows;
-    for (int i = 1; i <= count; ++i) {
-        const std::string amount = std::to_string(between(0, 99999)) + "." + twoDigits(between(0, 99));
-        const std::string date = std::to_string(between(1990, 2026)) + "-" + twoDigits(between(1, 12)) + "-" +
-                                 twoDigits(between(1, 28));
-        rows.push_back(fromUtf8(std::to_string(i) + "|" + word(between(8, 20)) + "|" +
-                                cities[static_cast<std::size_t>(between(0, 199))] + "|" + amount + "|" +
-                                date));
-    }
-    return rows;
-}
-
-const std::vector<String>& rowsOf(std::int64_t count) {
-    static std::map<std::int64_t, std::vector<String>> known;
-    auto& rows = known[count];
-    if (rows.empty())
-        rows = makeRows(static_cast<int>(count));
-    return rows;
-}
+using namespace lumtex::bench;
 
 std::size_t bytesInUse() {
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
 }
-
-/// A list with five columns, as large as the screen of the painting benchmarks.
-struct ListOnDesktop {
-    Desktop desktop;
-    Host host;
-    lmListViewEvents events;
-    lmListView list{desktop, host, events};
-
-    ListOnDesktop() {
-        list.UserControl_ReadProperties(MemoryPropertyBag());
-        list.letAutoRedraw(false);
-        list.letAutoCheckScroll(false);
-        for (const Single width : {70, 200, 160, 120, 110})
-            list.ColumnsAdd(u"Column", nullptr, nullptr, nullptr, cColumnLeft, width * 15);
-        list.window().place(0, 0, 1280, 800);
-    }
-    void fill(const std::vector<String>& rows) {
-        for (const String& row : rows)
-            list.RowsAdd(Long{-1}, separator, row);
-    }
-};
 
 /// What a user would write: a vector of rows, each a vector of short strings.
 using PlainTable = std::vector<std::vector<std::string>>;

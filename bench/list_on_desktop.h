@@ -1,0 +1,40 @@
+/// \file
+/// The list that benchmarks work on, and the rows that they fill it with.
+#pragma once
+
+#include "model/list_view.h"
+#include "platform/headless/desktop.h"
+#include "platform/headless/headless_window.h"
+
+#include <vector>
+
+namespace lumtex::bench {
+
+constexpr int columns = 5;
+constexpr StringView separator = u"|";
+
+/// That many rows of one seed, made once. The reference lives as long as the program.
+const std::vector<String>& rowsOf(std::int64_t count);
+
+/// A list with five columns, as large as the screen of the painting benchmarks.
+struct ListOnDesktop {
+    Desktop desktop;
+    Host host;
+    lmListViewEvents events;
+    lmListView list{desktop, host, events};
+
+    ListOnDesktop() {
+        list.UserControl_ReadProperties(MemoryPropertyBag());
+        list.letAutoRedraw(false);
+        list.letAutoCheckScroll(false);
+        for (const Single width : {70, 200, 160, 120, 110})
+            list.ColumnsAdd(u"Column", nullptr, nullptr, nullptr, cColumnLeft, width * 15);
+        list.window().place(0, 0, 1280, 800);
+    }
+    void fill(const std::vector<String>& rows) {
+        for (const String& row : rows)
+            list.RowsAdd(Long{-1}, separator, row);
+    }
+};
+
+} // namespace lumtex::bench
