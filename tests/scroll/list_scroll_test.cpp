@@ -124,9 +124,14 @@ TEST_F(ListScroll, BothBarsLeaveTheirCornerFree) {
     EXPECT_EQ(inside.vertical().Height(), 198 - inside.horizontal().Height());
     EXPECT_EQ(inside.horizontal().Width(), 298 - inside.vertical().Width());
     EXPECT_EQ(inside.horizontal().Top(), 199 - inside.horizontal().Height());
+}
+
+TEST_F(ListScroll, WithoutABorderTheBarsTouchTheEdges) {
+    addColumns({400});
+    addRows(2);
     list.letBorderVisible(false);
     list.CheckScroll();
-    EXPECT_EQ(inside.vertical().Left(), 300 - inside.vertical().Width()) << "they touch the edges";
+    EXPECT_EQ(inside.vertical().Left(), 300 - inside.vertical().Width());
     EXPECT_EQ(inside.vertical().Top(), 0);
     EXPECT_EQ(inside.horizontal().Left(), 0);
     EXPECT_EQ(inside.horizontal().Top(), 200 - inside.horizontal().Height());

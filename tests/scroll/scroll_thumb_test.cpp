@@ -141,6 +141,17 @@ TEST_P(Thumb, OfTheCustomStyleShowsItsPressOnlyUnderThePointer) {
     EXPECT_EQ(look(), (Lines{"Cls", "BackColor 111111"})) << "slid off";
 }
 
+TEST_P(Thumb, KeepsThePressedLookWhenAPropertyIsSetDuringADrag) {
+    pressAt(40);
+    moveTo(45);
+    const Bitmap pressed = drawn(thumb().window()).image();
+    bar().letColorStyle(0);
+    bar().letValue(30);
+    EXPECT_EQ(drawn(thumb().window()).image(), pressed);
+    desktop.release();
+    EXPECT_NE(drawn(thumb().window()).image(), pressed);
+}
+
 TEST_P(Thumb, HoldsTheMouseWhileThePointerIsOverIt) {
     moveTo(40);
     EXPECT_EQ(desktop.captured(), thumb().window().hWnd());
