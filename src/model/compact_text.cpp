@@ -9,7 +9,6 @@ namespace lumtex {
 
 namespace {
 
-constexpr std::size_t lengthOffset = sizeof(void*);
 constexpr std::size_t longestText = std::numeric_limits<std::uint32_t>::max();
 
 bool fitsBytes(StringView text) {
@@ -34,18 +33,6 @@ CompactText& CompactText::operator=(CompactText&& other) noexcept {
         other.forget();
     }
     return *this;
-}
-
-unsigned char* CompactText::heap() const {
-    unsigned char* memory = nullptr;
-    std::memcpy(&memory, bytes_.data(), sizeof memory);
-    return memory;
-}
-
-std::size_t CompactText::heapLength() const {
-    std::uint32_t length = 0;
-    std::memcpy(&length, bytes_.data() + lengthOffset, sizeof length);
-    return length;
 }
 
 void CompactText::setHeap(unsigned char* memory, std::size_t length, unsigned char tag) {
@@ -80,10 +67,6 @@ void CompactText::release() {
         delete[] heap();
 }
 
-std::size_t CompactText::size() const {
-    return onHeap() ? heapLength() : tag();
-}
-
 String CompactText::toString() const {
     String text;
     copyTo(text);
@@ -91,14 +74,7 @@ String CompactText::toString() const {
 }
 
 void CompactText::copyTo(String& target) const {
-    const std::size_t length = size();
-    target.resize(length);
-    if (tag() == wideOnHeap) {
-        std::memcpy(target.data(), heap(), length * sizeof(char16_t));
-    } else {
-        const unsigned char* source = onHeap() ? heap() : bytes_.data();
-        std::copy_n(source, length, target.begin());
-    }
+    visit([&](auto units) { target.assign(units.begin(), units.end()); });
 }
 
 std::size_t CompactText::heapBytes() const {

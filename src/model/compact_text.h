@@ -6,6 +6,8 @@
 
 #include <array>
 #include <cstddef>
+#include <cstring>
+#include <span>
 
 namespace lumtex {
 
@@ -25,11 +27,20 @@ class CompactText {
     /// The old text stays where storing the new one fails.
     void assign(StringView text) { *this = CompactText(text); }
 
-    std::size_t size() const; ///< code units
+    std::size_t size() const { return onHeap() ? heapLength() : tag(); } ///< code units
     bool empty() const { return size() == 0; }
     String toString() const;
     /// Overwrites `target`, reusing its memory.
     void copyTo(String& target) const;
+
+    /// Calls `visitor` with the text where it lies: as a span of bytes, each a code unit below 256, or as a
+    /// StringView where some unit is larger. Neither outlives the next change of the text.
+    template <class Visitor>
+    decltype(auto) visit(Visitor&& visitor) const {
+        if (tag() == wideOnHeap)
+            return visitor(StringView(reinterpret_cast<const char16_t*>(heap()), heapLength()));
+        return visitor(std::span<const unsigned char>(onHeap() ? heap() : bytes_.data(), size()));
+    }
 
     /// Bytes on the heap, for the accounting of benchmarks.
     std::size_t heapBytes() const;
@@ -42,8 +53,18 @@ class CompactText {
 
     unsigned char tag() const { return bytes_[inlineCapacity]; }
     bool onHeap() const { return tag() > inlineCapacity; }
-    unsigned char* heap() const;
-    std::size_t heapLength() const;
+    static constexpr std::size_t lengthOffset = sizeof(void*);
+
+    unsigned char* heap() const {
+        unsigned char* memory = nullptr;
+        std::memcpy(&memory, bytes_.data(), sizeof memory);
+        return memory;
+    }
+    std::size_t heapLength() const {
+        std::uint32_t length = 0;
+        std::memcpy(&length, bytes_.data() + lengthOffset, sizeof length);
+        return length;
+    }
     void setHeap(unsigned char* memory, std::size_t length, unsigned char tag);
 
     void store(StringView text);

@@ -115,6 +115,16 @@ class lmListView final : public UserControl,
     /// Closes the in-place editor and drops what was typed.
     void StopEdit();
 
+    // Sorting
+
+    /// Orders the rows by the texts of a column, which counts from 1, and raises `SortDone`; does not
+    /// repaint. Rows of equal keys change places. A mode that is left out, or unknown, sorts nothing, and
+    /// neither does a column of blank texts, but the event comes. -1 takes the mark off the header, a column
+    /// past the last does nothing, both without the event.
+    void Sort(Long Column, cSortMode SortMode = {}, cSortType SortType = cSortText);
+    /// The column of the last sort, from 1; -1 for none.
+    Long SortColumnIndex() const { return sort_.sortColumn == -1 ? -1 : sort_.sortColumn + 1; }
+
     // Scrolling
 
     void CheckScroll();
@@ -291,6 +301,7 @@ class lmListView final : public UserControl,
 
   private:
     friend class PaintPass;
+    friend class SortByStatements;
     friend class ListViewInspector; ///< how tests look inside
 
     // Lifecycle (model/)
@@ -363,6 +374,11 @@ class lmListView final : public UserControl,
     void SplitSkin();
     void paintDesignView();
     Single columnWidthInPixels(Long index);
+
+    // Sorting (sortfind/)
+
+    bool anyTextInColumn(Long Column);
+    void quickSort(Long Column, cSortType SortType, cSortMode order);
 
     // Interaction (interaction/)
 

@@ -1,0 +1,62 @@
+/// Ordering the rows by the texts of one column.
+#include "model/list_view.h"
+#include "sortfind/quick_sort.h"
+#include "sortfind/sort_by_statements.h"
+
+#include <algorithm>
+
+namespace lumtex {
+
+namespace {
+
+/// Whether anything is left of a text whose outer blanks are cut.
+bool holdsMoreThanBlanks(const CompactText& text) {
+    return text.visit([](auto units) {
+        return std::any_of(units.begin(), units.end(), [](char16_t unit) { return unit != u' '; });
+    });
+}
+
+} // namespace
+
+void lmListView::Sort(Long Column, cSortMode SortMode, cSortType SortType) {
+    if (ColumnsCount() == 0 || RowsCount() == 0 || Column > ColumnsCount())
+        return;
+    // Wanted: dropping the mark repaints and raises no SortDone.
+    if (Column == -1) {
+        sort_.sortAscending = 0;
+        sort_.sortColumn = -1;
+        CheckForRedraw();
+        return;
+    }
+    sort_.hasSortableText = anyTextInColumn(Column);
+    if (sort_.hasSortableText && (SortMode == cAscending || SortMode == cDescending)) {
+        quickSort(Column, SortType, SortMode);
+        sort_.sortAscending = SortMode == cAscending ? 1 : 0;
+        sort_.sortColumn = Column - 1;
+    }
+    // Wanted: SortDone comes also where nothing was sorted, and the sort itself does not repaint.
+    events_.SortDone();
+}
+
+/// Looks at every row, so that each cell that cannot be read is reported.
+bool lmListView::anyTextInColumn(Long Column) {
+    bool any = false;
+    const Long count = RowsCount();
+    for (Long row = 1; row <= count; ++row) {
+        const bool there = row <= RowsCount() && Column >= 1 &&
+                           static_cast<std::size_t>(Column) <= recordAt(row - 1).items.count();
+        if (there)
+            any = holdsMoreThanBlanks(cellAt(row, Column).item().text()) || any;
+        else
+            ItemText(row, Column);
+    }
+    return any;
+}
+
+void lmListView::quickSort(Long Column, cSortType SortType, cSortMode order) {
+    SortByStatements rows(*this, Column, SortType, order);
+    // Wanted: ListIndex, NewIndex, the top row and the anchors of the selection keep their numbers.
+    lumtex::quickSort(rows, 0, upperBoundOfRows());
+}
+
+} // namespace lumtex

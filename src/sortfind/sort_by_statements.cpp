@@ -1,0 +1,56 @@
+#include "sortfind/sort_by_statements.h"
+
+#include "sortfind/sort_keys.h"
+
+namespace lumtex {
+
+SortByStatements::SortByStatements(lmListView& list, Long Column, cSortType SortType, cSortMode order)
+    : list_(list), procedure_(list.runtime(),
+                              order == cDescending ? u"QuickSortDesc" : u"QuickSortAsc",
+                              ModuleKind::control,
+                              u"lmListView"),
+      Column_(Column), type_(SortType), descending_(order == cDescending) {}
+
+String SortByStatements::ItemText(Long index) {
+    return list_.ItemText(static_cast<Double>(index) + 1, Column_);
+}
+
+void SortByStatements::choosePivot(Long index) {
+    pivot_.clear();
+    procedure_.step([&] {
+        if (type_ == cSortText)
+            pivot_ = textKey(ItemText(index));
+        else if (type_ == cSortNumeric || type_ == cSortDate)
+            pivot_ = pivotText(numberKey(list_.runtime(), ItemText(index), type_), type_);
+    });
+}
+
+/// A test that fails ends its scan, or a pivot that does not convert would let the scans run for ever.
+bool SortByStatements::test(Long index, bool greater) {
+    return procedure_.condition([&] { return compare(index, greater); }, false);
+}
+
+bool SortByStatements::compare(Long index, bool greater) {
+    if (type_ == cSortText) {
+        const String key = textKey(ItemText(index));
+        // Behind the array there is nothing left to scan, though no text lies before most others.
+        const bool inside = index >= 0 && index < static_cast<Long>(list_.rows_.size());
+        return inside && (greater ? key > pivot_ : key < pivot_);
+    }
+    // Wanted: of any other type there is no key, so that each partition swaps all the way inwards.
+    if (type_ != cSortNumeric && type_ != cSortDate)
+        return false;
+    const Double key = numberKey(list_.runtime(), ItemText(index), type_);
+    const Double pivot = pivotFromText(pivot_, type_);
+    return greater ? key > pivot : key < pivot;
+}
+
+void SortByStatements::swap(Long i, Long j) {
+    procedure_.step([&] {
+        RowRecord& first = list_.recordAt(i);
+        RowRecord& second = list_.recordAt(j);
+        std::swap(first, second);
+    });
+}
+
+} // namespace lumtex
