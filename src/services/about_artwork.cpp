@@ -2,6 +2,7 @@
 
 #include "services/shape_painter.h"
 
+#include <algorithm>
 #include <array>
 #include <iterator>
 #include <string_view>
@@ -85,11 +86,8 @@ constexpr std::size_t letterIndex(char name) {
 }
 
 constexpr bool hasLetters(std::string_view word) {
-    for (const char name : word) {
-        if (letterIndex(name) == std::size(letters))
-            return false;
-    }
-    return true;
+    return std::all_of(
+        word.begin(), word.end(), [](char name) { return letterIndex(name) < std::size(letters); });
 }
 
 constexpr std::string_view firstWord = "Lumtex";

@@ -120,8 +120,9 @@ void LumtexAbout::Hide() {
 void LumtexAbout::load() {
     const Point screen = world_.screenSize();
     const Point size = sizeOf(*artwork_.background, window_->surface());
-    window_->place(static_cast<Single>((screen.x - size.x) / 2),
-                   static_cast<Single>((screen.y - size.y) / 2),
+    const Point corner{(screen.x - size.x) / 2, (screen.y - size.y) / 2};
+    window_->place(static_cast<Single>(corner.x),
+                   static_cast<Single>(corner.y),
                    static_cast<Single>(size.x),
                    static_cast<Single>(size.y));
     Runtime& runtime = world_.runtime();
