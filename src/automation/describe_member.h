@@ -16,6 +16,7 @@ namespace lumtex::detail {
 struct Named {
     StringView name;
     DefaultValue defaultValue{};
+    bool byReference = false; ///< by the interface, though the control leaves it as it is
 
     constexpr Named(const char16_t* required) : name(required) {}
     constexpr Named(const char16_t* optional, DefaultValue value) : name(optional), defaultValue(value) {}
@@ -34,6 +35,10 @@ constexpr Named orFalse(const char16_t* name) {
 }
 constexpr Named orNothing(const char16_t* name) {
     return {name, {nothing}};
+}
+constexpr Named byReference(Named parameter) {
+    parameter.byReference = true;
+    return parameter;
 }
 constexpr Named orMissing(const char16_t* name) {
     return {name, {missing}};
@@ -82,8 +87,10 @@ struct Function<function, Result (Class::*)(Parameters...) const>
 template <class Of>
 constexpr void nameParameters(Member& member, std::initializer_list<Named> names) {
     for (const Named& named : names) {
-        member.slots[member.count] = {
-            named.name, Of::types[member.count], named.defaultValue, Of::byReference[member.count]};
+        member.slots[member.count] = {named.name,
+                                      Of::types[member.count],
+                                      named.defaultValue,
+                                      named.byReference || Of::byReference[member.count]};
         ++member.count;
     }
 }

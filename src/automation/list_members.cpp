@@ -118,6 +118,17 @@ constexpr auto members = std::to_array<Member>({
         {u"Row", u"Column"}),
     readOnly<&lmListView::ColumnIndex>(
         24, u"ColumnIndex", u"The 1-based column under the last press or release; -1 for none."),
+    method<&lmListView::Sort>(25,
+                              u"Sort",
+                              Repaint::never,
+                              u"Orders the rows by the texts of a column and raises SortDone. -1 drops the "
+                              u"sort mark, which repaints. "
+                              u"Without a mode nothing is ordered.",
+                              {byReference(u"Column"),
+                               byReference(orNumber(u"SortMode", 0)),
+                               byReference(orNumber(u"SortType", cSortText))}),
+    readOnly<&lmListView::SortColumnIndex>(
+        26, u"SortColumnIndex", u"The 1-based column of the last sort; -1 for none."),
     method<&lmListView::About>(
         -552, u"About", Repaint::never, u"Shows the about box and returns once it was closed."),
 });

@@ -182,6 +182,8 @@ const std::multiset<std::string> promised = {
     "ScrollColorStyle: cScrollColorStyle get let",
     "Skin: Picture get set",
     "SetEdit(Row: Variant, Column: Variant) call",
+    "Sort(ByRef Column: Long, ByRef SortMode: cSortMode = 0, ByRef SortType: cSortType = 0) call",
+    "SortColumnIndex: Long get",
     "StopEdit() call",
     "Style: cListViewStyle get let",
     "TextPosition(Index: Variant): cTextPosition get let",
