@@ -30,7 +30,7 @@ TEST_P(Drag, RaisesScrollWithEachNewValueAndChangeAtItsEnd) {
 TEST_P(Drag, WithoutActiveScrollingChangesTheValueAtItsEnd) {
     bar().letActiveScrolling(false);
     pressAt(27);
-    moveTo(47);
+    EXPECT_EQ(drawnBy(bar().window(), [&] { moveTo(47); }), Lines{}) << "the trough is not repainted";
     EXPECT_EQ(take(), Lines{});
     EXPECT_EQ(bar().Value(), 0);
     EXPECT_EQ(thumbStart(), 37) << "the thumb moves all the same";
