@@ -54,6 +54,8 @@ void lmListView::clickColumn(Procedure& p) {
     sort_.sortColumn = headerPress_.hoverColumn;
     // Wanted: each click turns the direction, whichever column it falls on.
     sort_.sortAscending = sort_.sortAscending == 0 ? 1 : 0;
+    // Wanted: a click on a header sorts as text, whatever the column holds.
+    Sort(sort_.sortColumn + 1, sort_.sortAscending == 0 ? cDescending : cAscending, cSortText);
 }
 
 void lmListView::endHeaderPress() {

@@ -47,6 +47,8 @@ class Player {
         (this->*verb->second)(Words(words.begin() + 1, words.end()));
     }
 
+    std::vector<Bitmap> takeFrames() { return std::move(frames_); }
+
   private:
     using Verb = void (Player::*)(const Words&);
     static const std::map<std::string, Verb> verbs;
@@ -286,6 +288,8 @@ class Player {
     void advance(const Words& words) { stage_.advance(std::chrono::milliseconds(number(words.at(0)))); }
     void size(const Words& words) { stage_.resize(number(words.at(0)), number(words.at(1))); }
 
+    void frame(const Words&) { frames_.push_back(stage_.picture()); }
+
     void picture(const Words& words) {
         EXPECT_TRUE(showsPicture(
             "scenario-" + words.at(0), stage_.picture(), usualPictureFolders(), {words[0].c_str(), 0}));
@@ -295,6 +299,7 @@ class Player {
     lmListView& list_;
     ListViewInspector inside_;
     CallByName byName_{list_};
+    std::vector<Bitmap> frames_;
 };
 
 const std::map<std::string, Player::Verb> Player::verbs = {{"size", &Player::size},
@@ -321,13 +326,14 @@ const std::map<std::string, Player::Verb> Player::verbs = {{"size", &Player::siz
                                                            {"type", &Player::type},
                                                            {"focus", &Player::focus},
                                                            {"advance", &Player::advance},
-                                                           {"picture", &Player::picture}};
+                                                           {"picture", &Player::picture},
+                                                           {"frame", &Player::frame}};
 
 } // namespace
 
-std::vector<std::vector<std::string>> play(const Script& script, Stage& stage) {
+Played play(const Script& script, Stage& stage) {
     Player player(stage);
-    std::vector<std::vector<std::string>> logs;
+    Played played;
     for (const Step& step : script.steps) {
         try {
             player.perform(step.words);
@@ -335,9 +341,10 @@ std::vector<std::vector<std::string>> play(const Script& script, Stage& stage) {
             throw std::runtime_error("line " + std::to_string(step.line) + ", " + step.text + ": " +
                                      failure.what());
         }
-        logs.push_back(std::exchange(stage.log(), {}));
+        played.logs.push_back(std::exchange(stage.log(), {}));
     }
-    return logs;
+    played.frames = player.takeFrames();
+    return played;
 }
 
 } // namespace lumtex::testing

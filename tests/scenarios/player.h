@@ -7,7 +7,12 @@
 
 namespace lumtex::testing {
 
-/// The log of each step. A step that cannot be understood throws std::runtime_error.
+struct Played {
+    std::vector<std::vector<std::string>> logs; ///< of each step
+    std::vector<Bitmap> frames;                 ///< of a film, in order
+};
+
+/// A step that cannot be understood throws std::runtime_error.
 ///
 ///     size 300 200                     the list's window
 ///     columns 60 60                    columns of these widths in pixels, without text
@@ -29,10 +34,11 @@ namespace lumtex::testing {
 ///     on ItemDown call RowsClear       what the host does in each such event; "on ItemDown" ends it
 ///     yield call RowsClear             what it does in the next yield
 ///     cancel True                      whether the host cancels check marks
-///     picture NAME                     compares with the reference NAME.png
+///     picture NAME                     compares with the reference scenario-NAME.png
+///     frame                            takes a picture for the film of this scenario
 ///
 /// Points name the list as it was painted last. A call that fails before it reaches the control logs "! " and
 /// the number.
-std::vector<std::vector<std::string>> play(const Script& script, Stage& stage);
+Played play(const Script& script, Stage& stage);
 
 } // namespace lumtex::testing

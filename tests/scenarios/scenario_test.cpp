@@ -4,6 +4,7 @@
 /// changed, and what it wrote is to be read before it is committed.
 #include "headless_stage.h"
 #include "log_comparison.h"
+#include "platform/raster/image_file.h"
 #include "player.h"
 
 #include <cstdlib>
@@ -52,6 +53,23 @@ std::vector<std::string> flat(const Script& script, const std::vector<std::vecto
     return lines;
 }
 
+/// The frames from left to right, a gap between them, in out/film.
+void saveFilm(const std::vector<Bitmap>& frames, const std::string& name) {
+    constexpr Long gap = 8;
+    const Bitmap& first = frames.front();
+    Bitmap film((first.width + gap) * static_cast<Long>(frames.size()) - gap, first.height, 0xFF808080U);
+    Long left = 0;
+    for (const Bitmap& frame : frames) {
+        for (Long y = 0; y < std::min(frame.height, film.height); ++y)
+            for (Long x = 0; x < std::min(frame.width, film.width - left); ++x)
+                film.at(left + x, y) = frame.at(x, y);
+        left += first.width + gap;
+    }
+    const fs::path out = fs::path(LUMTEX_SOURCE_DIR) / "out" / "film";
+    fs::create_directories(out);
+    savePng(film, out / (name + ".png"));
+}
+
 class Scenario : public ::testing::TestWithParam<fs::path> {};
 
 TEST_P(Scenario, LeavesTheLogThatItSays) {
@@ -62,7 +80,9 @@ TEST_P(Scenario, LeavesTheLogThatItSays) {
         expected.push_back(step.expected);
 
     const std::unique_ptr<Stage> stage = makeHeadlessStage();
-    const auto logs = play(script, *stage);
+    const auto [logs, frames] = play(script, *stage);
+    if (!frames.empty())
+        saveFilm(frames, GetParam().stem().string());
 
     if (std::getenv("LUMTEX_ACCEPT_SCENARIOS") != nullptr && logs != expected)
         std::ofstream(GetParam(), std::ios::binary) << withLogs(script, logs);
