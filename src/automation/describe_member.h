@@ -96,13 +96,13 @@ constexpr void nameParameters(Member& member, std::initializer_list<Named> names
 }
 
 /// Counts the names against the function's parameters while the table is compiled.
-consteval void sameCount(std::size_t names, std::size_t parameters) {
+constexpr void sameCount(std::size_t names, std::size_t parameters) {
     if (names != parameters)
         throw "every parameter has a name";
 }
 
 template <auto get>
-consteval Member
+constexpr Member
 readOnly(Long number, StringView name, StringView help, std::initializer_list<Named> names = {}) {
     using Get = Function<get>;
     sameCount(names.size(), Get::count);
@@ -121,7 +121,7 @@ readOnly(Long number, StringView name, StringView help, std::initializer_list<Na
 }
 
 template <auto get, auto let>
-consteval Member property(
+constexpr Member property(
     Long number, StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
     using Let = Function<let>;
     sameCount(names.size() + 1, Let::count);
@@ -134,7 +134,7 @@ consteval Member property(
 }
 
 template <auto function>
-consteval Member method(
+constexpr Member method(
     Long number, StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
     using Call = Function<function>;
     sameCount(names.size(), Call::count);

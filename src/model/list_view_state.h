@@ -20,7 +20,8 @@ class LumtexAbout;
 
 /// The data of `lmListView`, its properties and children apart. Which room owns which part,
 /// docs/architecture.md tells; the type of each struct says what its members mean.
-struct ListViewState {
+class ListViewState {
+  protected:
     FontRef lblFont; ///< initial value of the two default fonts
     ListViewArtwork artwork_ = ListViewArtwork::standard();
 
