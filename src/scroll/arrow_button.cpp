@@ -1,14 +1,9 @@
 #include "scroll/arrow_button.h"
 
+#include "model/enumerations.h"
 #include "render/picture_size.h"
 
 namespace lumtex {
-
-namespace {
-
-constexpr Long customStyle = 99;
-
-} // namespace
 
 ArrowButton::ArrowButton(World& world, Window& parent, Arrow arrow, std::function<void()> step)
     : world_(world), traits_(traitsOf(arrow)), step_(std::move(step)),
@@ -99,7 +94,7 @@ void ArrowButton::UserControl_Resize() {
 
 void ArrowButton::RedrawButton() {
     Procedure p = procedure(u"RedrawButton");
-    if (c_ == customStyle) {
+    if (c_ == cScrollCustom) {
         paintCustom(p);
     } else {
         ButtonLook look = hover_.down ? ButtonLook::pressed : ButtonLook::hover;

@@ -1,4 +1,5 @@
 /// Where the parts of a bar lie, and how its trough is painted.
+#include "model/enumerations.h"
 #include "platform/rounding.h"
 #include "render/gradient.h"
 #include "scroll/scroll_bar.h"
@@ -10,7 +11,6 @@ namespace {
 
 constexpr Single shortestThumb = 8; // pixels
 constexpr Single roomForThumb = 12; // pixels between the buttons
-constexpr Long customStyle = 99;
 constexpr OLE_COLOR troughDark = 0xECF1F3;
 constexpr OLE_COLOR troughHeld = 0xD3DEE3; // between the thumb and a held press
 constexpr OLE_COLOR troughLight = 0xFBFEFE;
@@ -85,7 +85,7 @@ void ScrollBar::placeThumb(Procedure& p) {
 
 void ScrollBar::paintTrough() {
     Surface& surface = window_->surface();
-    if (colorStyle_ == customStyle) {
+    if (colorStyle_ == cScrollCustom) {
         surface.letBackColor(backColor_);
         return;
     }

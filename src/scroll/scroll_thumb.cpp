@@ -1,5 +1,6 @@
 #include "scroll/scroll_thumb.h"
 
+#include "model/enumerations.h"
 #include "platform/rounding.h"
 #include "render/picture_size.h"
 
@@ -9,7 +10,6 @@ namespace lumtex {
 
 namespace {
 
-constexpr Long customStyle = 99;
 constexpr Single shortestWithGrip = 14; // pixels
 
 /// Edges of the three schemes, 0xBBGGRR.
@@ -27,7 +27,6 @@ constexpr std::array<EdgeColors, 3> edgeColors{{
 }};
 // clang-format on
 
-constexpr Long silver = 1;
 constexpr OLE_COLOR silverHoverEdge = 0x65665B;
 constexpr OLE_COLOR silverSide = 0xA29594;
 constexpr OLE_COLOR silverTop = 0xBFB7B7;
@@ -101,7 +100,7 @@ void ScrollThumb::RedrawScroll() {
     Procedure p = procedure(u"RedrawScroll");
     Surface& surface = window_->surface();
     p.step([&] { surface.Cls(); });
-    if (c_ == customStyle) {
+    if (c_ == cScrollCustom) {
         OLE_COLOR color = bar_;
         if (hover_.over)
             color = hover_.down ? barDown_ : barHover_;
@@ -146,7 +145,7 @@ void ScrollThumb::paintScheme(Procedure& p) {
                                  (h - static_cast<Single>(GetPictureHeight(surface, grip))) / 2);
         });
     }
-    if (c_ == silver)
+    if (c_ == cXPScrollSilver)
         silverEdges(p, w, h);
 }
 
