@@ -3,49 +3,11 @@
 #pragma once
 
 #include "automation/type_info.h"
+#include "platform/variant_conversion.h"
 
 #include <type_traits>
 
 namespace lumtex::detail {
-
-/// Throws as the conversions of Variant do.
-template <class T>
-T fromVariant(const Variant& value) {
-    if constexpr (std::is_same_v<T, Variant>)
-        return value;
-    else if constexpr (std::is_same_v<T, bool>)
-        return value.toBoolean();
-    else if constexpr (std::is_same_v<T, Integer>)
-        return value.toInteger();
-    else if constexpr (std::is_same_v<T, Long>)
-        return value.toLong();
-    else if constexpr (std::is_same_v<T, Single>)
-        return value.toSingle();
-    else if constexpr (std::is_same_v<T, OLE_COLOR>)
-        return value.toColor();
-    else if constexpr (std::is_same_v<T, String>)
-        return value.toText();
-    else if constexpr (std::is_same_v<T, PictureRef>)
-        return value.toPicture();
-    else if constexpr (std::is_same_v<T, FontRef>)
-        return value.toFont();
-    else if constexpr (std::is_same_v<T, ObjectRef>) {
-        // Nothing is a value of its own here, not a failure.
-        const ObjectRef* held = value.as<ObjectRef>();
-        return value.isEmpty() || (held != nullptr && !*held) ? nullptr : value.toObject();
-    } else {
-        static_assert(std::is_enum_v<T>, "a type that the interface does not know");
-        return static_cast<T>(value.toLong());
-    }
-}
-
-template <class T>
-Variant toVariant(const T& value) {
-    if constexpr (std::is_enum_v<T>)
-        return static_cast<Long>(value);
-    else
-        return value;
-}
 
 /// Holds the value of a parameter for the time of a call. `T` is the type as the function declares it.
 template <class T>

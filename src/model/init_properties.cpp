@@ -5,8 +5,6 @@ namespace lumtex {
 
 namespace {
 
-constexpr Single defaultRowHeight = 16; // pixels
-
 /// One program of old asks for larger jumps and a lower text; it is known by its name.
 bool runsInKnownProgram(const ComponentInfo& component) {
     constexpr StringView known = u"qrdmph";

@@ -19,6 +19,8 @@
 
 namespace lumtex {
 
+struct PropertyKey;
+
 /// An owner-drawn list of rows and columns.
 ///
 /// `Row`, `Column` and `Index` arguments count from 1; `ListIndex`, `NewIndex`, `TopIndex` and the `aIndex`
@@ -43,6 +45,8 @@ class lmListView final : public UserControl,
     /// A saved instance, or a new one that starts in its full idle state: an empty bag gives the same values.
     /// The list is empty afterwards.
     void UserControl_ReadProperties(const PropertyBag& bag);
+    /// Saves the settings that differ from their defaults; never the content.
+    void UserControl_WriteProperties(PropertyBag& bag);
 
     // Filling the list
 
@@ -309,6 +313,7 @@ class lmListView final : public UserControl,
     void takeContainersFont();
     void recogniseProgram();
     Long defaultJumpLines() const;
+    std::vector<PropertyKey> propertyKeys() const;
     void UserControl_Terminate();
 
     // Failure path

@@ -8,6 +8,9 @@
 
 namespace lumtex {
 
+/// The height of a row on a new instance, in pixels; the property itself holds twips.
+constexpr Single defaultRowHeight = 16;
+
 /// Everything starts at zero; `UserControl_InitProperties` gives the values of a new instance. What hosts see
 /// of each, and what setting it does, stands with its setter.
 struct Properties {
