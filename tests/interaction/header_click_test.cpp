@@ -26,4 +26,48 @@ TEST_F(HeaderClick, TurnsTheDirectionOnWhateverColumn) {
     }
 }
 
+TEST_F(HeaderClick, SortsDownwardsFirstThenUpwardsAlsoAcrossColumns) {
+    fillUnsorted();
+    ASSERT_EQ(inside.sort().sortAscending, 1);
+    click(header(1));
+    EXPECT_EQ(columnTexts(1), "c b a");
+    click(header(2));
+    EXPECT_EQ(columnTexts(2), "1 2 3");
+    click(header(1));
+    EXPECT_EQ(columnTexts(1), "c b a");
+}
+
+// Wanted: a click on a header sorts as text, whatever the column holds.
+TEST_F(HeaderClick, SortsNumbersAsText) {
+    addColumns({60});
+    for (const StringView number : {u"9", u"10", u"2"})
+        list.RowsAdd(Long{-1}, u",", number);
+    list.letColumnAllowSorting(1, true);
+    click(header(1));
+    EXPECT_EQ(columnTexts(1), "9 2 10");
+}
+
+TEST_F(HeaderClick, IsDownColumnSortUpClick) {
+    fillUnsorted();
+    click(header(2));
+    EXPECT_EQ(takenNames(), (Lines{"MouseDown", "ColumnClick", "SortDone", "MouseUp", "Click"}));
+    EXPECT_EQ(selection(), "index=0 selected=");
+}
+
+TEST_F(HeaderClick, MovesTheSelectionWithItsRowsAndLeavesTheIndex) {
+    fillUnsorted();
+    list.letListIndex(0);
+    click(header(1));
+    EXPECT_EQ(columnTexts(1), "c b a");
+    EXPECT_EQ(selection(), "index=1 selected=2");
+}
+
+TEST_F(HeaderClick, WhoseColumnsTheHostClearedSortsNothing) {
+    fillUnsorted();
+    events.on("ColumnClick", [&] { list.ColumnsClear(); });
+    click(header(1));
+    EXPECT_EQ(takenNames(), (Lines{"MouseDown", "ColumnClick", "MouseUp", "Click"}));
+    EXPECT_EQ(inside.sort().sortAscending, 1);
+}
+
 } // namespace lumtex::testing
