@@ -10,6 +10,7 @@ ArrowButton::ArrowButton(World& world, Window& parent, Arrow arrow, std::functio
       img_(ScrollArtwork::standard().buttonOf(arrow)), window_(world.createWindow(&parent, *this)),
       Timer1(world.createTimer([this] { Timer1_Timer(); })) {
     UserControl_Resize();
+    RedrawButton();
     window_->letVisible(true);
 }
 
