@@ -29,6 +29,8 @@ class CompactText {
 
     std::size_t size() const { return onHeap() ? heapLength() : tag(); } ///< code units
     bool empty() const { return size() == 0; }
+    /// Whether some code unit lies above 255.
+    bool isWide() const { return tag() == wideOnHeap; }
     String toString() const;
     /// Overwrites `target`, reusing its memory.
     void copyTo(String& target) const;
@@ -37,7 +39,7 @@ class CompactText {
     /// StringView where some unit is larger. Neither outlives the next change of the text.
     template <class Visitor>
     decltype(auto) visit(Visitor&& visitor) const {
-        if (tag() == wideOnHeap)
+        if (isWide())
             return visitor(StringView(reinterpret_cast<const char16_t*>(heap()), heapLength()));
         return visitor(std::span<const unsigned char>(onHeap() ? heap() : bytes_.data(), size()));
     }

@@ -15,7 +15,9 @@
 #include "services/procedure.h"
 #include "services/qi.h"
 
+#include <initializer_list>
 #include <optional>
+#include <span>
 
 namespace lumtex {
 
@@ -104,6 +106,13 @@ class lmListView final : public UserControl,
         return headerPress_.currentColumn == -1 ? -1 : headerPress_.currentColumn + 1;
     }
 
+    /// Makes columns as wide as the widest text that the last paint measured in them, or as their header, and
+    /// 10 pixels more. Without an argument all of them; yields to the host before each.
+    void AutoColumnSize(std::span<const Variant> lColumns);
+    void AutoColumnSize(std::initializer_list<Variant> lColumns = {}) {
+        AutoColumnSize(std::span<const Variant>(lColumns.begin(), lColumns.size()));
+    }
+
     // Painting
 
     /// Paints the whole control, whatever `AutoRedraw` says.
@@ -128,6 +137,21 @@ class lmListView final : public UserControl,
     void Sort(Long Column, cSortMode SortMode = {}, cSortType SortType = cSortText);
     /// The column of the last sort, from 1; -1 for none.
     Long SortColumnIndex() const { return sort_.sortColumn == -1 ? -1 : sort_.sortColumn + 1; }
+
+    // Searching
+
+    /// Looks for the first cell whose whole text matches a pattern (see `LikePattern`), row by row, and keeps
+    /// the place behind it for a search that continues. A pattern behind "<itemtag>" goes for the tags.
+    /// Columns and rows are named as "*", or in lists such as "1,3-5,7-*"; a single number needs a comma
+    /// behind it.
+    FindResults FindItem(StringView sFind,
+                         cFindBegin cBegin = cFindContinue,
+                         cFindCompare cCompare = cFindBinary,
+                         StringView sColumns = u"*",
+                         StringView sRows = u"*");
+    /// The same; an empty `sColumns` or `sRows` becomes "*" at the caller's.
+    FindResults
+    FindItem(StringView sFind, cFindBegin cBegin, cFindCompare cCompare, String& sColumns, String& sRows);
 
     // Scrolling
 
@@ -306,6 +330,7 @@ class lmListView final : public UserControl,
   private:
     friend class PaintPass;
     friend class SortByStatements;
+    friend class CellSearch;
     friend class ListViewInspector; ///< how tests look inside
 
     // Lifecycle (model/)
@@ -378,12 +403,14 @@ class lmListView final : public UserControl,
     void DrawBorder();
     void SplitSkin();
     void paintDesignView();
+    void fitColumn(Long column, Procedure& p);
     Single columnWidthInPixels(Long index);
 
     // Sorting (sortfind/)
 
     bool anyTextInColumn(Long Column);
     void quickSort(Long Column, cSortType SortType, cSortMode order);
+    bool sortByKeys(Long Column, cSortType SortType, cSortMode order);
 
     // Interaction (interaction/)
 

@@ -9,6 +9,7 @@
 #include "render/artwork.h"
 #include "render/paint_state.h"
 #include "scroll/scroll_state.h"
+#include "sortfind/find_state.h"
 #include "sortfind/sort_state.h"
 
 #include <memory>
@@ -40,6 +41,7 @@ class ListViewState {
     EditState edit_;
     ItemMoveState move_;
     SortState sort_;
+    FindState find_;
     ScrollState scroll_;
     std::shared_ptr<LumtexAbout> about_; ///< the form of the world, from the first `About` on
 };

@@ -1,6 +1,8 @@
 /// Ordering the rows by the texts of one column.
 #include "model/list_view.h"
+#include "services/error.h"
 #include "sortfind/quick_sort.h"
+#include "sortfind/sort_by_keys.h"
 #include "sortfind/sort_by_statements.h"
 
 #include <algorithm>
@@ -54,9 +56,32 @@ bool lmListView::anyTextInColumn(Long Column) {
 }
 
 void lmListView::quickSort(Long Column, cSortType SortType, cSortMode order) {
-    SortByStatements rows(*this, Column, SortType, order);
     // Wanted: ListIndex, NewIndex, the top row and the anchors of the selection keep their numbers.
+    if (sortByKeys(Column, SortType, order))
+        return;
+    SortByStatements rows(*this, Column, SortType, order);
     lumtex::quickSort(rows, 0, upperBoundOfRows());
+}
+
+/// False, with nothing done, where the statements must run one by one: they report something, or there is no
+/// memory for the keys.
+bool lmListView::sortByKeys(Long Column, cSortType SortType, cSortMode order) {
+    if (Column < 1 || (SortType != cSortText && SortType != cSortNumeric && SortType != cSortDate))
+        return false;
+    bool sorted = false;
+    ignoringErrors([&] {
+        const auto cell = static_cast<std::size_t>(Column) - 1;
+        const auto sources = orderByKeys(runtime(), rows_, cell, SortType, order, silentError());
+        if (!sources)
+            return;
+        std::vector<RowRecord> moved;
+        moved.reserve(rows_.size());
+        for (const std::uint32_t source : *sources)
+            moved.push_back(std::move(rows_[source]));
+        rows_ = std::move(moved);
+        sorted = true;
+    });
+    return sorted;
 }
 
 } // namespace lumtex
