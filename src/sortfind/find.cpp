@@ -22,6 +22,26 @@ bool startsWithTagMarker(StringView text) {
 
 } // namespace
 
+/// The steps of one call of `FindItem`.
+class CellSearch {
+  public:
+    CellSearch(lmListView& list, Procedure& procedure)
+        : list_(list), state_(list.find_), procedure_(procedure) {}
+
+    bool readNotation(StringView text, Long limit, String& cachedText, NumberList& cachedList);
+    FindResults scanTexts(const FindMatcher& matcher);
+    FindResults scanTags(const FindMatcher& matcher);
+
+  private:
+    template <class Test, class Report>
+    FindResults scan(Test test, Report report);
+    FindResults noteHit(Long r, Long c);
+
+    lmListView& list_;
+    FindState& state_;
+    Procedure& procedure_;
+};
+
 FindResults lmListView::FindItem(
     StringView sFind, cFindBegin cBegin, cFindCompare cCompare, StringView sColumns, StringView sRows) {
     String columns(sColumns);
