@@ -3,6 +3,7 @@
 #pragma once
 
 #include "automation/argument.h"
+#include "automation/found_record.h"
 #include "automation/member.h"
 #include "model/list_view.h"
 
@@ -11,6 +12,14 @@
 #include <utility>
 
 namespace lumtex::detail {
+
+template <class T>
+Variant resultOf(const T& value) {
+    if constexpr (std::is_same_v<T, FindResults>)
+        return makeFoundRecord(value);
+    else
+        return toVariant(value);
+}
 
 /// A parameter's name, and what its absence means.
 struct Named {
@@ -35,6 +44,10 @@ constexpr Named orFalse(const char16_t* name) {
 }
 constexpr Named orNothing(const char16_t* name) {
     return {name, {nothing}};
+}
+/// Any number of arguments, none included.
+constexpr Named anyNumberOf(const char16_t* name) {
+    return {name, {missing}};
 }
 constexpr Named byReference(Named parameter) {
     parameter.byReference = true;
@@ -68,7 +81,7 @@ struct Callable {
         if constexpr (std::is_void_v<Result>)
             (list.*function)(std::get<positions>(slots)->pass()...);
         else
-            result = toVariant((list.*function)(std::get<positions>(slots)->pass()...));
+            result = resultOf((list.*function)(std::get<positions>(slots)->pass()...));
         (std::get<positions>(slots)->writeBack(), ...);
         return result;
     }

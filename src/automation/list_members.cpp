@@ -12,6 +12,12 @@ constexpr auto rowsAdd =
     static_cast<void (lmListView::*)(Variant&, StringView, std::optional<StringView>)>(&lmListView::RowsAdd);
 constexpr auto rowsRemove = static_cast<void (lmListView::*)(Variant&)>(&lmListView::RowsRemove);
 
+constexpr auto findItem =
+    static_cast<FindResults (lmListView::*)(StringView, cFindBegin, cFindCompare, String&, String&)>(
+        &lmListView::FindItem);
+constexpr auto autoColumnSize =
+    static_cast<void (lmListView::*)(std::span<const Variant>)>(&lmListView::AutoColumnSize);
+
 constexpr auto members = std::to_array<Member>({
     method<&lmListView::ColumnsAdd>(
         1,
@@ -129,6 +135,25 @@ constexpr auto members = std::to_array<Member>({
                                byReference(orNumber(u"SortType", cSortText))}),
     readOnly<&lmListView::SortColumnIndex>(
         26, u"SortColumnIndex", u"The 1-based column of the last sort; -1 for none."),
+    method<findItem>(27,
+                     u"FindItem",
+                     Repaint::never,
+                     u"Looks for the first cell whose text, or tag behind \"<itemtag>\", matches a pattern. "
+                     u"Columns and rows are "
+                     u"\"*\" or a list such as \"1,3-5,\"; a lone number needs its comma. The answer counts "
+                     u"places in these lists.",
+                     {byReference(u"sFind"),
+                      byReference(orNumber(u"cBegin", cFindContinue)),
+                      byReference(orNumber(u"cCompare", cFindBinary)),
+                      orText(u"sColumns", u"*"),
+                      orText(u"sRows", u"*")}),
+    method<autoColumnSize>(28,
+                           u"AutoColumnSize",
+                           Repaint::always,
+                           u"Makes the columns with these numbers as wide as the widest text painted in "
+                           u"them, or as their header; "
+                           u"without a number all of them.",
+                           {anyNumberOf(u"lColumns")}),
     method<&lmListView::About>(
         -552, u"About", Repaint::never, u"Shows the about box and returns once it was closed."),
 });

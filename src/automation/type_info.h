@@ -7,6 +7,7 @@
 #include "platform/object.h"
 #include "platform/picture.h"
 #include "platform/variant.h"
+#include "sortfind/find_state.h"
 
 #include <optional>
 #include <span>
@@ -27,6 +28,7 @@ enum class TypeCode : Byte {
     picture,
     font,
     object,
+    record,      ///< fields with names; late-bound callers get an object with the same ones
     variantList, ///< any number of Variants; only ever the last parameter
 };
 
@@ -61,6 +63,7 @@ template <> struct TypeOf<OLE_COLOR> : Coded<TypeCode::color> { static constexpr
 template <> struct TypeOf<PictureRef> : Coded<TypeCode::picture> { static constexpr StringView name = u"Picture"; };
 template <> struct TypeOf<FontRef> : Coded<TypeCode::font> { static constexpr StringView name = u"Font"; };
 template <> struct TypeOf<ObjectRef> : Coded<TypeCode::object> { static constexpr StringView name = u"Object"; };
+template <> struct TypeOf<FindResults> : Coded<TypeCode::record> { static constexpr StringView name = u"FindResults"; };
 template <> struct TypeOf<std::span<const Variant>> : Coded<TypeCode::variantList> { static constexpr StringView name = u"Variant"; };
 template <> struct TypeOf<cColorStyle> : Coded<TypeCode::enumeration> { static constexpr StringView name = u"cColorStyle"; };
 template <> struct TypeOf<cScrollColorStyle> : Coded<TypeCode::enumeration> { static constexpr StringView name = u"cScrollColorStyle"; };

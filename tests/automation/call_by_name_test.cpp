@@ -1,6 +1,7 @@
 #include "automation/call_by_name.h"
 #include "error_number.h"
 #include "list_fixture.h"
+#include "variant_printing.h"
 
 namespace lumtex::testing {
 
@@ -100,6 +101,31 @@ TEST_F(CallingByName, ReferencesAreSetAndNothingTakesThemAway) {
     byName.set(u"DefaultItemFont", {}, FontRef{});
     EXPECT_EQ(byName.get(u"DefaultItemFont"), Variant(FontRef{}));
     EXPECT_EQ(errorNumberOf([&] { byName.set(u"Skin", {}, font); }), typeMismatch);
+}
+
+TEST_F(CallingByName, AFoundCellIsAnObjectWithTheFieldsOfTheRecord) {
+    addColumns({50, 50});
+    addRows(3, u"a,b");
+    list.letItemText(2, 2, u"needle");
+    auto search = with(u"need*", Long{cFindStart}, Long{cFindBinary}, u"");
+    const ObjectRef found = byName.call(u"FindItem", search).toObject();
+    EXPECT_EQ(search[3], Variant(u"*")) << "an empty list is rewritten at the caller's";
+    EXPECT_EQ(found->get(u"findsuccessful"), Variant(true));
+    EXPECT_EQ(found->get(u"FindRow"), Variant(Long{2}));
+    EXPECT_EQ(found->get(u"FindColumn"), Variant(Long{2}));
+    EXPECT_EQ(errorNumberOf([&] { found->get(u"FindCell"); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { found->put(u"FindRow", Long{1}); }), objectDoesNotSupportMember);
+}
+
+TEST_F(CallingByName, AListOfArgumentsMayBeAsLongAsTheCallerLikes) {
+    addColumns({50, 50, 50});
+    auto columns = with(Long{1}, u"3");
+    byName.call(u"AutoColumnSize", columns);
+    EXPECT_EQ(list.ColumnWidth(1), 150);
+    EXPECT_EQ(list.ColumnWidth(2), 750);
+    EXPECT_EQ(list.ColumnWidth(3), 150);
+    byName.call(u"AutoColumnSize");
+    EXPECT_EQ(list.ColumnWidth(2), 150);
 }
 
 TEST_F(CallingByName, MembersAreFoundByTheirNumbersToo) {

@@ -54,6 +54,8 @@ std::string signatureOf(const Member& member) {
 const std::multiset<std::string> promised = {
     "About() call",
     "AllowEdit: Boolean get let",
+    "AutoColumnSize(lColumns: Variant = Missing) call",
+    "FindItem(ByRef sFind: String, ByRef cBegin: cFindBegin = 1, ByRef cCompare: cFindCompare = 0, ByRef sColumns: String = \"*\", ByRef sRows: String = \"*\"): FindResults call",
     "AutoCheckScroll: Boolean get let",
     "AutoRedraw: Boolean get let",
     "AutoRowColor: Boolean get let",

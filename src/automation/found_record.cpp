@@ -1,0 +1,41 @@
+/// The result of a search as an object.
+#include "automation/found_record.h"
+
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+
+namespace lumtex {
+
+namespace {
+
+class FoundRecord final : public Object {
+  public:
+    explicit FoundRecord(const FindResults& found) : found_(found) {}
+
+    Variant get(StringView name, std::span<Variant> arguments) override {
+        if (!arguments.empty())
+            throw RuntimeError(wrongNumberOfArguments);
+        if (sameName(name, u"FindSuccessful"))
+            return found_.FindSuccessful;
+        if (sameName(name, u"FindRow"))
+            return found_.FindRow;
+        if (sameName(name, u"FindColumn"))
+            return found_.FindColumn;
+        throw RuntimeError(objectDoesNotSupportMember);
+    }
+    void put(StringView /*name*/, const Variant& /*value*/) override {
+        throw RuntimeError(objectDoesNotSupportMember);
+    }
+    Variant call(StringView name, std::span<Variant> arguments) override { return get(name, arguments); }
+
+  private:
+    FindResults found_;
+};
+
+} // namespace
+
+ObjectRef makeFoundRecord(const FindResults& found) {
+    return std::make_shared<FoundRecord>(found);
+}
+
+} // namespace lumtex

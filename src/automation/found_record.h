@@ -1,0 +1,13 @@
+/// \file
+/// What a search found, for callers who cannot read a record.
+#pragma once
+
+#include "platform/variant.h"
+#include "sortfind/find_state.h"
+
+namespace lumtex {
+
+/// An object with the record's three fields as properties that can only be read.
+ObjectRef makeFoundRecord(const FindResults& found);
+
+} // namespace lumtex
