@@ -54,6 +54,7 @@ class NumberRows {
         // A pivot that is too large to read back fails at each comparison.
         wouldReport_ = wouldReport_ || pivot_ != pivot_;
     }
+    // Position -1 wraps round to the element in front.
     bool before(Long i) const { return descending ? at(i).value > pivot_ : at(i).value < pivot_; }
     bool behind(Long j) const { return descending ? at(j).value < pivot_ : at(j).value > pivot_; }
     void swap(Long i, Long j) { std::swap(at(i), at(j)); }
@@ -77,8 +78,8 @@ class NumberRows {
         Double value;
         std::uint32_t row;
     };
-    const Key& at(Long index) const { return keys_[static_cast<std::size_t>(index + 1)]; }
-    Key& at(Long index) { return keys_[static_cast<std::size_t>(index + 1)]; }
+    const Key& at(Long index) const { return keys_[static_cast<std::size_t>(index) + 1]; }
+    Key& at(Long index) { return keys_[static_cast<std::size_t>(index) + 1]; }
 
     std::vector<Key> keys_; ///< from the second element on; ends with one more
     Double pivot_ = 0;
