@@ -112,9 +112,9 @@ bool lmListView::inCheckBoxZone(Single X, Single Y, Procedure& p) {
 void lmListView::toggleCheckBox() {
     const Long& column = headerPress_.currentColumn;
     const Long row = RowIndex();
-    bool Cancel = false;
-    events_.ItemCheck(row, column + 1, !ItemChecked(row, column + 1), Cancel);
-    if (Cancel) {
+    bool cancel = false;
+    events_.ItemCheck(row, column + 1, !ItemChecked(row, column + 1), cancel);
+    if (cancel) {
         Redraw();
         return;
     }

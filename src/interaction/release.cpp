@@ -47,8 +47,8 @@ void lmListView::endResize(Single X, Procedure& p) {
 }
 
 void lmListView::clickColumn(Procedure& p) {
-    Long Column = headerPress_.hoverColumn + 1;
-    events_.ColumnClick(Column);
+    Long column = headerPress_.hoverColumn + 1;
+    events_.ColumnClick(column);
     if (!p.condition([&] { return columnAt(headerPress_.hoverColumn).AllowSorting; }, false))
         return;
     sort_.sortColumn = headerPress_.hoverColumn;

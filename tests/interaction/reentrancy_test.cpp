@@ -55,6 +55,11 @@ class MisbehavingHost : public PlayedList {
              }},
             {"resize it", [this] { window().place(100, 100, 120, 60); }},
             {"paint", [this] { list.Redraw(); }},
+            {"save",
+             [this] {
+                 MemoryPropertyBag bag;
+                 list.UserControl_WriteProperties(bag);
+             }},
             {"press and release",
              [this] {
                  // A click that makes another one would go on for ever.
