@@ -294,31 +294,4 @@ TEST_F(SelectionColour, FollowsTheStyleAndIsZeroForAnUnknownOne) {
     }
 }
 
-using SkinCutting = PaintedList;
-
-TEST_F(SkinCutting, TakesThePiecesFromTheStrip) {
-    Bitmap strip(20, 4, 0xFF000000U);
-    for (Long y = 0; y < 4; ++y) {
-        for (Long x = 0; x < 20; ++x)
-            strip.at(x, y) = 0xFF000000U | static_cast<std::uint32_t>(x * 256 + y);
-    }
-    list.setSkin(std::make_shared<BitmapPicture>(strip));
-    const auto& pieces = inside.artwork().imgCol;
-    EXPECT_EQ(pieces[0]->bitmap().at(5, 2), 0xFF000502U);
-    EXPECT_EQ(pieces[1]->bitmap().at(0, 0), 0xFF000600U);
-    EXPECT_EQ(pieces[2]->bitmap().at(0, 1), 0xFF000701U);
-    EXPECT_EQ(pieces[3]->bitmap().at(7, 0), 0xFF000F00U) << "what lies past 16 pixels is unused";
-    EXPECT_EQ(pieces[3]->bitmap().height, 3) << "only the top three rows count";
-    list.setSkin(nullptr);
-    EXPECT_EQ(inside.artwork().imgCol[3]->bitmap(), ListViewArtwork::standard().imgCol[3]->bitmap());
-}
-
-TEST_F(SkinCutting, AStripThatIsTooSmallLeavesTheBoardsBackground) {
-    list.setSkin(plainPicture(7, 2, 0xFF112233U));
-    const auto& pieces = inside.artwork().imgCol;
-    EXPECT_EQ(pieces[0]->bitmap().at(5, 1), 0xFF112233U);
-    EXPECT_EQ(pieces[0]->bitmap().at(5, 2), 0xFFFFFFFFU);
-    EXPECT_EQ(pieces[2]->bitmap().at(0, 0), 0xFFFFFFFFU);
-}
-
 } // namespace lumtex::testing
