@@ -58,9 +58,9 @@ constexpr Named orMissing(const char16_t* name) {
 }
 
 /// The pieces of a member function's type, and the call through Variants.
-template <auto function, class Result_, class... Parameters>
+template <auto function, class Returned, class... Parameters>
 struct Callable {
-    using Result = Result_;
+    using Result = Returned;
     static constexpr std::size_t count = sizeof...(Parameters);
     static constexpr std::array<TypeInfo, count> types{typeOf<Parameters>()...};
     static constexpr std::array<bool, count> byReference{travelsBack<Parameters>...};

@@ -23,13 +23,13 @@ constexpr auto notes = std::to_array<Note>({
     {u"Index", TypeCode::variant, "Counts from 1. A number, or a text that converts to one."},
     {u"Row", TypeCode::variant, "Counts from 1. A number, or a text that converts to one."},
     {u"Column", TypeCode::variant, "Counts from 1. A number; any text fails."},
-    {u"Column", TypeCode::long_, "Counts from 1."},
+    {u"Column", TypeCode::longInteger, "Counts from 1."},
     {u"aIndex", TypeCode::variant, "Counts from 0."},
     {u"aWidth", TypeCode::single, "Twips."},
 });
 
 std::string noteOn(const Parameter& parameter) {
-    const auto found = std::ranges::find_if(notes, [&](const Note& note) {
+    const auto* const found = std::ranges::find_if(notes, [&](const Note& note) {
         return note.parameter == parameter.name && note.type == parameter.type.code;
     });
     return found == notes.end() ? "" : found->text;

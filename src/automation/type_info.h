@@ -19,7 +19,7 @@ enum class TypeCode : Byte {
     none, ///< what a method without a result returns
     boolean,
     integer,
-    long_,
+    longInteger,
     single,
     string,
     variant,
@@ -50,10 +50,10 @@ struct Coded {
 };
 
 // clang-format off
-template <> struct TypeOf<void> : Coded<TypeCode::none> { static constexpr StringView name = u""; };
+template <> struct TypeOf<void> : Coded<TypeCode::none> { static constexpr StringView name{}; };
 template <> struct TypeOf<bool> : Coded<TypeCode::boolean> { static constexpr StringView name = u"Boolean"; };
 template <> struct TypeOf<Integer> : Coded<TypeCode::integer> { static constexpr StringView name = u"Integer"; };
-template <> struct TypeOf<Long> : Coded<TypeCode::long_> { static constexpr StringView name = u"Long"; };
+template <> struct TypeOf<Long> : Coded<TypeCode::longInteger> { static constexpr StringView name = u"Long"; };
 template <> struct TypeOf<Single> : Coded<TypeCode::single> { static constexpr StringView name = u"Single"; };
 template <> struct TypeOf<String> : Coded<TypeCode::string> { static constexpr StringView name = u"String"; };
 template <> struct TypeOf<StringView> : TypeOf<String> {};

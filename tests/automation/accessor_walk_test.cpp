@@ -29,7 +29,7 @@ Sample sampleFor(const Member& member) {
         return {true, true};
     case TypeCode::integer:
         return {Integer{2}, Integer{2}};
-    case TypeCode::long_:
+    case TypeCode::longInteger:
         return {Long{3}, Long{3}};
     case TypeCode::enumeration:
         return {Long{2}, Long{2}};
@@ -61,7 +61,7 @@ Variant zeroOf(TypeCode type) {
         return false;
     case TypeCode::integer:
         return Integer{0};
-    case TypeCode::long_:
+    case TypeCode::longInteger:
     case TypeCode::enumeration:
     case TypeCode::color:
         return Long{0};
