@@ -74,7 +74,11 @@ String CompactText::toString() const {
 }
 
 void CompactText::copyTo(String& target) const {
-    visit([&](auto units) { target.assign(units.begin(), units.end()); });
+    // Assigning from bytes would go through a text of its own.
+    visit([&](auto units) {
+        target.resize(units.size());
+        std::copy(units.begin(), units.end(), target.begin());
+    });
 }
 
 std::size_t CompactText::heapBytes() const {
