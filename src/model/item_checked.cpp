@@ -3,11 +3,11 @@
 
 namespace lumtex {
 
-bool lmListView::ItemChecked(const Variant& Row, const Variant& Column) {
+bool ListViewRecords::ItemChecked(const Variant& Row, const Variant& Column) {
     return itemGet<bool>(u"ItemChecked", Row, Column, [](const Cell& cell) { return cell.item().Checked(); });
 }
 
-void lmListView::letItemChecked(const Variant& Row, const Variant& Column, bool checked) {
+void ListViewRecords::letItemChecked(const Variant& Row, const Variant& Column, bool checked) {
     Procedure p = procedure(u"ItemChecked");
     // A cell that cannot be read counts as unchanged, so that the count stays true.
     const bool unchanged = p.condition([&] { return cellAt(Row, Column).item().Checked() == checked; }, true);
@@ -18,7 +18,7 @@ void lmListView::letItemChecked(const Variant& Row, const Variant& Column, bool 
     CheckForRedraw();
 }
 
-Long lmListView::ItemsCheckedCount(Long Column) {
+Long ListViewRecords::ItemsCheckedCount(Long Column) {
     Procedure p = procedure(u"ItemsCheckedCount");
     return p.value<Long>([&] {
         if (Column >= 1 && Column <= ColumnsCount())

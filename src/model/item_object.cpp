@@ -1,5 +1,6 @@
 /// Controls of the host that live in cells.
 #include "model/item_access.h"
+#include "model/list_view.h"
 #include "platform/runtime_error.h"
 
 #include <array>

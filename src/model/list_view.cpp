@@ -1,7 +1,5 @@
-/// Birth and end of the control, and the look-ups that every accessor stands on.
+/// Birth and end of the control.
 #include "model/list_view.h"
-
-#include "platform/runtime_error.h"
 
 namespace lumtex {
 
@@ -57,50 +55,6 @@ void lmListView::UserControl_Terminate() {
 
 Procedure lmListView::procedure(StringView name) const {
     return Procedure{runtime(), name, ModuleKind::control, u"lmListView"};
-}
-
-bool lmListView::ArrDim(const Variant& which) const {
-    Procedure p = procedure(u"ArrDim");
-    return p.value<bool>([&] {
-        const Double array = which.toDouble();
-        if (array == 0)
-            return !rows_.empty();
-        if (array == 1)
-            return !columns_.empty();
-        return false;
-    });
-}
-
-/// Makes the column where its slot holds none. Throws 9 where there is no such slot.
-ColumnHeader& lmListView::columnAt(Long index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= columns_.size())
-        throw RuntimeError(subscriptOutOfRange);
-    std::unique_ptr<ColumnHeader>& slot = columns_[static_cast<std::size_t>(index)];
-    if (!slot)
-        slot = std::make_unique<ColumnHeader>();
-    return *slot;
-}
-
-/// `position` counts from 0. Throws 9 where there is no such element.
-RowRecord& lmListView::recordAt(Long position) {
-    if (position < 0 || static_cast<std::size_t>(position) >= rows_.size())
-        throw RuntimeError(subscriptOutOfRange);
-    return rows_[static_cast<std::size_t>(position)];
-}
-
-RowRecord& lmListView::rowAt(const Variant& Index) {
-    return recordAt(zeroBased(Index));
-}
-
-lmListView::Cell lmListView::cellAt(const Variant& Row, const Variant& Column) {
-    Items& items = rowAt(Row).items;
-    // Wanted: a text is a key, and no cell has a key, so that a numeric text fails too.
-    if (Column.isString())
-        throw RuntimeError(invalidProcedureCall);
-    const Long number = Column.toLong();
-    if (number < 1 || static_cast<std::size_t>(number) > items.count())
-        throw RuntimeError(subscriptOutOfRange);
-    return {items, static_cast<std::size_t>(number) - 1};
 }
 
 void lmListView::CheckForRedraw() {

@@ -4,40 +4,40 @@
 namespace lumtex {
 
 template <class T>
-T lmListView::rowGet(StringView name, const Variant& Index, T RowRecord::*field) {
+T ListViewRecords::rowGet(StringView name, const Variant& Index, T RowRecord::*field) {
     return procedure(name).value<T>([&] { return rowAt(Index).*field; });
 }
 
 template <class T>
-void lmListView::rowLet(StringView name, const Variant& Index, T RowRecord::*field, T value) {
+void ListViewRecords::rowLet(StringView name, const Variant& Index, T RowRecord::*field, T value) {
     procedure(name).step([&] { rowAt(Index).*field = value; });
     CheckForRedraw();
 }
 
-bool lmListView::RowEnabled(const Variant& Index) {
+bool ListViewRecords::RowEnabled(const Variant& Index) {
     return rowGet(u"RowEnabled", Index, &RowRecord::Enabled);
 }
 
-void lmListView::letRowEnabled(const Variant& Index, bool enabled) {
+void ListViewRecords::letRowEnabled(const Variant& Index, bool enabled) {
     procedure(u"RowEnabled").step([&] { rowAt(Index).Enabled = enabled; });
     for (Long column = 1; column <= ColumnsCount(); ++column)
         letItemEnabled(Index, column, enabled);
     CheckForRedraw();
 }
 
-bool lmListView::RowChecked(const Variant& Index) {
+bool ListViewRecords::RowChecked(const Variant& Index) {
     return rowGet(u"RowChecked", Index, &RowRecord::Checked);
 }
 
-void lmListView::letRowChecked(const Variant& Index, bool checked) {
+void ListViewRecords::letRowChecked(const Variant& Index, bool checked) {
     rowLet(u"RowChecked", Index, &RowRecord::Checked, checked);
 }
 
-cTextPosition lmListView::TextPosition(const Variant& Index) {
+cTextPosition ListViewRecords::TextPosition(const Variant& Index) {
     return rowGet(u"TextPosition", Index, &RowRecord::TextPosition);
 }
 
-void lmListView::letTextPosition(const Variant& Index, cTextPosition position) {
+void ListViewRecords::letTextPosition(const Variant& Index, cTextPosition position) {
     rowLet(u"TextPosition", Index, &RowRecord::TextPosition, position);
 }
 
@@ -71,7 +71,7 @@ void lmListView::letRowSelected(const Variant& Index, bool selected) {
     CheckForRedraw();
 }
 
-Long lmListView::RowSelectedCount() {
+Long ListViewRecords::RowSelectedCount() {
     return procedure(u"RowSelectedCount").value<Long>([&] {
         const Long last = upperBoundOfRows();
         Long count = 0;

@@ -5,13 +5,13 @@
 namespace lumtex {
 
 /// Throws 9 while the array does not exist.
-Long lmListView::upperBoundOfRows() const {
+Long ListViewRecords::upperBoundOfRows() const {
     if (rows_.empty())
         throw RuntimeError(subscriptOutOfRange);
     return static_cast<Long>(rows_.size()) - 1;
 }
 
-Long lmListView::upperBoundOfColumns() const {
+Long ListViewRecords::upperBoundOfColumns() const {
     if (columns_.empty())
         throw RuntimeError(subscriptOutOfRange);
     return static_cast<Long>(columns_.size()) - 1;
