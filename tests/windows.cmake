@@ -1,0 +1,38 @@
+# The test programs of the Windows build. Debian has GoogleTest for Windows as sources alone.
+set(gtest_force_shared_crt ON)
+add_subdirectory(/usr/src/googletest "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
+
+add_library(lumtex_test_base INTERFACE)
+target_link_libraries(lumtex_test_base INTERFACE lumtex_flags gmock)
+target_compile_options(lumtex_test_base INTERFACE -O1)
+target_include_directories(lumtex_test_base INTERFACE "${CMAKE_CURRENT_SOURCE_DIR}/support"
+                                                      "${CMAKE_CURRENT_SOURCE_DIR}")
+# Wine shows the whole file system under Z:.
+target_compile_definitions(lumtex_test_base INTERFACE LUMTEX_SOURCE_DIR="Z:${PROJECT_SOURCE_DIR}"
+                                                      LUMTEX_TEST_DATA="Z:${CMAKE_CURRENT_SOURCE_DIR}")
+
+# One program per folder: `lumtex_test_<folder>`, run by ctest through Wine.
+function(lumtex_tests folder)
+    cmake_parse_arguments(TESTS "SLOW" "" "LINK" ${ARGN})
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${folder}/*.cpp)
+    if(NOT sources)
+        return()
+    endif()
+    set(name lumtex_test_${folder})
+    add_executable(${name} ${sources})
+    target_link_libraries(${name} PRIVATE ${TESTS_LINK} lumtex_test_base gtest_main)
+    add_test(NAME ${folder} COMMAND ${name})
+    if(TESTS_SLOW)
+        set_tests_properties(${folder} PROPERTIES LABELS slow)
+    endif()
+    set_property(GLOBAL APPEND PROPERTY LUMTEX_TEST_PROGRAMS ${name})
+endfunction()
+
+# The conversions are the same everywhere, and the compiler's library is another one.
+lumtex_tests(platform LINK lumtex_platform)
+lumtex_tests(win32 LINK lumtex_control lumtex_win32)
+lumtex_tests(activex LINK lumtex_automation lumtex_win32)
+
+get_property(programs GLOBAL PROPERTY LUMTEX_TEST_PROGRAMS)
+list(JOIN programs "\n" programs)
+file(CONFIGURE OUTPUT programs.txt CONTENT "@programs@\n" @ONLY)
