@@ -109,7 +109,7 @@ void Items::append(CompactText text, StyleHandle style) {
     if (current == nullptr)
         current = block_ = allocate(1);
     if (current->count == current->capacity)
-        current = grow(std::size_t{current->count} + 1);
+        current = grow(static_cast<std::size_t>(current->count) + 1);
     new (current->cells() + current->count) ListViewItem(std::move(text), style);
     ++current->count;
 }

@@ -18,6 +18,6 @@ struct RowRecord {
     bool Checked = false;
 };
 
-static_assert(sizeof(RowRecord) == 24);
+static_assert(sizeof(RowRecord) <= 24);
 
 } // namespace lumtex
