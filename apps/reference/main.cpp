@@ -1,29 +1,44 @@
-/// Writes the interface reference into a folder, in place of what is there.
+/// Writes what is made from the tables of the public interface: the reference, and what the component's
+/// source holds of it.
+#include "automation/generated_files.h"
 #include "automation/reference.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 
+namespace {
+
+void write(const std::filesystem::path& path, const std::string& text) {
+    std::ofstream file;
+    file.exceptions(std::ios::failbit | std::ios::badbit);
+    file.open(path, std::ios::binary);
+    file << text;
+}
+
+void writeReference(const std::filesystem::path& folder) {
+    std::filesystem::create_directories(folder);
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        if (entry.path().extension() == ".md")
+            std::filesystem::remove(entry.path());
+    for (const lumtex::ReferencePage& page : lumtex::referencePages())
+        write(folder / page.fileName, page.text);
+}
+
+} // namespace
+
 int main(int count, char** arguments) {
     if (count != 2) {
-        std::cerr << "usage: lumtex_reference FOLDER\n";
+        std::cerr << "usage: lumtex_reference FOLDER-OF-THE-TREE\n";
         return 2;
     }
-    const std::filesystem::path folder = arguments[1];
+    const std::filesystem::path tree = arguments[1];
     try {
-        std::filesystem::create_directories(folder);
-        for (const auto& entry : std::filesystem::directory_iterator(folder))
-            if (entry.path().extension() == ".md")
-                std::filesystem::remove(entry.path());
-        for (const lumtex::ReferencePage& page : lumtex::referencePages()) {
-            std::ofstream file;
-            file.exceptions(std::ios::failbit | std::ios::badbit);
-            file.open(folder / page.fileName, std::ios::binary);
-            file << page.text;
-        }
+        writeReference(tree / "docs" / "reference");
+        for (const lumtex::GeneratedFile& file : lumtex::generatedFiles())
+            write(tree / "src" / "activex" / file.fileName, file.text);
     } catch (const std::exception& failure) {
-        std::cerr << folder.string() << ": " << failure.what() << '\n';
+        std::cerr << tree.string() << ": " << failure.what() << '\n';
         return 1;
     }
     return 0;

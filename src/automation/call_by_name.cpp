@@ -1,7 +1,6 @@
 /// Calls by member names over Variants.
 #include "automation/call_by_name.h"
 
-#include "automation/member_table.h"
 #include "platform/runtime_error.h"
 
 #include <algorithm>
@@ -29,13 +28,6 @@ Variant valueOf(const DefaultValue& value) {
     return {};
 }
 
-const Member& needMember(StringView name) {
-    const Member* member = findMember(name);
-    if (member == nullptr)
-        throw RuntimeError(objectDoesNotSupportMember);
-    return *member;
-}
-
 /// Names hold no letters but A to Z.
 String inLowerCase(StringView name) {
     String lower(name);
@@ -57,44 +49,65 @@ bool endsInList(const Member& member) {
 
 } // namespace
 
-const Member* findMember(StringView name) {
-    static const auto byName = [] {
-        std::unordered_map<String, const Member*> map;
-        for (const Member& member : memberTable())
-            map.emplace(inLowerCase(member.name), &member);
-        return map;
+const Member* findMember(const ClassDescription& of, StringView name) {
+    using Names = std::unordered_map<String, const Member*>;
+    static const auto byClass = [] {
+        std::unordered_map<StringView, Names> classes;
+        for (const ClassDescription& description : classTable())
+            for (const Member& member : description.members)
+                classes[description.name].emplace(inLowerCase(member.name), &member);
+        return classes;
     }();
-    const auto found = byName.find(inLowerCase(name));
-    return found == byName.end() ? nullptr : found->second;
+    const Names& names = byClass.at(of.name);
+    const auto found = names.find(inLowerCase(name));
+    return found == names.end() ? nullptr : found->second;
 }
 
-const Member* findMember(Long number) {
-    const auto all = memberTable();
-    const auto found = std::ranges::find(all, number, &Member::number);
-    return found == all.end() ? nullptr : &*found;
+const Member* findMember(const ClassDescription& of, Long number) {
+    const auto found = std::ranges::find(of.members, number, &Member::number);
+    return found == of.members.end() ? nullptr : &*found;
+}
+
+const Member& CallByName::needMember(StringView name) const {
+    const Member* member = findMember(class_, name);
+    if (member == nullptr)
+        throw RuntimeError(objectDoesNotSupportMember);
+    return *member;
 }
 
 Variant CallByName::get(StringView name, std::span<Variant> arguments) {
-    const Member& member = needMember(name);
-    return invoke(member, needEntry(member.get), arguments, nullptr);
+    return get(needMember(name), arguments);
 }
 
 void CallByName::let(StringView name, std::span<Variant> arguments, const Variant& value) {
-    const Member& member = needMember(name);
+    let(needMember(name), arguments, value);
+}
+
+void CallByName::set(StringView name, std::span<Variant> arguments, const Variant& value) {
+    set(needMember(name), arguments, value);
+}
+
+Variant CallByName::call(StringView name, std::span<Variant> arguments) {
+    return call(needMember(name), arguments);
+}
+
+Variant CallByName::get(const Member& member, std::span<Variant> arguments) {
+    return invoke(member, needEntry(member.get), arguments, nullptr);
+}
+
+void CallByName::let(const Member& member, std::span<Variant> arguments, const Variant& value) {
     if (member.isReference())
         throw RuntimeError(objectDoesNotSupportMember);
     invoke(member, needEntry(member.let), arguments, &value);
 }
 
-void CallByName::set(StringView name, std::span<Variant> arguments, const Variant& value) {
-    const Member& member = needMember(name);
+void CallByName::set(const Member& member, std::span<Variant> arguments, const Variant& value) {
     if (!member.isReference())
         throw RuntimeError(objectDoesNotSupportMember);
     invoke(member, needEntry(member.let), arguments, &value);
 }
 
-Variant CallByName::call(StringView name, std::span<Variant> arguments) {
-    const Member& member = needMember(name);
+Variant CallByName::call(const Member& member, std::span<Variant> arguments) {
     return invoke(member, needEntry(member.call), arguments, nullptr);
 }
 
@@ -115,7 +128,7 @@ Variant CallByName::invoke(const Member& member,
     if (value != nullptr)
         all.push_back(*value);
 
-    Variant result = entry(list_, all);
+    Variant result = entry(object_, all);
     for (std::size_t i = 0; i < std::min(arguments.size(), fixed); ++i)
         if (member.slots[i].byReference && !arguments[i].isMissing())
             arguments[i] = std::move(all[i]);

@@ -1,28 +1,34 @@
 /// \file
-/// The control reached by member names at run time.
+/// The public classes reached by member names at run time.
 #pragma once
 
-#include "automation/member.h"
+#include "automation/class_table.h"
+#include "model/list_view.h"
+#include "services/error.h"
 
 #include <vector>
 
 namespace lumtex {
 
 /// The member of that name, whatever its case; none where there is no such member.
-const Member* findMember(StringView name);
+const Member* findMember(const ClassDescription& of, StringView name);
 /// The member with that dispatch number; none where there is no such member.
-const Member* findMember(Long number);
+const Member* findMember(const ClassDescription& of, Long number);
 
-/// One list, as a script or another late-bound caller sees it.
+/// One object of a public class, as a script or another late-bound caller sees it.
 ///
 /// Arguments are converted to the types of the interface. One that is `Missing`, or left out at the end,
 /// takes its default; what the control writes into by-reference arguments is found in the span afterwards.
 /// Throws RuntimeError 438 for an unknown name, or one that cannot be used that way; 449 for an argument that
 /// is needed, 450 for one too many; and what a conversion throws. The control itself reports its failures in
-/// its own way and returns. The list must outlive this.
+/// its own way and returns. The object must outlive this.
 class CallByName {
   public:
-    explicit CallByName(lmListView& list) : list_(list) {}
+    explicit CallByName(lmListView& list) : CallByName(listViewClass(), &list) {}
+    explicit CallByName(SpEv& helper) : CallByName(spEvClass(), &helper) {}
+    explicit CallByName(Error& error) : CallByName(errorClass(), &error) {}
+
+    const ClassDescription& description() const { return class_; }
 
     Variant get(StringView name, std::span<Variant> arguments = {});
     /// Assigns a value. A reference is assigned with `set` alone, and only a reference.
@@ -30,11 +36,22 @@ class CallByName {
     void set(StringView name, std::span<Variant> arguments, const Variant& value);
     Variant call(StringView name, std::span<Variant> arguments = {});
 
+    // The same with a member of the class that was looked up before.
+
+    Variant get(const Member& member, std::span<Variant> arguments);
+    void let(const Member& member, std::span<Variant> arguments, const Variant& value);
+    void set(const Member& member, std::span<Variant> arguments, const Variant& value);
+    Variant call(const Member& member, std::span<Variant> arguments);
+
   private:
+    CallByName(const ClassDescription& description, void* object) : class_(description), object_(object) {}
+
+    const Member& needMember(StringView name) const;
     Variant
     invoke(const Member& member, Member::Invoke entry, std::span<Variant> arguments, const Variant* value);
 
-    lmListView& list_;
+    const ClassDescription& class_;
+    void* object_;
 };
 
 } // namespace lumtex

@@ -57,21 +57,33 @@ constexpr Named orMissing(const char16_t* name) {
     return {name, {missing}};
 }
 
+/// The public class through which a host reaches what a class declares.
+template <class Class>
+struct Reached {
+    using Through = Class;
+};
+template <>
+struct Reached<ListViewProperties> {
+    using Through = lmListView;
+};
+
 /// The pieces of a member function's type, and the call through Variants.
-template <auto function, class Returned, class... Parameters>
+template <class Class, auto function, class Returned, class... Parameters>
 struct Callable {
     using Result = Returned;
     static constexpr std::size_t count = sizeof...(Parameters);
     static constexpr std::array<TypeInfo, count> types{typeOf<Parameters>()...};
     static constexpr std::array<bool, count> byReference{travelsBack<Parameters>...};
 
-    static Variant invoke(lmListView& list, std::span<Variant> arguments) {
-        return invokeWith(list, arguments, std::make_index_sequence<count>{});
+    static Variant invoke(void* object, std::span<Variant> arguments) {
+        return invokeWith(*static_cast<typename Reached<Class>::Through*>(object),
+                          arguments,
+                          std::make_index_sequence<count>{});
     }
 
   private:
     template <std::size_t... positions>
-    static Variant invokeWith(lmListView& list,
+    static Variant invokeWith(typename Reached<Class>::Through& object,
                               [[maybe_unused]] std::span<Variant> arguments,
                               std::index_sequence<positions...>) {
         // Converted from the first to the last, before the call.
@@ -79,9 +91,9 @@ struct Callable {
         (std::get<positions>(slots).emplace(arguments, positions), ...);
         Variant result;
         if constexpr (std::is_void_v<Result>)
-            (list.*function)(std::get<positions>(slots)->pass()...);
+            (object.*function)(std::get<positions>(slots)->pass()...);
         else
-            result = resultOf((list.*function)(std::get<positions>(slots)->pass()...));
+            result = resultOf((object.*function)(std::get<positions>(slots)->pass()...));
         (std::get<positions>(slots)->writeBack(), ...);
         return result;
     }
@@ -91,11 +103,12 @@ template <auto function, class Type = decltype(function)>
 struct Function;
 
 template <auto function, class Class, class Result, class... Parameters>
-struct Function<function, Result (Class::*)(Parameters...)> : Callable<function, Result, Parameters...> {};
+struct Function<function, Result (Class::*)(Parameters...)>
+    : Callable<Class, function, Result, Parameters...> {};
 
 template <auto function, class Class, class Result, class... Parameters>
 struct Function<function, Result (Class::*)(Parameters...) const>
-    : Callable<function, Result, Parameters...> {};
+    : Callable<Class, function, Result, Parameters...> {};
 
 template <class Of>
 constexpr void nameParameters(Member& member, std::initializer_list<Named> names) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/enumerations.h"
+#include "services/sp_ev.h"
 
 #include <array>
 #include <span>
@@ -39,6 +40,8 @@ constexpr auto enumerationTable = std::to_array<Enumeration>({
     {u"cSortType", u"What the texts of a sorted column are compared as.", {{{u"cSortText", cSortText}, {u"cSortNumeric", cSortNumeric}, {u"cSortDate", cSortDate}}}, 3},
     {u"cFindBegin", u"Where a search starts.", {{{u"cFindStart", cFindStart}, {u"cFindContinue", cFindContinue}}}, 2},
     {u"cFindCompare", u"How a search compares letters.", {{{u"cFindBinary", cFindBinary}, {u"cFindText", cFindText}}}, 2},
+    {u"cActiveXPTheme", u"Colour scheme of the user's desktop.", {{{u"styleBlue", styleBlue}, {u"styleSilver", styleSilver}, {u"styleOlive", styleOlive}, {u"styleClassic", styleClassic}}}, 4},
+    {u"cMouseButton", u"Mouse button that is down.", {{{u"mouseNone", mouseNone}, {u"mouseLeft", mouseLeft}, {u"mouseRight", mouseRight}, {u"mouseMiddle", mouseMiddle}}}, 4},
 });
 // clang-format on
 

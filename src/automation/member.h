@@ -9,8 +9,6 @@
 
 namespace lumtex {
 
-class lmListView;
-
 /// What a caller who leaves an optional argument out has said.
 struct DefaultValue {
     enum class Kind : Byte { required, missing, nothing, boolean, number, text };
@@ -38,13 +36,14 @@ enum class Repaint : Byte {
     always,
 };
 
-/// One property or method of `lmListView`.
+/// One property or method of a public class.
 struct Member {
     static constexpr std::size_t mostParameters = 12;
 
-    /// Reads, assigns or calls by Variants. All parameters have a value; of an assignment, the new value
-    /// comes last. By-reference parameters are written back. Throws where an argument cannot be converted.
-    using Invoke = Variant (*)(lmListView& list, std::span<Variant> arguments);
+    /// Reads, assigns or calls by Variants. `object` is of the class that the member belongs to. All
+    /// parameters have a value; of an assignment, the new value comes last. By-reference parameters are
+    /// written back. Throws where an argument cannot be converted.
+    using Invoke = Variant (*)(void* object, std::span<Variant> arguments);
 
     Long number; ///< the dispatch number; it never changes once a version has been given out
     StringView name;

@@ -19,4 +19,8 @@ std::span<const Member> columnMembers();
 std::span<const Member> rowMembers();
 std::span<const Member> itemMembers();
 
+/// The members of the classes beside the control, see class_table.h.
+std::span<const Member> spEvMembers();
+std::span<const Member> errorMembers();
+
 } // namespace lumtex

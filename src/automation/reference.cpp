@@ -1,9 +1,9 @@
 /// Pages in Markdown for people who program against the control.
 #include "automation/reference.h"
 
+#include "automation/class_table.h"
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
-#include "automation/member_table.h"
 #include "platform/text.h"
 
 #include <algorithm>
@@ -130,10 +130,18 @@ std::string failureText(const Member& member) {
     return std::string("\nA failure is reported and yields ") + zeroOf(member.type.code) + ".\n";
 }
 
-std::string pageOf(const Member& member) {
+std::string describe(const Member& member) {
     return "# " + toUtf8(member.name) + "\n\n    " + syntaxOf(member) + "\n\n" + kindOf(member) + "\n\n" +
            toUtf8(member.help) + "\n" + parameterTable(member) + repaintText(member) + failureText(member) +
            "\nDispatch number " + std::to_string(member.number) + ".\n";
+}
+
+/// A small class has one page for all of its members.
+std::string pageOf(const ClassDescription& description) {
+    std::string text = "# " + toUtf8(description.name) + "\n\n" + toUtf8(description.help) + "\n";
+    for (const Member& member : description.members)
+        text += "\n#" + describe(member);
+    return text;
 }
 
 std::string eventsPage() {
@@ -168,10 +176,11 @@ std::string fileNameOf(const Member& member) {
 }
 
 std::string indexPage() {
-    std::string text =
-        "# Interface reference\n\n"
-        "Made from the tables in `src/automation` by `scripts/reference`; do not edit.\n\n"
-        "[Events](events.md), [enumerations](enumerations.md), and the members of `lmListView`:\n";
+    std::string text = "# Interface reference\n\n"
+                       "Made from the tables in `src/automation` by `scripts/reference`; do not edit.\n\n"
+                       "[Events](events.md), [enumerations](enumerations.md), the classes [SpEv](SpEv.md) "
+                       "and [Error](Error.md), and the "
+                       "members of `lmListView`:\n";
     const auto group = [&](const char* title, std::span<const Member> members) {
         text += std::string("\n## ") + title + "\n\n| member | |\n|---|---|\n";
         for (const Member& member : members)
@@ -192,7 +201,9 @@ std::vector<ReferencePage> referencePages() {
     std::vector<ReferencePage> pages{
         {"README.md", indexPage()}, {"events.md", eventsPage()}, {"enumerations.md", enumerationsPage()}};
     for (const Member& member : memberTable())
-        pages.push_back({fileNameOf(member), pageOf(member)});
+        pages.push_back({fileNameOf(member), describe(member)});
+    for (const ClassDescription& description : {spEvClass(), errorClass()})
+        pages.push_back({toUtf8(description.name) + ".md", pageOf(description)});
     return pages;
 }
 

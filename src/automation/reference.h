@@ -12,7 +12,8 @@ struct ReferencePage {
     std::string text;     ///< Markdown in UTF-8
 };
 
-/// A page for each member, one for the events, one for the enumerations, and README.md as their index.
+/// A page for each member of the list and for each other class, one for the events, one for the enumerations,
+/// and README.md as their index.
 std::vector<ReferencePage> referencePages();
 
 } // namespace lumtex

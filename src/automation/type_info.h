@@ -7,6 +7,7 @@
 #include "platform/object.h"
 #include "platform/picture.h"
 #include "platform/variant.h"
+#include "services/sp_ev.h"
 #include "sortfind/find_state.h"
 
 #include <optional>
@@ -76,6 +77,8 @@ template <> struct TypeOf<cSortMode> : Coded<TypeCode::enumeration> { static con
 template <> struct TypeOf<cSortType> : Coded<TypeCode::enumeration> { static constexpr StringView name = u"cSortType"; };
 template <> struct TypeOf<cFindBegin> : Coded<TypeCode::enumeration> { static constexpr StringView name = u"cFindBegin"; };
 template <> struct TypeOf<cFindCompare> : Coded<TypeCode::enumeration> { static constexpr StringView name = u"cFindCompare"; };
+template <> struct TypeOf<cActiveXPTheme> : Coded<TypeCode::enumeration> { static constexpr StringView name = u"cActiveXPTheme"; };
+template <> struct TypeOf<cMouseButton> : Coded<TypeCode::enumeration> { static constexpr StringView name = u"cMouseButton"; };
 // clang-format on
 
 } // namespace detail

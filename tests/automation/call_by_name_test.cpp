@@ -129,9 +129,9 @@ TEST_F(CallingByName, AListOfArgumentsMayBeAsLongAsTheCallerLikes) {
 }
 
 TEST_F(CallingByName, MembersAreFoundByTheirNumbersToo) {
-    EXPECT_EQ(findMember(Long{5})->name, u"RowsAdd");
-    EXPECT_EQ(findMember(Long{-12345}), nullptr);
-    EXPECT_EQ(findMember(u"rowsadd")->number, 5);
+    EXPECT_EQ(findMember(listViewClass(), Long{5})->name, u"RowsAdd");
+    EXPECT_EQ(findMember(listViewClass(), Long{-12345}), nullptr);
+    EXPECT_EQ(findMember(listViewClass(), u"rowsadd")->number, 5);
 }
 
 } // namespace

@@ -1,0 +1,26 @@
+/// \file
+/// How the types of the public interface are written in interface definitions and in the table of functions.
+#pragma once
+
+#include "automation/member.h"
+
+#include <string>
+#include <vector>
+
+namespace lumtex {
+
+/// The type of a value, "VARIANT_BOOL".
+std::string interfaceType(const TypeInfo& type);
+
+/// One entry of a table of functions.
+struct InterfaceEntry {
+    enum class Kind : Byte { get, let, set, call };
+
+    const Member* member;
+    Kind kind;
+};
+
+/// The entries in the order of the table: the members as they stand, a property's get before its let.
+std::vector<InterfaceEntry> interfaceEntries(std::span<const Member> members);
+
+} // namespace lumtex

@@ -1,0 +1,74 @@
+/// Members of the classes that hosts create beside the control.
+#include "automation/describe_member.h"
+#include "automation/member_table.h"
+#include "services/error.h"
+#include "services/sp_ev.h"
+
+namespace lumtex {
+
+namespace {
+
+using namespace detail;
+
+constexpr auto ofSpEv = std::to_array<Member>({
+    method<&SpEv::TextRead>(1,
+                            u"TextRead",
+                            Repaint::never,
+                            u"The whole of a text file; the empty text where it cannot be read.",
+                            {u"Filename"}),
+    method<&SpEv::TextSave>(2,
+                            u"TextSave",
+                            Repaint::never,
+                            u"Replaces a file by a text, without a line end behind it.",
+                            {u"Filename", u"Text"}),
+    method<&SpEv::PlayMusic>(3,
+                             u"PlayMusic",
+                             Repaint::never,
+                             u"Starts a sound file and returns at once; silent where it cannot be played.",
+                             {u"Filename"}),
+    method<&SpEv::ListSave>(
+        4,
+        u"ListSave",
+        Repaint::never,
+        u"Replaces a file by one line for each entry of a list box. At most 32767 entries are written.",
+        {u"List", u"Filename", orText(u"TextBeforeListText", u""), orText(u"TextAfterListText", u"")}),
+    method<&SpEv::ListRead>(5,
+                            u"ListRead",
+                            Repaint::never,
+                            u"Adds each line of a file to a list box, which is not cleared before.",
+                            {u"List", u"Filename"}),
+    method<&SpEv::FileExists>(6,
+                              u"FileExists",
+                              Repaint::never,
+                              u"Whether a file or folder is found. The last part may hold wild cards.",
+                              {u"sFile"}),
+    method<&SpEv::ActiveXPTheme>(7,
+                                 u"ActiveXPTheme",
+                                 Repaint::never,
+                                 u"The colour scheme of the desktop; styleClassic where no theme is active."),
+    method<&SpEv::MouseButtonPressed>(8,
+                                      u"MouseButtonPressed",
+                                      Repaint::never,
+                                      u"The button that is down, left before right before middle. The middle "
+                                      u"one gives 4, not mouseMiddle."),
+});
+
+constexpr auto ofError = std::to_array<Member>({
+    property<&Error::SilentError, &Error::letSilentError>(
+        1,
+        u"SilentError",
+        Repaint::never,
+        u"While True, a failing statement is skipped without a report, in all lists of the process."),
+});
+
+} // namespace
+
+std::span<const Member> spEvMembers() {
+    return ofSpEv;
+}
+
+std::span<const Member> errorMembers() {
+    return ofError;
+}
+
+} // namespace lumtex

@@ -1,0 +1,94 @@
+/// The classes that hosts create beside the control.
+#include "automation/call_by_name.h"
+#include "error_number.h"
+#include "fake_runtime.h"
+#include "platform/text.h"
+
+#include <set>
+
+#include <gtest/gtest.h>
+
+namespace lumtex::testing {
+namespace {
+
+std::string signatureOf(const Member& member) {
+    std::string text = toUtf8(member.name) + "(";
+    for (const Parameter& parameter : member.parameters())
+        text += (text.back() == '(' ? "" : ", ") + toUtf8(parameter.name) + ": " +
+                toUtf8(parameter.type.name) + (parameter.optional() ? " optional" : "");
+    return text + ")" + (member.type.code == TypeCode::none ? "" : ": " + toUtf8(member.type.name)) +
+           (member.get != nullptr ? " get" : "") + (member.let != nullptr ? " let" : "") +
+           (member.call != nullptr ? " call" : "");
+}
+
+std::set<std::string> signaturesOf(const ClassDescription& description) {
+    std::set<std::string> all;
+    for (const Member& member : description.members)
+        all.insert(signatureOf(member));
+    return all;
+}
+
+TEST(Classes, AreTheControlAndTwoHelpers) {
+    std::vector<StringView> names;
+    for (const ClassDescription& description : classTable())
+        names.push_back(description.name);
+    EXPECT_EQ(names, (std::vector<StringView>{u"lmListView", u"SpEv", u"Error"}));
+}
+
+TEST(Classes, SpEvHasItsEightMembers) {
+    EXPECT_EQ(signaturesOf(spEvClass()),
+              (std::set<std::string>{
+                  "ActiveXPTheme(): cActiveXPTheme call",
+                  "FileExists(sFile: String): Boolean call",
+                  "ListRead(List: Object, Filename: String) call",
+                  "ListSave(List: Object, Filename: String, TextBeforeListText: String optional, "
+                  "TextAfterListText: String optional) call",
+                  "MouseButtonPressed(): cMouseButton call",
+                  "PlayMusic(Filename: String) call",
+                  "TextRead(Filename: String): String call",
+                  "TextSave(Filename: String, Text: String) call",
+              }));
+}
+
+TEST(Classes, ErrorHasItsSwitch) {
+    EXPECT_EQ(signaturesOf(errorClass()), (std::set<std::string>{"SilentError(): Boolean get let"}));
+}
+
+TEST(Classes, NoTwoMembersOfOneShareANumber) {
+    for (const ClassDescription& description : classTable()) {
+        std::set<Long> numbers;
+        for (const Member& member : description.members)
+            EXPECT_TRUE(numbers.insert(member.number).second) << toUtf8(member.name);
+    }
+}
+
+TEST(Classes, TheSwitchIsReachedByName) {
+    SilentFlag flag;
+    Error error(flag);
+    CallByName byName(error);
+    byName.let(u"silenterror", {}, true);
+    EXPECT_TRUE(flag.silent);
+    EXPECT_EQ(byName.get(u"SilentError"), Variant(true));
+}
+
+TEST(Classes, AHelperKnowsItsOwnNamesAlone) {
+    SilentFlag flag;
+    Error error(flag);
+    CallByName byName(error);
+    EXPECT_EQ(errorNumberOf([&] { byName.call(u"Redraw"); }), objectDoesNotSupportMember);
+    EXPECT_EQ(findMember(errorClass(), u"TextRead"), nullptr);
+    EXPECT_EQ(findMember(spEvClass(), u"textread")->name, u"TextRead");
+}
+
+TEST(Classes, TheHelperCallsReachTheRuntime) {
+    FakeRuntime runtime;
+    SpEv helper(runtime);
+    CallByName byName(helper);
+    std::vector<Variant> file{u"a.txt", u"some text"};
+    byName.call(u"TextSave", file);
+    EXPECT_EQ(runtime.files[u"a.txt"], u"some text");
+    EXPECT_EQ(byName.call(u"TextRead", std::span(file).first(1)), Variant(u"some text"));
+}
+
+} // namespace
+} // namespace lumtex::testing
