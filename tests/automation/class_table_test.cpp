@@ -84,10 +84,11 @@ TEST(Classes, TheHelperCallsReachTheRuntime) {
     FakeRuntime runtime;
     SpEv helper(runtime);
     CallByName byName(helper);
-    std::vector<Variant> file{u"a.txt", u"some text"};
-    byName.call(u"TextSave", file);
-    EXPECT_EQ(runtime.files[u"a.txt"], u"some text");
-    EXPECT_EQ(byName.call(u"TextRead", std::span(file).first(1)), Variant(u"some text"));
+    runtime.files[u"a.txt"] = u"some text";
+    std::vector<Variant> there{u"a.txt"};
+    EXPECT_EQ(byName.call(u"FileExists", there), Variant(true));
+    std::vector<Variant> notThere{u"b.txt"};
+    EXPECT_EQ(byName.call(u"FileExists", notThere), Variant(false));
 }
 
 } // namespace
