@@ -2,6 +2,8 @@
 
 #include "platform/rounding.h"
 
+#include <algorithm>
+
 namespace lumtex {
 
 namespace {
@@ -15,7 +17,16 @@ Long toHimetric(Long pixels) {
 
 } // namespace
 
-BitmapPicture::BitmapPicture(Bitmap bitmap) : bitmap_(std::move(bitmap)) {}
+PictureKind Picture::kindOf(const Bitmap& bitmap) {
+    constexpr std::uint32_t opaque = 0xFF;
+    const bool isOpaque = std::all_of(bitmap.pixels.begin(), bitmap.pixels.end(), [](std::uint32_t pixel) {
+        return pixel >> 24U == opaque;
+    });
+    return isOpaque ? PictureKind::bitmap : PictureKind::icon;
+}
+
+BitmapPicture::BitmapPicture(Bitmap bitmap, PictureKind kind)
+    : bitmap_(std::move(bitmap)), kind_(kind == PictureKind::icon ? kind : kindOf(bitmap_)) {}
 
 Long BitmapPicture::Width() const {
     return toHimetric(bitmap_.width);

@@ -8,6 +8,12 @@
 
 namespace lumtex {
 
+/// What a picture was made as, by the numbers that hosts know. Says in which form it is stored.
+enum class PictureKind : Byte {
+    bitmap = 1, ///< all pixels opaque
+    icon = 3,   ///< has a mask, or could have one
+};
+
 /// Held by reference and never changed: whoever wants another look assigns another picture.
 class Picture {
   public:
@@ -22,6 +28,12 @@ class Picture {
 
     /// The picture's pixels at its own size. The reference lives as long as the picture.
     virtual const Bitmap& bitmap() const = 0;
+
+    virtual PictureKind kind() const { return kindOf(bitmap()); }
+
+  protected:
+    /// The kind that can hold these pixels.
+    static PictureKind kindOf(const Bitmap& bitmap);
 };
 
 using PictureRef = std::shared_ptr<const Picture>;
@@ -29,14 +41,17 @@ using PictureRef = std::shared_ptr<const Picture>;
 /// A picture made of pixels, at 96 pixels per inch.
 class BitmapPicture final : public Picture {
   public:
-    explicit BitmapPicture(Bitmap bitmap);
+    /// Becomes an icon, whatever `kind` says, where a pixel is not opaque.
+    explicit BitmapPicture(Bitmap bitmap, PictureKind kind = PictureKind::bitmap);
 
     Long Width() const override;
     Long Height() const override;
     const Bitmap& bitmap() const override { return bitmap_; }
+    PictureKind kind() const override { return kind_; }
 
   private:
     Bitmap bitmap_;
+    PictureKind kind_;
 };
 
 } // namespace lumtex

@@ -2,10 +2,12 @@
 /// What the control asks of the system around it, apart from windows and drawing.
 #pragma once
 
+#include "platform/binary_file.h"
 #include "platform/object.h"
 #include "platform/types.h"
 #include "platform/variant.h"
 
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -115,6 +117,32 @@ class Runtime {
     virtual void createFile(StringView path) = 0;
     /// Creates the file if need be. Throws 57 for text that could not be written.
     virtual void appendToFile(StringView path, StringView text) = 0;
+
+    // Files of bytes. Only plain files are read, written or deleted: for a folder, a device and the like, and
+    // for whatever else stands in the way, these throw RuntimeError 75, and 76 where the folder does not
+    // exist.
+
+    /// The file stands under its name after `OutputFile::close`; before that it should not, so that nobody
+    /// reads half of it. A file that has the name then is replaced.
+    virtual std::unique_ptr<OutputFile> openForBinaryWriting(StringView path) = 0;
+    /// Throws 53 where there is no file.
+    virtual std::unique_ptr<InputFile> openForBinaryReading(StringView path) = 0;
+    /// `path` is a name, not a pattern. Throws 53 where there is no file.
+    virtual void deleteFile(StringView path) = 0;
+
+    // Text in the system's ANSI code page, one byte for each UTF-16 code unit. `bytes` and `text` are of the
+    // same length. What one byte cannot say becomes "?".
+
+    virtual void toAnsi(StringView text, std::span<Byte> bytes) const = 0;
+    virtual void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const = 0;
+
+    // Pictures as file images: all bytes of a bitmap file or of an icon file, by the picture's kind.
+
+    /// Throws RuntimeError 481 for a picture without pixels, 7 for one too large.
+    virtual std::vector<Byte> imageOfPicture(const Picture& picture) const = 0;
+    /// The other way, with the same kind and pixels. Throws 481 for bytes that are no such image, and for one
+    /// that declares more than eight pixels to a byte, which no uncompressed image has.
+    virtual PictureRef pictureOfImage(std::span<const Byte> image) const = 0;
 
     /// Looks for a file or folder; the last part of `pattern` may hold "*" and "?". A search that found
     /// something has a handle, to be closed; -1 otherwise. Closing -1 does nothing.

@@ -22,6 +22,8 @@ enum ErrorNumber : Long {
     fileNotFound = 53,
     fileAlreadyOpen = 55,
     deviceError = 57,
+    diskFull = 61,
+    inputPastEnd = 62,
     pathFileAccess = 75,
     pathNotFound = 76,
     objectVariableNotSet = 91,

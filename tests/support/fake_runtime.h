@@ -5,6 +5,7 @@
 #include "platform/runtime.h"
 #include "platform/runtime_error.h"
 #include "platform/text.h"
+#include "platform/windows_1252.h"
 
 #include <algorithm>
 #include <cmath>
@@ -98,6 +99,27 @@ class FakeRuntime final : public Runtime {
         demandFolderOf(path);
         files[String(path)].clear();
     }
+    // No procedure that is tested against this runtime touches files of bytes or pictures.
+    std::unique_ptr<OutputFile> openForBinaryWriting(StringView /*path*/) override {
+        throw RuntimeError(pathFileAccess);
+    }
+    std::unique_ptr<InputFile> openForBinaryReading(StringView /*path*/) override {
+        throw RuntimeError(pathFileAccess);
+    }
+    void deleteFile(StringView /*path*/) override { throw RuntimeError(pathFileAccess); }
+    void toAnsi(StringView text, std::span<Byte> bytes) const override {
+        std::transform(text.begin(), text.end(), bytes.begin(), toWindows1252);
+    }
+    void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override {
+        std::transform(bytes.begin(), bytes.end(), text.begin(), fromWindows1252);
+    }
+    std::vector<Byte> imageOfPicture(const Picture& /*picture*/) const override {
+        throw RuntimeError(invalidPicture);
+    }
+    PictureRef pictureOfImage(std::span<const Byte> /*image*/) const override {
+        throw RuntimeError(invalidPicture);
+    }
+
     Long findFirstFile(StringView pattern) override {
         journal.push_back(u"find " + String(pattern));
         return files.contains(String(pattern)) ? 7 : -1;

@@ -1,5 +1,6 @@
 /// The files of the machine that the simulated desktop runs on.
 #include "platform/headless/headless_runtime.h"
+#include "platform/headless/native_path.h"
 #include "platform/runtime_error.h"
 #include "platform/text.h"
 
@@ -14,18 +15,6 @@ namespace lumtex {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path nativePath(StringView path) {
-    std::string native = toUtf8(path);
-    std::replace(native.begin(), native.end(), '\\', static_cast<char>(fs::path::preferred_separator));
-    return native;
-}
-
-void demandFolderOf(const fs::path& file) {
-    std::error_code failure;
-    if (file.has_parent_path() && !fs::is_directory(file.parent_path(), failure))
-        throw RuntimeError(pathNotFound);
-}
 
 std::ofstream openForWriting(StringView path, std::ios::openmode mode) {
     const fs::path file = nativePath(path);
@@ -79,6 +68,18 @@ bool anyMatches(const fs::path& folder, std::string_view pattern) {
 }
 
 } // namespace
+
+fs::path nativePath(StringView path) {
+    std::string native = toUtf8(path);
+    std::replace(native.begin(), native.end(), '\\', static_cast<char>(fs::path::preferred_separator));
+    return native;
+}
+
+void demandFolderOf(const fs::path& file) {
+    std::error_code failure;
+    if (file.has_parent_path() && !fs::is_directory(file.parent_path(), failure))
+        throw RuntimeError(pathNotFound);
+}
 
 String HeadlessRuntime::readFile(StringView path) const {
     const fs::path file = nativePath(path);

@@ -1,9 +1,11 @@
 #include "platform/headless/headless_runtime.h"
 
 #include "platform/headless/desktop.h"
+#include "platform/raster/picture_image.h"
 #include "platform/runtime_error.h"
 #include "platform/text.h"
 #include "platform/version.h"
+#include "platform/windows_1252.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -135,6 +137,20 @@ std::optional<Double> HeadlessRuntime::numberFromText(StringView text) const {
 }
 std::optional<Date> HeadlessRuntime::dateFromText(StringView text) const {
     return lumtex::dateFromText(text);
+}
+
+void HeadlessRuntime::toAnsi(StringView text, std::span<Byte> bytes) const {
+    std::transform(text.begin(), text.end(), bytes.begin(), toWindows1252);
+}
+void HeadlessRuntime::fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const {
+    std::transform(bytes.begin(), bytes.end(), text.begin(), fromWindows1252);
+}
+
+std::vector<Byte> HeadlessRuntime::imageOfPicture(const Picture& picture) const {
+    return lumtex::imageOfPicture(picture);
+}
+PictureRef HeadlessRuntime::pictureOfImage(std::span<const Byte> image) const {
+    return lumtex::pictureOfImage(image);
 }
 
 Long HeadlessRuntime::currentThemeName(std::span<char16_t> themeFile,

@@ -66,6 +66,15 @@ class HeadlessRuntime final : public Runtime {
     String readFile(StringView path) const override;
     void createFile(StringView path) override;
     void appendToFile(StringView path, StringView text) override;
+    /// Writes a hidden file beside `path` and renames it at the end.
+    std::unique_ptr<OutputFile> openForBinaryWriting(StringView path) override;
+    std::unique_ptr<InputFile> openForBinaryReading(StringView path) override;
+    void deleteFile(StringView path) override;
+    /// Code page 1252.
+    void toAnsi(StringView text, std::span<Byte> bytes) const override;
+    void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override;
+    std::vector<Byte> imageOfPicture(const Picture& picture) const override;
+    PictureRef pictureOfImage(std::span<const Byte> image) const override;
     /// Names with regard to case, as the machine has them.
     Long findFirstFile(StringView pattern) override;
     void findClose(Long handle) override;
