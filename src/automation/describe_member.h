@@ -57,15 +57,9 @@ constexpr Named orMissing(const char16_t* name) {
     return {name, {missing}};
 }
 
-/// The public class through which a host reaches what a class declares.
+/// The public class through which a host reaches what `Class` declares: the list for whatever it inherits.
 template <class Class>
-struct Reached {
-    using Through = Class;
-};
-template <>
-struct Reached<ListViewProperties> {
-    using Through = lmListView;
-};
+using Reached = std::conditional_t<std::is_base_of_v<Class, lmListView>, lmListView, Class>;
 
 /// The pieces of a member function's type, and the call through Variants.
 template <class Class, auto function, class Returned, class... Parameters>
@@ -76,14 +70,13 @@ struct Callable {
     static constexpr std::array<bool, count> byReference{travelsBack<Parameters>...};
 
     static Variant invoke(void* object, std::span<Variant> arguments) {
-        return invokeWith(*static_cast<typename Reached<Class>::Through*>(object),
-                          arguments,
-                          std::make_index_sequence<count>{});
+        return invokeWith(
+            *static_cast<Reached<Class>*>(object), arguments, std::make_index_sequence<count>{});
     }
 
   private:
     template <std::size_t... positions>
-    static Variant invokeWith(typename Reached<Class>::Through& object,
+    static Variant invokeWith(Reached<Class>& object,
                               [[maybe_unused]] std::span<Variant> arguments,
                               std::index_sequence<positions...>) {
         // Converted from the first to the last, before the call.
