@@ -21,15 +21,13 @@ bool isNothing(const Variant& value) {
     });
 }
 
-/// Numbers of different kinds are equal where their values are, empty references in any case; anything else
-/// only to its own kind.
+} // namespace
+
 bool sameValue(const Variant& a, const Variant& b) {
     if (isNumber(a) && isNumber(b))
         return a.toDouble() == b.toDouble();
     return a == b || (isNothing(a) && isNothing(b));
 }
-
-} // namespace
 
 Variant MemoryPropertyBag::ReadProperty(StringView name, const Variant& defaultValue) const {
     for (const Entry& entry : entries_) {

@@ -16,10 +16,13 @@ class PropertyBag {
 
     /// The value stored under `name`, or `defaultValue` where there is none.
     virtual Variant ReadProperty(StringView name, const Variant& defaultValue) const = 0;
-    /// Stores `value`, or removes the name where the value equals the default. Numbers and Booleans compare
-    /// by value, objects by identity, and an empty reference equals any other.
+    /// Stores `value`, or removes the name where the value equals the default (see `sameValue`).
     virtual void WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) = 0;
 };
+
+/// How bags compare a value with its default: numbers and Booleans by value, objects by identity, and an
+/// empty reference equals any other.
+bool sameValue(const Variant& a, const Variant& b);
 
 /// Keeps its values in the order in which they were first written.
 class MemoryPropertyBag final : public PropertyBag {

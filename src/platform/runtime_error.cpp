@@ -41,6 +41,7 @@ constexpr auto descriptions = std::to_array<Description>({
     {91, u"Object variable or With block variable not set"},
     {93, u"Invalid pattern string"},
     {94, u"Invalid use of Null"},
+    {321, u"Invalid file format"},
     {380, u"Invalid property value"},
     {424, u"Object required"},
     {429, u"ActiveX component can't create object"},

@@ -29,6 +29,7 @@ enum ErrorNumber : Long {
     objectVariableNotSet = 91,
     invalidPatternString = 93,
     invalidUseOfNull = 94,
+    invalidFileFormat = 321,
     cannotCreateObject = 429,
     objectDoesNotSupportMember = 438,
     argumentNotOptional = 449,

@@ -63,6 +63,33 @@ TEST_F(ReadProperties, AnUnusableValueIsReportedAndReadingGoesOn) {
     EXPECT_EQ(list.IconW(), 16) << "stays as it was";
 }
 
+TEST_F(ReadProperties, AnUnusableValueOfAnyKeyIsReportedOnceAndAllKeysAreRead) {
+    /// Gives what its key cannot be, for one of the keys.
+    class SpoiltBag final : public PropertyBag {
+      public:
+        Variant ReadProperty(StringView name, const Variant& defaultValue) const override {
+            const bool spoilt = asked++ == spoiltKey;
+            if (spoilt)
+                spoiltName = name;
+            return !spoilt ? defaultValue : defaultValue.isObject() ? Variant(Long{1}) : Variant(u"unusable");
+        }
+        void WriteProperty(StringView, const Variant&, const Variant&) override {}
+
+        std::size_t spoiltKey = 0;
+        mutable std::size_t asked = 0;
+        mutable String spoiltName;
+    };
+    constexpr std::size_t keys = 69;
+    for (std::size_t key = 0; key < keys; ++key) {
+        SpoiltBag bag;
+        bag.spoiltKey = key;
+        list.UserControl_ReadProperties(bag);
+        EXPECT_EQ(bag.asked, keys);
+        EXPECT_EQ(reportCount(), key + 1) << toUtf8(bag.spoiltName);
+        EXPECT_EQ(lastReport(), "13 UserControl_ReadProperties") << toUtf8(bag.spoiltName);
+    }
+}
+
 TEST_F(ReadProperties, PaintsWhenAllIsRead) {
     // Once for the cleared rows, once for the cleared columns, once at the end.
     EXPECT_EQ(paintsOf([&] { list.UserControl_ReadProperties(MemoryPropertyBag()); }), 3);

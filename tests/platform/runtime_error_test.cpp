@@ -36,6 +36,7 @@ constexpr Row rows[] = {
     {objectVariableNotSet, u"Object variable or With block variable not set"},
     {invalidPatternString, u"Invalid pattern string"},
     {invalidUseOfNull, u"Invalid use of Null"},
+    {invalidFileFormat, u"Invalid file format"},
     {380, u"Invalid property value"},
     {424, u"Object required"},
     {cannotCreateObject, u"ActiveX component can't create object"},

@@ -1,0 +1,186 @@
+#include "platform/json/json_property_bag.h"
+
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <nlohmann/json.hpp>
+
+#include <glib.h>
+
+namespace lumtex {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct GFree {
+    void operator()(void* memory) const { g_free(memory); }
+};
+
+/// The shortest decimal that gives the same Single back, so that 0.1 does not read 0.10000000149011612.
+Double shortestDouble(Single value) {
+    std::array<char, 32> text{};
+    const auto written = std::to_chars(text.data(), text.data() + text.size(), value);
+    Double wide = value;
+    std::from_chars(text.data(), written.ptr, wide);
+    return wide;
+}
+
+Json jsonOfNumber(Double value) {
+    if (!std::isfinite(value))
+        throw RuntimeError(typeMismatch);
+    return value;
+}
+
+Json jsonOfFont(const FontSpec& font) {
+    Json json = {{"Name", toUtf8(font.Name)}, {"Size", jsonOfNumber(shortestDouble(font.Size))}};
+    for (const auto& [name, isSet] : {std::pair{"Bold", font.Bold},
+                                      std::pair{"Italic", font.Italic},
+                                      std::pair{"Underline", font.Underline},
+                                      std::pair{"Strikethrough", font.Strikethrough}}) {
+        if (isSet)
+            json[name] = true;
+    }
+    return json;
+}
+
+Variant fontOfJson(const Json& json) {
+    FontSpec font{.Name = fromUtf8(json.at("Name").get<std::string>()),
+                  .Size = Variant(json.at("Size").get<Double>()).toSingle()};
+    font.Bold = json.value("Bold", false);
+    font.Italic = json.value("Italic", false);
+    font.Underline = json.value("Underline", false);
+    font.Strikethrough = json.value("Strikethrough", false);
+    return std::make_shared<Font>(std::move(font));
+}
+
+Json jsonOfPicture(const Runtime& runtime, const Picture& picture) {
+    const std::vector<Byte> image = runtime.imageOfPicture(picture);
+    const std::unique_ptr<char, GFree> base64(g_base64_encode(image.data(), image.size()));
+    return {{"Picture", base64.get()}};
+}
+
+Variant pictureOfJson(const Runtime& runtime, const Json& json) {
+    const auto& base64 = json.at("Picture").get_ref<const std::string&>();
+    gsize size = 0;
+    const std::unique_ptr<guchar, GFree> image(g_base64_decode(base64.c_str(), &size));
+    return runtime.pictureOfImage({image.get(), size});
+}
+
+/// Throws 13 where there is nothing that JSON could say.
+Json jsonOf(const Runtime& runtime, const Variant& value) {
+    return value.visit([&]<class T>(const T& held) -> Json {
+        if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, Byte> || std::is_same_v<T, Integer> ||
+                      std::is_same_v<T, Long>)
+            return held;
+        else if constexpr (std::is_same_v<T, Single>)
+            return jsonOfNumber(shortestDouble(held));
+        else if constexpr (std::is_same_v<T, Double>)
+            return jsonOfNumber(held);
+        else if constexpr (std::is_same_v<T, String>)
+            return toUtf8(held);
+        else if constexpr (std::is_same_v<T, FontRef>)
+            return held != nullptr ? jsonOfFont(held->spec) : Json();
+        else if constexpr (std::is_same_v<T, PictureRef>)
+            return held != nullptr ? jsonOfPicture(runtime, *held) : Json();
+        else
+            throw RuntimeError(typeMismatch);
+    });
+}
+
+/// Throws 13 for what no value looks like.
+Variant valueOf(const Runtime& runtime, const Json& json) {
+    switch (json.type()) {
+    case Json::value_t::null:
+        return PictureRef{};
+    case Json::value_t::boolean:
+        return json.get<bool>();
+    case Json::value_t::number_integer:
+    case Json::value_t::number_unsigned:
+    case Json::value_t::number_float: {
+        const auto number = json.get<Double>();
+        const bool isLong = number >= std::numeric_limits<Long>::min() &&
+                            number <= std::numeric_limits<Long>::max() && number == std::trunc(number);
+        return isLong ? Variant(static_cast<Long>(number)) : Variant(number);
+    }
+    case Json::value_t::string:
+        return fromUtf8(json.get_ref<const std::string&>());
+    case Json::value_t::object:
+        try {
+            return json.contains("Picture") ? pictureOfJson(runtime, json) : fontOfJson(json);
+        } catch (const Json::exception&) {
+            throw RuntimeError(typeMismatch);
+        }
+    default:
+        throw RuntimeError(typeMismatch);
+    }
+}
+
+} // namespace
+
+struct JsonPropertyBag::Members {
+    Json json = Json::object();
+
+    /// Names compare without regard to case.
+    Json::iterator find(StringView name) {
+        auto found = json.begin();
+        while (found != json.end() && !sameName(fromUtf8(found.key()), name))
+            ++found;
+        return found;
+    }
+};
+
+JsonPropertyBag::JsonPropertyBag(Runtime& runtime)
+    : runtime_(runtime), members_(std::make_unique<Members>()) {}
+
+JsonPropertyBag::~JsonPropertyBag() = default;
+
+void JsonPropertyBag::parse(std::string_view json) {
+    Json parsed = Json::parse(json, nullptr, false, true);
+    if (!parsed.is_object())
+        throw RuntimeError(invalidFileFormat);
+    members_->json = std::move(parsed);
+}
+
+std::string JsonPropertyBag::text() const {
+    return members_->json.dump(4) + '\n';
+}
+
+void JsonPropertyBag::load(StringView path) {
+    const std::unique_ptr<InputFile> file = runtime_.openForBinaryReading(path);
+    std::vector<Byte> bytes(static_cast<std::size_t>(file->size()));
+    bytes.resize(file->read(bytes));
+    parse({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
+
+void JsonPropertyBag::save(StringView path) const {
+    const std::string json = text();
+    const std::unique_ptr<OutputFile> file = runtime_.openForBinaryWriting(path);
+    file->write({reinterpret_cast<const Byte*>(json.data()), json.size()});
+    file->close();
+}
+
+Variant JsonPropertyBag::ReadProperty(StringView name, const Variant& defaultValue) const {
+    const auto found = members_->find(name);
+    return found != members_->json.end() ? valueOf(runtime_, *found) : defaultValue;
+}
+
+void JsonPropertyBag::WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) {
+    const auto found = members_->find(name);
+    if (sameValue(value, defaultValue)) {
+        if (found != members_->json.end())
+            members_->json.erase(found);
+        return;
+    }
+    Json json = jsonOf(runtime_, value);
+    if (found != members_->json.end())
+        *found = std::move(json);
+    else
+        members_->json[toUtf8(name)] = std::move(json);
+}
+
+} // namespace lumtex
