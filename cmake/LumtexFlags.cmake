@@ -25,6 +25,10 @@ target_compile_options(
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(lumtex_flags INTERFACE -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow)
 endif()
+# Interfaces of the component model have no virtual destructors: their objects destroy themselves.
+if(WIN32)
+    target_compile_options(lumtex_flags INTERFACE -Wno-non-virtual-dtor)
+endif()
 # An index out of range stops a debug build instead of reading on.
 target_compile_definitions(lumtex_flags INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 

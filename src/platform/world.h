@@ -7,6 +7,7 @@
 #include "platform/text_box.h"
 #include "platform/timer.h"
 #include "platform/tip_platform.h"
+#include "platform/wheel_hook.h"
 #include "platform/window.h"
 
 #include <functional>
@@ -38,6 +39,11 @@ class World {
     virtual std::unique_ptr<TextBox> createTextBox(Window& parent, TextBoxClient& client) = 0;
     virtual std::unique_ptr<GuideLine> createGuideLine(Window& parent) = 0;
     virtual std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) = 0;
+    /// A way to take the wheel messages of a window before it sees them; the hook lies in `parent` and must
+    /// go before it. None where the platform hands turns of the wheel to `UserControl_Wheel` by itself.
+    virtual std::unique_ptr<WheelHook> createWheelHook(Window& /*parent*/, WheelHook::OnWheel /*onWheel*/) {
+        return nullptr;
+    }
     /// An off-screen surface, as a hidden picture box has it.
     virtual std::unique_ptr<Surface> createSurface(Long width, Long height) = 0;
 };

@@ -23,10 +23,8 @@
 #include <olectl.h>
 #include <windows.h>
 
-// Words of old segment models and of interface compilers that are too good to lose.
+// Words of interface compilers that are too good to lose.
 #undef small
-#undef near
-#undef far
 #undef hyper
 
 #include "platform/window.h"

@@ -1,0 +1,53 @@
+#include "platform/win32/timer_window.h"
+
+#include "platform/runtime_error.h"
+#include "platform/win32/win32_timer.h"
+
+namespace lumtex {
+
+TimerWindow::TimerWindow(HINSTANCE instance) : class_(instance, L"LumtexTimers", procedure, 0) {
+    window_ = CreateWindowExW(0, class_.name(), L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, instance, nullptr);
+    if (window_ == nullptr)
+        throw RuntimeError(outOfMemory);
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+TimerWindow::~TimerWindow() {
+    DestroyWindow(window_);
+}
+
+UINT_PTR TimerWindow::start(Win32Timer& timer, Long milliseconds) {
+    // Each run has a number of its own, so that a tick of an earlier run that is still on its way is told
+    // apart.
+    const UINT_PTR run = ++lastRun_;
+    if (SetTimer(window_, run, static_cast<UINT>(milliseconds), nullptr) == 0)
+        return 0;
+    running_.emplace(run, &timer);
+    return run;
+}
+
+void TimerWindow::stop(UINT_PTR run) {
+    if (running_.erase(run) > 0)
+        KillTimer(window_, run);
+}
+
+void TimerWindow::tick(UINT_PTR run) {
+    const auto found = running_.find(run);
+    if (found != running_.end())
+        found->second->tick();
+}
+
+LRESULT CALLBACK TimerWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    auto* timers = reinterpret_cast<TimerWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message != WM_TIMER || timers == nullptr)
+        return DefWindowProcW(window, message, wParam, lParam);
+    try {
+        timers->tick(wParam);
+    } catch (...) {
+        // The border of the system: no failure passes, and there is nobody to tell.
+        return 0;
+    }
+    return 0;
+}
+
+} // namespace lumtex

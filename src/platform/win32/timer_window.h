@@ -1,0 +1,35 @@
+/// \file
+/// The window that the timers of a world tick through. It is never shown.
+#pragma once
+
+#include "platform/win32/window_class.h"
+
+#include <unordered_map>
+
+namespace lumtex {
+
+class Win32Timer;
+
+class TimerWindow {
+  public:
+    /// Throws RuntimeError 7 where the system gives no window.
+    explicit TimerWindow(HINSTANCE instance);
+    TimerWindow(const TimerWindow&) = delete;
+    TimerWindow& operator=(const TimerWindow&) = delete;
+    ~TimerWindow();
+
+    /// Begins to tick; the number names this run of the timer. 0 where the system has no timer left.
+    UINT_PTR start(Win32Timer& timer, Long milliseconds);
+    void stop(UINT_PTR run);
+
+  private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    void tick(UINT_PTR run);
+
+    WindowClass class_;
+    HWND window_ = nullptr;
+    UINT_PTR lastRun_ = 0;
+    std::unordered_map<UINT_PTR, Win32Timer*> running_;
+};
+
+} // namespace lumtex

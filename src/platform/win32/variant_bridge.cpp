@@ -1,0 +1,191 @@
+#include "platform/win32/variant_bridge.h"
+
+#include "platform/runtime_error.h"
+#include "platform/win32/com_error.h"
+#include "platform/win32/com_ref.h"
+#include "platform/win32/object_bridge.h"
+
+#include <limits>
+#include <type_traits>
+
+namespace lumtex {
+
+namespace {
+
+template <class Number>
+Variant narrowed(Number value) {
+    if (std::in_range<Long>(value))
+        return static_cast<Long>(value);
+    return static_cast<Double>(value);
+}
+
+Variant fromDecimal(DECIMAL value) {
+    Double number = 0;
+    demand(VarR8FromDec(&value, &number));
+    return number;
+}
+
+Variant fromCurrency(CY value) {
+    Double number = 0;
+    demand(VarR8FromCy(value, &number));
+    return number;
+}
+
+Variant fromError(SCODE code) {
+    if (code != DISP_E_PARAMNOTFOUND)
+        throw RuntimeError(typeMismatch);
+    return Missing{};
+}
+
+Variant fromUnknown(IUnknown* object) {
+    if (object == nullptr)
+        return ObjectRef();
+    const auto dispatch = queryFor<IDispatch>(object);
+    if (!dispatch)
+        throw RuntimeError(typeMismatch);
+    return objectFrom(dispatch.get());
+}
+
+VARIANT empty(VARTYPE type) {
+    VARIANT value;
+    VariantInit(&value);
+    V_VT(&value) = type;
+    return value;
+}
+
+VARIANT ofDispatch(IDispatch* owned) {
+    VARIANT value = empty(VT_DISPATCH);
+    V_DISPATCH(&value) = owned;
+    return value;
+}
+
+struct ToVARIANT {
+    VARIANT operator()(std::monostate) const { return empty(VT_EMPTY); }
+    VARIANT operator()(Null) const { return empty(VT_NULL); }
+    VARIANT operator()(Missing) const {
+        VARIANT value = empty(VT_ERROR);
+        V_ERROR(&value) = DISP_E_PARAMNOTFOUND;
+        return value;
+    }
+    VARIANT operator()(bool held) const {
+        VARIANT value = empty(VT_BOOL);
+        V_BOOL(&value) = held ? VARIANT_TRUE : VARIANT_FALSE;
+        return value;
+    }
+    VARIANT operator()(Byte held) const {
+        VARIANT value = empty(VT_UI1);
+        V_UI1(&value) = held;
+        return value;
+    }
+    VARIANT operator()(Integer held) const {
+        VARIANT value = empty(VT_I2);
+        V_I2(&value) = held;
+        return value;
+    }
+    VARIANT operator()(Long held) const {
+        VARIANT value = empty(VT_I4);
+        V_I4(&value) = held;
+        return value;
+    }
+    VARIANT operator()(Single held) const {
+        VARIANT value = empty(VT_R4);
+        V_R4(&value) = held;
+        return value;
+    }
+    VARIANT operator()(Double held) const {
+        VARIANT value = empty(VT_R8);
+        V_R8(&value) = held;
+        return value;
+    }
+    VARIANT operator()(Date held) const {
+        VARIANT value = empty(VT_DATE);
+        V_DATE(&value) = held.days;
+        return value;
+    }
+    VARIANT operator()(const String& held) const {
+        VARIANT value = empty(VT_BSTR);
+        V_BSTR(&value) = newBSTR(held);
+        return value;
+    }
+    VARIANT operator()(const ObjectRef& held) const { return ofDispatch(toIDispatch(held).detach()); }
+    VARIANT operator()(const PictureRef& /*held*/) const { throw RuntimeError(typeMismatch); }
+    VARIANT operator()(const FontRef& /*held*/) const { throw RuntimeError(typeMismatch); }
+};
+
+} // namespace
+
+BSTR newBSTR(StringView text) {
+    BSTR copy =
+        text.size() <= std::numeric_limits<UINT>::max() / 2 - sizeof(text.size())
+            ? SysAllocStringLen(reinterpret_cast<const wchar_t*>(text.data()), static_cast<UINT>(text.size()))
+            : nullptr;
+    if (copy == nullptr)
+        throw RuntimeError(outOfMemory);
+    return copy;
+}
+
+StringView viewBSTR(BSTR text) {
+    return textOf(text, SysStringLen(text));
+}
+
+Variant fromVARIANT(const VARIANT& value) {
+    if (V_ISBYREF(&value)) {
+        if (V_VT(&value) == (VT_BYREF | VT_VARIANT))
+            return fromVARIANT(*V_VARIANTREF(&value));
+        OwnedVARIANT direct;
+        demand(VariantCopyInd(direct.out(), const_cast<VARIANT*>(&value)));
+        return fromVARIANT(direct.get());
+    }
+    switch (V_VT(&value)) {
+    case VT_EMPTY:
+        return {};
+    case VT_NULL:
+        return Null{};
+    case VT_ERROR:
+        return fromError(V_ERROR(&value));
+    case VT_BOOL:
+        return V_BOOL(&value) != VARIANT_FALSE;
+    case VT_I1:
+        return static_cast<Integer>(static_cast<signed char>(V_I1(&value)));
+    case VT_UI1:
+        return static_cast<Byte>(V_UI1(&value));
+    case VT_I2:
+        return static_cast<Integer>(V_I2(&value));
+    case VT_UI2:
+        return static_cast<Long>(V_UI2(&value));
+    case VT_I4:
+    case VT_INT:
+        return static_cast<Long>(V_I4(&value));
+    case VT_UI4:
+    case VT_UINT:
+        return narrowed(static_cast<std::uint32_t>(V_UI4(&value)));
+    case VT_I8:
+        return narrowed(static_cast<std::int64_t>(V_I8(&value)));
+    case VT_UI8:
+        return narrowed(static_cast<std::uint64_t>(V_UI8(&value)));
+    case VT_R4:
+        return V_R4(&value);
+    case VT_R8:
+        return V_R8(&value);
+    case VT_CY:
+        return fromCurrency(V_CY(&value));
+    case VT_DECIMAL:
+        return fromDecimal(V_DECIMAL(&value));
+    case VT_DATE:
+        return Date{V_DATE(&value)};
+    case VT_BSTR:
+        return String(viewBSTR(V_BSTR(&value)));
+    case VT_DISPATCH:
+        return fromUnknown(V_DISPATCH(&value));
+    case VT_UNKNOWN:
+        return fromUnknown(V_UNKNOWN(&value));
+    default:
+        throw RuntimeError(typeMismatch);
+    }
+}
+
+OwnedVARIANT toVARIANT(const Variant& value) {
+    return OwnedVARIANT(value.visit(ToVARIANT{}));
+}
+
+} // namespace lumtex

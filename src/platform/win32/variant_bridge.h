@@ -1,0 +1,59 @@
+/// \file
+/// Values to and from the form in which automation passes them.
+#pragma once
+
+#include "platform/variant.h"
+#include "platform/win32/windows_api.h"
+
+#include <utility>
+
+namespace lumtex {
+
+/// Owns what a VARIANT holds.
+class OwnedVARIANT {
+  public:
+    OwnedVARIANT() { VariantInit(&value_); }
+    /// Takes over what `value` holds.
+    explicit OwnedVARIANT(const VARIANT& value) : value_(value) {}
+    OwnedVARIANT(const OwnedVARIANT&) = delete;
+    OwnedVARIANT& operator=(const OwnedVARIANT&) = delete;
+    OwnedVARIANT(OwnedVARIANT&& other) noexcept : value_(other.release()) {}
+    OwnedVARIANT& operator=(OwnedVARIANT&& other) noexcept {
+        std::swap(value_, other.value_);
+        return *this;
+    }
+    ~OwnedVARIANT() { VariantClear(&value_); }
+
+    const VARIANT& get() const { return value_; }
+    VARIANT& get() { return value_; }
+    /// Where a call stores a result. Drops the old one.
+    VARIANT* out() {
+        VariantClear(&value_);
+        return &value_;
+    }
+    /// The value, now the caller's.
+    VARIANT release() {
+        const VARIANT value = value_;
+        VariantInit(&value_);
+        return value;
+    }
+
+  private:
+    VARIANT value_{};
+};
+
+/// A copy of the value, also of one that `value` only points to. Integers that no Long holds, currency and
+/// decimal numbers become Doubles. An object that is a picture or a font comes as such; any other one must
+/// answer late-bound calls. Throws RuntimeError 13 for arrays, records and error values; an argument that was
+/// left out is no error value.
+Variant fromVARIANT(const VARIANT& value);
+
+/// Throws RuntimeError 7 where there is no memory for a text.
+OwnedVARIANT toVARIANT(const Variant& value);
+
+/// Owned by the caller, to be freed with SysFreeString; may hold zeros. Throws RuntimeError 7.
+BSTR newBSTR(StringView text);
+/// Null is the empty text.
+StringView viewBSTR(BSTR text);
+
+} // namespace lumtex

@@ -1,0 +1,81 @@
+/// \file
+/// What the system around a Windows program offers: message loop, settings, clock, files, the user's desktop.
+#pragma once
+
+#include "platform/runtime.h"
+#include "platform/win32/windows_api.h"
+
+#include <map>
+
+namespace lumtex {
+
+/// Belongs to one thread. Texts of numbers, dates and times follow the user's settings; files hold text in
+/// the code page of the system.
+class Win32Runtime : public Runtime {
+  public:
+    /// Messages that one `DoEvents` delivers at most. What a storm leaves over waits for the next.
+    static constexpr int longestYield = 100000;
+    /// Yields that may be inside one another; a deeper one returns at once.
+    static constexpr int deepestYield = 64;
+
+    /// `instance` is the module whose file is the component.
+    explicit Win32Runtime(HINSTANCE instance);
+    /// Closes the searches that are left.
+    ~Win32Runtime() override;
+
+    /// A timer that is faster than its handler ticks twice at most in one call.
+    void DoEvents() override;
+    bool hasPendingEvents() const override;
+    /// Over the program's active window.
+    void messageBox(StringView text, Long style, StringView title) override;
+    const ComponentInfo& component() const override { return component_; }
+    Long currentProcessId() const override;
+    std::optional<std::vector<ProcessEntry>> processes() const override;
+    String fullPathName(StringView file) const override;
+    std::optional<StoredSetting>
+    storedSetting(std::uint32_t hive, StringView key, StringView name) const override;
+    Date now() const override;
+    String dateText(Date date) const override;
+    String timeText(Date date) const override;
+    std::optional<Double> numberFromText(StringView text) const override;
+    std::optional<Date> dateFromText(StringView text) const override;
+
+    String readFile(StringView path) const override;
+    void createFile(StringView path) override;
+    void appendToFile(StringView path, StringView text) override;
+    /// Writes a hidden file beside `path` and renames it at the end.
+    std::unique_ptr<OutputFile> openForBinaryWriting(StringView path) override;
+    std::unique_ptr<InputFile> openForBinaryReading(StringView path) override;
+    void deleteFile(StringView path) override;
+    /// Characters of more than one byte count as none.
+    void toAnsi(StringView text, std::span<Byte> bytes) const override;
+    void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override;
+    std::vector<Byte> imageOfPicture(const Picture& picture) const override;
+    PictureRef pictureOfImage(std::span<const Byte> image) const override;
+    Long findFirstFile(StringView pattern) override;
+    void findClose(Long handle) override;
+
+    ObjectRef createObject(StringView programId) override;
+    ObjectRef applicationObject() override { return application; }
+    void playSound(StringView file, Long flags) override;
+    SystemVersion systemVersion() const override;
+    Long currentThemeName(std::span<char16_t> themeFile,
+                          std::span<char16_t> colorName,
+                          std::span<char16_t> sizeName) const override;
+    Integer asyncKeyState(Long virtualKey) override;
+    void shellExecute(const ShellRequest& request) override;
+    Long twipsPerPixelX() const override { return twipsPerPixelX_; }
+    Long twipsPerPixelY() const override { return twipsPerPixelY_; }
+
+    ObjectRef application; ///< handed to an error handler; none until the component sets it
+
+  private:
+    ComponentInfo component_;
+    Long twipsPerPixelX_ = 15;
+    Long twipsPerPixelY_ = 15;
+    int yieldDepth_ = 0;
+    std::map<Long, HANDLE> searches_; ///< those under way, by the number that stands for the handle
+    Long lastSearch_ = 0;
+};
+
+} // namespace lumtex
