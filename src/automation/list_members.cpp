@@ -154,6 +154,20 @@ constexpr auto members = std::to_array<Member>({
                            u"them, or as their header; "
                            u"without a number all of them.",
                            {anyNumberOf(u"lColumns")}),
+    method<&lmListView::ContentSave>(29,
+                                     u"ContentSave",
+                                     Repaint::never,
+                                     u"Writes the texts of all cells, and on demand their looks, tags and "
+                                     u"icons, to a file. A file of that "
+                                     u"name is deleted first. Returns True; failures are reported.",
+                                     {u"sFilename", orFalse(u"bSaveItemProperties")}),
+    method<&lmListView::ContentInput>(
+        30,
+        u"ContentInput",
+        Repaint::always,
+        u"Clears the rows and fills the list from such a file; the columns stay. Returns False, with nothing "
+        u"changed, where there is no file.",
+        {u"sFilename", orFalse(u"bReadItemPropertiesIfExists")}),
     method<&lmListView::About>(
         -552, u"About", Repaint::never, u"Shows the about box and returns once it was closed."),
 });

@@ -150,6 +150,18 @@ class lmListView final : public UserControl,
     FindResults
     FindItem(StringView sFind, cFindBegin cBegin, cFindCompare cCompare, String& sColumns, String& sRows);
 
+    // Content files (docs/content-file.md)
+
+    /// Writes the texts of all cells, and with `bSaveItemProperties` their looks, tags and icons, to a file
+    /// of its own format; columns, rows' flags and settings are not in it. A file of that name is deleted
+    /// first. True in any case, since each failure has been reported.
+    bool ContentSave(StringView sFilename, bool bSaveItemProperties = false);
+    /// Clears the rows and fills the list from such a file; the columns stay. Without
+    /// `bReadItemPropertiesIfExists`, or where the file has texts alone, all cells get one look. False, with
+    /// nothing changed, where there is no such file; otherwise True, since each failure has been reported.
+    /// Counts that the file cannot hold fill no rows and are the failure 7.
+    bool ContentInput(StringView sFilename, bool bReadItemPropertiesIfExists = false);
+
     // Scrolling
 
     void CheckScroll();

@@ -6,6 +6,7 @@
 #include "interaction/interaction_state.h"
 #include "model/column_header.h"
 #include "model/row_record.h"
+#include "persistence/content_state.h"
 #include "render/artwork.h"
 #include "render/paint_state.h"
 #include "scroll/scroll_state.h"
@@ -43,6 +44,7 @@ class ListViewState {
     SortState sort_;
     FindState find_;
     ScrollState scroll_;
+    ContentState content_;
     std::shared_ptr<LumtexAbout> about_; ///< the form of the world, from the first `About` on
 };
 

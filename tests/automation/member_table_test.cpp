@@ -68,6 +68,8 @@ const std::multiset<std::string> promised = {
     "CheckScroll() call",
     "ClearListView() call",
     "ClickOnIndexChange: Boolean get let",
+    "ContentInput(sFilename: String, bReadItemPropertiesIfExists: Boolean = False): Boolean call",
+    "ContentSave(sFilename: String, bSaveItemProperties: Boolean = False): Boolean call",
     "ColorStyle: cColorStyle get let",
     "ColumnAdjustItemIcons(Index: Variant): Boolean get let",
     "ColumnAlignment(Index: Variant): cColumnHeaderAlign get let",

@@ -27,6 +27,7 @@ class ListViewInspector {
     ScrollState& scroll() { return list_.scroll_; }
     SortState& sort() { return list_.sort_; }
     FindState& find() { return list_.find_; }
+    ContentState& content() { return list_.content_; }
     Properties& properties() { return list_.properties_; }
     std::vector<RowRecord>& rows() { return list_.rows_; }
     std::vector<std::unique_ptr<ColumnHeader>>& columns() { return list_.columns_; }

@@ -1,0 +1,18 @@
+/// \file
+/// Pictures of cells as the content file has them.
+#pragma once
+
+#include "platform/runtime.h"
+
+#include <vector>
+
+namespace lumtex {
+
+/// The picture's file image, and its length in bytes. A picture that cannot be turned into one is reported
+/// and gives no bytes.
+std::vector<Byte> GetPictureString(Runtime& runtime, const Picture& picture, Long& length);
+
+/// The picture of a file image; none, and a report, where the bytes are no picture.
+PictureRef GetStringPicture(Runtime& runtime, std::span<const Byte> bytes);
+
+} // namespace lumtex

@@ -1,0 +1,110 @@
+/// Writing all cells to a file.
+#include "model/list_view.h"
+#include "persistence/content_colors.h"
+#include "persistence/content_header.h"
+#include "persistence/content_pictures.h"
+#include "persistence/content_writer.h"
+#include "services/file_exists.h"
+
+namespace lumtex {
+
+namespace {
+
+/// Writes one record, each value as the public accessor of the cell gives it. A value that cannot be had goes
+/// into the file as its type's zero, so that readers stay in step.
+class CellSaving {
+  public:
+    CellSaving(lmListView& list, Runtime& runtime, Procedure& procedure, ContentWriter& file)
+        : list_(list), runtime_(runtime), p_(procedure), file_(file) {}
+
+    void writeText(Long row, Long column) { putText(list_.ItemText(row, column)); }
+
+    void writeProperties(Long row, Long column) {
+        putBoolean(list_.ItemEnabled(row, column));
+        putBoolean(list_.ItemFontBold(row, column));
+        putBoolean(list_.ItemFontItalic(row, column));
+        putBoolean(list_.ItemFontUnderline(row, column));
+        putBoolean(list_.ItemFontStrikethrough(row, column));
+        put(list_.ItemFontSize(row, column));
+        putText(list_.ItemFontName(row, column));
+        putBoolean(list_.ItemAllowEdit(row, column));
+        putByte(list_.ItemAlignment(row, column));
+        const Variant tag = list_.ItemTag(row, column);
+        putText(p_.value<String>([&] { return tag.toText(); }));
+        putColor(list_.ItemForeColor(row, column));
+        putColor(list_.ItemForeColorSelect(row, column));
+        putColor(list_.ItemForeColorDis(row, column));
+        putColor(list_.ItemBackColor(row, column));
+        putColor(list_.ItemBackColorSelect(row, column));
+        putColor(list_.ItemBackColorDis(row, column));
+        putByte(list_.ItemIconAlignment(row, column));
+        putPicture(list_.ItemIcon(row, column));
+        putPicture(list_.ItemIconSelected(row, column));
+    }
+
+  private:
+    template <class T>
+    void put(T value) {
+        p_.step([&] { file_.put(value); });
+    }
+    void putBoolean(bool value) { put(booleanNumber(value)); }
+    void putByte(cItemAlign value) {
+        put(p_.value<Byte>([&] { return Variant(static_cast<Long>(value)).toByte(); }));
+    }
+    void putText(const String& text) {
+        put(static_cast<Long>(text.size()));
+        p_.step([&] { file_.putText(text); });
+    }
+    void putColor(const Variant& color) {
+        put(p_.value<Long>([&] { return GetCorrectColor(runtime_, color.toText()); }));
+    }
+    void putPicture(const PictureRef& picture) {
+        if (!picture) {
+            put(Byte{0});
+            return;
+        }
+        Long length = 0;
+        const std::vector<Byte> bytes = GetPictureString(runtime_, *picture, length);
+        put(Byte{1});
+        put(length);
+        p_.step([&] { file_.putBytes(bytes); });
+    }
+
+    lmListView& list_;
+    Runtime& runtime_;
+    Procedure& p_;
+    ContentWriter& file_;
+};
+
+} // namespace
+
+bool lmListView::ContentSave(StringView sFilename, bool bSaveItemProperties) {
+    Procedure p = procedure(u"ContentSave");
+    const bool exists = p.condition([&] { return FileExists(runtime(), sFilename); }, false);
+    if (exists)
+        p.step([&] { runtime().deleteFile(sFilename); });
+    ContentWriter file(runtime());
+    p.step([&] { file.open(sFilename); });
+
+    p.step([&] { file.put(SaveVersion()); });
+    p.step([&] { file.put(RowsCount()); });
+    p.step([&] { file.put(ColumnsCount()); });
+    p.step([&] { file.put(booleanNumber(bSaveItemProperties)); });
+    if (ColumnsCount() >= 1 && RowsCount() >= 1) {
+        CellSaving saving(*this, runtime(), p, file);
+        const Long columns = ColumnsCount();
+        const Long rows = RowsCount();
+        for (content_.saveColumn = 1; content_.saveColumn <= columns; ++content_.saveColumn) {
+            for (content_.saveRow = 1; content_.saveRow <= rows; ++content_.saveRow) {
+                saving.writeText(content_.saveRow, content_.saveColumn);
+                if (bSaveItemProperties)
+                    saving.writeProperties(content_.saveRow, content_.saveColumn);
+            }
+        }
+    }
+    p.step([&] { file.close(); });
+    // Wanted: True even where a statement failed; that was reported.
+    return true;
+}
+
+} // namespace lumtex
