@@ -41,3 +41,8 @@ if(LUMTEX_SANITIZE)
     target_sources(lumtex_flags INTERFACE
         "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${CMAKE_CURRENT_LIST_DIR}/sanitizer_defaults.cpp>")
 endif()
+
+# What ccache asks of a compiler before it keeps files that use a precompiled header.
+target_compile_options(
+    lumtex_flags INTERFACE "$<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>"
+                           "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")

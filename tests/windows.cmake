@@ -1,5 +1,4 @@
 # The test programs of the Windows build. Debian has GoogleTest for Windows as sources alone.
-set(gtest_force_shared_crt ON)
 add_subdirectory(/usr/src/googletest "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
 
 add_library(lumtex_test_base INTERFACE)
