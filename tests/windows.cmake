@@ -10,6 +10,14 @@ target_include_directories(lumtex_test_base INTERFACE "${CMAKE_CURRENT_SOURCE_DI
 target_compile_definitions(lumtex_test_base INTERFACE LUMTEX_SOURCE_DIR="Z:${PROJECT_SOURCE_DIR}"
                                                       LUMTEX_TEST_DATA="Z:${CMAKE_CURRENT_SOURCE_DIR}")
 
+# The software surface, to hold the surface of Windows against. Its fonts are a double in win32/gdi_typefaces.cpp.
+set(raster "${PROJECT_SOURCE_DIR}/src/platform/raster")
+add_library(
+    lumtex_test_raster STATIC
+    ${raster}/raster_surface.cpp ${raster}/blend.cpp ${raster}/fill.cpp ${raster}/line.cpp
+    ${raster}/polygon.cpp ${raster}/text_painter.cpp support/pixels.cpp)
+target_link_libraries(lumtex_test_raster PUBLIC lumtex_test_base lumtex_platform)
+
 # One program per folder: `lumtex_test_<folder>`, run by ctest through Wine.
 function(lumtex_tests folder)
     cmake_parse_arguments(TESTS "SLOW" "" "LINK" ${ARGN})
@@ -29,7 +37,7 @@ endfunction()
 
 # The conversions are the same everywhere, and the compiler's library is another one.
 lumtex_tests(platform LINK lumtex_platform)
-lumtex_tests(win32 LINK lumtex_control lumtex_win32)
+lumtex_tests(win32 LINK lumtex_control lumtex_test_raster lumtex_win32)
 lumtex_tests(activex LINK lumtex_automation lumtex_win32)
 
 get_property(programs GLOBAL PROPERTY LUMTEX_TEST_PROGRAMS)

@@ -1,4 +1,5 @@
 /// Laying pictures and glyphs over what is there.
+#include "platform/picture_scale.h"
 #include "platform/raster/canvas.h"
 
 #include <algorithm>
@@ -31,36 +32,6 @@ constexpr Pixel mixed(Pixel under, Pixel color, std::uint32_t coverage) {
     return opaque | redBlue | (green << 8U);
 }
 
-/// Average of a block of premultiplied pixels.
-std::uint32_t average(const Bitmap& source, const Rect& block) {
-    std::uint64_t sums[4] = {0, 0, 0, 0};
-    for (Long y = block.Top; y < block.Bottom; ++y) {
-        for (Long x = block.Left; x < block.Right; ++x) {
-            const std::uint32_t pixel = source.at(x, y);
-            for (unsigned channel = 0; channel < 4; ++channel)
-                sums[channel] += (pixel >> (8 * channel)) & 0xFFU;
-        }
-    }
-    const auto count = static_cast<std::uint64_t>(block.Right - block.Left) *
-                       static_cast<std::uint64_t>(block.Bottom - block.Top);
-    std::uint32_t result = 0;
-    for (unsigned channel = 0; channel < 4; ++channel)
-        result |= static_cast<std::uint32_t>((sums[channel] + count / 2) / count) << (8 * channel);
-    return result;
-}
-
-/// The source pixels that target pixel `index` of `count` stands for: at least one.
-struct Stretch {
-    Long first;
-    Long last; ///< just past the end
-};
-
-Stretch sourceOf(std::int64_t index, std::int64_t count, Long start, std::int64_t extent) {
-    const std::int64_t first = index * extent / count;
-    const std::int64_t last = std::max(first + 1, (index + 1) * extent / count);
-    return {static_cast<Long>(start + first), static_cast<Long>(start + last)};
-}
-
 } // namespace
 
 void blendPicture(const Canvas& canvas, const Bitmap& source, const Rect& part, const Rect& target) {
@@ -72,15 +43,12 @@ void blendPicture(const Canvas& canvas, const Bitmap& source, const Rect& part, 
         return;
     const Rect visible = intersection(target, canvas.bounds());
     for (Long y = visible.Top; y < visible.Bottom; ++y) {
-        const Stretch rows = sourceOf(std::int64_t{y} - target.Top, targetHeight, part.Top, partHeight);
+        const PixelSpan rows = sourceSpan(std::int64_t{y} - target.Top, targetHeight, part.Top, partHeight);
         Pixel* row = canvas.row(y);
         for (Long x = visible.Left; x < visible.Right; ++x) {
-            const Stretch columns =
-                sourceOf(std::int64_t{x} - target.Left, targetWidth, part.Left, partWidth);
-            const bool single = columns.last - columns.first == 1 && rows.last - rows.first == 1;
-            const std::uint32_t pixel =
-                single ? source.at(columns.first, rows.first)
-                       : average(source, {columns.first, rows.first, columns.last, rows.last});
+            const PixelSpan columns =
+                sourceSpan(std::int64_t{x} - target.Left, targetWidth, part.Left, partWidth);
+            const std::uint32_t pixel = averagePixel(source, columns, rows);
             if (pixel >= opaque)
                 row[x] = pixel;
             else if (pixel != 0)

@@ -1,5 +1,7 @@
 #include "platform/raster/raster_surface.h"
 
+#include "platform/picture_part.h"
+#include "platform/picture_scale.h"
 #include "platform/raster/system_colors.h"
 #include "platform/raster/text_painter.h"
 #include "platform/rounding.h"
@@ -164,32 +166,9 @@ void RasterSurface::paintPicture(const Picture& picture,
                                  Single sourceWidth,
                                  Single sourceHeight) {
     const Bitmap& source = picture.bitmap();
-    const Point at = rounded(x, y);
-    const Point size = rounded(width, height);
-    const Point from = rounded(sourceX, sourceY);
-    const Point part = rounded(sourceWidth, sourceHeight);
-    if (size.x <= 0 || size.y <= 0 || part.x <= 0 || part.y <= 0)
-        return;
-    // What lies outside the picture is cut off on both sides of the copy.
-    const auto cut = [](Long start, Long extent, Long limit, Long target, Long targetExtent) {
-        const std::int64_t first = std::max<std::int64_t>(start, 0);
-        const std::int64_t last = std::min<std::int64_t>(std::int64_t{start} + extent, limit);
-        const auto onTarget = [&](std::int64_t position) {
-            return roundToLong(target + static_cast<Double>(position - start) * targetExtent / extent);
-        };
-        struct Cut {
-            Long first, last, targetFirst, targetLast;
-        };
-        if (first >= last)
-            return Cut{0, 0, 0, 0};
-        return Cut{static_cast<Long>(first), static_cast<Long>(last), onTarget(first), onTarget(last)};
-    };
-    const auto columns = cut(from.x, part.x, source.width, at.x, size.x);
-    const auto rows = cut(from.y, part.y, source.height, at.y, size.y);
-    raster::blendPicture(canvas(),
-                         source,
-                         {columns.first, rows.first, columns.last, rows.last},
-                         {columns.targetFirst, rows.targetFirst, columns.targetLast, rows.targetLast});
+    const PicturePart part =
+        picturePart(source, x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight);
+    raster::blendPicture(canvas(), source, part.source, part.target);
 }
 
 void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) {
@@ -202,12 +181,12 @@ void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const
     const std::int64_t right = std::min<std::int64_t>(std::int64_t{x} + width, width_);
     const std::int64_t bottom = std::min<std::int64_t>(std::int64_t{y} + height, height_);
     for (std::int64_t row = std::max<std::int64_t>(y, 0); row < bottom; ++row) {
-        const std::int64_t fromTop = (row - y) * source.height / height;
+        const std::int64_t fromTop = nearestSource(row - y, height, source.height);
         const Byte* bytes =
             source.bytes.data() + stride * static_cast<std::size_t>(source.height - 1 - fromTop);
         Pixel* pixels = target.row(static_cast<Long>(row));
         for (std::int64_t column = std::max<std::int64_t>(x, 0); column < right; ++column) {
-            const Byte* pixel = bytes + (column - x) * source.width / width * 3;
+            const Byte* pixel = bytes + nearestSource(column - x, width, source.width) * 3;
             pixels[column] = opaque | (Pixel{pixel[2]} << 16U) | (Pixel{pixel[1]} << 8U) | Pixel{pixel[0]};
         }
     }

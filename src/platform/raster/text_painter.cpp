@@ -39,16 +39,15 @@ struct WithoutPrefixes {
     std::size_t underlined;
 };
 
-/// "&x" marks x, "&&" stands for one "&", and an "&" at the end for nothing.
+/// "&x" marks x, "&&" stands for one "&", and so does an "&" at the end.
 WithoutPrefixes withoutPrefixes(StringView line, String& scratch) {
     WithoutPrefixes result{line, StringView::npos};
     if (line.find(prefix) == StringView::npos)
         return result;
     scratch.clear();
     for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] == prefix) {
-            if (++i == line.size())
-                break;
+        if (line[i] == prefix && i + 1 < line.size()) {
+            ++i;
             if (line[i] != prefix)
                 result.underlined = scratch.size();
         }
@@ -96,9 +95,30 @@ TextPainter::drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const R
     return x;
 }
 
+/// What of a line is drawn in `room` pixels. In the narrowest places that is the dots alone.
+TextPainter::Shown TextPainter::shownOf(StringView line, std::int64_t room, Long format) {
+    if ((format & dtWordEllipsis) == 0)
+        return {typeface_.width(line), Typeface::maximum, false};
+    const auto most = static_cast<Long>(std::clamp<std::int64_t>(room, 0, Typeface::maximum - 1));
+    const Long whole = typeface_.width(line, most);
+    if (whole <= most)
+        return {whole, Typeface::maximum, false};
+    const Long dots = typeface_.width(ellipsis);
+    Long width = 0;
+    while (!line.empty()) {
+        const StringView piece = line.substr(0, Typeface::longestRun);
+        line.remove_prefix(piece.size());
+        for (const PlacedGlyph& placed : typeface_.run(piece).glyphs) {
+            if (width + placed.advance > most - dots)
+                return {width + dots, width, true};
+            width += placed.advance;
+        }
+    }
+    return {width + dots, width, true};
+}
+
 void TextPainter::drawLine(StringView line, std::int64_t x, std::int64_t y, const Rect& clip) {
-    const std::int64_t end = drawGlyphs(line, x, y, clip, Typeface::maximum);
-    rules(x, end, y, clip);
+    rules(x, drawGlyphs(line, x, y, clip, Typeface::maximum), y, clip);
 }
 
 void TextPainter::drawLineIn(const Line& line, const Rect& rect, std::int64_t y, Long format) {
@@ -106,33 +126,25 @@ void TextPainter::drawLineIn(const Line& line, const Rect& rect, std::int64_t y,
     if (clip.Left >= clip.Right || y >= clip.Bottom || y + typeface_.lineHeight() <= clip.Top)
         return;
     const std::int64_t room = std::int64_t{rect.Right} - rect.Left;
-    const auto roomAsLong = static_cast<Long>(std::min<std::int64_t>(room, Typeface::maximum - 1));
-    const bool mayCut = (format & dtWordEllipsis) != 0;
-    Long width = typeface_.width(line.text, mayCut ? roomAsLong : Typeface::maximum);
-    const bool cut = mayCut && width > room;
-
+    const Shown shown = shownOf(line.text, room, format);
     std::int64_t x = rect.Left;
-    if (cut) {
-        // Only as much as leaves room for the dots; in the narrowest places the dots alone are clipped.
-        const Long dots = typeface_.width(ellipsis);
-        const std::int64_t end = drawGlyphs(line.text, x, y, clip, std::max<Long>(roomAsLong - dots, 0));
-        const std::int64_t dotsEnd = drawGlyphs(ellipsis, end, y, clip, Typeface::maximum);
-        rules(x, dotsEnd, y, clip);
-        width = roomAsLong;
-    } else {
-        if ((format & alignmentMask) == dtCenter)
-            x += (room - width) / 2;
-        else if ((format & alignmentMask) == dtRight)
-            x += room - width;
-        drawLine(line.text, x, y, clip);
-    }
-    if (line.underlined < line.text.size()) {
-        const std::int64_t from = x + typeface_.width(line.text.substr(0, line.underlined), width);
-        const std::int64_t to = from + typeface_.width(line.text.substr(line.underlined, 1));
-        const Long top = typeface_.underlineTop();
-        const Rect area{clampToLong(from), clampToLong(y + top), clampToLong(to), clampToLong(y + top + 1)};
-        fillArea(canvas_, intersection(area, clip), color_);
-    }
+    if ((format & alignmentMask) == dtCenter)
+        x += (room - shown.width) / 2;
+    else if ((format & alignmentMask) == dtRight)
+        x += room - shown.width;
+    std::int64_t end = drawGlyphs(line.text, x, y, clip, shown.letters);
+    if (shown.cut)
+        end = drawGlyphs(ellipsis, end, y, clip, Typeface::maximum);
+    rules(x, end, y, clip);
+    if (line.underlined >= line.text.size())
+        return;
+    const std::int64_t before = typeface_.width(line.text.substr(0, line.underlined));
+    const std::int64_t after = before + typeface_.width(line.text.substr(line.underlined, 1));
+    if (after > shown.letters)
+        return;
+    const std::int64_t top = y + typeface_.underlineTop();
+    const Rect area{clampToLong(x + before), clampToLong(top), clampToLong(x + after), clampToLong(top + 1)};
+    fillArea(canvas_, intersection(area, clip), color_);
 }
 
 Long TextPainter::drawText(StringView text, Rect& rect, Long format, String& scratch) {
@@ -149,9 +161,10 @@ Long TextPainter::drawText(StringView text, Rect& rect, Long format, String& scr
     if (calculate) {
         std::int64_t height = 0;
         Long widest = 0;
+        const std::int64_t room = std::int64_t{rect.Right} - rect.Left;
         StringView rest = text;
         do {
-            widest = std::max(widest, typeface_.width(nextLine(rest).text));
+            widest = std::max(widest, shownOf(nextLine(rest).text, room, format).width);
             height += lineHeight;
         } while (!rest.empty());
         rect.Right = clampToLong(std::int64_t{rect.Left} + widest);
@@ -161,7 +174,7 @@ Long TextPainter::drawText(StringView text, Rect& rect, Long format, String& scr
 
     std::int64_t y = rect.Top;
     if (singleLine && (format & dtVCenter) != 0)
-        y += (std::int64_t{rect.Bottom} - rect.Top - lineHeight) / 2;
+        y += (std::int64_t{rect.Bottom} - rect.Top) / 2 - lineHeight / 2;
     StringView rest = text;
     do {
         drawLineIn(nextLine(rest), rect, y, format);

@@ -26,6 +26,14 @@ class TextPainter {
         std::size_t underlined; ///< index of the unit that a prefix character marks; npos for none
     };
 
+    /// Pixels. A line that is cut ends in dots.
+    struct Shown {
+        Long width;   ///< with the dots
+        Long letters; ///< without them
+        bool cut;
+    };
+
+    Shown shownOf(StringView line, std::int64_t room, Long format);
     void drawLineIn(const Line& line, const Rect& rect, std::int64_t y, Long format);
     std::int64_t drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const Rect& clip, Long room);
     void rules(std::int64_t from, std::int64_t to, std::int64_t y, const Rect& clip);
