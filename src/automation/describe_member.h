@@ -152,6 +152,12 @@ constexpr Member property(
     return member;
 }
 
+/// A member that lists of properties leave out.
+constexpr Member hidden(Member member) {
+    member.hidden = true;
+    return member;
+}
+
 template <auto function>
 constexpr Member method(
     Long number, StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {

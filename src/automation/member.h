@@ -52,9 +52,10 @@ struct Member {
     Repaint repaint;
     std::array<Parameter, mostParameters> slots;
     std::size_t count;
-    Invoke get;  ///< none for a method, or a property that cannot be read
-    Invoke let;  ///< none for a method, or a property that cannot be assigned
-    Invoke call; ///< none for a property
+    Invoke get;          ///< none for a method, or a property that cannot be read
+    Invoke let;          ///< none for a method, or a property that cannot be assigned
+    Invoke call;         ///< none for a property
+    bool hidden = false; ///< left out where properties are listed for choice
 
     constexpr std::span<const Parameter> parameters() const { return {slots.data(), count}; }
     constexpr bool isMethod() const { return call != nullptr; }

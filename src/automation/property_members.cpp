@@ -223,6 +223,14 @@ constexpr auto members = std::to_array<Member>({
         u"HideSelection",
         Repaint::asAutoRedraw,
         u"Whether the selection is hidden while the control has no focus."),
+    hidden(property<&lmListView::Recordset, &lmListView::setRecordset>(
+        168,
+        u"Recordset",
+        Repaint::always,
+        u"Set once for each load: the fields become columns, the records rows. Needs RecordCount above 0, "
+        u"fields, MoveFirst, MoveNext and EOF. Commas in values are not quoted. A set without records "
+        u"changes "
+        u"nothing and repaints nothing.")),
 });
 
 } // namespace

@@ -133,7 +133,8 @@ std::string failureText(const Member& member) {
 std::string describe(const Member& member) {
     return "# " + toUtf8(member.name) + "\n\n    " + syntaxOf(member) + "\n\n" + kindOf(member) + "\n\n" +
            toUtf8(member.help) + "\n" + parameterTable(member) + repaintText(member) + failureText(member) +
-           "\nDispatch number " + std::to_string(member.number) + ".\n";
+           "\nDispatch number " + std::to_string(member.number) +
+           (member.hidden ? ". Hidden where properties are listed for choice.\n" : ".\n");
 }
 
 /// A small class has one page for all of its members.

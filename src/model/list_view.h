@@ -94,6 +94,8 @@ class lmListView final : public UserControl,
     bool WrongIndex(const Variant& Index);
     bool WrongColumnIndex(const Variant& Index);
 
+    ObjectRef Recordset() const { return recordset_; } ///< the very object that was assigned, loaded or not
+    void setRecordset(ObjectRef recordset); ///< takes its fields as columns and its records as rows, once
     // Counts
 
     /// The row last added by `RowsAdd`; not corrected when rows move or go.

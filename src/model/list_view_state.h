@@ -7,6 +7,7 @@
 #include "model/column_header.h"
 #include "model/row_record.h"
 #include "persistence/content_state.h"
+#include "platform/object.h"
 #include "render/artwork.h"
 #include "render/paint_state.h"
 #include "scroll/scroll_state.h"
@@ -45,6 +46,7 @@ class ListViewState {
     FindState find_;
     ScrollState scroll_;
     ContentState content_;
+    ObjectRef recordset_;                ///< as it was assigned; the list has taken its records already
     std::shared_ptr<LumtexAbout> about_; ///< the form of the world, from the first `About` on
 };
 

@@ -13,6 +13,9 @@ class Variant;
 
 /// Wraps an automation object, a toolkit object, or a class of a test. Names compare without regard to case.
 /// An unknown member throws RuntimeError 438; a failing one throws what the object reports.
+///
+/// An empty name is the default member: the value that the object stands for, or the element of a collection
+/// that the arguments name.
 class Object {
   public:
     Object() = default;

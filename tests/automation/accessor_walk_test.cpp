@@ -5,6 +5,7 @@
 #include "list_fixture.h"
 #include "platform/text.h"
 #include "test_object.h"
+#include "test_recordset.h"
 #include "variant_printing.h"
 
 #include <limits>
@@ -275,6 +276,9 @@ class EachProperty : public ListFixture, public ::testing::WithParamInterface<Ac
     Variant other() {
         if (member().type.code == TypeCode::boolean)
             return !byName.get(member().name).toBoolean();
+        if (member().type.code == TypeCode::object)
+            return ObjectRef(std::make_shared<TestRecordset>(std::vector<String>{u"a"},
+                                                             std::vector<std::vector<Variant>>{{u"1"}}));
         if (member().type.code == TypeCode::font)
             return std::make_shared<Font>(FontSpec{.Name = u"Verdana", .Size = 20});
         return sampleFor(member()).assigned;
@@ -305,8 +309,10 @@ TEST_P(EachProperty, RepaintsAsTheTableSays) {
     list.letAutoRedraw(false);
     EXPECT_EQ(paintsOf([&] { assign(other()); }), member().repaint == Repaint::always ? 1 : 0);
     list.letAutoRedraw(true);
+    // A load turns painting off, so that turning it on again paints once more.
+    const int paints = member().name == u"Recordset" ? 2 : member().repaint == Repaint::never ? 0 : 1;
     if (member().name != u"AutoRedraw") {
-        EXPECT_EQ(paintsOf([&] { assign(other()); }), member().repaint == Repaint::never ? 0 : 1);
+        EXPECT_EQ(paintsOf([&] { assign(other()); }), paints);
     }
 }
 

@@ -46,6 +46,7 @@ std::string signatureOf(const Member& member) {
     if (member.let != nullptr)
         text += member.isReference() ? " set" : " let";
     text += member.isMethod() ? " call" : "";
+    text += member.hidden ? " hidden" : "";
     return text;
 }
 
@@ -157,6 +158,7 @@ const std::multiset<std::string> promised = {
     "NewIndex: Long get",
     "OLEDragMode: Integer get let",
     "OLEDropMode: Integer get let",
+    "Recordset: Object get set hidden",
     "Redraw() call",
     "RowChecked(Index: Variant): Boolean get let",
     "RowColorFirst: OLE_COLOR get let",

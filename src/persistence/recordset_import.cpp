@@ -1,0 +1,70 @@
+/// Filling the list from a recordset, once.
+#include "model/list_view.h"
+#include "persistence/recordset_members.h"
+
+namespace lumtex {
+
+namespace {
+
+/// A cursor that refuses to move twice in a row stands still for good; its record would come again for ever.
+constexpr int mostRefusals = 2;
+
+/// The fields of the record under the cursor, each with a comma behind it but the last.
+void joinFields(RecordSource& records, String& line, Procedure& p) {
+    line.clear();
+    const Long count = p.value<Long>([&] { return records.fieldCount(); });
+    for (Long i = 0; i < count; ++i) {
+        // A field that fails leaves its comma out too, so that those behind it move to the left.
+        p.step([&] {
+            records.appendField(i, line);
+            // Wanted: a value that holds a comma spreads over the next columns; nothing is escaped.
+            line += u',';
+        });
+    }
+    p.step([&] {
+        if (line.empty())
+            throw RuntimeError(invalidProcedureCall);
+        line.pop_back();
+    });
+}
+
+} // namespace
+
+void lmListView::setRecordset(ObjectRef recordset) {
+    Procedure p = procedure(u"Recordset");
+    p.step([&] { recordset_ = recordset; });
+    RecordsetMembers members(std::move(recordset));
+    // A test that fails stops nothing: what follows it runs.
+    if (!p.condition([&] { return members.hasRecords(); }, true))
+        return;
+
+    const bool redraws = AutoRedraw();
+    const bool checksScroll = AutoCheckScroll();
+    letAutoRedraw(false);
+    letAutoCheckScroll(false);
+    RowsClear();
+    ColumnsClear();
+
+    const Long columns = p.value<Long>([&] { return members.fieldCount(); });
+    for (Long i = 0; i < columns; ++i)
+        p.step([&] { ColumnsAdd(members.fieldName(i)); });
+
+    p.step([&] { members.moveFirst(); });
+    RecordSource& records = members.records();
+    String line;
+    int refusals = 0;
+    // Wanted: the end is asked for after the move alone, so that the first record is always taken.
+    do {
+        joinFields(records, line, p);
+        RowsAdd(Long{-1}, u",", line);
+        refusals = p.step([&] { records.moveNext(); }) ? 0 : refusals + 1;
+        // An end that cannot be asked for has come.
+    } while (!p.condition([&] { return records.atEnd(); }, true) && refusals < mostRefusals);
+
+    letAutoRedraw(redraws);
+    letAutoCheckScroll(checksScroll);
+    Redraw();
+    CheckScroll();
+}
+
+} // namespace lumtex
