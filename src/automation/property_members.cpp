@@ -227,8 +227,8 @@ constexpr auto members = std::to_array<Member>({
         168,
         u"Recordset",
         Repaint::always,
-        u"Set once for each load: the fields become columns, the records rows. Needs RecordCount above 0, "
-        u"fields, MoveFirst, MoveNext and EOF. Commas in values are not quoted. A set without records "
+        u"Assigning an object with RecordCount, fields, MoveFirst, MoveNext and EOF takes its fields as "
+        u"columns and its records as rows, once. A comma in a value splits it. RecordCount not above 0 "
         u"changes "
         u"nothing and repaints nothing.")),
 });

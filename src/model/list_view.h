@@ -94,8 +94,14 @@ class lmListView final : public UserControl,
     bool WrongIndex(const Variant& Index);
     bool WrongColumnIndex(const Variant& Index);
 
-    ObjectRef Recordset() const { return recordset_; } ///< the very object that was assigned, loaded or not
-    void setRecordset(ObjectRef recordset); ///< takes its fields as columns and its records as rows, once
+    /// The very object that was assigned, loaded or not.
+    ObjectRef Recordset() const { return recordset_; }
+    /// Takes an object's fields as columns and its records as rows, once; where its `RecordCount` is not
+    /// above 0, nothing changes. Members are called by name (see `RecordsetMembers`), with paints and scroll
+    /// checks off. A failing one costs a report and its statement: a name its column, a value itself and its
+    /// comma. The load ends where `EOF` is true or fails, or where `MoveNext` fails twice in a row.
+    void setRecordset(ObjectRef recordset);
+
     // Counts
 
     /// The row last added by `RowsAdd`; not corrected when rows move or go.

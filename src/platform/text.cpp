@@ -92,8 +92,20 @@ std::string toUtf8(StringView text) {
 
 String fromUtf8(std::string_view text) {
     String units;
-    units.reserve(text.size());
-    for (std::size_t i = 0; i < text.size();) {
+    appendFromUtf8(units, text);
+    return units;
+}
+
+void appendFromUtf8(String& units, std::string_view text) {
+    // Most texts are plain ASCII from end to end, or nearly so.
+    const auto plain = static_cast<std::size_t>(
+        std::find_if(text.begin(), text.end(), [](char byte) { return static_cast<signed char>(byte) < 0; }) -
+        text.begin());
+    const std::size_t before = units.size();
+    units.reserve(std::max(units.capacity(), before + text.size()));
+    units.resize(before + plain);
+    std::copy_n(text.begin(), plain, units.begin() + static_cast<std::ptrdiff_t>(before));
+    for (std::size_t i = plain; i < text.size();) {
         const Lead lead = leadOf(static_cast<unsigned char>(text[i++]));
         char32_t point = lead.bits;
         bool good = lead.following >= 0;
@@ -109,7 +121,6 @@ String fromUtf8(std::string_view text) {
         }
         appendUtf16(units, good ? point : replacement);
     }
-    return units;
 }
 
 StringView trimmed(StringView text) {

@@ -11,6 +11,8 @@ std::string toUtf8(StringView text);
 
 /// Malformed bytes become U+FFFD, one for each maximal bad sequence.
 String fromUtf8(std::string_view text);
+/// The same behind what `target` holds.
+void appendFromUtf8(String& target, std::string_view text);
 
 /// `text` without the blanks at both ends: space, the controls from tab to carriage return, and the no-break
 /// space. Points into `text`.

@@ -97,5 +97,13 @@ TEST(Text, NamesDifferByMoreThanCase) {
     EXPECT_FALSE(sameName(u"@[", u"`{"));
 }
 
+TEST(AppendFromUtf8, PutsTheTextBehindWhatIsThere) {
+    String text = u"plain|";
+    appendFromUtf8(text, "ascii");
+    appendFromUtf8(text, "");
+    appendFromUtf8(text, "|Z\xC3\xBCrich|\xFF|\xF0\x9F\x98\x80");
+    EXPECT_EQ(text, u"plain|ascii|Z\u00FCrich|\uFFFD|\U0001F600");
+}
+
 } // namespace
 } // namespace lumtex

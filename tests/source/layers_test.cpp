@@ -57,6 +57,16 @@ std::vector<Finding> backendReachesLogic(const SourceFile& file) {
     return findings;
 }
 
+/// Libraries are what this room is for.
+std::vector<Finding> databaseReachesOut(const SourceFile& file) {
+    std::vector<Finding> findings;
+    for (const Include& include : includesOf(file)) {
+        if (!include.angled && !include.name.starts_with("database/") && !isAbstractLayer(include.name))
+            findings.push_back({file.path, include.line, include.name + " is out of reach for this folder"});
+    }
+    return findings;
+}
+
 /// All of the logic; a folder that is not there yet has nothing to break.
 std::vector<SourceFile> logicFiles() {
     std::vector<SourceFile> files = readTree("src", {".h", ".cpp"});
@@ -129,6 +139,22 @@ TEST(Backends, AreCaughtAtLogic) {
                             "\t#include \"render/palette.h\"\n");
     EXPECT_EQ(report(backendReachesLogic(sample)),
               "src/platform/raster/sample.cpp:3: render/palette.h is logic, which backends do not know\n");
+}
+
+TEST(Database, SeesTheAbstractLayerAndItsLibrariesAlone) {
+    EXPECT_EQ(offenders(readTree("src/database", {".h", ".cpp"}), databaseReachesOut), "");
+}
+
+TEST(Database, IsCaughtAtLogicAndAtABackend) {
+    const SourceFile sample("src/database/sample.cpp",
+                            "#include \"database/query.h\"\n"
+                            "#include \"platform/object.h\"\n"
+                            "#include <sqlite3.h>\n"
+                            "#include \"model/list_view.h\"\n"
+                            "#include \"platform/headless/desktop.h\"\n");
+    EXPECT_EQ(report(databaseReachesOut(sample)),
+              "src/database/sample.cpp:4: model/list_view.h is out of reach for this folder\n"
+              "src/database/sample.cpp:5: platform/headless/desktop.h is out of reach for this folder\n");
 }
 
 } // namespace
