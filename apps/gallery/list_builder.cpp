@@ -14,6 +14,7 @@ constexpr StringView separator(&unitSeparator, 1);
 
 constexpr Single twipsPerPixel = 15;
 constexpr Single checkBoxColumn = 26 * twipsPerPixel;
+constexpr Single edges = 16; // pixels beside a text
 constexpr Single narrowest = 60 * twipsPerPixel;
 constexpr Single widest = 230 * twipsPerPixel;
 constexpr Long firstFieldColumn = 2;
@@ -67,10 +68,12 @@ void ListBuilder::add(const std::vector<String>& fields, const PictureRef& icon)
         progress_(rows_);
 }
 
-bool ListBuilder::looksNumeric(Long column) const {
+namespace {
+
+bool looksNumeric(lmListView& list, Long column) {
     bool any = false;
-    for (Long row = 1; row <= std::min(list_.RowsCount(), sampledRows); ++row) {
-        const String text = list_.ItemText(row, column);
+    for (Long row = 1; row <= std::min(list.RowsCount(), sampledRows); ++row) {
+        const String text = list.ItemText(row, column);
         if (text.empty())
             continue;
         if (!Variant(text).isNumeric())
@@ -80,21 +83,28 @@ bool ListBuilder::looksNumeric(Long column) const {
     return any;
 }
 
-void ListBuilder::finish() {
-    Surface& surface = list_.window().surface();
-    surface.setFont(list_.DefaultItemFont()->spec);
-    for (Long column = firstFieldColumn; column <= list_.ColumnsCount(); ++column) {
-        Single width = surface.textWidth(list_.ColumnText(column)) + 14;
-        for (Long row = 1; row <= std::min(list_.RowsCount(), sampledRows); ++row)
-            width = std::max(width, surface.textWidth(list_.ItemText(row, column)));
-        const Single room = column == firstFieldColumn ? 34 : 16; // edges, and the icon
-        list_.letColumnWidth(column, std::clamp((width + room) * twipsPerPixel, narrowest, widest));
-        if (looksNumeric(column)) {
-            list_.letColumnAlignment(column, cColumnRight);
-            for (Long row = 1; row <= list_.RowsCount(); ++row)
-                list_.letItemAlignment(row, column, cItemRight);
+} // namespace
+
+void fitColumns(lmListView& list, Long first, Single extraOfFirst) {
+    Surface& surface = list.window().surface();
+    surface.setFont(list.DefaultItemFont()->spec);
+    for (Long column = first; column <= list.ColumnsCount(); ++column) {
+        Single width = surface.textWidth(list.ColumnText(column)) + 14;
+        for (Long row = 1; row <= std::min(list.RowsCount(), sampledRows); ++row)
+            width = std::max(width, surface.textWidth(list.ItemText(row, column)));
+        width += edges + (column == first ? extraOfFirst : 0);
+        list.letColumnWidth(column, std::clamp(width * twipsPerPixel, narrowest, widest));
+        if (looksNumeric(list, column)) {
+            list.letColumnAlignment(column, cColumnRight);
+            for (Long row = 1; row <= list.RowsCount(); ++row)
+                list.letItemAlignment(row, column, cItemRight);
         }
     }
+}
+
+void ListBuilder::finish() {
+    constexpr Single iconWidth = 18;
+    fitColumns(list_, firstFieldColumn, iconWidth);
     list_.letAutoCheckScroll(true);
     list_.letAutoRedraw(true);
 }

@@ -15,6 +15,10 @@ struct Failure : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// Sizes the columns from `first` on by their first rows, and aligns numbers to the right. `extraOfFirst` is
+/// in pixels. To be called while nothing is painted.
+void fitColumns(lmListView& list, Long first, Single extraOfFirst);
+
 /// Takes records of any length. The first column holds check boxes, and the second one icons.
 class ListBuilder {
   public:
@@ -23,12 +27,11 @@ class ListBuilder {
 
     void begin(const std::vector<String>& titles);
     void add(const std::vector<String>& fields, const PictureRef& icon);
-    /// Sizes the columns by their first rows, and aligns numbers to the right.
+    /// Fits the columns and paints.
     void finish();
 
   private:
     void addColumn(const String& title);
-    bool looksNumeric(Long column) const;
 
     lmListView& list_;
     std::function<void(Long)> progress_;

@@ -1,8 +1,10 @@
-/// The gallery: a file or a folder as a list, in all its looks, as pictures in out/.
+/// The gallery: a file, a folder or a query as a list, in all its looks, as pictures in out/.
+#include "arguments.h"
 #include "csv_source.h"
 #include "directory_source.h"
 #include "platform/raster/image_file.h"
 #include "platform/text.h"
+#include "query_source.h"
 #include "scenes.h"
 
 #include <cstdio>
@@ -13,7 +15,7 @@ namespace {
 using namespace lumtex;
 using namespace lumtex::gallery;
 
-void load(const std::filesystem::path& source, lmListView& list) {
+void readPath(const std::filesystem::path& source, lmListView& list) {
     ListBuilder builder(list, [](Long rows) {
         std::printf("\r%ld rows", static_cast<long>(rows));
         std::fflush(stdout);
@@ -25,18 +27,44 @@ void load(const std::filesystem::path& source, lmListView& list) {
         readCsv(source, builder);
     else
         throw Failure("there is no " + source.string());
-    std::printf("\r%ld rows, %ld columns\n",
+    std::printf("\r");
+}
+
+void readQueryOf(const Subject& subject, lmListView& list) {
+    bool told = false;
+    const auto endLine = [&] {
+        if (told)
+            std::fputc('\n', stderr);
+    };
+    try {
+        readQuery(subject.database, subject.sql, list, [&](Long records) {
+            std::fprintf(stderr, "\r%ld records", static_cast<long>(records));
+            told = true;
+        });
+    } catch (const Failure&) {
+        endLine();
+        throw;
+    }
+    endLine();
+}
+
+void load(const Subject& subject, lmListView& list) {
+    if (subject.isQuery())
+        readQueryOf(subject, list);
+    else
+        readPath(subject.path, list);
+    std::printf("%ld rows, %ld columns\n",
                 static_cast<long>(list.RowsCount()),
                 static_cast<long>(list.ColumnsCount()));
 }
 
-int show(const std::filesystem::path& source) {
+int show(const Subject& subject) {
     Desktop desktop;
     Host host;
     lmListViewEvents events;
     lmListView list(desktop, host, events);
     list.UserControl_ReadProperties(MemoryPropertyBag());
-    load(source, list);
+    load(subject, list);
 
     const std::filesystem::path folder = "out";
     std::filesystem::create_directories(folder);
@@ -55,12 +83,13 @@ int show(const std::filesystem::path& source) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc > 2) {
-        std::fprintf(stderr, "usage: %s [FILE.csv | DIRECTORY]\n", argv[0]);
+    const auto subject = subjectFrom(std::vector<std::string>(argv + 1, argv + argc));
+    if (!subject) {
+        std::fprintf(stderr, "usage: %s %s\n", argv[0], usage);
         return 2;
     }
     try {
-        return show(argc == 2 ? argv[1] : ".");
+        return show(*subject);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;

@@ -1,0 +1,169 @@
+/// Importing the records of a query, beside fetching the same records into plain vectors.
+///
+/// Both read the same table of the same file, made from one seed. Bytes of the file are in the system's cache
+/// after the first turn.
+#include "database/database_recordset.h"
+#include "list_on_desktop.h"
+#include "platform/record_source.h"
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+
+#include <filesystem>
+#include <stdexcept>
+
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace lumtex;
+using namespace lumtex::bench;
+
+constexpr const char* query = "select * from records";
+
+void run(sqlite3* database, const char* sql) {
+    if (sqlite3_exec(database, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw std::runtime_error(sqlite3_errmsg(database));
+}
+
+/// A file with the rows of the other benchmarks, gone with the object.
+class RecordFile {
+  public:
+    explicit RecordFile(std::int64_t count)
+        : path_((std::filesystem::temp_directory_path() /
+                 ("lumtex-bench-" + std::to_string(getpid()) + "-" + std::to_string(count) + ".sqlite"))
+                    .string()) {
+        sqlite3* database = nullptr;
+        if (sqlite3_open(path_.c_str(), &database) != SQLITE_OK)
+            throw std::runtime_error("no file " + path_);
+        run(database, "create table records (number integer, name text, city text, amount real, day text)");
+        run(database, "begin");
+        sqlite3_stmt* insert = nullptr;
+        sqlite3_prepare_v2(database, "insert into records values (?, ?, ?, ?, ?)", -1, &insert, nullptr);
+        for (const String& row : rowsOf(count)) {
+            StringView rest = row;
+            for (int i = 1; i <= columns; ++i) {
+                const std::size_t end = rest.find(separator);
+                const std::string field = toUtf8(rest.substr(0, end));
+                sqlite3_bind_text(insert, i, field.data(), static_cast<int>(field.size()), SQLITE_TRANSIENT);
+                rest.remove_prefix(end == StringView::npos ? rest.size() : end + 1);
+            }
+            sqlite3_step(insert);
+            sqlite3_reset(insert);
+        }
+        sqlite3_finalize(insert);
+        run(database, "commit");
+        sqlite3_close(database);
+    }
+    RecordFile(const RecordFile&) = delete;
+    RecordFile& operator=(const RecordFile&) = delete;
+    ~RecordFile() {
+        std::error_code failure;
+        std::filesystem::remove(path_, failure);
+    }
+
+    const std::string& path() const { return path_; }
+
+  private:
+    std::string path_;
+};
+
+const RecordFile& fileOf(std::int64_t count) {
+    static std::vector<std::pair<std::int64_t, std::unique_ptr<RecordFile>>> files;
+    for (const auto& [size, file] : files) {
+        if (size == count)
+            return *file;
+    }
+    return *files.emplace_back(count, std::make_unique<RecordFile>(count)).second;
+}
+
+/// Hides that the records can be had without a call by name for each value.
+class ByNameAlone final : public Object {
+  public:
+    explicit ByNameAlone(ObjectRef recordset) : recordset_(std::move(recordset)) {}
+
+    Variant get(StringView name, std::span<Variant> arguments) override {
+        return recordset_->get(name, arguments);
+    }
+    void put(StringView name, const Variant& value) override { recordset_->put(name, value); }
+    Variant call(StringView name, std::span<Variant> arguments) override {
+        return recordset_->call(name, arguments);
+    }
+
+  private:
+    ObjectRef recordset_;
+};
+
+void importInto(benchmark::State& state, bool byName) {
+    const std::string& path = fileOf(state.range(0)).path();
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto fixture = std::make_unique<ListOnDesktop>();
+        state.ResumeTiming();
+        ObjectRef recordset = openRecordset(path, query);
+        if (byName)
+            recordset = std::make_shared<ByNameAlone>(recordset);
+        fixture->list.setRecordset(recordset);
+        state.PauseTiming();
+        if (fixture->list.RowsCount() != state.range(0) || !fixture->desktop.runtime().boxes.empty())
+            throw std::runtime_error("the list does not hold what was loaded");
+        fixture.reset();
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void importRecordset(benchmark::State& state) {
+    importInto(state, false);
+}
+
+void importRecordsetByName(benchmark::State& state) {
+    importInto(state, true);
+}
+
+/// The peer: what a program without a list would write.
+void fetchIntoVectors(benchmark::State& state) {
+    const std::string& path = fileOf(state.range(0)).path();
+    for (auto _ : state) {
+        std::vector<std::vector<std::string>> table;
+        sqlite3* database = nullptr;
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK ||
+            sqlite3_prepare_v2(database, query, -1, &statement, nullptr) != SQLITE_OK)
+            throw std::runtime_error("the file cannot be read");
+        while (sqlite3_step(statement) == SQLITE_ROW) {
+            std::vector<std::string>& record = table.emplace_back();
+            record.reserve(columns);
+            for (int i = 0; i < columns; ++i)
+                record.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(statement, i)));
+        }
+        sqlite3_finalize(statement);
+        sqlite3_close(database);
+        state.PauseTiming();
+        if (static_cast<std::int64_t>(table.size()) != state.range(0))
+            throw std::runtime_error("records are missing");
+        table = {};
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+/// What of both is the database's own: stepping through the records without a look at them.
+void stepThrough(benchmark::State& state) {
+    const ObjectRef recordset = openRecordset(fileOf(state.range(0)).path(), query);
+    auto& records = dynamic_cast<RecordSource&>(*recordset);
+    for (auto _ : state) {
+        recordset->call(u"MoveFirst");
+        while (!records.atEnd())
+            records.moveNext();
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+} // namespace
+
+BENCHMARK(importRecordset)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(importRecordsetByName)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(fetchIntoVectors)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(stepThrough)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
