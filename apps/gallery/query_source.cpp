@@ -6,6 +6,7 @@
 #include "services/error.h"
 
 #include <optional>
+#include <type_traits>
 
 namespace lumtex::gallery {
 
@@ -25,7 +26,9 @@ class WatchedRecordset final : public Object, public RecordSource {
     }
     void put(StringView name, const Variant& value) override { recordset_->put(name, value); }
     Variant call(StringView name, std::span<Variant> arguments) override {
-        return watched([&] { return recordset_->call(name, arguments); });
+        const Variant result = watched([&] { return recordset_->call(name, arguments); });
+        ++reached_; // the first record, by MoveFirst
+        return result;
     }
 
     Long fieldCount() override { return records_.fieldCount(); }
@@ -34,18 +37,18 @@ class WatchedRecordset final : public Object, public RecordSource {
     }
     void moveNext() override {
         watched([&] { records_.moveNext(); });
-        if (++moves_ % recordsBetweenReports == 0)
-            progress_(moves_);
+        if (reached_++ % recordsBetweenReports == 0)
+            progress_(reached_ - 1);
     }
     bool atEnd() override { return records_.atEnd(); }
 
-    /// How many times the cursor moved on.
-    Long moves() const { return moves_; }
+    /// How many records came before it failed.
+    Long reached() const { return reached_; }
     const std::optional<RuntimeError>& failure() const { return failure_; }
 
   private:
     template <class Call>
-    auto watched(Call call) {
+    std::invoke_result_t<Call> watched(Call call) {
         try {
             return call();
         } catch (const RuntimeError& failure) {
@@ -58,7 +61,7 @@ class WatchedRecordset final : public Object, public RecordSource {
     ObjectRef recordset_;
     RecordSource& records_;
     std::function<void(Long)> progress_;
-    Long moves_ = 0;
+    Long reached_ = 0;
     std::optional<RuntimeError> failure_;
 };
 
@@ -97,8 +100,8 @@ void readQuery(const std::string& database,
         list.setRecordset(recordset);
     }
     if (const auto& failure = recordset->failure())
-        throw Failure("the query failed at record " + std::to_string(recordset->moves() + 1) + ": " +
-                      failure->what());
+        throw Failure("the query failed after " + std::to_string(recordset->reached()) +
+                      " records: " + failure->what());
     if (list.RowsCount() == 0)
         throw Failure("the query yields no records");
     list.letAutoRedraw(false);

@@ -74,8 +74,8 @@ std::string entryText(const InterfaceEntry& entry) {
     using enum InterfaceEntry::Kind;
     const Member& member = *entry.member;
     std::string text = "        [" + std::string(attributeOf(entry)) + "id(" + std::to_string(member.number) +
-                       "), helpstring(" + quoted(member.help) + ")]\n        HRESULT " + toUtf8(member.name) +
-                       "(";
+                       "), helpstring(" + quoted(member.help) + (member.hidden ? "), nonbrowsable]" : ")]") +
+                       "\n        HRESULT " + toUtf8(member.name) + "(";
     const char* separator = "";
     for (const Parameter& parameter : member.parameters()) {
         text += separator + parameterText(parameter);

@@ -1,6 +1,5 @@
 /// Queries on servers of PostgreSQL.
 #include "database/query.h"
-#include "platform/runtime_error.h"
 #include "platform/text.h"
 
 #include <array>
@@ -39,11 +38,7 @@ using Result = std::unique_ptr<PGresult, Closer>;
 RuntimeError failureOf(PGconn* connection, const PGresult* result) {
     const char* const said =
         result == nullptr ? nullptr : PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY);
-    try {
-        throwDatabaseFailure(said != nullptr ? said : PQerrorMessage(connection));
-    } catch (const RuntimeError& failure) {
-        return failure;
-    }
+    return failureWith(said != nullptr ? said : PQerrorMessage(connection));
 }
 
 Connection connect(const std::string& address) {
@@ -56,7 +51,7 @@ Connection connect(const std::string& address) {
     if (!connection)
         throw RuntimeError(outOfMemory);
     if (PQstatus(connection.get()) != CONNECTION_OK)
-        throw RuntimeError(failureOf(connection.get(), nullptr));
+        throw failureOf(connection.get(), nullptr);
     PQsetNoticeProcessor(
         connection.get(), [](void*, const char*) {}, nullptr);
     return connection;
@@ -67,7 +62,7 @@ class PostgresQuery final : public Query {
     PostgresQuery(const std::string& address, std::string sql)
         : connection_(connect(address)), sql_(std::move(sql)) {
         if (withoutEnd(sql_).empty())
-            throwDatabaseFailure("There is no statement");
+            throw failureWith("There is no statement");
         // Texts of dates and bytes must not hang on the server's settings.
         execute("SET client_encoding TO 'UTF8'; SET datestyle TO ISO; SET intervalstyle TO postgres; "
                 "SET bytea_output TO hex");
@@ -78,7 +73,7 @@ class PostgresQuery final : public Query {
             types_.push_back(PQftype(described.get(), i));
         }
         if (names_.empty())
-            throwDatabaseFailure("The statement yields no records");
+            throw failureWith("The statement yields no records");
     }
 
     Long columnCount() const override { return static_cast<Long>(names_.size()); }
@@ -195,7 +190,7 @@ class PostgresQuery final : public Query {
     Result demand(Result result) {
         const ExecStatusType status = PQresultStatus(result.get());
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK)
-            throw RuntimeError(failureOf(connection_.get(), result.get()));
+            throw failureOf(connection_.get(), result.get());
         return result;
     }
     void execute(const char* sql) { demand(Result(PQexec(connection_.get(), sql))); }
@@ -219,7 +214,7 @@ class PostgresQuery final : public Query {
     /// There is nothing to keep, and a connection that is gone has no transaction left.
     void finish() {
         if (inTransaction_)
-            Result(PQexec(connection_.get(), "ROLLBACK"));
+            PQclear(PQexec(connection_.get(), "ROLLBACK"));
         inTransaction_ = false;
         running_ = false;
         ran_ = true;

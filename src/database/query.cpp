@@ -1,6 +1,5 @@
 #include "database/query.h"
 
-#include "platform/runtime_error.h"
 #include "platform/text.h"
 
 namespace lumtex {
@@ -11,7 +10,7 @@ constexpr std::string_view blanks = " \t\r\n\f\v";
 
 } // namespace
 
-void throwDatabaseFailure(std::string_view message) {
+RuntimeError failureWith(std::string_view message) {
     std::string line;
     bool gap = false;
     for (const char byte : message) {
@@ -24,7 +23,7 @@ void throwDatabaseFailure(std::string_view message) {
         gap = false;
         line += byte;
     }
-    throw RuntimeError(databaseFailure, line.empty() ? u"The database failed" : fromUtf8(line));
+    return RuntimeError(databaseFailure, line.empty() ? u"The database failed" : fromUtf8(line));
 }
 
 std::string_view withoutEnd(std::string_view sql) {

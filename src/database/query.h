@@ -2,6 +2,7 @@
 /// One statement on one database, run record by record.
 #pragma once
 
+#include "platform/runtime_error.h"
 #include "platform/types.h"
 #include "platform/variant.h"
 
@@ -45,8 +46,8 @@ class Query {
 /// What failures of a database are reported as: 0x80004005, the unspecified failure of automation objects.
 constexpr Long databaseFailure = -2147467259;
 
-/// In one line, whatever the message is laid out as.
-[[noreturn]] void throwDatabaseFailure(std::string_view message);
+/// The message in one line, however it is laid out.
+RuntimeError failureWith(std::string_view message);
 
 /// A statement without the semicolon and blanks at its end.
 std::string_view withoutEnd(std::string_view sql);

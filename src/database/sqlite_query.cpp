@@ -1,9 +1,7 @@
 /// Queries on files of SQLite.
 #include "database/query.h"
-#include "platform/runtime_error.h"
 #include "platform/text.h"
 
-#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -25,10 +23,10 @@ struct Closer {
 using Connection = std::unique_ptr<sqlite3, Closer>;
 using Statement = std::unique_ptr<sqlite3_stmt, Closer>;
 
-[[noreturn]] void throwFailure(sqlite3* database) {
+RuntimeError failureOf(sqlite3* database) {
     if (sqlite3_errcode(database) == SQLITE_NOMEM)
-        throw RuntimeError(outOfMemory);
-    throwDatabaseFailure(sqlite3_errmsg(database));
+        return RuntimeError(outOfMemory);
+    return failureWith(sqlite3_errmsg(database));
 }
 
 Connection connect(const std::string& file) {
@@ -38,7 +36,7 @@ Connection connect(const std::string& file) {
     if (!database)
         throw RuntimeError(outOfMemory);
     if (outcome != SQLITE_OK)
-        throwFailure(database.get());
+        throw failureOf(database.get());
     sqlite3_busy_timeout(database.get(), patience);
     return database;
 }
@@ -50,7 +48,7 @@ Statement prepareFirst(sqlite3* database, std::string_view& sql) {
     sqlite3_stmt* prepared = nullptr;
     const char* rest = nullptr;
     if (sqlite3_prepare_v2(database, sql.data(), static_cast<int>(sql.size()), &prepared, &rest) != SQLITE_OK)
-        throwFailure(database);
+        throw failureOf(database);
     sql.remove_prefix(static_cast<std::size_t>(rest - sql.data()));
     return Statement(prepared);
 }
@@ -60,7 +58,7 @@ class Snapshot {
   public:
     explicit Snapshot(sqlite3* database) : database_(database) {
         if (sqlite3_exec(database_, "BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK)
-            throwFailure(database_);
+            throw failureOf(database_);
     }
     Snapshot(const Snapshot&) = delete;
     Snapshot& operator=(const Snapshot&) = delete;
@@ -76,11 +74,11 @@ class SqliteQuery final : public Query {
         std::string_view rest = sql_;
         statement_ = prepareFirst(database_.get(), rest);
         if (!statement_)
-            throwDatabaseFailure("There is no statement");
+            throw failureWith("There is no statement");
         const std::size_t used = sql_.size() - rest.size();
         while (!rest.empty()) {
             if (prepareFirst(database_.get(), rest))
-                throwDatabaseFailure("There is more than one statement");
+                throw failureWith("There is more than one statement");
         }
         sql_.resize(used);
         for (int i = 0; i < sqlite3_column_count(statement_.get()); ++i) {
@@ -90,7 +88,7 @@ class SqliteQuery final : public Query {
             names_.push_back(fromUtf8(name));
         }
         if (names_.empty())
-            throwDatabaseFailure("The statement yields no records");
+            throw failureWith("The statement yields no records");
     }
     ~SqliteQuery() override { end(); }
 
@@ -123,9 +121,9 @@ class SqliteQuery final : public Query {
         const int outcome = sqlite3_step(statement_.get());
         if (outcome == SQLITE_ROW)
             return true;
-        const auto failure = outcome == SQLITE_DONE
-                                 ? std::optional<RuntimeError>()
-                                 : failureOfStep(); // before the reset, which may say something else
+        // Before the end, which may have something else to say.
+        const auto failure =
+            outcome == SQLITE_DONE ? std::nullopt : std::optional(failureOf(database_.get()));
         end();
         if (failure)
             throw RuntimeError(*failure);
@@ -201,14 +199,6 @@ class SqliteQuery final : public Query {
         text += written;
     }
 
-    RuntimeError failureOfStep() const {
-        try {
-            throwFailure(database_.get());
-        } catch (const RuntimeError& failure) {
-            return failure;
-        }
-    }
-
     std::int64_t counted() {
         const std::string counting = countingStatement(sql_);
         std::string_view rest = counting;
@@ -221,7 +211,7 @@ class SqliteQuery final : public Query {
         if (!statement || !withoutEnd(rest).empty())
             return countedByWalking();
         if (sqlite3_step(statement.get()) != SQLITE_ROW)
-            throwFailure(database_.get());
+            throw failureOf(database_.get());
         return sqlite3_column_int64(statement.get(), 0);
     }
 
@@ -233,7 +223,7 @@ class SqliteQuery final : public Query {
         while ((outcome = sqlite3_step(statement.get())) == SQLITE_ROW)
             ++records;
         if (outcome != SQLITE_DONE)
-            throwFailure(database_.get());
+            throw failureOf(database_.get());
         return records;
     }
 

@@ -96,15 +96,15 @@ String fromUtf8(std::string_view text) {
     return units;
 }
 
-void appendFromUtf8(String& units, std::string_view text) {
+void appendFromUtf8(String& target, std::string_view text) {
     // Most texts are plain ASCII from end to end, or nearly so.
     const auto plain = static_cast<std::size_t>(
         std::find_if(text.begin(), text.end(), [](char byte) { return static_cast<signed char>(byte) < 0; }) -
         text.begin());
-    const std::size_t before = units.size();
-    units.reserve(std::max(units.capacity(), before + text.size()));
-    units.resize(before + plain);
-    std::copy_n(text.begin(), plain, units.begin() + static_cast<std::ptrdiff_t>(before));
+    const std::size_t before = target.size();
+    target.reserve(std::max(target.capacity(), before + text.size()));
+    target.resize(before + plain);
+    std::copy_n(text.begin(), plain, target.begin() + static_cast<std::ptrdiff_t>(before));
     for (std::size_t i = plain; i < text.size();) {
         const Lead lead = leadOf(static_cast<unsigned char>(text[i++]));
         char32_t point = lead.bits;
@@ -119,7 +119,7 @@ void appendFromUtf8(String& units, std::string_view text) {
                 good = false;
             }
         }
-        appendUtf16(units, good ? point : replacement);
+        appendUtf16(target, good ? point : replacement);
     }
 }
 

@@ -153,6 +153,8 @@ TEST(TypeLibrary, MembersAreWrittenWithTypesDirectionsAndDefaults) {
     EXPECT_TRUE(holds(source, "[propputref, id(159)"));
     EXPECT_TRUE(holds(source, "HRESULT Skin([in] IPictureDisp* value);"));
     EXPECT_TRUE(holds(source, "[id(-552), helpstring("));
+    EXPECT_TRUE(holds(
+        source, "repaints nothing.\"), nonbrowsable]\n        HRESULT Recordset([in] IDispatch* value);"));
 }
 
 TEST(TypeLibrary, EventsAreNumberedInTheirOrder) {

@@ -27,7 +27,7 @@ class GalleryQuery : public ListFixture {
 };
 
 TEST_F(GalleryQuery, FillsTheListAndFitsItsColumns) {
-    EXPECT_EQ(failureOf(":memory:", "values ('a wide text, or nearly', 1), ('b', 22)"), "no failure");
+    EXPECT_EQ(failureOf(":memory:", "values ('a text of some width', 1), ('b', 22)"), "no failure");
     EXPECT_EQ(list.RowsCount(), 2);
     EXPECT_EQ(list.ColumnText(1), u"column1");
     EXPECT_EQ(list.ItemText(2, 2), u"22");
@@ -54,8 +54,10 @@ TEST_F(GalleryQuery, SaysInOneLineWhatIsWrong) {
     EXPECT_EQ(failureOf(":memory:",
                         "with recursive n(x) as (select 1 union all select x + 1 from n where x < 9) "
                         "select case when x = 4 then abs(-9223372036854775807 - 1) else x end as n from n"),
-              "the query failed at record 4: integer overflow");
+              "the query failed after 3 records: integer overflow");
     EXPECT_EQ(list.RowsCount(), 3) << "what came before stays";
+    EXPECT_EQ(failureOf(":memory:", "select abs(-9223372036854775807 - 1)"),
+              "the query failed after 0 records: integer overflow");
     EXPECT_EQ(reportCount(), 0U);
     EXPECT_FALSE(silentError());
 }
@@ -83,13 +85,13 @@ TEST(GalleryArguments, NameAPathOrAQuery) {
         EXPECT_EQ(subjectFrom(words), std::nullopt);
 }
 
-struct Run {
+struct Outcome {
     int status;
     std::string errors;
 };
 
 /// The program itself, with what it wrote to its error output.
-Run runGallery(const ScratchFolder& folder, const std::string& arguments) {
+Outcome runGallery(const ScratchFolder& folder, const std::string& arguments) {
     const std::string command = "cd '" + folder.path.string() + "' && '" LUMTEX_PROGRAMS "/lumtex_gallery' " +
                                 arguments + " >output 2>errors";
     const int status = std::system(command.c_str());
@@ -104,18 +106,18 @@ TEST(GalleryProgram, RefusesWithOneLineAndANonzeroStatus) {
         {"none.csv", "there is no none.csv\n"},
     };
     for (const auto& [arguments, line] : cases) {
-        const Run run = runGallery(folder, arguments);
+        const Outcome run = runGallery(folder, arguments);
         EXPECT_EQ(run.status, 1) << arguments;
         EXPECT_EQ(run.errors, line);
     }
-    const Run run = runGallery(folder, "--query :memory:");
+    const Outcome run = runGallery(folder, "--query :memory:");
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(run.errors.find("usage: "), 0U);
 }
 
 TEST(GalleryProgram, DrawsTheResultOfAQuery) {
     const ScratchFolder folder;
-    const Run run = runGallery(folder, "--query :memory: \"values ('Oslo', 1), ('Quito', 2)\"");
+    const Outcome run = runGallery(folder, "--query :memory: \"values ('Oslo', 1), ('Quito', 2)\"");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.errors, "");
     EXPECT_NE(folder.contentOf("output").find("2 rows, 2 columns\n"), std::string::npos);

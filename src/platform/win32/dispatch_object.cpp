@@ -55,6 +55,8 @@ class PassedArguments {
 DispatchObject::DispatchObject(ComRef<IDispatch> dispatch) : dispatch_(std::move(dispatch)) {}
 
 DISPID DispatchObject::idOf(StringView name) const {
+    if (name.empty())
+        return DISPID_VALUE;
     const String copy(name);
     auto* spelled = const_cast<wchar_t*>(wide(copy)); // the call takes no const and changes nothing
     DISPID id = DISPID_UNKNOWN;
