@@ -118,14 +118,15 @@ void ListViewRecords::letItemEnabled(const Variant& Row, const Variant& Column, 
 }
 
 Variant ListViewRecords::ItemTag(const Variant& Row, const Variant& Column) {
-    return extraGet(u"ItemTag", Row, Column, &CellExtras::Tag);
+    return itemGet<Variant>(
+        u"ItemTag", Row, Column, [](const Cell& cell) { return cell.items.tag(cell.index); });
 }
 
 // Wanted: no repaint here either.
 void ListViewRecords::letItemTag(const Variant& Row, const Variant& Column, const Variant& tag) {
     procedure(u"ItemTag").step([&] {
         const Cell cell = cellAt(Row, Column);
-        cell.items.needExtras(cell.index).Tag = tag;
+        cell.items.letTag(cell.index, tag);
     });
 }
 
@@ -135,7 +136,8 @@ PictureRef ListViewRecords::ItemIcon(const Variant& Row, const Variant& Column) 
 
 void ListViewRecords::setItemIcon(const Variant& Row, const Variant& Column, PictureRef icon) {
     itemLet(u"ItemIcon", Row, Column, [&](const Cell& cell) {
-        cell.items.needExtras(cell.index).Icon = std::move(icon);
+        if (icon || cell.items.extras(cell.index) != nullptr)
+            cell.items.needExtras(cell.index).Icon = std::move(icon);
     });
 }
 
@@ -145,7 +147,8 @@ PictureRef ListViewRecords::ItemIconSelected(const Variant& Row, const Variant& 
 
 void ListViewRecords::setItemIconSelected(const Variant& Row, const Variant& Column, PictureRef icon) {
     itemLet(u"ItemIconSelected", Row, Column, [&](const Cell& cell) {
-        cell.items.needExtras(cell.index).IconSelected = std::move(icon);
+        if (icon || cell.items.extras(cell.index) != nullptr)
+            cell.items.needExtras(cell.index).IconSelected = std::move(icon);
     });
 }
 

@@ -156,6 +156,22 @@ bool Items::hasExtras() const {
     return current != nullptr && current->extras != nullptr;
 }
 
+Variant Items::tag(std::size_t index) const {
+    if ((*this)[index].tagIsEmptyText())
+        return u"";
+    const CellExtras* rare = extras(index);
+    return rare != nullptr ? rare->Tag : Variant();
+}
+
+void Items::letTag(std::size_t index, const Variant& tag) {
+    const bool isEmptyText = tag.text() != nullptr && tag.text()->empty();
+    if (!isEmptyText && !tag.isEmpty())
+        needExtras(index).Tag = tag;
+    else if (extras(index) != nullptr)
+        needExtras(index).Tag = Variant();
+    (*this)[index].letTagIsEmptyText(isEmptyText);
+}
+
 std::size_t Items::heapBytes() const {
     const Block* current = block();
     return current != nullptr ? sizeof(Block) + current->capacity * sizeof(ListViewItem) : 0;

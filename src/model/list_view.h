@@ -248,6 +248,7 @@ class lmListView final : public UserControl,
     friend class PaintPass;
     friend class SortByStatements;
     friend class CellSearch;
+    friend class ContentCells;
     friend class ListViewInspector; ///< how tests look inside
 
     // Lifecycle (model/)

@@ -20,7 +20,7 @@ std::size_t CellExtras::objectsInCells() {
 
 ListViewItem::ListViewItem(ListViewItem&& other) noexcept
     : text_(std::move(other.text_)), textWidth_(other.textWidth_), style_(other.style_),
-      checked_(other.checked_) {
+      checked_(other.checked_), tagIsEmptyText_(other.tagIsEmptyText_) {
     other.style_ = noStyle;
 }
 

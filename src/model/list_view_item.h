@@ -18,7 +18,7 @@ struct CellExtras {
 
     PictureRef Icon;
     PictureRef IconSelected;
-    Variant Tag; ///< Empty until the host writes it
+    Variant Tag; ///< Empty until the host writes it; also where it is the empty text
     String ToolTip;
 
     const ObjectRef& object() const { return object_; }
@@ -50,6 +50,12 @@ class ListViewItem {
 
     const CellStyle& style() const { return CellStyles::ofThread()[style_]; }
     StyleHandle styleHandle() const { return style_; }
+    /// Takes a share of another style.
+    void letStyle(StyleHandle style) {
+        CellStyles::ofThread().addReference(style);
+        CellStyles::ofThread().release(style_);
+        style_ = style;
+    }
     /// Applies `change` to a copy of the style and shares the result.
     template <class Change>
     void restyle(Change change) {
@@ -61,18 +67,23 @@ class ListViewItem {
     bool Checked() const { return checked_ != 0; }
     void letChecked(bool checked) { checked_ = checked ? 1 : 0; }
 
+    /// The tag is the empty text, which thus takes no memory. See `Items::tag`.
+    bool tagIsEmptyText() const { return tagIsEmptyText_ != 0; }
+    void letTagIsEmptyText(bool value) { tagIsEmptyText_ = value ? 1 : 0; }
+
     Single TextWidth() const { return textWidth_; } ///< pixels, as the last paint measured it
     void letTextWidth(Single width) { textWidth_ = width; }
 
   private:
-    static constexpr StyleHandle noStyle = 0x7FFFFFFF;
+    static constexpr StyleHandle noStyle = 0x3FFFFFFF;
 
     void share(const CellStyle& style);
 
     CompactText text_;
     Single textWidth_ = 0;
-    StyleHandle style_ : 31;
+    StyleHandle style_ : 30;
     StyleHandle checked_ : 1 = 0;
+    StyleHandle tagIsEmptyText_ : 1 = 0;
 };
 
 static_assert(sizeof(ListViewItem) == 24);

@@ -4,6 +4,7 @@
 #include "persistence/content_header.h"
 #include "persistence/content_pictures.h"
 #include "persistence/content_reader.h"
+#include "persistence/whole_record_loading.h"
 #include "platform/color.h"
 #include "services/file_exists.h"
 
@@ -152,17 +153,25 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
     if (possible && header.rowCount > 0) {
         for (Long row = 1; row <= header.rowCount; ++row)
             RowsAdd(Long{-1}, u",", u"");
+        const bool readsProperties = header.hasItemProperties && bReadItemPropertiesIfExists;
+        const RecordForm form = readsProperties            ? RecordForm::readProperties
+                                : header.hasItemProperties ? RecordForm::dropProperties
+                                                           : RecordForm::textAlone;
         CellLoading loading(*this, runtime(), p, file);
+        WholeRecordLoading fast(*this, runtime(), file, form);
         for (Long column = 1; column <= header.columnCount; ++column) {
             for (Long row = 1; row <= header.rowCount; ++row) {
-                loading.readText(row, column);
-                if (header.hasItemProperties && bReadItemPropertiesIfExists) {
-                    loading.readProperties(row, column);
+                if (fast.read(row, column))
                     continue;
+                loading.readText(row, column);
+                if (form == RecordForm::readProperties) {
+                    loading.readProperties(row, column);
+                } else {
+                    if (form == RecordForm::dropProperties)
+                        loading.discardProperties();
+                    loading.giveDefaults(row, column);
                 }
-                if (header.hasItemProperties)
-                    loading.discardProperties();
-                loading.giveDefaults(row, column);
+                fast.forget();
             }
         }
     }

@@ -4,6 +4,7 @@
 #include "persistence/content_header.h"
 #include "persistence/content_pictures.h"
 #include "persistence/content_writer.h"
+#include "persistence/whole_record_saving.h"
 #include "services/file_exists.h"
 
 namespace lumtex {
@@ -92,10 +93,13 @@ bool lmListView::ContentSave(StringView sFilename, bool bSaveItemProperties) {
     p.step([&] { file.put(booleanNumber(bSaveItemProperties)); });
     if (ColumnsCount() >= 1 && RowsCount() >= 1) {
         CellSaving saving(*this, runtime(), p, file);
+        WholeRecordSaving fast(*this, runtime(), file, bSaveItemProperties);
         const Long columns = ColumnsCount();
         const Long rows = RowsCount();
         for (content_.saveColumn = 1; content_.saveColumn <= columns; ++content_.saveColumn) {
             for (content_.saveRow = 1; content_.saveRow <= rows; ++content_.saveRow) {
+                if (fast.write(content_.saveRow, content_.saveColumn))
+                    continue;
                 saving.writeText(content_.saveRow, content_.saveColumn);
                 if (bSaveItemProperties)
                     saving.writeProperties(content_.saveRow, content_.saveColumn);

@@ -1,0 +1,174 @@
+#include "persistence/whole_record_loading.h"
+
+#include "persistence/content_colors.h"
+#include "services/failure_of.h"
+
+#include <algorithm>
+
+namespace lumtex {
+
+namespace {
+
+constexpr std::size_t flagsSize = 5 * sizeof(Integer);
+constexpr std::size_t colorsSize = 6 * sizeof(Long);
+
+/// Walks over the fields of a record that lies ready. Past its end, and from a negative length on, it finds
+/// nothing more.
+class Fields {
+  public:
+    explicit Fields(std::span<const Byte> bytes) : rest_(bytes) {}
+
+    bool complete() const { return complete_; }
+    std::span<const Byte> take(std::size_t size) {
+        complete_ = complete_ && size <= rest_.size();
+        if (!complete_)
+            return {};
+        const std::span<const Byte> field = rest_.first(size);
+        rest_ = rest_.subspan(size);
+        return field;
+    }
+    template <ContentNumber T>
+    T number() {
+        const std::span<const Byte> field = take(sizeof(T));
+        return complete_ ? loadNumber<T>(field.data()) : T{};
+    }
+    std::span<const Byte> withLength() {
+        const Long length = number<Long>();
+        complete_ = complete_ && length >= 0;
+        return take(static_cast<std::size_t>(std::max(length, Long{0})));
+    }
+    const Byte* place() const { return rest_.data(); }
+
+  private:
+    std::span<const Byte> rest_;
+    bool complete_ = true;
+};
+
+std::span<const Byte> between(const Byte* first, const Byte* last) {
+    return {first, static_cast<std::size_t>(last - first)};
+}
+
+bool sameBytes(std::span<const Byte> a, const std::vector<Byte>& b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end());
+}
+
+/// A colour of the cell that must be a number.
+bool takeColor(Fields& fields, OLE_COLOR& color) {
+    const Long code = fields.number<Long>();
+    color = static_cast<OLE_COLOR>(code);
+    return code != codeOfDefaultColor;
+}
+
+} // namespace
+
+std::optional<WholeRecordLoading::Record> WholeRecordLoading::split(std::span<const Byte> bytes) const {
+    Fields fields(bytes);
+    Record record;
+    record.text = fields.withLength();
+    if (form_ != RecordForm::textAlone) {
+        const Byte* const look = fields.place();
+        fields.take(flagsSize + sizeof(Single));
+        fields.withLength(); // the font's name
+        fields.take(sizeof(Integer) + sizeof(Byte));
+        record.beforeTag = between(look, fields.place());
+        record.tag = fields.withLength();
+        record.behindTag = fields.take(colorsSize + sizeof(Byte));
+        for (int picture = 0; picture < 2; ++picture) {
+            if (fields.number<Byte>() != 1)
+                continue;
+            if (form_ == RecordForm::readProperties)
+                return std::nullopt;
+            fields.withLength();
+        }
+    }
+    if (!fields.complete())
+        return std::nullopt;
+    record.size = static_cast<std::size_t>(fields.place() - bytes.data());
+    return record;
+}
+
+bool WholeRecordLoading::plainLook() {
+    if (look_.style)
+        return true;
+    const std::optional<CellStyle> style = cells_.plainStyle();
+    if (style)
+        look_.style.emplace(CellStyles::ofThread().acquire(*style));
+    return style.has_value();
+}
+
+bool WholeRecordLoading::lookOf(const Record& record) {
+    if (look_.style && sameBytes(record.beforeTag, look_.beforeTag) &&
+        sameBytes(record.behindTag, look_.behindTag))
+        return true;
+    CellStyle style;
+    Fields before(record.beforeTag);
+    FontSpec& font = style.font;
+    for (bool* flag : {&style.Enabled, &font.Bold, &font.Italic, &font.Underline, &font.Strikethrough})
+        *flag = before.number<Integer>() != 0;
+    font.Size = before.number<Single>();
+    font.Name = textOf(before.withLength());
+    style.AllowEdit = before.number<Integer>() != 0;
+    style.Alignment = static_cast<cItemAlign>(before.number<Byte>());
+    Fields behind(record.behindTag);
+    bool hasNumbers = takeColor(behind, style.ForeColor);
+    style.ForeColorSelect = HTML2VBColor(behind.number<Long>());
+    hasNumbers = takeColor(behind, style.ForeColorDis) && hasNumbers;
+    style.BackColor = HTML2VBColor(behind.number<Long>());
+    style.BackColorSelect = HTML2VBColor(behind.number<Long>());
+    hasNumbers = takeColor(behind, style.BackColorDis) && hasNumbers;
+    style.IconAlignment = static_cast<cItemAlign>(behind.number<Byte>());
+    if (!hasNumbers)
+        return false;
+    look_.style.reset();
+    look_.beforeTag.assign(record.beforeTag.begin(), record.beforeTag.end());
+    look_.behindTag.assign(record.behindTag.begin(), record.behindTag.end());
+    look_.style.emplace(CellStyles::ofThread().acquire(style));
+    return true;
+}
+
+/// Valid until the next call.
+const String& WholeRecordLoading::textOf(std::span<const Byte> bytes) {
+    scratch_.resize(bytes.size());
+    // The lower half of a byte's values is the same in every ANSI code page.
+    Byte all = 0;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        scratch_[i] = bytes[i];
+        all |= bytes[i];
+    }
+    if (all >= 0x80)
+        runtime_.fromAnsi(bytes, scratch_);
+    return scratch_;
+}
+
+bool WholeRecordLoading::read(Long row, Long column) {
+    bool done = false;
+    // Where memory runs out, the other way tells.
+    static_cast<void>(failureOf([&] {
+        Items* const cells = cells_.cellsOf(row, column);
+        const auto index = static_cast<std::size_t>(column) - 1;
+        // A new cell has nothing rare, unless host code gave it something at a report.
+        if (cells == nullptr || cells->extras(index) != nullptr || !cells_.assignSilently())
+            return;
+        std::optional<Record> record = split(file_.ahead());
+        if (!record && file_.lookAhead())
+            record = split(file_.ahead());
+        if (!record)
+            return;
+        const bool hasLook = form_ == RecordForm::readProperties ? lookOf(*record) : plainLook();
+        if (!hasLook)
+            return;
+        const bool keepsTag = form_ == RecordForm::readProperties && !record->tag.empty();
+        if (keepsTag)
+            cells->letTag(index, textOf(record->tag));
+        else
+            cells->letTag(index, u"");
+        ListViewItem& item = (*cells)[index];
+        item.letText(textOf(record->text));
+        item.letStyle(look_.style->handle());
+        file_.taken(record->size);
+        done = true;
+    }));
+    return done;
+}
+
+} // namespace lumtex

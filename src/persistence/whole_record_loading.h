@@ -1,0 +1,58 @@
+/// \file
+/// The fast way of loading: a record at once, into the cell as it lies.
+#pragma once
+
+#include "persistence/content_cells.h"
+#include "persistence/content_reader.h"
+
+#include <array>
+#include <vector>
+
+namespace lumtex {
+
+/// Which properties of a record stand in the file, and what becomes of them.
+enum class RecordForm : Byte { textAlone, dropProperties, readProperties };
+
+/// Assigns what the accessors would, for records in which nothing can fail.
+class WholeRecordLoading {
+  public:
+    WholeRecordLoading(lmListView& list, const Runtime& runtime, ContentReader& file, RecordForm form)
+        : cells_(list), runtime_(runtime), file_(file), form_(form) {}
+
+    /// False, with nothing read, for a record that has to be read value by value: one that is cut off or
+    /// damaged, one with a picture to load, one longer than the reader's buffer, and one for a cell that is
+    /// missing or shown at once.
+    bool read(Long row, Long column);
+    /// Host code may have run since the last record.
+    void forget() { look_.style.reset(); }
+
+  private:
+    /// A record in the reader's buffer.
+    struct Record {
+        std::span<const Byte> text;
+        std::span<const Byte> beforeTag;
+        std::span<const Byte> tag;
+        std::span<const Byte> behindTag;
+        std::size_t size = 0;
+    };
+    /// The style of the last record, with the bytes that it was made from.
+    struct Look {
+        std::optional<StyleLease> style;
+        std::vector<Byte> beforeTag;
+        std::vector<Byte> behindTag;
+    };
+
+    std::optional<Record> split(std::span<const Byte> bytes) const;
+    bool plainLook();
+    bool lookOf(const Record& record);
+    const String& textOf(std::span<const Byte> bytes);
+
+    ContentCells cells_;
+    const Runtime& runtime_;
+    ContentReader& file_;
+    RecordForm form_;
+    Look look_;
+    String scratch_;
+};
+
+} // namespace lumtex

@@ -1,0 +1,43 @@
+/// \file
+/// The fast way of saving: a record at once, out of the cell as it lies.
+#pragma once
+
+#include "persistence/content_cells.h"
+#include "persistence/content_writer.h"
+
+#include <vector>
+
+namespace lumtex {
+
+/// Writes what the accessors would give, for cells whose values all have a form in the file.
+class WholeRecordSaving {
+  public:
+    WholeRecordSaving(lmListView& list, const Runtime& runtime, ContentWriter& file, bool withProperties)
+        : cells_(list), runtime_(runtime), file_(file), withProperties_(withProperties) {}
+
+    /// False, with nothing written, for a cell that has to be written value by value: one that is missing,
+    /// one with a picture or a value that could fail, and where the file has to be written or would fail.
+    bool write(Long row, Long column);
+
+  private:
+    /// The fields before and behind the tag, which all cells of one style have in common.
+    struct Look {
+        std::optional<StyleLease> style; ///< keeps the handle from being given to another style
+        bool hasForm = false;
+        std::vector<Byte> beforeTag;
+        std::vector<Byte> behindTag;
+    };
+
+    const Look& lookOf(StyleHandle style);
+    void encode(const CellStyle& style);
+    void encodeText(const CompactText& text, Byte* target);
+
+    ContentCells cells_;
+    const Runtime& runtime_;
+    ContentWriter& file_;
+    bool withProperties_;
+    Look look_; ///< of the last cell
+    String scratch_;
+};
+
+} // namespace lumtex
