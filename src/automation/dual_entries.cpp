@@ -27,12 +27,15 @@ EntryWords wordsOf(InterfaceEntry::Kind kind) {
     return {"", "callBy"};
 }
 
-/// An enumeration has the size of a Long, and a list comes as an array.
+/// An enumeration has the size of a Long, a list comes as an array, and a record is one of
+/// the component's own.
 std::string codeType(const TypeInfo& type) {
     if (type.code == TypeCode::enumeration)
         return "long";
     if (type.code == TypeCode::variantList)
         return "SAFEARRAY*";
+    if (type.code == TypeCode::record)
+        return interfaceType(type) + "Record";
     return interfaceType(type);
 }
 

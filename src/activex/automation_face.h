@@ -1,0 +1,128 @@
+/// \file
+/// The dual interface of a public class: calls by dispatch number, and the means for calls by table.
+#pragma once
+
+#include "activex/automation_target.h"
+#include "activex/com_guard.h"
+#include "activex/dual_arguments.h"
+#include "activex/face.h"
+
+
+#include <algorithm>
+
+namespace lumtex {
+
+/// A derived class includes its generated entries and adds no other virtual function: its table of functions is that
+/// of the type library.
+class AutomationFace : public Face<IDispatch> {
+  public:
+    AutomationFace(IUnknown& outer, AutomationTarget& target, const GUID& interfaceId)
+        : Face(outer), target_(target), interfaceId_(interfaceId) {}
+
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) final;
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) final;
+    HRESULT STDMETHODCALLTYPE
+    GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) final;
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID number,
+                                     REFIID iid,
+                                     LCID locale,
+                                     WORD kind,
+                                     DISPPARAMS* parameters,
+                                     VARIANT* result,
+                                     EXCEPINFO* details,
+                                     UINT* wrongArgument) final;
+
+  protected:
+    ~AutomationFace() = default;
+
+    template <class Result, class... Arguments>
+    HRESULT getBy(Long number, Result* result, Arguments... arguments) noexcept {
+        return giving(result, [&](CallByName& byName, std::vector<Variant>& values) {
+            return byName.get(memberOf(number), values);
+        }, arguments...);
+    }
+    template <class Result, class... Arguments>
+    HRESULT callBy(Long number, Result* result, Arguments... arguments) noexcept {
+        return giving(result, [&](CallByName& byName, std::vector<Variant>& values) {
+            return byName.call(memberOf(number), values);
+        }, arguments...);
+    }
+    template <class... Arguments>
+    HRESULT callBy(Long number, NoResult /*none*/, Arguments... arguments) noexcept {
+        return entered([&] {
+            passing([&](CallByName& byName, std::vector<Variant>& values) {
+                return byName.call(memberOf(number), values);
+            }, arguments...);
+        });
+    }
+    /// The assigned value comes last.
+    template <class... Arguments>
+    HRESULT letBy(Long number, Arguments... arguments) noexcept {
+        return assigning(&CallByName::let, number, arguments...);
+    }
+    template <class... Arguments>
+    HRESULT setBy(Long number, Arguments... arguments) noexcept {
+        return assigning(&CallByName::set, number, arguments...);
+    }
+
+  private:
+    using Assign = void (CallByName::*)(const Member&, std::span<Variant>, const Variant&);
+
+    const Member& memberOf(Long number) const;
+    HRESULT told(const RuntimeError& error) const noexcept;
+
+    template <class Body>
+    HRESULT entered(Body&& body) noexcept {
+        if (!target_.onOwnThread())
+            return RPC_E_WRONG_THREAD;
+        return guarded([&]() -> HRESULT {
+            try {
+                body();
+                return S_OK;
+            } catch (const NullArgument&) {
+                return E_POINTER;
+            } catch (const RuntimeError& error) {
+                return told(error);
+            }
+        });
+    }
+
+    template <class Call, class... Arguments>
+    Variant passing(Call&& call, Arguments... arguments) {
+        std::vector<Variant> values;
+        values.reserve(sizeof...(Arguments));
+        (appendArgument(values, arguments), ...);
+        CallByName byName = target_.byName();
+        Variant value = call(byName, values);
+        // A list of any length comes last and is never written back.
+        values.resize(std::max(values.size(), sizeof...(Arguments)));
+        [[maybe_unused]] std::size_t place = 0;
+        (storeBack(values[place++], arguments), ...);
+        return value;
+    }
+
+    template <class Result, class Call, class... Arguments>
+    HRESULT giving(Result* result, Call&& call, Arguments... arguments) noexcept {
+        if (result == nullptr)
+            return E_POINTER;
+        *result = Result{};
+        return entered([&] { storeResult(passing(call, arguments...), *result); });
+    }
+
+    template <class... Arguments>
+    HRESULT assigning(Assign assign, Long number, Arguments... arguments) noexcept {
+        return entered([&] {
+            std::vector<Variant> values;
+            (appendArgument(values, arguments), ...);
+            const Variant value = std::move(values.back());
+            values.pop_back();
+            CallByName byName = target_.byName();
+            (byName.*assign)(memberOf(number), values, value);
+        });
+    }
+
+    AutomationTarget& target_;
+    GUID interfaceId_;
+};
+
+} // namespace lumtex

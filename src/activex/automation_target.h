@@ -1,0 +1,29 @@
+/// \file
+/// What stands behind a dual interface.
+#pragma once
+
+#include "automation/call_by_name.h"
+#include "platform/win32/windows_api.h"
+
+namespace lumtex {
+
+/// An object of a public class on its own thread.
+class AutomationTarget {
+  public:
+    AutomationTarget() = default;
+    AutomationTarget(const AutomationTarget&) = delete;
+    AutomationTarget& operator=(const AutomationTarget&) = delete;
+    virtual ~AutomationTarget() = default;
+
+    virtual const ClassDescription& description() const = 0;
+    /// The object, ready for calls.
+    virtual CallByName byName() = 0;
+
+    /// Calls from any other thread are refused: hosts hand such calls over by the rules of apartments.
+    bool onOwnThread() const { return GetCurrentThreadId() == thread_; }
+
+  private:
+    DWORD thread_ = GetCurrentThreadId();
+};
+
+} // namespace lumtex

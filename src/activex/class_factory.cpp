@@ -1,0 +1,122 @@
+/// One factory for each public class.
+#include "activex/class_factory.h"
+
+#include "activex/com_guard.h"
+#include "activex/guid.h"
+#include "activex/helper_object.h"
+#include "activex/list_control.h"
+
+#include <mutex>
+#include <vector>
+
+namespace lumtex {
+
+namespace {
+
+/// Objects that start with one reference, the caller's.
+using Make = IUnknown* (*)(IUnknown* outer);
+
+IUnknown* makeControl(IUnknown* outer) {
+    return &(new ListControl(outer))->inner();
+}
+IUnknown* makeSpEv(IUnknown* /*outer*/) {
+    return new HelperObject<SpEvTarget>;
+}
+IUnknown* makeError(IUnknown* /*outer*/) {
+    return new HelperObject<ErrorTarget>;
+}
+
+struct PublicObject {
+    GUID classId;
+    Make make;
+    bool canBeInside;
+};
+
+constexpr PublicObject publicObjects[] = {
+    {guidOf("lmListView"), makeControl, true},
+    {guidOf("SpEv"), makeSpEv, false},
+    {guidOf("Error"), makeError, false},
+};
+
+/// Locks of the host, which outlive the factory that took them and may come from any thread.
+struct ServerLocks {
+    std::mutex mutex;
+    std::vector<ModuleLock> locks;
+};
+ServerLocks serverLocks;
+
+class ClassFactory final : public IClassFactory {
+  public:
+    explicit ClassFactory(const PublicObject& object) : object_(object) {}
+    ClassFactory(const ClassFactory&) = delete;
+    ClassFactory& operator=(const ClassFactory&) = delete;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
+        if (found == nullptr)
+            return E_POINTER;
+        *found = nullptr;
+        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IClassFactory))
+            return E_NOINTERFACE;
+        AddRef();
+        *found = static_cast<IClassFactory*>(this);
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --references_;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** found) override {
+        if (found == nullptr)
+            return E_POINTER;
+        *found = nullptr;
+        if (outer != nullptr && !object_.canBeInside)
+            return CLASS_E_NOAGGREGATION;
+        // The host's object holds the control by its own identity.
+        if (outer != nullptr && !IsEqualIID(iid, IID_IUnknown))
+            return E_INVALIDARG;
+        return guarded([&] {
+            const auto made = ComRef<IUnknown>::adopting(object_.make(outer));
+            return made->QueryInterface(iid, found);
+        });
+    }
+    HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
+        const std::lock_guard guard(serverLocks.mutex);
+        std::vector<ModuleLock>& locks = serverLocks.locks;
+        if (lock != FALSE)
+            return guarded([&] {
+                locks.emplace_back();
+                return S_OK;
+            });
+        if (!locks.empty())
+            locks.pop_back();
+        return S_OK;
+    }
+
+  private:
+    ~ClassFactory() = default;
+
+    const PublicObject& object_;
+    std::atomic<ULONG> references_{1};
+    ModuleLock lock_;
+};
+
+} // namespace
+
+HRESULT classFactory(const CLSID& classId, REFIID iid, void** found) noexcept {
+    if (found == nullptr)
+        return E_POINTER;
+    *found = nullptr;
+    for (const PublicObject& object : publicObjects)
+        if (IsEqualCLSID(classId, object.classId))
+            return guarded([&] {
+                const auto factory = ComRef<ClassFactory>::adopting(new ClassFactory(object));
+                return factory->QueryInterface(iid, found);
+            });
+    return CLASS_E_CLASSNOTAVAILABLE;
+}
+
+} // namespace lumtex

@@ -1,0 +1,13 @@
+/// \file
+/// Makes the objects of the public classes.
+#pragma once
+
+#include "platform/win32/windows_api.h"
+
+namespace lumtex {
+
+/// The factory of a class by its identifier: CLASS_E_CLASSNOTAVAILABLE for one that is not the component's. The
+/// control alone can live inside another object.
+HRESULT classFactory(const CLSID& classId, REFIID iid, void** found) noexcept;
+
+} // namespace lumtex

@@ -1,0 +1,38 @@
+#include "activex/com_guard.h"
+
+#include "platform/win32/com_ref.h"
+
+namespace lumtex {
+
+HRESULT automationResult(const RuntimeError& error) noexcept {
+    switch (error.number()) {
+    case typeMismatch:
+    case invalidUseOfNull:
+    case objectVariableNotSet:
+        return DISP_E_TYPEMISMATCH;
+    case overflow:
+        return DISP_E_OVERFLOW;
+    case outOfMemory:
+        return E_OUTOFMEMORY;
+    case objectDoesNotSupportMember:
+        return DISP_E_MEMBERNOTFOUND;
+    case argumentNotOptional:
+        return DISP_E_PARAMNOTOPTIONAL;
+    case wrongNumberOfArguments:
+        return DISP_E_BADPARAMCOUNT;
+    default:
+        return resultOf(error.number());
+    }
+}
+
+void tellErrorInfo(const RuntimeError& error, const GUID& interfaceId) noexcept {
+    ComRef<ICreateErrorInfo> info;
+    if (FAILED(CreateErrorInfo(info.out())))
+        return;
+    info->SetGUID(interfaceId);
+    info->SetDescription(const_cast<wchar_t*>(wide(error.description())));
+    if (const auto told = info.as<IErrorInfo>())
+        SetErrorInfo(0, told.get());
+}
+
+} // namespace lumtex

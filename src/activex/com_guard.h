@@ -1,0 +1,32 @@
+/// \file
+/// The border that no exception crosses.
+#pragma once
+
+#include "platform/win32/com_error.h"
+
+#include <new>
+
+namespace lumtex {
+
+/// The result by which automation knows a refused argument or an unknown member; that of the number for any other
+/// failure.
+HRESULT automationResult(const RuntimeError& error) noexcept;
+
+/// Leaves the text of a failure where the caller finds it.
+void tellErrorInfo(const RuntimeError& error, const GUID& interfaceId) noexcept;
+
+/// Runs `body`, which gives an HRESULT.
+template <class Body>
+HRESULT guarded(Body&& body) noexcept {
+    try {
+        return body();
+    } catch (const RuntimeError& error) {
+        return automationResult(error);
+    } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    } catch (const std::exception&) {
+        return E_UNEXPECTED;
+    }
+}
+
+} // namespace lumtex

@@ -1,0 +1,43 @@
+/// \file
+/// Where hosts register for the control's events.
+#pragma once
+
+#include "activex/module.h"
+
+#include <map>
+#include <vector>
+
+namespace lumtex {
+
+/// One outgoing interface. Lives as long as the control; its identity is its own, its lifetime the control's.
+class ConnectionPoint final : public IConnectionPoint {
+  public:
+    /// `container` must outlive this and is not counted.
+    ConnectionPoint(IConnectionPointContainer& container, const GUID& interfaceId)
+        : container_(container), interfaceId_(interfaceId) {}
+    ConnectionPoint(const ConnectionPoint&) = delete;
+    ConnectionPoint& operator=(const ConnectionPoint&) = delete;
+    ~ConnectionPoint() = default;
+
+    const GUID& interfaceId() const { return interfaceId_; }
+    /// The sinks in the order in which they came; held, so that one may go while it is called.
+    std::vector<ComRef<IUnknown>> sinks() const;
+    void dropAll() { sinks_.clear(); }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override;
+    ULONG STDMETHODCALLTYPE AddRef() override { return container_.AddRef(); }
+    ULONG STDMETHODCALLTYPE Release() override { return container_.Release(); }
+    HRESULT STDMETHODCALLTYPE GetConnectionInterface(IID* iid) override;
+    HRESULT STDMETHODCALLTYPE GetConnectionPointContainer(IConnectionPointContainer** container) override;
+    HRESULT STDMETHODCALLTYPE Advise(IUnknown* sink, DWORD* cookie) override;
+    HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) override;
+    HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** connections) override;
+
+  private:
+    IConnectionPointContainer& container_;
+    GUID interfaceId_;
+    std::map<DWORD, ComRef<IUnknown>> sinks_;
+    DWORD lastCookie_ = 0;
+};
+
+} // namespace lumtex

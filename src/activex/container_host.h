@@ -1,0 +1,44 @@
+/// \file
+/// The container of the control, as the control asks it.
+#pragma once
+
+#include "platform/host.h"
+#include "platform/win32/com_ref.h"
+#include "platform/win32/variant_bridge.h"
+
+#include <functional>
+
+namespace lumtex {
+
+/// Reads the ambient properties of the client site once, and again when told that they changed. Without a site, or
+/// where the site does not know, the control runs, has the name of its class with a 1, and no font of its container.
+class ContainerHost final : public Host {
+  public:
+    /// None to let the container go.
+    void setSite(IOleClientSite* site);
+    IOleClientSite* site() const { return site_.get(); }
+    /// `ambient` is the number of one property, or DISPID_UNKNOWN for any.
+    void ambientChanged(DISPID ambient);
+
+    bool UserMode() const override { return userMode_; }
+    String extenderName() const override { return name_; }
+    FontRef parentFont() const override { return font_; }
+    void PropertyChanged(StringView name) override;
+
+    /// Hears of each changed property.
+    std::function<void(StringView name)> onPropertyChanged;
+
+  private:
+    Variant ambient(DISPID number) const;
+    String nameByExtender() const;
+    void readUserMode();
+    void readName();
+    void readFont();
+
+    ComRef<IOleClientSite> site_;
+    bool userMode_ = true;
+    String name_ = u"lmListView1";
+    FontRef font_;
+};
+
+} // namespace lumtex

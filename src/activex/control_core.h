@@ -1,0 +1,96 @@
+/// \file
+/// What the interfaces of one control share: the list, its world, its container.
+#pragma once
+
+#include "activex/automation_target.h"
+#include "activex/connection_point.h"
+#include "activex/container_host.h"
+#include "activex/event_source.h"
+#include "activex/module.h"
+#include "platform/win32/win32_world.h"
+
+namespace lumtex {
+
+/// A control that nobody initialises becomes a new instance at its first use.
+class ControlCore final : public AutomationTarget {
+  public:
+    ControlCore(IUnknown& outer, IConnectionPointContainer& points);
+    ~ControlCore() override;
+
+    const ClassDescription& description() const override { return listViewClass(); }
+    CallByName byName() override { return CallByName(list()); }
+
+    /// The list, initialised.
+    lmListView& list();
+    HWND window() { return toHWND(list_->hwnd()); }
+    ContainerHost& host() { return host_; }
+    EventSource& events() { return events_; }
+    ConnectionPoint& eventPoint() { return eventPoint_; }
+    ConnectionPoint& notifyPoint() { return notifyPoint_; }
+    IOleAdviseHolder* adviseHolder();
+    IDataAdviseHolder* dataAdviseHolder();
+
+    // Settings
+
+    /// False where the control was initialised before: a container does it once.
+    bool initNew();
+    bool load(const PropertyBag& bag);
+    void save(PropertyBag& bag) { list().UserControl_WriteProperties(bag); }
+    bool dirty() const { return dirty_; }
+    void letDirty(bool dirty) { dirty_ = dirty; }
+
+    // Place and size
+
+    /// Pixels of the control's window.
+    SIZE size();
+    /// The same in HIMETRIC units.
+    SIZEL extent();
+    void letExtent(SIZEL extent);
+
+    bool inPlaceActive() const { return inPlaceActive_; }
+    bool uiActive() const { return uiActive_; }
+    /// Shows the control in its container's window. `withFocus`: it also takes keys and the container's menus.
+    HRESULT activate(bool withFocus, IOleInPlaceActiveObject& active, IOleInPlaceObject& object);
+    HRESULT deactivateUI();
+    HRESULT deactivate();
+    /// Pixels of the container's window.
+    void letRects(const RECT& place, const RECT& clip);
+    /// A key for the control itself, before the container makes something else of it.
+    HRESULT translateKey(MSG& message);
+
+    // Drawing
+
+    /// Paints what the control shows into `bounds`.
+    void draw(HDC target, const RECT& bounds);
+    IAdviseSink* viewSink = nullptr; ///< held by the view's face
+
+    IUnknown& outer() const { return outer_; }
+
+  private:
+    void propertyChanged(StringView name);
+    void viewChanged();
+    HRESULT activateInPlace(IOleInPlaceSite& site);
+    void activateUI(IOleInPlaceSite& site, IOleInPlaceActiveObject& active);
+    bool hasFocus();
+
+    IUnknown& outer_;
+    ModuleLock lock_;
+    ConnectionPoint eventPoint_;
+    ConnectionPoint notifyPoint_;
+    EventSource events_;
+    ContainerHost host_;
+    Win32World world_;
+    std::unique_ptr<lmListView> list_;
+    bool initialised_ = false;
+    bool painted_ = false;
+    bool dirty_ = false;
+    bool inPlaceActive_ = false;
+    bool uiActive_ = false;
+    HWND park_ = nullptr; ///< where the window lies while no container shows it
+    ComRef<IOleInPlaceFrame> frame_;
+    ComRef<IOleInPlaceUIWindow> uiWindow_;
+    ComRef<IOleAdviseHolder> adviseHolder_;
+    ComRef<IDataAdviseHolder> dataAdviseHolder_;
+};
+
+} // namespace lumtex

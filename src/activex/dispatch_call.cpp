@@ -1,0 +1,242 @@
+/// One call by dispatch number.
+#include "activex/dispatch_call.h"
+
+#include "activex/argument_bridge.h"
+#include "activex/com_guard.h"
+#include "activex/module.h"
+#include "platform/text.h"
+#include "platform/variant_conversion.h"
+
+#include <vector>
+
+namespace lumtex {
+
+namespace {
+
+constexpr WORD reading = DISPATCH_PROPERTYGET | DISPATCH_METHOD;
+constexpr WORD assigning = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
+
+bool endsInList(const Member& member) {
+    return member.count > 0 && member.slots[member.count - 1].type.code == TypeCode::variantList;
+}
+
+/// A record that a script holds keeps the module loaded, whose code it is.
+class HeldRecord final : public Object {
+  public:
+    explicit HeldRecord(ObjectRef record) : record_(std::move(record)) {}
+
+    Variant get(StringView name, std::span<Variant> arguments) override { return record_->get(name, arguments); }
+    void put(StringView name, const Variant& value) override { record_->put(name, value); }
+    Variant call(StringView name, std::span<Variant> arguments) override {
+        return record_->call(name, arguments);
+    }
+
+  private:
+    ObjectRef record_;
+    ModuleLock lock_;
+};
+
+/// The arguments in the order of the parameters, and for each the place in the caller's array.
+class Arguments {
+  public:
+    /// `from` leaves out the caller's leading arguments, as an assigned value is one. Throws RuntimeError.
+    Arguments(const Member& member, const DISPPARAMS& parameters, UINT from) : parameters_(parameters) {
+        const UINT named = parameters.cNamedArgs;
+        const UINT positional = parameters.cArgs - named;
+        if (!endsInList(member) && positional > member.count)
+            throw RuntimeError(wrongNumberOfArguments);
+        for (UINT i = 0; i < positional; ++i)
+            take(i, parameters.cArgs - 1 - i);
+        for (UINT i = from; i < named; ++i) {
+            const DISPID place = parameters.rgdispidNamedArgs[i];
+            if (place < 0 || static_cast<std::size_t>(place) >= member.count)
+                throw RuntimeError(DISP_E_PARAMNOTFOUND);
+            take(static_cast<std::size_t>(place), i);
+        }
+    }
+
+    std::span<Variant> values() { return values_; }
+    /// Counts from 0 in the caller's array.
+    UINT placeOf(std::size_t parameter) const { return places_[parameter]; }
+
+    void writeBackTo(const Member& member) {
+        for (std::size_t i = 0; i < values_.size() && i < member.count; ++i)
+            if (member.slots[i].byReference && places_[i] != none)
+                writeBack(values_[i], parameters_.rgvarg[places_[i]]);
+    }
+
+  private:
+    static constexpr UINT none = ~0U;
+
+    void take(std::size_t parameter, UINT place) {
+        if (values_.size() <= parameter) {
+            values_.resize(parameter + 1, Missing{});
+            places_.resize(parameter + 1, none);
+        }
+        places_[parameter] = place;
+        values_[parameter] = argumentFrom(parameters_.rgvarg[place]);
+    }
+
+    const DISPPARAMS& parameters_;
+    std::vector<Variant> values_;
+    std::vector<UINT> places_;
+};
+
+/// Whether the value converts to the type; the control would refuse it else.
+bool fits(const Variant& value, TypeCode type) {
+    try {
+        switch (type) {
+        case TypeCode::boolean:
+            static_cast<void>(value.toBoolean());
+            break;
+        case TypeCode::integer:
+            static_cast<void>(value.toInteger());
+            break;
+        case TypeCode::longInteger:
+        case TypeCode::enumeration:
+            static_cast<void>(value.toLong());
+            break;
+        case TypeCode::single:
+            static_cast<void>(value.toSingle());
+            break;
+        case TypeCode::string:
+            static_cast<void>(value.toText());
+            break;
+        case TypeCode::color:
+            static_cast<void>(value.toColor());
+            break;
+        case TypeCode::picture:
+            static_cast<void>(value.toPicture());
+            break;
+        case TypeCode::font:
+            static_cast<void>(value.toFont());
+            break;
+        case TypeCode::object:
+            static_cast<void>(fromVariant<ObjectRef>(value));
+            break;
+        default:
+            break;
+        }
+        return true;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+UINT placeOfMisfit(const Member& member, Arguments& arguments) {
+    const auto values = arguments.values();
+    for (std::size_t i = 0; i < values.size() && i < member.count; ++i)
+        if (!values[i].isMissing() && !fits(values[i], member.slots[i].type.code))
+            return arguments.placeOf(i);
+    return 0;
+}
+
+void giveResult(const Member& member, Variant value, VARIANT* result) {
+    if (result == nullptr)
+        return;
+    if (member.type.code == TypeCode::record)
+        value = Variant(ObjectRef(std::make_shared<HeldRecord>(value.toObject())));
+    *result = toVARIANT(value).release();
+}
+
+void assign(CallByName& byName, const Member& member, const DispatchCall& call, Arguments& arguments) {
+    const Variant value = argumentFrom(call.parameters->rgvarg[0]);
+    const bool asReference = (call.kind & DISPATCH_PROPERTYPUTREF) != 0;
+    // Some script languages have one way to assign for everything.
+    if (asReference ? member.isReference() || (call.kind & DISPATCH_PROPERTYPUT) == 0
+                    : member.isReference() && value.isObject())
+        byName.set(member, arguments.values(), value);
+    else
+        byName.let(member, arguments.values(), value);
+}
+
+void describe(const RuntimeError& error, EXCEPINFO* details) {
+    if (details == nullptr)
+        return;
+    *details = {};
+    details->scode = resultOf(error.number());
+    details->bstrSource = newBSTR(u"LumtexListView");
+    details->bstrDescription = newBSTR(error.description());
+}
+
+/// The results of refused arguments and members travel as they are, with the place that was wrong; any other
+/// failure with its text.
+HRESULT refusal(const RuntimeError& error, const DispatchCall& call) {
+    const HRESULT result = automationResult(error);
+    if (HRESULT_FACILITY(result) == FACILITY_DISPATCH || result == E_OUTOFMEMORY)
+        return result;
+    describe(error, call.details);
+    return DISP_E_EXCEPTION;
+}
+
+HRESULT perform(AutomationTarget& target, const Member& member, const DispatchCall& call) {
+    const bool assigns = (call.kind & assigning) != 0;
+    DISPPARAMS& parameters = *call.parameters;
+    if (assigns && (parameters.cArgs == 0 || parameters.cNamedArgs == 0 ||
+                    parameters.rgdispidNamedArgs[0] != DISPID_PROPERTYPUT))
+        return DISP_E_PARAMNOTOPTIONAL;
+    Arguments arguments(member, parameters, assigns ? 1 : 0);
+    CallByName byName = target.byName();
+    try {
+        if (assigns) {
+            assign(byName, member, call, arguments);
+            return S_OK;
+        }
+        Variant value = member.isMethod() ? byName.call(member, arguments.values())
+                                          : byName.get(member, arguments.values());
+        arguments.writeBackTo(member);
+        if (member.type.code != TypeCode::none)
+            giveResult(member, std::move(value), call.result);
+        return S_OK;
+    } catch (const RuntimeError& error) {
+        if (call.wrongArgument != nullptr)
+            *call.wrongArgument = placeOfMisfit(member, arguments);
+        return refusal(error, call);
+    }
+}
+
+} // namespace
+
+HRESULT idsOfNames(const ClassDescription& description, std::span<LPOLESTR> names, std::span<DISPID> ids) {
+    std::ranges::fill(ids, DISPID_UNKNOWN);
+    const Member* const member = findMember(description, textOf(names[0]));
+    if (member == nullptr)
+        return DISP_E_UNKNOWNNAME;
+    ids[0] = member->number;
+    HRESULT result = S_OK;
+    for (std::size_t i = 1; i < names.size(); ++i) {
+        const auto parameters = member->parameters();
+        const auto found = std::ranges::find_if(
+            parameters, [&](const Parameter& parameter) { return sameName(parameter.name, textOf(names[i])); });
+        if (found == parameters.end())
+            result = DISP_E_UNKNOWNNAME;
+        else
+            ids[i] = static_cast<DISPID>(found - parameters.begin());
+    }
+    return result;
+}
+
+HRESULT invokeMember(AutomationTarget& target, const DispatchCall& call) noexcept {
+    if (call.parameters == nullptr || call.parameters->cNamedArgs > call.parameters->cArgs ||
+        (call.parameters->cArgs > 0 && call.parameters->rgvarg == nullptr) ||
+        (call.parameters->cNamedArgs > 0 && call.parameters->rgdispidNamedArgs == nullptr))
+        return E_INVALIDARG;
+    if (!target.onOwnThread())
+        return RPC_E_WRONG_THREAD;
+    if (call.result != nullptr)
+        VariantInit(call.result);
+    return guarded([&]() -> HRESULT {
+        const Member* const member = findMember(target.description(), Long{call.number});
+        if (member == nullptr || (call.kind & (reading | assigning)) == 0)
+            return DISP_E_MEMBERNOTFOUND;
+        try {
+            return perform(target, *member, call);
+        } catch (const NullArgument&) {
+            return E_POINTER;
+        } catch (const RuntimeError& error) {
+            return refusal(error, call);
+        }
+    });
+}
+
+} // namespace lumtex

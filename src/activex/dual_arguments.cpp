@@ -1,0 +1,104 @@
+/// Typed arguments and results.
+#include "activex/dual_arguments.h"
+
+#include "platform/runtime_error.h"
+#include "platform/win32/com_error.h"
+#include "platform/win32/com_ref.h"
+
+#include <utility>
+
+namespace lumtex {
+
+namespace {
+
+/// None for an empty reference.
+template <class Interface>
+Interface* objectIn(const Variant& value) {
+    if (value.isEmpty())
+        return nullptr;
+    const OwnedVARIANT held = toVARIANT(value);
+    if (V_VT(&held.get()) != VT_DISPATCH)
+        throw RuntimeError(typeMismatch);
+    return queryFor<Interface>(V_DISPATCH(&held.get())).detach();
+}
+
+} // namespace
+
+Variant dualArgument(const VARIANT& value) {
+    return argumentFrom(value);
+}
+
+Variant dualArgument(BSTR text) {
+    return String(viewBSTR(text));
+}
+
+Variant dualArgument(IDispatch* object) {
+    VARIANT value;
+    VariantInit(&value);
+    V_VT(&value) = VT_DISPATCH;
+    V_DISPATCH(&value) = object;
+    return fromVARIANT(value);
+}
+
+void appendArgument(std::vector<Variant>& arguments, SAFEARRAY* list) {
+    if (list == nullptr)
+        return;
+    if (SafeArrayGetDim(list) != 1)
+        throw RuntimeError(typeMismatch);
+    LONG first = 0;
+    LONG last = -1;
+    demand(SafeArrayGetLBound(list, 1, &first));
+    demand(SafeArrayGetUBound(list, 1, &last));
+    for (LONG i = first; i <= last; ++i) {
+        OwnedVARIANT item;
+        demand(SafeArrayGetElement(list, &i, item.out()));
+        arguments.push_back(argumentFrom(item.get()));
+    }
+}
+
+void storeResult(const Variant& value, BSTR& place) {
+    place = newBSTR(value.toText());
+}
+
+void storeResult(const Variant& value, VARIANT& place) {
+    place = toVARIANT(value).release();
+}
+
+void storeResult(const Variant& value, IDispatch*& place) {
+    place = objectIn<IDispatch>(value);
+}
+
+void storeResult(const Variant& value, IPictureDisp*& place) {
+    place = objectIn<IPictureDisp>(value);
+}
+
+void storeResult(const Variant& value, IFontDisp*& place) {
+    place = objectIn<IFontDisp>(value);
+}
+
+void storeResult(const Variant& value, FindResultsRecord& place) {
+    const ObjectRef record = value.toObject();
+    place.FindSuccessful = record->get(u"FindSuccessful").toBoolean() ? VARIANT_TRUE : VARIANT_FALSE;
+    place.FindRow = record->get(u"FindRow").toLong();
+    place.FindColumn = record->get(u"FindColumn").toLong();
+}
+
+void storeBack(const Variant& value, VARIANT* argument) {
+    VARIANT place;
+    VariantInit(&place);
+    V_VT(&place) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&place) = argument;
+    // An argument that was left out has no variable behind it.
+    if (V_VT(argument) != VT_ERROR)
+        writeBack(value, place);
+}
+
+void storeBack(const Variant& value, BSTR* argument) {
+    SysFreeString(std::exchange(*argument, newBSTR(value.toText())));
+}
+
+void storeBack(const Variant& value, long* argument) {
+    *argument = value.toLong();
+}
+
+} // namespace lumtex

@@ -1,0 +1,88 @@
+/// \file
+/// Arguments of calls through the table of functions, to and from the control's own values.
+#pragma once
+
+#include "activex/argument_bridge.h"
+
+#include <vector>
+
+namespace lumtex {
+
+/// The record as early-bound callers know it.
+struct FindResultsRecord {
+    VARIANT_BOOL FindSuccessful = VARIANT_FALSE;
+    long FindRow = 0;
+    long FindColumn = 0;
+};
+
+/// For calls that give nothing.
+struct NoResult {};
+inline constexpr NoResult noResult{};
+
+// A value as the control takes it. A Boolean comes as the Integer that it is; a null text is the empty one. These
+// throw NullArgument for a pointer to nothing.
+
+Variant dualArgument(const VARIANT& value);
+Variant dualArgument(BSTR text);
+inline Variant dualArgument(short value) {
+    return static_cast<Integer>(value);
+}
+inline Variant dualArgument(long value) {
+    return static_cast<Long>(value);
+}
+inline Variant dualArgument(unsigned long color) {
+    return static_cast<OLE_COLOR>(color);
+}
+inline Variant dualArgument(float value) {
+    return value;
+}
+Variant dualArgument(IDispatch* object);
+inline Variant dualArgument(IPictureDisp* picture) {
+    return dualArgument(static_cast<IDispatch*>(picture));
+}
+inline Variant dualArgument(IFontDisp* font) {
+    return dualArgument(static_cast<IDispatch*>(font));
+}
+template <class T>
+Variant dualArgument(T* place) {
+    if (place == nullptr)
+        throw NullArgument();
+    return dualArgument(*place);
+}
+
+/// Appends one argument, or each item of an array. A null array has none.
+template <class T>
+void appendArgument(std::vector<Variant>& arguments, T value) {
+    arguments.push_back(dualArgument(value));
+}
+void appendArgument(std::vector<Variant>& arguments, SAFEARRAY* list);
+
+// What the control gave, put to where a caller wants it. What stood there before is not freed.
+
+inline void storeResult(const Variant& value, short& place) {
+    place = value.toInteger();
+}
+inline void storeResult(const Variant& value, long& place) {
+    place = value.toLong();
+}
+inline void storeResult(const Variant& value, unsigned long& place) {
+    place = value.toColor();
+}
+inline void storeResult(const Variant& value, float& place) {
+    place = value.toSingle();
+}
+void storeResult(const Variant& value, BSTR& place);
+void storeResult(const Variant& value, VARIANT& place);
+void storeResult(const Variant& value, IDispatch*& place);
+void storeResult(const Variant& value, IPictureDisp*& place);
+void storeResult(const Variant& value, IFontDisp*& place);
+void storeResult(const Variant& value, FindResultsRecord& place);
+
+/// Puts what the control left in a by-reference argument to where it came from; nothing for a value.
+template <class T>
+void storeBack(const Variant& /*value*/, T /*argument*/) {}
+void storeBack(const Variant& value, VARIANT* argument);
+void storeBack(const Variant& value, BSTR* argument);
+void storeBack(const Variant& value, long* argument);
+
+} // namespace lumtex

@@ -1,0 +1,21 @@
+/// \file
+/// Saved settings as a stream of bytes.
+#pragma once
+
+#include "platform/property_bag.h"
+#include "platform/win32/windows_api.h"
+
+namespace lumtex {
+
+// The stream holds a mark and a version, each 4 bytes, the number of values, and for each value its name, its type
+// and its bytes; fonts and pictures as the system's objects save themselves. All numbers are little-endian.
+
+/// Throws RuntimeError 57 where the stream takes no more.
+void saveSettings(IStream& stream, const MemoryPropertyBag& bag);
+
+/// Throws RuntimeError 321 for a stream that was not written by `saveSettings`, or that ends too early.
+void loadSettings(IStream& stream, MemoryPropertyBag& bag);
+
+constexpr Long invalidFileFormat = 321;
+
+} // namespace lumtex
