@@ -1,14 +1,16 @@
 # The test programs of the Windows build. Debian has GoogleTest for Windows as sources alone.
 add_subdirectory(/usr/src/googletest "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
 
+# The one library that knows where the tree lies. Wine shows the whole file system under Z:.
+add_library(lumtex_test_folders STATIC support/folders.cpp)
+target_link_libraries(lumtex_test_folders PRIVATE lumtex_flags)
+target_compile_definitions(lumtex_test_folders PRIVATE LUMTEX_SOURCE_FOLDER="Z:${PROJECT_SOURCE_DIR}")
+
 add_library(lumtex_test_base INTERFACE)
-target_link_libraries(lumtex_test_base INTERFACE lumtex_flags gmock)
+target_link_libraries(lumtex_test_base INTERFACE lumtex_flags lumtex_test_folders gmock)
 target_compile_options(lumtex_test_base INTERFACE -O1)
 target_include_directories(lumtex_test_base INTERFACE "${CMAKE_CURRENT_SOURCE_DIR}/support"
                                                       "${CMAKE_CURRENT_SOURCE_DIR}")
-# Wine shows the whole file system under Z:.
-target_compile_definitions(lumtex_test_base INTERFACE LUMTEX_SOURCE_DIR="Z:${PROJECT_SOURCE_DIR}"
-                                                      LUMTEX_TEST_DATA="Z:${CMAKE_CURRENT_SOURCE_DIR}")
 
 # The software surface, to hold the surface of Windows against. Its fonts are a double in win32/gdi_typefaces.cpp.
 set(raster "${PROJECT_SOURCE_DIR}/src/platform/raster")

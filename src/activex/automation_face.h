@@ -7,13 +7,12 @@
 #include "activex/dual_arguments.h"
 #include "activex/face.h"
 
-
 #include <algorithm>
 
 namespace lumtex {
 
-/// A derived class includes its generated entries and adds no other virtual function: its table of functions is that
-/// of the type library.
+/// A derived class includes its generated entries and adds no other virtual function: its table of functions
+/// is that of the type library.
 class AutomationFace : public Face<IDispatch> {
   public:
     AutomationFace(IUnknown& outer, AutomationTarget& target, const GUID& interfaceId)
@@ -37,22 +36,28 @@ class AutomationFace : public Face<IDispatch> {
 
     template <class Result, class... Arguments>
     HRESULT getBy(Long number, Result* result, Arguments... arguments) noexcept {
-        return giving(result, [&](CallByName& byName, std::vector<Variant>& values) {
-            return byName.get(memberOf(number), values);
-        }, arguments...);
+        return giving(
+            result,
+            [&](CallByName& byName, std::vector<Variant>& values) {
+                return byName.get(memberOf(number), values);
+            },
+            arguments...);
     }
     template <class Result, class... Arguments>
     HRESULT callBy(Long number, Result* result, Arguments... arguments) noexcept {
-        return giving(result, [&](CallByName& byName, std::vector<Variant>& values) {
-            return byName.call(memberOf(number), values);
-        }, arguments...);
+        return giving(
+            result,
+            [&](CallByName& byName, std::vector<Variant>& values) {
+                return byName.call(memberOf(number), values);
+            },
+            arguments...);
     }
     template <class... Arguments>
     HRESULT callBy(Long number, NoResult /*none*/, Arguments... arguments) noexcept {
         return entered([&] {
-            passing([&](CallByName& byName, std::vector<Variant>& values) {
-                return byName.call(memberOf(number), values);
-            }, arguments...);
+            passing([&](CallByName& byName,
+                        std::vector<Variant>& values) { return byName.call(memberOf(number), values); },
+                    arguments...);
         });
     }
     /// The assigned value comes last.

@@ -6,8 +6,8 @@
 
 namespace lumtex {
 
-/// The factory of a class by its identifier: CLASS_E_CLASSNOTAVAILABLE for one that is not the component's. The
-/// control alone can live inside another object.
+/// The factory of a class by its identifier: CLASS_E_CLASSNOTAVAILABLE for one that is not the component's.
+/// The control alone can live inside another object.
 HRESULT classFactory(const CLSID& classId, REFIID iid, void** found) noexcept;
 
 } // namespace lumtex

@@ -8,8 +8,8 @@
 
 namespace lumtex {
 
-/// The result by which automation knows a refused argument or an unknown member; that of the number for any other
-/// failure.
+/// The result by which automation knows a refused argument or an unknown member; that of the number for any
+/// other failure.
 HRESULT automationResult(const RuntimeError& error) noexcept;
 
 /// Leaves the text of a failure where the caller finds it.

@@ -10,8 +10,9 @@
 
 namespace lumtex {
 
-/// Reads the ambient properties of the client site once, and again when told that they changed. Without a site, or
-/// where the site does not know, the control runs, has the name of its class with a 1, and no font of its container.
+/// Reads the ambient properties of the client site once, and again when told that they changed. Without a
+/// site, or where the site does not know, the control runs, has the name of its class with a 1, and no font
+/// of its container.
 class ContainerHost final : public Host {
   public:
     /// None to let the container go.

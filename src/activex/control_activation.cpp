@@ -138,8 +138,8 @@ HRESULT ControlCore::translateKey(MSG& message) {
     constexpr DWORD shift = 1;
     constexpr DWORD control = 2;
     constexpr DWORD alt = 4;
-    const DWORD held = (isHeld(VK_SHIFT) ? shift : 0) | (isHeld(VK_CONTROL) ? control : 0) |
-                       (isHeld(VK_MENU) ? alt : 0);
+    const DWORD held =
+        (isHeld(VK_SHIFT) ? shift : 0) | (isHeld(VK_CONTROL) ? control : 0) | (isHeld(VK_MENU) ? alt : 0);
     return site->TranslateAccelerator(&message, held);
 }
 

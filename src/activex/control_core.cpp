@@ -20,8 +20,9 @@ SIZE pixelsPerInch(HWND window) {
 } // namespace
 
 ControlCore::ControlCore(IUnknown& outer, IConnectionPointContainer& points)
-    : outer_(outer), eventPoint_(points, guidOf("__lmListView")), notifyPoint_(points, IID_IPropertyNotifySink),
-      events_(eventPoint_), world_(moduleInstance()), list_(std::make_unique<lmListView>(world_, host_, events_)) {
+    : outer_(outer), eventPoint_(points, guidOf("__lmListView")),
+      notifyPoint_(points, IID_IPropertyNotifySink), events_(eventPoint_), world_(moduleInstance()),
+      list_(std::make_unique<lmListView>(world_, host_, events_)) {
     host_.onPropertyChanged = [this](StringView name) { propertyChanged(name); };
     park_ = GetParent(window());
 }

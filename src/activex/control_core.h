@@ -49,7 +49,8 @@ class ControlCore final : public AutomationTarget {
 
     bool inPlaceActive() const { return inPlaceActive_; }
     bool uiActive() const { return uiActive_; }
-    /// Shows the control in its container's window. `withFocus`: it also takes keys and the container's menus.
+    /// Shows the control in its container's window. `withFocus`: it also takes keys and the container's
+    /// menus.
     HRESULT activate(bool withFocus, IOleInPlaceActiveObject& active, IOleInPlaceObject& object);
     HRESULT deactivateUI();
     HRESULT deactivate();

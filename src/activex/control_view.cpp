@@ -1,6 +1,5 @@
 /// The control's picture in any device context.
 #include "activex/control_core.h"
-
 #include "platform/runtime_error.h"
 
 #include <vector>
@@ -51,7 +50,8 @@ class PrintSheet {
     HGDIOBJ before_ = nullptr;
 };
 
-/// A window and what lies in it, from the lowest to the highest. `origin` is where the window lies on the sheet.
+/// A window and what lies in it, from the lowest to the highest. `origin` is where the window lies on the
+/// sheet.
 void print(HWND window, HDC sheet, POINT origin) {
     const int saved = SaveDC(sheet);
     SetWindowOrgEx(sheet, -origin.x, -origin.y, nullptr);

@@ -25,7 +25,9 @@ class HeldRecord final : public Object {
   public:
     explicit HeldRecord(ObjectRef record) : record_(std::move(record)) {}
 
-    Variant get(StringView name, std::span<Variant> arguments) override { return record_->get(name, arguments); }
+    Variant get(StringView name, std::span<Variant> arguments) override {
+        return record_->get(name, arguments);
+    }
     void put(StringView name, const Variant& value) override { record_->put(name, value); }
     Variant call(StringView name, std::span<Variant> arguments) override {
         return record_->call(name, arguments);
@@ -206,8 +208,9 @@ HRESULT idsOfNames(const ClassDescription& description, std::span<LPOLESTR> name
     HRESULT result = S_OK;
     for (std::size_t i = 1; i < names.size(); ++i) {
         const auto parameters = member->parameters();
-        const auto found = std::ranges::find_if(
-            parameters, [&](const Parameter& parameter) { return sameName(parameter.name, textOf(names[i])); });
+        const auto found = std::ranges::find_if(parameters, [&](const Parameter& parameter) {
+            return sameName(parameter.name, textOf(names[i]));
+        });
         if (found == parameters.end())
             result = DISP_E_UNKNOWNNAME;
         else

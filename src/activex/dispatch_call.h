@@ -6,8 +6,8 @@
 
 namespace lumtex {
 
-/// The numbers of a member and, behind it, of its parameters by name. DISP_E_UNKNOWNNAME where one is not known,
-/// whose number is DISPID_UNKNOWN then.
+/// The numbers of a member and, behind it, of its parameters by name. DISP_E_UNKNOWNNAME where one is not
+/// known, whose number is DISPID_UNKNOWN then.
 HRESULT idsOfNames(const ClassDescription& description, std::span<LPOLESTR> names, std::span<DISPID> ids);
 
 /// What a caller of IDispatch::Invoke handed over. `result`, `details` and `wrongArgument` may be null.
@@ -20,9 +20,10 @@ struct DispatchCall {
     UINT* wrongArgument;
 };
 
-/// DISP_E_MEMBERNOTFOUND, DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTOPTIONAL, DISP_E_PARAMNOTFOUND, DISP_E_TYPEMISMATCH and
-/// DISP_E_OVERFLOW (with the place of the argument), E_POINTER for a reference that leads nowhere. By-reference
-/// arguments are written back. A search's result is an object with the fields of its record.
+/// DISP_E_MEMBERNOTFOUND, DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTOPTIONAL, DISP_E_PARAMNOTFOUND,
+/// DISP_E_TYPEMISMATCH and DISP_E_OVERFLOW (with the place of the argument), E_POINTER for a reference that
+/// leads nowhere. By-reference arguments are written back. A search's result is an object with the fields of
+/// its record.
 HRESULT invokeMember(AutomationTarget& target, const DispatchCall& call) noexcept;
 
 } // namespace lumtex

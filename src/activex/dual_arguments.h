@@ -19,8 +19,8 @@ struct FindResultsRecord {
 struct NoResult {};
 inline constexpr NoResult noResult{};
 
-// A value as the control takes it. A Boolean comes as the Integer that it is; a null text is the empty one. These
-// throw NullArgument for a pointer to nothing.
+// A value as the control takes it. A Boolean comes as the Integer that it is; a null text is the empty one.
+// These throw NullArgument for a pointer to nothing.
 
 Variant dualArgument(const VARIANT& value);
 Variant dualArgument(BSTR text);

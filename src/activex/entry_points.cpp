@@ -26,7 +26,8 @@ HRESULT WINAPI DllUnregisterServer() {
 /// `arguments` "user" stands for the registry of the user alone. Not declared by the system's headers.
 HRESULT WINAPI DllInstall(BOOL install, LPCWSTR arguments);
 HRESULT WINAPI DllInstall(BOOL install, LPCWSTR arguments) {
-    const bool forUser = arguments != nullptr && CompareStringOrdinal(arguments, -1, L"user", -1, TRUE) == CSTR_EQUAL;
+    const bool forUser =
+        arguments != nullptr && CompareStringOrdinal(arguments, -1, L"user", -1, TRUE) == CSTR_EQUAL;
     const Registry registry = forUser ? Registry::user : Registry::machine;
     return install != FALSE ? registerComponent(registry) : unregisterComponent(registry);
 }

@@ -111,8 +111,10 @@ class EventSlot<ByReference<T>> {
         VARIANT result;
         VariantInit(&result);
         const bool asVariant = form_ == ReferenceForm::variant;
-        V_VT(&result) = static_cast<VARTYPE>(VT_BYREF | (asVariant ? VARTYPE{VT_VARIANT} : EventStorage<T>::type));
-        V_BYREF(&result) = asVariant ? static_cast<void*>(&variant_.get()) : static_cast<void*>(&storage_.held);
+        V_VT(&result) =
+            static_cast<VARTYPE>(VT_BYREF | (asVariant ? VARTYPE{VT_VARIANT} : EventStorage<T>::type));
+        V_BYREF(&result) =
+            asVariant ? static_cast<void*>(&variant_.get()) : static_cast<void*>(&storage_.held);
         return result;
     }
     void takeBack() {

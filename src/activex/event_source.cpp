@@ -3,10 +3,10 @@
 
 #include "platform/win32/com_error.h"
 
-#include <dispex.h>
-
 #include <array>
 #include <tuple>
+
+#include <dispex.h>
 
 namespace lumtex {
 
@@ -19,7 +19,10 @@ ReferenceForm formFor(IDispatch* sink) {
 
 /// Arguments travel from the last to the first. One by reference is taken back even from a sink that failed.
 template <class... Arguments, std::size_t... places>
-void tell(IDispatch* sink, DISPID number, std::index_sequence<places...> /*all*/, const Arguments&... arguments) {
+void tell(IDispatch* sink,
+          DISPID number,
+          std::index_sequence<places...> /*all*/,
+          const Arguments&... arguments) {
     const ReferenceForm form = formFor(sink);
     std::tuple<EventSlot<Arguments>...> slots{Passed<Arguments>{arguments, form}...};
     constexpr std::size_t count = sizeof...(Arguments);
@@ -27,7 +30,8 @@ void tell(IDispatch* sink, DISPID number, std::index_sequence<places...> /*all*/
     DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(count), 0};
     EXCEPINFO details{};
     OwnedVARIANT result;
-    sink->Invoke(number, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, result.out(), &details, nullptr);
+    sink->Invoke(
+        number, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, result.out(), &details, nullptr);
     freeTexts(details);
     (std::get<places>(slots).takeBack(), ...);
 }
@@ -102,13 +106,8 @@ void EventSource::OLEDragDrop(
           byReference(X),
           byReference(Y));
 }
-void EventSource::OLEDragOver(DragData& Data,
-                              Long& Effect,
-                              Integer& Button,
-                              Integer& Shift,
-                              Single& X,
-                              Single& Y,
-                              Integer& State) {
+void EventSource::OLEDragOver(
+    DragData& Data, Long& Effect, Integer& Button, Integer& Shift, Single& X, Single& Y, Integer& State) {
     raise(15,
           byReference(Data),
           byReference(Effect),

@@ -8,8 +8,8 @@
 
 namespace lumtex {
 
-/// Events are numbered from 1 in the order of their table. Sinks that fail are not heard of; a sink that went away
-/// meanwhile is still told. While frozen nothing is told.
+/// Events are numbered from 1 in the order of their table. Sinks that fail are not heard of; a sink that went
+/// away meanwhile is still told. While frozen nothing is told.
 class EventSource final : public lmListViewEvents {
   public:
     explicit EventSource(ConnectionPoint& point) : point_(point) {}
@@ -30,8 +30,8 @@ class EventSource final : public lmListViewEvents {
     void KeyPress(Integer& KeyAscii) override;
     void KeyUp(Integer& KeyCode, Integer& Shift) override;
     void OLECompleteDrag(Long& Effect) override;
-    void OLEDragDrop(
-        DragData& Data, Long& Effect, Integer& Button, Integer& Shift, Single& X, Single& Y) override;
+    void
+    OLEDragDrop(DragData& Data, Long& Effect, Integer& Button, Integer& Shift, Single& X, Single& Y) override;
     void OLEDragOver(DragData& Data,
                      Long& Effect,
                      Integer& Button,

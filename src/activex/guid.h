@@ -30,7 +30,8 @@ constexpr GUID guidOf(std::string_view name) {
               static_cast<unsigned short>(detail::hexNumber(text.substr(14, 4))),
               {}};
     for (std::size_t i = 0; i < 8; ++i)
-        guid.Data4[i] = static_cast<unsigned char>(detail::hexNumber(text.substr(i < 2 ? 19 + 2 * i : 20 + 2 * i, 2)));
+        guid.Data4[i] =
+            static_cast<unsigned char>(detail::hexNumber(text.substr(i < 2 ? 19 + 2 * i : 20 + 2 * i, 2)));
     return guid;
 }
 

@@ -10,7 +10,8 @@ namespace lumtex {
 /// Throws the RuntimeError of a value that cannot be used, and of a bag that refuses one.
 class HostPropertyBag final : public PropertyBag {
   public:
-    /// `everything`: values that equal their default are written too. Both must outlive this; `log` may be null.
+    /// `everything`: values that equal their default are written too. Both must outlive this; `log` may be
+    /// null.
     HostPropertyBag(IPropertyBag& bag, IErrorLog* log, bool everything = false)
         : bag_(bag), log_(log), everything_(everything) {}
 

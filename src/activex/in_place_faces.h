@@ -48,8 +48,9 @@ class ActiveObjectFace final : public Face<IOleInPlaceActiveObject> {
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG message) override;
     HRESULT STDMETHODCALLTYPE OnFrameWindowActivate(BOOL /*activate*/) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnDocWindowActivate(BOOL /*activate*/) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE
-    ResizeBorder(LPCRECT /*border*/, IOleInPlaceUIWindow* /*window*/, BOOL /*frame*/) override {
+    HRESULT STDMETHODCALLTYPE ResizeBorder(LPCRECT /*border*/,
+                                           IOleInPlaceUIWindow* /*window*/,
+                                           BOOL /*frame*/) override {
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE EnableModeless(BOOL /*enable*/) override { return S_OK; }

@@ -7,10 +7,10 @@ namespace lumtex {
 
 ListControl::ListControl(IUnknown* outer)
     : inner_(*this), outer_(outer != nullptr ? *outer : inner_), connections_(outer_, *this),
-      core_(outer_, connections_), automation_(outer_, core_), object_(outer_, *this), control_(outer_, core_),
-      inPlace_(outer_, core_), active_(outer_, core_), view_(outer_, core_), data_(outer_, core_),
-      bag_(outer_, core_), stream_(outer_, core_), storage_(outer_, core_), classInfo_(outer_),
-      quick_(outer_, *this), errorInfo_(outer_, guidOf("_lmListView")) {}
+      core_(outer_, connections_), automation_(outer_, core_), object_(outer_, *this),
+      control_(outer_, core_), inPlace_(outer_, core_), active_(outer_, core_), view_(outer_, core_),
+      data_(outer_, core_), bag_(outer_, core_), stream_(outer_, core_), storage_(outer_, core_),
+      classInfo_(outer_), quick_(outer_, *this), errorInfo_(outer_, guidOf("_lmListView")) {}
 
 HRESULT ListControl::Inner::QueryInterface(REFIID iid, void** found) {
     if (found == nullptr)

@@ -13,8 +13,8 @@
 
 namespace lumtex {
 
-/// Starts with one reference, the caller's, to its own identity (`inner`). Inside the object of a host (`outer`) all
-/// other interfaces have the identity and the lifetime of that one.
+/// Starts with one reference, the caller's, to its own identity (`inner`). Inside the object of a host
+/// (`outer`) all other interfaces have the identity and the lifetime of that one.
 class ListControl {
   public:
     /// `outer` is null for a control that stands alone; it is not counted. Throws RuntimeError 7.

@@ -57,8 +57,12 @@ HRESULT OleObjectFace::GetClipboardData(DWORD /*reserved*/, IDataObject** data) 
     return outer().QueryInterface(IID_IDataObject, reinterpret_cast<void**>(data));
 }
 
-HRESULT OleObjectFace::DoVerb(
-    LONG verb, LPMSG /*message*/, IOleClientSite* /*site*/, LONG /*index*/, HWND /*parent*/, LPCRECT /*place*/) {
+HRESULT OleObjectFace::DoVerb(LONG verb,
+                              LPMSG /*message*/,
+                              IOleClientSite* /*site*/,
+                              LONG /*index*/,
+                              HWND /*parent*/,
+                              LPCRECT /*place*/) {
     const ComRef<IUnknown> alive(&outer());
     return guarded([&]() -> HRESULT {
         ControlCore& core = control_.core();

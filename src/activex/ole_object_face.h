@@ -16,11 +16,17 @@ class OleObjectFace final : public Face<IOleObject> {
 
     HRESULT STDMETHODCALLTYPE SetClientSite(IOleClientSite* site) override;
     HRESULT STDMETHODCALLTYPE GetClientSite(IOleClientSite** site) override;
-    HRESULT STDMETHODCALLTYPE SetHostNames(LPCOLESTR /*program*/, LPCOLESTR /*object*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SetHostNames(LPCOLESTR /*program*/, LPCOLESTR /*object*/) override {
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE Close(DWORD saveOption) override;
-    HRESULT STDMETHODCALLTYPE SetMoniker(DWORD /*which*/, IMoniker* /*moniker*/) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetMoniker(DWORD /*which*/, IMoniker* /*moniker*/) override {
+        return E_NOTIMPL;
+    }
     HRESULT STDMETHODCALLTYPE GetMoniker(DWORD assign, DWORD which, IMoniker** moniker) override;
-    HRESULT STDMETHODCALLTYPE InitFromData(IDataObject* /*data*/, BOOL /*create*/, DWORD /*reserved*/) override {
+    HRESULT STDMETHODCALLTYPE InitFromData(IDataObject* /*data*/,
+                                           BOOL /*create*/,
+                                           DWORD /*reserved*/) override {
         return E_NOTIMPL;
     }
     HRESULT STDMETHODCALLTYPE GetClipboardData(DWORD reserved, IDataObject** data) override;

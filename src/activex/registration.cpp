@@ -62,7 +62,8 @@ void appendClass(std::vector<Entry>& entries, const RegisteredClass& registered)
     entries.push_back({key + u"\\InprocServer32", u"", modulePath()});
     entries.push_back({key + u"\\InprocServer32", u"ThreadingModel", u"Apartment"});
     entries.push_back({key + u"\\TypeLib", u"", textOfGuid(guidOf("LumtexListView"))});
-    entries.push_back({key + u"\\Version", u"", numberText(typeLibraryMajor) + u"." + numberText(typeLibraryMinor)});
+    entries.push_back(
+        {key + u"\\Version", u"", numberText(typeLibraryMajor) + u"." + numberText(typeLibraryMinor)});
     entries.push_back({key + u"\\Programmable", u"", u""});
     if (!registered.control)
         return;
@@ -89,8 +90,8 @@ const String classesKey = u"Software\\Classes\\";
 
 HRESULT write(HKEY hive, const Entry& entry) {
     HKEY key = nullptr;
-    LSTATUS status = RegCreateKeyExW(
-        hive, wide(classesKey + entry.key), 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr);
+    LSTATUS status =
+        RegCreateKeyExW(hive, wide(classesKey + entry.key), 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr);
     if (status == ERROR_SUCCESS) {
         status = RegSetValueExW(key,
                                 wide(entry.name),
@@ -107,8 +108,9 @@ HRESULT registerLibrary(Registry registry) {
     const String path = modulePath();
     auto* const file = const_cast<wchar_t*>(wide(path));
     const ComRef<ITypeLib> library = typeLibrary();
-    const HRESULT result = registry == Registry::machine ? RegisterTypeLib(library.get(), file, nullptr)
-                                                         : RegisterTypeLibForUser(library.get(), file, nullptr);
+    const HRESULT result = registry == Registry::machine
+                               ? RegisterTypeLib(library.get(), file, nullptr)
+                               : RegisterTypeLibForUser(library.get(), file, nullptr);
     return SUCCEEDED(result) ? S_OK : SELFREG_E_TYPELIB;
 }
 

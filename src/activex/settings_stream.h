@@ -7,8 +7,9 @@
 
 namespace lumtex {
 
-// The stream holds a mark and a version, each 4 bytes, the number of values, and for each value its name, its type
-// and its bytes; fonts and pictures as the system's objects save themselves. All numbers are little-endian.
+// The stream holds a mark and a version, each 4 bytes, the number of values, and for each value its name, its
+// type and its bytes; fonts and pictures as the system's objects save themselves. All numbers are
+// little-endian.
 
 /// Throws RuntimeError 57 where the stream takes no more.
 void saveSettings(IStream& stream, const MemoryPropertyBag& bag);

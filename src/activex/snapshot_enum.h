@@ -11,12 +11,14 @@
 
 namespace lumtex {
 
-/// `Policy` has copy(to, from), which may add references, and clear(item). Starts with one reference, the caller's.
+/// `Policy` has copy(to, from), which may add references, and clear(item). Starts with one reference, the
+/// caller's.
 template <class Interface, class Item, class Policy>
 class SnapshotEnum final : public Interface {
   public:
     /// `items` were made by Policy::copy and belong to the enumerator from now on.
-    explicit SnapshotEnum(std::vector<Item> items, std::size_t next = 0) : items_(std::move(items)), next_(next) {}
+    explicit SnapshotEnum(std::vector<Item> items, std::size_t next = 0)
+        : items_(std::move(items)), next_(next) {}
     SnapshotEnum(const SnapshotEnum&) = delete;
     SnapshotEnum& operator=(const SnapshotEnum&) = delete;
 

@@ -45,7 +45,8 @@ HRESULT ViewFace::Draw(DWORD aspect,
         const SIZE size = core_.size();
         const RECT whole{0, 0, size.cx, size.cy};
         core_.draw(target,
-                   bounds != nullptr ? RECT{bounds->left, bounds->top, bounds->right, bounds->bottom} : whole);
+                   bounds != nullptr ? RECT{bounds->left, bounds->top, bounds->right, bounds->bottom}
+                                     : whole);
         return S_OK;
     });
 }

@@ -30,13 +30,19 @@ class ViewFace final : public Face<IViewObject2> {
                                           LOGPALETTE** /*colors*/) override {
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE Freeze(DWORD /*aspect*/, LONG /*index*/, void* /*info*/, DWORD* /*key*/) override {
+    HRESULT STDMETHODCALLTYPE Freeze(DWORD /*aspect*/,
+                                     LONG /*index*/,
+                                     void* /*info*/,
+                                     DWORD* /*key*/) override {
         return E_NOTIMPL;
     }
     HRESULT STDMETHODCALLTYPE Unfreeze(DWORD /*key*/) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink) override;
     HRESULT STDMETHODCALLTYPE GetAdvise(DWORD* aspects, DWORD* flags, IAdviseSink** sink) override;
-    HRESULT STDMETHODCALLTYPE GetExtent(DWORD aspect, LONG index, DVTARGETDEVICE* device, SIZEL* extent) override;
+    HRESULT STDMETHODCALLTYPE GetExtent(DWORD aspect,
+                                        LONG index,
+                                        DVTARGETDEVICE* device,
+                                        SIZEL* extent) override;
 
   private:
     ControlCore& core_;
@@ -57,12 +63,16 @@ class DataFace final : public Face<IDataObject> {
     }
     HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC* format) override;
     HRESULT STDMETHODCALLTYPE GetCanonicalFormatEtc(FORMATETC* in, FORMATETC* out) override;
-    HRESULT STDMETHODCALLTYPE SetData(FORMATETC* /*format*/, STGMEDIUM* /*medium*/, BOOL /*release*/) override {
+    HRESULT STDMETHODCALLTYPE SetData(FORMATETC* /*format*/,
+                                      STGMEDIUM* /*medium*/,
+                                      BOOL /*release*/) override {
         return E_NOTIMPL;
     }
     HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD direction, IEnumFORMATETC** formats) override;
-    HRESULT STDMETHODCALLTYPE
-    DAdvise(FORMATETC* format, DWORD flags, IAdviseSink* sink, DWORD* cookie) override;
+    HRESULT STDMETHODCALLTYPE DAdvise(FORMATETC* format,
+                                      DWORD flags,
+                                      IAdviseSink* sink,
+                                      DWORD* cookie) override;
     HRESULT STDMETHODCALLTYPE DUnadvise(DWORD cookie) override;
     HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA** advises) override;
 

@@ -1,6 +1,7 @@
 #include "automation/enumeration_table.h"
 #include "automation/member_table.h"
 #include "automation/reference.h"
+#include "folders.h"
 #include "platform/text.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@
 namespace lumtex::testing {
 namespace {
 
-const std::filesystem::path folder = std::filesystem::path(LUMTEX_SOURCE_DIR) / "docs" / "reference";
+const std::filesystem::path folder = std::filesystem::path(sourceFolder()) / "docs" / "reference";
 
 std::string contentOf(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);

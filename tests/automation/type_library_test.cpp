@@ -7,6 +7,7 @@
 #include "automation/interface_types.h"
 #include "automation/record_table.h"
 #include "automation/type_library.h"
+#include "folders.h"
 #include "platform/text.h"
 
 #include <filesystem>
@@ -39,7 +40,7 @@ bool holds(const std::string& text, const std::string& part) {
 }
 
 TEST(TypeLibrary, TheGeneratedFilesInTheTreeAreThoseThatTheTablesGive) {
-    const auto folder = std::filesystem::path(LUMTEX_SOURCE_DIR) / "src" / "activex";
+    const auto folder = std::filesystem::path(sourceFolder()) / "src" / "activex";
     for (const GeneratedFile& file : generatedFiles())
         EXPECT_TRUE(contentOf(folder / file.fileName) == file.text)
             << file.fileName << ": run scripts/reference";

@@ -2,6 +2,7 @@
 ///
 /// LUMTEX_ACCEPT_SCENARIOS=1 writes the logs that came out into the scripts; such a run fails where anything
 /// changed, and what it wrote is to be read before it is committed.
+#include "folders.h"
 #include "headless_stage.h"
 #include "log_comparison.h"
 #include "platform/raster/image_file.h"
@@ -17,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path folder = fs::path(LUMTEX_TEST_DATA) / "scenarios";
+const fs::path folder = fs::path(testFolder()) / "scenarios";
 
 std::vector<fs::path> scripts() {
     std::vector<fs::path> found;
@@ -65,7 +66,7 @@ void saveFilm(const std::vector<Bitmap>& frames, const std::string& name) {
                 film.at(left + x, y) = frame.at(x, y);
         left += first.width + gap;
     }
-    const fs::path out = fs::path(LUMTEX_SOURCE_DIR) / "out" / "film";
+    const fs::path out = fs::path(sourceFolder()) / "out" / "film";
     fs::create_directories(out);
     savePng(film, out / (name + ".png"));
 }

@@ -1,4 +1,5 @@
 /// What the documents promise about the tree.
+#include "folders.h"
 #include "source_tree.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ std::vector<std::string> compiledExample(const SourceFile& program) {
 /// Links to files of the tree, pictures included; those to other sites, and within a page, are left out.
 std::vector<Finding> brokenLinks(const SourceFile& file) {
     static const std::regex link(R"(\]\(([^)#\s]+)[^)]*\))");
-    const std::filesystem::path root = LUMTEX_SOURCE_DIR;
+    const std::filesystem::path root = testing::sourceFolder();
     const std::filesystem::path folder = (root / file.path).parent_path();
     std::vector<Finding> findings;
     for (std::size_t i = 0; i < file.lines.size(); ++i) {

@@ -1,5 +1,7 @@
 #include "source_tree.h"
 
+#include "folders.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -10,7 +12,7 @@ namespace lumtex::source {
 
 namespace {
 
-const std::filesystem::path root = LUMTEX_SOURCE_DIR;
+const std::filesystem::path root = testing::sourceFolder();
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "picture_check.h"
 
+#include "folders.h"
 #include "platform/raster/image_file.h"
 
 #include <algorithm>
@@ -74,7 +75,7 @@ const std::string& ownerOf(const std::string& name, const std::string& place) {
 } // namespace
 
 PictureFolders usualPictureFolders() {
-    const fs::path source = LUMTEX_SOURCE_DIR;
+    const fs::path source = sourceFolder();
     const char* accepted = std::getenv("LUMTEX_ACCEPT_PICTURES");
     return {source / "tests" / "golden", source / "out" / "golden", accepted == nullptr ? "" : accepted};
 }

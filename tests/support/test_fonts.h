@@ -2,6 +2,7 @@
 /// The fonts that all tests draw with.
 #pragma once
 
+#include "folders.h"
 #include "platform/raster/font_library.h"
 
 #include <memory>
@@ -9,7 +10,7 @@
 namespace lumtex::testing {
 
 inline std::shared_ptr<raster::FontLibrary> testFonts() {
-    static const auto fonts = raster::FontLibrary::fromConfiguration(LUMTEX_TEST_DATA "/fonts/fonts.conf");
+    static const auto fonts = raster::FontLibrary::fromConfiguration(testFolder() + "/fonts/fonts.conf");
     return fonts;
 }
 
