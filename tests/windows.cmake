@@ -40,7 +40,11 @@ endfunction()
 # The conversions are the same everywhere, and the compiler's library is another one.
 lumtex_tests(platform LINK lumtex_platform)
 lumtex_tests(win32 LINK lumtex_control lumtex_test_raster lumtex_win32)
-lumtex_tests(activex LINK lumtex_automation lumtex_win32)
+if(TARGET LumtexListView)
+    lumtex_tests(activex LINK lumtex_automation lumtex_win32)
+    add_dependencies(lumtex_test_activex LumtexListView)
+    add_test(NAME component COMMAND "${PROJECT_SOURCE_DIR}/scripts/check-component" $<TARGET_FILE:LumtexListView>)
+endif()
 
 get_property(programs GLOBAL PROPERTY LUMTEX_TEST_PROGRAMS)
 list(JOIN programs "\n" programs)

@@ -41,7 +41,6 @@ HRESULT ControlCore::activateInPlace(IOleInPlaceSite& site) {
     SetParent(window(), container);
     letRects(place, clip);
     list().window().letVisible(true);
-    ShowWindow(window(), SW_SHOWNA);
     if (!std::exchange(painted_, true))
         list().Redraw();
     if (host_.site() != nullptr)
@@ -98,8 +97,8 @@ HRESULT ControlCore::deactivate() {
     deactivateUI();
     if (!std::exchange(inPlaceActive_, false))
         return S_OK;
-    ShowWindow(window(), SW_HIDE);
-    SetParent(window(), park_);
+    list_->window().letVisible(false);
+    SetParent(window(), HWND_MESSAGE);
     frame_ = {};
     uiWindow_ = {};
     if (const auto site = queryFor<IOleInPlaceSite>(host_.site()))

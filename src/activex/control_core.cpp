@@ -24,7 +24,6 @@ ControlCore::ControlCore(IUnknown& outer, IConnectionPointContainer& points)
       notifyPoint_(points, IID_IPropertyNotifySink), events_(eventPoint_), world_(moduleInstance()),
       list_(std::make_unique<lmListView>(world_, host_, events_)) {
     host_.onPropertyChanged = [this](StringView name) { propertyChanged(name); };
-    park_ = GetParent(window());
 }
 
 ControlCore::~ControlCore() {

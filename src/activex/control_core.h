@@ -87,7 +87,6 @@ class ControlCore final : public AutomationTarget {
     bool dirty_ = false;
     bool inPlaceActive_ = false;
     bool uiActive_ = false;
-    HWND park_ = nullptr; ///< where the window lies while no container shows it
     ComRef<IOleInPlaceFrame> frame_;
     ComRef<IOleInPlaceUIWindow> uiWindow_;
     ComRef<IOleAdviseHolder> adviseHolder_;

@@ -2,8 +2,6 @@
 #include "activex/control_core.h"
 #include "platform/runtime_error.h"
 
-#include <vector>
-
 namespace lumtex {
 
 namespace {
@@ -50,27 +48,6 @@ class PrintSheet {
     HGDIOBJ before_ = nullptr;
 };
 
-/// A window and what lies in it, from the lowest to the highest. `origin` is where the window lies on the
-/// sheet.
-void print(HWND window, HDC sheet, POINT origin) {
-    const int saved = SaveDC(sheet);
-    SetWindowOrgEx(sheet, -origin.x, -origin.y, nullptr);
-    RECT size{};
-    GetClientRect(window, &size);
-    IntersectClipRect(sheet, 0, 0, size.right, size.bottom);
-    SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(sheet), PRF_CLIENT | PRF_ERASEBKGND);
-    const HWND top = GetWindow(window, GW_CHILD);
-    for (HWND child = top != nullptr ? GetWindow(top, GW_HWNDLAST) : nullptr; child != nullptr;
-         child = GetWindow(child, GW_HWNDPREV)) {
-        if ((GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) == 0)
-            continue;
-        POINT corner{0, 0};
-        MapWindowPoints(child, window, &corner, 1);
-        print(child, sheet, {origin.x + corner.x, origin.y + corner.y});
-    }
-    RestoreDC(sheet, saved);
-}
-
 } // namespace
 
 void ControlCore::draw(HDC target, const RECT& bounds) {
@@ -81,7 +58,8 @@ void ControlCore::draw(HDC target, const RECT& bounds) {
     if (pixels.cx <= 0 || pixels.cy <= 0)
         return;
     const PrintSheet sheet(pixels.cx, pixels.cy);
-    print(window(), sheet.dc(), {0, 0});
+    SendMessageW(
+        window(), WM_PRINT, reinterpret_cast<WPARAM>(sheet.dc()), PRF_CLIENT | PRF_CHILDREN | PRF_ERASEBKGND);
     GdiFlush();
     BITMAPINFO info{};
     info.bmiHeader = PrintSheet::header(pixels.cx, pixels.cy);

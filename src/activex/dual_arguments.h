@@ -30,8 +30,8 @@ inline Variant dualArgument(short value) {
 inline Variant dualArgument(long value) {
     return static_cast<Long>(value);
 }
-inline Variant dualArgument(unsigned long color) {
-    return static_cast<OLE_COLOR>(color);
+inline Variant dualArgument(OLE_COLOR color) {
+    return color;
 }
 inline Variant dualArgument(float value) {
     return value;
@@ -65,7 +65,7 @@ inline void storeResult(const Variant& value, short& place) {
 inline void storeResult(const Variant& value, long& place) {
     place = value.toLong();
 }
-inline void storeResult(const Variant& value, unsigned long& place) {
+inline void storeResult(const Variant& value, OLE_COLOR& place) {
     place = value.toColor();
 }
 inline void storeResult(const Variant& value, float& place) {

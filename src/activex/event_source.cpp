@@ -23,7 +23,7 @@ void tell(IDispatch* sink,
           DISPID number,
           std::index_sequence<places...> /*all*/,
           const Arguments&... arguments) {
-    const ReferenceForm form = formFor(sink);
+    [[maybe_unused]] const ReferenceForm form = formFor(sink);
     std::tuple<EventSlot<Arguments>...> slots{Passed<Arguments>{arguments, form}...};
     constexpr std::size_t count = sizeof...(Arguments);
     std::array<VARIANT, count + 1> reversed{std::get<count - 1 - places>(slots).asArgument()...};

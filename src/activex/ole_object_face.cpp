@@ -75,7 +75,7 @@ HRESULT OleObjectFace::DoVerb(LONG verb,
             return core.activate(true, control_.activeObject(), control_.inPlaceObject());
         case OLEIVERB_HIDE:
             core.deactivateUI();
-            ShowWindow(core.window(), SW_HIDE);
+            core.list().window().letVisible(false);
             return S_OK;
         case OLEIVERB_OPEN:
         case OLEIVERB_DISCARDUNDOSTATE:

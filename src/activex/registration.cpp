@@ -52,6 +52,38 @@ String help(const RegisteredClass& registered) {
     return String(textOf(registered.help));
 }
 
+struct RegisteredInterface {
+    std::string_view name;
+    bool events;
+};
+
+constexpr RegisteredInterface interfaces[] = {
+    {"_lmListView", false},
+    {"__lmListView", true},
+    {"_SpEv", false},
+    {"_Error", false},
+};
+
+String keyOf(const RegisteredInterface& registered) {
+    return u"Interface\\" + textOfGuid(guidOf(registered.name));
+}
+
+String libraryKey() {
+    return u"TypeLib\\" + textOfGuid(guidOf("LumtexListView"));
+}
+
+String libraryVersion() {
+    return numberText(typeLibraryMajor) + u"." + numberText(typeLibraryMinor);
+}
+
+/// Programs of both widths share the entries of the library, but for this one.
+String filesKey() {
+    return libraryKey() + u"\\" + libraryVersion() + u"\\0";
+}
+String ownFileKey() {
+    return filesKey() + (sizeof(void*) == 8 ? u"\\win64" : u"\\win32");
+}
+
 void appendClass(std::vector<Entry>& entries, const RegisteredClass& registered) {
     const String key = keyOf(registered);
     const String programId = programIdOf(registered);
@@ -62,8 +94,7 @@ void appendClass(std::vector<Entry>& entries, const RegisteredClass& registered)
     entries.push_back({key + u"\\InprocServer32", u"", modulePath()});
     entries.push_back({key + u"\\InprocServer32", u"ThreadingModel", u"Apartment"});
     entries.push_back({key + u"\\TypeLib", u"", textOfGuid(guidOf("LumtexListView"))});
-    entries.push_back(
-        {key + u"\\Version", u"", numberText(typeLibraryMajor) + u"." + numberText(typeLibraryMinor)});
+    entries.push_back({key + u"\\Version", u"", libraryVersion()});
     entries.push_back({key + u"\\Programmable", u"", u""});
     if (!registered.control)
         return;
@@ -75,10 +106,30 @@ void appendClass(std::vector<Entry>& entries, const RegisteredClass& registered)
     entries.push_back({key + u"\\ToolboxBitmap32", u"", modulePath() + u", 102"});
 }
 
+void appendLibrary(std::vector<Entry>& entries) {
+    const String version = libraryKey() + u"\\" + libraryVersion();
+    const String path = modulePath();
+    entries.push_back({version, u"", u"LumtexListView, a list of rows and columns"});
+    entries.push_back({version + u"\\FLAGS", u"", u"0"});
+    entries.push_back({version + u"\\HELPDIR", u"", path.substr(0, path.find_last_of(u'\\'))});
+    entries.push_back({ownFileKey(), u"", path});
+    for (const RegisteredInterface& registered : interfaces) {
+        const String key = keyOf(registered);
+        // The system's own marshallers, by the type library.
+        const String marshaller = registered.events ? u"{00020420-0000-0000-C000-000000000046}"
+                                                    : u"{00020424-0000-0000-C000-000000000046}";
+        entries.push_back({key, u"", wideName(registered.name)});
+        entries.push_back({key + u"\\ProxyStubClsid32", u"", marshaller});
+        entries.push_back({key + u"\\TypeLib", u"", textOfGuid(guidOf("LumtexListView"))});
+        entries.push_back({key + u"\\TypeLib", u"Version", libraryVersion()});
+    }
+}
+
 std::vector<Entry> allEntries() {
     std::vector<Entry> entries;
     for (const RegisteredClass& registered : classes)
         appendClass(entries, registered);
+    appendLibrary(entries);
     return entries;
 }
 
@@ -104,26 +155,6 @@ HRESULT write(HKEY hive, const Entry& entry) {
     return status == ERROR_SUCCESS ? S_OK : SELFREG_E_CLASS;
 }
 
-HRESULT registerLibrary(Registry registry) {
-    const String path = modulePath();
-    auto* const file = const_cast<wchar_t*>(wide(path));
-    const ComRef<ITypeLib> library = typeLibrary();
-    const HRESULT result = registry == Registry::machine
-                               ? RegisterTypeLib(library.get(), file, nullptr)
-                               : RegisterTypeLibForUser(library.get(), file, nullptr);
-    return SUCCEEDED(result) ? S_OK : SELFREG_E_TYPELIB;
-}
-
-HRESULT unregisterLibrary(Registry registry) {
-    const GUID id = guidOf("LumtexListView");
-    constexpr SYSKIND kind = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
-    const HRESULT result =
-        registry == Registry::machine
-            ? UnRegisterTypeLib(id, typeLibraryMajor, typeLibraryMinor, LOCALE_NEUTRAL, kind)
-            : UnRegisterTypeLibForUser(id, typeLibraryMajor, typeLibraryMinor, LOCALE_NEUTRAL, kind);
-    return SUCCEEDED(result) || result == TYPE_E_REGISTRYACCESS ? S_OK : SELFREG_E_TYPELIB;
-}
-
 HRESULT removeTree(HKEY hive, const String& key) {
     const LSTATUS status = RegDeleteTreeW(hive, wide(classesKey + key));
     return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND ? S_OK : SELFREG_E_CLASS;
@@ -136,7 +167,7 @@ HRESULT registerComponent(Registry registry) noexcept {
         for (const Entry& entry : allEntries())
             if (const HRESULT written = write(hiveOf(registry), entry); FAILED(written))
                 return written;
-        return registerLibrary(registry);
+        return S_OK;
     });
     if (FAILED(result))
         unregisterComponent(registry);
@@ -145,13 +176,24 @@ HRESULT registerComponent(Registry registry) noexcept {
 
 HRESULT unregisterComponent(Registry registry) noexcept {
     return guarded([&]() -> HRESULT {
+        const HKEY hive = hiveOf(registry);
+        std::vector<String> trees;
+        for (const RegisteredClass& registered : classes) {
+            trees.push_back(keyOf(registered));
+            trees.push_back(programIdOf(registered));
+        }
+        for (const RegisteredInterface& registered : interfaces)
+            trees.push_back(keyOf(registered));
+        trees.push_back(ownFileKey());
         HRESULT result = S_OK;
-        for (const RegisteredClass& registered : classes)
-            for (const String& key : {keyOf(registered), programIdOf(registered)})
-                if (const HRESULT removed = removeTree(hiveOf(registry), key); FAILED(removed))
-                    result = removed;
-        const HRESULT library = unregisterLibrary(registry);
-        return FAILED(result) ? result : library;
+        for (const String& tree : trees)
+            if (const HRESULT removed = removeTree(hive, tree); FAILED(removed))
+                result = removed;
+        // Goes only while no file of the other width stands in it.
+        if (RegDeleteKeyW(hive, wide(classesKey + filesKey())) == ERROR_SUCCESS)
+            if (const HRESULT removed = removeTree(hive, libraryKey()); FAILED(removed))
+                result = removed;
+        return result;
     });
 }
 

@@ -17,6 +17,4 @@ void saveSettings(IStream& stream, const MemoryPropertyBag& bag);
 /// Throws RuntimeError 321 for a stream that was not written by `saveSettings`, or that ends too early.
 void loadSettings(IStream& stream, MemoryPropertyBag& bag);
 
-constexpr Long invalidFileFormat = 321;
-
 } // namespace lumtex

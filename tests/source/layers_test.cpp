@@ -67,6 +67,19 @@ std::vector<Finding> databaseReachesOut(const SourceFile& file) {
     return findings;
 }
 
+std::vector<Finding> componentReachesOut(const SourceFile& file) {
+    std::vector<Finding> findings;
+    for (const Include& include : includesOf(file)) {
+        const bool inReach = include.name.starts_with("activex/") ||
+                             include.name.starts_with("automation/") ||
+                             include.name.starts_with("platform/win32/") || isLogic(include.name) ||
+                             isAbstractLayer(include.name);
+        if (!include.angled && !inReach)
+            findings.push_back({file.path, include.line, include.name + " is out of reach for this folder"});
+    }
+    return findings;
+}
+
 /// All of the logic; a folder that is not there yet has nothing to break.
 std::vector<SourceFile> logicFiles() {
     std::vector<SourceFile> files = readTree("src", {".h", ".cpp"});
@@ -112,6 +125,19 @@ TEST(Automation, IsCaughtAtABackend) {
                             "#include \"platform/headless/desktop.h\"\n");
     EXPECT_EQ(report(automationReachesOut(sample)),
               "src/automation/sample.cpp:3: platform/headless/desktop.h is out of reach for this folder\n");
+}
+
+TEST(Component, SeesTheInterfaceAndItsOwnBackend) {
+    EXPECT_EQ(offenders(readTree("src/activex", {".h", ".cpp"}), componentReachesOut), "");
+}
+
+TEST(Component, IsCaughtAtAnotherBackend) {
+    const SourceFile sample("src/activex/sample.cpp",
+                            "#include \"platform/win32/com_ref.h\"\n"
+                            "#include <olectl.h>\n"
+                            "#include \"platform/headless/desktop.h\"\n");
+    EXPECT_EQ(report(componentReachesOut(sample)),
+              "src/activex/sample.cpp:3: platform/headless/desktop.h is out of reach for this folder\n");
 }
 
 TEST(AbstractLayer, IncludesOnlyItself) {

@@ -1,0 +1,32 @@
+# The component: LumtexListView.ocx, from the sources of this folder and its generated type library.
+enable_language(RC)
+
+set(type_library "${CMAKE_CURRENT_BINARY_DIR}/lumtex_list_view.tlb")
+set(activex_folder "${CMAKE_CURRENT_SOURCE_DIR}/activex")
+math(EXPR pointer_bits "${CMAKE_SIZEOF_VOID_P} * 8")
+find_file(
+    LUMTEX_STDOLE2 stdole2.tlb
+    PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-windows
+    NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+get_filename_component(stdole2_folder "${LUMTEX_STDOLE2}" DIRECTORY)
+add_custom_command(
+    OUTPUT "${type_library}"
+    COMMAND ${LUMTEX_WIDL} -m${pointer_bits} -I "${activex_folder}" -L "${stdole2_folder}" -t -o "${type_library}"
+            "${activex_folder}/lumtex_list_view.idl"
+    DEPENDS "${activex_folder}/lumtex_list_view.idl" "${activex_folder}/base_types.idl"
+    COMMENT "Type library"
+    VERBATIM)
+
+configure_file(activex/component.rc.in "${CMAKE_CURRENT_BINARY_DIR}/component.rc" @ONLY)
+set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/component.rc"
+                            PROPERTIES OBJECT_DEPENDS "${type_library};${activex_folder}/toolbox.bmp")
+
+file(GLOB activex_sources CONFIGURE_DEPENDS activex/*.cpp)
+file(GLOB activex_headers CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" activex/*.h)
+add_library(LumtexListView SHARED ${activex_sources} activex/lumtex_list_view.def
+                                  "${CMAKE_CURRENT_BINARY_DIR}/component.rc" "${type_library}")
+set_target_properties(LumtexListView PROPERTIES PREFIX "" SUFFIX ".ocx")
+target_link_libraries(LumtexListView PRIVATE lumtex_automation lumtex_win32)
+target_link_options(LumtexListView PRIVATE -Wl,--enable-stdcall-fixup)
+target_precompile_headers(LumtexListView REUSE_FROM lumtex_precompiled)
+lumtex_headers_alone(LumtexListView ${activex_headers})

@@ -1,0 +1,197 @@
+/// \file
+/// A container with one site and a window.
+#pragma once
+
+#include "component.h"
+
+#include <map>
+
+namespace lumtex::testing {
+
+/// Answers ambient properties, places the control, and notes what it is told.
+class SmallContainer final : public IOleClientSite,
+                             public IOleInPlaceSite,
+                             public IOleInPlaceFrame,
+                             public IOleControlSite,
+                             public IDispatch {
+  public:
+    SmallContainer()
+        : window(CreateWindowExW(
+              0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 500, 400, nullptr, nullptr, nullptr, nullptr)) {
+    }
+    SmallContainer(const SmallContainer&) = delete;
+    SmallContainer& operator=(const SmallContainer&) = delete;
+    ~SmallContainer() { DestroyWindow(window); }
+
+    HWND window;
+    RECT place{10, 20, 210, 170};
+    std::map<DISPID, Variant> ambients;
+    std::vector<std::string> told;
+    ULONG references = 1;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
+        *found = nullptr;
+        if (IsEqualIID(iid, IID_IUnknown) || IsEqualIID(iid, IID_IOleClientSite))
+            *found = static_cast<IOleClientSite*>(this);
+        else if (IsEqualIID(iid, IID_IOleInPlaceSite) || IsEqualIID(iid, IID_IOleWindow))
+            *found = static_cast<IOleInPlaceSite*>(this);
+        else if (IsEqualIID(iid, IID_IOleControlSite))
+            *found = static_cast<IOleControlSite*>(this);
+        else if (IsEqualIID(iid, IID_IDispatch))
+            *found = static_cast<IDispatch*>(this);
+        if (*found == nullptr)
+            return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+    ULONG STDMETHODCALLTYPE Release() override { return --references; }
+
+    // IOleClientSite
+    HRESULT STDMETHODCALLTYPE SaveObject() override { return note("SaveObject"); }
+    HRESULT STDMETHODCALLTYPE GetMoniker(DWORD /*assign*/, DWORD /*which*/, IMoniker** /*moniker*/) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer** container) override {
+        *container = nullptr;
+        return E_NOINTERFACE;
+    }
+    HRESULT STDMETHODCALLTYPE ShowObject() override { return note("ShowObject"); }
+    HRESULT STDMETHODCALLTYPE OnShowWindow(BOOL /*show*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE RequestNewObjectLayout() override { return E_NOTIMPL; }
+
+    // IOleInPlaceSite
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* found) override {
+        *found = window;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE CanInPlaceActivate() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnInPlaceActivate() override { return note("OnInPlaceActivate"); }
+    HRESULT STDMETHODCALLTYPE OnUIActivate() override { return note("OnUIActivate"); }
+    HRESULT STDMETHODCALLTYPE GetWindowContext(IOleInPlaceFrame** frame,
+                                               IOleInPlaceUIWindow** document,
+                                               LPRECT position,
+                                               LPRECT clip,
+                                               LPOLEINPLACEFRAMEINFO info) override {
+        *frame = this;
+        AddRef();
+        *document = nullptr;
+        *position = place;
+        GetClientRect(window, clip);
+        info->fMDIApp = FALSE;
+        info->hwndFrame = window;
+        info->haccel = nullptr;
+        info->cAccelEntries = 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Scroll(SIZE /*extent*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnUIDeactivate(BOOL /*undoable*/) override { return note("OnUIDeactivate"); }
+    HRESULT STDMETHODCALLTYPE OnInPlaceDeactivate() override { return note("OnInPlaceDeactivate"); }
+    HRESULT STDMETHODCALLTYPE DiscardUndoState() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE DeactivateAndUndo() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnPosRectChange(LPCRECT /*position*/) override { return S_OK; }
+
+    // IOleInPlaceFrame
+    HRESULT STDMETHODCALLTYPE GetBorder(LPRECT /*border*/) override { return INPLACE_E_NOTOOLSPACE; }
+    HRESULT STDMETHODCALLTYPE RequestBorderSpace(LPCBORDERWIDTHS /*widths*/) override {
+        return INPLACE_E_NOTOOLSPACE;
+    }
+    HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS /*widths*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR /*name*/) override {
+        active = ComRef<IOleInPlaceActiveObject>(object);
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE InsertMenus(HMENU /*menu*/, LPOLEMENUGROUPWIDTHS /*widths*/) override {
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE SetMenu(HMENU /*menu*/, HOLEMENU /*shared*/, HWND /*window*/) override {
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU /*menu*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR /*text*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL /*enable*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG /*message*/, WORD /*id*/) override {
+        return S_FALSE;
+    }
+
+    // IOleControlSite
+    HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL /*lock*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** control) override {
+        *control = nullptr;
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE TransformCoords(POINTL* /*himetric*/,
+                                              POINTF* /*own*/,
+                                              DWORD /*flags*/) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG* message, DWORD /*modifiers*/) override {
+        note("TranslateAccelerator " + std::to_string(message->wParam));
+        return S_FALSE;
+    }
+    HRESULT STDMETHODCALLTYPE OnFocus(BOOL /*got*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override { return E_NOTIMPL; }
+
+    // IDispatch
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
+        *count = 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT /*index*/, LCID /*locale*/, ITypeInfo** /*info*/) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(
+        REFIID /*iid*/, LPOLESTR* /*names*/, UINT /*count*/, LCID /*locale*/, DISPID* /*ids*/) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id,
+                                     REFIID /*iid*/,
+                                     LCID /*locale*/,
+                                     WORD /*kind*/,
+                                     DISPPARAMS* /*parameters*/,
+                                     VARIANT* result,
+                                     EXCEPINFO* /*details*/,
+                                     UINT* /*wrongArgument*/) override {
+        const auto found = ambients.find(id);
+        if (found == ambients.end())
+            return DISP_E_MEMBERNOTFOUND;
+        *result = toVARIANT(found->second).release();
+        return S_OK;
+    }
+
+    ComRef<IOleInPlaceActiveObject> active;
+
+  private:
+    HRESULT note(const std::string& what) {
+        told.push_back(what);
+        return S_OK;
+    }
+};
+
+/// A container's bag.
+class MapBag final : public IPropertyBag {
+  public:
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID /*iid*/, void** found) override {
+        *found = nullptr;
+        return E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+    HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) override {
+        const auto found = values.find(String(textOf(name)));
+        if (found == values.end())
+            return E_INVALIDARG;
+        *value = toVARIANT(found->second).release();
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Write(LPCOLESTR name, VARIANT* value) override {
+        values[String(textOf(name))] = fromVARIANT(*value);
+        return S_OK;
+    }
+
+    std::map<String, Variant> values;
+};
+
+} // namespace lumtex::testing

@@ -1,0 +1,263 @@
+/// The type library inside the component, and calls through the table of functions that it describes.
+#include "automation/class_table.h"
+#include "automation/enumeration_table.h"
+#include "automation/event_table.h"
+#include "automation/interface_types.h"
+#include "automation/record_table.h"
+#include "component.h"
+
+#include <array>
+
+namespace lumtex::testing {
+namespace {
+
+String nameOf(ITypeInfo* info, MEMBERID member) {
+    BSTR name = nullptr;
+    demand(info->GetDocumentation(member, &name, nullptr, nullptr, nullptr));
+    String text(viewBSTR(name));
+    SysFreeString(name);
+    return text;
+}
+
+class TypeLibrary : public ListFixture {
+  protected:
+    TypeLibrary() {
+        std::array<wchar_t, 1024> path{};
+        GetModuleFileNameW(component.module(), path.data(), static_cast<DWORD>(path.size()));
+        demand(LoadTypeLibEx(path.data(), REGKIND_NONE, library.out()));
+    }
+
+    ComRef<ITypeInfo> type(std::string_view name) {
+        ComRef<ITypeInfo> info;
+        demand(library->GetTypeInfoOfGuid(guidOf(name), info.out()));
+        return info;
+    }
+    /// The dual interface as a table of functions.
+    ComRef<ITypeInfo> tableOf(std::string_view name) {
+        const ComRef<ITypeInfo> info = type(name);
+        HREFTYPE reference = 0;
+        ComRef<ITypeInfo> table;
+        demand(info->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
+        demand(info->GetRefTypeInfo(reference, table.out()));
+        return table;
+    }
+    /// Calls the entry `place`, from 0, of a dual interface.
+    HRESULT callEntry(IUnknown* object, std::size_t place, std::vector<VARIANT> arguments) {
+        std::vector<VARTYPE> types;
+        std::vector<VARIANTARG*> pointers;
+        for (VARIANT& argument : arguments) {
+            types.push_back(V_VT(&argument));
+            pointers.push_back(&argument);
+        }
+        OwnedVARIANT result;
+        const std::size_t offset = (7 + place) * sizeof(void*);
+        demand(DispCallFunc(object,
+                            offset,
+                            CC_STDCALL,
+                            VT_ERROR,
+                            static_cast<UINT>(arguments.size()),
+                            types.data(),
+                            pointers.data(),
+                            result.out()));
+        return V_ERROR(&result.get());
+    }
+    static std::size_t placeOf(const ClassDescription& of, StringView name, InterfaceEntry::Kind kind) {
+        const auto entries = interfaceEntries(of.members);
+        std::size_t place = 0;
+        while (entries.at(place).member->name != name || entries.at(place).kind != kind)
+            ++place;
+        return place;
+    }
+
+    ComRef<ITypeLib> library;
+};
+
+VARIANT pointerTo(void* place) {
+    VARIANT argument;
+    VariantInit(&argument);
+    V_VT(&argument) = VT_BYREF | VT_I4;
+    V_BYREF(&argument) = place;
+    return argument;
+}
+
+INVOKEKIND kindOf(const InterfaceEntry& entry) {
+    using enum InterfaceEntry::Kind;
+    switch (entry.kind) {
+    case get:
+        return INVOKE_PROPERTYGET;
+    case let:
+        return INVOKE_PROPERTYPUT;
+    case set:
+        return INVOKE_PROPERTYPUTREF;
+    default:
+        return INVOKE_FUNC;
+    }
+}
+
+TEST_F(TypeLibrary, EachDualInterfaceHasTheEntriesOfTheTableAtTheirPlaces) {
+    for (const ClassDescription& description : classTable()) {
+        const ComRef<ITypeInfo> table = tableOf("_" + toUtf8(description.name));
+        TYPEATTR* attributes = nullptr;
+        demand(table->GetTypeAttr(&attributes));
+        const auto entries = interfaceEntries(description.members);
+        EXPECT_EQ(attributes->cFuncs, entries.size()) << toUtf8(description.name);
+        table->ReleaseTypeAttr(attributes);
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            FUNCDESC* function = nullptr;
+            demand(table->GetFuncDesc(static_cast<UINT>(i), &function));
+            EXPECT_EQ(nameOf(table.get(), function->memid), entries[i].member->name);
+            EXPECT_EQ(function->memid, entries[i].member->number);
+            EXPECT_EQ(function->invkind, kindOf(entries[i])) << toUtf8(entries[i].member->name);
+            EXPECT_EQ(static_cast<std::size_t>(function->oVft), (7 + i) * sizeof(void*));
+            table->ReleaseFuncDesc(function);
+        }
+    }
+}
+
+TEST_F(TypeLibrary, EachEnumerationHasItsMembersAndNumbers) {
+    for (const Enumeration& enumeration : enumerationTable) {
+        const ComRef<ITypeInfo> info = type(toUtf8(enumeration.name));
+        UINT i = 0;
+        for (const Enumerator& enumerator : enumeration.enumerators()) {
+            VARDESC* variable = nullptr;
+            ASSERT_EQ(info->GetVarDesc(i++, &variable), S_OK) << toUtf8(enumeration.name);
+            EXPECT_EQ(nameOf(info.get(), variable->memid), enumerator.name);
+            EXPECT_EQ(V_I4(variable->lpvarValue), enumerator.number) << toUtf8(enumerator.name);
+            info->ReleaseVarDesc(variable);
+        }
+    }
+}
+
+TEST_F(TypeLibrary, TheEventsStandInTheirOrder) {
+    const ComRef<ITypeInfo> info = type("__lmListView");
+    MEMBERID number = 0;
+    for (const EventDescription& event : eventTable)
+        EXPECT_EQ(nameOf(info.get(), ++number), event.name);
+}
+
+TEST_F(TypeLibrary, TheRecordHasItsFields) {
+    const ComRef<ITypeInfo> info = type("FindResults");
+    for (UINT i = 0; i < findResultsFields.size(); ++i) {
+        VARDESC* variable = nullptr;
+        ASSERT_EQ(info->GetVarDesc(i, &variable), S_OK);
+        EXPECT_EQ(nameOf(info.get(), variable->memid), findResultsFields[i].name);
+        info->ReleaseVarDesc(variable);
+    }
+}
+
+TEST_F(TypeLibrary, TheControlTellsItsClassAndItsEvents) {
+    ComRef<ITypeInfo> info;
+    ASSERT_EQ(control.as<IProvideClassInfo>()->GetClassInfo(info.out()), S_OK);
+    EXPECT_EQ(nameOf(info.get(), MEMBERID_NIL), u"lmListView");
+    GUID events{};
+    ASSERT_EQ(control.as<IProvideClassInfo2>()->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events), S_OK);
+    EXPECT_TRUE(IsEqualGUID(events, guidOf("__lmListView")));
+}
+
+TEST_F(TypeLibrary, EveryEntryThatGivesARefusesANullPlace) {
+    std::size_t place = 0;
+    int walked = 0;
+    for (const InterfaceEntry& entry : interfaceEntries(listViewClass().members)) {
+        const std::size_t at = place++;
+        if (entry.kind != InterfaceEntry::Kind::get || entry.member->count != 0)
+            continue;
+        EXPECT_EQ(callEntry(dispatch.get(), at, {pointerTo(nullptr)}), E_POINTER)
+            << toUtf8(entry.member->name);
+        ++walked;
+    }
+    EXPECT_GT(walked, 70);
+}
+
+TEST_F(TypeLibrary, PropertiesAreReadAndAssignedThroughTheTable) {
+    using enum InterfaceEntry::Kind;
+    const auto& of = listViewClass();
+    VARIANT on;
+    VariantInit(&on);
+    V_VT(&on) = VT_BOOL;
+    V_BOOL(&on) = VARIANT_TRUE;
+    EXPECT_EQ(callEntry(dispatch.get(), placeOf(of, u"GridLines", let), {on}), S_OK);
+    VARIANT_BOOL read = VARIANT_FALSE;
+    EXPECT_EQ(callEntry(dispatch.get(), placeOf(of, u"GridLines", get), {pointerTo(&read)}), S_OK);
+    EXPECT_EQ(read, VARIANT_TRUE);
+    float indent = 0;
+    EXPECT_EQ(callEntry(dispatch.get(), placeOf(of, u"IndentTop", get), {pointerTo(&indent)}), S_OK);
+    EXPECT_EQ(indent, 3.0F);
+}
+
+TEST_F(TypeLibrary, RowsAreAddedThroughTheTableAndThePlaceComesBack) {
+    fill(1, {u"a"});
+    VARIANT place;
+    VariantInit(&place);
+    V_VT(&place) = VT_I4;
+    V_I4(&place) = 99;
+    OwnedVARIANT split = toVARIANT(Variant(u","));
+    OwnedVARIANT texts = toVARIANT(Variant(u"b"));
+    EXPECT_EQ(callEntry(dispatch.get(),
+                        placeOf(listViewClass(), u"RowsAdd", InterfaceEntry::Kind::call),
+                        {pointerTo(&place), split.get(), texts.get()}),
+              S_OK);
+    EXPECT_EQ(V_I4(&place), 1);
+    EXPECT_EQ(get(L"ItemText", {Long{2}, Long{1}}), Variant(u"b"));
+}
+
+TEST_F(TypeLibrary, EarlyBoundCallersGetTheRecordOfASearch) {
+    fill(1, {u"a", u"b"});
+    struct {
+        VARIANT_BOOL FindSuccessful = VARIANT_FALSE;
+        long FindRow = 0;
+        long FindColumn = 0;
+    } record;
+    BSTR pattern = newBSTR(u"b");
+    BSTR columns = nullptr;
+    BSTR rows = newBSTR(u"");
+    long begin = 0;
+    long compare = 0;
+    EXPECT_EQ(callEntry(dispatch.get(),
+                        placeOf(listViewClass(), u"FindItem", InterfaceEntry::Kind::call),
+                        {pointerTo(&pattern),
+                         pointerTo(&begin),
+                         pointerTo(&compare),
+                         pointerTo(&columns),
+                         pointerTo(&rows),
+                         pointerTo(&record)}),
+              S_OK);
+    EXPECT_EQ(record.FindSuccessful, VARIANT_TRUE);
+    EXPECT_EQ(record.FindRow, 2);
+    EXPECT_EQ(viewBSTR(columns), u"*") << "an empty list of columns becomes all of them at the caller's";
+    EXPECT_EQ(viewBSTR(rows), u"*");
+    SysFreeString(pattern);
+    SysFreeString(columns);
+    SysFreeString(rows);
+}
+
+TEST_F(TypeLibrary, ANullPlaceForAByReferenceArgumentIsRefused) {
+    OwnedVARIANT split = toVARIANT(Variant(u","));
+    OwnedVARIANT texts = toVARIANT(Variant(u"b"));
+    EXPECT_EQ(callEntry(dispatch.get(),
+                        placeOf(listViewClass(), u"RowsAdd", InterfaceEntry::Kind::call),
+                        {pointerTo(nullptr), split.get(), texts.get()}),
+              E_POINTER);
+}
+
+TEST_F(TypeLibrary, AFailureOfATableCallLeavesItsText) {
+    OwnedVARIANT split = toVARIANT(Variant(u","));
+    SAFEARRAY* words = SafeArrayCreateVector(VT_BSTR, 0, 1);
+    VARIANT index;
+    VariantInit(&index);
+    V_VT(&index) = VT_ARRAY | VT_BSTR;
+    V_ARRAY(&index) = words;
+    EXPECT_EQ(callEntry(dispatch.get(),
+                        placeOf(listViewClass(), u"RowsAdd", InterfaceEntry::Kind::call),
+                        {pointerTo(&index), split.get(), split.get()}),
+              DISP_E_TYPEMISMATCH);
+    ComRef<IErrorInfo> info;
+    ASSERT_EQ(GetErrorInfo(0, info.out()), S_OK);
+    BSTR text = nullptr;
+    EXPECT_EQ(info->GetDescription(&text), S_OK);
+    EXPECT_EQ(viewBSTR(text), u"Type mismatch");
+    SysFreeString(text);
+    SafeArrayDestroy(words);
+}
+
+} // namespace
+} // namespace lumtex::testing
