@@ -69,6 +69,7 @@ void WholeRecordSaving::encode(const CellStyle& style) {
 const WholeRecordSaving::Look& WholeRecordSaving::lookOf(StyleHandle style) {
     if (!look_.style || look_.style->handle() != style) {
         CellStyles& styles = CellStyles::ofThread();
+        look_.style.reset();
         encode(styles[style]);
         styles.addReference(style);
         look_.style.emplace(style);

@@ -27,6 +27,23 @@ TEST_F(Accessors, ClearingColumnsLeavesTheRowsAlone) {
     EXPECT_EQ(list.ItemText(1, 2), u"b");
 }
 
+TEST_F(Accessors, ATagThatIsTheEmptyTextIsNeitherEmptyNorLost) {
+    addColumns({50});
+    addRows(2);
+    const Variant emptyText(u"");
+    for (const Variant& before : {Variant(), Variant(Long{7}), Variant(u"long before")}) {
+        list.letItemTag(1, 1, before);
+        EXPECT_EQ(list.ItemTag(1, 1), before);
+        list.letItemTag(1, 1, emptyText);
+        EXPECT_EQ(list.ItemTag(1, 1), emptyText);
+    }
+    inside.rows()[0].items.exchangeCell(0, inside.rows()[1].items);
+    EXPECT_EQ(list.ItemTag(2, 1), emptyText);
+    EXPECT_TRUE(list.ItemTag(1, 1).isEmpty());
+    list.letItemTag(2, 1, Variant());
+    EXPECT_TRUE(list.ItemTag(2, 1).isEmpty());
+}
+
 // Wanted: the two sizes pass through a Boolean on the interface, both ways.
 TEST_F(Accessors, IconSizesOfAColumnPassThroughABoolean) {
     addColumns({50});

@@ -96,6 +96,7 @@ TEST_F(ContentBadFiles, ALengthPastTheEndIsReportedAndNothingIsReadBehindIt) {
 
 TEST_F(ContentBadFiles, EveryByteChangedLeavesAListThatWorks) {
     list.letAutoRedraw(false);
+    window().place(100, 100, 4, 4); // shows no row: finding the font of a damaged name takes long
     const std::string whole = fullFile();
     for (std::size_t i = 0; i < whole.size(); ++i) {
         SCOPED_TRACE(i);
