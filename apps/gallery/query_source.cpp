@@ -26,7 +26,7 @@ class WatchedRecordset final : public Object, public RecordSource {
     }
     void put(StringView name, const Variant& value) override { recordset_->put(name, value); }
     Variant call(StringView name, std::span<Variant> arguments) override {
-        const Variant result = watched([&] { return recordset_->call(name, arguments); });
+        Variant result = watched([&] { return recordset_->call(name, arguments); });
         ++reached_; // the first record, by MoveFirst
         return result;
     }
