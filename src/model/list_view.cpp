@@ -22,7 +22,8 @@ lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Windo
           world, *window_, ScrollBar::Events{[this] { VS_Change(); }, [this] { VS_Scroll(); }})),
       HS(std::make_unique<lmHScroll>(
           world, *window_, ScrollBar::Events{[this] { HS_Change(); }, [this] { HS_Scroll(); }})),
-      Wheel1(std::make_unique<Wheel>(world.runtime(),
+      Wheel1(std::make_unique<Wheel>(world,
+                                     *window_,
                                      [this](Integer& Rotation, Integer& Keys, Single& X, Single& Y) {
                                          Wheel1_WheelScroll(Rotation, Keys, X, Y);
                                      })),

@@ -1,6 +1,7 @@
 #include "scroll/wheel.h"
 
 #include "platform/rounding.h"
+#include "platform/world.h"
 #include "services/procedure.h"
 
 namespace lumtex {
@@ -14,17 +15,30 @@ constexpr Double deltaOfNotch = 120;
 Wheel::Wheel(Runtime& runtime, WheelScroll wheelScroll)
     : runtime_(runtime), wheelScroll_(std::move(wheelScroll)) {}
 
+Wheel::Wheel(World& world, Window& parent, WheelScroll wheelScroll)
+    : Wheel(world.runtime(), std::move(wheelScroll)) {
+    hook_ = world.createWheelHook(parent,
+                                  [this](WindowHandle hWnd, Long delta, Integer Keys, Single X, Single Y) {
+                                      WndProc(hWnd, delta, Keys, X, Y);
+                                  });
+}
+
 void Wheel::EnableWheel() {
     if (hWndCapture_ == 0)
         return;
     active_ = true;
-    if (listensTo_ == 0)
-        listensTo_ = hWndCapture_;
+    if (listensTo_ != 0)
+        return;
+    listensTo_ = hWndCapture_;
+    if (hook_)
+        hook_->Subclass(listensTo_);
 }
 
 void Wheel::DisableWheel() {
     if (hWndCapture_ == 0 || !active_)
         return;
+    if (hook_)
+        hook_->UnSubclass(listensTo_);
     listensTo_ = 0;
     active_ = false;
 }

@@ -3,20 +3,26 @@
 #pragma once
 
 #include "platform/runtime.h"
+#include "platform/wheel_hook.h"
 #include "platform/window.h"
 
 #include <functional>
+#include <memory>
 
 namespace lumtex {
 
-/// Turns the wheel messages of one window into `WheelScroll`. How they come from the platform is its caller's
-/// affair. The runtime must outlive it.
+class World;
+
+/// Turns the wheel messages of one window into `WheelScroll`. They come through a hook where the platform has
+/// such, else through the window's control. The runtime must outlive it.
 class Wheel {
   public:
     /// `Rotation` is in notches, positive away from the user.
     using WheelScroll = std::function<void(Integer& Rotation, Integer& Keys, Single& X, Single& Y)>;
 
     Wheel(Runtime& runtime, WheelScroll wheelScroll);
+    /// Puts a hook of `world` into `parent`, which must outlive this object.
+    Wheel(World& world, Window& parent, WheelScroll wheelScroll);
     Wheel(const Wheel&) = delete;
     Wheel& operator=(const Wheel&) = delete;
     ~Wheel() { UserControl_Terminate(); }
@@ -44,6 +50,7 @@ class Wheel {
     WindowHandle hWndCapture_ = 0;
     WindowHandle listensTo_ = 0;
     bool active_ = false;
+    std::unique_ptr<WheelHook> hook_; ///< none where the platform has no hooks
 };
 
 } // namespace lumtex

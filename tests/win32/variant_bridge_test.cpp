@@ -146,6 +146,18 @@ TEST(ToVARIANT, GivesBackWhatCameIn) {
         EXPECT_EQ(fromVARIANT(toVARIANT(value).get()), value);
 }
 
+TEST(ToVARIANT, PicturesAndFontsComeBackAsTheSameOnes) {
+    const PictureRef picture = std::make_shared<BitmapPicture>(Bitmap(2, 2, 0xFF00FF00U));
+    const FontRef font = std::make_shared<Font>(FontSpec{.Name = u"Tahoma", .Size = 9});
+    const OwnedVARIANT pictureSeen = toVARIANT(picture);
+    const OwnedVARIANT fontSeen = toVARIANT(font);
+    EXPECT_TRUE(queryFor<IPicture>(V_DISPATCH(&pictureSeen.get())));
+    EXPECT_TRUE(queryFor<IFont>(V_DISPATCH(&fontSeen.get())));
+    EXPECT_EQ(fromVARIANT(pictureSeen.get()).toPicture(), picture);
+    EXPECT_EQ(fromVARIANT(fontSeen.get()).toFont(), font);
+    EXPECT_EQ(V_DISPATCH(&toVARIANT(Variant(PictureRef())).get()), nullptr);
+}
+
 TEST(ToVARIANT, WritesTheKindsThatHostsExpect) {
     EXPECT_EQ(V_VT(&toVARIANT(Long{1}).get()), VT_I4);
     EXPECT_EQ(V_VT(&toVARIANT(Integer{1}).get()), VT_I2);

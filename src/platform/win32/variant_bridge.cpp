@@ -4,6 +4,8 @@
 #include "platform/win32/com_error.h"
 #include "platform/win32/com_ref.h"
 #include "platform/win32/object_bridge.h"
+#include "platform/win32/ole_font.h"
+#include "platform/win32/ole_picture.h"
 
 #include <limits>
 #include <type_traits>
@@ -40,6 +42,10 @@ Variant fromError(SCODE code) {
 Variant fromUnknown(IUnknown* object) {
     if (object == nullptr)
         return ObjectRef();
+    if (queryFor<IPicture>(object))
+        return pictureFrom(queryFor<IPictureDisp>(object).get());
+    if (queryFor<IFont>(object))
+        return fontFrom(queryFor<IFontDisp>(object).get());
     const auto dispatch = queryFor<IDispatch>(object);
     if (!dispatch)
         throw RuntimeError(typeMismatch);
@@ -108,8 +114,12 @@ struct ToVARIANT {
         return value;
     }
     VARIANT operator()(const ObjectRef& held) const { return ofDispatch(toIDispatch(held).detach()); }
-    VARIANT operator()(const PictureRef& /*held*/) const { throw RuntimeError(typeMismatch); }
-    VARIANT operator()(const FontRef& /*held*/) const { throw RuntimeError(typeMismatch); }
+    VARIANT operator()(const PictureRef& held) const {
+        return ofDispatch(toIPicture(held).as<IDispatch>().detach());
+    }
+    VARIANT operator()(const FontRef& held) const {
+        return ofDispatch(toIFont(held).as<IDispatch>().detach());
+    }
 };
 
 } // namespace

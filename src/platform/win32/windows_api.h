@@ -23,8 +23,9 @@
 #include <olectl.h>
 #include <windows.h>
 
-// Words of interface compilers that are too good to lose.
+// Words of old segment models and interface compilers that are too good to lose.
 #undef small
+#undef near
 #undef hyper
 
 #include "platform/window.h"

@@ -1,0 +1,91 @@
+#include "platform/win32/win32_world.h"
+
+#include "platform/runtime_error.h"
+#include "platform/win32/wheel_subclass.h"
+#include "platform/win32/win32_guide_line.h"
+#include "platform/win32/win32_text_box.h"
+#include "platform/win32/win32_timer.h"
+#include "platform/win32/win32_window.h"
+
+#include <utility>
+
+namespace lumtex {
+
+namespace {
+
+/// Throws RuntimeError 5 for a window of another world.
+Win32Window& windowOfOurs(Window& window) {
+    auto* own = dynamic_cast<Win32Window*>(&window);
+    if (own == nullptr)
+        throw RuntimeError(invalidProcedureCall);
+    return *own;
+}
+
+} // namespace
+
+Win32World::Win32World(HINSTANCE instance, HWND container, Runtime* runtime)
+    : instance_(instance), container_(container != nullptr ? container : HWND_MESSAGE), runtime_(runtime),
+      surfaceClass_(instance, L"LumtexSurface", Win32Window::procedure, CS_DBLCLKS), timers_(instance),
+      ownRuntime_(instance), tips_(*this) {}
+
+Win32World::~Win32World() = default;
+
+std::unique_ptr<Window> Win32World::createWindow(Window* parent, UserControl& client) {
+    const auto kind = parent != nullptr ? Win32Window::Kind::child : Win32Window::Kind::shownChild;
+    HWND outer = parent != nullptr ? toHWND(windowOfOurs(*parent).hWnd()) : container_;
+    return std::make_unique<Win32Window>(*this, outer, kind, client);
+}
+
+std::unique_ptr<Window> Win32World::createForm(UserControl& client) {
+    return std::make_unique<Win32Window>(*this, nullptr, Win32Window::Kind::form, client);
+}
+
+Point Win32World::screenSize() const {
+    return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
+std::unique_ptr<TextBox> Win32World::createTextBox(Window& parent, TextBoxClient& client) {
+    return std::make_unique<Win32TextBox>(*this, windowOfOurs(parent), client);
+}
+
+std::unique_ptr<GuideLine> Win32World::createGuideLine(Window& parent) {
+    return std::make_unique<Win32GuideLine>(windowOfOurs(parent));
+}
+
+std::unique_ptr<Timer> Win32World::createTimer(std::function<void()> onTimer) {
+    return std::make_unique<Win32Timer>(timers_, std::move(onTimer));
+}
+
+void Win32World::refuseHugeSize(Long width, Long height) {
+    if (width > 0 && height > 0 && std::int64_t{width} * height > mostPixels)
+        throw RuntimeError(outOfMemory);
+}
+
+std::unique_ptr<Surface> Win32World::createSurface(Long width, Long height) {
+    refuseHugeSize(width, height);
+    return makeGdiSurface(width, height);
+}
+
+void Win32World::giveUpCapture() {
+    POINT at{};
+    if (GetCapture() == nullptr)
+        return;
+    if (GetCursorPos(&at))
+        captureEnded_ = at;
+    ReleaseCapture();
+}
+
+bool Win32World::isEchoOfCapture(const WindowMessage& message) {
+    const std::optional<POINT> ended = std::exchange(captureEnded_, std::nullopt);
+    if (!ended || message.number != WM_MOUSEMOVE)
+        return false;
+    POINT at{static_cast<Integer>(LOWORD(message.lParam)), static_cast<Integer>(HIWORD(message.lParam))};
+    ClientToScreen(message.window, &at);
+    return at.x == ended->x && at.y == ended->y;
+}
+
+std::unique_ptr<WheelHook> Win32World::createWheelHook(Window& parent, WheelHook::OnWheel onWheel) {
+    return std::make_unique<WheelSubclass>(*this, toHWND(windowOfOurs(parent).hWnd()), std::move(onWheel));
+}
+
+} // namespace lumtex

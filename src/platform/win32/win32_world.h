@@ -1,0 +1,105 @@
+/// \file
+/// The world on Windows: real windows, the system's own text box and tips, its settings, files and clock.
+#pragma once
+
+#include "platform/win32/timer_window.h"
+#include "platform/win32/win32_runtime.h"
+#include "platform/win32/win32_tips.h"
+#include "platform/win32/window_class.h"
+#include "platform/world.h"
+
+#include <optional>
+
+namespace lumtex {
+
+/// A message on its way to one of our windows.
+struct WindowMessage {
+    HWND window;
+    UINT number;
+    WPARAM wParam;
+    LPARAM lParam;
+};
+
+/// Belongs to the thread that makes it, as do all things made by it.
+///
+/// Press, focus, capture and click follow one another as on the simulated desktop: a press takes the capture,
+/// then the focus unless a child has it; the release of the last button gives up the capture before it is
+/// told.
+class Win32World final : public World {
+  public:
+    /// Pixels that one surface may have at most.
+    static constexpr std::int64_t mostPixels = std::int64_t{1} << 26U;
+
+    /// `instance` is the module that this code is part of. Windows without a parent lie in `container`; with
+    /// none, in a place of the system that is never shown, until somebody gives them a parent. `runtime`
+    /// stands in for the world's own one and must outlive the world.
+    explicit Win32World(HINSTANCE instance, HWND container = nullptr, Runtime* runtime = nullptr);
+    /// All windows, boxes, tips and timers must be gone.
+    ~Win32World() override;
+
+    Runtime& runtime() override { return runtime_ != nullptr ? *runtime_ : ownRuntime_; }
+    Win32Runtime& ownRuntime() { return ownRuntime_; }
+    Win32Tips& tips() override { return tips_; }
+    /// A window without a parent is a child of the container, shown from the start, and no UserControl_Show
+    /// comes of that.
+    std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) override;
+    std::unique_ptr<Window> createForm(UserControl& client) override;
+    void showModal(Window& form) override;
+    Point screenSize() const override;
+    std::unique_ptr<TextBox> createTextBox(Window& parent, TextBoxClient& client) override;
+    std::unique_ptr<GuideLine> createGuideLine(Window& parent) override;
+    std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) override;
+    /// Throws RuntimeError 7 for more than `mostPixels`.
+    std::unique_ptr<Surface> createSurface(Long width, Long height) override;
+    std::unique_ptr<WheelHook> createWheelHook(Window& parent, WheelHook::OnWheel onWheel) override;
+
+    /// Sees each message of our windows before they do. A result means that the message was dealt with.
+    /// Whoever destroys the window in it must give a result. Must not throw.
+    std::function<std::optional<LRESULT>(const WindowMessage&)> onMessage;
+
+    // For what the world makes
+
+    HINSTANCE instance() const { return instance_; }
+    const WindowClass& surfaceClass() const { return surfaceClass_; }
+    /// Throws RuntimeError 7 for more than `mostPixels`.
+    static void refuseHugeSize(Long width, Long height);
+
+    /// The press that waits for its release to become a click.
+    struct Press {
+        HWND window = nullptr;
+        Integer button = noButton;
+    };
+    Press press;
+
+    /// Gives up the capture, whoever of the thread has it.
+    void giveUpCapture();
+    /// Is this the move that the system makes up when a capture ends, so that nobody misses one? Asked for
+    /// each mouse message, in order.
+    bool isEchoOfCapture(const WindowMessage& message);
+
+    /// While one lives, nothing that happens to windows is told: their owners are going.
+    class Quiet {
+      public:
+        explicit Quiet(Win32World& world) : depth_(world.quietDepth_) { ++depth_; }
+        Quiet(const Quiet&) = delete;
+        Quiet& operator=(const Quiet&) = delete;
+        ~Quiet() { --depth_; }
+
+      private:
+        int& depth_;
+    };
+    bool isQuiet() const { return quietDepth_ > 0; }
+
+  private:
+    HINSTANCE instance_;
+    HWND container_;
+    Runtime* runtime_;
+    int quietDepth_ = 0;
+    std::optional<POINT> captureEnded_; ///< where the mouse was, on the screen, until the next mouse message
+    WindowClass surfaceClass_;
+    TimerWindow timers_;
+    Win32Runtime ownRuntime_;
+    Win32Tips tips_;
+};
+
+} // namespace lumtex
