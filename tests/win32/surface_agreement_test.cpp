@@ -75,11 +75,11 @@ TEST_F(SurfaceAgreement, Boxes) {
     Dice dice(2);
     for (int round = 0; round < 1000; ++round) {
         clear();
-        const bool far = round % 10 == 0;
+        const bool isFar = round % 10 == 0;
         Single corners[4];
         for (Single& corner : corners)
-            corner = far ? static_cast<Single>(dice.from(-2'000'000'000, 2'000'000'000))
-                         : static_cast<Single>(dice.from(-200, 500)) / 10;
+            corner = isFar ? static_cast<Single>(dice.from(-2'000'000'000, 2'000'000'000))
+                           : static_cast<Single>(dice.from(-200, 500)) / 10;
         both([&](Surface& surface) {
             surface.fillBox(corners[0], corners[1], corners[2], corners[3], green);
             surface.box(corners[2], corners[1], corners[0] + 3, corners[3] + 2, red);
