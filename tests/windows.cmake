@@ -12,13 +12,18 @@ target_compile_options(lumtex_test_base INTERFACE -O1)
 target_include_directories(lumtex_test_base INTERFACE "${CMAKE_CURRENT_SOURCE_DIR}/support"
                                                       "${CMAKE_CURRENT_SOURCE_DIR}")
 
-# The software surface, to hold the surface of Windows against. Its fonts are a double in win32/gdi_typefaces.cpp.
-set(raster "${PROJECT_SOURCE_DIR}/src/platform/raster")
+# The software surface and the simulated desktop, to hold the surface of Windows against them. Doubles in windows/
+# stand in for the libraries of fonts and pictures.
+set(backends "${PROJECT_SOURCE_DIR}/src/platform")
+file(GLOB desktop_sources CONFIGURE_DEPENDS ${backends}/headless/*.cpp)
 add_library(
     lumtex_test_raster STATIC
-    ${raster}/raster_surface.cpp ${raster}/blend.cpp ${raster}/fill.cpp ${raster}/line.cpp
-    ${raster}/polygon.cpp ${raster}/text_painter.cpp support/pixels.cpp)
-target_link_libraries(lumtex_test_raster PUBLIC lumtex_test_base lumtex_platform)
+    ${backends}/raster/raster_surface.cpp ${backends}/raster/blend.cpp ${backends}/raster/fill.cpp
+    ${backends}/raster/line.cpp ${backends}/raster/polygon.cpp ${backends}/raster/text_painter.cpp
+    ${desktop_sources} support/pixels.cpp windows/gdi_typefaces.cpp windows/picture_doubles.cpp)
+target_link_libraries(lumtex_test_raster PUBLIC lumtex_test_base lumtex_win32)
+# Windows knows no quota of its own.
+set_source_files_properties(${backends}/headless/binary_files.cpp PROPERTIES COMPILE_DEFINITIONS EDQUOT=ENOSPC)
 
 # One program per folder: `lumtex_test_<folder>`, run by ctest through Wine.
 function(lumtex_tests folder)
@@ -40,6 +45,8 @@ endfunction()
 # The conversions are the same everywhere, and the compiler's library is another one.
 lumtex_tests(platform LINK lumtex_platform)
 lumtex_tests(win32 LINK lumtex_control lumtex_test_raster lumtex_win32)
+lumtex_tests(mirrored LINK lumtex_automation lumtex_test_raster lumtex_win32)
+target_sources(lumtex_test_mirrored PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)
 lumtex_tests(activex LINK lumtex_automation lumtex_win32)
 add_dependencies(lumtex_test_activex LumtexListView)
 add_test(NAME component COMMAND "${PROJECT_SOURCE_DIR}/scripts/check-component" $<TARGET_FILE:LumtexListView>)

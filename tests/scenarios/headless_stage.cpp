@@ -15,7 +15,9 @@ class Neighbour final : public UserControl {};
 
 class HeadlessStage final : public Stage {
   public:
-    HeadlessStage() : neighbour_(desktop_.createWindow(nullptr, neighbourClient_)) {
+    explicit HeadlessStage(const std::function<std::unique_ptr<World>(Desktop&)>& worldAround)
+        : around_(worldAround ? worldAround(desktop_) : nullptr),
+          neighbour_(desktop_.createWindow(nullptr, neighbourClient_)) {
         events_.depth = [this] { return desktop_.yieldDepth(); };
         desktop_.runtime().whileBoxIsOpen = [this] { noteReport(); };
         list_.UserControl_ReadProperties(MemoryPropertyBag{});
@@ -69,17 +71,18 @@ class HeadlessStage final : public Stage {
     }
 
     Desktop desktop_{testFonts()};
+    std::unique_ptr<World> around_;
     TestHost host_;
     RecordingEvents events_;
-    lmListView list_{desktop_, host_, events_};
+    lmListView list_{around_ ? *around_ : static_cast<World&>(desktop_), host_, events_};
     Neighbour neighbourClient_;
     std::unique_ptr<Window> neighbour_;
 };
 
 } // namespace
 
-std::unique_ptr<Stage> makeHeadlessStage() {
-    return std::make_unique<HeadlessStage>();
+std::unique_ptr<Stage> makeHeadlessStage(const std::function<std::unique_ptr<World>(Desktop&)>& worldAround) {
+    return std::make_unique<HeadlessStage>(worldAround);
 }
 
 } // namespace lumtex::testing

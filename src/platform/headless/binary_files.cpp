@@ -45,7 +45,7 @@ class HiddenOutput final : public OutputFile {
         errno = EEXIST;
         for (int number = 1; !stream_ && errno == EEXIST && number <= mostNames; ++number) {
             hidden_ = place_.parent_path() / (".lumtex." + std::to_string(number) + ".part");
-            stream_.reset(std::fopen(hidden_.c_str(), "wbx"));
+            stream_.reset(std::fopen(hidden_.string().c_str(), "wbx"));
         }
         if (!stream_)
             throw RuntimeError(pathFileAccess);
@@ -86,7 +86,7 @@ class HiddenOutput final : public OutputFile {
 
 class PlainInput final : public InputFile {
   public:
-    PlainInput(const fs::path& file) : stream_(std::fopen(file.c_str(), "rb")) {
+    PlainInput(const fs::path& file) : stream_(std::fopen(file.string().c_str(), "rb")) {
         std::error_code failure;
         size_ = static_cast<std::int64_t>(fs::file_size(file, failure));
         if (!stream_ || failure)

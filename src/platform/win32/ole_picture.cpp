@@ -252,6 +252,20 @@ HICON iconFor(const Bitmap& bitmap) {
     return icon;
 }
 
+/// A bitmap file that ends before its pixels begin. The system reads on behind such an image.
+bool isCutBitmapFile(std::span<const Byte> image) {
+    constexpr std::size_t headersEnd = 26; // of the shortest kind
+    constexpr std::size_t startOfPixels = 10;
+    if (image.size() < 2 || image[0] != 'B' || image[1] != 'M')
+        return false;
+    if (image.size() < headersEnd)
+        return true;
+    std::size_t start = 0;
+    for (unsigned i = 0; i < 4; ++i)
+        start |= std::size_t{image[startOfPixels + i]} << (8 * i);
+    return start >= image.size();
+}
+
 ComRef<IPictureDisp> makeObject(const Picture& picture) {
     PICTDESC description{};
     description.cbSizeofstruct = sizeof description;
@@ -308,7 +322,7 @@ ComRef<IPictureDisp> toIPicture(const PictureRef& picture) {
 }
 
 PictureRef loadOlePicture(std::span<const Byte> image) {
-    if (image.empty() || image.size() > 0x7FFFFFFF)
+    if (image.empty() || image.size() > 0x7FFFFFFF || isCutBitmapFile(image))
         throw RuntimeError(invalidPicture);
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, image.size());
     ComRef<IStream> stream;

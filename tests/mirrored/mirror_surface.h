@@ -1,0 +1,157 @@
+/// \file
+/// One surface that draws on two.
+#pragma once
+
+#include "platform/raster/raster_surface.h"
+#include "platform/win32/gdi_surface.h"
+#include "win32/surface_pair.h"
+
+#include <memory>
+#include <utility>
+
+namespace lumtex::testing {
+
+/// Hands each operation on to a software surface and to a surface of Windows of the same size. Letters are
+/// measured on both and painted on neither, so that all the rest must come out equal.
+class MirrorSurface final : public Surface {
+  public:
+    explicit MirrorSurface(RasterSurface& software)
+        : software_(software), windows_(software.scaleWidth(), software.scaleHeight(), 96, 96) {}
+    explicit MirrorSurface(std::unique_ptr<RasterSurface> software) : MirrorSurface(*software) {
+        owned_ = std::move(software);
+    }
+
+    /// What both show; `windows` first.
+    struct Pictures {
+        Bitmap windows;
+        Bitmap software;
+    };
+    Pictures pictures() {
+        follow();
+        return {windows_.image(), software_.image()};
+    }
+    /// How often the two measured a text differently.
+    int disagreements = 0;
+
+    Long scaleWidth() const override { return software_.scaleWidth(); }
+    Long scaleHeight() const override { return software_.scaleHeight(); }
+    Double pixelsPerInchX() const override { return software_.pixelsPerInchX(); }
+    Double pixelsPerInchY() const override { return software_.pixelsPerInchY(); }
+    void Cls() override {
+        both([](Surface& surface) { surface.Cls(); });
+    }
+    OLE_COLOR BackColor() const override { return software_.BackColor(); }
+    void letBackColor(OLE_COLOR color) override {
+        both([&](Surface& surface) { surface.letBackColor(color); });
+    }
+    OLE_COLOR ForeColor() const override { return software_.ForeColor(); }
+    void letForeColor(OLE_COLOR color) override {
+        both([&](Surface& surface) { surface.letForeColor(color); });
+    }
+    OLE_COLOR FillColor() const override { return software_.FillColor(); }
+    void letFillColor(OLE_COLOR color) override {
+        both([&](Surface& surface) { surface.letFillColor(color); });
+    }
+    FillStyle fillStyle() const override { return software_.fillStyle(); }
+    void letFillStyle(FillStyle style) override {
+        both([&](Surface& surface) { surface.letFillStyle(style); });
+    }
+    const FontSpec& font() const override { return software_.font(); }
+    void setFont(const FontSpec& font) override {
+        both([&](Surface& surface) { surface.setFont(font); });
+    }
+    void line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override {
+        both([&](Surface& surface) { surface.line(x1, y1, x2, y2, color); });
+    }
+    void box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override {
+        both([&](Surface& surface) { surface.box(x1, y1, x2, y2, color); });
+    }
+    void fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override {
+        both([&](Surface& surface) { surface.fillBox(x1, y1, x2, y2, color); });
+    }
+    void pset(Single x, Single y, OLE_COLOR color) override {
+        both([&](Surface& surface) { surface.pset(x, y, color); });
+    }
+    void polygon(std::span<const Point> points) override {
+        both([&](Surface& surface) { surface.polygon(points); });
+    }
+    void paintPicture(const Picture& picture, Single x, Single y) override {
+        both([&](Surface& surface) { surface.paintPicture(picture, x, y); });
+    }
+    void paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) override {
+        both([&](Surface& surface) { surface.paintPicture(picture, x, y, width, height); });
+    }
+    void paintPicture(const Picture& picture,
+                      Single x,
+                      Single y,
+                      Single width,
+                      Single height,
+                      Single sourceX,
+                      Single sourceY,
+                      Single sourceWidth,
+                      Single sourceHeight) override {
+        both([&](Surface& surface) {
+            surface.paintPicture(picture, x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight);
+        });
+    }
+    void stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) override {
+        both([&](Surface& surface) { surface.stretchDIBits(x, y, width, height, source); });
+    }
+    Single CurrentX() const override { return software_.CurrentX(); }
+    Single CurrentY() const override { return software_.CurrentY(); }
+    void letCurrentX(Single x) override {
+        both([&](Surface& surface) { surface.letCurrentX(x); });
+    }
+    void letCurrentY(Single y) override {
+        both([&](Surface& surface) { surface.letCurrentY(y); });
+    }
+    void print(StringView text) override {
+        letCurrentX(0);
+        letCurrentY(CurrentY() + textHeight(text));
+    }
+    Single textWidth(StringView text) override {
+        return measured(software_.textWidth(text), windows_.textWidth(text));
+    }
+    Single textHeight(StringView text) override {
+        return measured(software_.textHeight(text), windows_.textHeight(text));
+    }
+    Long drawText(StringView text, Rect& rect, Long format) override {
+        Rect onWindows = rect;
+        Rect inSoftware = rect;
+        const Long height = measured(software_.drawText(text, inSoftware, format | dtCalcRect),
+                                     windows_.drawText(text, onWindows, format | dtCalcRect));
+        if ((format & dtCalcRect) != 0)
+            rect = inSoftware;
+        return height;
+    }
+    Bitmap image() const override {
+        Bitmap picture = software_.image();
+        EXPECT_TRUE(samePixels(windows_.image(), picture)) << "a picture cut from a board";
+        return picture;
+    }
+
+  private:
+    template <class Operation>
+    void both(Operation operation) {
+        follow();
+        operation(static_cast<Surface&>(software_));
+        operation(static_cast<Surface&>(windows_));
+    }
+    template <class Number>
+    Number measured(Number software, Number windows) {
+        disagreements += software != windows ? 1 : 0;
+        return software;
+    }
+    /// The window gives its own surface a new size.
+    void follow() {
+        if (windows_.scaleWidth() != software_.scaleWidth() ||
+            windows_.scaleHeight() != software_.scaleHeight())
+            windows_.resize(software_.scaleWidth(), software_.scaleHeight());
+    }
+
+    std::unique_ptr<RasterSurface> owned_;
+    RasterSurface& software_;
+    GdiSurface windows_;
+};
+
+} // namespace lumtex::testing

