@@ -41,7 +41,8 @@ class World {
     virtual std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) = 0;
     /// A way to take the wheel messages of a window before it sees them; the hook lies in `parent` and must
     /// go before it. None where the platform hands turns of the wheel to `UserControl_Wheel` by itself.
-    virtual std::unique_ptr<WheelHook> createWheelHook(Window& /*parent*/, WheelHook::OnWheel /*onWheel*/) {
+    virtual std::unique_ptr<WheelHook> createWheelHook(Window& /*parent*/,
+                                                       const WheelHook::OnWheel& /*onWheel*/) {
         return nullptr;
     }
     /// An off-screen surface, as a hidden picture box has it.

@@ -84,8 +84,8 @@ bool Win32World::isEchoOfCapture(const WindowMessage& message) {
     return at.x == ended->x && at.y == ended->y;
 }
 
-std::unique_ptr<WheelHook> Win32World::createWheelHook(Window& parent, WheelHook::OnWheel onWheel) {
-    return std::make_unique<WheelSubclass>(*this, toHWND(windowOfOurs(parent).hWnd()), std::move(onWheel));
+std::unique_ptr<WheelHook> Win32World::createWheelHook(Window& parent, const WheelHook::OnWheel& onWheel) {
+    return std::make_unique<WheelSubclass>(*this, toHWND(windowOfOurs(parent).hWnd()), onWheel);
 }
 
 } // namespace lumtex

@@ -51,7 +51,7 @@ class Win32World final : public World {
     std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) override;
     /// Throws RuntimeError 7 for more than `mostPixels`.
     std::unique_ptr<Surface> createSurface(Long width, Long height) override;
-    std::unique_ptr<WheelHook> createWheelHook(Window& parent, WheelHook::OnWheel onWheel) override;
+    std::unique_ptr<WheelHook> createWheelHook(Window& parent, const WheelHook::OnWheel& onWheel) override;
 
     /// Sees each message of our windows before they do. A result means that the message was dealt with.
     /// Whoever destroys the window in it must give a result. Must not throw.
