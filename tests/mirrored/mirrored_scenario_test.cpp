@@ -1,50 +1,17 @@
 /// Plays every scenario on a simulated desktop that Windows draws as well: after each paint, the surface of
 /// Windows shows the same pixels as the software surface, letters aside.
-#include "folders.h"
 #include "log_comparison.h"
 #include "mirror_world.h"
 #include "platform/raster/system_colors.h"
 #include "scenarios/headless_stage.h"
 #include "scenarios/player.h"
+#include "scenarios/script_files.h"
 
-#include <algorithm>
-#include <cctype>
-#include <filesystem>
-#include <fstream>
 #include <numeric>
-#include <sstream>
 
 namespace lumtex::testing {
 
 namespace {
-
-namespace fs = std::filesystem;
-
-const fs::path folder = fs::path(testFolder()) / "scenarios";
-
-std::vector<fs::path> scripts() {
-    std::vector<fs::path> found;
-    for (const auto& entry : fs::recursive_directory_iterator(folder))
-        if (entry.path().extension() == ".scenario")
-            found.push_back(entry.path());
-    std::sort(found.begin(), found.end());
-    return found;
-}
-
-std::string nameOf(const ::testing::TestParamInfo<fs::path>& info) {
-    std::string name = fs::relative(info.param, folder).replace_extension().string();
-    for (char& character : name)
-        if (std::isalnum(static_cast<unsigned char>(character)) == 0)
-            character = '_';
-    return name;
-}
-
-Script read(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return parseScript(text.str());
-}
 
 /// The software surface has its own table of system colours. While this lives, the system has the same.
 class SameSystemColors {
@@ -69,7 +36,7 @@ class SameSystemColors {
     std::array<COLORREF, count> former_{};
 };
 
-class MirroredScenario : public ::testing::TestWithParam<fs::path> {
+class MirroredScenario : public ::testing::TestWithParam<std::filesystem::path> {
   protected:
     static void SetUpTestSuite() { colors_ = std::make_unique<SameSystemColors>(); }
     static void TearDownTestSuite() { colors_.reset(); }
@@ -91,7 +58,7 @@ std::vector<std::string> flat(const Script& script, const Played& played) {
 /// The logs in the scripts name points that depend on the height of the reference fonts, so the log is held
 /// against that of the simulated desktop alone, with the fonts of Windows as well.
 TEST_P(MirroredScenario, ShowsTheSamePixelsOnBothSurfacesAndLeavesTheSameLog) {
-    const Script script = read(GetParam());
+    const Script script = parseScript(contentOfScript(GetParam()));
     const Played alone = play(script, *makeHeadlessStage());
     Comparisons comparisons;
     Played mirrored;
@@ -104,7 +71,7 @@ TEST_P(MirroredScenario, ShowsTheSamePixelsOnBothSurfacesAndLeavesTheSameLog) {
     EXPECT_TRUE(sameLog(flat(script, mirrored), flat(script, alone)));
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, MirroredScenario, ::testing::ValuesIn(scripts()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Windows, MirroredScenario, ::testing::ValuesIn(scriptFiles()), nameOfScript);
 
 } // namespace
 } // namespace lumtex::testing

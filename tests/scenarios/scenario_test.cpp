@@ -7,6 +7,7 @@
 #include "log_comparison.h"
 #include "platform/raster/image_file.h"
 #include "player.h"
+#include "script_files.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -17,32 +18,6 @@ namespace lumtex::testing {
 namespace {
 
 namespace fs = std::filesystem;
-
-const fs::path folder = fs::path(testFolder()) / "scenarios";
-
-std::vector<fs::path> scripts() {
-    std::vector<fs::path> found;
-    for (const auto& entry : fs::recursive_directory_iterator(folder))
-        if (entry.path().extension() == ".scenario")
-            found.push_back(entry.path());
-    std::sort(found.begin(), found.end());
-    return found;
-}
-
-std::string nameOf(const ::testing::TestParamInfo<fs::path>& info) {
-    std::string name = fs::relative(info.param, folder).replace_extension().string();
-    for (char& character : name)
-        if (std::isalnum(static_cast<unsigned char>(character)) == 0)
-            character = '_';
-    return name;
-}
-
-std::string contentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
 
 std::vector<std::string> flat(const Script& script, const std::vector<std::vector<std::string>>& logs) {
     std::vector<std::string> lines;
@@ -74,7 +49,7 @@ void saveFilm(const std::vector<Bitmap>& frames, const std::string& name) {
 class Scenario : public ::testing::TestWithParam<fs::path> {};
 
 TEST_P(Scenario, LeavesTheLogThatItSays) {
-    const Script script = parseScript(contentOf(GetParam()));
+    const Script script = parseScript(contentOfScript(GetParam()));
     ASSERT_FALSE(script.steps.empty());
     std::vector<std::vector<std::string>> expected;
     for (const Step& step : script.steps)
@@ -90,7 +65,7 @@ TEST_P(Scenario, LeavesTheLogThatItSays) {
     EXPECT_TRUE(sameLog(flat(script, logs), flat(script, expected)));
 }
 
-INSTANTIATE_TEST_SUITE_P(Headless, Scenario, ::testing::ValuesIn(scripts()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Headless, Scenario, ::testing::ValuesIn(scriptFiles()), nameOfScript);
 
 TEST(Script, KeepsQuotedTextsTogetherAndLogsWithTheirSteps) {
     const Script script =
