@@ -211,6 +211,13 @@ TEST_F(LoadWithoutProperties, EachAccessorHasItsValueOfTheTable) {
     expectDefaults();
 }
 
+// A list that paints after each statement is filled value by value, others record by record.
+TEST_F(LoadWithoutProperties, EachAccessorHasTheSameValueInDesignMode) {
+    host.userMode = false;
+    EXPECT_TRUE(load(ContentBytes().header(1, 1, false).text("x"), false));
+    expectDefaults();
+}
+
 TEST_F(LoadWithoutProperties, AFileWithoutPropertiesTakesTheSameValuesThoughTheyAreWanted) {
     EXPECT_TRUE(load(ContentBytes().header(1, 1, false).text("x"), true));
     expectDefaults();
