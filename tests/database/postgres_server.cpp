@@ -14,8 +14,10 @@
 #include <fcntl.h>
 #include <grp.h>
 #include <libpq-fe.h>
+#include <netinet/in.h>
 #include <pwd.h>
 #include <sys/prctl.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -40,6 +42,22 @@ fs::path programs() {
     if (newest.empty())
         throw std::runtime_error("there is no PostgreSQL server below /usr/lib/postgresql");
     return newest;
+}
+
+/// A port of the loopback address that nobody listens on just now.
+int freePort() {
+    const int probe = socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in place{};
+    place.sin_family = AF_INET;
+    place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof place;
+    auto* const address = reinterpret_cast<sockaddr*>(&place);
+    const bool found =
+        probe >= 0 && bind(probe, address, size) == 0 && getsockname(probe, address, &size) == 0;
+    close(probe);
+    if (!found)
+        throw std::runtime_error("no port on the loopback address");
+    return ntohs(place.sin_port);
 }
 
 const passwd* substituteForRoot() {
@@ -70,11 +88,14 @@ PostgresServer::PostgresServer() {
                                     "--no-sync"});
         if (waitpid(maker, &status, 0) != maker || status != 0)
             throw std::runtime_error("initdb failed");
+        port_ = freePort();
         process_ = launch("postgres",
                           {"-D",
                            name + "/data",
+                           "-p",
+                           std::to_string(port_),
                            "-c",
-                           "listen_addresses=",
+                           "listen_addresses=127.0.0.1",
                            "-c",
                            "unix_socket_directories=" + name,
                            "-c",
@@ -96,7 +117,7 @@ PostgresServer::~PostgresServer() {
 }
 
 std::string PostgresServer::address() const {
-    return "postgresql:///postgres?user=lumtex&host=" + folder_.string();
+    return "postgresql://lumtex@127.0.0.1:" + std::to_string(port_) + "/postgres";
 }
 
 std::string PostgresServer::run(const std::string& statements) const {

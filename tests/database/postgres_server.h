@@ -9,9 +9,10 @@
 
 namespace lumtex::testing {
 
-/// Made in a temporary folder and reached by a socket in it, so that servers do not meet. The server refuses
-/// to run as root: it then runs as the user postgres, or nobody. It ends with the object, and with the test
-/// program, however that ends. Throws std::runtime_error where it cannot be started.
+/// Made in a temporary folder and reached on the loopback address, at a port of its own, so that servers do
+/// not meet. The server refuses to run as root: it then runs as the user postgres, or nobody. It ends with
+/// the object, and with the test program, however that ends. Throws std::runtime_error where it cannot be
+/// started.
 class PostgresServer {
   public:
     PostgresServer();
@@ -32,6 +33,7 @@ class PostgresServer {
     void waitUntilReady();
 
     std::filesystem::path folder_;
+    int port_ = 0;
     pid_t process_ = -1;
 };
 
