@@ -2,6 +2,7 @@
 /// One argument of an event on its way to a sink and back.
 #pragma once
 
+#include "platform/variant_conversion.h"
 #include "platform/win32/object_bridge.h"
 #include "platform/win32/variant_bridge.h"
 
@@ -121,25 +122,10 @@ class EventSlot<ByReference<T>> {
         if (form_ == ReferenceForm::typed)
             target_ = storage_.value();
         else
-            target_ = taken(fromVARIANT(variant_.get()));
+            target_ = fromVariant<T>(fromVARIANT(variant_.get()));
     }
 
   private:
-    static T taken(const Variant& value) {
-        if constexpr (std::is_same_v<T, Variant>)
-            return value;
-        else if constexpr (std::is_same_v<T, bool>)
-            return value.toBoolean();
-        else if constexpr (std::is_same_v<T, Integer>)
-            return value.toInteger();
-        else if constexpr (std::is_same_v<T, Long>)
-            return value.toLong();
-        else if constexpr (std::is_same_v<T, Single>)
-            return value.toSingle();
-        else
-            return value.toObject();
-    }
-
     T& target_;
     ReferenceForm form_;
     EventStorage<T> storage_;

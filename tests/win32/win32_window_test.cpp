@@ -63,7 +63,7 @@ class Win32Windows : public ::testing::Test {
     static void TearDownTestSuite() { program.reset(); }
     void SetUp() override {
         if (program->get() == nullptr)
-            GTEST_SKIP() << "no display";
+            FAIL() << "no display";
         SetFocus(program->get());
         outer = world.createWindow(nullptr, outerControl);
         outer->place(10, 10, 200, 100);
