@@ -8,6 +8,7 @@
 #include "platform/win32/com_ref.h"
 #include "platform/win32/object_bridge.h"
 #include "platform/win32/variant_bridge.h"
+#include "windows/box_watch.h"
 
 #include <vector>
 
@@ -104,8 +105,7 @@ invoke(IDispatch* object, const wchar_t* name, WORD kind, const std::vector<Vari
     return invoke(object, idOf(object, name), kind, plain);
 }
 
-/// A list without a container, reached as scripts reach it. Reports are silenced: their box would wait for
-/// ever.
+/// A list without a container, reached as scripts reach it. Reports are silenced.
 class ListFixture : public ::testing::Test {
   protected:
     ListFixture() {
@@ -143,6 +143,7 @@ class ListFixture : public ::testing::Test {
         invoke(error.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
     }
 
+    BoxWatch watch;
     Component component;
     ComRef<IUnknown> control = component.make("lmListView");
     ComRef<IDispatch> dispatch = control.as<IDispatch>();

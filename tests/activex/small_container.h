@@ -8,6 +8,24 @@
 
 namespace lumtex::testing {
 
+/// A shown window of the program, 500 x 400 pixels at the corner of the screen. All containers lie in this
+/// one: it takes the system two seconds to show a window that lies in no other.
+inline HWND programWindow() {
+    static const HWND window = CreateWindowExW(0,
+                                               L"STATIC",
+                                               L"program",
+                                               WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN,
+                                               0,
+                                               0,
+                                               500,
+                                               400,
+                                               nullptr,
+                                               nullptr,
+                                               nullptr,
+                                               nullptr);
+    return window;
+}
+
 /// Answers ambient properties, places the control, and notes what it is told.
 class SmallContainer final : public IOleClientSite,
                              public IOleInPlaceSite,
@@ -16,9 +34,18 @@ class SmallContainer final : public IOleClientSite,
                              public IDispatch {
   public:
     SmallContainer()
-        : window(CreateWindowExW(
-              0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 500, 400, nullptr, nullptr, nullptr, nullptr)) {
-    }
+        : window(CreateWindowExW(0,
+                                 L"STATIC",
+                                 L"",
+                                 WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN,
+                                 0,
+                                 0,
+                                 500,
+                                 400,
+                                 programWindow(),
+                                 nullptr,
+                                 nullptr,
+                                 nullptr)) {}
     SmallContainer(const SmallContainer&) = delete;
     SmallContainer& operator=(const SmallContainer&) = delete;
     ~SmallContainer() { DestroyWindow(window); }
