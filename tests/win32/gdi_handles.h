@@ -11,13 +11,13 @@ namespace lumtex::testing {
 /// Counts the entries in use of the table of drawing objects that the system shares with each process. Its
 /// own count is not kept up everywhere.
 inline int gdiObjectCount() {
-    struct Entry {
-        void* object;
+    struct Entry { // the same in programs of 32 and 64 bit
+        std::uint64_t object;
         std::uint16_t process;
         std::uint16_t count;
         std::uint16_t upper;
         std::uint16_t type; ///< 0: free
-        void* user;
+        std::uint64_t user;
     };
     constexpr int entries = 65536;
     constexpr std::size_t tableOffset = sizeof(void*) == 8 ? 0xF8 : 0x94;
