@@ -2,6 +2,7 @@
 #include "activex/module.h"
 
 #include "platform/win32/com_error.h"
+#include "platform/win32/held_by_host.h"
 
 #include <atomic>
 #include <vector>
@@ -23,7 +24,7 @@ ModuleLock::~ModuleLock() {
 }
 
 bool moduleIsIdle() noexcept {
-    return locks == 0;
+    return locks == 0 && objectsHeldByHosts() == 0;
 }
 
 HINSTANCE moduleInstance() {

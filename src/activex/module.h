@@ -17,7 +17,7 @@ class ModuleLock {
     ~ModuleLock();
 };
 
-/// Whether no ModuleLock is left.
+/// Whether no ModuleLock is left, and nothing else of ours that a host holds.
 bool moduleIsIdle() noexcept;
 
 HINSTANCE moduleInstance();

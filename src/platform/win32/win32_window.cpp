@@ -72,6 +72,7 @@ Win32Window::~Win32Window() {
         return;
     const Win32World::Quiet quiet(world_);
     HWND window = hwnd_;
+    dropPlace_.reset();
     detach();
     setFreeChildren(window);
     DestroyWindow(window);
@@ -171,6 +172,15 @@ bool Win32Window::takesInput() const {
         return false;
     const Win32Window* outer = of(GetAncestor(hwnd_, GA_PARENT));
     return outer == nullptr || outer->takesInput();
+}
+
+void Win32Window::letOLEDropMode(Integer mode) {
+    constexpr Integer manual = 1;
+    oleDropMode_ = mode;
+    if (mode != manual || hwnd_ == nullptr)
+        dropPlace_.reset();
+    else if (!dropPlace_)
+        dropPlace_ = std::make_unique<DropPlace>(hwnd_, client_);
 }
 
 void Win32Window::letMousePointer(Integer shape) {

@@ -2,6 +2,7 @@
 /// A window of the system that shows a surface and tells its control what happens to it.
 #pragma once
 
+#include "platform/win32/drop_target.h"
 #include "platform/win32/gdi_surface.h"
 #include "platform/win32/pointer_shape.h"
 #include "platform/win32/win32_world.h"
@@ -38,7 +39,9 @@ class Win32Window final : public Window {
     bool Enabled() const override { return enabled_; }
     void letEnabled(bool enabled) override;
     Integer OLEDropMode() const override { return oleDropMode_; }
-    void letOLEDropMode(Integer mode) override { oleDropMode_ = mode; }
+    /// 1 takes what is dragged over the window and its children, unless a child takes it itself; any other
+    /// number does not. Where the thread may not have drag and drop, nothing comes.
+    void letOLEDropMode(Integer mode) override;
     Integer MousePointer() const override { return pointerShape_.shape(); }
     void letMousePointer(Integer shape) override;
     PictureRef MouseIcon() const override { return pointerShape_.icon(); }
@@ -105,6 +108,7 @@ class Win32Window final : public Window {
     bool visible_;
     bool enabled_ = true;
     Integer oleDropMode_ = 0;
+    std::unique_ptr<DropPlace> dropPlace_; ///< while drops are taken
     PointerShape pointerShape_;
     std::vector<Win32GuideLine*> guides_;
     std::vector<Win32TextBox*> boxes_;

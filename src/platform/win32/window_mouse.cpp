@@ -13,28 +13,8 @@ POINT placeOf(const WindowMessage& message) {
     return {static_cast<Integer>(LOWORD(message.lParam)), static_cast<Integer>(HIWORD(message.lParam))};
 }
 
-/// The buttons that are down, by the bits of `MouseButton`.
-Integer buttonsOf(const WindowMessage& message) {
-    Integer buttons = noButton;
-    const auto add = [&](WPARAM bit, MouseButton button) {
-        if ((message.wParam & bit) != 0)
-            buttons = static_cast<Integer>(buttons | button);
-    };
-    add(MK_LBUTTON, leftButton);
-    add(MK_RBUTTON, rightButton);
-    add(MK_MBUTTON, middleButton);
-    return buttons;
-}
-
 Integer shiftOf(const WindowMessage& message) {
-    Integer shift = 0;
-    if (isKeyDown(VK_MENU))
-        shift = altMask;
-    if ((message.wParam & MK_SHIFT) != 0)
-        shift = static_cast<Integer>(shift | shiftMask);
-    if ((message.wParam & MK_CONTROL) != 0)
-        shift = static_cast<Integer>(shift | controlMask);
-    return shift;
+    return shiftKeysIn(message.wParam, isKeyDown(VK_MENU));
 }
 
 } // namespace
@@ -45,8 +25,10 @@ Win32Window::Answer Win32Window::answerMouse(const WindowMessage& message) {
     switch (message.number) {
     case WM_MOUSEMOVE: {
         const POINT at = placeOf(message);
-        client_.UserControl_MouseMove(
-            buttonsOf(message), shiftOf(message), static_cast<Single>(at.x), static_cast<Single>(at.y));
+        client_.UserControl_MouseMove(buttonsIn(message.wParam),
+                                      shiftOf(message),
+                                      static_cast<Single>(at.x),
+                                      static_cast<Single>(at.y));
         return 0;
     }
     case WM_LBUTTONDOWN:
@@ -100,7 +82,7 @@ Win32Window::Answer Win32Window::released(MouseButton button, const WindowMessag
     const bool endsPress = button == world_.press.button;
     HWND pressedOn = endsPress ? std::exchange(world_.press.window, nullptr) : nullptr;
     // Before the control hears of it, so that one that wants to keep the capture asks for it again.
-    if (buttonsOf(message) == noButton)
+    if (buttonsIn(message.wParam) == noButton)
         world_.giveUpCapture();
     if (of(window) != this)
         return 0;

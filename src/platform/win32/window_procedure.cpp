@@ -19,6 +19,8 @@ LRESULT CALLBACK Win32Window::procedure(HWND window, UINT message, WPARAM wParam
 }
 
 Win32Window::Answer Win32Window::answer(const WindowMessage& message) {
+    if (message.number == WM_DESTROY)
+        dropPlace_.reset();
     if (message.number == WM_NCDESTROY) {
         detach();
         return {};

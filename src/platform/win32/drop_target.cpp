@@ -1,0 +1,160 @@
+#include "platform/win32/drop_target.h"
+
+#include "platform/user_control.h"
+#include "platform/win32/carried_data.h"
+#include "platform/win32/held_by_host.h"
+#include "platform/win32/shift_keys.h"
+
+#include <atomic>
+#include <new>
+#include <utility>
+
+#include <ole2.h>
+
+namespace lumtex {
+
+/// What the system calls. It may still do so once the window is gone.
+class DropTarget final : public IDropTarget {
+  public:
+    DropTarget(HWND window, UserControl& client) : window_(window), client_(&client) {}
+    DropTarget(const DropTarget&) = delete;
+    DropTarget& operator=(const DropTarget&) = delete;
+
+    void detach() { client_ = nullptr; }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
+        if (found == nullptr)
+            return E_POINTER;
+        *found = nullptr;
+        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IDropTarget))
+            return E_NOINTERFACE;
+        *found = static_cast<IDropTarget*>(this);
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --references_;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+
+    HRESULT STDMETHODCALLTYPE DragEnter(IDataObject* data, DWORD keys, POINTL at, DWORD* effect) override {
+        if (data == nullptr || effect == nullptr)
+            return E_POINTER;
+        if (!carry(data))
+            return E_OUTOFMEMORY;
+        drag({keys, at}, dragEnters, effect);
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE DragOver(DWORD keys, POINTL at, DWORD* effect) override {
+        if (effect == nullptr)
+            return E_POINTER;
+        drag({keys, at}, dragMoves, effect);
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE DragLeave() override {
+        DWORD none = DROPEFFECT_NONE;
+        drag(last_, dragLeaves, &none);
+        data_ = nullptr;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Drop(IDataObject* data, DWORD keys, POINTL at, DWORD* effect) override {
+        if (data == nullptr || effect == nullptr)
+            return E_POINTER;
+        if (data_ == nullptr && !carry(data))
+            return E_OUTOFMEMORY;
+        // The buttons are up by now; what was held during the drag is what the control is told.
+        drop({(keys & ~buttonBits) | (last_.keys & buttonBits), at}, effect);
+        return S_OK;
+    }
+
+  private:
+    static constexpr DWORD buttonBits = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON;
+
+    struct Pointer {
+        DWORD keys = 0;
+        POINTL at{};
+    };
+    /// The arguments that both events have.
+    struct Arguments {
+        Long effect;
+        Integer button;
+        Integer shift;
+        Single x;
+        Single y;
+    };
+
+    ~DropTarget() = default;
+
+    bool carry(IDataObject* data) noexcept {
+        try {
+            data_ = carriedData(ComRef<IDataObject>(data));
+            return true;
+        } catch (const std::bad_alloc&) {
+            return false;
+        }
+    }
+
+    Arguments argumentsFor(const Pointer& pointer, DWORD allowed) const {
+        POINT at{pointer.at.x, pointer.at.y};
+        ScreenToClient(window_, &at);
+        return {static_cast<Long>(allowed),
+                buttonsIn(pointer.keys),
+                shiftKeysIn(pointer.keys, (pointer.keys & MK_ALT) != 0),
+                static_cast<Single>(at.x),
+                static_cast<Single>(at.y)};
+    }
+
+    void drag(const Pointer& pointer, DragState state, DWORD* effect) {
+        const ComRef<DropTarget> keep(this);
+        last_ = pointer;
+        const DWORD allowed = std::exchange(*effect, DROPEFFECT_NONE);
+        if (client_ == nullptr || data_ == nullptr)
+            return;
+        const ObjectRef data = data_;
+        Arguments told = argumentsFor(pointer, allowed);
+        Integer stateNow = state;
+        client_->UserControl_OLEDragOver(
+            data, told.effect, told.button, told.shift, told.x, told.y, stateNow);
+        *effect = static_cast<DWORD>(told.effect) & allowed;
+    }
+
+    void drop(const Pointer& pointer, DWORD* effect) {
+        const ComRef<DropTarget> keep(this);
+        const ObjectRef data = std::exchange(data_, nullptr);
+        const DWORD allowed = std::exchange(*effect, DROPEFFECT_NONE);
+        if (client_ == nullptr)
+            return;
+        Arguments told = argumentsFor(pointer, allowed);
+        client_->UserControl_OLEDragDrop(data, told.effect, told.button, told.shift, told.x, told.y);
+        *effect = static_cast<DWORD>(told.effect) & allowed;
+    }
+
+    std::atomic<ULONG> references_{1};
+    HeldByHost held_;
+    HWND window_;
+    UserControl* client_;
+    ObjectRef data_;
+    Pointer last_;
+};
+
+DropPlace::DropPlace(HWND window, UserControl& client)
+    : window_(window), hasOle_(SUCCEEDED(OleInitialize(nullptr))) {
+    auto target = ComRef<DropTarget>::adopting(new DropTarget(window, client));
+    if (hasOle_ && SUCCEEDED(RegisterDragDrop(window, target.get())))
+        target_ = std::move(target);
+}
+
+DropPlace::~DropPlace() {
+    if (target_) {
+        target_->detach();
+        RevokeDragDrop(window_);
+    }
+    target_ = {};
+    if (hasOle_)
+        OleUninitialize();
+}
+
+} // namespace lumtex
