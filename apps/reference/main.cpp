@@ -1,5 +1,5 @@
-/// Writes what is made from the tables of the public interface: the reference, and what the component's
-/// source holds of it.
+/// Writes what is made from the tables of the public interface: the reference, and the generated
+/// sources.
 #include "automation/generated_files.h"
 #include "automation/reference.h"
 
@@ -36,7 +36,7 @@ int main(int count, char** arguments) {
     try {
         writeReference(tree / "docs" / "reference");
         for (const lumtex::GeneratedFile& file : lumtex::generatedFiles())
-            write(tree / "src" / "activex" / file.fileName, file.text);
+            write(tree / file.path, file.text);
     } catch (const std::exception& failure) {
         std::cerr << tree.string() << ": " << failure.what() << '\n';
         return 1;

@@ -8,23 +8,18 @@ namespace lumtex {
 
 namespace {
 
-struct EntryWords {
-    const char* prefix;
-    const char* through;
-};
-
-EntryWords wordsOf(InterfaceEntry::Kind kind) {
+const char* forwarderOf(InterfaceEntry::Kind kind) {
     switch (kind) {
     case InterfaceEntry::Kind::get:
-        return {"get_", "getBy"};
+        return "getBy";
     case InterfaceEntry::Kind::let:
-        return {"put_", "letBy"};
+        return "letBy";
     case InterfaceEntry::Kind::set:
-        return {"putref_", "setBy"};
+        return "setBy";
     case InterfaceEntry::Kind::call:
         break;
     }
-    return {"", "callBy"};
+    return "callBy";
 }
 
 /// An enumeration has the size of a Long, a list comes as an array, and a record is one of
@@ -40,31 +35,18 @@ std::string codeType(const TypeInfo& type) {
 }
 
 std::string entryText(const InterfaceEntry& entry) {
-    using enum InterfaceEntry::Kind;
-    const Member& member = *entry.member;
-    const EntryWords words = wordsOf(entry.kind);
-    std::string parameters;
-    std::string arguments = std::to_string(member.number);
-    const auto add = [&](const std::string& type, const std::string& name) {
-        parameters += (parameters.empty() ? "" : ", ") + type + " " + name;
-    };
-    const bool gives = entry.kind == get || (entry.kind == call && member.type.code != TypeCode::none);
-    if (gives)
+    const bool called = entry.kind == InterfaceEntry::Kind::call;
+    std::string arguments = std::to_string(entry.member->number);
+    if (givesResult(entry))
         arguments += ", result";
-    else if (entry.kind == call)
+    else if (called)
         arguments += ", noResult";
-    for (const Parameter& parameter : member.parameters()) {
-        add(codeType(parameter.type) + (parameter.byReference ? "*" : ""), toUtf8(parameter.name));
+    for (const Parameter& parameter : entry.member->parameters())
         arguments += ", " + toUtf8(parameter.name);
-    }
-    if (gives) {
-        add(codeType(member.type) + "*", "result");
-    } else if (entry.kind != call) {
-        add(codeType(member.type), "value");
+    if (!givesResult(entry) && !called)
         arguments += ", value";
-    }
-    return "virtual HRESULT STDMETHODCALLTYPE " + (words.prefix + toUtf8(member.name)) + "(" + parameters +
-           ") { return " + words.through + "(" + arguments + "); }\n";
+    return entrySignature(entry, codeType) + " { return " + forwarderOf(entry.kind) + "(" + arguments +
+           "); }\n";
 }
 
 } // namespace

@@ -2,16 +2,18 @@
 #include "automation/generated_files.h"
 
 #include "automation/dual_entries.h"
+#include "automation/host_header.h"
 #include "automation/type_library.h"
 
 namespace lumtex {
 
 std::vector<GeneratedFile> generatedFiles() {
     return {
-        {"lumtex_list_view.idl", typeLibrarySource()},
-        {"list_view_entries.inc", dualEntries(listViewClass())},
-        {"sp_ev_entries.inc", dualEntries(spEvClass())},
-        {"error_entries.inc", dualEntries(errorClass())},
+        {"src/activex/lumtex_list_view.idl", typeLibrarySource()},
+        {"src/activex/list_view_entries.inc", dualEntries(listViewClass())},
+        {"src/activex/sp_ev_entries.inc", dualEntries(spEvClass())},
+        {"src/activex/error_entries.inc", dualEntries(errorClass())},
+        {"include/LumtexListView.h", hostHeader()},
     };
 }
 

@@ -1,5 +1,5 @@
 /// \file
-/// What the component's source holds of generated text.
+/// What the tree holds of generated text, beside the reference.
 #pragma once
 
 #include <string>
@@ -8,11 +8,11 @@
 namespace lumtex {
 
 struct GeneratedFile {
-    std::string fileName; ///< in src/activex
+    std::string path; ///< from the top of the tree
     std::string text;
 };
 
-/// The type library's source, and the tables of functions.
+/// The type library's source, the tables of functions, and the header for hosts in C++.
 std::vector<GeneratedFile> generatedFiles();
 
 } // namespace lumtex

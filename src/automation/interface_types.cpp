@@ -1,9 +1,27 @@
-/// Types and order of a table of functions.
+/// Types, order and signatures of a table of functions.
 #include "automation/interface_types.h"
 
 #include "platform/text.h"
 
 namespace lumtex {
+
+namespace {
+
+const char* prefixOf(InterfaceEntry::Kind kind) {
+    switch (kind) {
+    case InterfaceEntry::Kind::get:
+        return "get_";
+    case InterfaceEntry::Kind::let:
+        return "put_";
+    case InterfaceEntry::Kind::set:
+        return "putref_";
+    case InterfaceEntry::Kind::call:
+        break;
+    }
+    return "";
+}
+
+} // namespace
 
 std::string interfaceType(const TypeInfo& type) {
     switch (type.code) {
@@ -36,6 +54,27 @@ std::string interfaceType(const TypeInfo& type) {
         break;
     }
     return toUtf8(type.name);
+}
+
+bool givesResult(const InterfaceEntry& entry) {
+    using enum InterfaceEntry::Kind;
+    return entry.kind == get || (entry.kind == call && entry.member->type.code != TypeCode::none);
+}
+
+std::string entrySignature(const InterfaceEntry& entry, std::string (*typeText)(const TypeInfo&)) {
+    const Member& member = *entry.member;
+    std::string parameters;
+    const auto add = [&](const std::string& type, const std::string& name) {
+        parameters += (parameters.empty() ? "" : ", ") + type + " " + name;
+    };
+    for (const Parameter& parameter : member.parameters())
+        add(typeText(parameter.type) + (parameter.byReference ? "*" : ""), toUtf8(parameter.name));
+    if (givesResult(entry))
+        add(typeText(member.type) + "*", "result");
+    else if (entry.kind != InterfaceEntry::Kind::call)
+        add(typeText(member.type), "value");
+    return "virtual HRESULT STDMETHODCALLTYPE " + (prefixOf(entry.kind) + toUtf8(member.name)) + "(" +
+           parameters + ")";
 }
 
 std::vector<InterfaceEntry> interfaceEntries(std::span<const Member> members) {

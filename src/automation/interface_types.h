@@ -20,6 +20,13 @@ struct InterfaceEntry {
     Kind kind;
 };
 
+/// Whether the entry gives a value through its last parameter.
+bool givesResult(const InterfaceEntry& entry);
+
+/// The entry as a virtual function of C++, without its body: "virtual HRESULT STDMETHODCALLTYPE get_X(long*
+/// result)". `typeText` writes the types.
+std::string entrySignature(const InterfaceEntry& entry, std::string (*typeText)(const TypeInfo&));
+
 /// The entries in the order of the table: the members as they stand, a property's get before its let.
 std::vector<InterfaceEntry> interfaceEntries(std::span<const Member> members);
 
