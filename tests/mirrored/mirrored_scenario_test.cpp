@@ -45,16 +45,6 @@ class MirroredScenario : public ::testing::TestWithParam<std::filesystem::path> 
     static inline std::unique_ptr<SameSystemColors> colors_;
 };
 
-/// Each step and what it logged, one line each.
-std::vector<std::string> flat(const Script& script, const Played& played) {
-    std::vector<std::string> lines;
-    for (std::size_t step = 0; step < script.steps.size(); ++step) {
-        lines.push_back(script.steps[step].text);
-        lines.insert(lines.end(), played.logs[step].begin(), played.logs[step].end());
-    }
-    return lines;
-}
-
 /// The logs in the scripts name points that depend on the height of the reference fonts, so the log is held
 /// against that of the simulated desktop alone, with the fonts of Windows as well.
 TEST_P(MirroredScenario, ShowsTheSamePixelsOnBothSurfacesAndLeavesTheSameLog) {
@@ -68,7 +58,7 @@ TEST_P(MirroredScenario, ShowsTheSamePixelsOnBothSurfacesAndLeavesTheSameLog) {
         mirrored = play(script, *stage);
     }
     EXPECT_GT(comparisons.made, 0);
-    EXPECT_TRUE(sameLog(flat(script, mirrored), flat(script, alone)));
+    EXPECT_TRUE(sameLog(linesOf(script, mirrored.logs), linesOf(script, alone.logs)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, MirroredScenario, ::testing::ValuesIn(scriptFiles()), nameOfScript);

@@ -1,8 +1,8 @@
 #include "headless_stage.h"
 
 #include "platform/headless/desktop.h"
-#include "platform/text.h"
 #include "recording_events.h"
+#include "report_line.h"
 #include "test_fonts.h"
 #include "test_host.h"
 
@@ -19,7 +19,9 @@ class HeadlessStage final : public Stage {
         : around_(worldAround ? worldAround(desktop_) : nullptr),
           neighbour_(desktop_.createWindow(nullptr, neighbourClient_)) {
         events_.depth = [this] { return desktop_.yieldDepth(); };
-        desktop_.runtime().whileBoxIsOpen = [this] { noteReport(); };
+        desktop_.runtime().whileBoxIsOpen = [this] {
+            events_.log.push_back(reportLine(desktop_.runtime().boxes.back().text));
+        };
         list_.UserControl_ReadProperties(MemoryPropertyBag{});
         list_.window().place(100, 100, 300, 200);
         neighbour_->place(600, 100, 50, 50);
@@ -58,18 +60,6 @@ class HeadlessStage final : public Stage {
     Bitmap picture() override { return desktop_.screenshot(list_.window()); }
 
   private:
-    /// "report 13 ItemText"
-    void noteReport() {
-        const std::string text = toUtf8(desktop_.runtime().boxes.back().text);
-        const auto between = [&](const std::string& label, char end) {
-            const std::size_t first = text.find(label) + label.size();
-            return text.substr(first, text.find(end, first) - first);
-        };
-        const std::string place = between("Line/Procedure: ", '\r');
-        events_.log.push_back("report " + between("Error no.: ", '\r') + " " +
-                              place.substr(place.find('/') + 1));
-    }
-
     Desktop desktop_{testFonts()};
     std::unique_ptr<World> around_;
     TestHost host_;

@@ -8,8 +8,8 @@
 namespace lumtex::testing {
 
 struct Played {
-    std::vector<std::vector<std::string>> logs; ///< of each step
-    std::vector<Bitmap> frames;                 ///< of a film, in order
+    StepLogs logs;
+    std::vector<Bitmap> frames; ///< of a film, in order
 };
 
 /// A step that cannot be understood throws std::runtime_error.

@@ -19,16 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<std::string> flat(const Script& script, const std::vector<std::vector<std::string>>& logs) {
-    std::vector<std::string> lines;
-    for (std::size_t step = 0; step < script.steps.size(); ++step) {
-        lines.push_back(script.steps[step].text);
-        for (const std::string& entry : logs[step])
-            lines.push_back("> " + entry);
-    }
-    return lines;
-}
-
 /// The frames from left to right, a gap between them, in out/film.
 void saveFilm(const std::vector<Bitmap>& frames, const std::string& name) {
     constexpr Long gap = 8;
@@ -51,9 +41,7 @@ class Scenario : public ::testing::TestWithParam<fs::path> {};
 TEST_P(Scenario, LeavesTheLogThatItSays) {
     const Script script = parseScript(contentOfScript(GetParam()));
     ASSERT_FALSE(script.steps.empty());
-    std::vector<std::vector<std::string>> expected;
-    for (const Step& step : script.steps)
-        expected.push_back(step.expected);
+    const StepLogs expected = expectedLogs(script);
 
     const std::unique_ptr<Stage> stage = makeHeadlessStage();
     const auto [logs, frames] = play(script, *stage);
@@ -62,7 +50,7 @@ TEST_P(Scenario, LeavesTheLogThatItSays) {
 
     if (std::getenv("LUMTEX_ACCEPT_SCENARIOS") != nullptr && logs != expected)
         std::ofstream(GetParam(), std::ios::binary) << withLogs(script, logs);
-    EXPECT_TRUE(sameLog(flat(script, logs), flat(script, expected)));
+    EXPECT_TRUE(sameLog(linesOf(script, logs), linesOf(script, expected)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Headless, Scenario, ::testing::ValuesIn(scriptFiles()), nameOfScript);

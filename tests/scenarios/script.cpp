@@ -95,7 +95,24 @@ Script parseScript(const std::string& text) {
     return script;
 }
 
-std::string withLogs(const Script& script, const std::vector<std::vector<std::string>>& logs) {
+StepLogs expectedLogs(const Script& script) {
+    StepLogs logs;
+    for (const Step& step : script.steps)
+        logs.push_back(step.expected);
+    return logs;
+}
+
+std::vector<std::string> linesOf(const Script& script, const StepLogs& logs) {
+    std::vector<std::string> lines;
+    for (std::size_t step = 0; step < script.steps.size(); ++step) {
+        lines.push_back(script.steps[step].text);
+        for (const std::string& entry : logs[step])
+            lines.push_back("> " + entry);
+    }
+    return lines;
+}
+
+std::string withLogs(const Script& script, const StepLogs& logs) {
     std::string text;
     for (const auto& [line, step] : script.lines) {
         text += line + "\n";

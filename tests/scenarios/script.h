@@ -29,8 +29,14 @@ struct Script {
 
 /// Throws std::runtime_error for a log line that no step stands before, or a quote without its end.
 Script parseScript(const std::string& text);
+/// The logs of its steps, in order.
+using StepLogs = std::vector<std::vector<std::string>>;
+/// Those that the script says.
+StepLogs expectedLogs(const Script& script);
+/// Each step, and what it logged behind "> ".
+std::vector<std::string> linesOf(const Script& script, const StepLogs& logs);
 /// The script with these logs behind its steps, in place of those that it had.
-std::string withLogs(const Script& script, const std::vector<std::vector<std::string>>& logs);
+std::string withLogs(const Script& script, const StepLogs& logs);
 
 /// 12, -3, 2.5, "text" (with \" \\ and \u followed by four digits), True, False, Empty, Null, Nothing, or "-"
 /// for an argument left out. A number with a point is a Double, any other a Long. Throws std::runtime_error

@@ -28,18 +28,18 @@ class NotedRuntime : public Win32Runtime {
     std::function<void()> onYield; ///< runs once, in the next yield
 };
 
-/// A window as a program has it, 500 x 400 pixels at (50, 50) of the screen, without a frame.
+/// A window as a program has it, at (50, 50) of the screen, without a frame.
 class ProgramWindow {
   public:
-    ProgramWindow()
+    explicit ProgramWindow(int width = 500, int height = 400)
         : window_(CreateWindowExW(0,
                                   L"STATIC",
                                   L"program",
                                   WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN,
                                   50,
                                   50,
-                                  500,
-                                  400,
+                                  width,
+                                  height,
                                   nullptr,
                                   nullptr,
                                   GetModuleHandleW(nullptr),

@@ -5,7 +5,8 @@
 
 namespace lumtex {
 
-TimerWindow::TimerWindow(HINSTANCE instance) : class_(instance, L"LumtexTimers", procedure, 0) {
+TimerWindow::TimerWindow(HINSTANCE instance, TickSource& ticks)
+    : ticks_(ticks), class_(instance, L"LumtexTimers", procedure, 0) {
     window_ = CreateWindowExW(0, class_.name(), L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, instance, nullptr);
     if (window_ == nullptr)
         throw RuntimeError(outOfMemory);
@@ -20,7 +21,7 @@ UINT_PTR TimerWindow::start(Win32Timer& timer, Long milliseconds) {
     // Each run has a number of its own, so that a tick of an earlier run that is still on its way is told
     // apart.
     const UINT_PTR run = ++lastRun_;
-    if (SetTimer(window_, run, static_cast<UINT>(milliseconds), nullptr) == 0)
+    if (!ticks_.start(window_, run, milliseconds))
         return 0;
     running_.emplace(run, &timer);
     return run;
@@ -28,7 +29,7 @@ UINT_PTR TimerWindow::start(Win32Timer& timer, Long milliseconds) {
 
 void TimerWindow::stop(UINT_PTR run) {
     if (running_.erase(run) > 0)
-        KillTimer(window_, run);
+        ticks_.stop(window_, run);
 }
 
 void TimerWindow::tick(UINT_PTR run) {

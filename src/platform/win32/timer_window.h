@@ -2,6 +2,7 @@
 /// The window that the timers of a world tick through. It is never shown.
 #pragma once
 
+#include "platform/win32/tick_source.h"
 #include "platform/win32/window_class.h"
 
 #include <unordered_map>
@@ -12,13 +13,13 @@ class Win32Timer;
 
 class TimerWindow {
   public:
-    /// Throws RuntimeError 7 where the system gives no window.
-    explicit TimerWindow(HINSTANCE instance);
+    /// `ticks` must outlive the window. Throws RuntimeError 7 where the system gives no window.
+    TimerWindow(HINSTANCE instance, TickSource& ticks);
     TimerWindow(const TimerWindow&) = delete;
     TimerWindow& operator=(const TimerWindow&) = delete;
     ~TimerWindow();
 
-    /// Begins to tick; the number names this run of the timer. 0 where the system has no timer left.
+    /// Begins to tick; the number names this run of the timer. 0 where there is no timer left.
     UINT_PTR start(Win32Timer& timer, Long milliseconds);
     void stop(UINT_PTR run);
 
@@ -26,6 +27,7 @@ class TimerWindow {
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     void tick(UINT_PTR run);
 
+    TickSource& ticks_;
     WindowClass class_;
     HWND window_ = nullptr;
     UINT_PTR lastRun_ = 0;

@@ -23,9 +23,9 @@ Win32Window& windowOfOurs(Window& window) {
 
 } // namespace
 
-Win32World::Win32World(HINSTANCE instance, HWND container, Runtime* runtime)
+Win32World::Win32World(HINSTANCE instance, HWND container, Runtime* runtime, TickSource& ticks)
     : instance_(instance), container_(container != nullptr ? container : HWND_MESSAGE), runtime_(runtime),
-      surfaceClass_(instance, L"LumtexSurface", Win32Window::procedure, CS_DBLCLKS), timers_(instance),
+      surfaceClass_(instance, L"LumtexSurface", Win32Window::procedure, CS_DBLCLKS), timers_(instance, ticks),
       ownRuntime_(instance), tips_(*this) {}
 
 Win32World::~Win32World() = default;

@@ -32,8 +32,11 @@ class Win32World final : public World {
 
     /// `instance` is the module that this code is part of. Windows without a parent lie in `container`; with
     /// none, in a place of the system that is never shown, until somebody gives them a parent. `runtime`
-    /// stands in for the world's own one and must outlive the world.
-    explicit Win32World(HINSTANCE instance, HWND container = nullptr, Runtime* runtime = nullptr);
+    /// stands in for the world's own one, `ticks` for the system's timers; both must outlive the world.
+    explicit Win32World(HINSTANCE instance,
+                        HWND container = nullptr,
+                        Runtime* runtime = nullptr,
+                        TickSource& ticks = systemTicks());
     /// All windows, boxes, tips and timers must be gone.
     ~Win32World() override;
 
