@@ -45,6 +45,7 @@ endfunction()
 # The conversions are the same everywhere, and the compiler's library is another one.
 lumtex_tests(platform LINK lumtex_platform)
 lumtex_tests(win32 LINK lumtex_control lumtex_test_raster lumtex_win32)
+target_sources(lumtex_test_win32 PRIVATE scripts/script_host.cpp)
 lumtex_tests(mirrored LINK lumtex_automation lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_mirrored PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)
 lumtex_tests(stage LINK lumtex_automation lumtex_test_raster lumtex_win32)
@@ -53,6 +54,13 @@ target_sources(lumtex_test_stage PRIVATE scenarios/player.cpp scenarios/script.c
 set_tests_properties(stage PROPERTIES RUN_SERIAL ON)
 lumtex_tests(activex LINK lumtex_automation lumtex_win32)
 add_dependencies(lumtex_test_activex LumtexListView)
+# Scripts find the component through the program's manifest.
+enable_language(RC)
+lumtex_tests(scripts LINK lumtex_automation lumtex_win32)
+target_sources(lumtex_test_scripts PRIVATE scripts/scripts.rc)
+set_source_files_properties(scripts/scripts.rc PROPERTIES OBJECT_DEPENDS
+                                                          "${CMAKE_CURRENT_SOURCE_DIR}/scripts/scripts.manifest")
+add_dependencies(lumtex_test_scripts LumtexListView)
 add_test(NAME component COMMAND "${PROJECT_SOURCE_DIR}/scripts/check-component" $<TARGET_FILE:LumtexListView>)
 
 get_property(programs GLOBAL PROPERTY LUMTEX_TEST_PROGRAMS)

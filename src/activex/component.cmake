@@ -30,3 +30,9 @@ target_link_libraries(LumtexListView PRIVATE lumtex_automation lumtex_win32)
 target_link_options(LumtexListView PRIVATE -Wl,--enable-stdcall-fixup)
 target_precompile_headers(LumtexListView REUSE_FROM lumtex_precompiled)
 lumtex_headers_alone(LumtexListView ${activex_headers})
+# Programs find the component by the manifest beside it, where nothing is registered.
+add_custom_command(
+    TARGET LumtexListView
+    POST_BUILD
+    COMMAND "${CMAKE_COMMAND}" -E copy_if_different "${activex_folder}/LumtexListView.manifest"
+            "$<TARGET_FILE_DIR:LumtexListView>")

@@ -3,6 +3,7 @@
 
 #include "automation/dual_entries.h"
 #include "automation/host_header.h"
+#include "automation/side_by_side.h"
 #include "automation/type_library.h"
 
 namespace lumtex {
@@ -13,6 +14,7 @@ std::vector<GeneratedFile> generatedFiles() {
         {"src/activex/list_view_entries.inc", dualEntries(listViewClass())},
         {"src/activex/sp_ev_entries.inc", dualEntries(spEvClass())},
         {"src/activex/error_entries.inc", dualEntries(errorClass())},
+        {"src/activex/LumtexListView.manifest", sideBySideManifest()},
         {"include/LumtexListView.h", hostHeader()},
     };
 }

@@ -12,7 +12,7 @@ struct GeneratedFile {
     std::string text;
 };
 
-/// The type library's source, the tables of functions, and the header for hosts in C++.
+/// The type library's source, the tables of functions, the manifest, and the header for hosts in C++.
 std::vector<GeneratedFile> generatedFiles();
 
 } // namespace lumtex

@@ -4,6 +4,7 @@
 
 #include "platform/text.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -37,10 +38,16 @@ class ScratchFolder {
         std::ofstream(path / name, std::ios::binary) << bytes;
     }
 
-    const std::filesystem::path path =
-        std::filesystem::temp_directory_path() /
-        ("lumtex_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->test_suite_name()) +
-         "_" + ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    const std::filesystem::path path = std::filesystem::temp_directory_path() / name();
+
+  private:
+    /// Names of parameterised tests hold slashes.
+    static std::string name() {
+        const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
+        std::string name = std::string("lumtex_") + test->test_suite_name() + "_" + test->name();
+        std::replace(name.begin(), name.end(), '/', '_');
+        return name;
+    }
 };
 
 } // namespace lumtex::testing

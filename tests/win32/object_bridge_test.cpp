@@ -3,7 +3,7 @@
 #include "platform/runtime_error.h"
 #include "platform/win32/object_bridge.h"
 #include "platform/win32/variant_bridge.h"
-#include "script_engine.h"
+#include "scripts/script_host.h"
 #include "test_object.h"
 #include "variant_printing.h"
 
@@ -107,8 +107,8 @@ TEST(ObjectBridge, LetsGoOfWhatItHolds) {
 
 class ScriptObjects : public ::testing::Test {
   protected:
-    ScriptEngine vbs{L"VBScript"};
-    ScriptEngine js{L"JScript"};
+    ScriptHost vbs{ScriptLanguage::vbScript};
+    ScriptHost js{ScriptLanguage::jScript};
 };
 
 TEST_F(ScriptObjects, ClassesOfVBScriptAnswerByNameInAnyCase) {

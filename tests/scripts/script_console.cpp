@@ -1,0 +1,59 @@
+#include "scripts/script_console.h"
+
+#include "platform/runtime_error.h"
+#include "platform/text.h"
+#include "platform/win32/object_bridge.h"
+
+namespace lumtex::testing {
+
+namespace {
+
+/// A number that no other failure has.
+constexpr Long scriptHasQuit = 1000;
+
+} // namespace
+
+ScriptConsole::ScriptConsole(const ScriptHost& host, std::vector<String> arguments)
+    : host_(host), arguments_(std::move(arguments)) {}
+
+ScriptConsole::~ScriptConsole() = default;
+
+Variant ScriptConsole::get(StringView name, std::span<Variant> arguments) {
+    if (!sameName(name, u"Arguments"))
+        throw RuntimeError(objectDoesNotSupportMember);
+    if (arguments.size() != 1)
+        throw RuntimeError(wrongNumberOfArguments);
+    const auto place = static_cast<std::size_t>(arguments[0].toLong());
+    if (place >= arguments_.size())
+        throw RuntimeError(subscriptOutOfRange);
+    return arguments_[place];
+}
+
+void ScriptConsole::put(StringView /*name*/, const Variant& /*value*/) {
+    throw RuntimeError(objectDoesNotSupportMember);
+}
+
+Variant ScriptConsole::call(StringView name, std::span<Variant> arguments) {
+    if (sameName(name, u"Echo")) {
+        std::string line;
+        for (const Variant& argument : arguments)
+            line += (line.empty() ? "" : " ") + toUtf8(argument.toText());
+        output += line + "\n";
+        return {};
+    }
+    if (sameName(name, u"Quit")) {
+        status = arguments.empty() ? 0 : arguments[0].toLong();
+        throw RuntimeError(scriptHasQuit, u"The script has quit.");
+    }
+    if (sameName(name, u"ConnectObject")) {
+        if (arguments.size() != 2)
+            throw RuntimeError(wrongNumberOfArguments);
+        const ComRef<IDispatch> control = toIDispatch(arguments[0].toObject());
+        connections_.push_back(
+            std::make_unique<ScriptEvents>(control.get(), host_.dispatch(), arguments[1].toText()));
+        return {};
+    }
+    throw RuntimeError(objectDoesNotSupportMember);
+}
+
+} // namespace lumtex::testing

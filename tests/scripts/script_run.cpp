@@ -1,0 +1,55 @@
+/// Script files in a host of ours.
+#include "scripts/script_run.h"
+
+#include "platform/text.h"
+#include "scripts/message_boxes.h"
+#include "scripts/script_console.h"
+#include "scripts/script_user.h"
+
+#include <fstream>
+#include <iterator>
+
+namespace lumtex::testing {
+
+void PrintTo(const ScriptOutcome& outcome, std::ostream* stream) {
+    *stream << "status " << outcome.status << ", failure \"" << outcome.failure << "\", output:\n"
+            << outcome.output;
+    for (const String& box : outcome.boxes)
+        *stream << "box: " << toUtf8(box) << '\n';
+}
+
+ScriptLanguage languageOf(const std::filesystem::path& script) {
+    return script.extension() == ".js" ? ScriptLanguage::jScript : ScriptLanguage::vbScript;
+}
+
+String scriptText(const std::filesystem::path& script) {
+    std::ifstream file(script, std::ios::binary);
+    if (!file)
+        throw std::runtime_error("no script " + script.string());
+    return fromUtf8(std::string(std::istreambuf_iterator<char>(file), {}));
+}
+
+ScriptOutcome runScript(const std::filesystem::path& script, const std::vector<String>& arguments) {
+    ScriptOutcome outcome;
+    AnsweredBoxes boxes;
+    ScriptHost host(languageOf(script));
+    const auto console = std::make_shared<ScriptConsole>(host, arguments);
+    host.add(u"WScript", console);
+    host.add(u"User", std::make_shared<ScriptUser>());
+    try {
+        host.run(scriptText(script));
+    } catch (const ScriptFailure& failure) {
+        // Where a script quits, it fails on purpose.
+        if (!console->status) {
+            outcome.failure = failure.what();
+            outcome.status = 1;
+        }
+    }
+    outcome.status = console->status.value_or(outcome.status);
+    outcome.output = console->output;
+    outcome.boxes = boxes.texts;
+    console->disconnect();
+    return outcome;
+}
+
+} // namespace lumtex::testing
