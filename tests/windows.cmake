@@ -57,6 +57,7 @@ add_dependencies(lumtex_test_activex LumtexListView)
 # Scripts find the component through the program's manifest.
 enable_language(RC)
 lumtex_tests(scripts LINK lumtex_automation lumtex_win32)
+set_tests_properties(scripts PROPERTIES RUN_SERIAL ON)
 target_sources(lumtex_test_scripts PRIVATE scripts/scripts.rc)
 set_source_files_properties(scripts/scripts.rc PROPERTIES OBJECT_DEPENDS
                                                           "${CMAKE_CURRENT_SOURCE_DIR}/scripts/scripts.manifest")

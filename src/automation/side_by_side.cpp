@@ -30,16 +30,16 @@ std::string classTraits(const ClassDescription& description) {
     if (&description != &listViewClass())
         return "";
     return "\n       " + attribute("miscStatusContent",
-                                    "recomposeonresize,cantlinkinside,insideout,activatewhenvisible,"
-                                    "setclientsitefirst");
+                                   "recomposeonresize,cantlinkinside,insideout,activatewhenvisible,"
+                                   "setclientsitefirst");
 }
 
 std::string classElement(const ClassDescription& description) {
     const std::string name = toUtf8(description.name);
     return "    <comClass" + attribute("clsid", braced(uuidOf(name))) +
            attribute("progid", "LumtexListView." + name) + "\n       " +
-           attribute("threadingModel", "Apartment") +
-           attribute("tlbid", braced(uuidOf("LumtexListView"))) + classTraits(description) + "/>\n";
+           attribute("threadingModel", "Apartment") + attribute("tlbid", braced(uuidOf("LumtexListView"))) +
+           classTraits(description) + "/>\n";
 }
 
 std::string interfaceElement(const std::string& name, std::string_view marshaller) {

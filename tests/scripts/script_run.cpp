@@ -2,9 +2,9 @@
 #include "scripts/script_run.h"
 
 #include "platform/text.h"
-#include "scripts/message_boxes.h"
 #include "scripts/script_console.h"
 #include "scripts/script_user.h"
+#include "windows/box_watch.h"
 
 #include <fstream>
 #include <iterator>
@@ -31,11 +31,14 @@ String scriptText(const std::filesystem::path& script) {
 
 ScriptOutcome runScript(const std::filesystem::path& script, const std::vector<String>& arguments) {
     ScriptOutcome outcome;
-    AnsweredBoxes boxes;
+    BoxWatch watch;
+    // Boxes lie in the window of the program: one that lies in none takes the system two seconds to show.
+    SetForegroundWindow(programWindow());
     ScriptHost host(languageOf(script));
     const auto console = std::make_shared<ScriptConsole>(host, arguments);
     host.add(u"WScript", console);
-    host.add(u"User", std::make_shared<ScriptUser>());
+    const auto user = std::make_shared<ScriptUser>();
+    host.add(u"User", user);
     try {
         host.run(scriptText(script));
     } catch (const ScriptFailure& failure) {
@@ -47,8 +50,9 @@ ScriptOutcome runScript(const std::filesystem::path& script, const std::vector<S
     }
     outcome.status = console->status.value_or(outcome.status);
     outcome.output = console->output;
-    outcome.boxes = boxes.texts;
+    outcome.boxes = std::exchange(watch.boxes, {});
     console->disconnect();
+    user->close();
     return outcome;
 }
 

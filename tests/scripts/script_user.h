@@ -1,19 +1,33 @@
 /// \file
-/// The object by which scripts press keys and buttons.
+/// The object by which scripts show a list and use it as a person would.
 #pragma once
 
+#include "activex/small_container.h"
 #include "platform/object.h"
+
+#include <memory>
 
 namespace lumtex::testing {
 
-/// What a user does, told to the window of a list without a detour by the real mouse:
-/// `KeyDown list, code`, `KeyPress list, code`, `EditorKeyPress list, code`, `Click list, x, y`, in pixels of the
-/// list.
+/// `Show list` puts a list into a window. `KeyDown list, code` and `KeyPress list, code` go to it,
+/// `EditorKeyPress list, code` to its editor. `Click list, x, y` moves the real mouse, in pixels of the list,
+/// and needs the display for itself.
 class ScriptUser final : public Object {
   public:
+    ~ScriptUser() override;
+
     Variant get(StringView name, std::span<Variant> arguments) override;
     void put(StringView name, const Variant& value) override;
     Variant call(StringView name, std::span<Variant> arguments) override;
+
+    /// Takes the list out of its window.
+    void close();
+
+  private:
+    void show(const Variant& list);
+
+    std::unique_ptr<SmallContainer> container_;
+    ComRef<IOleObject> shown_;
 };
 
 } // namespace lumtex::testing

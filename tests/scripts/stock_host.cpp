@@ -1,8 +1,8 @@
 /// The system's own host of scripts, in a folder where it finds the component.
 #include "platform/text.h"
-#include "scripts/message_boxes.h"
-#include "scripts/script_run.h"
 #include "platform/win32/ansi_text.h"
+#include "scripts/script_run.h"
+#include "windows/box_watch.h"
 
 #include <fstream>
 

@@ -1,7 +1,7 @@
 /// Scripts as application developers write them, in a host with events and in the system's own.
 #include "folders.h"
-#include "scripts/script_run.h"
 #include "scratch_folder.h"
+#include "scripts/script_run.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -36,14 +36,19 @@ std::string contentOf(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+std::string withoutReturns(std::string text) {
+    std::erase(text, '\r');
+    return text;
+}
+
 std::string nameOf(const ::testing::TestParamInfo<fs::path>& info) {
     std::string name = info.param.filename().string();
     std::ranges::replace(name, '.', '_');
     return name;
 }
 
-/// The script's first argument is a folder to write in. LUMTEX_ACCEPT_STORIES=1 writes what came out beside the
-/// scripts, and that run still fails.
+/// The script's first argument is a folder to write in. LUMTEX_ACCEPT_STORIES=1 writes what came out beside
+/// the scripts, and that run still fails.
 class Story : public ::testing::TestWithParam<fs::path> {
   protected:
     void expectAsWritten(const ScriptOutcome& outcome) {
@@ -53,7 +58,7 @@ class Story : public ::testing::TestWithParam<fs::path> {
         EXPECT_EQ(outcome.status, 0);
         std::string all = outcome.output;
         for (const String& box : outcome.boxes)
-            all += "box: " + toUtf8(box) + "\n";
+            all += "box:\n" + withoutReturns(toUtf8(box)) + "\n";
         EXPECT_EQ(all, contentOf(expected)) << "what " << expected.string() << " has";
         if (std::getenv("LUMTEX_ACCEPT_STORIES") != nullptr)
             std::ofstream(expected, std::ios::binary) << all;

@@ -11,6 +11,26 @@
 
 namespace lumtex::testing {
 
+/// The text that a message box shows. The number of the control that shows it is not the same in all versions
+/// of the system; that for the icon has no text.
+inline String textOfBox(HWND box) {
+    String text(4096, u'\0');
+    int length = 0;
+    for (HWND child = nullptr; length == 0;) {
+        child = FindWindowExW(box, child, L"STATIC", nullptr);
+        if (child == nullptr)
+            break;
+        length = GetWindowTextW(child, wide(text.data()), static_cast<int>(text.size()));
+    }
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+inline bool isMessageBox(HWND window) {
+    wchar_t className[8] = L"";
+    return GetClassNameW(window, className, 8) != 0 && textOf(className) == u"#32770";
+}
+
 /// While one lives, a message box of this thread is dismissed as soon as it shows: it would wait for ever.
 /// Its text is kept, and a box that no test took from `boxes` is a failure. One at a time.
 class BoxWatch {
@@ -31,31 +51,15 @@ class BoxWatch {
     std::vector<String> boxes; ///< texts, in the order in which they showed
 
   private:
-    /// The number of the control that shows the text is not the same in all versions of the system; that for
-    /// the icon has no text.
-    static String textOfBox(HWND box) {
-        String text(4096, u'\0');
-        int length = 0;
-        for (HWND child = nullptr; length == 0;) {
-            child = FindWindowExW(box, child, L"STATIC", nullptr);
-            if (child == nullptr)
-                break;
-            length = GetWindowTextW(child, wide(text.data()), static_cast<int>(text.size()));
-        }
-        text.resize(static_cast<std::size_t>(length));
-        return text;
-    }
     static LRESULT CALLBACK onWindow(int code, WPARAM wParam, LPARAM lParam) noexcept {
         current_->look(code, reinterpret_cast<HWND>(wParam));
         return CallNextHookEx(nullptr, code, wParam, lParam);
     }
     void look(int code, HWND window) {
-        wchar_t className[8] = L"";
         if (code == HCBT_DESTROYWND && window == shown_)
             shown_ = nullptr;
         // A box may become active more than once.
-        if (code != HCBT_ACTIVATE || window == shown_ || GetClassNameW(window, className, 8) == 0 ||
-            textOf(className) != u"#32770")
+        if (code != HCBT_ACTIVATE || window == shown_ || !isMessageBox(window))
             return;
         shown_ = window;
         // Its text comes later; the loop that the box runs for itself brings the tick.

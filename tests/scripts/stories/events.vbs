@@ -31,6 +31,7 @@ Sub list_ItemClick(Row, Column)
 End Sub
 
 Set list = CreateObject("LumtexListView.lmListView")
+User.Show list
 WScript.ConnectObject list, "list_"
 list.RowsDynamic = False
 list.RowHeight = 300
@@ -55,7 +56,7 @@ User.KeyDown list, 38
 WScript.Echo "turned: " & list.ListIndex
 
 list.ListIndex = 99
-list.Sort 1, 0, 0
+list.Sort 1, 1
 WScript.Echo "first: " & list.ItemText(1, 1)
 
 list.ColumnAllowSorting(1) = True
