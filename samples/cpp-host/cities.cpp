@@ -72,10 +72,19 @@ class Events final : public IDispatch {
     HWND window_;
 };
 
+VARIANT number(long value) {
+    VARIANT result;
+    result.vt = VT_I4;
+    result.lVal = value;
+    return result;
+}
+
 void fill(_lmListView& list) {
     list.put_AutoRedraw(VARIANT_FALSE);
     list.put_MultiSelect(VARIANT_TRUE);
     list.put_GridLines(VARIANT_TRUE);
+    list.put_RowsDynamic(VARIANT_FALSE); // rows of one height, and a scroll bar only where they need it
+    list.put_RowHeight(300);             // twips
     list.put_Style(cCheckBoxes);
     for (const wchar_t* heading : {L"City", L"Country"})
         list.ColumnsAdd(Text(heading),
@@ -90,10 +99,9 @@ void fill(_lmListView& list) {
                         Text(L""),
                         0,
                         0);
+    list.put_ColumnCheckBoxes(number(1), VARIANT_TRUE);
     for (const wchar_t* row : {L"Lisbon,Portugal", L"Oslo,Norway", L"Quito,Ecuador", L"Hanoi,Vietnam"}) {
-        VARIANT atTheEnd;
-        atTheEnd.vt = VT_I4;
-        atTheEnd.lVal = -1;
+        VARIANT atTheEnd = number(-1);
         list.RowsAdd(&atTheEnd, Text(L","), Text(row));
     }
     list.put_AutoRedraw(VARIANT_TRUE);
