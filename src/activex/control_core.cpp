@@ -24,10 +24,16 @@ ControlCore::ControlCore(IUnknown& outer, IConnectionPointContainer& points)
       notifyPoint_(points, IID_IPropertyNotifySink), events_(eventPoint_), world_(moduleInstance()),
       list_(std::make_unique<lmListView>(world_, host_, events_)) {
     host_.onPropertyChanged = [this](StringView name) { propertyChanged(name); };
+    world_.onMessage = [this](const WindowMessage& message) { return seeMessage(message); };
+    world_.ownRuntime().onQueued = [this](MSG& message) { return offerKey(message); };
+    world_.ownRuntime().onModal = [this](bool open) { showModality(open); };
 }
 
 ControlCore::~ControlCore() {
     host_.onPropertyChanged = nullptr;
+    world_.onMessage = nullptr;
+    world_.ownRuntime().onQueued = nullptr;
+    world_.ownRuntime().onModal = nullptr;
     events_.freeze(true);
     list_.reset();
 }

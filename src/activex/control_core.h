@@ -51,7 +51,7 @@ class ControlCore final : public AutomationTarget {
     bool uiActive() const { return uiActive_; }
     /// Shows the control in its container's window. `withFocus`: it also takes keys and the container's
     /// menus.
-    HRESULT activate(bool withFocus, IOleInPlaceActiveObject& active, IOleInPlaceObject& object);
+    HRESULT activate(bool withFocus);
     HRESULT deactivateUI();
     HRESULT deactivate();
     /// Pixels of the container's window.
@@ -71,8 +71,17 @@ class ControlCore final : public AutomationTarget {
     void propertyChanged(StringView name);
     void viewChanged();
     HRESULT activateInPlace(IOleInPlaceSite& site);
-    void activateUI(IOleInPlaceSite& site, IOleInPlaceActiveObject& active);
+    HRESULT enterContainer(IOleInPlaceSite& site);
+    HRESULT activateUI(IOleInPlaceSite& site);
+    /// The container's own windows wait while a form or box of the control is open.
+    void showModality(bool open);
+    /// Whether the window is the control's, or lies in it.
+    bool holds(HWND other);
     bool hasFocus();
+    std::optional<LRESULT> seeMessage(const WindowMessage& message);
+    void focusChanged(bool got);
+    /// A key from the queue, while the container's own loop waits for the control. True: dealt with.
+    bool offerKey(MSG& message);
 
     IUnknown& outer_;
     ModuleLock lock_;
@@ -89,6 +98,7 @@ class ControlCore final : public AutomationTarget {
     bool uiActive_ = false;
     ComRef<IOleInPlaceFrame> frame_;
     ComRef<IOleInPlaceUIWindow> uiWindow_;
+    OLEINPLACEFRAMEINFO frameInfo_{};
     ComRef<IOleAdviseHolder> adviseHolder_;
     ComRef<IDataAdviseHolder> dataAdviseHolder_;
 };

@@ -26,8 +26,6 @@ class ListControl {
     ControlCore& core() { return core_; }
     OleObjectFace& object() { return object_; }
     ViewFace& view() { return view_; }
-    IOleInPlaceObject& inPlaceObject() { return inPlace_; }
-    IOleInPlaceActiveObject& activeObject() { return active_; }
 
   private:
     /// The identity of the control alone.

@@ -69,10 +69,10 @@ HRESULT OleObjectFace::DoVerb(LONG verb,
         switch (verb) {
         case OLEIVERB_INPLACEACTIVATE:
         case OLEIVERB_SHOW:
-            return core.activate(false, control_.activeObject(), control_.inPlaceObject());
+            return core.activate(false);
         case OLEIVERB_PRIMARY:
         case OLEIVERB_UIACTIVATE:
-            return core.activate(true, control_.activeObject(), control_.inPlaceObject());
+            return core.activate(true);
         case OLEIVERB_HIDE:
             core.deactivateUI();
             core.list().window().letVisible(false);

@@ -55,6 +55,12 @@ class SmallContainer final : public IOleClientSite,
     std::map<DISPID, Variant> ambients;
     std::vector<std::string> told;
     ULONG references = 1;
+    HRESULT mayTakeOver = S_OK;    ///< what OnUIActivate answers
+    bool takesTab = false;         ///< keeps Tab for itself
+    HACCEL accelerators = nullptr; ///< the frame's, of the frame's owner
+    std::vector<WORD> commands;    ///< what keys of that table asked for
+    std::vector<bool> focused;     ///< the focus came, or went
+    std::vector<bool> modeless;    ///< the container's own windows may be used, or not
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
         *found = nullptr;
@@ -95,7 +101,10 @@ class SmallContainer final : public IOleClientSite,
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL /*enter*/) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE CanInPlaceActivate() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnInPlaceActivate() override { return note("OnInPlaceActivate"); }
-    HRESULT STDMETHODCALLTYPE OnUIActivate() override { return note("OnUIActivate"); }
+    HRESULT STDMETHODCALLTYPE OnUIActivate() override {
+        note("OnUIActivate");
+        return mayTakeOver;
+    }
     HRESULT STDMETHODCALLTYPE GetWindowContext(IOleInPlaceFrame** frame,
                                                IOleInPlaceUIWindow** document,
                                                LPRECT position,
@@ -108,8 +117,9 @@ class SmallContainer final : public IOleClientSite,
         GetClientRect(window, clip);
         info->fMDIApp = FALSE;
         info->hwndFrame = window;
-        info->haccel = nullptr;
-        info->cAccelEntries = 0;
+        info->haccel = accelerators;
+        info->cAccelEntries =
+            accelerators != nullptr ? static_cast<UINT>(CopyAcceleratorTableW(accelerators, nullptr, 0)) : 0;
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE Scroll(SIZE /*extent*/) override { return S_OK; }
@@ -137,9 +147,13 @@ class SmallContainer final : public IOleClientSite,
     }
     HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU /*menu*/) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR /*text*/) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL /*enable*/) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG /*message*/, WORD /*id*/) override {
-        return S_FALSE;
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL enable) override {
+        modeless.push_back(enable != FALSE);
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG /*message*/, WORD id) override {
+        commands.push_back(id);
+        return S_OK;
     }
 
     // IOleControlSite
@@ -156,9 +170,12 @@ class SmallContainer final : public IOleClientSite,
     }
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG* message, DWORD /*modifiers*/) override {
         note("TranslateAccelerator " + std::to_string(message->wParam));
-        return S_FALSE;
+        return takesTab && message->wParam == VK_TAB ? S_OK : S_FALSE;
     }
-    HRESULT STDMETHODCALLTYPE OnFocus(BOOL /*got*/) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnFocus(BOOL got) override {
+        focused.push_back(got != FALSE);
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override { return E_NOTIMPL; }
 
     // IDispatch

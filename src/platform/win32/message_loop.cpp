@@ -62,6 +62,8 @@ void Win32Runtime::DoEvents() {
         }
         // Timers come when nothing else waits, so that nothing is left behind.
         const bool isOver = message.message == WM_TIMER && ticks.note(message);
+        if (onQueued && onQueued(message))
+            continue;
         TranslateMessage(&message);
         if (isWide)
             DispatchMessageW(&message);

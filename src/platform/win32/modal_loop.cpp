@@ -48,6 +48,7 @@ bool isOpen(HWND form) {
 
 void Win32World::showModal(Window& form) {
     HWND window = toHWND(form.hWnd());
+    const Win32Runtime::ModalSpan span(ownRuntime_);
     const OthersDisabled others(window);
     // The owner keeps the form above itself.
     SetWindowLongPtrW(window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(others.active()));

@@ -76,11 +76,22 @@ Win32Runtime::~Win32Runtime() {
         FindClose(search);
 }
 
+Win32Runtime::ModalSpan::ModalSpan(Win32Runtime& runtime) : runtime_(runtime) {
+    if (runtime_.onModal)
+        runtime_.onModal(true);
+}
+
+Win32Runtime::ModalSpan::~ModalSpan() {
+    if (runtime_.onModal)
+        runtime_.onModal(false);
+}
+
 void Win32Runtime::messageBox(StringView text, Long style, StringView title) {
     const String message(text);
     const String caption(title);
     HWND owner = GetActiveWindow();
     const UINT modal = owner == nullptr ? MB_TASKMODAL : 0U;
+    const ModalSpan span(*this);
     MessageBoxW(owner, wide(message), wide(caption), static_cast<UINT>(style) | MB_OK | modal);
 }
 

@@ -5,6 +5,7 @@
 #include "platform/runtime.h"
 #include "platform/win32/windows_api.h"
 
+#include <functional>
 #include <map>
 
 namespace lumtex {
@@ -67,7 +68,24 @@ class Win32Runtime : public Runtime {
     Long twipsPerPixelX() const override { return twipsPerPixelX_; }
     Long twipsPerPixelY() const override { return twipsPerPixelY_; }
 
+    /// Sees each message that `DoEvents` takes from the queue. True: it was dealt with. Must not throw.
+    std::function<bool(MSG&)> onQueued;
+    /// Told when a box or form opens that the rest of the program waits for, and when it has closed. Must not
+    /// throw.
+    std::function<void(bool open)> onModal;
     ObjectRef application; ///< handed to an error handler; none until the component sets it
+
+    /// As long as one lives, a box or form of the program is open.
+    class ModalSpan {
+      public:
+        explicit ModalSpan(Win32Runtime& runtime);
+        ModalSpan(const ModalSpan&) = delete;
+        ModalSpan& operator=(const ModalSpan&) = delete;
+        ~ModalSpan();
+
+      private:
+        Win32Runtime& runtime_;
+    };
 
   private:
     ComponentInfo component_;

@@ -154,6 +154,10 @@ LRESULT CALLBACK Win32TextBox::procedure(HWND window, UINT message, WPARAM wPara
 }
 
 std::optional<LRESULT> Win32TextBox::answer(const WindowMessage& message) {
+    if (world_.onMessage) {
+        if (const std::optional<LRESULT> foreign = world_.onMessage(message))
+            return foreign;
+    }
     switch (message.number) {
     case WM_CHAR:
         return character(message);

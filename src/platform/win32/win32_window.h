@@ -57,6 +57,7 @@ class Win32Window final : public Window {
 
     /// The window behind a handle; none for one that is not of this class of windows.
     static Win32Window* of(HWND window);
+    Win32World& world() const { return world_; }
     /// Visible and enabled, and so is every window of ours that it lies in.
     bool takesInput() const;
 

@@ -66,6 +66,13 @@ std::unique_ptr<Surface> Win32World::createSurface(Long width, Long height) {
     return makeGdiSurface(width, height);
 }
 
+Win32World* Win32World::of(HWND window) {
+    for (HWND outer = window; outer != nullptr; outer = GetAncestor(outer, GA_PARENT))
+        if (Win32Window* const known = Win32Window::of(outer))
+            return &known->world();
+    return nullptr;
+}
+
 void Win32World::giveUpCapture() {
     POINT at{};
     if (GetCapture() == nullptr)
