@@ -62,6 +62,10 @@ target_sources(lumtex_test_scripts PRIVATE scripts/scripts.rc)
 set_source_files_properties(scripts/scripts.rc PROPERTIES OBJECT_DEPENDS
                                                           "${CMAKE_CURRENT_SOURCE_DIR}/scripts/scripts.manifest")
 add_dependencies(lumtex_test_scripts LumtexListView)
+lumtex_tests(samples LINK lumtex_test_raster lumtex_win32)
+set_tests_properties(samples PROPERTIES RUN_SERIAL ON)
+target_sources(lumtex_test_samples PRIVATE stage/user_input.cpp)
+add_dependencies(lumtex_test_samples LumtexListView cities)
 add_test(NAME component COMMAND "${PROJECT_SOURCE_DIR}/scripts/check-component" $<TARGET_FILE:LumtexListView>)
 
 get_property(programs GLOBAL PROPERTY LUMTEX_TEST_PROGRAMS)

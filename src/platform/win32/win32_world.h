@@ -56,8 +56,8 @@ class Win32World final : public World {
     std::unique_ptr<Surface> createSurface(Long width, Long height) override;
     std::unique_ptr<WheelHook> createWheelHook(Window& parent, const WheelHook::OnWheel& onWheel) override;
 
-    /// Sees each message of our windows and text boxes before they do. A result means that the message was dealt with.
-    /// Whoever destroys the window in it must give a result. Must not throw.
+    /// Sees each message of our windows and text boxes before they do. A result means that the message was
+    /// dealt with. Whoever destroys the window in it must give a result. Must not throw.
     std::function<std::optional<LRESULT>(const WindowMessage&)> onMessage;
 
     /// The world of the nearest window of ours around a window, or of that itself; none where there is none.

@@ -1,0 +1,23 @@
+@echo off
+rem Takes the component out of the registry, for all users, which takes an administrator, or for you alone:
+rem
+rem   unregister.cmd
+rem   unregister.cmd user
+setlocal
+set flags=/s /u
+if /i "%~1"=="user" set flags=/s /u /n /i:user
+set status=0
+if /i not "%PROCESSOR_ARCHITECTURE%"=="AMD64" goto narrow
+"%SystemRoot%\System32\regsvr32.exe" %flags% "%~dp0x64\LumtexListView.ocx"
+if errorlevel 1 set status=1
+rem 32-bit programs of a 64-bit Windows have a registry of their own.
+if not exist "%SystemRoot%\SysWOW64\regsvr32.exe" goto done
+"%SystemRoot%\SysWOW64\regsvr32.exe" %flags% "%~dp0x86\LumtexListView.ocx"
+if errorlevel 1 set status=1
+goto done
+:narrow
+"%SystemRoot%\System32\regsvr32.exe" %flags% "%~dp0x86\LumtexListView.ocx"
+if errorlevel 1 set status=1
+:done
+if %status%==0 (echo LumtexListView is no longer registered.) else (echo LumtexListView could not be taken out.)
+exit /b %status%
