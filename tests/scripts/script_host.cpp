@@ -108,8 +108,12 @@ ScriptHost::~ScriptHost() {
 }
 
 void ScriptHost::add(StringView name, const ObjectRef& object) {
+    add(name, toIDispatch(object));
+}
+
+void ScriptHost::add(StringView name, ComRef<IDispatch> object) {
     const String item(name);
-    site_->items[item] = toIDispatch(object);
+    site_->items[item] = std::move(object);
     demand(script_->AddNamedItem(wide(item), SCRIPTITEM_ISVISIBLE));
 }
 

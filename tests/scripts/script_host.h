@@ -40,6 +40,7 @@ class ScriptHost {
 
     /// Scripts know the object under this name from now on.
     void add(StringView name, const ObjectRef& object);
+    void add(StringView name, ComRef<IDispatch> object);
 
     /// Runs what stands outside of functions. Throws ScriptFailure where that fails, and where a function
     /// failed that an object called meanwhile.

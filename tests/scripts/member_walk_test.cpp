@@ -1,0 +1,307 @@
+/// Every member of every public class, used by programs in both languages, against the core itself.
+#include "activex/small_container.h"
+#include "automation/record_table.h"
+#include "platform/win32/ole_font.h"
+#include "platform/win32/ole_picture.h"
+#include "platform/win32/win32_world.h"
+#include "recording_events.h"
+#include "scratch_folder.h"
+#include "scripts/list_box.h"
+#include "scripts/member_program.h"
+#include "scripts/member_subject.h"
+#include "services/error.h"
+#include "test_host.h"
+#include "test_object.h"
+
+namespace lumtex::testing {
+namespace {
+
+/// What the programs of a language cannot do, and why.
+struct Unusable {
+    ScriptLanguage language;
+    std::string_view what;
+    std::string_view reason;
+};
+
+constexpr Unusable unusable[] = {
+    {ScriptLanguage::jScript, "arguments by reference", "the language passes copies"},
+    {ScriptLanguage::jScript, "arguments left out in the middle", "the language has no word for it"},
+    {ScriptLanguage::jScript, "kinds of numbers", "the language knows one kind"},
+};
+
+bool can(ScriptLanguage language, std::string_view what) {
+    return std::ranges::none_of(
+        unusable, [&](const Unusable& entry) { return entry.language == language && entry.what == what; });
+}
+
+/// Members whose results belong to one object alone.
+constexpr StringView ownResults[] = {u"hwnd", u"hwndEdit"};
+
+/// Opens a form that waits for its user.
+bool opensForm(const Member& member) {
+    return member.name == u"About";
+}
+
+struct Walked {
+    const ClassDescription* owner;
+    const Member* member;
+    ScriptLanguage language;
+};
+
+std::vector<Walked> everyMember() {
+    std::vector<Walked> all;
+    for (const ScriptLanguage language : {ScriptLanguage::vbScript, ScriptLanguage::jScript})
+        for (const ClassDescription& owner : classTable())
+            for (const Member& member : owner.members)
+                all.push_back({&owner, &member, language});
+    return all;
+}
+
+void PrintTo(const Walked& walked, std::ostream* stream) {
+    *stream << toUtf8(walked.owner->name) << "." << toUtf8(walked.member->name);
+}
+
+std::string nameOf(const ::testing::TestParamInfo<Walked>& info) {
+    return toUtf8(info.param.owner->name) + "_" + toUtf8(info.param.member->name) +
+           (info.param.language == ScriptLanguage::vbScript ? "_VBScript" : "_JScript");
+}
+
+/// Closes the form that opens next, from inside of its loop.
+class ClosedForms {
+  public:
+    ClosedForms() : timer_(SetTimer(nullptr, 0, USER_TIMER_MINIMUM, look)) { closed = 0; }
+    ClosedForms(const ClosedForms&) = delete;
+    ClosedForms& operator=(const ClosedForms&) = delete;
+    ~ClosedForms() { KillTimer(nullptr, timer_); }
+
+    static inline int closed = 0;
+
+  private:
+    static void CALLBACK look(HWND /*none*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
+        EnumThreadWindows(GetCurrentThreadId(), close, 0);
+    }
+    static BOOL CALLBACK close(HWND window, LPARAM /*none*/) {
+        if (IsWindowVisible(window) != FALSE && window != programWindow()) {
+            ++closed;
+            SendMessageW(window, WM_CLOSE, 0, 0);
+        }
+        return TRUE;
+    }
+
+    UINT_PTR timer_;
+};
+
+/// What a use of a member gave, and what it left behind.
+struct Observed {
+    std::string result;
+    std::vector<std::string> arguments;
+    std::string state;
+
+    bool operator==(const Observed&) const = default;
+};
+
+void PrintTo(const Observed& observed, std::ostream* stream) {
+    *stream << "result " << observed.result << "\narguments:";
+    for (const std::string& argument : observed.arguments)
+        *stream << " " << argument;
+    *stream << "\n" << observed.state;
+}
+
+/// One member in one language; a component and a core that hold the same.
+class EachMember : public ::testing::TestWithParam<Walked> {
+  protected:
+    EachMember() {
+        processSilentFlag().silent = true;
+        silenceComponent(true);
+        list.UserControl_InitProperties();
+        host.add(u"samplePicture", toIPicture(picture).as<IDispatch>());
+        host.add(u"sampleFont", toIFont(font).as<IDispatch>());
+        host.add(u"sampleObject", toIDispatch(isList() ? placedObject : scriptBox));
+        SetForegroundWindow(programWindow());
+    }
+    ~EachMember() override {
+        silenceComponent(false);
+        processSilentFlag().silent = false;
+    }
+
+    const Member& member() const { return *GetParam().member; }
+    ScriptLanguage language() const { return GetParam().language; }
+    bool isList() const { return GetParam().owner == &listViewClass(); }
+    bool withKind() const { return can(language(), "kinds of numbers"); }
+    bool isOwn() const { return std::ranges::find(ownResults, member().name) != std::end(ownResults); }
+
+    std::vector<MemberUse> uses() {
+        const SampleValues samples({picture, font, isList() ? placedObject : ObjectRef(coreBox)},
+                                   fromUtf8(folder.path.string()) + u"\\");
+        return usesOf(member(), samples, can(language(), "arguments left out in the middle"));
+    }
+
+    void silenceComponent(bool on) {
+        const ComRef<IUnknown> reports = component.make("Error");
+        invoke(reports.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
+    }
+
+    /// What both sides hold before a member is used.
+    void prepare(Subject& subject, ListBox& box) {
+        if (isList())
+            fill(subject);
+        if (isList() && member().name == u"ContentInput") {
+            subject.call(u"ContentSave", {fromUtf8(folder.path.string()) + u"\\sFilename.txt", true});
+            subject.call(u"RowsClear", {});
+        }
+        box.entries = {u"first", u"second"};
+        folder.write("Filename.txt", "one\r\ntwo\r\n");
+    }
+    std::string stateOfAll(Subject& subject, const ListBox& box) {
+        std::string state = isList() ? stateOf(subject) : std::string();
+        for (const String& entry : box.entries)
+            state += "\nentry " + toUtf8(entry);
+        for (const char* name : {"Filename.txt", "sFilename.txt"})
+            state += "\n" + std::string(name) + ": " + folder.contentOf(name);
+        return state;
+    }
+
+    std::string shownResult(const Variant& value) {
+        if (isOwn())
+            return value.toLong() != 0 ? "not 0" : "0";
+        return shown(value, withKind());
+    }
+
+    Observed onCore(const MemberUse& use) {
+        CallByName byName = isList()                           ? CallByName(list)
+                            : GetParam().owner == &spEvClass() ? CallByName(spEv)
+                                                               : CallByName(error);
+        CoreSubject subject(byName);
+        prepare(subject, *coreBox);
+        std::vector<Variant> arguments = use.arguments;
+        Observed observed;
+        const auto read = [&] {
+            const Variant value = use.kind == MemberUse::Kind::call ? byName.call(member(), arguments)
+                                                                    : byName.get(member(), arguments);
+            if (member().type.code != TypeCode::record)
+                return shownResult(value);
+            std::string fields;
+            for (const RecordField& field : findResultsFields)
+                fields += shown(value.toObject()->get(field.name), withKind()) + " ";
+            return fields;
+        };
+        if (use.kind == MemberUse::Kind::let) {
+            if (member().isReference())
+                byName.set(member(), arguments, use.value);
+            else
+                byName.let(member(), arguments, use.value);
+        }
+        observed.result = read();
+        for (std::size_t i = 0; i < arguments.size() && i < member().count; ++i)
+            if (member().slots[i].byReference && !arguments[i].isMissing())
+                observed.arguments.push_back(shown(arguments[i], withKind()));
+        observed.state = stateOfAll(subject, *coreBox);
+        return observed;
+    }
+
+    std::vector<std::string> untouched(const MemberUse& use) {
+        std::vector<std::string> arguments;
+        for (std::size_t i = 0; i < use.arguments.size() && i < member().count; ++i)
+            if (member().slots[i].byReference && !use.arguments[i].isMissing())
+                arguments.push_back(shown(use.arguments[i], withKind()));
+        return arguments;
+    }
+
+    Observed onComponent(const MemberUse& use) {
+        ComponentSubject subject(object);
+        prepare(subject, *scriptBox);
+        Observed observed;
+        MemberUse reading = use;
+        if (use.kind == MemberUse::Kind::let) {
+            run(use);
+            reading.kind = MemberUse::Kind::get;
+        }
+        const Variant value = run(reading);
+        const ObjectRef global = host.object();
+        if (member().type.code == TypeCode::record)
+            for (std::size_t i = 0; i < findResultsFields.size(); ++i)
+                observed.result +=
+                    shown(global->get(u"field" + Variant(static_cast<Long>(i)).toText()), withKind()) + " ";
+        else
+            observed.result = shownResult(value);
+        for (std::size_t i = 0; i < use.arguments.size() && i < member().count; ++i)
+            if (member().slots[i].byReference && !use.arguments[i].isMissing())
+                observed.arguments.push_back(
+                    shown(global->get(u"argument" + Variant(static_cast<Long>(i)).toText()), withKind()));
+        observed.state = stateOfAll(subject, *scriptBox);
+        return observed;
+    }
+
+    Variant run(const MemberUse& use) {
+        host.run(programFor(language(), member(), use));
+        std::vector<Variant> target{objectFrom(object.get())};
+        try {
+            return host.object()->call(u"Use", target);
+        } catch (const RuntimeError&) {
+            ADD_FAILURE() << use.shown() << " failed: " << (host.failure() ? host.failure()->what() : "");
+            return {};
+        }
+    }
+
+    BoxWatch watch;
+    Component component;
+    ScratchFolder folder;
+    ScriptHost host{language()};
+    ComRef<IDispatch> object = component.make(toUtf8(GetParam().owner->name)).as<IDispatch>();
+
+    PictureRef picture = std::make_shared<BitmapPicture>(Bitmap(3, 2));
+    FontRef font = std::make_shared<Font>(FontSpec{u"Tahoma", 12, true});
+    ObjectRef placedObject = objectFrom(toIDispatch(TestObject::control(300)).get());
+    std::shared_ptr<ListBox> scriptBox = std::make_shared<ListBox>();
+    std::shared_ptr<ListBox> coreBox = std::make_shared<ListBox>();
+
+    Win32Runtime runtime{GetModuleHandleW(nullptr)};
+    Win32World world{GetModuleHandleW(nullptr)};
+    TestHost testHost;
+    RecordingEvents events;
+    lmListView list{world, testHost, events};
+    SpEv spEv{runtime};
+    Error error;
+};
+
+TEST_P(EachMember, GivesAScriptWhatTheCoreGives) {
+    const std::vector<MemberUse> all = uses();
+    ASSERT_FALSE(all.empty());
+    for (const MemberUse& use : all) {
+        SCOPED_TRACE(use.shown());
+        if (opensForm(member())) {
+            const ClosedForms forms;
+            run(use);
+            EXPECT_EQ(ClosedForms::closed, 1);
+            continue;
+        }
+        Observed expected = onCore(use);
+        const Observed seen = onComponent(use);
+        if (!can(language(), "arguments by reference"))
+            expected.arguments = untouched(use);
+        EXPECT_EQ(seen, expected);
+    }
+}
+
+TEST(MemberPrograms, JScriptHasNoWordForAnArgumentLeftOut) {
+    ScriptHost host(ScriptLanguage::jScript);
+    EXPECT_THROW(host.run(u"function use(target) { target.RowsAdd(1, , \"text\"); }"), ScriptFailure);
+}
+
+TEST(MemberPrograms, AMemberThatIsNotThereFails) {
+    const Component component;
+    for (const ScriptLanguage language : {ScriptLanguage::vbScript, ScriptLanguage::jScript}) {
+        ScriptHost host(language);
+        Member unknown = listViewClass().members[1];
+        unknown.name = u"NoSuchMember";
+        host.run(programFor(language, unknown, {MemberUse::Kind::call, {}, {}}));
+        std::vector<Variant> target{objectFrom(component.make("lmListView").as<IDispatch>().get())};
+        EXPECT_THROW(host.object()->call(u"Use", target), RuntimeError);
+        EXPECT_TRUE(host.failure());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scripts, EachMember, ::testing::ValuesIn(everyMember()), nameOf);
+
+} // namespace
+} // namespace lumtex::testing
