@@ -53,6 +53,7 @@ std::string shown(const Variant& value, bool withKind) {
 }
 
 void fill(Subject& list) {
+    list.let(u"AutoRedraw", {}, false);
     list.call(u"RowsClear", {});
     list.call(u"ColumnsClear", {});
     for (const char16_t* column : {u"one", u"two", u"three"})
@@ -64,6 +65,8 @@ void fill(Subject& list) {
     list.let(u"ItemTag", {Long{2}, Long{1}}, u"tag");
     list.let(u"RowChecked", {Long{2}}, true);
     list.let(u"ListIndex", {}, Long{1});
+    list.let(u"AutoRedraw", {}, true);
+    list.call(u"Redraw", {});
 }
 
 std::string stateOf(Subject& list) {

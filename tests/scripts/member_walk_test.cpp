@@ -114,6 +114,8 @@ class EachMember : public ::testing::TestWithParam<Walked> {
         processSilentFlag().silent = true;
         silenceComponent(true);
         list.UserControl_InitProperties();
+        // A button that went down in another test would still count for the first one who asks.
+        spEv.MouseButtonPressed();
         host.add(u"samplePicture", toIPicture(picture).as<IDispatch>());
         host.add(u"sampleFont", toIFont(font).as<IDispatch>());
         host.add(u"sampleObject", toIDispatch(isList() ? placedObject : scriptBox));
