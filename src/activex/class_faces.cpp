@@ -33,6 +33,7 @@ HRESULT ClassInfoFace::GetClassInfo(ITypeInfo** info) {
 HRESULT ClassInfoFace::GetGUID(DWORD kind, GUID* guid) {
     if (guid == nullptr)
         return E_POINTER;
+    *guid = GUID_NULL;
     if (kind != GUIDKIND_DEFAULT_SOURCE_DISP_IID)
         return E_INVALIDARG;
     *guid = guidOf("__lmListView");
@@ -43,7 +44,7 @@ HRESULT ConnectionsFace::EnumConnectionPoints(IEnumConnectionPoints** points) {
     if (points == nullptr)
         return E_POINTER;
     *points = nullptr;
-    return guarded([&] {
+    return control_.core().entered([&] {
         std::vector<IConnectionPoint*> items(2);
         PointPolicy::copy(items[0], &control_.core().eventPoint());
         PointPolicy::copy(items[1], &control_.core().notifyPoint());
@@ -70,13 +71,13 @@ HRESULT QuickFace::QuickActivate(QACONTAINER* container, QACONTROL* control) {
         return E_POINTER;
     if (container->cbSize < sizeof(QACONTAINER) || control->cbSize < sizeof(QACONTROL))
         return E_INVALIDARG;
-    return guarded([&] {
+    return control_.core().entered([&] {
         ControlCore& core = control_.core();
         const DWORD size = control->cbSize;
         *control = {};
         control->cbSize = size;
         if (container->pClientSite != nullptr)
-            core.host().setSite(container->pClientSite);
+            core.setSite(container->pClientSite);
         if (container->pAdviseSink != nullptr)
             control_.view().SetAdvise(DVASPECT_CONTENT, 0, container->pAdviseSink);
         if (container->pUnkEventSink != nullptr)
@@ -84,6 +85,7 @@ HRESULT QuickFace::QuickActivate(QACONTAINER* container, QACONTROL* control) {
         if (container->pPropertyNotifySink != nullptr)
             core.notifyPoint().Advise(container->pPropertyNotifySink, &control->dwPropNotifyCookie);
         control->dwMiscStatus = controlMiscStatus;
+        control->dwViewStatus = VIEWSTATUS_OPAQUE;
         return S_OK;
     });
 }

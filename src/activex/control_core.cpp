@@ -24,6 +24,7 @@ ControlCore::ControlCore(IUnknown& outer, IConnectionPointContainer& points)
       notifyPoint_(points, IID_IPropertyNotifySink), events_(eventPoint_), world_(moduleInstance()),
       list_(std::make_unique<lmListView>(world_, host_, events_)) {
     host_.onPropertyChanged = [this](StringView name) { propertyChanged(name); };
+    world_.onPresent = [this] { viewChanged(); };
     world_.onMessage = [this](const WindowMessage& message) { return seeMessage(message); };
     world_.ownRuntime().onQueued = [this](MSG& message) { return offerKey(message); };
     world_.ownRuntime().onModal = [this](bool open) { showModality(open); };
@@ -31,6 +32,7 @@ ControlCore::ControlCore(IUnknown& outer, IConnectionPointContainer& points)
 
 ControlCore::~ControlCore() {
     host_.onPropertyChanged = nullptr;
+    world_.onPresent = nullptr;
     world_.onMessage = nullptr;
     world_.ownRuntime().onQueued = nullptr;
     world_.ownRuntime().onModal = nullptr;
@@ -48,7 +50,7 @@ bool ControlCore::initNew() {
     if (std::exchange(initialised_, true))
         return false;
     list_->UserControl_InitProperties();
-    dirty_ = false;
+    finishInit();
     return true;
 }
 
@@ -56,8 +58,34 @@ bool ControlCore::load(const PropertyBag& bag) {
     if (std::exchange(initialised_, true))
         return false;
     list_->UserControl_ReadProperties(bag);
-    dirty_ = false;
+    finishInit();
     return true;
+}
+
+void ControlCore::finishInit() {
+    dirty_ = false;
+    if (const auto extent = std::exchange(firstExtent_, std::nullopt))
+        letExtent(*extent);
+}
+
+void ControlCore::setSite(IOleClientSite* site) {
+    if (site != host_.site())
+        deactivate();
+    host_.setSite(site);
+}
+
+void ControlCore::ambientChanged(DISPID ambient) {
+    const bool wasRunning = host_.UserMode();
+    host_.ambientChanged(ambient);
+    // A designer shows the name; and a list that starts to run shows something else than one in a designer.
+    if (initialised_ && (!host_.UserMode() || !wasRunning))
+        list_->Redraw();
+}
+
+void ControlCore::noteSaved() {
+    dirty_ = false;
+    if (adviseHolder_)
+        adviseHolder_->SendOnSave();
 }
 
 IOleAdviseHolder* ControlCore::adviseHolder() {
@@ -73,23 +101,30 @@ IDataAdviseHolder* ControlCore::dataAdviseHolder() {
 }
 
 SIZE ControlCore::size() {
-    const Window& window = list_->window();
+    const Window& window = list().window();
     return {static_cast<LONG>(window.Width()), static_cast<LONG>(window.Height())};
 }
 
 SIZEL ControlCore::extent() {
-    const SIZE pixels = size();
+    if (firstExtent_)
+        return *firstExtent_;
     const SIZE density = pixelsPerInch(window());
-    return {MulDiv(pixels.cx, himetricPerInch, density.cx), MulDiv(pixels.cy, himetricPerInch, density.cy)};
+    const Window& place = list_->window();
+    return {MulDiv(static_cast<int>(place.Width()), himetricPerInch, density.cx),
+            MulDiv(static_cast<int>(place.Height()), himetricPerInch, density.cy)};
 }
 
 void ControlCore::letExtent(SIZEL extent) {
+    if (!initialised_) {
+        firstExtent_ = extent;
+        return;
+    }
     const SIZE density = pixelsPerInch(window());
-    const Window& place = list().window();
-    list().window().place(place.Left(),
-                          place.Top(),
-                          static_cast<Single>(MulDiv(extent.cx, density.cx, himetricPerInch)),
-                          static_cast<Single>(MulDiv(extent.cy, density.cy, himetricPerInch)));
+    Window& place = list_->window();
+    place.place(place.Left(),
+                place.Top(),
+                static_cast<Single>(MulDiv(extent.cx, density.cx, himetricPerInch)),
+                static_cast<Single>(MulDiv(extent.cy, density.cy, himetricPerInch)));
     viewChanged();
 }
 
@@ -100,12 +135,20 @@ void ControlCore::propertyChanged(StringView name) {
     for (const ComRef<IUnknown>& sink : notifyPoint_.sinks())
         if (const auto notify = sink.as<IPropertyNotifySink>())
             notify->OnChanged(number);
-    viewChanged();
 }
 
 void ControlCore::viewChanged() {
-    if (viewSink != nullptr && !inPlaceActive_)
-        viewSink->OnViewChange(DVASPECT_CONTENT, -1);
+    if (drawing_ || inPlaceActive_ || !initialised_)
+        return;
+    if (!onViewChange && !dataAdviseHolder_)
+        return;
+    const ComRef<IUnknown> alive(&outer_);
+    if (onViewChange)
+        onViewChange();
+    if (dataAdviseHolder_) {
+        const auto data = queryFor<IDataObject>(&outer_);
+        dataAdviseHolder_->SendOnDataChange(data.get(), 0, 0);
+    }
 }
 
 } // namespace lumtex

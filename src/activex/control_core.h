@@ -3,6 +3,7 @@
 #pragma once
 
 #include "activex/automation_target.h"
+#include "activex/com_guard.h"
 #include "activex/connection_point.h"
 #include "activex/container_host.h"
 #include "activex/event_source.h"
@@ -20,10 +21,22 @@ class ControlCore final : public AutomationTarget {
     const ClassDescription& description() const override { return listViewClass(); }
     CallByName byName() override { return CallByName(list()); }
 
+    /// Runs the body of a call of an interface, which gives an HRESULT. Calls from a wrong thread are
+    /// refused.
+    template <class Body>
+    HRESULT entered(Body&& body) noexcept {
+        return onOwnThread() ? guarded(std::forward<Body>(body)) : RPC_E_WRONG_THREAD;
+    }
+
     /// The list, initialised.
     lmListView& list();
+    /// Null once the container has destroyed it.
     HWND window() { return toHWND(list_->hwnd()); }
     ContainerHost& host() { return host_; }
+    /// Leaves the container's window before it lets the container go. None for no container.
+    void setSite(IOleClientSite* site);
+    /// `ambient` is the number of one property, or DISPID_UNKNOWN for any.
+    void ambientChanged(DISPID ambient);
     EventSource& events() { return events_; }
     ConnectionPoint& eventPoint() { return eventPoint_; }
     ConnectionPoint& notifyPoint() { return notifyPoint_; }
@@ -38,13 +51,16 @@ class ControlCore final : public AutomationTarget {
     void save(PropertyBag& bag) { list().UserControl_WriteProperties(bag); }
     bool dirty() const { return dirty_; }
     void letDirty(bool dirty) { dirty_ = dirty; }
+    /// The settings lie safe in the container's document: nothing is dirty any more, and advised sinks hear.
+    void noteSaved();
 
     // Place and size
 
-    /// Pixels of the control's window.
+    /// Pixels of the control's window once it is initialised.
     SIZE size();
     /// The same in HIMETRIC units.
     SIZEL extent();
+    /// Before the settings come it is kept for then.
     void letExtent(SIZEL extent);
 
     bool inPlaceActive() const { return inPlaceActive_; }
@@ -63,11 +79,13 @@ class ControlCore final : public AutomationTarget {
 
     /// Paints what the control shows into `bounds`.
     void draw(HDC target, const RECT& bounds);
-    IAdviseSink* viewSink = nullptr; ///< held by the view's face
+    /// Told of each new picture while the control has no place in the container's window. None for none.
+    std::function<void()> onViewChange;
 
     IUnknown& outer() const { return outer_; }
 
   private:
+    void finishInit();
     void propertyChanged(StringView name);
     void viewChanged();
     HRESULT activateInPlace(IOleInPlaceSite& site);
@@ -93,6 +111,8 @@ class ControlCore final : public AutomationTarget {
     std::unique_ptr<lmListView> list_;
     bool initialised_ = false;
     bool painted_ = false;
+    bool drawing_ = false;             ///< for the container, which knows
+    std::optional<SIZEL> firstExtent_; ///< given before the settings
     bool dirty_ = false;
     bool inPlaceActive_ = false;
     bool uiActive_ = false;

@@ -31,13 +31,16 @@ class PrintSheet {
     HDC dc() const { return dc_; }
     const void* bits() const { return bits_; }
 
+    static constexpr DWORD bytesPerPixel = 4;
+
     static BITMAPINFOHEADER header(LONG width, LONG height) {
         BITMAPINFOHEADER header{};
         header.biSize = sizeof(header);
         header.biWidth = width;
-        header.biHeight = -height; // the first row is the highest
+        header.biHeight = height; // the lowest row first: not every printer knows the other order
         header.biPlanes = 1;
         header.biBitCount = 32;
+        header.biSizeImage = static_cast<DWORD>(width * height) * bytesPerPixel;
         return header;
     }
 
@@ -52,8 +55,11 @@ class PrintSheet {
 
 void ControlCore::draw(HDC target, const RECT& bounds) {
     lmListView& shown = list();
-    if (!std::exchange(painted_, true))
+    if (!std::exchange(painted_, true)) {
+        drawing_ = true;
         shown.Redraw();
+        drawing_ = false;
+    }
     const SIZE pixels = size();
     if (pixels.cx <= 0 || pixels.cy <= 0)
         return;

@@ -1,8 +1,6 @@
 /// Activation, ambient properties and keys.
 #include "activex/in_place_faces.h"
 
-#include "activex/com_guard.h"
-
 namespace lumtex {
 
 namespace {
@@ -11,7 +9,7 @@ HRESULT giveWindow(ControlCore& core, HWND* window) {
     if (window == nullptr)
         return E_POINTER;
     *window = core.window();
-    return S_OK;
+    return *window != nullptr ? S_OK : E_FAIL;
 }
 
 } // namespace
@@ -19,24 +17,23 @@ HRESULT giveWindow(ControlCore& core, HWND* window) {
 HRESULT OleControlFace::GetControlInfo(CONTROLINFO* info) {
     if (info == nullptr)
         return E_POINTER;
-    info->hAccel = nullptr;
-    info->cAccel = 0;
-    info->dwFlags = 0;
+    *info = {};
+    info->cb = sizeof(*info);
     return S_OK;
 }
 
 HRESULT OleControlFace::OnAmbientPropertyChange(DISPID number) {
-    return guarded([&] {
-        core_.host().ambientChanged(number);
-        if (!core_.host().UserMode())
-            core_.list().Redraw();
+    return core_.entered([&] {
+        core_.ambientChanged(number);
         return S_OK;
     });
 }
 
 HRESULT OleControlFace::FreezeEvents(BOOL freeze) {
-    core_.events().freeze(freeze != FALSE);
-    return S_OK;
+    return core_.entered([&] {
+        core_.events().freeze(freeze != FALSE);
+        return S_OK;
+    });
 }
 
 HRESULT InPlaceObjectFace::GetWindow(HWND* window) {
@@ -44,17 +41,17 @@ HRESULT InPlaceObjectFace::GetWindow(HWND* window) {
 }
 
 HRESULT InPlaceObjectFace::InPlaceDeactivate() {
-    return guarded([&] { return core_.deactivate(); });
+    return core_.entered([&] { return core_.deactivate(); });
 }
 
 HRESULT InPlaceObjectFace::UIDeactivate() {
-    return guarded([&] { return core_.deactivateUI(); });
+    return core_.entered([&] { return core_.deactivateUI(); });
 }
 
 HRESULT InPlaceObjectFace::SetObjectRects(LPCRECT place, LPCRECT clip) {
     if (place == nullptr)
         return E_POINTER;
-    return guarded([&] {
+    return core_.entered([&] {
         core_.letRects(*place, clip != nullptr ? *clip : *place);
         return S_OK;
     });
@@ -68,7 +65,7 @@ HRESULT ActiveObjectFace::TranslateAccelerator(LPMSG message) {
     if (message == nullptr)
         return E_POINTER;
     const ComRef<IUnknown> alive(&outer());
-    return guarded([&] { return core_.translateKey(*message); });
+    return core_.entered([&] { return core_.translateKey(*message); });
 }
 
 } // namespace lumtex

@@ -1,7 +1,6 @@
 /// Site, verbs and size.
 #include "activex/ole_object_face.h"
 
-#include "activex/com_guard.h"
 #include "activex/guid.h"
 #include "activex/list_control.h"
 #include "activex/snapshot_enum.h"
@@ -18,8 +17,8 @@ struct VerbPolicy {
 } // namespace
 
 HRESULT OleObjectFace::SetClientSite(IOleClientSite* site) {
-    return guarded([&] {
-        control_.core().host().setSite(site);
+    return control_.core().entered([&] {
+        control_.core().setSite(site);
         return S_OK;
     });
 }
@@ -33,7 +32,7 @@ HRESULT OleObjectFace::GetClientSite(IOleClientSite** site) {
 
 HRESULT OleObjectFace::Close(DWORD saveOption) {
     const ComRef<IUnknown> alive(&outer());
-    return guarded([&] {
+    return control_.core().entered([&] {
         ControlCore& core = control_.core();
         core.deactivate();
         if (saveOption != OLECLOSE_NOSAVE && core.dirty() && core.host().site() != nullptr)
@@ -64,7 +63,7 @@ HRESULT OleObjectFace::DoVerb(LONG verb,
                               HWND /*parent*/,
                               LPCRECT /*place*/) {
     const ComRef<IUnknown> alive(&outer());
-    return guarded([&]() -> HRESULT {
+    return control_.core().entered([&]() -> HRESULT {
         ControlCore& core = control_.core();
         switch (verb) {
         case OLEIVERB_INPLACEACTIVATE:
@@ -81,7 +80,7 @@ HRESULT OleObjectFace::DoVerb(LONG verb,
         case OLEIVERB_DISCARDUNDOSTATE:
             return E_NOTIMPL;
         default:
-            return OLEOBJ_S_INVALIDVERB;
+            return verb < 0 ? E_NOTIMPL : OLEOBJ_S_INVALIDVERB;
         }
     });
 }
@@ -90,7 +89,7 @@ HRESULT OleObjectFace::EnumVerbs(IEnumOLEVERB** verbs) {
     if (verbs == nullptr)
         return E_POINTER;
     *verbs = nullptr;
-    return guarded([&] {
+    return control_.core().entered([&] {
         std::vector<OLEVERB> items;
         for (const LONG verb :
              {OLEIVERB_PRIMARY, OLEIVERB_SHOW, OLEIVERB_HIDE, OLEIVERB_UIACTIVATE, OLEIVERB_INPLACEACTIVATE})
@@ -123,7 +122,7 @@ HRESULT OleObjectFace::SetExtent(DWORD aspect, SIZEL* extent) {
         return E_POINTER;
     if (aspect != DVASPECT_CONTENT)
         return DV_E_DVASPECT;
-    return guarded([&] {
+    return control_.core().entered([&] {
         // In a window the container's rectangles decide; some containers give other units here.
         if (!control_.core().inPlaceActive())
             control_.core().letExtent(*extent);
@@ -136,26 +135,28 @@ HRESULT OleObjectFace::GetExtent(DWORD aspect, SIZEL* extent) {
         return E_POINTER;
     if (aspect != DVASPECT_CONTENT)
         return DV_E_DVASPECT;
-    return guarded([&] {
+    return control_.core().entered([&] {
         *extent = control_.core().extent();
         return S_OK;
     });
 }
 
 HRESULT OleObjectFace::Advise(IAdviseSink* sink, DWORD* cookie) {
-    if (cookie == nullptr)
+    if (sink == nullptr || cookie == nullptr)
         return E_POINTER;
-    return guarded([&] { return control_.core().adviseHolder()->Advise(sink, cookie); });
+    *cookie = 0;
+    return control_.core().entered([&] { return control_.core().adviseHolder()->Advise(sink, cookie); });
 }
 
 HRESULT OleObjectFace::Unadvise(DWORD cookie) {
-    return guarded([&] { return control_.core().adviseHolder()->Unadvise(cookie); });
+    return control_.core().entered([&] { return control_.core().adviseHolder()->Unadvise(cookie); });
 }
 
 HRESULT OleObjectFace::EnumAdvise(IEnumSTATDATA** advises) {
     if (advises == nullptr)
         return E_POINTER;
-    return guarded([&] { return control_.core().adviseHolder()->EnumAdvise(advises); });
+    *advises = nullptr;
+    return control_.core().entered([&] { return control_.core().adviseHolder()->EnumAdvise(advises); });
 }
 
 HRESULT OleObjectFace::GetMiscStatus(DWORD aspect, DWORD* status) {

@@ -20,13 +20,18 @@ HRESULT giveClass(CLSID* id) {
 }
 
 HRESULT initNew(ControlCore& core) {
-    return guarded([&] { return core.initNew() ? S_OK : E_UNEXPECTED; });
+    return core.entered([&] { return core.initNew() ? S_OK : E_UNEXPECTED; });
+}
+
+/// Storages have a result of their own for a control that was initialised before.
+HRESULT onceAgain(HRESULT result) {
+    return result == E_UNEXPECTED ? CO_E_ALREADYINITIALIZED : result;
 }
 
 HRESULT loadFrom(ControlCore& core, IStream* stream) {
     if (stream == nullptr)
         return E_POINTER;
-    return guarded([&] {
+    return core.entered([&] {
         MemoryPropertyBag bag;
         loadSettings(*stream, bag);
         return core.load(bag) ? S_OK : E_UNEXPECTED;
@@ -36,12 +41,12 @@ HRESULT loadFrom(ControlCore& core, IStream* stream) {
 HRESULT saveTo(ControlCore& core, IStream* stream, bool clearDirty) {
     if (stream == nullptr)
         return E_POINTER;
-    return guarded([&] {
+    return core.entered([&] {
         MemoryPropertyBag bag;
         core.save(bag);
         saveSettings(*stream, bag);
         if (clearDirty)
-            core.letDirty(false);
+            core.noteSaved();
         return S_OK;
     });
 }
@@ -59,7 +64,7 @@ HRESULT BagFace::InitNew() {
 HRESULT BagFace::Load(IPropertyBag* bag, IErrorLog* log) {
     if (bag == nullptr)
         return E_POINTER;
-    return guarded([&] {
+    return core_.entered([&] {
         const HostPropertyBag from(*bag, log);
         return core_.load(from) ? S_OK : E_UNEXPECTED;
     });
@@ -68,11 +73,11 @@ HRESULT BagFace::Load(IPropertyBag* bag, IErrorLog* log) {
 HRESULT BagFace::Save(IPropertyBag* bag, BOOL clearDirty, BOOL everything) {
     if (bag == nullptr)
         return E_POINTER;
-    return guarded([&] {
+    return core_.entered([&] {
         HostPropertyBag to(*bag, nullptr, everything != FALSE);
         core_.save(to);
         if (clearDirty != FALSE)
-            core_.letDirty(false);
+            core_.noteSaved();
         return S_OK;
     });
 }
@@ -106,7 +111,7 @@ HRESULT StorageFace::IsDirty() {
 }
 
 HRESULT StorageFace::InitNew(IStorage* storage) {
-    return storage == nullptr ? E_POINTER : initNew(core_);
+    return storage == nullptr ? E_POINTER : onceAgain(initNew(core_));
 }
 
 HRESULT StorageFace::Load(IStorage* storage) {
@@ -115,7 +120,7 @@ HRESULT StorageFace::Load(IStorage* storage) {
     ComRef<IStream> stream;
     const HRESULT opened =
         storage->OpenStream(streamName, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, stream.out());
-    return FAILED(opened) ? opened : loadFrom(core_, stream.get());
+    return FAILED(opened) ? opened : onceAgain(loadFrom(core_, stream.get()));
 }
 
 HRESULT StorageFace::Save(IStorage* storage, BOOL sameAsLoad) {
@@ -127,9 +132,13 @@ HRESULT StorageFace::Save(IStorage* storage, BOOL sameAsLoad) {
     return FAILED(created) ? created : saveTo(core_, stream.get(), sameAsLoad != FALSE);
 }
 
-HRESULT StorageFace::SaveCompleted(IStorage* /*storage*/) {
-    core_.letDirty(false);
-    return S_OK;
+HRESULT StorageFace::SaveCompleted(IStorage* storage) {
+    return core_.entered([&] {
+        // A copy for somebody else, which no storage follows, leaves the settings as unsaved as they were.
+        if (storage != nullptr)
+            core_.noteSaved();
+        return S_OK;
+    });
 }
 
 } // namespace lumtex

@@ -1,23 +1,83 @@
 /// Drawing on request.
 #include "activex/view_faces.h"
 
-#include "activex/com_guard.h"
 #include "activex/snapshot_enum.h"
+#include "platform/runtime_error.h"
+
+#include <algorithm>
 
 namespace lumtex {
 
 namespace {
 
-FORMATETC metafileFormat() {
-    return {CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF};
-}
+/// The best one first.
+constexpr FORMATETC offeredFormats[] = {
+    {CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF},
+    {CF_METAFILEPICT, nullptr, DVASPECT_CONTENT, -1, TYMED_MFPICT},
+};
 
 HRESULT fits(const FORMATETC& format) {
-    if (format.cfFormat != CF_ENHMETAFILE)
+    const auto offered = std::ranges::find(offeredFormats, format.cfFormat, &FORMATETC::cfFormat);
+    if (offered == std::end(offeredFormats))
         return DV_E_FORMATETC;
-    if (format.dwAspect != DVASPECT_CONTENT)
+    if (format.dwAspect != offered->dwAspect)
         return DV_E_DVASPECT;
-    return (format.tymed & TYMED_ENHMF) != 0 ? S_OK : DV_E_TYMED;
+    return (format.tymed & offered->tymed) != 0 ? S_OK : DV_E_TYMED;
+}
+
+HENHMETAFILE drawEnhanced(ControlCore& core) {
+    const SIZE size = core.size();
+    const SIZEL extent = core.extent();
+    const RECT frame{0, 0, extent.cx, extent.cy};
+    const HDC dc = CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr);
+    if (dc == nullptr)
+        throw RuntimeError(outOfMemory);
+    // The metafile has to be closed whatever happens.
+    const HRESULT drawn = guarded([&] {
+        core.draw(dc, {0, 0, size.cx, size.cy});
+        return S_OK;
+    });
+    HENHMETAFILE file = CloseEnhMetaFile(dc);
+    if (SUCCEEDED(drawn) && file != nullptr)
+        return file;
+    DeleteEnhMetaFile(file);
+    throw RuntimeError(outOfMemory);
+}
+
+/// The old form, scaled by whoever plays it.
+HMETAFILE drawPlain(ControlCore& core) {
+    const SIZE size = core.size();
+    const HDC dc = CreateMetaFileW(nullptr);
+    if (dc == nullptr)
+        throw RuntimeError(outOfMemory);
+    SetMapMode(dc, MM_ANISOTROPIC);
+    SetWindowOrgEx(dc, 0, 0, nullptr);
+    SetWindowExtEx(dc, size.cx, size.cy, nullptr);
+    const HRESULT drawn = guarded([&] {
+        core.draw(dc, {0, 0, size.cx, size.cy});
+        return S_OK;
+    });
+    HMETAFILE file = CloseMetaFile(dc);
+    if (SUCCEEDED(drawn) && file != nullptr)
+        return file;
+    DeleteMetaFile(file);
+    throw RuntimeError(outOfMemory);
+}
+
+HGLOBAL plainPicture(ControlCore& core) {
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(METAFILEPICT));
+    if (memory == nullptr)
+        throw RuntimeError(outOfMemory);
+    try {
+        const SIZEL extent = core.extent();
+        HMETAFILE file = drawPlain(core);
+        *static_cast<METAFILEPICT*>(GlobalLock(memory)) = {MM_ANISOTROPIC, extent.cx, extent.cy, file};
+        GlobalUnlock(memory);
+        return memory;
+    } catch (const RuntimeError&) {
+        GlobalFree(memory);
+        throw;
+    }
 }
 
 struct FormatPolicy {
@@ -41,7 +101,7 @@ HRESULT ViewFace::Draw(DWORD aspect,
         return DV_E_DVASPECT;
     if (target == nullptr)
         return E_INVALIDARG;
-    return guarded([&] {
+    return core_.entered([&] {
         const SIZE size = core_.size();
         const RECT whole{0, 0, size.cx, size.cy};
         core_.draw(target,
@@ -52,13 +112,23 @@ HRESULT ViewFace::Draw(DWORD aspect,
 }
 
 HRESULT ViewFace::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink) {
-    aspects_ = aspects;
-    flags_ = flags;
-    sink_ = ComRef<IAdviseSink>(sink);
-    core_.viewSink = sink;
-    if ((flags & ADVF_PRIMEFIRST) != 0 && sink != nullptr)
-        sink->OnViewChange(DVASPECT_CONTENT, -1);
-    return S_OK;
+    return core_.entered([&] {
+        aspects_ = aspects;
+        flags_ = flags;
+        sink_ = ComRef<IAdviseSink>(sink);
+        core_.onViewChange = sink != nullptr ? [this] { tellSink(); } : std::function<void()>();
+        if ((flags & ADVF_PRIMEFIRST) != 0)
+            tellSink();
+        return S_OK;
+    });
+}
+
+void ViewFace::tellSink() {
+    const ComRef<IAdviseSink> told = sink_;
+    if ((flags_ & ADVF_ONLYONCE) != 0)
+        sink_ = {};
+    if (told && (aspects_ & DVASPECT_CONTENT) != 0)
+        told->OnViewChange(DVASPECT_CONTENT, -1);
 }
 
 HRESULT ViewFace::GetAdvise(DWORD* aspects, DWORD* flags, IAdviseSink** sink) {
@@ -76,7 +146,7 @@ HRESULT ViewFace::GetExtent(DWORD aspect, LONG /*index*/, DVTARGETDEVICE* /*devi
         return E_POINTER;
     if (aspect != DVASPECT_CONTENT)
         return DV_E_DVASPECT;
-    return guarded([&] {
+    return core_.entered([&] {
         *extent = core_.extent();
         return S_OK;
     });
@@ -88,21 +158,17 @@ HRESULT DataFace::GetData(FORMATETC* format, STGMEDIUM* medium) {
     const HRESULT fit = fits(*format);
     if (FAILED(fit))
         return fit;
-    return guarded([&]() -> HRESULT {
-        const SIZE size = core_.size();
-        const SIZEL extent = core_.extent();
-        const RECT frame{0, 0, extent.cx, extent.cy};
-        const HDC dc = CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr);
-        if (dc == nullptr)
-            return E_OUTOFMEMORY;
-        const HRESULT drawn = guarded([&] {
-            core_.draw(dc, {0, 0, size.cx, size.cy});
-            return S_OK;
-        });
+    return core_.entered([&] {
+        // Filled last, so that a failure leaves nothing in it.
         *medium = {};
-        medium->tymed = TYMED_ENHMF;
-        medium->hEnhMetaFile = CloseEnhMetaFile(dc);
-        return drawn;
+        if (format->cfFormat == CF_ENHMETAFILE) {
+            medium->hEnhMetaFile = drawEnhanced(core_);
+            medium->tymed = TYMED_ENHMF;
+        } else {
+            medium->hMetaFilePict = plainPicture(core_);
+            medium->tymed = TYMED_MFPICT;
+        }
+        return S_OK;
     });
 }
 
@@ -124,27 +190,32 @@ HRESULT DataFace::EnumFormatEtc(DWORD direction, IEnumFORMATETC** formats) {
     *formats = nullptr;
     if (direction != DATADIR_GET)
         return E_NOTIMPL;
-    return guarded([&] {
-        *formats = new SnapshotEnum<IEnumFORMATETC, FORMATETC, FormatPolicy>({metafileFormat()});
+    return core_.entered([&] {
+        *formats = new SnapshotEnum<IEnumFORMATETC, FORMATETC, FormatPolicy>(
+            {std::begin(offeredFormats), std::end(offeredFormats)});
         return S_OK;
     });
 }
 
 HRESULT DataFace::DAdvise(FORMATETC* format, DWORD flags, IAdviseSink* sink, DWORD* cookie) {
-    return guarded([&] {
+    if (format == nullptr || sink == nullptr || cookie == nullptr)
+        return E_POINTER;
+    *cookie = 0;
+    return core_.entered([&] {
         const auto self = queryFor<IDataObject>(&outer());
         return core_.dataAdviseHolder()->Advise(self.get(), format, flags, sink, cookie);
     });
 }
 
 HRESULT DataFace::DUnadvise(DWORD cookie) {
-    return guarded([&] { return core_.dataAdviseHolder()->Unadvise(cookie); });
+    return core_.entered([&] { return core_.dataAdviseHolder()->Unadvise(cookie); });
 }
 
 HRESULT DataFace::EnumDAdvise(IEnumSTATDATA** advises) {
     if (advises == nullptr)
         return E_POINTER;
-    return guarded([&] { return core_.dataAdviseHolder()->EnumAdvise(advises); });
+    *advises = nullptr;
+    return core_.entered([&] { return core_.dataAdviseHolder()->EnumAdvise(advises); });
 }
 
 } // namespace lumtex

@@ -10,7 +10,7 @@ namespace lumtex {
 class ViewFace final : public Face<IViewObject2> {
   public:
     ViewFace(IUnknown& outer, ControlCore& core) : Face(outer), core_(core) {}
-    ~ViewFace() { core_.viewSink = nullptr; }
+    ~ViewFace() { core_.onViewChange = nullptr; }
 
     HRESULT STDMETHODCALLTYPE Draw(DWORD aspect,
                                    LONG index,
@@ -45,6 +45,8 @@ class ViewFace final : public Face<IViewObject2> {
                                         SIZEL* extent) override;
 
   private:
+    void tellSink();
+
     ControlCore& core_;
     ComRef<IAdviseSink> sink_;
     DWORD aspects_ = 0;

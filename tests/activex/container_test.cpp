@@ -1,5 +1,6 @@
 /// The control in a container.
 #include "event_sink.h"
+#include "sheet.h"
 #include "small_container.h"
 
 namespace lumtex::testing {
@@ -130,42 +131,6 @@ TEST_F(InContainer, AnExtentIsTakenOver) {
     EXPECT_NEAR(static_cast<double>(taken.cx), 5080, 20);
     EXPECT_NEAR(static_cast<double>(taken.cy), 2540, 20);
 }
-
-/// A picture of 32 bits per pixel, all of one colour at first.
-class Sheet {
-  public:
-    Sheet(LONG width, LONG height)
-        : dc(CreateCompatibleDC(nullptr)), count(static_cast<std::size_t>(width * height)) {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-        pixels = static_cast<std::uint32_t*>(bits);
-        SelectObject(dc, bitmap);
-        std::fill_n(pixels, count, 0x00FF00U);
-    }
-    Sheet(const Sheet&) = delete;
-    Sheet& operator=(const Sheet&) = delete;
-    ~Sheet() {
-        DeleteDC(dc);
-        DeleteObject(bitmap);
-    }
-
-    std::ptrdiff_t howMany(std::uint32_t color) const {
-        GdiFlush();
-        return std::count_if(
-            pixels, pixels + count, [&](auto pixel) { return (pixel & 0xFFFFFFU) == color; });
-    }
-
-    HDC dc;
-    HBITMAP bitmap = nullptr;
-    std::uint32_t* pixels = nullptr;
-    std::size_t count;
-};
 
 TEST_F(InContainer, TheViewIsDrawnIntoAnyContext) {
     let(L"BackColor", {Long{0x0000FF}});

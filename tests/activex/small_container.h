@@ -160,8 +160,8 @@ class SmallContainer final : public IOleClientSite,
     HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL /*lock*/) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** control) override {
-        *control = nullptr;
-        return E_NOTIMPL;
+        *control = ComRef<IDispatch>(extender).detach();
+        return extender ? S_OK : E_NOTIMPL;
     }
     HRESULT STDMETHODCALLTYPE TransformCoords(POINTL* /*himetric*/,
                                               POINTF* /*own*/,
@@ -206,6 +206,7 @@ class SmallContainer final : public IOleClientSite,
     }
 
     ComRef<IOleInPlaceActiveObject> active;
+    ComRef<IDispatch> extender; ///< the container's own object around the control
 
   private:
     HRESULT note(const std::string& what) {

@@ -249,6 +249,8 @@ bool Win32Window::adopt(WindowHandle child) {
 void Win32Window::present() {
     if (hwnd_ != nullptr)
         InvalidateRect(hwnd_, nullptr, FALSE);
+    if (world_.onPresent)
+        world_.onPresent();
 }
 
 void Win32Window::remove(Win32GuideLine& guide) {

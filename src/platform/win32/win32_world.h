@@ -60,6 +60,9 @@ class Win32World final : public World {
     /// dealt with. Whoever destroys the window in it must give a result. Must not throw.
     std::function<std::optional<LRESULT>(const WindowMessage&)> onMessage;
 
+    /// Told when one of our windows has a new picture for the screen. Must not throw.
+    std::function<void()> onPresent;
+
     /// The world of the nearest window of ours around a window, or of that itself; none where there is none.
     static Win32World* of(HWND window);
 
