@@ -56,6 +56,8 @@ HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) {
     if (sink == nullptr || cookie == nullptr)
         return E_POINTER;
     *cookie = 0;
+    if (!owner_.onOwnThread())
+        return RPC_E_WRONG_THREAD;
     return guarded([&]() -> HRESULT {
         ComRef<IUnknown> held;
         if (FAILED(sink->QueryInterface(interfaceId_, reinterpret_cast<void**>(held.out())))) {
@@ -72,6 +74,8 @@ HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) {
 }
 
 HRESULT ConnectionPoint::Unadvise(DWORD cookie) {
+    if (!owner_.onOwnThread())
+        return RPC_E_WRONG_THREAD;
     const auto found = sinks_.find(cookie);
     if (found == sinks_.end())
         return CONNECT_E_NOCONNECTION;
@@ -85,6 +89,8 @@ HRESULT ConnectionPoint::EnumConnections(IEnumConnections** connections) {
     if (connections == nullptr)
         return E_POINTER;
     *connections = nullptr;
+    if (!owner_.onOwnThread())
+        return RPC_E_WRONG_THREAD;
     return guarded([&] {
         std::vector<CONNECTDATA> items;
         items.reserve(sinks_.size());

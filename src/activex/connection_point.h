@@ -2,6 +2,7 @@
 /// Where hosts register for the control's events.
 #pragma once
 
+#include "activex/automation_target.h"
 #include "activex/module.h"
 
 #include <map>
@@ -12,9 +13,12 @@ namespace lumtex {
 /// One outgoing interface. Lives as long as the control; its identity is its own, its lifetime the control's.
 class ConnectionPoint final : public IConnectionPoint {
   public:
-    /// `container` must outlive this and is not counted.
-    ConnectionPoint(IConnectionPointContainer& container, const GUID& interfaceId)
-        : container_(container), interfaceId_(interfaceId) {}
+    /// `container` and `owner` must outlive this and are not counted. Sinks come and go on the owner's
+    /// thread.
+    ConnectionPoint(IConnectionPointContainer& container,
+                    const AutomationTarget& owner,
+                    const GUID& interfaceId)
+        : container_(container), owner_(owner), interfaceId_(interfaceId) {}
     ConnectionPoint(const ConnectionPoint&) = delete;
     ConnectionPoint& operator=(const ConnectionPoint&) = delete;
     ~ConnectionPoint() = default;
@@ -35,6 +39,7 @@ class ConnectionPoint final : public IConnectionPoint {
 
   private:
     IConnectionPointContainer& container_;
+    const AutomationTarget& owner_;
     GUID interfaceId_;
     std::map<DWORD, ComRef<IUnknown>> sinks_;
     DWORD lastCookie_ = 0;

@@ -20,8 +20,8 @@ SIZE pixelsPerInch(HWND window) {
 } // namespace
 
 ControlCore::ControlCore(IUnknown& outer, IConnectionPointContainer& points)
-    : outer_(outer), eventPoint_(points, guidOf("__lmListView")),
-      notifyPoint_(points, IID_IPropertyNotifySink), events_(eventPoint_), world_(moduleInstance()),
+    : outer_(outer), eventPoint_(points, *this, guidOf("__lmListView")),
+      notifyPoint_(points, *this, IID_IPropertyNotifySink), events_(eventPoint_), world_(moduleInstance()),
       list_(std::make_unique<lmListView>(world_, host_, events_)) {
     host_.onPropertyChanged = [this](StringView name) { propertyChanged(name); };
     world_.onPresent = [this] { viewChanged(); };

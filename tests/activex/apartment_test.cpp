@@ -1,0 +1,138 @@
+/// Other threads of the program.
+#include "placed_control.h"
+
+#include <functional>
+
+namespace lumtex::testing {
+namespace {
+
+/// Runs `work` on a thread of its own while this one goes on with its messages.
+void elsewhere(DWORD apartment, const std::function<void()>& work) {
+    struct Job {
+        DWORD apartment;
+        const std::function<void()>& work;
+    } job{apartment, work};
+    HANDLE thread = CreateThread(
+        nullptr,
+        0,
+        [](void* argument) -> DWORD {
+            const Job& given = *static_cast<const Job*>(argument);
+            CoInitializeEx(nullptr, given.apartment);
+            given.work();
+            CoUninitialize();
+            return 0;
+        },
+        &job,
+        0,
+        nullptr);
+    ASSERT_NE(thread, nullptr);
+    while (MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) {
+        MSG message{};
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+            DispatchMessageW(&message);
+    }
+    CloseHandle(thread);
+}
+
+class Apartment : public PlacedControl {
+  protected:
+    /// The list, packed for one other apartment.
+    IStream* packed() {
+        IStream* stream = nullptr;
+        EXPECT_EQ(CoMarshalInterThreadInterfaceInStream(IID_IDispatch, dispatch.get(), &stream), S_OK);
+        return stream;
+    }
+    static ComRef<IDispatch> unpacked(IStream* stream) {
+        ComRef<IDispatch> list;
+        CoGetInterfaceAndReleaseStream(stream, IID_IDispatch, reinterpret_cast<void**>(list.out()));
+        return list;
+    }
+};
+
+TEST_F(Apartment, CallsOfAnotherOneAreHandedOver) {
+    fill(2, {u"a,b"});
+    for (const DWORD kind : {COINIT_APARTMENTTHREADED, COINIT_MULTITHREADED}) {
+        IStream* const stream = packed();
+        HRESULT added = E_FAIL;
+        Variant text;
+        HRESULT assigned = E_FAIL;
+        elsewhere(kind, [&] {
+            const auto list = unpacked(stream);
+            if (!list)
+                return;
+            added = invoke(list.get(), L"RowsAdd", DISPATCH_METHOD, {Long{-1}, u",", u"far,away"}).result;
+            text = invoke(list.get(), L"ItemText", DISPATCH_PROPERTYGET, {Long{1}, Long{2}}).value;
+            assigned =
+                invoke(list.get(), L"ItemText", DISPATCH_PROPERTYPUT, {Long{1}, Long{1}, u"changed"}).result;
+        });
+        EXPECT_EQ(added, S_OK);
+        EXPECT_EQ(assigned, S_OK);
+        EXPECT_EQ(text, Variant(u"b"));
+    }
+    EXPECT_EQ(get(L"RowsCount"), Variant(Long{3}));
+    EXPECT_EQ(get(L"ItemText", {Long{1}, Long{1}}), Variant(u"changed"));
+}
+
+TEST_F(Apartment, DirectCallsFromAnotherThreadAreRefusedOnEachInterface) {
+    const auto inPlace = control.as<IOleInPlaceObject>();
+    const auto active = control.as<IOleInPlaceActiveObject>();
+    const auto oleControl = control.as<IOleControl>();
+    const auto view = control.as<IViewObject2>();
+    const auto data = control.as<IDataObject>();
+    const auto bag = control.as<IPersistPropertyBag>();
+    const auto stream = control.as<IPersistStreamInit>();
+    const auto storage = control.as<IPersistStorage>();
+    const auto quick = control.as<IQuickActivate>();
+    const auto points = control.as<IConnectionPointContainer>();
+    MapBag values;
+    SIZEL extent{};
+    RECT place{0, 0, 10, 10};
+    MSG message{};
+    FORMATETC format{CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF};
+    STGMEDIUM medium{};
+    QACONTAINER from{};
+    from.cbSize = sizeof(from);
+    QACONTROL to{};
+    to.cbSize = sizeof(to);
+    EventSink sink;
+    const ComRef<IConnectionPoint> point = eventPointOf(control);
+    std::vector<HRESULT> results;
+    elsewhere(COINIT_APARTMENTTHREADED, [&] {
+        DWORD cookie = 0;
+        ComRef<IEnumConnectionPoints> all;
+        results = {
+            invoke(dispatch.get(), DISPID{9}, DISPATCH_PROPERTYGET, {}).result,
+            object->SetClientSite(&container),
+            object->DoVerb(OLEIVERB_SHOW, nullptr, &container, 0, nullptr, nullptr),
+            object->Close(OLECLOSE_NOSAVE),
+            object->SetExtent(DVASPECT_CONTENT, &extent),
+            object->GetExtent(DVASPECT_CONTENT, &extent),
+            oleControl->OnAmbientPropertyChange(DISPID_UNKNOWN),
+            oleControl->FreezeEvents(TRUE),
+            inPlace->SetObjectRects(&place, nullptr),
+            inPlace->InPlaceDeactivate(),
+            inPlace->UIDeactivate(),
+            active->TranslateAccelerator(&message),
+            view->SetAdvise(DVASPECT_CONTENT, 0, nullptr),
+            view->GetExtent(DVASPECT_CONTENT, -1, nullptr, &extent),
+            data->GetData(&format, &medium),
+            bag->InitNew(),
+            bag->Load(&values, nullptr),
+            bag->Save(&values, TRUE, TRUE),
+            stream->InitNew(),
+            storage->SaveCompleted(nullptr),
+            quick->QuickActivate(&from, &to),
+            points->EnumConnectionPoints(all.out()),
+            point->Advise(&sink, &cookie),
+            point->Unadvise(1),
+        };
+    });
+    for (std::size_t i = 0; i < results.size(); ++i)
+        EXPECT_EQ(results[i], RPC_E_WRONG_THREAD) << i;
+    EXPECT_EQ(results.size(), 24U);
+    EXPECT_EQ(stream->InitNew(), S_OK) << "none of them had an effect";
+    EXPECT_EQ(container.references, 1U);
+}
+
+} // namespace
+} // namespace lumtex::testing
