@@ -49,7 +49,7 @@ target_sources(lumtex_test_win32 PRIVATE scripts/script_host.cpp)
 lumtex_tests(mirrored LINK lumtex_automation lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_mirrored PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)
 lumtex_tests(stage LINK lumtex_automation lumtex_test_raster lumtex_win32)
-target_sources(lumtex_test_stage PRIVATE scenarios/player.cpp scenarios/script.cpp)
+target_sources(lumtex_test_stage PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)
 # There is one mouse and one keyboard.
 set_tests_properties(stage PROPERTIES RUN_SERIAL ON)
 lumtex_tests(activex LINK lumtex_automation lumtex_win32)

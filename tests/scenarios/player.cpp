@@ -331,7 +331,7 @@ const std::map<std::string, Player::Verb> Player::verbs = {{"size", &Player::siz
 
 } // namespace
 
-Played play(const Script& script, Stage& stage) {
+Played play(const Script& script, Stage& stage, const std::function<void()>& afterStep) {
     Player player(stage);
     Played played;
     for (const Step& step : script.steps) {
@@ -342,6 +342,8 @@ Played play(const Script& script, Stage& stage) {
                                      failure.what());
         }
         played.logs.push_back(std::exchange(stage.log(), {}));
+        if (afterStep)
+            afterStep();
     }
     played.frames = player.takeFrames();
     return played;

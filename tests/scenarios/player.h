@@ -5,6 +5,8 @@
 #include "script.h"
 #include "stage.h"
 
+#include <functional>
+
 namespace lumtex::testing {
 
 struct Played {
@@ -39,6 +41,8 @@ struct Played {
 ///
 /// Points name the list as it was painted last. A call that fails before it reaches the control logs "! " and
 /// the number.
-Played play(const Script& script, Stage& stage);
+///
+/// `afterStep`, if there is one, is called after each step.
+Played play(const Script& script, Stage& stage, const std::function<void()>& afterStep = {});
 
 } // namespace lumtex::testing

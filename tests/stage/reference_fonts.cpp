@@ -26,12 +26,13 @@ class FontFile {
         bytes_.at(at) = static_cast<char>(value / 256);
         bytes_.at(at + 1) = static_cast<char>(value % 256);
     }
+    std::size_t doubleWord(std::size_t at) const { return word(at) * 65536 + word(at + 2); }
     /// Where a table begins.
     std::size_t table(std::string_view tag) const {
         const std::size_t count = word(4);
         for (std::size_t entry = 12; entry < 12 + count * 16; entry += 16)
             if (std::string_view(bytes_).substr(entry, 4) == tag)
-                return word(entry + 8) * 65536 + word(entry + 10);
+                return doubleWord(entry + 8);
         throw std::runtime_error("the font has no table " + std::string(tag));
     }
     std::string& bytes() { return bytes_; }
@@ -75,6 +76,41 @@ void roundHeightsUp(FontFile& font) {
         font.letWord(field, font.word(field) + halfPixel);
 }
 
+/// Each pixel of a letter has the text's colour or none of it, so that surfaces need not agree on the colours
+/// in between.
+void leaveOutGrey(FontFile& font) {
+    constexpr std::size_t grey = 2; // one of the bits that tell how a range of sizes is painted
+    const std::size_t ranges = font.table("gasp");
+    for (std::size_t entry = ranges + 4; entry < ranges + 4 + font.word(ranges + 2) * 4; entry += 4)
+        font.letWord(entry + 2, font.word(entry + 2) & ~grey);
+}
+
+/// Where the outline of a glyph begins.
+std::size_t outline(const FontFile& font, std::size_t glyph) {
+    const std::size_t places = font.table("loca");
+    const bool areLong = font.word(font.table("head") + 50) != 0;
+    const std::size_t place =
+        areLong ? font.doubleWord(places + 4 * glyph) : 2 * font.word(places + 2 * glyph);
+    return font.table("glyf") + place;
+}
+
+/// Letters say themselves how they are fitted to pixels, and that moves a letter by another width than the
+/// one that texts are measured by. These only say "FLIPON" again and again, which is how it begins.
+void leaveOutFitting(FontFile& font) {
+    constexpr char flipOn = 0x4D;
+    const std::size_t count = font.word(font.table("maxp") + 4);
+    for (std::size_t glyph = 0; glyph < count; ++glyph) {
+        const std::size_t start = outline(font, glyph);
+        const std::size_t contours = font.word(start);
+        const bool isMadeOfOthers = contours >= 0x8000;
+        if (start == outline(font, glyph + 1) || isMadeOfOthers)
+            continue;
+        const std::size_t length = start + 10 + 2 * contours;
+        for (std::size_t i = 0; i < font.word(length); ++i)
+            font.bytes().at(length + 2 + i) = flipOn;
+    }
+}
+
 } // namespace
 
 ReferenceFonts::ReferenceFonts() {
@@ -82,6 +118,8 @@ ReferenceFonts::ReferenceFonts() {
         FontFile font(std::string("Z:/usr/share/fonts/truetype/dejavu/") + file);
         letFamilyName(font, "Verdana");
         roundHeightsUp(font);
+        leaveOutGrey(font);
+        leaveOutFitting(font);
         DWORD count = 0;
         fonts_.push_back(AddFontMemResourceEx(
             font.bytes().data(), static_cast<DWORD>(font.bytes().size()), nullptr, &count));

@@ -1,9 +1,13 @@
 /// Plays every scenario in real windows, with the system's own mouse and keyboard: the log is the one that
-/// the script says.
+/// the script says, and after each step the screen shows what the simulated desktop shows.
+#include "list_fixture.h"
 #include "log_comparison.h"
 #include "reference_fonts.h"
+#include "scenarios/headless_stage.h"
 #include "scenarios/player.h"
 #include "scenarios/script_files.h"
+#include "win32/same_system_colors.h"
+#include "win32/surface_pair.h"
 #include "windows_stage.h"
 
 namespace lumtex::testing {
@@ -12,16 +16,50 @@ namespace {
 
 class WindowsScenario : public ::testing::TestWithParam<std::filesystem::path> {
   protected:
-    static void SetUpTestSuite() { fonts_ = std::make_unique<ReferenceFonts>(); }
-    static void TearDownTestSuite() { fonts_.reset(); }
+    static void SetUpTestSuite() {
+        fonts_ = std::make_unique<ReferenceFonts>();
+        colors_ = std::make_unique<SameSystemColors>();
+    }
+    static void TearDownTestSuite() {
+        colors_.reset();
+        fonts_.reset();
+    }
 
   private:
     static inline std::unique_ptr<ReferenceFonts> fonts_;
+    static inline std::unique_ptr<SameSystemColors> colors_;
 };
 
-TEST_P(WindowsScenario, LeavesTheLogThatItSays) {
+/// The open editor is a box of the system, of which only the place is ours: it is left black.
+Bitmap pictureOf(Stage& stage) {
+    Bitmap picture = stage.picture();
+    const TextBox& editor = ListViewInspector(stage.list()).editor();
+    if (!editor.Visible())
+        return picture;
+    const auto left = static_cast<Long>(editor.Left());
+    const auto top = static_cast<Long>(editor.Top());
+    const auto right = static_cast<Long>(editor.Left() + editor.Width());
+    const auto bottom = static_cast<Long>(editor.Top() + editor.Height());
+    for (Long y = std::max(top, 0); y < std::min(bottom, picture.height); ++y)
+        for (Long x = std::max(left, 0); x < std::min(right, picture.width); ++x)
+            picture.at(x, y) = 0;
+    return picture;
+}
+
+TEST_P(WindowsScenario, LeavesTheLogThatItSaysAndShowsTheSamePictures) {
     const Script script = parseScript(contentOfScript(GetParam()));
-    const Played played = play(script, *makeWindowsStage());
+    std::vector<Bitmap> expected;
+    {
+        const std::unique_ptr<Stage> simulated = makeHeadlessStage();
+        play(script, *simulated, [&] { expected.push_back(pictureOf(*simulated)); });
+    }
+    const std::unique_ptr<Stage> stage = makeWindowsStage();
+    std::size_t step = 0;
+    const Played played = play(script, *stage, [&] {
+        EXPECT_TRUE(samePixels(pictureOf(*stage), expected.at(step)))
+            << "after line " << script.steps[step].line << ", " << script.steps[step].text;
+        ++step;
+    });
     EXPECT_TRUE(sameLog(linesOf(script, played.logs), linesOf(script, expectedLogs(script))));
 }
 

@@ -6,6 +6,7 @@
 #include "scenarios/report_line.h"
 #include "user_input.h"
 #include "win32/win32_list.h"
+#include "win32/window_pictures.h"
 
 #include <deque>
 #include <stdexcept>
@@ -110,7 +111,7 @@ class WindowsStage final : public Stage {
     void advance(std::chrono::milliseconds span) override {
         ticks_.advance(span, [this] { runtime_.deliver(); });
     }
-    Bitmap picture() override { return list_.window().surface().image(); }
+    Bitmap picture() override { return screenPicture(toHWND(list_.window().hWnd())); }
 
   private:
     /// One for all stages, because it takes the system long to show one.

@@ -230,6 +230,26 @@ TEST_F(Win32Windows, AdoptAnyWindowButThoseAroundThem) {
     EXPECT_TRUE(IsWindow(toHWND(stranger->hWnd()))) << "it is its owner's to destroy";
 }
 
+TEST_F(Win32Windows, LaterChildrenLieAboveEarlierOnes) {
+    NotedControl control;
+    const std::unique_ptr<Window> later = world.createWindow(outer.get(), control);
+    later->place(30, 30, 50, 40);
+    later->letVisible(true);
+    NotedBox client;
+    const std::unique_ptr<TextBox> box = world.createTextBox(*outer, client);
+    box->letLeft(40);
+    box->letTop(40);
+    box->letWidth(20);
+    box->letHeight(20);
+    box->letVisible(true);
+    const auto topmostAt = [&](POINT at) {
+        return fromHWND(ChildWindowFromPoint(toHWND(outer->hWnd()), at));
+    };
+    EXPECT_EQ(topmostAt({25, 25}), inner->hWnd());
+    EXPECT_EQ(topmostAt({35, 35}), later->hWnd());
+    EXPECT_EQ(topmostAt({45, 45}), box->hWnd());
+}
+
 TEST_F(Win32Windows, TheBoxAsksAboutEachCharacter) {
     NotedBox client;
     const std::unique_ptr<TextBox> box = world.createTextBox(*outer, client);

@@ -28,6 +28,7 @@ Win32TextBox::Win32TextBox(Win32World& world, Win32Window& parent, TextBoxClient
     boxProcedure_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Win32TextBox::procedure)));
     parent.add(*this);
+    Win32Window::raise(hwnd_);
 }
 
 Win32TextBox::~Win32TextBox() {

@@ -61,6 +61,8 @@ Win32Window::Win32Window(Win32World& world, HWND parent, Kind kind, UserControl&
     if (hwnd_ == nullptr)
         throw RuntimeError(outOfMemory);
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    if (kind == Kind::child)
+        raise(hwnd_);
 }
 
 Win32Window::~Win32Window() {
@@ -84,6 +86,10 @@ void Win32Window::detach() {
         world_.press = {};
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, 0);
     hwnd_ = nullptr;
+}
+
+void Win32Window::raise(HWND child) {
+    SetWindowPos(child, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 Win32Window* Win32Window::of(HWND window) {

@@ -55,6 +55,8 @@ class Win32Window final : public Window {
     bool adopt(WindowHandle child) override;
     void present() override;
 
+    /// Above its siblings: the system puts a new child below them.
+    static void raise(HWND child);
     /// The window behind a handle; none for one that is not of this class of windows.
     static Win32Window* of(HWND window);
     Win32World& world() const { return world_; }
