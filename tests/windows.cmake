@@ -66,6 +66,14 @@ lumtex_tests(samples LINK lumtex_test_raster lumtex_win32)
 set_tests_properties(samples PROPERTIES RUN_SERIAL ON)
 target_sources(lumtex_test_samples PRIVATE stage/user_input.cpp)
 add_dependencies(lumtex_test_samples LumtexListView cities)
+lumtex_tests(hosting LINK lumtex_automation lumtex_win32)
+# The mouse and the keyboard are one for all programs on the display.
+set_tests_properties(hosting PROPERTIES RUN_SERIAL TRUE)
+add_dependencies(lumtex_test_hosting LumtexListView)
+lumtex_tests(lifetime SLOW LINK lumtex_automation lumtex_win32)
+add_dependencies(lumtex_test_lifetime LumtexListView)
+# It takes longest, so it starts first.
+set_tests_properties(lifetime PROPERTIES COST 1000 TIMEOUT 900)
 add_test(NAME component COMMAND "${PROJECT_SOURCE_DIR}/scripts/check-component" $<TARGET_FILE:LumtexListView>)
 
 get_property(programs GLOBAL PROPERTY LUMTEX_TEST_PROGRAMS)

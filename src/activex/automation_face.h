@@ -6,6 +6,7 @@
 #include "activex/com_guard.h"
 #include "activex/dual_arguments.h"
 #include "activex/face.h"
+#include "platform/win32/com_ref.h"
 
 #include <algorithm>
 
@@ -80,6 +81,8 @@ class AutomationFace : public Face<IDispatch> {
     HRESULT entered(Body&& body) noexcept {
         if (!target_.onOwnThread())
             return RPC_E_WRONG_THREAD;
+        // The object may be let go in the call.
+        const ComRef<IUnknown> alive(&outer());
         return guarded([&]() -> HRESULT {
             try {
                 body();

@@ -28,9 +28,11 @@ ControlCore::ControlCore(IUnknown& outer, IConnectionPointContainer& points)
     world_.onMessage = [this](const WindowMessage& message) { return seeMessage(message); };
     world_.ownRuntime().onQueued = [this](MSG& message) { return offerKey(message); };
     world_.ownRuntime().onModal = [this](bool open) { showModality(open); };
+    world_.owner = &outer_;
 }
 
 ControlCore::~ControlCore() {
+    world_.owner = nullptr;
     host_.onPropertyChanged = nullptr;
     world_.onPresent = nullptr;
     world_.onMessage = nullptr;

@@ -3,7 +3,6 @@
 
 #include "activex/argument_bridge.h"
 #include "activex/com_guard.h"
-#include "activex/module.h"
 #include "platform/text.h"
 #include "platform/variant_conversion.h"
 
@@ -19,24 +18,6 @@ constexpr WORD assigning = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
 bool endsInList(const Member& member) {
     return member.count > 0 && member.slots[member.count - 1].type.code == TypeCode::variantList;
 }
-
-/// A record that a script holds keeps the module loaded, whose code it is.
-class HeldRecord final : public Object {
-  public:
-    explicit HeldRecord(ObjectRef record) : record_(std::move(record)) {}
-
-    Variant get(StringView name, std::span<Variant> arguments) override {
-        return record_->get(name, arguments);
-    }
-    void put(StringView name, const Variant& value) override { record_->put(name, value); }
-    Variant call(StringView name, std::span<Variant> arguments) override {
-        return record_->call(name, arguments);
-    }
-
-  private:
-    ObjectRef record_;
-    ModuleLock lock_;
-};
 
 /// The arguments in the order of the parameters, and for each the place in the caller's array.
 class Arguments {
@@ -133,14 +114,6 @@ UINT placeOfMisfit(const Member& member, Arguments& arguments) {
     return 0;
 }
 
-void giveResult(const Member& member, Variant value, VARIANT* result) {
-    if (result == nullptr)
-        return;
-    if (member.type.code == TypeCode::record)
-        value = Variant(ObjectRef(std::make_shared<HeldRecord>(value.toObject())));
-    *result = toVARIANT(value).release();
-}
-
 void assign(CallByName& byName, const Member& member, const DispatchCall& call, Arguments& arguments) {
     const Variant value = argumentFrom(call.parameters->rgvarg[0]);
     const bool asReference = (call.kind & DISPATCH_PROPERTYPUTREF) != 0;
@@ -184,11 +157,11 @@ HRESULT perform(AutomationTarget& target, const Member& member, const DispatchCa
             assign(byName, member, call, arguments);
             return S_OK;
         }
-        Variant value = member.isMethod() ? byName.call(member, arguments.values())
-                                          : byName.get(member, arguments.values());
+        const Variant value = member.isMethod() ? byName.call(member, arguments.values())
+                                                : byName.get(member, arguments.values());
         arguments.writeBackTo(member);
-        if (member.type.code != TypeCode::none)
-            giveResult(member, std::move(value), call.result);
+        if (member.type.code != TypeCode::none && call.result != nullptr)
+            *call.result = toVARIANT(value).release();
         return S_OK;
     } catch (const RuntimeError& error) {
         if (call.wrongArgument != nullptr)

@@ -36,40 +36,6 @@ TEST_F(EntryPoints, KnowNoOtherClass) {
     EXPECT_EQ(component.classObject(guidOf("SpEv"), IID_IClassFactory, nullptr), E_POINTER);
 }
 
-TEST_F(EntryPoints, TheModuleMayGoOnceNothingOfItIsHeld) {
-    EXPECT_TRUE(component.canUnload());
-    ComRef<IUnknown> object = component.make("SpEv");
-    EXPECT_FALSE(component.canUnload());
-    object = {};
-    EXPECT_TRUE(component.canUnload());
-}
-
-TEST_F(EntryPoints, ALockedServerStays) {
-    ComRef<IClassFactory> factory;
-    ASSERT_EQ(
-        component.classObject(guidOf("Error"), IID_IClassFactory, reinterpret_cast<void**>(factory.out())),
-        S_OK);
-    EXPECT_EQ(factory->LockServer(TRUE), S_OK);
-    factory = {};
-    EXPECT_FALSE(component.canUnload());
-    ASSERT_EQ(
-        component.classObject(guidOf("Error"), IID_IClassFactory, reinterpret_cast<void**>(factory.out())),
-        S_OK);
-    EXPECT_EQ(factory->LockServer(FALSE), S_OK);
-    factory = {};
-    EXPECT_TRUE(component.canUnload());
-}
-
-TEST_F(EntryPoints, AnEnumeratorKeepsTheModuleToo) {
-    ComRef<IUnknown> control = component.make("lmListView");
-    ComRef<IEnumConnectionPoints> points;
-    ASSERT_EQ(control.as<IConnectionPointContainer>()->EnumConnectionPoints(points.out()), S_OK);
-    control = {};
-    EXPECT_FALSE(component.canUnload());
-    points = {};
-    EXPECT_TRUE(component.canUnload());
-}
-
 /// The host's object around a control: the control's interfaces are its own.
 class Outer final : public IUnknown {
   public:
@@ -112,15 +78,6 @@ TEST_F(EntryPoints, OnlyTheControlCanLiveInside) {
     void* made = nullptr;
     EXPECT_EQ(factory->CreateInstance(&outer, IID_IUnknown, &made), CLASS_E_NOAGGREGATION);
     EXPECT_EQ(made, nullptr);
-}
-
-TEST_F(EntryPoints, ManyRoundsLeaveNothingBehind) {
-    for (int round = 0; round < 200; ++round) {
-        const ComRef<IUnknown> control = component.make("lmListView");
-        const auto dispatch = control.as<IDispatch>();
-        ASSERT_EQ(invoke(dispatch.get(), L"ColumnsAdd", DISPATCH_METHOD, {u"column"}).result, S_OK);
-    }
-    EXPECT_TRUE(component.canUnload());
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "platform/win32/carried_data.h"
 #include "platform/win32/held_by_host.h"
 #include "platform/win32/shift_keys.h"
+#include "platform/win32/win32_world.h"
 
 #include <atomic>
 #include <new>
@@ -97,6 +98,11 @@ class DropTarget final : public IDropTarget {
         }
     }
 
+    IUnknown* owner() const {
+        const Win32World* const world = Win32World::of(window_);
+        return world != nullptr ? world->owner : nullptr;
+    }
+
     Arguments argumentsFor(const Pointer& pointer, DWORD allowed) const {
         POINT at{pointer.at.x, pointer.at.y};
         ScreenToClient(window_, &at);
@@ -116,6 +122,7 @@ class DropTarget final : public IDropTarget {
         const ObjectRef data = data_;
         Arguments told = argumentsFor(pointer, allowed);
         Integer stateNow = state;
+        const ComRef<IUnknown> alive(owner());
         client_->UserControl_OLEDragOver(
             data, told.effect, told.button, told.shift, told.x, told.y, stateNow);
         *effect = static_cast<DWORD>(told.effect) & allowed;
@@ -128,6 +135,7 @@ class DropTarget final : public IDropTarget {
         if (client_ == nullptr)
             return;
         Arguments told = argumentsFor(pointer, allowed);
+        const ComRef<IUnknown> alive(owner());
         client_->UserControl_OLEDragDrop(data, told.effect, told.button, told.shift, told.x, told.y);
         *effect = static_cast<DWORD>(told.effect) & allowed;
     }

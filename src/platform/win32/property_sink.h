@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/win32/com_ref.h"
+#include "platform/win32/held_by_host.h"
 
 #include <functional>
 
@@ -35,6 +36,7 @@ class PropertySink final : public IPropertyNotifySink {
     std::function<void(DISPID)> onChanged_;
     std::function<void()> onGone_;
     ULONG references_ = 1;
+    HeldByHost held_; ///< an object may tell of changes when the control is gone
 };
 
 } // namespace lumtex

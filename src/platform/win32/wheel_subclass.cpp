@@ -1,6 +1,7 @@
 #include "platform/win32/wheel_subclass.h"
 
 #include "platform/runtime_error.h"
+#include "platform/win32/com_ref.h"
 #include "platform/win32/win32_world.h"
 
 #include <utility>
@@ -73,8 +74,10 @@ LRESULT CALLBACK WheelSubclass::WheelProc(HWND hWnd, UINT uMsg, WPARAM wParam, L
     if (uMsg != WM_MOUSEWHEEL)
         return CallWindowProcW(old, hWnd, uMsg, wParam, lParam);
     try {
-        if (wheel != nullptr)
+        if (wheel != nullptr) {
+            const ComRef<IUnknown> alive(wheel->world_.owner);
             wheel->WndProc(hWnd, wParam, lParam);
+        }
     } catch (...) {
         // The border of the system: what can fail has reported it already.
         return 0;

@@ -2,6 +2,7 @@
 
 #include "platform/rounding.h"
 #include "platform/runtime_error.h"
+#include "platform/win32/com_ref.h"
 
 #include <algorithm>
 #include <utility>
@@ -143,6 +144,7 @@ LRESULT CALLBACK Win32TextBox::procedure(HWND window, UINT message, WPARAM wPara
     auto* self = reinterpret_cast<Win32TextBox*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (self == nullptr)
         return DefWindowProcW(window, message, wParam, lParam);
+    const ComRef<IUnknown> alive(self->world_.owner);
     WNDPROC box = self->boxProcedure_;
     try {
         if (const std::optional<LRESULT> answer = self->answer({window, message, wParam, lParam}))

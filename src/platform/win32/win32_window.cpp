@@ -107,9 +107,10 @@ void Win32Window::place(Single left, Single top, Single width, Single height) {
     const bool resized = newWidth != surface_->scaleWidth() || newHeight != surface_->scaleHeight();
     if (resized)
         resizeSurface(newWidth, newHeight);
-    corner_ = corner;
+    const Point oldCorner = std::exchange(corner_, corner);
+    const bool moved = corner.x != oldCorner.x || corner.y != oldCorner.y;
     HWND window = hwnd_;
-    if (window != nullptr) {
+    if (window != nullptr && (moved || resized)) {
         placing_ = true;
         SetWindowPos(window,
                      nullptr,
@@ -120,7 +121,7 @@ void Win32Window::place(Single left, Single top, Single width, Single height) {
                      SWP_NOZORDER | SWP_NOACTIVATE);
         placing_ = false;
         if (resized)
-            InvalidateRect(window, nullptr, FALSE);
+            present();
     }
     if (resized)
         client_.UserControl_Resize();
@@ -253,10 +254,18 @@ bool Win32Window::adopt(WindowHandle child) {
 }
 
 void Win32Window::present() {
-    if (hwnd_ != nullptr)
+    // The system asks for all of a window when it is shown.
+    if (hwnd_ != nullptr && isShown())
         InvalidateRect(hwnd_, nullptr, FALSE);
     if (world_.onPresent)
         world_.onPresent();
+}
+
+bool Win32Window::isShown() const {
+    if (!visible_)
+        return false;
+    const Win32Window* outer = of(GetAncestor(hwnd_, GA_PARENT));
+    return outer == nullptr || outer->isShown();
 }
 
 void Win32Window::remove(Win32GuideLine& guide) {

@@ -98,6 +98,8 @@ class Win32Window final : public Window {
     void loseInput();
     /// Shows the pointer's shape at once where the pointer is over this window.
     void showPointer() const;
+    /// Visible, and so is every window of ours that it lies in.
+    bool isShown() const;
     /// `at` is on the window, and no window of ours around it cuts it off there.
     bool covers(POINT at) const;
     void detach();

@@ -1,6 +1,7 @@
 #include "platform/win32/win32_world.h"
 
 #include "platform/runtime_error.h"
+#include "platform/win32/com_ref.h"
 #include "platform/win32/wheel_subclass.h"
 #include "platform/win32/win32_guide_line.h"
 #include "platform/win32/win32_text_box.h"
@@ -53,7 +54,10 @@ std::unique_ptr<GuideLine> Win32World::createGuideLine(Window& parent) {
 }
 
 std::unique_ptr<Timer> Win32World::createTimer(std::function<void()> onTimer) {
-    return std::make_unique<Win32Timer>(timers_, std::move(onTimer));
+    return std::make_unique<Win32Timer>(timers_, [this, tick = std::move(onTimer)] {
+        const ComRef<IUnknown> alive(owner);
+        tick();
+    });
 }
 
 void Win32World::refuseHugeSize(Long width, Long height) {

@@ -66,6 +66,11 @@ class Win32World final : public World {
     /// The world of the nearest window of ours around a window, or of that itself; none where there is none.
     static Win32World* of(HWND window);
 
+    /// The object that the world belongs to; may be null. It is counted while a message, a tick or a turn of
+    /// the wheel is told, so that a handler that lets go of the last reference does not destroy what still
+    /// runs.
+    IUnknown* owner = nullptr;
+
     // For what the world makes
 
     HINSTANCE instance() const { return instance_; }

@@ -1,4 +1,5 @@
 /// What becomes of a message to one of our windows.
+#include "platform/win32/com_ref.h"
 #include "platform/win32/win32_text_box.h"
 #include "platform/win32/win32_window.h"
 
@@ -8,6 +9,7 @@ LRESULT CALLBACK Win32Window::procedure(HWND window, UINT message, WPARAM wParam
     Win32Window* self = of(window);
     if (self == nullptr)
         return DefWindowProcW(window, message, wParam, lParam);
+    const ComRef<IUnknown> alive(self->world_.owner);
     Answer answer;
     try {
         answer = self->answer({window, message, wParam, lParam});

@@ -1,0 +1,213 @@
+/// The module may go when nobody holds anything of it, and not before.
+#include "event_sink.h"
+
+#include <functional>
+
+namespace lumtex::testing {
+namespace {
+
+class Unloading : public ::testing::Test {
+  protected:
+    Unloading() { CoInitialize(nullptr); }
+    ~Unloading() override { CoUninitialize(); }
+
+    /// A list with a found text.
+    ComRef<IUnknown> makeList() const {
+        ComRef<IUnknown> list = component.make("lmListView");
+        const auto dispatch = list.as<IDispatch>();
+        invoke(dispatch.get(), L"ColumnsAdd", DISPATCH_METHOD, {u"column"});
+        invoke(dispatch.get(), L"RowsAdd", DISPATCH_METHOD, {Long{-1}, u",", u"a"});
+        return list;
+    }
+    ComRef<IUnknown> factoryOf(const char* name) const {
+        ComRef<IUnknown> factory;
+        demand(
+            component.classObject(guidOf(name), IID_IClassFactory, reinterpret_cast<void**>(factory.out())));
+        return factory;
+    }
+
+    BoxWatch watch;
+    Component component;
+};
+
+/// The object that a late-bound call gives.
+ComRef<IUnknown> resultOf(const ComRef<IUnknown>& list,
+                          const wchar_t* name,
+                          WORD kind,
+                          const std::vector<Variant>& arguments = {}) {
+    const auto dispatch = list.as<IDispatch>();
+    std::vector<OwnedVARIANT> held;
+    std::vector<VARIANT> passed;
+    for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument) {
+        held.push_back(toVARIANT(*argument));
+        passed.push_back(held.back().get());
+    }
+    DISPPARAMS parameters{passed.data(), nullptr, static_cast<UINT>(passed.size()), 0};
+    OwnedVARIANT result;
+    demand(dispatch->Invoke(idOf(dispatch.get(), name),
+                            IID_NULL,
+                            LOCALE_USER_DEFAULT,
+                            kind,
+                            &parameters,
+                            result.out(),
+                            nullptr,
+                            nullptr));
+    if (V_VT(&result.get()) != VT_DISPATCH)
+        return {};
+    return queryFor<IUnknown>(V_DISPATCH(&result.get()));
+}
+
+struct HeldThing {
+    const char* name;
+    std::function<ComRef<IUnknown>(const ComRef<IUnknown>& list)> take;
+};
+
+const HeldThing heldThings[] = {
+    {"the control by another interface",
+     [](const ComRef<IUnknown>& list) { return ComRef<IUnknown>(list.as<IViewObject2>().get()); }},
+    {"its events' connection point",
+     [](const ComRef<IUnknown>& list) { return ComRef<IUnknown>(eventPointOf(list).get()); }},
+    {"its connection points",
+     [](const ComRef<IUnknown>& list) {
+         ComRef<IEnumConnectionPoints> points;
+         demand(list.as<IConnectionPointContainer>()->EnumConnectionPoints(points.out()));
+         return points.as<IUnknown>();
+     }},
+    {"its connections",
+     [](const ComRef<IUnknown>& list) {
+         ComRef<IEnumConnections> connections;
+         demand(eventPointOf(list)->EnumConnections(connections.out()));
+         return connections.as<IUnknown>();
+     }},
+    {"its verbs",
+     [](const ComRef<IUnknown>& list) {
+         ComRef<IEnumOLEVERB> verbs;
+         demand(list.as<IOleObject>()->EnumVerbs(verbs.out()));
+         return verbs.as<IUnknown>();
+     }},
+    {"a copy of its verbs",
+     [](const ComRef<IUnknown>& list) {
+         ComRef<IEnumOLEVERB> verbs;
+         ComRef<IEnumOLEVERB> copy;
+         demand(list.as<IOleObject>()->EnumVerbs(verbs.out()));
+         demand(verbs->Clone(copy.out()));
+         return copy.as<IUnknown>();
+     }},
+    {"its data formats",
+     [](const ComRef<IUnknown>& list) {
+         ComRef<IEnumFORMATETC> formats;
+         demand(list.as<IDataObject>()->EnumFormatEtc(DATADIR_GET, formats.out()));
+         return formats.as<IUnknown>();
+     }},
+    {"what a search found",
+     [](const ComRef<IUnknown>& list) { return resultOf(list, L"FindItem", DISPATCH_METHOD, {u"a"}); }},
+    {"one of its fonts",
+     [](const ComRef<IUnknown>& list) { return resultOf(list, L"DefaultItemFont", DISPATCH_PROPERTYGET); }}};
+
+TEST_F(Unloading, WhatOutlivesTheControlKeepsTheModule) {
+    for (const HeldThing& thing : heldThings) {
+        SCOPED_TRACE(thing.name);
+        EXPECT_TRUE(component.canUnload());
+        ComRef<IUnknown> list = makeList();
+        EXPECT_FALSE(component.canUnload());
+        ComRef<IUnknown> held = thing.take(list);
+        EXPECT_TRUE(held);
+        list = {};
+        EXPECT_FALSE(component.canUnload());
+        held = {};
+        EXPECT_TRUE(component.canUnload());
+    }
+}
+
+TEST_F(Unloading, AFontThatOutlivesItsControlCanStillBeChanged) {
+    ComRef<IUnknown> list = makeList();
+    const ComRef<IUnknown> held = resultOf(list, L"DefaultItemFont", DISPATCH_PROPERTYGET);
+    list = {};
+    const auto font = held.as<IFont>();
+    ASSERT_TRUE(font);
+    EXPECT_EQ(font->put_Bold(TRUE), S_OK);
+    BOOL bold = FALSE;
+    EXPECT_EQ(font->get_Bold(&bold), S_OK);
+    EXPECT_TRUE(bold);
+}
+
+TEST_F(Unloading, AHostsOwnFontKeepsNothing) {
+    FONTDESC description{};
+    wchar_t name[] = L"Tahoma";
+    description.cbSizeofstruct = sizeof(description);
+    description.lpstrName = name;
+    description.cySize.int64 = 100000;
+    description.sWeight = FW_NORMAL;
+    ComRef<IFont> font;
+    demand(OleCreateFontIndirect(&description, IID_IFont, reinterpret_cast<void**>(font.out())));
+    {
+        const ComRef<IUnknown> list = makeList();
+        VARIANT value;
+        V_VT(&value) = VT_DISPATCH;
+        V_DISPATCH(&value) = font.as<IDispatch>().get();
+        const auto dispatch = list.as<IDispatch>();
+        ASSERT_EQ(
+            invoke(dispatch.get(), idOf(dispatch.get(), L"DefaultItemFont"), DISPATCH_PROPERTYPUTREF, {value})
+                .result,
+            S_OK);
+        EXPECT_EQ(font->put_Italic(TRUE), S_OK);
+    }
+    EXPECT_TRUE(component.canUnload());
+    EXPECT_EQ(font->put_Bold(TRUE), S_OK);
+}
+
+TEST_F(Unloading, ASinkKeepsNothing) {
+    EventSink sink;
+    {
+        const ComRef<IUnknown> list = makeList();
+        DWORD cookie = 0;
+        ASSERT_EQ(eventPointOf(list)->Advise(&sink, &cookie), S_OK);
+        EXPECT_EQ(sink.references, 2U);
+    }
+    EXPECT_EQ(sink.references, 1U);
+    EXPECT_TRUE(component.canUnload());
+}
+
+TEST_F(Unloading, FactoriesAndHelpersKeepTheModule) {
+    for (const char* name : {"lmListView", "SpEv", "Error"}) {
+        SCOPED_TRACE(name);
+        ComRef<IUnknown> held = factoryOf(name);
+        EXPECT_FALSE(component.canUnload());
+        held = {};
+        EXPECT_TRUE(component.canUnload());
+        held = component.make(name);
+        EXPECT_FALSE(component.canUnload());
+        held = {};
+        EXPECT_TRUE(component.canUnload());
+    }
+}
+
+TEST_F(Unloading, EachLockOfTheServerNeedsItsUnlock) {
+    const auto lock = [&](BOOL on) { factoryOf("Error").as<IClassFactory>()->LockServer(on); };
+    lock(TRUE);
+    lock(TRUE);
+    lock(FALSE);
+    EXPECT_FALSE(component.canUnload());
+    lock(FALSE);
+    EXPECT_TRUE(component.canUnload());
+    lock(FALSE);
+    EXPECT_TRUE(component.canUnload()) << "one unlock too many";
+    const ComRef<IUnknown> helper = component.make("Error");
+    EXPECT_FALSE(component.canUnload()) << "and it unlocks nothing else";
+}
+
+TEST(UnloadedModule, CanBeLoadedAgain) {
+    CoInitialize(nullptr);
+    for (int times = 0; times < 2; ++times) {
+        {
+            const Component component;
+            EXPECT_TRUE(component.make("lmListView").as<IOleObject>());
+            EXPECT_TRUE(component.canUnload());
+        }
+        EXPECT_EQ(GetModuleHandleW(L"LumtexListView.ocx"), nullptr);
+    }
+    CoUninitialize();
+}
+
+} // namespace
+} // namespace lumtex::testing

@@ -1,0 +1,225 @@
+/// A host may end the control from within the control's own events.
+#include "activex/event_sink.h"
+#include "activex/small_container.h"
+
+#include <set>
+
+namespace lumtex::testing {
+namespace {
+
+/// What a host does as it hears of an event.
+enum class Ending { lastReference, closed, windowDestroyed };
+
+struct NamedEnding {
+    Ending ending;
+    const char* name;
+};
+constexpr NamedEnding endings[] = {
+    {Ending::lastReference, "lets go of the last reference"},
+    {Ending::closed, "closes the control"},
+    {Ending::windowDestroyed, "destroys the window around it"},
+};
+
+/// Events of the table by their numbers.
+const std::set<DISPID> raisedByTheStory{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 19, 20, 22, 23, 24, 25, 26};
+
+/// Dispatches messages until all timers that were started before have ticked.
+void awaitTicks() {
+    int ticks = 0;
+    const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, nullptr);
+    while (ticks < 2) {
+        MSG message{};
+        GetMessageW(&message, nullptr, 0, 0);
+        if (message.hwnd == nullptr && message.message == WM_TIMER && message.wParam == timer)
+            ++ticks;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    KillTimer(nullptr, timer);
+}
+
+/// A list in a container, and what its user and its host do with it. After the control was ended nothing more
+/// happens to it.
+class Story {
+  public:
+    Story() {
+        demand(object_->SetClientSite(&container_));
+        // As running programs do: the wheel starts with the settings.
+        MapBag settings;
+        demand(control_.as<IPersistPropertyBag>()->Load(&settings, nullptr));
+        demand(object_->DoVerb(
+            OLEIVERB_UIACTIVATE, nullptr, &container_, 0, container_.window, &container_.place));
+        demand(eventPointOf(control_)->Advise(&sink_, &cookie_));
+        let(L"BorderVisible", {false});
+        let(L"RowsDynamic", {false});
+        let(L"RowHeight", {Long{300}});
+        for (int column = 0; column < 2; ++column)
+            call(L"ColumnsAdd", {u"column", Missing{}, Missing{}, Missing{}, Long{0}, Long{900}});
+        for (int row = 0; row < 12; ++row)
+            call(L"RowsAdd", {Long{-1}, u",", u"b,a"});
+        let(L"ColumnCheckBoxes", {Long{1}, true});
+        call(L"Redraw");
+        sink_.raised.clear();
+    }
+    Story(const Story&) = delete;
+    Story& operator=(const Story&) = delete;
+    ~Story() { end(Ending::closed); }
+
+    /// The first event with this number ends the control.
+    void endAt(DISPID event, Ending ending) {
+        sink_.handlers[event] = [this, ending](auto /*arguments*/) { end(ending); };
+    }
+
+    void run() {
+        const std::function<void()> steps[] = {
+            [&] { moveTo(cellX, cellY); },
+            [&] { mouse(MOUSEEVENTF_LEFTDOWN); },
+            [&] { mouse(MOUSEEVENTF_LEFTUP); },
+            [&] { mouse(MOUSEEVENTF_LEFTDOWN); },
+            [&] { mouse(MOUSEEVENTF_LEFTUP); },
+            [&] { moveTo(markX, cellY); },
+            [&] { mouse(MOUSEEVENTF_LEFTDOWN); },
+            [&] { mouse(MOUSEEVENTF_LEFTUP); },
+            [&] { moveTo(cellX, headerY); },
+            [&] { mouse(MOUSEEVENTF_LEFTDOWN); },
+            [&] { mouse(MOUSEEVENTF_LEFTUP); },
+            [&] { mouse(MOUSEEVENTF_WHEEL, -WHEEL_DELTA); },
+            [&] { SendMessageW(window(), WM_KEYDOWN, VK_DOWN, 0); },
+            [&] { SendMessageW(window(), WM_CHAR, 'x', 0); },
+            [&] { SendMessageW(window(), WM_KEYUP, VK_DOWN, 0); },
+            [&] {
+                call(L"Sort", {Long{1}, Long{1}});
+            },
+            [&] { assignAWrongIndexThroughTheTable(); },
+            [&] { edit(); },
+        };
+        for (const auto& step : steps)
+            if (control_)
+                step();
+        if (GetAsyncKeyState(VK_LBUTTON) < 0)
+            mouse(MOUSEEVENTF_LEFTUP);
+    }
+    bool isOver() const { return !control_; }
+    ComRef<IUnknown>& control() { return control_; }
+    SmallContainer& container() { return container_; }
+    EventSink& sink() { return sink_; }
+
+  private:
+    static constexpr int cellX = 30;
+    static constexpr int cellY = 35;
+    static constexpr int markX = 8;
+    static constexpr int headerY = 12;
+
+    void end(Ending ending) {
+        if (!control_)
+            return;
+        if (ending == Ending::windowDestroyed)
+            DestroyWindow(container_.window);
+        if (ending != Ending::lastReference) {
+            object_->Close(OLECLOSE_NOSAVE);
+            object_->SetClientSite(nullptr);
+        }
+        container_.active = {};
+        object_ = {};
+        control_ = {};
+    }
+    HWND window() {
+        HWND found = nullptr;
+        demand(control_.as<IOleWindow>()->GetWindow(&found));
+        return found;
+    }
+    void moveTo(int x, int y) {
+        POINT at{x, y};
+        ClientToScreen(window(), &at);
+        SetCursorPos(at.x, at.y);
+        awaitTicks();
+    }
+    void mouse(DWORD what, int turn = 0) {
+        INPUT input{};
+        input.type = INPUT_MOUSE;
+        input.mi.dwFlags = what;
+        input.mi.mouseData = static_cast<DWORD>(turn);
+        SendInput(1, &input, sizeof(input));
+        awaitTicks();
+    }
+    void let(const wchar_t* name, const std::vector<Variant>& arguments) {
+        invoke(control_.as<IDispatch>().get(), name, DISPATCH_PROPERTYPUT, arguments);
+    }
+    Variant call(const wchar_t* name, const std::vector<Variant>& arguments = {}) {
+        return invoke(control_.as<IDispatch>().get(), name, DISPATCH_METHOD, arguments).value;
+    }
+    /// A call by the table of functions, where the system holds no reference of its own.
+    void assignAWrongIndexThroughTheTable() {
+        auto* const dispatch = control_.as<IDispatch>().get();
+        ComRef<ITypeInfo> calls;
+        demand(dispatch->GetTypeInfo(0, LOCALE_NEUTRAL, calls.out()));
+        HREFTYPE reference = 0;
+        ComRef<ITypeInfo> table;
+        demand(calls->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
+        demand(calls->GetRefTypeInfo(reference, table.out()));
+        UINT place = 0;
+        FUNCDESC* entry = nullptr;
+        demand(table.as<ITypeInfo2>()->GetFuncIndexOfMemId(
+            idOf(dispatch, L"ListIndex"), INVOKE_PROPERTYPUT, &place));
+        demand(table->GetFuncDesc(place, &entry));
+        const auto offset = static_cast<ULONG_PTR>(entry->oVft);
+        table->ReleaseFuncDesc(entry);
+        VARTYPE type = VT_I4;
+        VARIANT index;
+        V_VT(&index) = VT_I4;
+        V_I4(&index) = 77;
+        VARIANTARG* argument = &index;
+        OwnedVARIANT result;
+        demand(DispCallFunc(dispatch, offset, CC_STDCALL, VT_ERROR, 1, &type, &argument, result.out()));
+    }
+    void edit() {
+        call(L"SetEdit", {Long{1}, Long{2}});
+        HWND box =
+            toHWND(invoke(control_.as<IDispatch>().get(), L"hwndEdit", DISPATCH_PROPERTYGET).value.toLong());
+        SendMessageW(box, WM_CHAR, 'n', 0);
+        if (control_)
+            SendMessageW(box, WM_CHAR, VK_RETURN, 0);
+    }
+
+    Component component_;
+    SmallContainer container_;
+    EventSink sink_;
+    ComRef<IUnknown> control_ = component_.make("lmListView");
+    ComRef<IOleObject> object_ = control_.as<IOleObject>();
+    DWORD cookie_ = 0;
+};
+
+class EndingInEvents : public ::testing::Test {
+  protected:
+    EndingInEvents() { CoInitialize(nullptr); }
+    ~EndingInEvents() override { CoUninitialize(); }
+
+    BoxWatch watch;
+    Component component;
+};
+
+TEST_F(EndingInEvents, TheStoryRaisesAllEventsOfMouseKeysAndCalls) {
+    Story story;
+    story.run();
+    const std::set<DISPID> raised(story.sink().raised.begin(), story.sink().raised.end());
+    EXPECT_EQ(raised, raisedByTheStory);
+}
+
+TEST_F(EndingInEvents, NoHandlerDestroysWhatStillRuns) {
+    for (const NamedEnding& ending : endings)
+        for (const DISPID event : raisedByTheStory) {
+            SCOPED_TRACE(std::string("event ") + std::to_string(event) + ", the host " + ending.name);
+            {
+                Story story;
+                story.endAt(event, ending.ending);
+                story.run();
+                EXPECT_TRUE(story.isOver());
+                EXPECT_EQ(story.container().references, 1U);
+                EXPECT_EQ(story.sink().references, 1U);
+            }
+            EXPECT_TRUE(component.canUnload());
+        }
+}
+
+} // namespace
+} // namespace lumtex::testing
