@@ -51,7 +51,7 @@ target_sources(lumtex_test_mirrored PRIVATE scenarios/headless_stage.cpp scenari
 lumtex_tests(stage LINK lumtex_automation lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_stage PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)
 # There is one mouse and one keyboard.
-set_tests_properties(stage PROPERTIES RUN_SERIAL ON)
+set_tests_properties(stage win32 PROPERTIES RUN_SERIAL ON)
 lumtex_tests(activex LINK lumtex_automation lumtex_win32)
 add_dependencies(lumtex_test_activex LumtexListView)
 # Scripts find the component through the program's manifest.
@@ -67,8 +67,7 @@ set_tests_properties(samples PROPERTIES RUN_SERIAL ON)
 target_sources(lumtex_test_samples PRIVATE stage/user_input.cpp)
 add_dependencies(lumtex_test_samples LumtexListView cities)
 lumtex_tests(hosting LINK lumtex_automation lumtex_win32)
-# The mouse and the keyboard are one for all programs on the display.
-set_tests_properties(hosting PROPERTIES RUN_SERIAL TRUE)
+set_tests_properties(hosting PROPERTIES RUN_SERIAL ON)
 add_dependencies(lumtex_test_hosting LumtexListView)
 lumtex_tests(lifetime SLOW LINK lumtex_automation lumtex_win32)
 add_dependencies(lumtex_test_lifetime LumtexListView)

@@ -1,6 +1,7 @@
 /// A host may end the control from within the control's own events.
 #include "activex/event_sink.h"
 #include "activex/small_container.h"
+#include "win32/dragged_data.h"
 
 #include <set>
 
@@ -21,7 +22,8 @@ constexpr NamedEnding endings[] = {
 };
 
 /// Events of the table by their numbers.
-const std::set<DISPID> raisedByTheStory{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 19, 20, 22, 23, 24, 25, 26};
+const std::set<DISPID> raisedByTheStory{1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11,
+                                        12, 14, 15, 19, 20, 22, 23, 24, 25, 26};
 
 /// Dispatches messages until all timers that were started before have ticked.
 void awaitTicks() {
@@ -92,6 +94,7 @@ class Story {
             },
             [&] { assignAWrongIndexThroughTheTable(); },
             [&] { edit(); },
+            [&] { drop(); },
         };
         for (const auto& step : steps)
             if (control_)
@@ -172,6 +175,15 @@ class Story {
         OwnedVARIANT result;
         demand(DispCallFunc(dispatch, offset, CC_STDCALL, VT_ERROR, 1, &type, &argument, result.out()));
     }
+    void drop() {
+        DraggedData dragged;
+        DWORD effect = DROPEFFECT_COPY;
+        let(L"OLEDropMode", {Integer{1}});
+        const ComRef<IDropTarget> target = dropTargetOf(window());
+        const POINTL at{cellX, cellY};
+        target->DragEnter(&dragged, MK_LBUTTON, at, &effect);
+        target->Drop(&dragged, 0, at, &effect);
+    }
     void edit() {
         call(L"SetEdit", {Long{1}, Long{2}});
         HWND box =
@@ -191,14 +203,14 @@ class Story {
 
 class EndingInEvents : public ::testing::Test {
   protected:
-    EndingInEvents() { CoInitialize(nullptr); }
-    ~EndingInEvents() override { CoUninitialize(); }
+    EndingInEvents() { OleInitialize(nullptr); }
+    ~EndingInEvents() override { OleUninitialize(); }
 
     BoxWatch watch;
     Component component;
 };
 
-TEST_F(EndingInEvents, TheStoryRaisesAllEventsOfMouseKeysAndCalls) {
+TEST_F(EndingInEvents, TheStoryRaisesAllEventsOfMouseKeysDropsAndCalls) {
     Story story;
     story.run();
     const std::set<DISPID> raised(story.sink().raised.begin(), story.sink().raised.end());
