@@ -76,14 +76,14 @@ class ScriptHost::Site final : public IActiveScriptSite {
     }
     HRESULT STDMETHODCALLTYPE OnStateChange(SCRIPTSTATE /*state*/) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnScriptError(IActiveScriptError* error) override {
-        failure.emplace(failureFrom(*error));
+        failures.push_back(failureFrom(*error));
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE OnEnterScript() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnLeaveScript() override { return S_OK; }
 
     std::map<String, ComRef<IDispatch>> items;
-    std::optional<ScriptFailure> failure;
+    std::vector<ScriptFailure> failures;
 };
 
 ScriptHost::ScriptHost(ScriptLanguage language) : site_(std::make_unique<Site>()) {
@@ -118,14 +118,14 @@ void ScriptHost::add(StringView name, ComRef<IDispatch> object) {
 }
 
 void ScriptHost::run(StringView source) {
-    site_->failure.reset();
+    site_->failures.clear();
     EXCEPINFO details{};
     const String text(source);
     const HRESULT result = parse_->ParseScriptText(
         wide(text), nullptr, nullptr, nullptr, 0, 0, SCRIPTTEXT_ISVISIBLE, nullptr, &details);
     freeTexts(details);
-    if (site_->failure)
-        throw ScriptFailure(*site_->failure);
+    if (FAILED(result) && !site_->failures.empty())
+        throw ScriptFailure(site_->failures.back());
     demand(result);
 }
 
@@ -139,8 +139,8 @@ ObjectRef ScriptHost::object() const {
     return objectFrom(dispatch().get());
 }
 
-const std::optional<ScriptFailure>& ScriptHost::failure() const {
-    return site_->failure;
+const std::vector<ScriptFailure>& ScriptHost::failures() const {
+    return site_->failures;
 }
 
 } // namespace lumtex::testing

@@ -8,9 +8,9 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <activscp.h>
 
@@ -42,17 +42,17 @@ class ScriptHost {
     void add(StringView name, const ObjectRef& object);
     void add(StringView name, ComRef<IDispatch> object);
 
-    /// Runs what stands outside of functions. Throws ScriptFailure where that fails, and where a function
-    /// failed that an object called meanwhile.
+    /// Runs what stands outside of functions. Throws ScriptFailure where that fails.
     void run(StringView source);
 
     /// What scripts define at their outermost level. A failure inside of its functions is a RuntimeError with
-    /// SCRIPT_E_REPORTED for the caller; `failure` has the rest.
+    /// SCRIPT_E_REPORTED for the caller; `failures` has the rest.
     ObjectRef object() const;
     ComRef<IDispatch> dispatch() const;
 
-    /// The last failure since the last `run`; none where all went well.
-    const std::optional<ScriptFailure>& failure() const;
+    /// Every failure since the last `run`: the one that ended it, and those of functions that objects called,
+    /// which may have gone on.
+    const std::vector<ScriptFailure>& failures() const;
 
   private:
     class Site;

@@ -14,6 +14,8 @@ namespace lumtex::testing {
 void PrintTo(const ScriptOutcome& outcome, std::ostream* stream) {
     *stream << "status " << outcome.status << ", failure \"" << outcome.failure << "\", output:\n"
             << outcome.output;
+    for (const std::string& failure : outcome.failuresInside)
+        *stream << "inside: " << failure << '\n';
     for (const String& box : outcome.boxes)
         *stream << "box: " << toUtf8(box) << '\n';
 }
@@ -39,15 +41,21 @@ ScriptOutcome runScript(const std::filesystem::path& script, const std::vector<S
     host.add(u"WScript", console);
     const auto user = std::make_shared<ScriptUser>();
     host.add(u"User", user);
+    bool ended = false;
     try {
         host.run(scriptText(script));
     } catch (const ScriptFailure& failure) {
+        ended = true;
         // Where a script quits, it fails on purpose.
         if (!console->status) {
             outcome.failure = failure.what();
             outcome.status = 1;
         }
     }
+    for (const ScriptFailure& failure : host.failures())
+        outcome.failuresInside.emplace_back(failure.what());
+    if (ended)
+        outcome.failuresInside.pop_back();
     outcome.status = console->status.value_or(outcome.status);
     outcome.output = console->output;
     outcome.boxes = std::exchange(watch.boxes, {});

@@ -12,9 +12,10 @@
 namespace lumtex::testing {
 
 struct ScriptOutcome {
-    int status = 0;            ///< what the script gave to `WScript.Quit`; 1 where it failed
-    std::string output;        ///< UTF-8; each line with its line feed
-    std::string failure;       ///< place and text; empty where all went well
+    int status = 0;                          ///< what the script gave to `WScript.Quit`; 1 where it failed
+    std::string output;                      ///< UTF-8; each line with its line feed
+    std::string failure;                     ///< place and text; empty where all went well
+    std::vector<std::string> failuresInside; ///< of functions that an object called; a stock host tells none
     std::vector<String> boxes; ///< texts of the message boxes that came up; each was answered with OK
 };
 

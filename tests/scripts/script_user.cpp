@@ -1,6 +1,9 @@
 #include "scripts/script_user.h"
 
 #include "platform/runtime_error.h"
+#include "platform/win32/ole_picture.h"
+
+#include <olectl.h>
 
 namespace lumtex::testing {
 
@@ -10,6 +13,18 @@ namespace {
 HWND windowOf(const Variant& list, StringView property = u"hwnd") {
     const Long handle = list.toObject()->get(property).toLong();
     return reinterpret_cast<HWND>(static_cast<LONG_PTR>(handle));
+}
+
+/// As the languages' own `LoadPicture` does on systems whose languages have one.
+Variant loadPicture(const String& path) {
+    ComRef<IPictureDisp> picture;
+    demand(OleLoadPicturePath(const_cast<wchar_t*>(wide(path)),
+                              nullptr,
+                              0,
+                              0,
+                              IID_IPictureDisp,
+                              reinterpret_cast<void**>(picture.out())));
+    return pictureFrom(picture.get());
 }
 
 void dispatchAll() {
@@ -88,6 +103,8 @@ void ScriptUser::put(StringView /*name*/, const Variant& /*value*/) {
 }
 
 Variant ScriptUser::call(StringView name, std::span<Variant> arguments) {
+    if (sameName(name, u"LoadPicture") && arguments.size() == 1)
+        return loadPicture(arguments[0].toText());
     const auto code = [&] { return static_cast<WPARAM>(arguments[1].toLong()); };
     if (sameName(name, u"Show") && arguments.size() == 1)
         show(arguments[0]);

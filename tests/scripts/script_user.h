@@ -11,7 +11,7 @@ namespace lumtex::testing {
 
 /// `Show list` puts a list into a window. `KeyDown list, code` and `KeyPress list, code` go to it,
 /// `EditorKeyPress list, code` to its editor. `Click list, x, y` moves the real mouse, in pixels of the list,
-/// and needs the display for itself.
+/// and needs the display for itself. `LoadPicture(path)` reads a picture file.
 class ScriptUser final : public Object {
   public:
     ~ScriptUser() override;

@@ -1,11 +1,13 @@
 /// Scripts as application developers write them, in a host with events and in the system's own.
 #include "folders.h"
+#include "platform/win32/windows_api.h"
 #include "scratch_folder.h"
 #include "scripts/script_run.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <set>
 
 namespace lumtex::testing {
 namespace {
@@ -16,7 +18,13 @@ namespace fs = std::filesystem;
 const std::map<std::string, std::string> onlyInOurHost = {
     {"events.vbs", "it connects no events"},
     {"events.js", "it connects no events"},
+    {"pictures.vbs", "its VBScript has no LoadPicture"},
+    {"pictures.js", "JScript has no LoadPicture"},
 };
+
+/// Whose functions fail on purpose, called by the component, which goes on. JScript also calls it a failure
+/// that a plain property cannot be called.
+const std::set<std::string> failingInside = {"recordset.vbs", "recordset.js"};
 
 fs::path storyFolder() {
     return fs::path(testFolder()) / "scripts" / "stories";
@@ -51,6 +59,18 @@ std::string nameOf(const ::testing::TestParamInfo<fs::path>& info) {
 /// the scripts, and that run still fails.
 class Story : public ::testing::TestWithParam<fs::path> {
   protected:
+    Story() { folder.write("flag.bmp", twoPixels()); }
+
+    /// A picture file: a blue pixel and a red one.
+    static std::string twoPixels() {
+        const BITMAPFILEHEADER file{0x4D42, 62, 0, 0, 54};
+        const BITMAPINFOHEADER info{sizeof(info), 2, 1, 1, 24, BI_RGB, 8, 0, 0, 0, 0};
+        const char pixels[8] = {'\xFF', 0, 0, 0, 0, '\xFF', 0, 0};
+        return std::string(reinterpret_cast<const char*>(&file), sizeof(file)) +
+               std::string(reinterpret_cast<const char*>(&info), sizeof(info)) +
+               std::string(pixels, sizeof(pixels));
+    }
+
     void expectAsWritten(const ScriptOutcome& outcome) {
         fs::path expected = GetParam();
         expected += ".txt";
@@ -71,7 +91,10 @@ class Story : public ::testing::TestWithParam<fs::path> {
 };
 
 TEST_P(Story, RunsInAHostWithEvents) {
-    expectAsWritten(runScript(GetParam(), arguments));
+    const ScriptOutcome outcome = runScript(GetParam(), arguments);
+    expectAsWritten(outcome);
+    EXPECT_EQ(outcome.failuresInside.empty(), !failingInside.contains(GetParam().filename().string()))
+        << ::testing::PrintToString(outcome);
 }
 
 TEST_P(Story, RunsInTheSystemsOwnHost) {
