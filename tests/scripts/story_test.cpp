@@ -2,6 +2,7 @@
 #include "folders.h"
 #include "platform/win32/windows_api.h"
 #include "scratch_folder.h"
+#include "scripts/ado_type_library.h"
 #include "scripts/script_run.h"
 
 #include <algorithm>
@@ -59,7 +60,11 @@ std::string nameOf(const ::testing::TestParamInfo<fs::path>& info) {
 /// the scripts, and that run still fails.
 class Story : public ::testing::TestWithParam<fs::path> {
   protected:
-    Story() { folder.write("flag.bmp", twoPixels()); }
+    Story() {
+        folder.write("flag.bmp", twoPixels());
+        if (GetParam().stem() == "adodb")
+            library = std::make_unique<AdoTypeLibrary>();
+    }
 
     /// A picture file: a blue pixel and a red one.
     static std::string twoPixels() {
@@ -86,6 +91,7 @@ class Story : public ::testing::TestWithParam<fs::path> {
         EXPECT_NE(outcome.output.find("done\n"), std::string::npos);
     }
 
+    std::unique_ptr<AdoTypeLibrary> library;
     ScratchFolder folder;
     std::vector<String> arguments{fromUtf8(folder.path.string())};
 };
