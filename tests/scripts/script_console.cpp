@@ -11,22 +11,44 @@ namespace {
 /// A number that no other failure has.
 constexpr Long scriptHasQuit = 1000;
 
+/// What a script was given, as a collection.
+class Arguments final : public Object {
+  public:
+    explicit Arguments(std::vector<String> texts) : texts_(std::move(texts)) {}
+
+    Variant get(StringView name, std::span<Variant> arguments) override {
+        if (sameName(name, u"Count") && arguments.empty())
+            return static_cast<Long>(texts_.size());
+        if (!sameName(name, u"Item") || arguments.size() != 1)
+            throw RuntimeError(objectDoesNotSupportMember);
+        const auto place = static_cast<std::size_t>(arguments[0].toLong());
+        if (place >= texts_.size())
+            throw RuntimeError(subscriptOutOfRange);
+        return texts_[place];
+    }
+    void put(StringView /*name*/, const Variant& /*value*/) override {
+        throw RuntimeError(objectDoesNotSupportMember);
+    }
+    Variant call(StringView name, std::span<Variant> arguments) override { return get(name, arguments); }
+
+  private:
+    std::vector<String> texts_;
+};
+
 } // namespace
 
-ScriptConsole::ScriptConsole(const ScriptHost& host, std::vector<String> arguments)
-    : host_(host), arguments_(std::move(arguments)) {}
+ScriptConsole::ScriptConsole(const ScriptHost& host, String scriptPath, std::vector<String> arguments)
+    : host_(host), scriptPath_(std::move(scriptPath)),
+      arguments_(std::make_shared<Arguments>(std::move(arguments))) {}
 
 ScriptConsole::~ScriptConsole() = default;
 
 Variant ScriptConsole::get(StringView name, std::span<Variant> arguments) {
+    if (sameName(name, u"ScriptFullName"))
+        return scriptPath_;
     if (!sameName(name, u"Arguments"))
         throw RuntimeError(objectDoesNotSupportMember);
-    if (arguments.size() != 1)
-        throw RuntimeError(wrongNumberOfArguments);
-    const auto place = static_cast<std::size_t>(arguments[0].toLong());
-    if (place >= arguments_.size())
-        throw RuntimeError(subscriptOutOfRange);
-    return arguments_[place];
+    return arguments.empty() ? Variant(arguments_) : arguments_->get(u"Item", arguments);
 }
 
 void ScriptConsole::put(StringView /*name*/, const Variant& /*value*/) {

@@ -14,10 +14,10 @@ namespace lumtex::testing {
 class ScriptConsole final : public Object {
   public:
     /// `host` must outlive this.
-    ScriptConsole(const ScriptHost& host, std::vector<String> arguments);
+    ScriptConsole(const ScriptHost& host, String scriptPath, std::vector<String> arguments);
     ~ScriptConsole() override;
 
-    /// `Arguments` gives the argument that stands in brackets, counted from 0.
+    /// `ScriptFullName`, and `Arguments`: the one that stands in brackets, counted from 0, or the collection.
     Variant get(StringView name, std::span<Variant> arguments) override;
     void put(StringView name, const Variant& value) override;
     /// `Echo` prints its arguments with a blank between them. `Quit` keeps its argument as the status and
@@ -34,7 +34,8 @@ class ScriptConsole final : public Object {
 
   private:
     const ScriptHost& host_;
-    std::vector<String> arguments_;
+    String scriptPath_;
+    ObjectRef arguments_;
     std::vector<std::unique_ptr<ScriptEvents>> connections_;
 };
 

@@ -20,6 +20,10 @@ void PrintTo(const ScriptOutcome& outcome, std::ostream* stream) {
         *stream << "box: " << toUtf8(box) << '\n';
 }
 
+String windowsPath(const std::filesystem::path& path) {
+    return String(textOf(std::filesystem::path(path).make_preferred().c_str()));
+}
+
 ScriptLanguage languageOf(const std::filesystem::path& script) {
     return script.extension() == ".js" ? ScriptLanguage::jScript : ScriptLanguage::vbScript;
 }
@@ -37,7 +41,7 @@ ScriptOutcome runScript(const std::filesystem::path& script, const std::vector<S
     // Boxes lie in the window of the program: one that lies in none takes the system two seconds to show.
     SetForegroundWindow(programWindow());
     ScriptHost host(languageOf(script));
-    const auto console = std::make_shared<ScriptConsole>(host, arguments);
+    const auto console = std::make_shared<ScriptConsole>(host, windowsPath(script), arguments);
     host.add(u"WScript", console);
     const auto user = std::make_shared<ScriptUser>();
     host.add(u"User", user);

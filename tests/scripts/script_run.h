@@ -21,6 +21,9 @@ struct ScriptOutcome {
 
 void PrintTo(const ScriptOutcome& outcome, std::ostream* stream);
 
+/// With the separators that the system shows.
+String windowsPath(const std::filesystem::path& path);
+
 /// By the end of the file's name: ".vbs" or ".js".
 ScriptLanguage languageOf(const std::filesystem::path& script);
 
@@ -31,7 +34,8 @@ String scriptText(const std::filesystem::path& script);
 ScriptOutcome runScript(const std::filesystem::path& script, const std::vector<String>& arguments = {});
 
 /// Runs it in the host that comes with the system, as a process of its own that finds the component by its
-/// manifest. A failure is no failure for that host: the script just ends.
+/// manifest. A failure is no failure for that host: the script just ends. It reads the code page of the
+/// system alone, so a script that holds more than ASCII is converted, and runs from another place.
 ScriptOutcome runInStockHost(const std::filesystem::path& script, const std::vector<String>& arguments = {});
 
 } // namespace lumtex::testing

@@ -4,6 +4,7 @@
 #include "scripts/script_run.h"
 #include "windows/box_watch.h"
 
+#include <algorithm>
 #include <fstream>
 
 namespace lumtex::testing {
@@ -90,6 +91,10 @@ class OutputFile {
     HANDLE handle_;
 };
 
+bool isAscii(StringView text) {
+    return std::ranges::all_of(text, [](char16_t unit) { return unit < 0x80; });
+}
+
 /// Answers the boxes of another process.
 struct BoxesOf {
     DWORD process;
@@ -115,12 +120,14 @@ struct BoxesOf {
 
 ScriptOutcome runInStockHost(const fs::path& script, const std::vector<String>& arguments) {
     static const HostFolder folder;
-    // It reads the code page of the system alone.
-    const fs::path copy = folder.path / script.filename();
-    std::ofstream(copy, std::ios::binary) << ansiFrom(scriptText(script));
+    fs::path readable = script;
+    if (const String text = scriptText(script); !isAscii(text)) {
+        readable = folder.path / script.filename();
+        std::ofstream(readable, std::ios::binary) << ansiFrom(text);
+    }
 
-    String line = u"\"" + fromUtf8((folder.path / "cscript.exe").string()) + u"\" //nologo \"" +
-                  fromUtf8(copy.string()) + u"\"";
+    String line =
+        u"\"" + windowsPath(folder.path / "cscript.exe") + u"\" //nologo \"" + windowsPath(readable) + u"\"";
     for (const String& argument : arguments)
         line += u" \"" + argument + u"\"";
 
