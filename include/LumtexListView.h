@@ -676,32 +676,59 @@ struct _Error : IDispatch {
 /// The events of lmListView by their dispatch numbers.
 namespace events {
 
+/// The list was clicked, or, with ClickOnIndexChange, its current row changed.
 inline constexpr DISPID Click = 1; // ()
+/// The list was clicked twice. ItemDblClick follows where a cell was pressed before.
 inline constexpr DISPID DblClick = 2; // ()
+/// A press is about to change a check mark. Cancel keeps it.
 inline constexpr DISPID ItemCheck = 3; // (long Row, long Column, VARIANT_BOOL NewValue, VARIANT_BOOL* Cancel)
+/// A press has changed a check mark.
 inline constexpr DISPID ItemChecked = 4; // (long Row, long Column, VARIANT_BOOL NewValue)
+/// A mouse button was let go. The position is in pixels.
 inline constexpr DISPID MouseUp = 5; // (short* Button, short* Shift, float* X, float* Y)
+/// The mouse moved over the list, or with a button held anywhere. The position is in pixels.
 inline constexpr DISPID MouseMove = 6; // (short* Button, short* Shift, float* X, float* Y)
+/// A mouse button was pressed; ItemDown came before. The position is in pixels.
 inline constexpr DISPID MouseDown = 7; // (short* Button, short* Shift, float* X, float* Y)
+/// A header was clicked. Where the column allows it, a sort as text follows.
 inline constexpr DISPID ColumnClick = 8; // (long* Column)
+/// The list was scrolled up or down by hand. Scrolling sideways is not told.
 inline constexpr DISPID Scroll = 9; // ()
+/// A key went down.
 inline constexpr DISPID KeyDown = 10; // (short* KeyCode, short* Shift)
+/// A key gave a character.
 inline constexpr DISPID KeyPress = 11; // (short* KeyAscii)
+/// A key was let go.
 inline constexpr DISPID KeyUp = 12; // (short* KeyCode, short* Shift)
+/// A drag that began here has ended.
 inline constexpr DISPID OLECompleteDrag = 13; // (long* Effect)
+/// Something was dropped on the list. Effect answers what became of it.
 inline constexpr DISPID OLEDragDrop = 14; // (IDispatch** Data, long* Effect, short* Button, short* Shift, float* X, float* Y)
+/// Something is dragged over the list: State 0 enters, 1 leaves, 2 moves. Effect answers what a drop would do.
 inline constexpr DISPID OLEDragOver = 15; // (IDispatch** Data, long* Effect, short* Button, short* Shift, float* X, float* Y, short* State)
+/// A drag that began here asks for its pointer.
 inline constexpr DISPID OLEGiveFeedback = 16; // (long* Effect, VARIANT_BOOL* DefaultCursors)
+/// A drag that began here asks for data that were promised.
 inline constexpr DISPID OLESetData = 17; // (IDispatch** Data, short* DataFormat)
+/// A drag begins here. With OLEDragMode 2 it allows copying and moving.
 inline constexpr DISPID OLEStartDrag = 18; // (IDispatch** Data, long* AllowedEffects)
+/// A row number was refused.
 inline constexpr DISPID ErrorWrongIndex = 19; // (VARIANT* Index)
+/// A sort has ended.
 inline constexpr DISPID SortDone = 20; // ()
+/// A paint or an embedded object failed. Other failures are reported.
 inline constexpr DISPID ListViewError = 21; // (BSTR eSub, long eNumber, BSTR eDescription)
+/// A cell was pressed and let go.
 inline constexpr DISPID ItemClick = 22; // (long Row, long Column)
+/// The cell pressed last was clicked twice. The editor follows where the cell allows it.
 inline constexpr DISPID ItemDblClick = 23; // (long Row, long Column)
+/// A cell was pressed.
 inline constexpr DISPID ItemDown = 24; // (long Row, long Column)
+/// A button was let go over a cell, the pressed one or another.
 inline constexpr DISPID ItemUp = 25; // (long Row, long Column)
+/// The editor has written into a cell, even the same text.
 inline constexpr DISPID ItemChanged = 26; // (long Row, long Column, BSTR NewValue)
+/// Never raised.
 inline constexpr DISPID ItemOver = 27; // (long Row, long Column, VARIANT_BOOL bOverItem)
 
 } // namespace events

@@ -65,8 +65,8 @@ std::string eventText(const EventDescription& event, int number) {
     for (const EventArgument& argument : event.arguments())
         arguments += (arguments.empty() ? "" : ", ") + interfaceType(argument.type) +
                      (argument.byReference ? "* " : " ") + toUtf8(argument.name);
-    return "inline constexpr DISPID " + toUtf8(event.name) + " = " + std::to_string(number) + "; // (" +
-           arguments + ")\n";
+    return commentText("", event.help) + "inline constexpr DISPID " + toUtf8(event.name) + " = " +
+           std::to_string(number) + "; // (" + arguments + ")\n";
 }
 
 } // namespace

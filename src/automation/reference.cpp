@@ -149,7 +149,7 @@ std::string eventsPage() {
     std::string text =
         "# Events\n\nIn the order of their interface. Rows and columns count from 1, positions are pixels.\n";
     for (const EventDescription& event : eventTable) {
-        text += "\n## " + toUtf8(event.name) + "\n\n";
+        text += "\n## " + toUtf8(event.name) + "\n\n" + toUtf8(event.help) + "\n\n";
         if (event.count == 0)
             text += "No arguments.\n";
         else

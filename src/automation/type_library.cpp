@@ -105,7 +105,8 @@ std::string eventsText() {
                        "    properties:\n    methods:\n";
     int number = 0;
     for (const EventDescription& event : eventTable) {
-        text += "        [id(" + std::to_string(++number) + ")] void " + toUtf8(event.name) + "(";
+        text += "        [id(" + std::to_string(++number) + "), helpstring(" + quoted(event.help) +
+                ")] void " + toUtf8(event.name) + "(";
         const char* separator = "";
         for (const EventArgument& argument : event.arguments()) {
             text += std::string(separator) + (argument.byReference ? "[in, out] " : "[in] ") +

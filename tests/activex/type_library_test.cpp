@@ -19,6 +19,14 @@ String nameOf(ITypeInfo* info, MEMBERID member) {
     return text;
 }
 
+String helpOf(ITypeInfo* info, MEMBERID member) {
+    BSTR help = nullptr;
+    demand(info->GetDocumentation(member, nullptr, &help, nullptr, nullptr));
+    String text(viewBSTR(help));
+    SysFreeString(help);
+    return text;
+}
+
 class TypeLibrary : public ListFixture {
   protected:
     TypeLibrary() {
@@ -131,8 +139,10 @@ TEST_F(TypeLibrary, EachEnumerationHasItsMembersAndNumbers) {
 TEST_F(TypeLibrary, TheEventsStandInTheirOrder) {
     const ComRef<ITypeInfo> info = type("__lmListView");
     MEMBERID number = 0;
-    for (const EventDescription& event : eventTable)
+    for (const EventDescription& event : eventTable) {
         EXPECT_EQ(nameOf(info.get(), ++number), event.name);
+        EXPECT_EQ(helpOf(info.get(), number), event.help);
+    }
 }
 
 TEST_F(TypeLibrary, TheRecordHasItsFields) {
