@@ -6,25 +6,23 @@
 namespace lumtex::testing {
 namespace {
 
+struct Job {
+    DWORD apartment;
+    const std::function<void()>& work;
+};
+
+DWORD WINAPI run(void* argument) {
+    const Job& job = *static_cast<const Job*>(argument);
+    CoInitializeEx(nullptr, job.apartment);
+    job.work();
+    CoUninitialize();
+    return 0;
+}
+
 /// Runs `work` on a thread of its own while this one goes on with its messages.
 void elsewhere(DWORD apartment, const std::function<void()>& work) {
-    struct Job {
-        DWORD apartment;
-        const std::function<void()>& work;
-    } job{apartment, work};
-    HANDLE thread = CreateThread(
-        nullptr,
-        0,
-        [](void* argument) -> DWORD {
-            const Job& given = *static_cast<const Job*>(argument);
-            CoInitializeEx(nullptr, given.apartment);
-            given.work();
-            CoUninitialize();
-            return 0;
-        },
-        &job,
-        0,
-        nullptr);
+    Job job{apartment, work};
+    HANDLE thread = CreateThread(nullptr, 0, run, &job, 0, nullptr);
     ASSERT_NE(thread, nullptr);
     while (MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) {
         MSG message{};

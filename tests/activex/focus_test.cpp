@@ -218,14 +218,16 @@ TEST_F(Focus, AYieldOfOneListAsksTheContainerOfTheOtherOne) {
     EXPECT_TRUE(sink.raised.empty());
 }
 
+void CALLBACK closeWhatOpened(HWND /*none*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
+    HWND active = GetActiveWindow();
+    if (active != nullptr && active != programWindow())
+        PostMessageW(active, WM_CLOSE, 0, 0);
+}
+
 TEST_F(Focus, TheContainersWindowsWaitForAFormOfTheList) {
     place(OLEIVERB_UIACTIVATE);
     // Whatever opens is closed at once.
-    const UINT_PTR timer = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR, DWORD) {
-        HWND active = GetActiveWindow();
-        if (active != nullptr && active != programWindow())
-            PostMessageW(active, WM_CLOSE, 0, 0);
-    });
+    const UINT_PTR timer = SetTimer(nullptr, 0, 10, closeWhatOpened);
     call(L"About");
     KillTimer(nullptr, timer);
     EXPECT_EQ(container.modeless, (std::vector<bool>{false, true}));
