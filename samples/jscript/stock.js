@@ -2,8 +2,9 @@
 //
 //   cscript //nologo stock.js [FOLDER]
 var lowestStock = 10;
+var temporaryFolder = 2;
 
-var folder = new ActiveXObject("WScript.Shell").ExpandEnvironmentStrings("%TEMP%");
+var folder = new ActiveXObject("Scripting.FileSystemObject").GetSpecialFolder(temporaryFolder).Path;
 if (WScript.Arguments.Count() > 0)
     folder = WScript.Arguments(0);
 

@@ -4,9 +4,10 @@
 Option Explicit
 
 Const lowestStock = 10
+Const temporaryFolder = 2
 
 Dim folder, helper, list, copy, row
-folder = CreateObject("WScript.Shell").ExpandEnvironmentStrings("%TEMP%")
+folder = CreateObject("Scripting.FileSystemObject").GetSpecialFolder(temporaryFolder).Path
 If WScript.Arguments.Count > 0 Then folder = WScript.Arguments(0)
 
 Set list = NewList
