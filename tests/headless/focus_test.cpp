@@ -21,17 +21,19 @@ TEST_F(FocusRules, APressGivesItBeforeThePressIsTold) {
         {"a.MouseMove Button=0 Shift=0 X=1 Y=1", "a.GotFocus", "a.MouseDown Button=1 Shift=0 X=1 Y=1"}));
 }
 
-TEST_F(FocusRules, APressOnAWindowLeavesItWithTheChildThatHasIt) {
+TEST_F(FocusRules, APressOnAWindowTakesItFromTheChildThatHasIt) {
     const auto b = child("b", *a, 50, 0, 50, 80);
     b->window().setFocus();
     events.clear();
     desktop.click(a->window(), 10, 10);
     EXPECT_TRUE(sameLog(events.take(),
                         {"a.MouseMove Button=0 Shift=0 X=10 Y=10",
+                         "b.LostFocus",
+                         "a.GotFocus",
                          "a.MouseDown Button=1 Shift=0 X=10 Y=10",
                          "a.MouseUp Button=1 Shift=0 X=10 Y=10",
                          "a.Click"}));
-    EXPECT_EQ(desktop.focused(), b->window().hWnd());
+    EXPECT_EQ(desktop.focused(), a->window().hWnd());
 }
 
 TEST_F(FocusRules, APressOnAChildTakesItFromTheParent) {

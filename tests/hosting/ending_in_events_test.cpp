@@ -1,6 +1,7 @@
 /// A host may end the control from within the control's own events.
 #include "activex/event_sink.h"
 #include "activex/small_container.h"
+#include "message_loop.h"
 #include "win32/dragged_data.h"
 
 #include <set>
@@ -24,21 +25,6 @@ constexpr NamedEnding endings[] = {
 /// Events of the table by their numbers.
 const std::set<DISPID> raisedByTheStory{1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11,
                                         12, 14, 15, 19, 20, 22, 23, 24, 25, 26};
-
-/// Dispatches messages until all timers that were started before have ticked.
-void awaitTicks() {
-    int ticks = 0;
-    const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, nullptr);
-    while (ticks < 2) {
-        MSG message{};
-        GetMessageW(&message, nullptr, 0, 0);
-        if (message.hwnd == nullptr && message.message == WM_TIMER && message.wParam == timer)
-            ++ticks;
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
-    KillTimer(nullptr, timer);
-}
 
 /// A list in a container, and what its user and its host do with it. After the control was ended nothing more
 /// happens to it.
@@ -135,7 +121,7 @@ class Story {
         POINT at{x, y};
         ClientToScreen(window(), &at);
         SetCursorPos(at.x, at.y);
-        awaitTicks();
+        letMessagesThrough();
     }
     void mouse(DWORD what, int turn = 0) {
         INPUT input{};
@@ -143,7 +129,7 @@ class Story {
         input.mi.dwFlags = what;
         input.mi.mouseData = static_cast<DWORD>(turn);
         SendInput(1, &input, sizeof(input));
-        awaitTicks();
+        letMessagesThrough();
     }
     void let(const wchar_t* name, const std::vector<Variant>& arguments) {
         invoke(control_.as<IDispatch>().get(), name, DISPATCH_PROPERTYPUT, arguments);

@@ -296,6 +296,21 @@ TEST_F(Win32Windows, HidingABoxPassesOnItsFocusAndDestroyingItTellsNobody) {
     EXPECT_EQ(take(), Lines{});
 }
 
+TEST_F(Win32Windows, APressTakesTheFocusFromAWindowInItButNotFromABox) {
+    NotedBox client;
+    const std::unique_ptr<TextBox> box = world.createTextBox(*outer, client);
+    box->letVisible(true);
+    inner->setFocus();
+    send(*outer, WM_LBUTTONDOWN, MK_LBUTTON, 5, 5);
+    send(*outer, WM_LBUTTONUP, 0, 5, 5);
+    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd()));
+    box->setFocus();
+    send(*outer, WM_LBUTTONDOWN, MK_LBUTTON, 5, 5);
+    send(*outer, WM_LBUTTONUP, 0, 5, 5);
+    EXPECT_EQ(GetFocus(), toHWND(box->hWnd()));
+    take();
+}
+
 TEST_F(Win32Windows, TimersTickUntilTheyAreOff) {
     int ticks = 0;
     std::unique_ptr<Timer> timer;

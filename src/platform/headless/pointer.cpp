@@ -1,5 +1,7 @@
 #include "platform/headless/pointer.h"
 
+#include "platform/headless/headless_window.h"
+
 #include <utility>
 
 namespace lumtex {
@@ -45,10 +47,12 @@ Pane* Pointer::pressTarget(const Event& event) {
         return nullptr;
     const WindowHandle handle = target->handle();
     captured_ = handle;
-    // A window whose child has the focus does not take it away: an open editor stays open until the window
-    // has decided what to do with it.
+    // A window does not take the focus away from a box in it: an open editor stays open until the window has
+    // decided what to do with it. Bars have no use for keys.
     const Pane* held = focus_.holder();
-    if (held == nullptr || !held->isWithin(*target))
+    const bool isBoxOfTarget =
+        held != nullptr && held->isWithin(*target) && dynamic_cast<const HeadlessWindow*>(held) == nullptr;
+    if (!isBoxOfTarget)
         focus_.moveTo(*target);
     target = tree_.find(handle);
     return target != nullptr && target->takesInput() ? target : nullptr;

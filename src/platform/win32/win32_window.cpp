@@ -121,7 +121,7 @@ void Win32Window::place(Single left, Single top, Single width, Single height) {
                      SWP_NOZORDER | SWP_NOACTIVATE);
         placing_ = false;
         if (resized)
-            present();
+            invalidate();
     }
     if (resized)
         client_.UserControl_Resize();
@@ -253,10 +253,14 @@ bool Win32Window::adopt(WindowHandle child) {
     return SetParent(window, hwnd_) != nullptr;
 }
 
-void Win32Window::present() {
+void Win32Window::invalidate() {
     // The system asks for all of a window when it is shown.
     if (hwnd_ != nullptr && isShown())
         InvalidateRect(hwnd_, nullptr, FALSE);
+}
+
+void Win32Window::present() {
+    invalidate();
     if (world_.onPresent)
         world_.onPresent();
 }

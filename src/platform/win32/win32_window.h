@@ -100,6 +100,8 @@ class Win32Window final : public Window {
     void showPointer() const;
     /// Visible, and so is every window of ours that it lies in.
     bool isShown() const;
+    /// Has the system ask for the picture anew.
+    void invalidate();
     /// `at` is on the window, and no window of ours around it cuts it off there.
     bool covers(POINT at) const;
     void detach();

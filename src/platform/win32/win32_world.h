@@ -23,7 +23,7 @@ struct WindowMessage {
 /// Belongs to the thread that makes it, as do all things made by it.
 ///
 /// Press, focus, capture and click follow one another as on the simulated desktop: a press takes the capture,
-/// then the focus unless a child has it; the release of the last button gives up the capture before it is
+/// then the focus unless a box in it has it; the release of the last button gives up the capture before it is
 /// told.
 class Win32World final : public World {
   public:

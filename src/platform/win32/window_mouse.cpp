@@ -59,10 +59,11 @@ Win32Window::Answer Win32Window::pressed(MouseButton button, bool isSecond, cons
     if (isSecond)
         world.press = {};
     ::SetCapture(window);
-    // A window whose child has the focus does not take it away: an open editor stays open until the control
-    // has decided what to do with it.
+    // A window does not take the focus away from a box in it: an open editor stays open until the control has
+    // decided what to do with it. Bars have no use for keys.
     HWND focus = GetFocus();
-    if (focus != window && !IsChild(window, focus))
+    const bool isBoxOfOurs = IsChild(window, focus) && of(focus) == nullptr;
+    if (!isBoxOfOurs)
         setFocus();
     if (of(window) != this || !takesInput())
         return 0;
