@@ -8,9 +8,10 @@
 
 namespace lumtex::testing {
 
-/// While one lives, this program has "Verdana": DejaVu Sans with its heights rounded up at the size that the
-/// list begins with, as the software surface rounds them, and with letters of one colour. So lists are laid
-/// out alike everywhere, and look alike on all surfaces of this program.
+/// Must come before the first text is drawn. While one lives, this program has "Verdana": DejaVu Sans with
+/// its heights rounded up at the size that the list begins with, as the software surface rounds them, and
+/// with letters of one colour. So lists are laid out alike everywhere, and look alike on all surfaces of this
+/// program.
 ///
 /// Throws std::runtime_error where the font cannot be had.
 class ReferenceFonts {

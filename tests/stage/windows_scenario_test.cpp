@@ -2,11 +2,9 @@
 /// the script says, and after each step the screen shows what the simulated desktop shows.
 #include "list_fixture.h"
 #include "log_comparison.h"
-#include "reference_fonts.h"
 #include "scenarios/headless_stage.h"
 #include "scenarios/player.h"
 #include "scenarios/script_files.h"
-#include "win32/same_system_colors.h"
 #include "win32/surface_pair.h"
 #include "windows_stage.h"
 
@@ -14,21 +12,7 @@ namespace lumtex::testing {
 
 namespace {
 
-class WindowsScenario : public ::testing::TestWithParam<std::filesystem::path> {
-  protected:
-    static void SetUpTestSuite() {
-        fonts_ = std::make_unique<ReferenceFonts>();
-        colors_ = std::make_unique<SameSystemColors>();
-    }
-    static void TearDownTestSuite() {
-        colors_.reset();
-        fonts_.reset();
-    }
-
-  private:
-    static inline std::unique_ptr<ReferenceFonts> fonts_;
-    static inline std::unique_ptr<SameSystemColors> colors_;
-};
+class WindowsScenario : public ::testing::TestWithParam<std::filesystem::path> {};
 
 /// The open editor is a box of the system, of which only the place is ours: it is left black.
 Bitmap pictureOf(Stage& stage) {

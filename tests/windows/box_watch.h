@@ -5,6 +5,7 @@
 #include "platform/text.h"
 #include "platform/win32/windows_api.h"
 
+#include <functional>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -48,7 +49,8 @@ class BoxWatch {
             ADD_FAILURE() << "nobody expected this box:\n" << toUtf8(box);
     }
 
-    std::vector<String> boxes; ///< texts, in the order in which they showed
+    std::vector<String> boxes;                                 ///< texts, in the order in which they showed
+    std::function<void(HWND)> whileOpen = [](HWND /*box*/) {}; ///< before it is dismissed
 
   private:
     static LRESULT CALLBACK onWindow(int code, WPARAM wParam, LPARAM lParam) noexcept {
@@ -70,6 +72,7 @@ class BoxWatch {
         if (current_ == nullptr || current_->shown_ == nullptr)
             return;
         current_->boxes.push_back(textOfBox(current_->shown_));
+        current_->whileOpen(current_->shown_);
         PostMessageW(current_->shown_, WM_COMMAND, IDOK, 0);
     }
 
