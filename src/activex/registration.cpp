@@ -155,6 +155,33 @@ HRESULT write(HKEY hive, const Entry& entry) {
     return status == ERROR_SUCCESS ? S_OK : SELFREG_E_CLASS;
 }
 
+/// Keys that hold those of all components; a user may have none of them.
+constexpr StringView sharedKeys[] = {u"CLSID", u"Interface", u"TypeLib"};
+
+/// A key with neither keys nor values in it. It may have been there before, and nobody misses it.
+void removeIfEmpty(HKEY hive, const String& key) {
+    HKEY opened = nullptr;
+    if (RegOpenKeyExW(hive, wide(key), 0, KEY_READ, &opened) != ERROR_SUCCESS)
+        return;
+    DWORD keys = 1;
+    DWORD values = 1;
+    RegQueryInfoKeyW(opened,
+                     nullptr,
+                     nullptr,
+                     nullptr,
+                     &keys,
+                     nullptr,
+                     nullptr,
+                     &values,
+                     nullptr,
+                     nullptr,
+                     nullptr,
+                     nullptr);
+    RegCloseKey(opened);
+    if (keys == 0 && values == 0)
+        RegDeleteKeyW(hive, wide(key));
+}
+
 HRESULT removeTree(HKEY hive, const String& key) {
     const LSTATUS status = RegDeleteTreeW(hive, wide(classesKey + key));
     return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND ? S_OK : SELFREG_E_CLASS;
@@ -193,6 +220,8 @@ HRESULT unregisterComponent(Registry registry) noexcept {
         if (RegDeleteKeyW(hive, wide(classesKey + filesKey())) == ERROR_SUCCESS)
             if (const HRESULT removed = removeTree(hive, libraryKey()); FAILED(removed))
                 result = removed;
+        for (const StringView shared : sharedKeys)
+            removeIfEmpty(hive, classesKey + String(shared));
         return result;
     });
 }

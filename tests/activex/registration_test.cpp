@@ -42,23 +42,41 @@ void collect(HKEY parent, const String& path, std::set<String>& lines) {
     }
 }
 
-std::set<String> userClasses() {
+std::set<String> classesOf(HKEY hive) {
     std::set<String> lines;
-    collect(HKEY_CURRENT_USER, String(textOf(classesKey)), lines);
+    collect(hive, String(textOf(classesKey)), lines);
     return lines;
 }
+std::set<String> userClasses() {
+    return classesOf(HKEY_CURRENT_USER);
+}
+
+/// A key that the system forgets, and under which it lets nobody make keys that it keeps.
+class VolatileKey {
+  public:
+    VolatileKey(HKEY hive, const String& path) : hive_(hive), path_(path) {
+        HKEY key = nullptr;
+        if (RegCreateKeyExW(
+                hive, wide(path), 0, nullptr, REG_OPTION_VOLATILE, KEY_WRITE, nullptr, &key, nullptr) ==
+            ERROR_SUCCESS)
+            RegCloseKey(key);
+    }
+    VolatileKey(const VolatileKey&) = delete;
+    VolatileKey& operator=(const VolatileKey&) = delete;
+    ~VolatileKey() { RegDeleteKeyW(hive_, wide(path_)); }
+
+  private:
+    HKEY hive_;
+    String path_;
+};
 
 class Registration : public ::testing::Test {
   protected:
     Registration() {
         CoInitialize(nullptr);
-        // The tree that all entries lie in is there before, so that it is there afterwards.
-        HKEY key = nullptr;
-        for (const wchar_t* tree :
-             {L"Software\\Classes\\CLSID", L"Software\\Classes\\TypeLib", L"Software\\Classes\\Interface"})
-            if (RegCreateKeyExW(HKEY_CURRENT_USER, tree, 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr) ==
-                ERROR_SUCCESS)
-                RegCloseKey(key);
+        // What an earlier registration left behind, of a program that was ended in the middle, is no part of
+        // what was there before.
+        component.install(false);
     }
     ~Registration() override {
         component.install(false);
@@ -129,6 +147,50 @@ TEST_F(Registration, ForAllUsersMakesEachClassByItsProgramIdentifierAndLeavesNot
     for (const char* name : {"_lmListView", "__lmListView", "_SpEv", "_Error"})
         EXPECT_FALSE(isThere(u"Interface\\" + guidTextOf(name))) << name;
     EXPECT_FALSE(isThere(u"TypeLib\\" + guidTextOf("LumtexListView")));
+}
+
+TEST_F(Registration, UseAndItsEndForAllUsersLeaveTheRegistryAsItWas) {
+    using Register = HRESULT(WINAPI*)();
+    const auto unregister = component.function<Register>("DllUnregisterServer");
+    unregister();
+    const std::set<String> users = userClasses();
+    const std::set<String> before = classesOf(HKEY_LOCAL_MACHINE);
+    ASSERT_EQ(component.function<Register>("DllRegisterServer")(), S_OK);
+    EXPECT_GT(classesOf(HKEY_LOCAL_MACHINE).size(), before.size() + 30);
+    {
+        CLSID classId{};
+        ComRef<IDispatch> list;
+        ASSERT_EQ(CLSIDFromProgID(L"LumtexListView.lmListView", &classId), S_OK);
+        ASSERT_EQ(
+            CoCreateInstance(
+                classId, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, reinterpret_cast<void**>(list.out())),
+            S_OK);
+        EXPECT_EQ(invoke(list.get(), L"ColumnsAdd", DISPATCH_METHOD, {u"column"}).result, S_OK);
+    }
+    ASSERT_EQ(unregister(), S_OK);
+    EXPECT_EQ(classesOf(HKEY_LOCAL_MACHINE), before);
+    EXPECT_EQ(userClasses(), users);
+}
+
+TEST_F(Registration, OneThatFailsHalfWayLeavesNothing) {
+    for (const HKEY hive : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+        // The classes come first, the library after them.
+        const VolatileKey blocked(hive, u"Software\\Classes\\TypeLib\\" + guidTextOf("LumtexListView"));
+        const std::set<String> before = classesOf(hive);
+        using Register = HRESULT(WINAPI*)();
+        const HRESULT result = hive == HKEY_CURRENT_USER
+                                   ? component.install(true)
+                                   : component.function<Register>("DllRegisterServer")();
+        EXPECT_EQ(result, SELFREG_E_CLASS);
+        EXPECT_EQ(classesOf(hive), before);
+    }
+}
+
+TEST_F(Registration, EndsWithoutTouchingWhatOthersHaveInTheSameKeys) {
+    const VolatileKey other(HKEY_CURRENT_USER, u"Software\\Classes\\TypeLib\\{OtherOne}");
+    const std::set<String> before = userClasses();
+    ASSERT_EQ(component.install(false), S_OK);
+    EXPECT_EQ(userClasses(), before);
 }
 
 TEST_F(Registration, TheThreadingModelIsApartment) {
