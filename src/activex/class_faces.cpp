@@ -4,6 +4,7 @@
 #include "activex/com_guard.h"
 #include "activex/guid.h"
 #include "activex/list_control.h"
+#include "activex/module.h"
 #include "activex/snapshot_enum.h"
 
 namespace lumtex {

@@ -5,6 +5,7 @@
 #include "activex/guid.h"
 #include "activex/helper_object.h"
 #include "activex/list_control.h"
+#include "platform/win32/counted_object.h"
 
 #include <mutex>
 #include <vector>
@@ -45,29 +46,9 @@ struct ServerLocks {
 };
 ServerLocks serverLocks;
 
-class ClassFactory final : public IClassFactory {
+class ClassFactory final : public CountedObject<IClassFactory> {
   public:
     explicit ClassFactory(const PublicObject& object) : object_(object) {}
-    ClassFactory(const ClassFactory&) = delete;
-    ClassFactory& operator=(const ClassFactory&) = delete;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
-        if (found == nullptr)
-            return E_POINTER;
-        *found = nullptr;
-        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IClassFactory))
-            return E_NOINTERFACE;
-        AddRef();
-        *found = static_cast<IClassFactory*>(this);
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
 
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** found) override {
         if (found == nullptr)
@@ -97,11 +78,7 @@ class ClassFactory final : public IClassFactory {
     }
 
   private:
-    ~ClassFactory() = default;
-
     const PublicObject& object_;
-    std::atomic<ULONG> references_{1};
-    ModuleLock lock_;
 };
 
 } // namespace

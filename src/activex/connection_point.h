@@ -3,7 +3,7 @@
 #pragma once
 
 #include "activex/automation_target.h"
-#include "activex/module.h"
+#include "platform/win32/com_ref.h"
 
 #include <map>
 #include <vector>

@@ -2,6 +2,7 @@
 #include "activex/control_core.h"
 
 #include "activex/guid.h"
+#include "activex/module.h"
 #include "platform/win32/com_error.h"
 
 namespace lumtex {

@@ -7,7 +7,7 @@
 #include "activex/connection_point.h"
 #include "activex/container_host.h"
 #include "activex/event_source.h"
-#include "activex/module.h"
+#include "platform/win32/module_lock.h"
 #include "platform/win32/win32_world.h"
 
 namespace lumtex {

@@ -2,6 +2,7 @@
 #include "activex/class_factory.h"
 #include "activex/module.h"
 #include "activex/registration.h"
+#include "platform/win32/module_lock.h"
 
 using namespace lumtex;
 
@@ -12,7 +13,7 @@ HRESULT WINAPI DllGetClassObject(REFCLSID classId, REFIID iid, void** found) {
 }
 
 HRESULT WINAPI DllCanUnloadNow() {
-    return moduleIsIdle() ? S_OK : S_FALSE;
+    return moduleLocks() == 0 ? S_OK : S_FALSE;
 }
 
 HRESULT WINAPI DllRegisterServer() {

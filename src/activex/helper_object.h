@@ -6,9 +6,8 @@
 #include "activex/class_faces.h"
 #include "activex/guid.h"
 #include "activex/module.h"
+#include "platform/win32/counted_object.h"
 #include "platform/win32/win32_runtime.h"
-
-#include <atomic>
 
 namespace lumtex {
 
@@ -61,11 +60,9 @@ class ErrorTarget final : public AutomationTarget {
 
 /// Starts with one reference, the caller's.
 template <class Target>
-class HelperObject final : public IUnknown {
+class HelperObject final : public CountedObject<IUnknown> {
   public:
     HelperObject() = default;
-    HelperObject(const HelperObject&) = delete;
-    HelperObject& operator=(const HelperObject&) = delete;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
         if (found == nullptr)
@@ -84,19 +81,8 @@ class HelperObject final : public IUnknown {
         *found = face;
         return S_OK;
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
 
   private:
-    ~HelperObject() = default;
-
-    std::atomic<ULONG> references_{1};
-    ModuleLock lock_;
     Target target_;
     typename Target::DualFace face_{*this, target_};
     ErrorInfoFace errorInfo_{*this, Target::interfaceId};

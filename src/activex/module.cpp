@@ -1,36 +1,23 @@
-/// Counts and file of the module.
+/// File and type library of the module.
 #include "activex/module.h"
 
 #include "platform/win32/com_error.h"
-#include "platform/win32/held_by_host.h"
 
-#include <atomic>
 #include <vector>
 
 namespace lumtex {
 
 namespace {
 
-std::atomic<long> locks{0};
+/// Something of the module that has an address.
+const char inside = 0;
 
 } // namespace
-
-ModuleLock::ModuleLock() noexcept {
-    ++locks;
-}
-
-ModuleLock::~ModuleLock() {
-    --locks;
-}
-
-bool moduleIsIdle() noexcept {
-    return locks == 0 && objectsHeldByHosts() == 0;
-}
 
 HINSTANCE moduleInstance() {
     HMODULE module = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<LPCWSTR>(&locks),
+                       reinterpret_cast<LPCWSTR>(&inside),
                        &module);
     return module;
 }

@@ -2,10 +2,9 @@
 /// Enumerators over a list that does not change any more.
 #pragma once
 
-#include "activex/module.h"
+#include "platform/win32/counted_object.h"
 
 #include <algorithm>
-#include <atomic>
 #include <utility>
 #include <vector>
 
@@ -14,31 +13,11 @@ namespace lumtex {
 /// `Policy` has copy(to, from), which may add references, and clear(item). Starts with one reference, the
 /// caller's.
 template <class Interface, class Item, class Policy>
-class SnapshotEnum final : public Interface {
+class SnapshotEnum final : public CountedObject<Interface> {
   public:
     /// `items` were made by Policy::copy and belong to the enumerator from now on.
     explicit SnapshotEnum(std::vector<Item> items, std::size_t next = 0)
         : items_(std::move(items)), next_(next) {}
-    SnapshotEnum(const SnapshotEnum&) = delete;
-    SnapshotEnum& operator=(const SnapshotEnum&) = delete;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
-        if (found == nullptr)
-            return E_POINTER;
-        *found = nullptr;
-        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, __uuidof(Interface)))
-            return E_NOINTERFACE;
-        *found = static_cast<Interface*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG count, Item* to, ULONG* fetched) override {
         if (to == nullptr || (fetched == nullptr && count != 1))
@@ -76,10 +55,8 @@ class SnapshotEnum final : public Interface {
             Policy::clear(item);
     }
 
-    std::atomic<ULONG> references_{1};
     std::vector<Item> items_;
     std::size_t next_;
-    ModuleLock lock_;
 };
 
 } // namespace lumtex

@@ -3,6 +3,7 @@
 #include "scratch_folder.h"
 #include "stage/user_input.h"
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -106,27 +107,37 @@ TEST_F(CitiesSample, HostsTheListAndHearsOfAClick) {
     };
 
     UserInput hands([] {});
-    // The look of the header under the mouse tells that the list knows where the mouse is.
-    const auto header = [&] {
+    // A column of pixels from a place downwards.
+    const auto look = [&](LONG x, LONG y) {
         std::vector<COLORREF> colors;
         HDC screen = GetDC(nullptr);
-        for (int y = 0; y < 20; ++y) {
-            const POINT point = onScreen(120, y);
+        for (LONG down = 0; down < 24; ++down) {
+            const POINT point = onScreen(x, y + down);
             colors.push_back(GetPixel(screen, point.x, point.y));
         }
         ReleaseDC(nullptr, screen);
         return colors;
     };
+    const auto header = [&] { return look(120, 0); };
+    const auto row = [&] { return look(120, 40); };
     hands.move(onScreen(60, 100), 0);
+    // Shades, and the line below them.
+    ASSERT_TRUE(until([&] {
+        const std::vector<COLORREF> colors = header();
+        return std::set<COLORREF>(colors.begin(), colors.end()).size() > 3;
+    }));
+    // The look of the header under the mouse tells that the list knows where the mouse is.
     const std::vector<COLORREF> usual = header();
     LONG step = 0;
-    EXPECT_TRUE(until([&] {
+    ASSERT_TRUE(until([&] {
         hands.move(onScreen(60 + ++step % 2, 10), 0);
         return header() != usual;
     }));
     hands.move(onScreen(60, 50), 0);
+    const std::vector<COLORREF> plain = row();
     hands.press(leftButton, 0);
-    Sleep(100); // the press lets waiting input through, and would hear of its release
+    // A press lets waiting input through, and would hear of its release too early.
+    ASSERT_TRUE(until([&] { return row() != plain; }));
     hands.release(leftButton, 0);
     EXPECT_TRUE(until([&] { return titleOf(window) == L"Row 2, column 1"; }));
 

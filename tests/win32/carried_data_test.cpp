@@ -4,7 +4,7 @@
 #include "platform/runtime_error.h"
 #include "platform/variant.h"
 #include "platform/win32/carried_data.h"
-#include "platform/win32/held_by_host.h"
+#include "platform/win32/module_lock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 /// Dropping on a window.
 #include "dragged_data.h"
-#include "platform/win32/held_by_host.h"
+#include "platform/win32/module_lock.h"
 #include "platform/win32/win32_window.h"
 
 #include <cmath>
@@ -61,7 +61,7 @@ class DropTarget : public ::testing::Test {
     ~DropTarget() override {
         window.reset();
         catcher.seen = nullptr;
-        EXPECT_EQ(objectsHeldByHosts(), 0);
+        EXPECT_EQ(moduleLocks(), 0);
         EXPECT_EQ(dragged.references, 1U);
         CoUninitialize();
     }

@@ -2,11 +2,10 @@
 
 #include "platform/user_control.h"
 #include "platform/win32/carried_data.h"
-#include "platform/win32/held_by_host.h"
+#include "platform/win32/counted_object.h"
 #include "platform/win32/shift_keys.h"
 #include "platform/win32/win32_world.h"
 
-#include <atomic>
 #include <new>
 #include <utility>
 
@@ -15,31 +14,11 @@
 namespace lumtex {
 
 /// What the system calls. It may still do so once the window is gone.
-class DropTarget final : public IDropTarget {
+class DropTarget final : public CountedObject<IDropTarget> {
   public:
     DropTarget(HWND window, UserControl& client) : window_(window), client_(&client) {}
-    DropTarget(const DropTarget&) = delete;
-    DropTarget& operator=(const DropTarget&) = delete;
 
     void detach() { client_ = nullptr; }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
-        if (found == nullptr)
-            return E_POINTER;
-        *found = nullptr;
-        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IDropTarget))
-            return E_NOINTERFACE;
-        *found = static_cast<IDropTarget*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
 
     HRESULT STDMETHODCALLTYPE DragEnter(IDataObject* data, DWORD keys, POINTL at, DWORD* effect) override {
         if (data == nullptr || effect == nullptr)
@@ -86,8 +65,6 @@ class DropTarget final : public IDropTarget {
         Single x;
         Single y;
     };
-
-    ~DropTarget() = default;
 
     bool carry(IDataObject* data) noexcept {
         try {
@@ -140,8 +117,6 @@ class DropTarget final : public IDropTarget {
         *effect = static_cast<DWORD>(told.effect) & allowed;
     }
 
-    std::atomic<ULONG> references_{1};
-    HeldByHost held_;
     HWND window_;
     UserControl* client_;
     ObjectRef data_;

@@ -5,7 +5,7 @@
 #include "platform/text.h"
 #include "platform/win32/com_error.h"
 #include "platform/win32/dispatch_object.h"
-#include "platform/win32/held_by_host.h"
+#include "platform/win32/module_lock.h"
 #include "platform/win32/variant_bridge.h"
 
 #include <atomic>
@@ -74,7 +74,7 @@ class ObjectDispatch final : public IDispatch {
     Variant perform(StringView name, WORD kind, const DISPPARAMS& parameters);
 
     std::atomic<ULONG> references_{1};
-    HeldByHost held_;
+    ModuleLock lock_;
     ObjectRef object_;
     std::vector<String> names_; ///< by id, from 1
 };

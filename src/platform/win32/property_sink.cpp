@@ -43,29 +43,6 @@ void PropertySink::stopListening(IUnknown* source, DWORD cookie) {
         point->Unadvise(cookie);
 }
 
-STDMETHODIMP PropertySink::QueryInterface(REFIID iid, void** object) {
-    if (object == nullptr)
-        return E_POINTER;
-    if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IPropertyNotifySink)) {
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    *object = static_cast<IPropertyNotifySink*>(this);
-    AddRef();
-    return S_OK;
-}
-
-STDMETHODIMP_(ULONG) PropertySink::AddRef() {
-    return ++references_;
-}
-
-STDMETHODIMP_(ULONG) PropertySink::Release() {
-    const ULONG left = --references_;
-    if (left == 0)
-        delete this;
-    return left;
-}
-
 STDMETHODIMP PropertySink::OnChanged(DISPID property) {
     if (onChanged_)
         onChanged_(property);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/win32/com_ref.h"
-#include "platform/win32/held_by_host.h"
+#include "platform/win32/counted_object.h"
 
 #include <functional>
 
@@ -11,7 +11,7 @@ namespace lumtex {
 
 /// Calls back at each change that an object tells of, with the property's number, and once when nobody holds
 /// the sink any longer: an object lets go of its sinks when it ends. The callbacks must not throw.
-class PropertySink final : public IPropertyNotifySink {
+class PropertySink final : public CountedObject<IPropertyNotifySink> {
   public:
     static ComRef<PropertySink> make(std::function<void(DISPID)> onChanged, std::function<void()> onGone);
 
@@ -23,20 +23,15 @@ class PropertySink final : public IPropertyNotifySink {
     /// Ends that again.
     static void stopListening(IUnknown* source, DWORD cookie);
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
-    STDMETHODIMP_(ULONG) AddRef() override;
-    STDMETHODIMP_(ULONG) Release() override;
     STDMETHODIMP OnChanged(DISPID property) override;
     STDMETHODIMP OnRequestEdit(DISPID property) override;
 
   private:
     PropertySink(std::function<void(DISPID)> onChanged, std::function<void()> onGone);
-    ~PropertySink();
+    ~PropertySink() override;
 
     std::function<void(DISPID)> onChanged_;
     std::function<void()> onGone_;
-    ULONG references_ = 1;
-    HeldByHost held_; ///< an object may tell of changes when the control is gone
 };
 
 } // namespace lumtex
