@@ -17,8 +17,6 @@ void ContainerHost::ambientChanged(DISPID ambient) {
         readUserMode();
     if (any || ambient == DISPID_AMBIENT_DISPLAYNAME)
         readName();
-    if (any || ambient == DISPID_AMBIENT_FONT)
-        readFont();
 }
 
 void ContainerHost::PropertyChanged(StringView name) {
@@ -54,14 +52,19 @@ void ContainerHost::readUserMode() {
     userMode_ = mode.isEmpty() || !mode.isNumeric() || mode.toBoolean();
 }
 
-/// The name that the host's own object around the control answers; empty where there is none.
-String ContainerHost::nameByExtender() const {
+ObjectRef ContainerHost::extender() const {
     const auto controlSite = site_.as<IOleControlSite>();
-    ComRef<IDispatch> extender;
-    if (!controlSite || FAILED(controlSite->GetExtendedControl(extender.out())) || !extender)
-        return {};
+    ComRef<IDispatch> object;
+    if (!controlSite || FAILED(controlSite->GetExtendedControl(object.out())))
+        return nullptr;
+    return objectFrom(object.get());
+}
+
+/// Empty where nobody knows one.
+String ContainerHost::nameByExtender() const {
     try {
-        return objectFrom(extender.get())->get(u"Name").toText();
+        const ObjectRef around = extender();
+        return around ? around->get(u"Name").toText() : String();
     } catch (const RuntimeError&) {
         return {};
     }
@@ -76,10 +79,18 @@ void ContainerHost::readName() {
         name_ = u"lmListView1";
 }
 
-void ContainerHost::readFont() {
+FontRef ContainerHost::parentFont() const {
+    try {
+        if (const ObjectRef around = extender()) {
+            if (FontRef font = around->get(u"Parent").toObject()->get(u"Font").toFont())
+                return font;
+        }
+    } catch (const RuntimeError&) {
+        // Containers without such objects have an ambient font, or none.
+    }
     const Variant font = ambient(DISPID_AMBIENT_FONT);
     const FontRef* const held = font.as<FontRef>();
-    font_ = held != nullptr ? *held : nullptr;
+    return held != nullptr ? *held : nullptr;
 }
 
 } // namespace lumtex

@@ -10,9 +10,9 @@
 
 namespace lumtex {
 
-/// Reads the ambient properties of the client site once, and again when told that they changed. Without a
-/// site, or where the site does not know, the control runs, has the name of its class with a 1, and no font
-/// of its container.
+/// Reads mode and name from the client site once, and again when told that they changed. Without a site, or
+/// where the site does not know, the control runs, has the name of its class with a 1, and no font of its
+/// container.
 class ContainerHost final : public Host {
   public:
     /// None to let the container go.
@@ -23,7 +23,8 @@ class ContainerHost final : public Host {
 
     bool UserMode() const override { return userMode_; }
     String extenderName() const override { return name_; }
-    FontRef parentFont() const override { return font_; }
+    /// Of the container that the host's own object around the control names; else the ambient one.
+    FontRef parentFont() const override;
     void PropertyChanged(StringView name) override;
 
     /// Hears of each changed property.
@@ -31,15 +32,15 @@ class ContainerHost final : public Host {
 
   private:
     Variant ambient(DISPID number) const;
+    /// The host's own object around the control; none where it has none.
+    ObjectRef extender() const;
     String nameByExtender() const;
     void readUserMode();
     void readName();
-    void readFont();
 
     ComRef<IOleClientSite> site_;
     bool userMode_ = true;
     String name_ = u"lmListView1";
-    FontRef font_;
 };
 
 } // namespace lumtex

@@ -97,6 +97,9 @@ HRESULT ControlCore::deactivate() {
         return S_OK;
     list_->window().letVisible(false);
     SetParent(window(), HWND_MESSAGE);
+    // Nobody would tell the frame later.
+    if (frame_ && modalDepth_ > 0)
+        frame_->EnableModeless(TRUE);
     frame_ = {};
     uiWindow_ = {};
     frameInfo_ = {};
@@ -119,7 +122,9 @@ void ControlCore::letRects(const RECT& place, const RECT& clip) {
 }
 
 void ControlCore::showModality(bool open) {
-    if (frame_)
+    const bool wasOpen = modalDepth_ > 0;
+    modalDepth_ += open ? 1 : -1;
+    if (frame_ && wasOpen != (modalDepth_ > 0))
         frame_->EnableModeless(open ? FALSE : TRUE);
 }
 

@@ -119,6 +119,7 @@ class ControlCore final : public AutomationTarget {
     ComRef<IOleInPlaceFrame> frame_;
     ComRef<IOleInPlaceUIWindow> uiWindow_;
     OLEINPLACEFRAMEINFO frameInfo_{};
+    int modalDepth_ = 0; ///< forms and boxes that are open
     ComRef<IOleAdviseHolder> adviseHolder_;
     ComRef<IDataAdviseHolder> dataAdviseHolder_;
 };

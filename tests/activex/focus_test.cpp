@@ -34,6 +34,14 @@ class Focus : public PlacedControl {
         point = {};
     }
 
+    /// A new control in place of one that is gone.
+    void renew() {
+        control = component.make("lmListView");
+        dispatch = control.as<IDispatch>();
+        object = control.as<IOleObject>();
+        point = eventPointOf(control);
+        demand(point->Advise(&sink, &cookie));
+    }
     /// Has the list run the messages that wait.
     void yield() { get(L"ListIndex"); }
 
@@ -98,6 +106,46 @@ TEST_F(Focus, TheEditorOfACellIsPartOfTheList) {
     EXPECT_EQ(container.focused, std::vector<bool>{true});
     SetFocus(neighbour.window);
     EXPECT_EQ(container.focused, (std::vector<bool>{true, false}));
+}
+
+TEST_F(Focus, AContainerMayTakeTheControlAwayWhenItsUserEnters) {
+    place();
+    HWND window = this->window();
+    container.onUIActivate = [&] {
+        point->Unadvise(cookie);
+        object->Close(OLECLOSE_NOSAVE);
+        object->SetClientSite(nullptr);
+        point = {};
+        object = {};
+        dispatch = {};
+        control = {};
+    };
+    SetFocus(window);
+    EXPECT_FALSE(IsWindow(window));
+    EXPECT_TRUE(component.canUnload());
+    container.active = {};
+    EXPECT_EQ(container.references, 1U);
+    renew();
+}
+
+TEST_F(Focus, AContainerMayTakeTheControlAwayForAKey) {
+    place(OLEIVERB_UIACTIVATE);
+    HWND window = this->window();
+    container.onTab = [&] {
+        point->Unadvise(cookie);
+        object->Close(OLECLOSE_NOSAVE);
+        object->SetClientSite(nullptr);
+        point = {};
+        object = {};
+        dispatch = {};
+        control = {};
+    };
+    MSG tab{window, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    ComRef<IOleInPlaceActiveObject> active = container.active;
+    EXPECT_EQ(active->TranslateAccelerator(&tab), S_FALSE);
+    active = {};
+    EXPECT_FALSE(IsWindow(window));
+    renew();
 }
 
 TEST_F(Focus, AContainerMayRefuse) {
@@ -218,8 +266,13 @@ TEST_F(Focus, AYieldOfOneListAsksTheContainerOfTheOtherOne) {
     EXPECT_TRUE(sink.raised.empty());
 }
 
+/// The control that a container takes away before it closes what opened; none for none.
+IOleInPlaceObject* leaving = nullptr;
+
 void CALLBACK closeWhatOpened(HWND /*none*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
     HWND active = GetActiveWindow();
+    if (leaving != nullptr)
+        std::exchange(leaving, nullptr)->InPlaceDeactivate();
     if (active != nullptr && active != programWindow())
         PostMessageW(active, WM_CLOSE, 0, 0);
 }
@@ -230,6 +283,17 @@ TEST_F(Focus, TheContainersWindowsWaitForAFormOfTheList) {
     const UINT_PTR timer = SetTimer(nullptr, 0, 10, closeWhatOpened);
     call(L"About");
     KillTimer(nullptr, timer);
+    EXPECT_EQ(container.modeless, (std::vector<bool>{false, true}));
+}
+
+TEST_F(Focus, TheyWaitNoLongerThanTheListIsAmongThem) {
+    place(OLEIVERB_UIACTIVATE);
+    const auto inPlace = control.as<IOleInPlaceObject>();
+    leaving = inPlace.get();
+    const UINT_PTR timer = SetTimer(nullptr, 0, 10, closeWhatOpened);
+    call(L"About");
+    KillTimer(nullptr, timer);
+    EXPECT_EQ(leaving, nullptr);
     EXPECT_EQ(container.modeless, (std::vector<bool>{false, true}));
 }
 

@@ -4,6 +4,7 @@
 
 #include "component.h"
 
+#include <functional>
 #include <map>
 
 namespace lumtex::testing {
@@ -55,12 +56,14 @@ class SmallContainer final : public IOleClientSite,
     std::map<DISPID, Variant> ambients;
     std::vector<std::string> told;
     ULONG references = 1;
-    HRESULT mayTakeOver = S_OK;    ///< what OnUIActivate answers
-    bool takesTab = false;         ///< keeps Tab for itself
-    HACCEL accelerators = nullptr; ///< the frame's, of the frame's owner
-    std::vector<WORD> commands;    ///< what keys of that table asked for
-    std::vector<bool> focused;     ///< the focus came, or went
-    std::vector<bool> modeless;    ///< the container's own windows may be used, or not
+    HRESULT mayTakeOver = S_OK;         ///< what OnUIActivate answers
+    std::function<void()> onUIActivate; ///< what the container does then, once
+    std::function<void()> onTab;        ///< the same for that key
+    bool takesTab = false;              ///< keeps Tab for itself
+    HACCEL accelerators = nullptr;      ///< the frame's, of the frame's owner
+    std::vector<WORD> commands;         ///< what keys of that table asked for
+    std::vector<bool> focused;          ///< the focus came, or went
+    std::vector<bool> modeless;         ///< the container's own windows may be used, or not
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
         *found = nullptr;
@@ -103,6 +106,8 @@ class SmallContainer final : public IOleClientSite,
     HRESULT STDMETHODCALLTYPE OnInPlaceActivate() override { return note("OnInPlaceActivate"); }
     HRESULT STDMETHODCALLTYPE OnUIActivate() override {
         note("OnUIActivate");
+        if (onUIActivate)
+            std::exchange(onUIActivate, nullptr)();
         return mayTakeOver;
     }
     HRESULT STDMETHODCALLTYPE GetWindowContext(IOleInPlaceFrame** frame,
@@ -170,6 +175,8 @@ class SmallContainer final : public IOleClientSite,
     }
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG* message, DWORD /*modifiers*/) override {
         note("TranslateAccelerator " + std::to_string(message->wParam));
+        if (onTab && message->wParam == VK_TAB)
+            std::exchange(onTab, nullptr)();
         return takesTab && message->wParam == VK_TAB ? S_OK : S_FALSE;
     }
     HRESULT STDMETHODCALLTYPE OnFocus(BOOL got) override {

@@ -1,24 +1,13 @@
 /// The picture of a control, drawn and as data.
 #include "placed_control.h"
 #include "sheet.h"
+#include "test_object.h"
 
 namespace lumtex::testing {
 namespace {
 
 constexpr LONG width = 309; // pixels, the size of the design
 constexpr LONG height = 260;
-
-/// A container's object around the control, of which only the name is asked.
-class NamedObject final : public Object {
-  public:
-    explicit NamedObject(String given) : name(std::move(given)) {}
-
-    Variant get(StringView /*member*/, std::span<Variant> /*arguments*/) override { return name; }
-    void put(StringView /*member*/, const Variant& value) override { name = value.toText(); }
-    Variant call(StringView /*member*/, std::span<Variant> /*arguments*/) override { return name; }
-
-    String name;
-};
 
 class View : public PlacedControl {
   protected:
@@ -177,12 +166,13 @@ TEST_F(View, ADesignViewShowsANewName) {
 TEST_F(View, TheExtendersNameGoesBeforeTheDisplayName) {
     begin(false);
     const auto byDisplayName = drawn();
-    const auto extender = std::make_shared<NamedObject>(u"Another");
+    const auto extender = std::make_shared<TestObject>();
+    extender->properties[u"Name"] = u"Another";
     container.extender = toIDispatch(extender);
     ASSERT_EQ(control.as<IOleControl>()->OnAmbientPropertyChange(DISPID_UNKNOWN), S_OK);
     const auto byExtender = drawn();
     EXPECT_GT(differing(byExtender, byDisplayName), 10U);
-    extender->name = u"MyList";
+    extender->properties[u"Name"] = u"MyList";
     ASSERT_EQ(control.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_DISPLAYNAME), S_OK);
     EXPECT_EQ(differing(drawn(), byDisplayName), 0U);
     container.extender = {};
@@ -213,6 +203,32 @@ TEST_F(View, ANewListTakesTheFontOfItsContainer) {
     begin(true);
     EXPECT_TRUE(get(L"DefaultItemFont").toFont()->spec.Bold);
     EXPECT_NEAR(get(L"DefaultItemFont").toFont()->spec.Size, 18, 0.5);
+}
+
+TEST_F(View, TheFontOfItsParentGoesBeforeTheAmbientOne) {
+    container.ambients[DISPID_AMBIENT_FONT] =
+        Variant(FontRef(std::make_shared<Font>(FontSpec{.Name = u"Verdana", .Size = 18})));
+    const auto form = std::make_shared<TestObject>();
+    const auto extender = std::make_shared<TestObject>();
+    form->properties[u"Font"] =
+        Variant(FontRef(std::make_shared<Font>(FontSpec{.Name = u"Verdana", .Size = 24, .Italic = true})));
+    extender->properties[u"Parent"] = Variant(ObjectRef(form));
+    container.extender = toIDispatch(extender);
+    begin(true);
+    EXPECT_TRUE(get(L"DefaultItemFont").toFont()->spec.Italic);
+    EXPECT_GT(get(L"DefaultItemFont").toFont()->spec.Size, 20) << "the nearest that the system has";
+    container.extender = {};
+}
+
+TEST_F(View, AParentWithoutAFontLeavesTheAmbientOne) {
+    container.ambients[DISPID_AMBIENT_FONT] =
+        Variant(FontRef(std::make_shared<Font>(FontSpec{.Name = u"Verdana", .Size = 18})));
+    const auto extender = std::make_shared<TestObject>();
+    extender->properties[u"Parent"] = Variant(ObjectRef(std::make_shared<TestObject>()));
+    container.extender = toIDispatch(extender);
+    begin(true);
+    EXPECT_NEAR(get(L"DefaultItemFont").toFont()->spec.Size, 18, 0.5);
+    container.extender = {};
 }
 
 } // namespace
