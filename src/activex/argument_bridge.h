@@ -1,9 +1,11 @@
 /// \file
-/// Arguments of calls by dispatch number, to and from the control's own values.
+/// Arguments of calls as the control's own values.
 #pragma once
 
 #include "platform/variant.h"
-#include "platform/win32/variant_bridge.h"
+#include "platform/win32/windows_api.h"
+
+#include <exception>
 
 namespace lumtex {
 
@@ -12,9 +14,5 @@ class NullArgument : public std::exception {};
 
 /// As `fromVARIANT`; throws NullArgument where `value` points to nothing.
 Variant argumentFrom(const VARIANT& value);
-
-/// Puts what a call left in an argument to where the caller keeps it; nothing for one that came by value.
-/// Throws the RuntimeError of a value that does not convert.
-void writeBack(const Variant& value, VARIANT& argument);
 
 } // namespace lumtex

@@ -5,6 +5,8 @@
 #include "activex/com_guard.h"
 #include "platform/text.h"
 #include "platform/variant_conversion.h"
+#include "platform/win32/variant_bridge.h"
+#include "platform/win32/write_back.h"
 
 #include <vector>
 
@@ -19,10 +21,50 @@ bool endsInList(const Member& member) {
     return member.count > 0 && member.slots[member.count - 1].type.code == TypeCode::variantList;
 }
 
+/// An argument that cannot be taken, by its place in the caller's array.
+class RefusedArgument : public std::exception {
+  public:
+    RefusedArgument(HRESULT result, UINT place) : result_(result), place_(place) {}
+
+    HRESULT result() const { return result_; }
+    UINT place() const { return place_; }
+
+  private:
+    HRESULT result_;
+    UINT place_;
+};
+
+/// Whether it is the mark of any value at all.
+bool marksValue(VARTYPE type) {
+    const auto held = static_cast<VARTYPE>(type & VT_TYPEMASK);
+    const bool elsewhere = (type & (VT_BYREF | VT_ARRAY)) != 0;
+    if ((type & ~(VT_TYPEMASK | VT_BYREF | VT_ARRAY)) != 0)
+        return false;
+    if (held == VT_EMPTY || held == VT_NULL)
+        return !elsewhere;
+    if (held == VT_VARIANT)
+        return elsewhere;
+    return held <= VT_DECIMAL || (held >= VT_I1 && held <= VT_UINT) || held == VT_RECORD;
+}
+
+Variant valueAt(const DISPPARAMS& parameters, UINT place) {
+    const VARIANT& given = parameters.rgvarg[place];
+    if (!marksValue(V_VT(&given)))
+        throw RefusedArgument(DISP_E_BADVARTYPE, place);
+    try {
+        return argumentFrom(given);
+    } catch (const NullArgument&) {
+        throw RefusedArgument(E_POINTER, place);
+    } catch (const RuntimeError& error) {
+        throw RefusedArgument(automationResult(error), place);
+    }
+}
+
 /// The arguments in the order of the parameters, and for each the place in the caller's array.
 class Arguments {
   public:
-    /// `from` leaves out the caller's leading arguments, as an assigned value is one. Throws RuntimeError.
+    /// `from` leaves out the caller's leading arguments, as an assigned value is one. Throws RuntimeError,
+    /// and RefusedArgument.
     Arguments(const Member& member, const DISPPARAMS& parameters, UINT from) : parameters_(parameters) {
         const UINT named = parameters.cNamedArgs;
         const UINT positional = parameters.cArgs - named;
@@ -32,8 +74,9 @@ class Arguments {
             take(i, parameters.cArgs - 1 - i);
         for (UINT i = from; i < named; ++i) {
             const DISPID place = parameters.rgdispidNamedArgs[i];
-            if (place < 0 || static_cast<std::size_t>(place) >= member.count)
-                throw RuntimeError(DISP_E_PARAMNOTFOUND);
+            // No such parameter, or one that has its argument already.
+            if (place < 0 || static_cast<std::size_t>(place) >= member.count || isTaken(place))
+                throw RefusedArgument(DISP_E_PARAMNOTFOUND, i);
             take(static_cast<std::size_t>(place), i);
         }
     }
@@ -41,6 +84,8 @@ class Arguments {
     std::span<Variant> values() { return values_; }
     /// Counts from 0 in the caller's array.
     UINT placeOf(std::size_t parameter) const { return places_[parameter]; }
+
+    bool wasGiven(std::size_t parameter) const { return places_[parameter] != none; }
 
     void writeBackTo(const Member& member) {
         for (std::size_t i = 0; i < values_.size() && i < member.count; ++i)
@@ -51,13 +96,17 @@ class Arguments {
   private:
     static constexpr UINT none = ~0U;
 
+    bool isTaken(DISPID parameter) const {
+        const auto i = static_cast<std::size_t>(parameter);
+        return i < places_.size() && places_[i] != none;
+    }
     void take(std::size_t parameter, UINT place) {
         if (values_.size() <= parameter) {
             values_.resize(parameter + 1, Missing{});
             places_.resize(parameter + 1, none);
         }
         places_[parameter] = place;
-        values_[parameter] = argumentFrom(parameters_.rgvarg[place]);
+        values_[parameter] = valueAt(parameters_, place);
     }
 
     const DISPPARAMS& parameters_;
@@ -109,13 +158,14 @@ bool fits(const Variant& value, TypeCode type) {
 UINT placeOfMisfit(const Member& member, Arguments& arguments) {
     const auto values = arguments.values();
     for (std::size_t i = 0; i < values.size() && i < member.count; ++i)
-        if (!values[i].isMissing() && !fits(values[i], member.slots[i].type.code))
+        if (values[i].isMissing() ? !member.slots[i].optional() && arguments.wasGiven(i)
+                                  : !fits(values[i], member.slots[i].type.code))
             return arguments.placeOf(i);
     return 0;
 }
 
 void assign(CallByName& byName, const Member& member, const DispatchCall& call, Arguments& arguments) {
-    const Variant value = argumentFrom(call.parameters->rgvarg[0]);
+    const Variant value = valueAt(*call.parameters, 0);
     const bool asReference = (call.kind & DISPATCH_PROPERTYPUTREF) != 0;
     // Some script languages have one way to assign for everything.
     if (asReference ? member.isReference() || (call.kind & DISPATCH_PROPERTYPUT) == 0
@@ -207,8 +257,10 @@ HRESULT invokeMember(AutomationTarget& target, const DispatchCall& call) noexcep
             return DISP_E_MEMBERNOTFOUND;
         try {
             return perform(target, *member, call);
-        } catch (const NullArgument&) {
-            return E_POINTER;
+        } catch (const RefusedArgument& refused) {
+            if (call.wrongArgument != nullptr)
+                *call.wrongArgument = refused.place();
+            return refused.result();
         } catch (const RuntimeError& error) {
             return refusal(error, call);
         }

@@ -21,9 +21,9 @@ struct DispatchCall {
 };
 
 /// DISP_E_MEMBERNOTFOUND, DISP_E_BADPARAMCOUNT, DISP_E_PARAMNOTOPTIONAL, DISP_E_PARAMNOTFOUND,
-/// DISP_E_TYPEMISMATCH and DISP_E_OVERFLOW (with the place of the argument), E_POINTER for a reference that
-/// leads nowhere. By-reference arguments are written back. A search's result is an object with the fields of
-/// its record.
+/// DISP_E_TYPEMISMATCH, DISP_E_BADVARTYPE and DISP_E_OVERFLOW, E_POINTER for a reference that leads nowhere;
+/// all of an argument with its place in the caller's array. By-reference arguments are written back. A
+/// search's result is an object with the fields of its record.
 HRESULT invokeMember(AutomationTarget& target, const DispatchCall& call) noexcept;
 
 } // namespace lumtex

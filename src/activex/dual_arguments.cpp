@@ -4,6 +4,7 @@
 #include "platform/runtime_error.h"
 #include "platform/win32/com_error.h"
 #include "platform/win32/com_ref.h"
+#include "platform/win32/write_back.h"
 
 #include <utility>
 

@@ -7,6 +7,7 @@
 #include "platform/win32/dispatch_object.h"
 #include "platform/win32/module_lock.h"
 #include "platform/win32/variant_bridge.h"
+#include "platform/win32/write_back.h"
 
 #include <atomic>
 #include <new>
@@ -78,44 +79,6 @@ class ObjectDispatch final : public IDispatch {
     ObjectRef object_;
     std::vector<String> names_; ///< by id, from 1
 };
-
-/// Puts what a call left in an argument back to where the caller keeps it.
-void writeBack(const Variant& value, VARIANT& argument) {
-    if (!V_ISBYREF(&argument))
-        return;
-    OwnedVARIANT fresh = toVARIANT(value);
-    if (V_VT(&argument) == (VT_BYREF | VT_VARIANT)) {
-        VariantClear(V_VARIANTREF(&argument));
-        *V_VARIANTREF(&argument) = fresh.release();
-        return;
-    }
-    const auto type = static_cast<VARTYPE>(V_VT(&argument) & ~VT_BYREF);
-    demand(VariantChangeType(&fresh.get(), &fresh.get(), 0, type));
-    switch (type) {
-    case VT_BSTR:
-        SysFreeString(*V_BSTRREF(&argument));
-        *V_BSTRREF(&argument) = V_BSTR(&fresh.get());
-        fresh.release();
-        break;
-    case VT_I4:
-        *V_I4REF(&argument) = V_I4(&fresh.get());
-        break;
-    case VT_I2:
-        *V_I2REF(&argument) = V_I2(&fresh.get());
-        break;
-    case VT_BOOL:
-        *V_BOOLREF(&argument) = V_BOOL(&fresh.get());
-        break;
-    case VT_R4:
-        *V_R4REF(&argument) = V_R4(&fresh.get());
-        break;
-    case VT_R8:
-        *V_R8REF(&argument) = V_R8(&fresh.get());
-        break;
-    default:
-        throw RuntimeError(typeMismatch);
-    }
-}
 
 HRESULT ObjectDispatch::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID /*locale*/, DISPID* ids) {
     if (!IsEqualIID(iid, IID_NULL))

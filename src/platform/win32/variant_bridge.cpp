@@ -138,12 +138,24 @@ StringView viewBSTR(BSTR text) {
     return textOf(text, SysStringLen(text));
 }
 
+const VARIANT& endOfReferences(const VARIANT& value) {
+    constexpr int longestChain = 64;
+    const VARIANT* last = &value;
+    for (int i = 0; i < longestChain && V_VT(last) == (VT_BYREF | VT_VARIANT) && V_BYREF(last) != nullptr;
+         ++i)
+        last = V_VARIANTREF(last);
+    return *last;
+}
+
 Variant fromVARIANT(const VARIANT& value) {
     if (V_ISBYREF(&value)) {
-        if (V_VT(&value) == (VT_BYREF | VT_VARIANT))
-            return fromVARIANT(*V_VARIANTREF(&value));
+        const VARIANT& last = endOfReferences(value);
+        if (!V_ISBYREF(&last))
+            return fromVARIANT(last);
+        if (V_BYREF(&last) == nullptr || V_VT(&last) == (VT_BYREF | VT_VARIANT))
+            throw RuntimeError(typeMismatch);
         OwnedVARIANT direct;
-        demand(VariantCopyInd(direct.out(), const_cast<VARIANT*>(&value)));
+        demand(VariantCopyInd(direct.out(), const_cast<VARIANT*>(&last)));
         return fromVARIANT(direct.get());
     }
     switch (V_VT(&value)) {

@@ -42,10 +42,14 @@ class OwnedVARIANT {
     VARIANT value_{};
 };
 
+/// Follows references from one VARIANT to the next, as a procedure makes them that passes on what it got.
+/// Ends at any other value, at one that leads nowhere, and after a length that only a circle has.
+const VARIANT& endOfReferences(const VARIANT& value);
+
 /// A copy of the value, also of one that `value` only points to. Integers that no Long holds, currency and
 /// decimal numbers become Doubles. An object that is a picture or a font comes as such; any other one must
-/// answer late-bound calls. Throws RuntimeError 13 for arrays, records and error values; an argument that was
-/// left out is no error value.
+/// answer late-bound calls. Throws RuntimeError 13 for arrays, records, references that lead nowhere and
+/// error values; an argument that was left out is no error value.
 Variant fromVARIANT(const VARIANT& value);
 
 /// Throws RuntimeError 7 where there is no memory for a text.

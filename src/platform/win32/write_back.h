@@ -1,0 +1,15 @@
+/// \file
+/// What a call leaves in its arguments.
+#pragma once
+
+#include "platform/variant.h"
+#include "platform/win32/windows_api.h"
+
+namespace lumtex {
+
+/// Puts what a call left in an argument to where the caller keeps it, converted to the caller's type; nothing
+/// for one that came by value. Drops what was there. Throws the RuntimeError of a value that does not
+/// convert, and 13 for arrays and records.
+void writeBack(const Variant& value, VARIANT& argument);
+
+} // namespace lumtex
