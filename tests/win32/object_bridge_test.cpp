@@ -105,6 +105,23 @@ TEST(ObjectBridge, LetsGoOfWhatItHolds) {
     EXPECT_TRUE(watch.expired());
 }
 
+TEST(ObjectBridge, RefusesArgumentsThatLeadNowhere) {
+    const auto object = std::make_shared<TestObject>();
+    object->methods[u"Take"] = [](std::span<Variant>) { return Variant(); };
+    const ComRef<IDispatch> hosts = toIDispatch(object);
+    auto* name = const_cast<wchar_t*>(L"Take");
+    DISPID id = DISPID_UNKNOWN;
+    ASSERT_EQ(hosts->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id), S_OK);
+    VARIANT nowhere;
+    VariantInit(&nowhere);
+    V_VT(&nowhere) = VT_BYREF | VT_I4;
+    V_I4REF(&nowhere) = nullptr;
+    DISPPARAMS parameters{&nowhere, nullptr, 1, 0};
+    EXPECT_TRUE(FAILED(hosts->Invoke(
+        id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr)));
+    EXPECT_TRUE(object->log.empty());
+}
+
 class ScriptObjects : public ::testing::Test {
   protected:
     ScriptHost vbs{ScriptLanguage::vbScript};

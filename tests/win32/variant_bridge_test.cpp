@@ -6,6 +6,7 @@
 #include "test_object.h"
 #include "variant_printing.h"
 
+#include <array>
 #include <cstring>
 #include <limits>
 
@@ -166,6 +167,28 @@ TEST(ToVARIANT, WritesTheKindsThatHostsExpect) {
     EXPECT_EQ(V_VT(&toVARIANT(Variant(u"x")).get()), VT_BSTR);
     EXPECT_EQ(V_VT(&toVARIANT(Variant(ObjectRef())).get()), VT_DISPATCH);
     EXPECT_EQ(V_DISPATCH(&toVARIANT(Variant(ObjectRef())).get()), nullptr);
+}
+
+TEST(FromVARIANT, RefusesReferencesThatLeadNowhere) {
+    for (const VARTYPE type : {VT_VARIANT, VT_I2, VT_I4, VT_R8, VT_BSTR, VT_BOOL, VT_DISPATCH, VT_DECIMAL}) {
+        VARIANT reference;
+        VariantInit(&reference);
+        V_VT(&reference) = static_cast<VARTYPE>(VT_BYREF | type);
+        V_BYREF(&reference) = nullptr;
+        EXPECT_EQ(errorNumberOf([&] { fromVARIANT(reference); }), typeMismatch) << type;
+    }
+}
+
+TEST(FromVARIANT, FollowsReferencesToVariantsUnlessTheyGoInACircle) {
+    VARIANT value = numberVARIANT(VT_I4, 5);
+    std::array<VARIANT, 5> chain{};
+    for (std::size_t i = 0; i < chain.size(); ++i) {
+        V_VT(&chain[i]) = VT_BYREF | VT_VARIANT;
+        V_VARIANTREF(&chain[i]) = i == 0 ? &value : &chain[i - 1];
+    }
+    EXPECT_EQ(fromVARIANT(chain.back()), Variant(Long{5}));
+    V_VARIANTREF(&chain[0]) = &chain.back();
+    EXPECT_EQ(errorNumberOf([&] { fromVARIANT(chain.back()); }), typeMismatch);
 }
 
 } // namespace
