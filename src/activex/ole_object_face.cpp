@@ -80,8 +80,13 @@ HRESULT OleObjectFace::DoVerb(LONG verb,
         case OLEIVERB_DISCARDUNDOSTATE:
             return E_NOTIMPL;
         default:
-            return verb < 0 ? E_NOTIMPL : OLEOBJ_S_INVALIDVERB;
+            break;
         }
+        if (verb < 0)
+            return E_NOTIMPL;
+        // A verb that nobody knows is the primary one.
+        const HRESULT done = core.activate(true);
+        return SUCCEEDED(done) ? OLEOBJ_S_INVALIDVERB : done;
     });
 }
 

@@ -32,9 +32,11 @@ TEST_F(Verbs, HidingTakesTheContainersKeysAway) {
     EXPECT_EQ(container.told.back(), "OnUIDeactivate");
 }
 
-TEST_F(Verbs, AnUnknownVerbIsRefusedByItsSign) {
+TEST_F(Verbs, AnUnknownVerbIsThePrimaryOneOrRefusedByItsSign) {
     place();
+    EXPECT_FALSE(container.active);
     EXPECT_EQ(verb(77), OLEOBJ_S_INVALIDVERB);
+    EXPECT_TRUE(container.active);
     EXPECT_EQ(verb(-77), E_NOTIMPL);
     EXPECT_EQ(verb(OLEIVERB_OPEN), E_NOTIMPL);
     EXPECT_EQ(verb(OLEIVERB_DISCARDUNDOSTATE), E_NOTIMPL);
