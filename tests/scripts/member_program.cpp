@@ -182,6 +182,9 @@ std::vector<MemberUse> usesOf(const Member& member, const SampleValues& samples,
     for (const auto& arguments : ways) {
         if (member.get != nullptr)
             uses.push_back({MemberUse::Kind::get, arguments, {}});
+        // Of the two, one is not what a new object holds.
+        if (member.let != nullptr && member.type.code == TypeCode::boolean)
+            uses.push_back({MemberUse::Kind::let, arguments, false});
         if (member.let != nullptr)
             uses.push_back({MemberUse::Kind::let, arguments, samples.assignedTo(member)});
         if (member.call != nullptr)

@@ -107,18 +107,46 @@ void PrintTo(const Observed& observed, std::ostream* stream) {
     *stream << "\n" << observed.state;
 }
 
+/// An object of the component and one of the core, which go through the same: all tests of a class in a
+/// language share them, since making a list takes longer than using it.
+struct Bench {
+    Bench(const ClassDescription& ofClass, ScriptLanguage language)
+        : owner(ofClass), host(language), object(component.make(toUtf8(ofClass.name)).as<IDispatch>()) {
+        list.UserControl_InitProperties();
+        host.add(u"samplePicture", toIPicture(picture).as<IDispatch>());
+        host.add(u"sampleFont", toIFont(font).as<IDispatch>());
+        host.add(u"sampleObject", toIDispatch(&owner == &listViewClass() ? placedObject : scriptBox));
+    }
+
+    const ClassDescription& owner;
+    Component component;
+    ScriptHost host;
+    ComRef<IDispatch> object;
+
+    PictureRef picture = std::make_shared<BitmapPicture>(Bitmap(3, 2));
+    /// One that is there: for any other, the system gives another name to the component than the core has.
+    FontRef font = std::make_shared<Font>(FontSpec{u"DejaVu Sans", 12, true});
+    ObjectRef placedObject = objectFrom(toIDispatch(TestObject::control(300)).get());
+    std::shared_ptr<ListBox> scriptBox = std::make_shared<ListBox>();
+    std::shared_ptr<ListBox> coreBox = std::make_shared<ListBox>();
+
+    Win32Runtime runtime{GetModuleHandleW(nullptr)};
+    Win32World world{GetModuleHandleW(nullptr)};
+    TestHost testHost;
+    RecordingEvents events;
+    lmListView list{world, testHost, events};
+    SpEv spEv{runtime};
+    Error error;
+};
+
 /// One member in one language; a component and a core that hold the same.
 class EachMember : public ::testing::TestWithParam<Walked> {
   protected:
     EachMember() {
         processSilentFlag().silent = true;
         silenceComponent(true);
-        list.UserControl_InitProperties();
         // A button that went down in another test would still count for the first one who asks.
-        spEv.MouseButtonPressed();
-        host.add(u"samplePicture", toIPicture(picture).as<IDispatch>());
-        host.add(u"sampleFont", toIFont(font).as<IDispatch>());
-        host.add(u"sampleObject", toIDispatch(isList() ? placedObject : scriptBox));
+        bench.spEv.MouseButtonPressed();
         SetForegroundWindow(programWindow());
     }
     ~EachMember() override {
@@ -133,13 +161,14 @@ class EachMember : public ::testing::TestWithParam<Walked> {
     bool isOwn() const { return std::ranges::find(ownResults, member().name) != std::end(ownResults); }
 
     std::vector<MemberUse> uses() {
-        const SampleValues samples({picture, font, isList() ? placedObject : ObjectRef(coreBox)},
-                                   fromUtf8(folder.path.string()) + u"\\");
+        const SampleValues samples(
+            {bench.picture, bench.font, isList() ? bench.placedObject : ObjectRef(bench.coreBox)},
+            fromUtf8(folder.path.string()) + u"\\");
         return usesOf(member(), samples, can(language(), "arguments left out in the middle"));
     }
 
     void silenceComponent(bool on) {
-        const ComRef<IUnknown> reports = component.make("Error");
+        const ComRef<IUnknown> reports = bench.component.make("Error");
         invoke(reports.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
     }
 
@@ -170,11 +199,11 @@ class EachMember : public ::testing::TestWithParam<Walked> {
     }
 
     Observed onCore(const MemberUse& use) {
-        CallByName byName = isList()                           ? CallByName(list)
-                            : GetParam().owner == &spEvClass() ? CallByName(spEv)
-                                                               : CallByName(error);
+        CallByName byName = isList()                           ? CallByName(bench.list)
+                            : GetParam().owner == &spEvClass() ? CallByName(bench.spEv)
+                                                               : CallByName(bench.error);
         CoreSubject subject(byName);
-        prepare(subject, *coreBox);
+        prepare(subject, *bench.coreBox);
         std::vector<Variant> arguments = use.arguments;
         Observed observed;
         const auto read = [&] {
@@ -197,7 +226,7 @@ class EachMember : public ::testing::TestWithParam<Walked> {
         for (std::size_t i = 0; i < arguments.size() && i < member().count; ++i)
             if (member().slots[i].byReference && !arguments[i].isMissing())
                 observed.arguments.push_back(shown(arguments[i], withKind()));
-        observed.state = stateOfAll(subject, *coreBox);
+        observed.state = stateOfAll(subject, *bench.coreBox);
         return observed;
     }
 
@@ -210,8 +239,8 @@ class EachMember : public ::testing::TestWithParam<Walked> {
     }
 
     Observed onComponent(const MemberUse& use) {
-        ComponentSubject subject(object);
-        prepare(subject, *scriptBox);
+        ComponentSubject subject(bench.object);
+        prepare(subject, *bench.scriptBox);
         Observed observed;
         MemberUse reading = use;
         if (use.kind == MemberUse::Kind::let) {
@@ -219,7 +248,7 @@ class EachMember : public ::testing::TestWithParam<Walked> {
             reading.kind = MemberUse::Kind::get;
         }
         const Variant value = run(reading);
-        const ObjectRef global = host.object();
+        const ObjectRef global = bench.host.object();
         if (member().type.code == TypeCode::record)
             for (std::size_t i = 0; i < findResultsFields.size(); ++i)
                 observed.result +=
@@ -230,41 +259,41 @@ class EachMember : public ::testing::TestWithParam<Walked> {
             if (member().slots[i].byReference && !use.arguments[i].isMissing())
                 observed.arguments.push_back(
                     shown(global->get(u"argument" + Variant(static_cast<Long>(i)).toText()), withKind()));
-        observed.state = stateOfAll(subject, *scriptBox);
+        observed.state = stateOfAll(subject, *bench.scriptBox);
         return observed;
     }
 
     Variant run(const MemberUse& use) {
-        host.run(programFor(language(), member(), use));
-        std::vector<Variant> target{objectFrom(object.get())};
+        bench.host.run(programFor(language(), member(), use));
+        std::vector<Variant> target{objectFrom(bench.object.get())};
         try {
-            return host.object()->call(u"Use", target);
+            return bench.host.object()->call(u"Use", target);
         } catch (const RuntimeError&) {
-            ADD_FAILURE() << use.shown()
-                          << " failed: " << (host.failures().empty() ? "" : host.failures().back().what());
+            ADD_FAILURE() << use.shown() << " failed: "
+                          << (bench.host.failures().empty() ? "" : bench.host.failures().back().what());
             return {};
         }
     }
 
+    static void TearDownTestSuite() { bench_.reset(); }
+
+  private:
+    static Bench& benchFor(const Walked& walked) {
+        if (!bench_ || &bench_->owner != walked.owner || benchLanguage_ != walked.language) {
+            bench_.reset();
+            bench_ = std::make_unique<Bench>(*walked.owner, walked.language);
+            benchLanguage_ = walked.language;
+        }
+        return *bench_;
+    }
+
+    static inline std::unique_ptr<Bench> bench_;
+    static inline ScriptLanguage benchLanguage_{};
+
+  protected:
     BoxWatch watch;
-    Component component;
     ScratchFolder folder;
-    ScriptHost host{language()};
-    ComRef<IDispatch> object = component.make(toUtf8(GetParam().owner->name)).as<IDispatch>();
-
-    PictureRef picture = std::make_shared<BitmapPicture>(Bitmap(3, 2));
-    FontRef font = std::make_shared<Font>(FontSpec{u"Tahoma", 12, true});
-    ObjectRef placedObject = objectFrom(toIDispatch(TestObject::control(300)).get());
-    std::shared_ptr<ListBox> scriptBox = std::make_shared<ListBox>();
-    std::shared_ptr<ListBox> coreBox = std::make_shared<ListBox>();
-
-    Win32Runtime runtime{GetModuleHandleW(nullptr)};
-    Win32World world{GetModuleHandleW(nullptr)};
-    TestHost testHost;
-    RecordingEvents events;
-    lmListView list{world, testHost, events};
-    SpEv spEv{runtime};
-    Error error;
+    Bench& bench = benchFor(GetParam());
 };
 
 TEST_P(EachMember, GivesAScriptWhatTheCoreGives) {
