@@ -4,12 +4,11 @@
 #include "platform/runtime_error.h"
 #include "platform/text.h"
 #include "platform/win32/com_error.h"
+#include "platform/win32/counted_object.h"
 #include "platform/win32/dispatch_object.h"
-#include "platform/win32/module_lock.h"
 #include "platform/win32/variant_bridge.h"
 #include "platform/win32/write_back.h"
 
-#include <atomic>
 #include <new>
 #include <vector>
 
@@ -19,29 +18,9 @@ namespace {
 
 /// Numbers names in the order in which it is asked for them: whether there is such a member shows in the
 /// call.
-class ObjectDispatch final : public IDispatch {
+class ObjectDispatch final : public CountedObject<IDispatch> {
   public:
     explicit ObjectDispatch(ObjectRef object) : object_(std::move(object)) {}
-    ObjectDispatch(const ObjectDispatch&) = delete;
-    ObjectDispatch& operator=(const ObjectDispatch&) = delete;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
-        if (found == nullptr)
-            return E_POINTER;
-        *found = nullptr;
-        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IDispatch))
-            return E_NOINTERFACE;
-        *found = static_cast<IDispatch*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
         if (count == nullptr)
@@ -69,13 +48,9 @@ class ObjectDispatch final : public IDispatch {
     const ObjectRef& object() const { return object_; }
 
   private:
-    ~ObjectDispatch() = default;
-
     DISPID idOf(StringView name);
     Variant perform(StringView name, WORD kind, const DISPPARAMS& parameters);
 
-    std::atomic<ULONG> references_{1};
-    ModuleLock lock_;
     ObjectRef object_;
     std::vector<String> names_; ///< by id, from 1
 };
