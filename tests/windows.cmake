@@ -77,7 +77,7 @@ add_dependencies(lumtex_test_story LumtexListView)
 lumtex_tests(lifetime SLOW LINK lumtex_automation lumtex_win32)
 add_dependencies(lumtex_test_lifetime LumtexListView)
 # It takes longest, so it starts first.
-set_tests_properties(lifetime PROPERTIES COST 1000 TIMEOUT 900)
+set_tests_properties(lifetime PROPERTIES COST 1000)
 add_test(NAME component COMMAND "${PROJECT_SOURCE_DIR}/scripts/check-component" $<TARGET_FILE:LumtexListView>)
 
 get_property(programs GLOBAL PROPERTY LUMTEX_TEST_PROGRAMS)

@@ -69,10 +69,11 @@ void WheelSubclass::WndProc(HWND hWnd, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CALLBACK WheelSubclass::WheelProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam) noexcept {
     auto* const own = static_cast<HWND>(GetPropW(hWnd, wheelWnd));
-    auto* const wheel = static_cast<WheelSubclass*>(GetPropW(own, wheelPtr));
-    auto* const old = reinterpret_cast<WNDPROC>(GetPropW(own, oldWheelProc));
-    if (uMsg != WM_MOUSEWHEEL)
+    if (uMsg != WM_MOUSEWHEEL) {
+        auto* const old = reinterpret_cast<WNDPROC>(GetPropW(own, oldWheelProc));
         return CallWindowProcW(old, hWnd, uMsg, wParam, lParam);
+    }
+    auto* const wheel = static_cast<WheelSubclass*>(GetPropW(own, wheelPtr));
     try {
         if (wheel != nullptr) {
             const ComRef<IUnknown> alive(wheel->world_.owner);

@@ -74,8 +74,8 @@ void Win32TextBox::letVisible(bool visible) {
 }
 
 void Win32TextBox::letTabStop(bool tabStop) {
-    tabStop_ = tabStop;
-    if (hwnd_ == nullptr)
+    const bool hadTabStop = std::exchange(tabStop_, tabStop);
+    if (hwnd_ == nullptr || tabStop == hadTabStop)
         return;
     const LONG_PTR style = GetWindowLongPtrW(hwnd_, GWL_STYLE);
     SetWindowLongPtrW(hwnd_, GWL_STYLE, tabStop ? style | WS_TABSTOP : style & ~LONG_PTR{WS_TABSTOP});

@@ -135,7 +135,7 @@ void Win32Window::resizeSurface(Long width, Long height) {
 void Win32Window::letVisible(bool visible) {
     const bool wasVisible = std::exchange(visible_, visible);
     HWND window = hwnd_;
-    if (!visible)
+    if (!visible && wasVisible)
         loseInput();
     if (visible != wasVisible)
         ShowWindow(window, visible ? SW_SHOWNA : SW_HIDE);
@@ -144,9 +144,9 @@ void Win32Window::letVisible(bool visible) {
 }
 
 void Win32Window::letEnabled(bool enabled) {
-    enabled_ = enabled;
+    const bool wasEnabled = std::exchange(enabled_, enabled);
     HWND window = hwnd_;
-    if (!enabled)
+    if (!enabled && wasEnabled)
         loseInput();
     EnableWindow(window, enabled ? TRUE : FALSE);
 }
