@@ -169,8 +169,9 @@ class Runtime {
     virtual Integer asyncKeyState(Long virtualKey) = 0;
     virtual void shellExecute(const ShellRequest& request) = 0;
 
-    virtual Long twipsPerPixelX() const = 0;
-    virtual Long twipsPerPixelY() const = 0;
+    /// 15 on a screen of 96 pixels to the inch, 7.5 on one of 192.
+    virtual Single twipsPerPixelX() const = 0;
+    virtual Single twipsPerPixelY() const = 0;
 };
 
 } // namespace lumtex

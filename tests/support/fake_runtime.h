@@ -145,8 +145,8 @@ class FakeRuntime final : public Runtime {
     }
     ObjectRef applicationObject() override { return application; }
 
-    Long twipsPerPixelX() const override { return 15; }
-    Long twipsPerPixelY() const override { return 15; }
+    Single twipsPerPixelX() const override { return 15; }
+    Single twipsPerPixelY() const override { return 15; }
 
   private:
     void demandFolderOf(StringView path) const {

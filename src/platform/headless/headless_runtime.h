@@ -92,8 +92,8 @@ class HeadlessRuntime final : public Runtime {
     Integer asyncKeyState(Long virtualKey) override;
     /// Noted, not opened.
     void shellExecute(const ShellRequest& request) override { opened.push_back(request); }
-    Long twipsPerPixelX() const override { return 15; }
-    Long twipsPerPixelY() const override { return 15; }
+    Single twipsPerPixelX() const override { return 15; }
+    Single twipsPerPixelY() const override { return 15; }
 
     /// Of the current user.
     void letSetting(StringView key, StringView name, StringView text);

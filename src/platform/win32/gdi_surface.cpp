@@ -2,6 +2,7 @@
 
 #include "platform/rounding.h"
 #include "platform/win32/gdi_color.h"
+#include "platform/win32/screen_density.h"
 
 #include <algorithm>
 #include <utility>
@@ -43,11 +44,8 @@ GdiSurface::GdiSurface(Long width, Long height, Long pixelsPerInchX, Long pixels
 GdiSurface::~GdiSurface() = default;
 
 std::unique_ptr<GdiSurface> makeGdiSurface(Long width, Long height) {
-    const HDC screen = GetDC(nullptr);
-    const Long x = GetDeviceCaps(screen, LOGPIXELSX);
-    const Long y = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return std::make_unique<GdiSurface>(width, height, x, y);
+    const PixelDensity density = screenDensity();
+    return std::make_unique<GdiSurface>(width, height, density.x, density.y);
 }
 
 void GdiSurface::prepare() {

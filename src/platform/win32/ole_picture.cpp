@@ -5,6 +5,7 @@
 #include "platform/win32/memory_bitmap.h"
 #include "platform/win32/object_pairs.h"
 #include "platform/win32/property_sink.h"
+#include "platform/win32/screen_density.h"
 
 #include <algorithm>
 #include <optional>
@@ -54,11 +55,8 @@ SIZE pixelSizeOf(IPicture* picture, short type) {
     OLE_YSIZE_HIMETRIC height = 0;
     picture->get_Width(&width);
     picture->get_Height(&height);
-    const HDC screen = GetDC(nullptr);
-    const SIZE size{pixelsOf(width, GetDeviceCaps(screen, LOGPIXELSX)),
-                    pixelsOf(height, GetDeviceCaps(screen, LOGPIXELSY))};
-    ReleaseDC(nullptr, screen);
-    return size;
+    const PixelDensity density = screenDensity();
+    return {pixelsOf(width, density.x), pixelsOf(height, density.y)};
 }
 
 void renderOver(IPicture* picture, const MemoryBitmap& sheet, DWORD ground) {

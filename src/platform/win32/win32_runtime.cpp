@@ -14,7 +14,7 @@ namespace lumtex {
 
 namespace {
 
-constexpr Long twipsPerInch = 1440;
+constexpr Single twipsPerInch = 1440;
 
 /// The file of a module; empty where the system does not tell.
 String moduleFile(HINSTANCE module) {
@@ -59,16 +59,14 @@ class KernelHandle {
 
 } // namespace
 
-Win32Runtime::Win32Runtime(HINSTANCE instance) : component_(componentOf(instance)) {
-    if (HDC screen = GetDC(nullptr)) {
-        const int perInchX = GetDeviceCaps(screen, LOGPIXELSX);
-        const int perInchY = GetDeviceCaps(screen, LOGPIXELSY);
-        if (perInchX > 0 && perInchY > 0) {
-            twipsPerPixelX_ = twipsPerInch / perInchX;
-            twipsPerPixelY_ = twipsPerInch / perInchY;
-        }
-        ReleaseDC(nullptr, screen);
-    }
+Win32Runtime::Win32Runtime(HINSTANCE instance)
+    : component_(componentOf(instance)), density_(screenDensity()) {}
+
+Single Win32Runtime::twipsPerPixelX() const {
+    return twipsPerInch / static_cast<Single>(density_.x);
+}
+Single Win32Runtime::twipsPerPixelY() const {
+    return twipsPerInch / static_cast<Single>(density_.y);
 }
 
 Win32Runtime::~Win32Runtime() {

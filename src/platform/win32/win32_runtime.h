@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/runtime.h"
+#include "platform/win32/screen_density.h"
 #include "platform/win32/windows_api.h"
 
 #include <functional>
@@ -65,8 +66,8 @@ class Win32Runtime : public Runtime {
                           std::span<char16_t> sizeName) const override;
     Integer asyncKeyState(Long virtualKey) override;
     void shellExecute(const ShellRequest& request) override;
-    Long twipsPerPixelX() const override { return twipsPerPixelX_; }
-    Long twipsPerPixelY() const override { return twipsPerPixelY_; }
+    Single twipsPerPixelX() const override;
+    Single twipsPerPixelY() const override;
 
     /// Sees each message that `DoEvents` takes from the queue. True: it was dealt with. Must not throw.
     std::function<bool(MSG&)> onQueued;
@@ -89,8 +90,7 @@ class Win32Runtime : public Runtime {
 
   private:
     ComponentInfo component_;
-    Long twipsPerPixelX_ = 15;
-    Long twipsPerPixelY_ = 15;
+    PixelDensity density_;
     int yieldDepth_ = 0;
     std::map<Long, HANDLE> searches_; ///< those under way, by the number that stands for the handle
     Long lastSearch_ = 0;

@@ -3,6 +3,7 @@
 #include "platform/rounding.h"
 #include "platform/runtime_error.h"
 #include "platform/win32/com_ref.h"
+#include "platform/win32/screen_density.h"
 
 #include <algorithm>
 #include <utility>
@@ -84,7 +85,7 @@ void Win32TextBox::letTabStop(bool tabStop) {
 void Win32TextBox::setFont(const FontSpec& font) {
     font_ = font;
     const std::shared_ptr<const GdiFont> old = gdiFont_;
-    gdiFont_ = gdiFont(font, 1440 / world_.runtime().twipsPerPixelY());
+    gdiFont_ = gdiFont(font, screenDensity().y);
     SendMessageW(hwnd_, WM_SETFONT, reinterpret_cast<WPARAM>(gdiFont_->handle()), TRUE);
 }
 
