@@ -25,9 +25,10 @@ target_link_libraries(lumtex_test_raster PUBLIC lumtex_test_base lumtex_win32)
 # Windows knows no quota of its own.
 set_source_files_properties(${backends}/headless/binary_files.cpp PROPERTIES COMPILE_DEFINITIONS EDQUOT=ENOSPC)
 
-# One program per folder: `lumtex_test_<folder>`, run by ctest through Wine.
+# One program per folder: `lumtex_test_<folder>`, run by ctest through Wine, one after another: there is one mouse, one
+# keyboard, and one window in front. One that is ALONE has a display and a prefix of its own beside the others.
 function(lumtex_tests folder)
-    cmake_parse_arguments(TESTS "SLOW" "" "LINK" ${ARGN})
+    cmake_parse_arguments(TESTS "ALONE" "" "LINK" ${ARGN})
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${folder}/*.cpp)
     if(NOT sources)
         return()
@@ -35,9 +36,14 @@ function(lumtex_tests folder)
     set(name lumtex_test_${folder})
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE ${TESTS_LINK} lumtex_test_base gtest_main)
-    add_test(NAME ${folder} COMMAND ${name})
-    if(TESTS_SLOW)
-        set_tests_properties(${folder} PROPERTIES LABELS slow)
+    if(TESTS_ALONE)
+        set(scripts "${PROJECT_SOURCE_DIR}/scripts")
+        add_test(NAME ${folder}
+                 COMMAND "${CMAKE_COMMAND}" -E env "LUMTEX_WINE_PREFIX=${PROJECT_BINARY_DIR}/wine-prefix"
+                         "${scripts}/on-display" "${scripts}/wine-run" $<TARGET_FILE:${name}>)
+    else()
+        add_test(NAME ${folder} COMMAND ${name})
+        set_tests_properties(${folder} PROPERTIES RESOURCE_LOCK display)
     endif()
     set_property(GLOBAL APPEND PROPERTY LUMTEX_TEST_PROGRAMS ${name})
 endfunction()
@@ -50,34 +56,28 @@ lumtex_tests(mirrored LINK lumtex_automation lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_mirrored PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)
 lumtex_tests(stage LINK lumtex_automation lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_stage PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)
-# There is one mouse and one keyboard.
-set_tests_properties(stage win32 PROPERTIES RUN_SERIAL ON)
 lumtex_tests(activex LINK lumtex_automation lumtex_win32)
 add_dependencies(lumtex_test_activex LumtexListView)
 # Scripts find the component through the program's manifest.
 enable_language(RC)
 lumtex_tests(scripts LINK lumtex_automation lumtex_win32)
-set_tests_properties(scripts PROPERTIES RUN_SERIAL ON)
 target_sources(lumtex_test_scripts PRIVATE scripts/scripts.rc)
 set_source_files_properties(scripts/scripts.rc PROPERTIES OBJECT_DEPENDS
                                                           "${CMAKE_CURRENT_SOURCE_DIR}/scripts/scripts.manifest")
 add_dependencies(lumtex_test_scripts LumtexListView)
 lumtex_tests(samples LINK lumtex_test_raster lumtex_win32)
-set_tests_properties(samples PROPERTIES RUN_SERIAL ON)
 target_sources(lumtex_test_samples PRIVATE stage/user_input.cpp)
 add_dependencies(lumtex_test_samples LumtexListView cities)
 lumtex_tests(hosting LINK lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_hosting PRIVATE stage/user_input.cpp)
-set_tests_properties(hosting PROPERTIES RUN_SERIAL ON)
 add_dependencies(lumtex_test_hosting LumtexListView)
 lumtex_tests(story LINK lumtex_test_raster lumtex_win32 windowscodecs)
-set_tests_properties(story PROPERTIES RUN_SERIAL ON)
 target_sources(lumtex_test_story PRIVATE stage/user_input.cpp)
 add_dependencies(lumtex_test_story LumtexListView)
-lumtex_tests(lifetime SLOW LINK lumtex_automation lumtex_win32)
+lumtex_tests(lifetime ALONE LINK lumtex_automation lumtex_win32)
 add_dependencies(lumtex_test_lifetime LumtexListView)
-# It takes longest, so it starts first.
-set_tests_properties(lifetime PROPERTIES COST 1000)
+# It takes longest, so it starts first. The time is for machines that do other things, too.
+set_tests_properties(lifetime PROPERTIES COST 1000 TIMEOUT 1500)
 add_test(NAME component COMMAND "${PROJECT_SOURCE_DIR}/scripts/check-component" $<TARGET_FILE:LumtexListView>)
 
 get_property(programs GLOBAL PROPERTY LUMTEX_TEST_PROGRAMS)
