@@ -56,6 +56,8 @@ lumtex_tests(mirrored LINK lumtex_automation lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_mirrored PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)
 lumtex_tests(stage LINK lumtex_automation lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_stage PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)
+# It starts programs on a screen that it changes for all.
+lumtex_tests(density LINK lumtex_control lumtex_test_raster lumtex_win32)
 lumtex_tests(activex LINK lumtex_automation lumtex_win32)
 add_dependencies(lumtex_test_activex LumtexListView)
 # Scripts find the component through the program's manifest.
