@@ -10,10 +10,17 @@
 #include <shellapi.h>
 #include <uxtheme.h>
 
+// In 32-bit programs the linker's names also tell the bytes of the arguments.
+#ifdef __i386__
+#define LUMTEX_IMPORTED(name, bytes) __asm__("__imp__" #name "@" #bytes)
+#else
+#define LUMTEX_IMPORTED(name, bytes) __asm__("__imp_" #name)
+#endif
+
 extern "C" {
-extern decltype(sndPlaySoundW)* __imp_sndPlaySoundW;
-extern decltype(ShellExecuteW)* __imp_ShellExecuteW;
-extern decltype(GetCurrentThemeName)* __imp_GetCurrentThemeName;
+extern decltype(sndPlaySoundW)* __imp_sndPlaySoundW LUMTEX_IMPORTED(sndPlaySoundW, 8);
+extern decltype(ShellExecuteW)* __imp_ShellExecuteW LUMTEX_IMPORTED(ShellExecuteW, 24);
+extern decltype(GetCurrentThemeName)* __imp_GetCurrentThemeName LUMTEX_IMPORTED(GetCurrentThemeName, 24);
 }
 
 namespace lumtex::testing {
