@@ -4,19 +4,13 @@
 #include "activex/guid.h"
 #include "activex/module.h"
 #include "platform/win32/com_error.h"
+#include "platform/win32/screen_density.h"
 
 namespace lumtex {
 
 namespace {
 
 constexpr LONG himetricPerInch = 2540;
-
-SIZE pixelsPerInch(HWND window) {
-    const HDC screen = GetDC(window);
-    const SIZE density{GetDeviceCaps(screen, LOGPIXELSX), GetDeviceCaps(screen, LOGPIXELSY)};
-    ReleaseDC(window, screen);
-    return density;
-}
 
 } // namespace
 
@@ -111,10 +105,10 @@ SIZE ControlCore::size() {
 SIZEL ControlCore::extent() {
     if (firstExtent_)
         return *firstExtent_;
-    const SIZE density = pixelsPerInch(window());
+    const PixelDensity density = screenDensity();
     const Window& place = list_->window();
-    return {MulDiv(static_cast<int>(place.Width()), himetricPerInch, density.cx),
-            MulDiv(static_cast<int>(place.Height()), himetricPerInch, density.cy)};
+    return {MulDiv(static_cast<int>(place.Width()), himetricPerInch, density.x),
+            MulDiv(static_cast<int>(place.Height()), himetricPerInch, density.y)};
 }
 
 void ControlCore::letExtent(SIZEL extent) {
@@ -122,12 +116,12 @@ void ControlCore::letExtent(SIZEL extent) {
         firstExtent_ = extent;
         return;
     }
-    const SIZE density = pixelsPerInch(window());
+    const PixelDensity density = screenDensity();
     Window& place = list_->window();
     place.place(place.Left(),
                 place.Top(),
-                static_cast<Single>(MulDiv(extent.cx, density.cx, himetricPerInch)),
-                static_cast<Single>(MulDiv(extent.cy, density.cy, himetricPerInch)));
+                static_cast<Single>(MulDiv(extent.cx, density.x, himetricPerInch)),
+                static_cast<Single>(MulDiv(extent.cy, density.y, himetricPerInch)));
     viewChanged();
 }
 

@@ -1,6 +1,7 @@
 #include "windows_stage.h"
 
 #include "manual_ticks.h"
+#include "platform/nesting_level.h"
 #include "platform/rounding.h"
 #include "recording_events.h"
 #include "scenarios/report_line.h"
@@ -26,7 +27,7 @@ class StageRuntime final : public Win32Runtime {
     int depth = 0;                            ///< yields and boxes that are under way
 
     void DoEvents() override {
-        const Level level(depth);
+        const NestingLevel level(depth);
         if (!yields.empty()) {
             const std::function<void()> body = std::move(yields.front());
             yields.pop_front();
@@ -36,7 +37,7 @@ class StageRuntime final : public Win32Runtime {
     }
     bool hasPendingEvents() const override { return !yields.empty() || Win32Runtime::hasPendingEvents(); }
     void messageBox(StringView text, Long /*style*/, StringView /*title*/) override {
-        const Level level(depth);
+        const NestingLevel level(depth);
         onBox(text);
         deliver();
     }
@@ -46,18 +47,6 @@ class StageRuntime final : public Win32Runtime {
             Win32Runtime::DoEvents();
         while (Win32Runtime::hasPendingEvents());
     }
-
-  private:
-    class Level {
-      public:
-        explicit Level(int& depth) : depth_(depth) { ++depth_; }
-        Level(const Level&) = delete;
-        Level& operator=(const Level&) = delete;
-        ~Level() { --depth_; }
-
-      private:
-        int& depth_;
-    };
 };
 
 /// Takes the focus from the list.

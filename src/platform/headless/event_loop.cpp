@@ -1,20 +1,10 @@
 #include "platform/headless/event_loop.h"
 
+#include "platform/nesting_level.h"
+
 namespace lumtex {
 
 namespace {
-
-/// Counts a level, also when a test leaves it by an exception.
-class Level {
-  public:
-    explicit Level(int& depth) : depth_(depth) { ++depth_; }
-    Level(const Level&) = delete;
-    Level& operator=(const Level&) = delete;
-    ~Level() { --depth_; }
-
-  private:
-    int& depth_;
-};
 
 bool deliverFirst(std::deque<std::function<void()>>& queue) {
     if (queue.empty())
@@ -36,7 +26,7 @@ void EventLoop::run() {
         return;
     if (runDepth_ == 0)
         budget_ = longestRun;
-    const Level level(runDepth_);
+    const NestingLevel level(runDepth_);
     while (budget_ > 0) {
         --budget_;
         if (!deliverOne()) {
@@ -49,7 +39,7 @@ void EventLoop::run() {
 void EventLoop::yield(const std::function<void()>& before) {
     if (yieldDepth_ == deepest)
         return;
-    const Level level(yieldDepth_);
+    const NestingLevel level(yieldDepth_);
     before();
     run();
 }

@@ -1,4 +1,5 @@
 /// Letting the messages of the thread through.
+#include "platform/nesting_level.h"
 #include "platform/win32/win32_runtime.h"
 
 #include <algorithm>
@@ -8,17 +9,6 @@
 namespace lumtex {
 
 namespace {
-
-class Level {
-  public:
-    explicit Level(int& depth) : depth_(depth) { ++depth_; }
-    Level(const Level&) = delete;
-    Level& operator=(const Level&) = delete;
-    ~Level() { --depth_; }
-
-  private:
-    int& depth_;
-};
 
 /// The timers that ticked in one yield.
 class Ticks {
@@ -50,7 +40,7 @@ bool takeMessage(MSG& message, bool& isWide) {
 void Win32Runtime::DoEvents() {
     if (yieldDepth_ == deepestYield)
         return;
-    const Level level(yieldDepth_);
+    const NestingLevel level(yieldDepth_);
     Ticks ticks;
     MSG message{};
     bool isWide = true;

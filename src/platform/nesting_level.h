@@ -1,0 +1,19 @@
+/// \file
+/// How deep calls are nested.
+#pragma once
+
+namespace lumtex {
+
+/// Counts one level for as long as it lives, also where an exception leaves it. `depth` must outlive it.
+class NestingLevel {
+  public:
+    explicit NestingLevel(int& depth) : depth_(depth) { ++depth_; }
+    NestingLevel(const NestingLevel&) = delete;
+    NestingLevel& operator=(const NestingLevel&) = delete;
+    ~NestingLevel() { --depth_; }
+
+  private:
+    int& depth_;
+};
+
+} // namespace lumtex
