@@ -4,6 +4,7 @@
 
 #include "automation/argument.h"
 #include "automation/found_record.h"
+#include "automation/identifiers.h"
 #include "automation/member.h"
 #include "model/list_view.h"
 
@@ -121,11 +122,10 @@ constexpr void sameCount(std::size_t names, std::size_t parameters) {
 }
 
 template <auto get>
-constexpr Member
-readOnly(Long number, StringView name, StringView help, std::initializer_list<Named> names = {}) {
+constexpr Member readOnly(StringView name, StringView help, std::initializer_list<Named> names = {}) {
     using Get = Function<get>;
     sameCount(names.size(), Get::count);
-    Member member{number,
+    Member member{numberOf(name),
                   name,
                   help,
                   typeOf<typename Get::Result>(),
@@ -140,11 +140,11 @@ readOnly(Long number, StringView name, StringView help, std::initializer_list<Na
 }
 
 template <auto get, auto let>
-constexpr Member property(
-    Long number, StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
+constexpr Member
+property(StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
     using Let = Function<let>;
     sameCount(names.size() + 1, Let::count);
-    Member member = readOnly<get>(number, name, help, names);
+    Member member = readOnly<get>(name, help, names);
     if (member.type != Let::types.back())
         throw "what is read has the type of what is assigned";
     member.repaint = repaint;
@@ -159,12 +159,20 @@ constexpr Member hidden(Member member) {
 }
 
 template <auto function>
-constexpr Member method(
-    Long number, StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
+constexpr Member
+method(StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
     using Call = Function<function>;
     sameCount(names.size(), Call::count);
-    Member member{
-        number, name, help, typeOf<typename Call::Result>(), repaint, {}, 0, nullptr, nullptr, &Call::invoke};
+    Member member{numberOf(name),
+                  name,
+                  help,
+                  typeOf<typename Call::Result>(),
+                  repaint,
+                  {},
+                  0,
+                  nullptr,
+                  nullptr,
+                  &Call::invoke};
     nameParameters<Call>(member, names);
     return member;
 }

@@ -10,103 +10,84 @@ using namespace detail;
 
 constexpr auto members = std::to_array<Member>({
     property<&lmListView::ItemFontBold, &lmListView::letItemFontBold>(
-        400, u"ItemFontBold", Repaint::asAutoRedraw, u"Whether the text is bold.", {u"Row", u"Column"}),
+        u"ItemFontBold", Repaint::asAutoRedraw, u"Whether the text is bold.", {u"Row", u"Column"}),
     property<&lmListView::ItemFontItalic, &lmListView::letItemFontItalic>(
-        401, u"ItemFontItalic", Repaint::asAutoRedraw, u"Whether the text is italic.", {u"Row", u"Column"}),
+        u"ItemFontItalic", Repaint::asAutoRedraw, u"Whether the text is italic.", {u"Row", u"Column"}),
     property<&lmListView::ItemFontUnderline, &lmListView::letItemFontUnderline>(
-        402,
-        u"ItemFontUnderline",
-        Repaint::asAutoRedraw,
-        u"Whether the text is underlined.",
-        {u"Row", u"Column"}),
+        u"ItemFontUnderline", Repaint::asAutoRedraw, u"Whether the text is underlined.", {u"Row", u"Column"}),
     property<&lmListView::ItemFontStrikethrough, &lmListView::letItemFontStrikethrough>(
-        403,
         u"ItemFontStrikethrough",
         Repaint::asAutoRedraw,
         u"Whether the text is struck through.",
         {u"Row", u"Column"}),
     property<&lmListView::ItemFontSize, &lmListView::letItemFontSize>(
-        404, u"ItemFontSize", Repaint::asAutoRedraw, u"Size of the text in points.", {u"Row", u"Column"}),
+        u"ItemFontSize", Repaint::asAutoRedraw, u"Size of the text in points.", {u"Row", u"Column"}),
     property<&lmListView::ItemFontName, &lmListView::letItemFontName>(
-        405, u"ItemFontName", Repaint::asAutoRedraw, u"Typeface of the text.", {u"Row", u"Column"}),
+        u"ItemFontName", Repaint::asAutoRedraw, u"Typeface of the text.", {u"Row", u"Column"}),
     property<&lmListView::ItemForeColor, &lmListView::letItemForeColor>(
-        406, u"ItemForeColor", Repaint::asAutoRedraw, u"Colour of the text.", {u"Row", u"Column"}),
+        u"ItemForeColor", Repaint::asAutoRedraw, u"Colour of the text.", {u"Row", u"Column"}),
     property<&lmListView::ItemBackColor, &lmListView::letItemBackColor>(
-        407,
         u"ItemBackColor",
         Repaint::asAutoRedraw,
         u"Background of the cell, or \"def\" for that of the list.",
         {u"Row", u"Column"}),
     property<&lmListView::ItemForeColorSelect, &lmListView::letItemForeColorSelect>(
-        408,
         u"ItemForeColorSelect",
         Repaint::asAutoRedraw,
         u"Colour of the text while selected, or \"def\" for white.",
         {u"Row", u"Column"}),
     property<&lmListView::ItemBackColorSelect, &lmListView::letItemBackColorSelect>(
-        409,
         u"ItemBackColorSelect",
         Repaint::asAutoRedraw,
         u"Background while selected, or \"def\" for the colour of the scheme.",
         {u"Row", u"Column"}),
     property<&lmListView::ItemForeColorDis, &lmListView::letItemForeColorDis>(
-        410,
         u"ItemForeColorDis",
         Repaint::asAutoRedraw,
         u"Colour of the text while disabled.",
         {u"Row", u"Column"}),
     property<&lmListView::ItemBackColorDis, &lmListView::letItemBackColorDis>(
-        411, u"ItemBackColorDis", Repaint::asAutoRedraw, u"Background while disabled.", {u"Row", u"Column"}),
+        u"ItemBackColorDis", Repaint::asAutoRedraw, u"Background while disabled.", {u"Row", u"Column"}),
     property<&lmListView::ItemTag, &lmListView::letItemTag>(
-        412, u"ItemTag", Repaint::never, u"Value that the control keeps for the host.", {u"Row", u"Column"}),
+        u"ItemTag", Repaint::never, u"Value that the control keeps for the host.", {u"Row", u"Column"}),
     property<&lmListView::ItemEnabled, &lmListView::letItemEnabled>(
-        413,
         u"ItemEnabled",
         Repaint::never,
         u"Whether the cell is enabled. Shown by the next paint.",
         {u"Row", u"Column"}),
     property<&lmListView::ItemIcon, &lmListView::setItemIcon>(
-        414, u"ItemIcon", Repaint::asAutoRedraw, u"Icon of the cell.", {u"Row", u"Column"}),
+        u"ItemIcon", Repaint::asAutoRedraw, u"Icon of the cell.", {u"Row", u"Column"}),
     property<&lmListView::ItemIconSelected, &lmListView::setItemIconSelected>(
-        415,
-        u"ItemIconSelected",
-        Repaint::asAutoRedraw,
-        u"Icon of the cell while selected.",
-        {u"Row", u"Column"}),
+        u"ItemIconSelected", Repaint::asAutoRedraw, u"Icon of the cell while selected.", {u"Row", u"Column"}),
     property<&lmListView::ItemAllowEdit, &lmListView::letItemAllowEdit>(
-        416,
         u"ItemAllowEdit",
         Repaint::asAutoRedraw,
         u"Whether the cell may be edited in place.",
         {u"Row", u"Column"}),
     property<&lmListView::ItemChecked, &lmListView::letItemChecked>(
-        417,
         u"ItemChecked",
         Repaint::asAutoRedraw,
         u"Check mark of the cell. The count of its column follows; no event is raised.",
         {u"Row", u"Column"}),
     property<&lmListView::ItemAlignment, &lmListView::letItemAlignment>(
-        418, u"ItemAlignment", Repaint::asAutoRedraw, u"Place of the text.", {u"Row", u"Column"}),
+        u"ItemAlignment", Repaint::asAutoRedraw, u"Place of the text.", {u"Row", u"Column"}),
     property<&lmListView::ItemIconAlignment, &lmListView::letItemIconAlignment>(
-        419, u"ItemIconAlignment", Repaint::asAutoRedraw, u"Place of the icon.", {u"Row", u"Column"}),
+        u"ItemIconAlignment", Repaint::asAutoRedraw, u"Place of the icon.", {u"Row", u"Column"}),
     property<&lmListView::ItemText, &lmListView::letItemText>(
-        420, u"ItemText", Repaint::asAutoRedraw, u"Text of the cell.", {u"Row", u"Column"}),
+        u"ItemText", Repaint::asAutoRedraw, u"Text of the cell.", {u"Row", u"Column"}),
     property<&lmListView::ItemToolTip, &lmListView::letItemToolTip>(
-        421, u"ItemToolTip", Repaint::asAutoRedraw, u"Tool tip of the cell.", {u"Row", u"Column"}),
+        u"ItemToolTip", Repaint::asAutoRedraw, u"Tool tip of the cell.", {u"Row", u"Column"}),
     readOnly<&lmListView::ItemTextWidth>(
-        422,
         u"ItemTextWidth",
         u"Width of the text in pixels, as the last paint measured it; 0 for a cell never painted.",
         {u"Row", u"Column"}),
     property<&lmListView::ItemObject, &lmListView::setItemObject>(
-        423,
         u"ItemObject",
         Repaint::asAutoRedraw,
         u"Control of the host that is shown over the cell. One with a window becomes a child of the list. A "
         u"failure is told by ListViewError.",
         {u"Row", u"Column"}),
     method<&lmListView::ItemsCheckedCount>(
-        424,
         u"ItemsCheckedCount",
         Repaint::never,
         u"Checked cells of a column; of all columns for a number that no column has.",

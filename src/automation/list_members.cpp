@@ -20,7 +20,6 @@ constexpr auto autoColumnSize =
 
 constexpr auto members = std::to_array<Member>({
     method<&lmListView::ColumnsAdd>(
-        1,
         u"ColumnsAdd",
         Repaint::asAutoRedraw,
         u"Appends a column, and an empty cell to every row. The width is in twips; a colour of 0 is black.",
@@ -37,19 +36,16 @@ constexpr auto members = std::to_array<Member>({
          orNumber(u"aForeColorHover", 0),
          orNumber(u"aForeColorDown", 0)}),
     method<&lmListView::ColumnsClear>(
-        2,
         u"ColumnsClear",
         Repaint::asAutoRedraw,
         u"Removes all columns. Rows keep their cells, so clear the rows first for an empty list."),
     method<&lmListView::ColumnsRemove>(
-        3,
         u"ColumnsRemove",
         Repaint::asAutoRedraw,
         u"Checks the scroll bars and repaints. The columns stay: a single column cannot be removed.",
         {u"Index"}),
-    readOnly<&lmListView::ColumnsCount>(4, u"ColumnsCount", u"The number of columns."),
+    readOnly<&lmListView::ColumnsCount>(u"ColumnsCount", u"The number of columns."),
     method<rowsAdd>(
-        5,
         u"RowsAdd",
         Repaint::asAutoRedraw,
         u"Inserts a row before the 0-based place, or appends it where that is out of range, and writes back "
@@ -57,75 +53,62 @@ constexpr auto members = std::to_array<Member>({
         u"takes no rows.",
         {orNumber(u"aIndex", -1), orText(u"aSplit", u","), orMissing(u"aItemTexts")}),
     method<rowsRemove>(
-        6,
         u"RowsRemove",
         Repaint::asAutoRedraw,
         u"Removes the row with the 1-based number. A number out of range removes nothing and is not "
         u"reported. The host gets its turn after each row that moves up.",
         {u"Index"}),
     method<&lmListView::RowsSelectedRemove>(
-        7, u"RowsSelectedRemove", Repaint::always, u"Removes all selected rows and paints once at the end."),
-    method<&lmListView::RowsClear>(8,
-                                   u"RowsClear",
-                                   Repaint::asAutoRedraw,
-                                   u"Removes all rows. ListIndex and NewIndex keep their numbers."),
-    readOnly<&lmListView::RowsCount>(9, u"RowsCount", u"The number of rows."),
+        u"RowsSelectedRemove", Repaint::always, u"Removes all selected rows and paints once at the end."),
+    method<&lmListView::RowsClear>(
+        u"RowsClear", Repaint::asAutoRedraw, u"Removes all rows. ListIndex and NewIndex keep their numbers."),
+    readOnly<&lmListView::RowsCount>(u"RowsCount", u"The number of rows."),
     method<&lmListView::RowSelectedCount>(
-        10, u"RowSelectedCount", Repaint::never, u"The number of selected rows, counted anew."),
+        u"RowSelectedCount", Repaint::never, u"The number of selected rows, counted anew."),
     method<&lmListView::WrongIndex>(
-        11,
         u"WrongIndex",
         Repaint::never,
         u"True for whatever is no number, and for every index once the list has had a row.",
         {u"Index"}),
     method<&lmListView::WrongColumnIndex>(
-        12,
         u"WrongColumnIndex",
         Repaint::never,
         u"True for whatever is no number, and for every index once the list has had a column.",
         {u"Index"}),
     readOnly<&lmListView::NewIndex>(
-        13,
-        u"NewIndex",
-        u"The 0-based place of the row last added. It is not corrected when rows move or go."),
+        u"NewIndex", u"The 0-based place of the row last added. It is not corrected when rows move or go."),
     property<&lmListView::ListIndex, &lmListView::letListIndex>(
-        14,
         u"ListIndex",
         Repaint::asAutoRedraw,
         u"The current row, 0-based; -1 for none. A number that no enabled row has is refused with "
         u"ErrorWrongIndex. Reading gives the host its turn once."),
     property<&lmListView::RowIndex, &lmListView::letRowIndex>(
-        15,
         u"RowIndex",
         Repaint::asAutoRedraw,
         u"The current row, 1-based; 0 for none. Assigning also scrolls to the row."),
     property<&lmListView::TopIndex, &lmListView::letTopIndex>(
-        16, u"TopIndex", Repaint::asAutoRedraw, u"The first row shown, 0-based."),
-    method<&lmListView::CheckScroll>(17,
-                                     u"CheckScroll",
+        u"TopIndex", Repaint::asAutoRedraw, u"The first row shown, 0-based."),
+    method<&lmListView::CheckScroll>(u"CheckScroll",
                                      Repaint::never,
                                      u"Decides anew which scroll bars are needed, and how far they reach."),
     method<&lmListView::Redraw>(
-        18, u"Redraw", Repaint::always, u"Paints the whole control, whatever AutoRedraw says."),
+        u"Redraw", Repaint::always, u"Paints the whole control, whatever AutoRedraw says."),
     method<&lmListView::ClearListView>(
-        19,
         u"ClearListView",
         Repaint::never,
         u"Erases the picture, not the content, which comes back with the next paint."),
     method<&lmListView::StopEdit>(
-        20, u"StopEdit", Repaint::never, u"Closes the in-place editor and drops what was typed."),
-    readOnly<&lmListView::hwnd>(21, u"hwnd", u"The number of the control's window."),
-    readOnly<&lmListView::hwndEdit>(22, u"hwndEdit", u"The number of the in-place editor's window."),
+        u"StopEdit", Repaint::never, u"Closes the in-place editor and drops what was typed."),
+    readOnly<&lmListView::hwnd>(u"hwnd", u"The number of the control's window."),
+    readOnly<&lmListView::hwndEdit>(u"hwndEdit", u"The number of the in-place editor's window."),
     method<&lmListView::SetEdit>(
-        23,
         u"SetEdit",
         Repaint::asAutoRedraw,
         u"Opens the in-place editor over a cell, with the whole text selected. No permission is asked for.",
         {u"Row", u"Column"}),
-    readOnly<&lmListView::ColumnIndex>(
-        24, u"ColumnIndex", u"The 1-based column under the last press or release; -1 for none."),
-    method<&lmListView::Sort>(25,
-                              u"Sort",
+    readOnly<&lmListView::ColumnIndex>(u"ColumnIndex",
+                                       u"The 1-based column under the last press or release; -1 for none."),
+    method<&lmListView::Sort>(u"Sort",
                               Repaint::never,
                               u"Orders the rows by the texts of a column and raises SortDone. -1 drops the "
                               u"sort mark, which repaints. "
@@ -133,10 +116,9 @@ constexpr auto members = std::to_array<Member>({
                               {byReference(u"Column"),
                                byReference(orNumber(u"SortMode", 0)),
                                byReference(orNumber(u"SortType", cSortText))}),
-    readOnly<&lmListView::SortColumnIndex>(
-        26, u"SortColumnIndex", u"The 1-based column of the last sort; -1 for none."),
-    method<findItem>(27,
-                     u"FindItem",
+    readOnly<&lmListView::SortColumnIndex>(u"SortColumnIndex",
+                                           u"The 1-based column of the last sort; -1 for none."),
+    method<findItem>(u"FindItem",
                      Repaint::never,
                      u"Looks for the first cell whose text, or tag behind \"<itemtag>\", matches a pattern. "
                      u"Columns and rows are "
@@ -147,29 +129,26 @@ constexpr auto members = std::to_array<Member>({
                       byReference(orNumber(u"cCompare", cFindBinary)),
                       orText(u"sColumns", u"*"),
                       orText(u"sRows", u"*")}),
-    method<autoColumnSize>(28,
-                           u"AutoColumnSize",
+    method<autoColumnSize>(u"AutoColumnSize",
                            Repaint::always,
                            u"Makes the columns with these numbers as wide as the widest text painted in "
                            u"them, or as their header; "
                            u"without a number all of them.",
                            {anyNumberOf(u"lColumns")}),
-    method<&lmListView::ContentSave>(29,
-                                     u"ContentSave",
+    method<&lmListView::ContentSave>(u"ContentSave",
                                      Repaint::never,
                                      u"Writes the texts of all cells, and on demand their looks, tags and "
                                      u"icons, to a file. A file of that "
                                      u"name is deleted first. Returns True; failures are reported.",
                                      {u"sFilename", orFalse(u"bSaveItemProperties")}),
     method<&lmListView::ContentInput>(
-        30,
         u"ContentInput",
         Repaint::always,
         u"Clears the rows and fills the list from such a file; the columns stay. Returns False, with nothing "
         u"changed, where there is no file.",
         {u"sFilename", orFalse(u"bReadItemPropertiesIfExists")}),
     method<&lmListView::About>(
-        -552, u"About", Repaint::never, u"Shows the about box and returns once it was closed."),
+        u"About", Repaint::never, u"Shows the about box and returns once it was closed."),
 });
 
 } // namespace

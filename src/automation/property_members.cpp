@@ -10,221 +10,178 @@ using namespace detail;
 
 constexpr auto members = std::to_array<Member>({
     property<&lmListView::DefaultItemFont, &lmListView::setDefaultItemFont>(
-        100,
         u"DefaultItemFont",
         Repaint::asAutoRedraw,
         u"Font of new cells. A clone is kept, and existing cells keep theirs."),
     property<&lmListView::DefaultItemForeColor, &lmListView::letDefaultItemForeColor>(
-        101,
         u"DefaultItemForeColor",
         Repaint::asAutoRedraw,
         u"Text colour of new cells. Existing cells keep theirs."),
     property<&lmListView::BackColor, &lmListView::letBackColor>(
-        102, u"BackColor", Repaint::always, u"Background of the list."),
+        u"BackColor", Repaint::always, u"Background of the list."),
     property<&lmListView::BackColorDisabled, &lmListView::letBackColorDisabled>(
-        103, u"BackColorDisabled", Repaint::always, u"Background of the list while the control is disabled."),
+        u"BackColorDisabled", Repaint::always, u"Background of the list while the control is disabled."),
     property<&lmListView::Enabled, &lmListView::letEnabled>(
-        104,
-        u"Enabled",
-        Repaint::always,
-        u"Whether the control takes presses and keys. The scroll bars follow."),
+        u"Enabled", Repaint::always, u"Whether the control takes presses and keys. The scroll bars follow."),
     property<&lmListView::ClickOnIndexChange, &lmListView::letClickOnIndexChange>(
-        105,
         u"ClickOnIndexChange",
         Repaint::never,
         u"Whether assigning ListIndex raises Click before the index changes."),
     property<&lmListView::ColorStyle, &lmListView::letColorStyle>(
-        106,
         u"ColorStyle",
         Repaint::asAutoRedraw,
         u"Scheme of headers and selection. Any but cCustom is handed on to ScrollColorStyle."),
     property<&lmListView::BorderColor, &lmListView::letBorderColor>(
-        107, u"BorderColor", Repaint::always, u"Colour of the border in the custom scheme."),
+        u"BorderColor", Repaint::always, u"Colour of the border in the custom scheme."),
     property<&lmListView::Style, &lmListView::letStyle>(
-        108, u"Style", Repaint::asAutoRedraw, u"Whether rows show check boxes."),
+        u"Style", Repaint::asAutoRedraw, u"Whether rows show check boxes."),
     property<&lmListView::FullRowSelect, &lmListView::letFullRowSelect>(
-        109,
         u"FullRowSelect",
         Repaint::asAutoRedraw,
         u"Whether the selection covers all columns or the first alone."),
     property<&lmListView::AllowEdit, &lmListView::letAllowEdit>(
-        110,
         u"AllowEdit",
         Repaint::never,
         u"Whether a second press opens the in-place editor, in cells that allow it too."),
     property<&lmListView::ValueColor, &lmListView::letValueColor>(
-        111, u"ValueColor", Repaint::asAutoRedraw, u"Background of selected cells in the custom scheme."),
+        u"ValueColor", Repaint::asAutoRedraw, u"Background of selected cells in the custom scheme."),
     property<&lmListView::BorderVisible, &lmListView::letBorderVisible>(
-        112, u"BorderVisible", Repaint::asAutoRedraw, u"Whether a border is drawn."),
+        u"BorderVisible", Repaint::asAutoRedraw, u"Whether a border is drawn."),
     property<&lmListView::IndentTop, &lmListView::letIndentTop>(
-        113, u"IndentTop", Repaint::asAutoRedraw, u"Kept for the host in pixels; painting does not use it."),
+        u"IndentTop", Repaint::asAutoRedraw, u"Kept for the host in pixels; painting does not use it."),
     property<&lmListView::IndentLeft, &lmListView::letIndentLeft>(
-        114, u"IndentLeft", Repaint::asAutoRedraw, u"Kept for the host in pixels; painting does not use it."),
+        u"IndentLeft", Repaint::asAutoRedraw, u"Kept for the host in pixels; painting does not use it."),
     property<&lmListView::IndentRight, &lmListView::letIndentRight>(
-        115,
-        u"IndentRight",
-        Repaint::asAutoRedraw,
-        u"Kept for the host in pixels; painting does not use it."),
+        u"IndentRight", Repaint::asAutoRedraw, u"Kept for the host in pixels; painting does not use it."),
     property<&lmListView::IndentBottom, &lmListView::letIndentBottom>(
-        116,
-        u"IndentBottom",
-        Repaint::asAutoRedraw,
-        u"Kept for the host in pixels; painting does not use it."),
+        u"IndentBottom", Repaint::asAutoRedraw, u"Kept for the host in pixels; painting does not use it."),
     property<&lmListView::DistPicText, &lmListView::letDistPicText>(
-        117, u"DistPicText", Repaint::asAutoRedraw, u"Pixels between icon and text."),
+        u"DistPicText", Repaint::asAutoRedraw, u"Pixels between icon and text."),
     property<&lmListView::AutoCheckScroll, &lmListView::letAutoCheckScroll>(
-        118,
         u"AutoCheckScroll",
         Repaint::never,
         u"Whether a change of the content checks the scroll bars. Switching it on checks them at once."),
     property<&lmListView::AutoRedraw, &lmListView::letAutoRedraw>(
-        119,
         u"AutoRedraw",
         Repaint::always,
         u"Whether a change repaints at once. Switch it off around bulk changes; switching it on repaints."),
     property<&lmListView::IconSelect, &lmListView::letIconSelect>(
-        120, u"IconSelect", Repaint::asAutoRedraw, u"Kept for the host; painting does not use it."),
+        u"IconSelect", Repaint::asAutoRedraw, u"Kept for the host; painting does not use it."),
     property<&lmListView::IconW, &lmListView::letIconW>(
-        121, u"IconW", Repaint::asAutoRedraw, u"Width of cell icons in pixels, for columns added later."),
+        u"IconW", Repaint::asAutoRedraw, u"Width of cell icons in pixels, for columns added later."),
     property<&lmListView::IconH, &lmListView::letIconH>(
-        122, u"IconH", Repaint::asAutoRedraw, u"Height of cell icons in pixels, for columns added later."),
+        u"IconH", Repaint::asAutoRedraw, u"Height of cell icons in pixels, for columns added later."),
     property<&lmListView::ColumnIconW, &lmListView::letColumnIconW>(
-        123, u"ColumnIconW", Repaint::asAutoRedraw, u"Width of header icons in pixels."),
+        u"ColumnIconW", Repaint::asAutoRedraw, u"Width of header icons in pixels."),
     property<&lmListView::ColumnIconH, &lmListView::letColumnIconH>(
-        124, u"ColumnIconH", Repaint::asAutoRedraw, u"Height of header icons in pixels."),
+        u"ColumnIconH", Repaint::asAutoRedraw, u"Height of header icons in pixels."),
     property<&lmListView::ScrollColorStyle, &lmListView::letScrollColorStyle>(
-        125, u"ScrollColorStyle", Repaint::never, u"Scheme of the scroll bars."),
+        u"ScrollColorStyle", Repaint::never, u"Scheme of the scroll bars."),
     property<&lmListView::GridLines, &lmListView::letGridLines>(
-        126, u"GridLines", Repaint::asAutoRedraw, u"Whether lines are drawn between cells."),
+        u"GridLines", Repaint::asAutoRedraw, u"Whether lines are drawn between cells."),
     property<&lmListView::GridLineColor, &lmListView::letGridLineColor>(
-        127, u"GridLineColor", Repaint::asAutoRedraw, u"Colour of the lines between cells."),
+        u"GridLineColor", Repaint::asAutoRedraw, u"Colour of the lines between cells."),
     property<&lmListView::MultiSelect, &lmListView::letMultiSelect>(
-        128, u"MultiSelect", Repaint::never, u"Whether several rows can be selected."),
+        u"MultiSelect", Repaint::never, u"Whether several rows can be selected."),
     property<&lmListView::HideColumnHeaders, &lmListView::letHideColumnHeaders>(
-        129, u"HideColumnHeaders", Repaint::asAutoRedraw, u"Whether the headers are left out."),
+        u"HideColumnHeaders", Repaint::asAutoRedraw, u"Whether the headers are left out."),
     property<&lmListView::ColumnTextY, &lmListView::letColumnTextY>(
-        130, u"ColumnTextY", Repaint::asAutoRedraw, u"Pixels above the text of a header."),
+        u"ColumnTextY", Repaint::asAutoRedraw, u"Pixels above the text of a header."),
     property<&lmListView::MoveColumnTextAtDown, &lmListView::letMoveColumnTextAtDown>(
-        131, u"MoveColumnTextAtDown", Repaint::never, u"Whether a pressed header moves its text by a pixel."),
+        u"MoveColumnTextAtDown", Repaint::never, u"Whether a pressed header moves its text by a pixel."),
     property<&lmListView::DefaultColumnFont, &lmListView::setDefaultColumnFont>(
-        132, u"DefaultColumnFont", Repaint::asAutoRedraw, u"Font of all headers. A clone is kept."),
+        u"DefaultColumnFont", Repaint::asAutoRedraw, u"Font of all headers. A clone is kept."),
     property<&lmListView::DefaultColumnForeColor, &lmListView::letDefaultColumnForeColor>(
-        133,
         u"DefaultColumnForeColor",
         Repaint::asAutoRedraw,
         u"Text colour of headers while a column is being added."),
     property<&lmListView::EmptyColumnFieldWidth, &lmListView::letEmptyColumnFieldWidth>(
-        134, u"EmptyColumnFieldWidth", Repaint::asAutoRedraw, u"Twips of free space behind the last column."),
+        u"EmptyColumnFieldWidth", Repaint::asAutoRedraw, u"Twips of free space behind the last column."),
     property<&lmListView::ColumnBackColor, &lmListView::letColumnBackColor>(
-        135, u"ColumnBackColor", Repaint::asAutoRedraw, u"Background of headers in the custom scheme."),
+        u"ColumnBackColor", Repaint::asAutoRedraw, u"Background of headers in the custom scheme."),
     property<&lmListView::ColumnHoverColor, &lmListView::letColumnHoverColor>(
-        136,
         u"ColumnHoverColor",
         Repaint::asAutoRedraw,
         u"Background of the header under the pointer in the custom scheme."),
     property<&lmListView::ColumnDownColor, &lmListView::letColumnDownColor>(
-        137,
-        u"ColumnDownColor",
-        Repaint::asAutoRedraw,
-        u"Background of the pressed header in the custom scheme."),
+        u"ColumnDownColor", Repaint::asAutoRedraw, u"Background of the pressed header in the custom scheme."),
     property<&lmListView::RowsDynamic, &lmListView::letRowsDynamic>(
-        138,
         u"RowsDynamic",
         Repaint::asAutoRedraw,
         u"Whether each row is as high as its content needs, or RowHeight."),
     property<&lmListView::RowHeight, &lmListView::letRowHeight>(
-        139, u"RowHeight", Repaint::asAutoRedraw, u"Height of a row in twips, where RowsDynamic is False."),
+        u"RowHeight", Repaint::asAutoRedraw, u"Height of a row in twips, where RowsDynamic is False."),
     property<&lmListView::ScrollBackColor, &lmListView::letScrollBackColor>(
-        140, u"ScrollBackColor", Repaint::asAutoRedraw, u"Trough of the scroll bars in the custom scheme."),
+        u"ScrollBackColor", Repaint::asAutoRedraw, u"Trough of the scroll bars in the custom scheme."),
     property<&lmListView::ScrollArrows, &lmListView::letScrollArrows>(
-        141, u"ScrollArrows", Repaint::asAutoRedraw, u"Arrows of the scroll bars in the custom scheme."),
+        u"ScrollArrows", Repaint::asAutoRedraw, u"Arrows of the scroll bars in the custom scheme."),
     property<&lmListView::ScrollButtons, &lmListView::letScrollButtons>(
-        142,
-        u"ScrollButtons",
-        Repaint::asAutoRedraw,
-        u"Arrow buttons of the scroll bars in the custom scheme."),
+        u"ScrollButtons", Repaint::asAutoRedraw, u"Arrow buttons of the scroll bars in the custom scheme."),
     property<&lmListView::ScrollBar, &lmListView::letScrollBar>(
-        143, u"ScrollBar", Repaint::asAutoRedraw, u"Thumbs of the scroll bars in the custom scheme."),
+        u"ScrollBar", Repaint::asAutoRedraw, u"Thumbs of the scroll bars in the custom scheme."),
     property<&lmListView::ScrollArrowsDown, &lmListView::letScrollArrowsDown>(
-        144, u"ScrollArrowsDown", Repaint::asAutoRedraw, u"Arrows while pressed, in the custom scheme."),
+        u"ScrollArrowsDown", Repaint::asAutoRedraw, u"Arrows while pressed, in the custom scheme."),
     property<&lmListView::ScrollButtonsDown, &lmListView::letScrollButtonsDown>(
-        145,
-        u"ScrollButtonsDown",
-        Repaint::asAutoRedraw,
-        u"Arrow buttons while pressed, in the custom scheme."),
+        u"ScrollButtonsDown", Repaint::asAutoRedraw, u"Arrow buttons while pressed, in the custom scheme."),
     property<&lmListView::ScrollBarDown, &lmListView::letScrollBarDown>(
-        146, u"ScrollBarDown", Repaint::asAutoRedraw, u"Thumbs while pressed, in the custom scheme."),
+        u"ScrollBarDown", Repaint::asAutoRedraw, u"Thumbs while pressed, in the custom scheme."),
     property<&lmListView::ScrollArrowsHover, &lmListView::letScrollArrowsHover>(
-        147, u"ScrollArrowsHover", Repaint::asAutoRedraw, u"Arrows under the pointer, in the custom scheme."),
+        u"ScrollArrowsHover", Repaint::asAutoRedraw, u"Arrows under the pointer, in the custom scheme."),
     property<&lmListView::ScrollButtonsHover, &lmListView::letScrollButtonsHover>(
-        148,
         u"ScrollButtonsHover",
         Repaint::asAutoRedraw,
         u"Arrow buttons under the pointer, in the custom scheme."),
     property<&lmListView::ScrollBarHover, &lmListView::letScrollBarHover>(
-        149, u"ScrollBarHover", Repaint::asAutoRedraw, u"Thumbs under the pointer, in the custom scheme."),
+        u"ScrollBarHover", Repaint::asAutoRedraw, u"Thumbs under the pointer, in the custom scheme."),
     property<&lmListView::EmptyColumnFieldColor, &lmListView::letEmptyColumnFieldColor>(
-        150,
         u"EmptyColumnFieldColor",
         Repaint::asAutoRedraw,
         u"Colour of the header area behind the last column."),
     property<&lmListView::WheelFunction, &lmListView::letWheelFunction>(
-        151,
-        u"WheelFunction",
-        Repaint::never,
-        u"What the wheel moves: the view, the current row, or nothing."),
+        u"WheelFunction", Repaint::never, u"What the wheel moves: the view, the current row, or nothing."),
     property<&lmListView::WheelScrollLines, &lmListView::letWheelScrollLines>(
-        152, u"WheelScrollLines", Repaint::never, u"Rows that one notch of the wheel moves."),
+        u"WheelScrollLines", Repaint::never, u"Rows that one notch of the wheel moves."),
     property<&lmListView::DefaultIconSelectedIsIcon, &lmListView::letDefaultIconSelectedIsIcon>(
-        153,
         u"DefaultIconSelectedIsIcon",
         Repaint::asAutoRedraw,
         u"Whether a selected cell without a picture of its own for that shows its plain icon."),
     property<&lmListView::ScrollButtonJumpLines, &lmListView::letScrollButtonJumpLines>(
-        154,
         u"ScrollButtonJumpLines",
         Repaint::never,
         u"Rows that one press of an arrow button moves. A number below 1 is dropped."),
     property<&lmListView::TextPositionDefault, &lmListView::letTextPositionDefault>(
-        155,
         u"TextPositionDefault",
         Repaint::asAutoRedraw,
         u"Vertical place of the text in rows added later. The host is not told of the change."),
     property<&lmListView::DrawItemIcons, &lmListView::letDrawItemIcons>(
-        156, u"DrawItemIcons", Repaint::always, u"Whether cell icons are drawn."),
+        u"DrawItemIcons", Repaint::always, u"Whether cell icons are drawn."),
     property<&lmListView::DrawColumnIcons, &lmListView::letDrawColumnIcons>(
-        157, u"DrawColumnIcons", Repaint::always, u"Whether header icons are drawn."),
+        u"DrawColumnIcons", Repaint::always, u"Whether header icons are drawn."),
     property<&lmListView::BackgroundPicture, &lmListView::setBackgroundPicture>(
-        158, u"BackgroundPicture", Repaint::always, u"Picture that fills the background of the list."),
+        u"BackgroundPicture", Repaint::always, u"Picture that fills the background of the list."),
     property<&lmListView::Skin, &lmListView::setSkin>(
-        159,
         u"Skin",
         Repaint::always,
         u"Strip of pictures that the headers are drawn with; none for the built-in one."),
     property<&lmListView::FixColumns, &lmListView::letFixColumns>(
-        160, u"FixColumns", Repaint::never, u"Whether columns keep their widths under the mouse."),
+        u"FixColumns", Repaint::never, u"Whether columns keep their widths under the mouse."),
     property<&lmListView::CheckMouseOver, &lmListView::letCheckMouseOver>(
-        161, u"CheckMouseOver", Repaint::never, u"Whether the header under the pointer changes its look."),
+        u"CheckMouseOver", Repaint::never, u"Whether the header under the pointer changes its look."),
     property<&lmListView::OLEDragMode, &lmListView::letOLEDragMode>(
-        162,
-        u"OLEDragMode",
-        Repaint::never,
-        u"How a drag from the control starts; 2 allows copying and moving."),
+        u"OLEDragMode", Repaint::never, u"How a drag from the control starts; 2 allows copying and moving."),
     property<&lmListView::OLEDropMode, &lmListView::letOLEDropMode>(
-        163, u"OLEDropMode", Repaint::never, u"Whether the control takes drops."),
+        u"OLEDropMode", Repaint::never, u"Whether the control takes drops."),
     property<&lmListView::AutoRowColor, &lmListView::letAutoRowColor>(
-        164, u"AutoRowColor", Repaint::asAutoRedraw, u"Whether rows take turns with two background colours."),
+        u"AutoRowColor", Repaint::asAutoRedraw, u"Whether rows take turns with two background colours."),
     property<&lmListView::RowColorFirst, &lmListView::letRowColorFirst>(
-        165, u"RowColorFirst", Repaint::asAutoRedraw, u"Background of every other row, from the first on."),
+        u"RowColorFirst", Repaint::asAutoRedraw, u"Background of every other row, from the first on."),
     property<&lmListView::RowColorSecond, &lmListView::letRowColorSecond>(
-        166, u"RowColorSecond", Repaint::asAutoRedraw, u"Background of the rows between."),
+        u"RowColorSecond", Repaint::asAutoRedraw, u"Background of the rows between."),
     property<&lmListView::HideSelection, &lmListView::letHideSelection>(
-        167,
         u"HideSelection",
         Repaint::asAutoRedraw,
         u"Whether the selection is hidden while the control has no focus."),
     hidden(property<&lmListView::Recordset, &lmListView::setRecordset>(
-        168,
         u"Recordset",
         Repaint::always,
         u"Assigning an object with RecordCount, fields, MoveFirst, MoveNext and EOF takes its fields as "

@@ -10,26 +10,23 @@ using namespace detail;
 
 constexpr auto members = std::to_array<Member>({
     property<&lmListView::RowEnabled, &lmListView::letRowEnabled>(
-        300,
         u"RowEnabled",
         Repaint::asAutoRedraw,
         u"Whether the row can be chosen. Assigning enables or disables its cells too.",
         {u"Index"}),
     property<&lmListView::RowSelected, &lmListView::letRowSelected>(
-        301,
         u"RowSelected",
         Repaint::asAutoRedraw,
         u"Whether the row is selected. Selecting scrolls to it, and without MultiSelect drops the other "
         u"rows. ListIndex does not follow.",
         {u"Index"}),
     property<&lmListView::RowChecked, &lmListView::letRowChecked>(
-        302,
         u"RowChecked",
         Repaint::asAutoRedraw,
         u"Check mark of the row. Those of its cells are not touched.",
         {u"Index"}),
     property<&lmListView::TextPosition, &lmListView::letTextPosition>(
-        303, u"TextPosition", Repaint::asAutoRedraw, u"Vertical place of the text in the row.", {u"Index"}),
+        u"TextPosition", Repaint::asAutoRedraw, u"Vertical place of the text in the row.", {u"Index"}),
 });
 
 } // namespace

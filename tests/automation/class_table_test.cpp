@@ -1,5 +1,6 @@
 /// The classes that hosts create beside the control.
 #include "automation/call_by_name.h"
+#include "automation/identifiers.h"
 #include "error_number.h"
 #include "fake_runtime.h"
 #include "platform/text.h"
@@ -89,6 +90,18 @@ TEST(Classes, TheHelperCallsReachTheRuntime) {
     EXPECT_EQ(byName.call(u"FileExists", there), Variant(true));
     std::vector<Variant> notThere{u"b.txt"};
     EXPECT_EQ(byName.call(u"FileExists", notThere), Variant(false));
+}
+
+TEST(Classes, EveryNumberIsThatOfAMemberAndNoNameStandsTwice) {
+    std::multiset<String> numbered;
+    for (const MemberNumber& entry : memberNumbers)
+        numbered.emplace(entry.name);
+    std::multiset<String> members;
+    for (const ClassDescription& description : classTable())
+        for (const Member& member : description.members)
+            members.emplace(member.name);
+    EXPECT_EQ(numbered, members);
+    EXPECT_EQ(std::set<String>(numbered.begin(), numbered.end()).size(), numbered.size());
 }
 
 } // namespace
