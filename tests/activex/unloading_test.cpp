@@ -1,5 +1,6 @@
 /// The module may go when nobody holds anything of it, and not before.
 #include "event_sink.h"
+#include "scratch_folder.h"
 
 #include <functional>
 
@@ -154,6 +155,41 @@ TEST_F(Unloading, AHostsOwnFontKeepsNothing) {
     }
     EXPECT_TRUE(component.canUnload());
     EXPECT_EQ(font->put_Bold(TRUE), S_OK);
+}
+
+TEST_F(Unloading, APictureReadFromAFileOutlivesItsControl) {
+    const ScratchFolder folder;
+    const String file = folder.pathTo("icons.lst");
+    ComRef<IUnknown> held;
+    {
+        PICTDESC description{};
+        description.cbSizeofstruct = sizeof(description);
+        description.picType = PICTYPE_BITMAP;
+        description.bmp.hbitmap = CreateBitmap(16, 16, 1, 32, std::vector<BYTE>(16 * 16 * 4, 0x80).data());
+        ComRef<IDispatch> picture;
+        demand(OleCreatePictureIndirect(
+            &description, IID_IPictureDisp, TRUE, reinterpret_cast<void**>(picture.out())));
+        const ComRef<IUnknown> first = makeList();
+        const auto list = first.as<IDispatch>();
+        VARIANT icon;
+        V_VT(&icon) = VT_DISPATCH;
+        V_DISPATCH(&icon) = picture.get();
+        ASSERT_EQ(invoke(list.get(),
+                         idOf(list.get(), L"ItemIcon"),
+                         DISPATCH_PROPERTYPUTREF,
+                         {toVARIANT(Long{1}).release(), toVARIANT(Long{1}).release(), icon})
+                      .result,
+                  S_OK);
+        invoke(list.get(), L"ContentSave", DISPATCH_METHOD, {file, true});
+        const ComRef<IUnknown> second = makeList();
+        invoke(second.as<IDispatch>().get(), L"ContentInput", DISPATCH_METHOD, {file, true});
+        held = resultOf(second, L"ItemIcon", DISPATCH_PROPERTYGET, {Long{1}, Long{1}});
+    }
+    const auto picture = held.as<IPicture>();
+    ASSERT_TRUE(picture);
+    OLE_XSIZE_HIMETRIC width = 0;
+    EXPECT_EQ(picture->get_Width(&width), S_OK);
+    EXPECT_GT(width, 0);
 }
 
 TEST_F(Unloading, ASinkKeepsNothing) {
