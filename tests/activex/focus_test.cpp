@@ -34,6 +34,16 @@ class Focus : public PlacedControl {
         point = {};
     }
 
+    /// The container lets go of the control altogether.
+    void takeAway() {
+        point->Unadvise(cookie);
+        object->Close(OLECLOSE_NOSAVE);
+        object->SetClientSite(nullptr);
+        point = {};
+        object = {};
+        dispatch = {};
+        control = {};
+    }
     /// A new control in place of one that is gone.
     void renew() {
         control = component.make("lmListView");
@@ -111,15 +121,7 @@ TEST_F(Focus, TheEditorOfACellIsPartOfTheList) {
 TEST_F(Focus, AContainerMayTakeTheControlAwayWhenItsUserEnters) {
     place();
     HWND window = this->window();
-    container.onUIActivate = [&] {
-        point->Unadvise(cookie);
-        object->Close(OLECLOSE_NOSAVE);
-        object->SetClientSite(nullptr);
-        point = {};
-        object = {};
-        dispatch = {};
-        control = {};
-    };
+    container.onUIActivate = [&] { takeAway(); };
     SetFocus(window);
     EXPECT_FALSE(IsWindow(window));
     EXPECT_TRUE(component.canUnload());
@@ -131,15 +133,7 @@ TEST_F(Focus, AContainerMayTakeTheControlAwayWhenItsUserEnters) {
 TEST_F(Focus, AContainerMayTakeTheControlAwayForAKey) {
     place(OLEIVERB_UIACTIVATE);
     HWND window = this->window();
-    container.onTab = [&] {
-        point->Unadvise(cookie);
-        object->Close(OLECLOSE_NOSAVE);
-        object->SetClientSite(nullptr);
-        point = {};
-        object = {};
-        dispatch = {};
-        control = {};
-    };
+    container.onTab = [&] { takeAway(); };
     MSG tab{window, WM_KEYDOWN, VK_TAB, 0, 0, {}};
     ComRef<IOleInPlaceActiveObject> active = container.active;
     EXPECT_EQ(active->TranslateAccelerator(&tab), S_FALSE);

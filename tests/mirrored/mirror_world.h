@@ -2,9 +2,9 @@
 /// A simulated desktop whose windows are drawn by Windows as well.
 #pragma once
 
+#include "forwarding_window.h"
 #include "mirror_surface.h"
 #include "platform/headless/desktop.h"
-#include "platform/headless/headless_window.h"
 #include "win32/surface_pair.h"
 
 #include <memory>
@@ -18,41 +18,16 @@ struct Comparisons {
 };
 
 /// Compares both pictures each time it is presented, and once more before it goes.
-class MirrorWindow final : public Window {
+class MirrorWindow final : public ForwardingWindow {
   public:
     MirrorWindow(std::unique_ptr<Window> inner, Comparisons& comparisons)
-        : inner_(std::move(inner)), comparisons_(comparisons) {}
+        : ForwardingWindow(std::move(inner)), comparisons_(comparisons) {}
     ~MirrorWindow() override { compare(); }
 
-    WindowHandle hWnd() const override { return inner_->hWnd(); }
     Surface& surface() override { return surface_; }
-    Single Left() const override { return inner_->Left(); }
-    Single Top() const override { return inner_->Top(); }
-    Single Width() const override { return inner_->Width(); }
-    Single Height() const override { return inner_->Height(); }
-    void place(Single left, Single top, Single width, Single height) override {
-        inner_->place(left, top, width, height);
-    }
-    bool Visible() const override { return inner_->Visible(); }
-    void letVisible(bool visible) override { inner_->letVisible(visible); }
-    bool Enabled() const override { return inner_->Enabled(); }
-    void letEnabled(bool enabled) override { inner_->letEnabled(enabled); }
-    Integer OLEDropMode() const override { return inner_->OLEDropMode(); }
-    void letOLEDropMode(Integer mode) override { inner_->letOLEDropMode(mode); }
-    Integer MousePointer() const override { return inner_->MousePointer(); }
-    void letMousePointer(Integer shape) override { inner_->letMousePointer(shape); }
-    PictureRef MouseIcon() const override { return inner_->MouseIcon(); }
-    void setMouseIcon(PictureRef icon) override { inner_->setMouseIcon(std::move(icon)); }
-    void setFocus() override { inner_->setFocus(); }
-    void setCapture() override { inner_->setCapture(); }
-    void releaseCapture() override { inner_->releaseCapture(); }
-    bool pointerStrictlyInside() const override { return inner_->pointerStrictlyInside(); }
-    Point pointer() const override { return inner_->pointer(); }
-    bool underPointer() const override { return inner_->underPointer(); }
-    bool adopt(WindowHandle child) override { return inner_->adopt(child); }
     void present() override {
         compare();
-        inner_->present();
+        ForwardingWindow::present();
     }
 
   private:
@@ -65,9 +40,8 @@ class MirrorWindow final : public Window {
         surface_.disagreements = 0;
     }
 
-    std::unique_ptr<Window> inner_;
     Comparisons& comparisons_;
-    MirrorSurface surface_{static_cast<HeadlessWindow&>(*inner_).surface()};
+    MirrorSurface surface_{inner().surface()};
 };
 
 class MirrorWorld final : public World {

@@ -2,7 +2,7 @@
 /// A desktop whose windows draw through recording surfaces.
 #pragma once
 
-#include "platform/headless/headless_window.h"
+#include "forwarding_window.h"
 #include "recording_surface.h"
 
 #include <functional>
@@ -13,51 +13,24 @@
 
 namespace lumtex::testing {
 
-/// Hands everything on to a Desktop but the surface, which is a RecordingSurface.
-class RecordingWindow final : public Window {
+/// Draws through a RecordingSurface.
+class RecordingWindow final : public ForwardingWindow {
   public:
-    explicit RecordingWindow(std::unique_ptr<Window> inner) : inner_(std::move(inner)) {}
+    using ForwardingWindow::ForwardingWindow;
 
-    HeadlessWindow& inner() { return static_cast<HeadlessWindow&>(*inner_); }
     RecordingSurface& recorder() { return surface_; }
 
     std::function<void(bool)> onVisible; ///< before the window is shown or hidden
 
-    WindowHandle hWnd() const override { return inner_->hWnd(); }
     Surface& surface() override { return surface_; }
-    Single Left() const override { return inner_->Left(); }
-    Single Top() const override { return inner_->Top(); }
-    Single Width() const override { return inner_->Width(); }
-    Single Height() const override { return inner_->Height(); }
-    void place(Single left, Single top, Single width, Single height) override {
-        inner_->place(left, top, width, height);
-    }
-    bool Visible() const override { return inner_->Visible(); }
     void letVisible(bool visible) override {
         if (onVisible)
             onVisible(visible);
-        inner_->letVisible(visible);
+        ForwardingWindow::letVisible(visible);
     }
-    bool Enabled() const override { return inner_->Enabled(); }
-    void letEnabled(bool enabled) override { inner_->letEnabled(enabled); }
-    Integer OLEDropMode() const override { return inner_->OLEDropMode(); }
-    void letOLEDropMode(Integer mode) override { inner_->letOLEDropMode(mode); }
-    Integer MousePointer() const override { return inner_->MousePointer(); }
-    void letMousePointer(Integer shape) override { inner_->letMousePointer(shape); }
-    PictureRef MouseIcon() const override { return inner_->MouseIcon(); }
-    void setMouseIcon(PictureRef icon) override { inner_->setMouseIcon(std::move(icon)); }
-    void setFocus() override { inner_->setFocus(); }
-    void setCapture() override { inner_->setCapture(); }
-    void releaseCapture() override { inner_->releaseCapture(); }
-    bool pointerStrictlyInside() const override { return inner_->pointerStrictlyInside(); }
-    Point pointer() const override { return inner_->pointer(); }
-    bool underPointer() const override { return inner_->underPointer(); }
-    bool adopt(WindowHandle child) override { return inner_->adopt(child); }
-    void present() override { inner_->present(); }
 
   private:
-    std::unique_ptr<Window> inner_;
-    RecordingSurface surface_{inner_->surface()};
+    RecordingSurface surface_{inner().surface()};
 };
 
 class RecordingWorld final : public World {

@@ -84,11 +84,15 @@ Variant pictureIn(IDataObject& data) {
     description.picType = PICTYPE_BITMAP;
     description.bmp.hbitmap =
         static_cast<HBITMAP>(CopyImage(medium.bitmap(), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+    if (description.bmp.hbitmap == nullptr)
+        throw RuntimeError(outOfMemory);
     ComRef<IPictureDisp> picture;
     const HRESULT made = OleCreatePictureIndirect(
         &description, IID_IPictureDisp, TRUE, reinterpret_cast<void**>(picture.out()));
-    if (FAILED(made))
+    if (FAILED(made)) {
+        DeleteObject(description.bmp.hbitmap);
         throw RuntimeError(invalidProcedureCall);
+    }
     return Variant(pictureFrom(picture.get()));
 }
 
