@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 namespace {
 
@@ -17,7 +18,8 @@ using namespace lumtex::bench;
 
 constexpr std::int64_t rows = 1'000'000;
 
-const std::filesystem::path file = std::filesystem::temp_directory_path() / "lumtex_content_bench.dat";
+const std::filesystem::path file =
+    std::filesystem::temp_directory_path() / ("lumtex-bench-" + std::to_string(getpid()) + ".dat");
 
 String path() {
     return fromUtf8(file.string());

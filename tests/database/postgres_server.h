@@ -30,6 +30,8 @@ class PostgresServer {
   private:
     pid_t launch(const std::string& program, const std::initializer_list<std::string>& arguments) const;
     void end(int signal);
+    /// At a free port. No process is left where another server took the port in the meantime.
+    void start();
     void waitUntilReady();
 
     std::filesystem::path folder_;

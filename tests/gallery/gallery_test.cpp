@@ -2,6 +2,7 @@
 #include "directory_source.h"
 #include "list_fixture.h"
 #include "scenes.h"
+#include "scratch_folder.h"
 
 #include <fstream>
 
@@ -12,15 +13,7 @@ namespace fs = std::filesystem;
 /// A folder of its own, and a list to fill.
 class Gallery : public ::testing::Test {
   protected:
-    Gallery() {
-        list.UserControl_ReadProperties(MemoryPropertyBag());
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-    }
-    ~Gallery() override {
-        std::error_code failure;
-        fs::remove_all(folder, failure);
-    }
+    Gallery() { list.UserControl_ReadProperties(MemoryPropertyBag()); }
 
     fs::path file(const std::string& name, const std::string& content) const {
         std::ofstream(folder / name, std::ios::binary) << content;
@@ -36,8 +29,8 @@ class Gallery : public ::testing::Test {
         return "no failure";
     }
 
-    fs::path folder = fs::temp_directory_path() /
-                      ("lumtex-gallery-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
+    const ScratchFolder scratch;
+    const fs::path& folder = scratch.path;
     Desktop desktop{testFonts()};
     TestHost host;
     RecordingEvents events;

@@ -2,12 +2,11 @@
 #include "error_number.h"
 #include "platform/text.h"
 #include "platform/version.h"
+#include "scratch_folder.h"
 #include "test_object.h"
 
 #include <array>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace lumtex::testing {
 
@@ -162,50 +161,35 @@ TEST_F(RuntimeRules, TextConvertsByTheInvariantRules) {
     EXPECT_EQ(desktop.runtime().dateFromText(u"x"), std::nullopt);
 }
 
-/// A folder of its own, gone with the test.
 class AppendToFile : public DesktopFixture {
   protected:
-    AppendToFile() { std::filesystem::create_directories(folder); }
-    ~AppendToFile() override { std::filesystem::remove_all(folder); }
-
-    static std::string contentOf(const std::filesystem::path& file) {
-        std::ifstream stream(file, std::ios::binary);
-        std::ostringstream content;
-        content << stream.rdbuf();
-        return content.str();
-    }
-    String pathTo(const std::string& name) const { return fromUtf8((folder / name).string()); }
-
-    const std::filesystem::path folder =
-        std::filesystem::temp_directory_path() /
-        ("lumtex_headless_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-         ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    const ScratchFolder folder;
 };
 
 TEST_F(AppendToFile, GrowsTheFileAndKeepsLineEndsAsGiven) {
-    desktop.runtime().appendToFile(pathTo("log.txt"), u"größer\r\n");
-    desktop.runtime().appendToFile(pathTo("log.txt"), u"b\n");
-    EXPECT_EQ(contentOf(folder / "log.txt"),
+    desktop.runtime().appendToFile(folder.pathTo("log.txt"), u"größer\r\n");
+    desktop.runtime().appendToFile(folder.pathTo("log.txt"), u"b\n");
+    EXPECT_EQ(folder.contentOf("log.txt"),
               "gr\xC3\xB6\xC3\x9F"
               "er\r\nb\n");
 }
 
 TEST_F(AppendToFile, BackslashesSeparateFolders) {
-    std::filesystem::create_directories(folder / "inner");
-    String path = pathTo("inner");
+    std::filesystem::create_directories(folder.path / "inner");
+    String path = folder.pathTo("inner");
     path += u"\\log.txt";
     desktop.runtime().appendToFile(path, u"a");
-    EXPECT_EQ(contentOf(folder / "inner" / "log.txt"), "a");
+    EXPECT_EQ(folder.contentOf("inner/log.txt"), "a");
 }
 
 TEST_F(AppendToFile, FailsWithThePathWhereTheFolderDoesNotExist) {
-    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(pathTo("missing\\log.txt"), u"a"); }),
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(folder.pathTo("missing\\log.txt"), u"a"); }),
               pathNotFound);
-    EXPECT_FALSE(std::filesystem::exists(folder / "missing"));
+    EXPECT_FALSE(std::filesystem::exists(folder.path / "missing"));
 }
 
 TEST_F(AppendToFile, FailsWithTheAccessWhereTheFileCannotBeOpened) {
-    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(fromUtf8(folder.string()), u"a"); }),
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(fromUtf8(folder.path.string()), u"a"); }),
               pathFileAccess);
     EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(u"", u"a"); }), pathFileAccess);
 }

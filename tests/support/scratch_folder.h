@@ -8,19 +8,18 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 
 #include <gtest/gtest.h>
 
 namespace lumtex::testing {
 
-/// Empty at first, and gone with the object. Named after the test that makes it.
+/// Empty at first, and gone with the object. Named after the test that makes it, and nobody else's: the same
+/// test may run twice at once.
 class ScratchFolder {
   public:
-    ScratchFolder() {
-        std::filesystem::remove_all(path);
-        std::filesystem::create_directories(path);
-    }
+    ScratchFolder() = default;
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
     ~ScratchFolder() {
@@ -38,12 +37,24 @@ class ScratchFolder {
         std::ofstream(path / name, std::ios::binary) << bytes;
     }
 
-    const std::filesystem::path path = std::filesystem::temp_directory_path() / name();
+    const std::filesystem::path path = make();
 
   private:
-    /// Names of parameterised tests hold slashes.
+    /// One that did not exist: whoever makes a folder is told whether it was there.
+    static std::filesystem::path make() {
+        std::random_device random;
+        for (;;) {
+            std::filesystem::path made =
+                std::filesystem::temp_directory_path() / (name() + "_" + std::to_string(random()));
+            if (std::filesystem::create_directory(made))
+                return made;
+        }
+    }
+    /// Names of parameterised tests hold slashes. What a whole program shares may be made outside a test.
     static std::string name() {
         const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
+        if (test == nullptr)
+            return "lumtex";
         std::string name = std::string("lumtex_") + test->test_suite_name() + "_" + test->name();
         std::replace(name.begin(), name.end(), '/', '_');
         return name;

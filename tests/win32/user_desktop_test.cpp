@@ -2,6 +2,7 @@
 #include "platform/text.h"
 #include "platform/win32/win32_runtime.h"
 #include "replaced_import.h"
+#include "scratch_folder.h"
 
 #include <array>
 
@@ -86,13 +87,21 @@ TEST_F(UserDesktop, WhatIsLeftEmptyIsLeftToTheSystem) {
                                         "open 0 none 'https://example.com' none none 1"}));
 }
 
+/// The program may hold for a moment what it made, and the folder that it stands in.
+bool removed(const String& folder) {
+    constexpr int tries = 1000;
+    for (int i = 0; i < tries; ++i) {
+        if (RemoveDirectoryW(wide(folder)))
+            return true;
+        Sleep(20);
+    }
+    return false;
+}
+
 TEST_F(UserDesktop, AProgramIsStartedWithItsParametersInItsFolder) {
-    wchar_t temporary[MAX_PATH]{};
-    GetTempPathW(MAX_PATH, temporary);
-    const String folder = String(textOf(temporary)) + u"lumtex-shell-test";
+    const ScratchFolder scratch;
+    const String folder = fromUtf8(scratch.path.string());
     const String made = folder + u"\\made";
-    CreateDirectoryW(wide(folder), nullptr);
-    RemoveDirectoryW(wide(made));
     const HANDLE change = FindFirstChangeNotificationW(wide(folder), FALSE, FILE_NOTIFY_CHANGE_DIR_NAME);
     ShellRequest request = requestFor(u"cmd.exe", u"/c mkdir made", folder);
     request.show = SW_HIDE;
@@ -100,16 +109,8 @@ TEST_F(UserDesktop, AProgramIsStartedWithItsParametersInItsFolder) {
     constexpr DWORD enough = 20000; // milliseconds
     EXPECT_EQ(WaitForSingleObject(change, enough), WAIT_OBJECT_0);
     FindCloseChangeNotification(change);
-    // The program may hold what it made for a moment.
-    BOOL removed = FALSE;
-    for (int tries = 0; removed == FALSE && tries < 1000; ++tries) {
-        removed = RemoveDirectoryW(wide(made));
-        if (removed == FALSE)
-            Sleep(20);
-    }
-    EXPECT_NE(removed, FALSE);
-    // It stays where the program still stands in it.
-    RemoveDirectoryW(wide(folder));
+    EXPECT_TRUE(removed(made)) << "the program made it";
+    EXPECT_TRUE(removed(folder));
 }
 
 TEST_F(UserDesktop, AProgramThatIsNotThereIsNoFailure) {

@@ -3,6 +3,7 @@
 #include "platform/text.h"
 #include "platform/version.h"
 #include "platform/win32/win32_runtime.h"
+#include "scratch_folder.h"
 #include "services/current_exe_path.h"
 #include "services/registry_value.h"
 #include "services/sp_ev.h"
@@ -17,20 +18,9 @@ namespace {
 
 class SystemRuntime : public ::testing::Test {
   protected:
-    SystemRuntime() {
-        wchar_t temporary[MAX_PATH]{};
-        GetTempPathW(MAX_PATH, temporary);
-        folder = String(textOf(temporary)) + u"lumtex-runtime-test\\";
-        CreateDirectoryW(wide(folder), nullptr);
-    }
-    ~SystemRuntime() override {
-        for (const char16_t* name : {u"a.txt", u"b.bin"})
-            DeleteFileW(wide(folder + name));
-        RemoveDirectoryW(wide(folder));
-    }
-
     Win32Runtime runtime{GetModuleHandleW(nullptr)};
-    String folder;
+    const ScratchFolder scratch;
+    const String folder = scratch.pathTo("");
 };
 
 TEST_F(SystemRuntime, NamesItsModule) {
@@ -52,20 +42,20 @@ TEST_F(SystemRuntime, ListsItselfAmongTheProcesses) {
 
 class StoredValues : public SystemRuntime {
   protected:
-    StoredValues() { RegCreateKeyW(HKEY_CURRENT_USER, L"Software\\LumtexRuntimeTest", &key_); }
+    StoredValues() { RegCreateKeyW(HKEY_CURRENT_USER, wide(path_), &key_); }
     ~StoredValues() override {
         RegCloseKey(key_);
-        RegDeleteKeyW(HKEY_CURRENT_USER, L"Software\\LumtexRuntimeTest");
+        RegDeleteKeyW(HKEY_CURRENT_USER, wide(path_));
     }
 
     void store(DWORD type, const void* data, std::size_t size) {
         RegSetValueExW(key_, L"Value", 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size));
     }
-    String read() {
-        return RegistryValue(runtime, currentUserHive, u"Software\\LumtexRuntimeTest", u"Value");
-    }
+    String read() { return RegistryValue(runtime, currentUserHive, path_, u"Value"); }
 
   private:
+    /// Of this program's own, as its folder is.
+    const String path_ = u"Software\\" + fromUtf8(scratch.path.filename().string());
     HKEY key_ = nullptr;
 };
 
