@@ -17,7 +17,7 @@ inline constexpr GUID CLSID_Error = {0x18a65bbd, 0x7353, 0x4048, {0xbe, 0x6c, 0x
 inline constexpr GUID IID__Error = {0x7006c0f3, 0x9697, 0x492e, {0xa8, 0x1b, 0xc6, 0x10, 0x34, 0xae, 0x07, 0x2f}};
 inline constexpr GUID DIID_lmListViewEvents = {0xe32982d6, 0xd13a, 0x41ee, {0xb8, 0xad, 0x83, 0x19, 0xc0, 0xaa, 0xd1, 0xce}};
 
-/// Scheme of headers and selection.
+/// Scheme of headers, selection and border.
 enum cColorStyle : long {
     cXPBlue = 0,
     cXPSilver = 1,
@@ -40,7 +40,7 @@ enum cWheelFunction : long {
     cWheelOff = 2,
 };
 
-/// Whether rows show check boxes.
+/// Whether the list may show check boxes.
 enum cListViewStyle : long {
     cDefault = 0,
     cCheckBoxes = 1,
@@ -108,7 +108,7 @@ enum cMouseButton : long {
     mouseMiddle = 3,
 };
 
-/// What FindItem found.
+/// What FindItem found. Row and column count from 1 in the lists that were searched.
 struct FindResults {
     VARIANT_BOOL FindSuccessful;
     long FindRow;
@@ -167,7 +167,7 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_hwnd(long* result) = 0;
     /// The number of the in-place editor's window.
     virtual HRESULT STDMETHODCALLTYPE get_hwndEdit(long* result) = 0;
-    /// Opens the in-place editor over a cell, with the whole text selected. No permission is asked for.
+    /// Opens the in-place editor where the cell was painted last, with its whole text selected. Scrolls first where the row is out of view. No permission is asked for.
     virtual HRESULT STDMETHODCALLTYPE SetEdit(VARIANT Row, VARIANT Column) = 0;
     /// The 1-based column under the last press or release; -1 for none.
     virtual HRESULT STDMETHODCALLTYPE get_ColumnIndex(long* result) = 0;
@@ -179,9 +179,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE FindItem(BSTR* sFind, cFindBegin* cBegin, cFindCompare* cCompare, BSTR* sColumns, BSTR* sRows, FindResults* result) = 0;
     /// Makes the columns with these numbers as wide as the widest text painted in them, or as their header; without a number all of them.
     virtual HRESULT STDMETHODCALLTYPE AutoColumnSize(SAFEARRAY* lColumns) = 0;
-    /// Writes the texts of all cells, and on demand their looks, tags and icons, to a file. A file of that name is deleted first. Returns True; failures are reported.
+    /// Writes the texts of all cells, and on demand their looks, tags and icons, to a file. A file of that name is deleted first. A failure is reported; the result is True even then.
     virtual HRESULT STDMETHODCALLTYPE ContentSave(BSTR sFilename, VARIANT_BOOL bSaveItemProperties, VARIANT_BOOL* result) = 0;
-    /// Clears the rows and fills the list from such a file; the columns stay. Returns False, with nothing changed, where there is no file.
+    /// Clears the rows and fills the list from such a file; the columns stay. Where there is no file the result is False, and nothing is changed. Any other failure is reported, and the result is True.
     virtual HRESULT STDMETHODCALLTYPE ContentInput(BSTR sFilename, VARIANT_BOOL bReadItemPropertiesIfExists, VARIANT_BOOL* result) = 0;
     /// Shows the about box and returns once it was closed.
     virtual HRESULT STDMETHODCALLTYPE About() = 0;
@@ -209,17 +209,17 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ClickOnIndexChange(VARIANT_BOOL* result) = 0;
     /// Whether assigning ListIndex raises Click before the index changes.
     virtual HRESULT STDMETHODCALLTYPE put_ClickOnIndexChange(VARIANT_BOOL value) = 0;
-    /// Scheme of headers and selection. Any but cCustom is handed on to ScrollColorStyle.
+    /// Scheme of headers, selection and border. Any but cCustom is handed on to ScrollColorStyle.
     virtual HRESULT STDMETHODCALLTYPE get_ColorStyle(cColorStyle* result) = 0;
-    /// Scheme of headers and selection. Any but cCustom is handed on to ScrollColorStyle.
+    /// Scheme of headers, selection and border. Any but cCustom is handed on to ScrollColorStyle.
     virtual HRESULT STDMETHODCALLTYPE put_ColorStyle(cColorStyle value) = 0;
     /// Colour of the border in the custom scheme.
     virtual HRESULT STDMETHODCALLTYPE get_BorderColor(OLE_COLOR* result) = 0;
     /// Colour of the border in the custom scheme.
     virtual HRESULT STDMETHODCALLTYPE put_BorderColor(OLE_COLOR value) = 0;
-    /// Whether rows show check boxes.
+    /// cCheckBoxes shows check boxes in the columns with ColumnCheckBoxes. What they show is ItemChecked.
     virtual HRESULT STDMETHODCALLTYPE get_Style(cListViewStyle* result) = 0;
-    /// Whether rows show check boxes.
+    /// cCheckBoxes shows check boxes in the columns with ColumnCheckBoxes. What they show is ItemChecked.
     virtual HRESULT STDMETHODCALLTYPE put_Style(cListViewStyle value) = 0;
     /// Whether the selection covers all columns or the first alone.
     virtual HRESULT STDMETHODCALLTYPE get_FullRowSelect(VARIANT_BOOL* result) = 0;
@@ -305,9 +305,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_HideColumnHeaders(VARIANT_BOOL* result) = 0;
     /// Whether the headers are left out.
     virtual HRESULT STDMETHODCALLTYPE put_HideColumnHeaders(VARIANT_BOOL value) = 0;
-    /// Pixels above the text of a header.
+    /// Pixels above the text of a header; the header grows by as many.
     virtual HRESULT STDMETHODCALLTYPE get_ColumnTextY(long* result) = 0;
-    /// Pixels above the text of a header.
+    /// Pixels above the text of a header; the header grows by as many.
     virtual HRESULT STDMETHODCALLTYPE put_ColumnTextY(long value) = 0;
     /// Whether a pressed header moves its text by a pixel.
     virtual HRESULT STDMETHODCALLTYPE get_MoveColumnTextAtDown(VARIANT_BOOL* result) = 0;
@@ -317,13 +317,13 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_DefaultColumnFont(IFontDisp** result) = 0;
     /// Font of all headers. A clone is kept.
     virtual HRESULT STDMETHODCALLTYPE putref_DefaultColumnFont(IFontDisp* value) = 0;
-    /// Text colour of headers while a column is being added.
+    /// Text colour of the design view alone. Headers are drawn in ColumnForeColor.
     virtual HRESULT STDMETHODCALLTYPE get_DefaultColumnForeColor(OLE_COLOR* result) = 0;
-    /// Text colour of headers while a column is being added.
+    /// Text colour of the design view alone. Headers are drawn in ColumnForeColor.
     virtual HRESULT STDMETHODCALLTYPE put_DefaultColumnForeColor(OLE_COLOR value) = 0;
-    /// Twips of free space behind the last column.
+    /// Twips of free space behind the last column, where the columns reach past the right edge.
     virtual HRESULT STDMETHODCALLTYPE get_EmptyColumnFieldWidth(float* result) = 0;
-    /// Twips of free space behind the last column.
+    /// Twips of free space behind the last column, where the columns reach past the right edge.
     virtual HRESULT STDMETHODCALLTYPE put_EmptyColumnFieldWidth(float value) = 0;
     /// Background of headers in the custom scheme.
     virtual HRESULT STDMETHODCALLTYPE get_ColumnBackColor(OLE_COLOR* result) = 0;
@@ -385,25 +385,25 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ScrollBarHover(OLE_COLOR* result) = 0;
     /// Thumbs under the pointer, in the custom scheme.
     virtual HRESULT STDMETHODCALLTYPE put_ScrollBarHover(OLE_COLOR value) = 0;
-    /// Colour of the header area behind the last column.
+    /// Colour of the header area behind the last column in the custom scheme.
     virtual HRESULT STDMETHODCALLTYPE get_EmptyColumnFieldColor(OLE_COLOR* result) = 0;
-    /// Colour of the header area behind the last column.
+    /// Colour of the header area behind the last column in the custom scheme.
     virtual HRESULT STDMETHODCALLTYPE put_EmptyColumnFieldColor(OLE_COLOR value) = 0;
     /// What the wheel moves: the view, the current row, or nothing.
     virtual HRESULT STDMETHODCALLTYPE get_WheelFunction(cWheelFunction* result) = 0;
     /// What the wheel moves: the view, the current row, or nothing.
     virtual HRESULT STDMETHODCALLTYPE put_WheelFunction(cWheelFunction value) = 0;
-    /// Rows that one notch of the wheel moves.
+    /// Rows that one wheel event moves, however far the wheel was turned.
     virtual HRESULT STDMETHODCALLTYPE get_WheelScrollLines(long* result) = 0;
-    /// Rows that one notch of the wheel moves.
+    /// Rows that one wheel event moves, however far the wheel was turned.
     virtual HRESULT STDMETHODCALLTYPE put_WheelScrollLines(long value) = 0;
     /// Whether a selected cell without a picture of its own for that shows its plain icon.
     virtual HRESULT STDMETHODCALLTYPE get_DefaultIconSelectedIsIcon(VARIANT_BOOL* result) = 0;
     /// Whether a selected cell without a picture of its own for that shows its plain icon.
     virtual HRESULT STDMETHODCALLTYPE put_DefaultIconSelectedIsIcon(VARIANT_BOOL value) = 0;
-    /// Rows that one press of an arrow button moves. A number below 1 is dropped.
+    /// Rows that one press of an arrow button of the vertical bar moves. A number below 1 is dropped.
     virtual HRESULT STDMETHODCALLTYPE get_ScrollButtonJumpLines(long* result) = 0;
-    /// Rows that one press of an arrow button moves. A number below 1 is dropped.
+    /// Rows that one press of an arrow button of the vertical bar moves. A number below 1 is dropped.
     virtual HRESULT STDMETHODCALLTYPE put_ScrollButtonJumpLines(long value) = 0;
     /// Vertical place of the text in rows added later. The host is not told of the change.
     virtual HRESULT STDMETHODCALLTYPE get_TextPositionDefault(cTextPosition* result) = 0;
@@ -417,33 +417,33 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_DrawColumnIcons(VARIANT_BOOL* result) = 0;
     /// Whether header icons are drawn.
     virtual HRESULT STDMETHODCALLTYPE put_DrawColumnIcons(VARIANT_BOOL value) = 0;
-    /// Picture that fills the background of the list.
+    /// Picture in the lower right corner of the list, at its own size.
     virtual HRESULT STDMETHODCALLTYPE get_BackgroundPicture(IPictureDisp** result) = 0;
-    /// Picture that fills the background of the list.
+    /// Picture in the lower right corner of the list, at its own size.
     virtual HRESULT STDMETHODCALLTYPE putref_BackgroundPicture(IPictureDisp* value) = 0;
-    /// Strip of pictures that the headers are drawn with; none for the built-in one.
+    /// Strip of 16 x 3 pixels for the bar of the header under the pointer, in the blue and the silver scheme alone; Nothing for the built-in one.
     virtual HRESULT STDMETHODCALLTYPE get_Skin(IPictureDisp** result) = 0;
-    /// Strip of pictures that the headers are drawn with; none for the built-in one.
+    /// Strip of 16 x 3 pixels for the bar of the header under the pointer, in the blue and the silver scheme alone; Nothing for the built-in one.
     virtual HRESULT STDMETHODCALLTYPE putref_Skin(IPictureDisp* value) = 0;
     /// Whether columns keep their widths under the mouse.
     virtual HRESULT STDMETHODCALLTYPE get_FixColumns(VARIANT_BOOL* result) = 0;
     /// Whether columns keep their widths under the mouse.
     virtual HRESULT STDMETHODCALLTYPE put_FixColumns(VARIANT_BOOL value) = 0;
-    /// Whether the header under the pointer changes its look.
+    /// Kept for the host; it has no visible effect.
     virtual HRESULT STDMETHODCALLTYPE get_CheckMouseOver(VARIANT_BOOL* result) = 0;
-    /// Whether the header under the pointer changes its look.
+    /// Kept for the host; it has no visible effect.
     virtual HRESULT STDMETHODCALLTYPE put_CheckMouseOver(VARIANT_BOOL value) = 0;
-    /// How a drag from the control starts; 2 allows copying and moving.
+    /// Kept for the host; the list never starts a drag by itself.
     virtual HRESULT STDMETHODCALLTYPE get_OLEDragMode(short* result) = 0;
-    /// How a drag from the control starts; 2 allows copying and moving.
+    /// Kept for the host; the list never starts a drag by itself.
     virtual HRESULT STDMETHODCALLTYPE put_OLEDragMode(short value) = 0;
     /// Whether the control takes drops.
     virtual HRESULT STDMETHODCALLTYPE get_OLEDropMode(short* result) = 0;
     /// Whether the control takes drops.
     virtual HRESULT STDMETHODCALLTYPE put_OLEDropMode(short value) = 0;
-    /// Whether rows take turns with two background colours.
+    /// Whether rows take turns with two background colours, in place of those of their cells.
     virtual HRESULT STDMETHODCALLTYPE get_AutoRowColor(VARIANT_BOOL* result) = 0;
-    /// Whether rows take turns with two background colours.
+    /// Whether rows take turns with two background colours, in place of those of their cells.
     virtual HRESULT STDMETHODCALLTYPE put_AutoRowColor(VARIANT_BOOL value) = 0;
     /// Background of every other row, from the first on.
     virtual HRESULT STDMETHODCALLTYPE get_RowColorFirst(OLE_COLOR* result) = 0;
@@ -453,9 +453,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_RowColorSecond(OLE_COLOR* result) = 0;
     /// Background of the rows between.
     virtual HRESULT STDMETHODCALLTYPE put_RowColorSecond(OLE_COLOR value) = 0;
-    /// Whether the selection is hidden while the control has no focus.
+    /// While True, every cell has a black background, selected or not. The focus plays no part.
     virtual HRESULT STDMETHODCALLTYPE get_HideSelection(VARIANT_BOOL* result) = 0;
-    /// Whether the selection is hidden while the control has no focus.
+    /// While True, every cell has a black background, selected or not. The focus plays no part.
     virtual HRESULT STDMETHODCALLTYPE put_HideSelection(VARIANT_BOOL value) = 0;
     /// Assigning an object with RecordCount, fields, MoveFirst, MoveNext and EOF takes its fields as columns and its records as rows, once. A comma in a value splits it. RecordCount not above 0 changes nothing and repaints nothing.
     virtual HRESULT STDMETHODCALLTYPE get_Recordset(IDispatch** result) = 0;
@@ -491,9 +491,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ColumnKey(VARIANT Index, BSTR* result) = 0;
     /// Text that the control keeps for the host. No column is found by it.
     virtual HRESULT STDMETHODCALLTYPE put_ColumnKey(VARIANT Index, BSTR value) = 0;
-    /// Place of the header text.
+    /// Place of the header text. Cells have their own ItemAlignment.
     virtual HRESULT STDMETHODCALLTYPE get_ColumnAlignment(VARIANT Index, cColumnHeaderAlign* result) = 0;
-    /// Place of the header text.
+    /// Place of the header text. Cells have their own ItemAlignment.
     virtual HRESULT STDMETHODCALLTYPE put_ColumnAlignment(VARIANT Index, cColumnHeaderAlign value) = 0;
     /// Place of the header icon.
     virtual HRESULT STDMETHODCALLTYPE get_ColumnIconAlignment(VARIANT Index, cColumnHeaderAlign* result) = 0;
@@ -515,9 +515,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ColumnAllowSorting(VARIANT Index, VARIANT_BOOL* result) = 0;
     /// Whether a click on the header sorts.
     virtual HRESULT STDMETHODCALLTYPE put_ColumnAllowSorting(VARIANT Index, VARIANT_BOOL value) = 0;
-    /// Whether the cells of the column show check boxes.
+    /// Whether the cells of the column show check boxes, where Style is cCheckBoxes.
     virtual HRESULT STDMETHODCALLTYPE get_ColumnCheckBoxes(VARIANT Index, VARIANT_BOOL* result) = 0;
-    /// Whether the cells of the column show check boxes.
+    /// Whether the cells of the column show check boxes, where Style is cCheckBoxes.
     virtual HRESULT STDMETHODCALLTYPE put_ColumnCheckBoxes(VARIANT Index, VARIANT_BOOL value) = 0;
     /// Whether cell icons are scaled to the icon size of the column.
     virtual HRESULT STDMETHODCALLTYPE get_ColumnAdjustItemIcons(VARIANT Index, VARIANT_BOOL* result) = 0;
@@ -535,17 +535,17 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_RowEnabled(VARIANT Index, VARIANT_BOOL* result) = 0;
     /// Whether the row can be chosen. Assigning enables or disables its cells too.
     virtual HRESULT STDMETHODCALLTYPE put_RowEnabled(VARIANT Index, VARIANT_BOOL value) = 0;
-    /// Whether the row is selected. Selecting scrolls to it, and without MultiSelect drops the other rows. ListIndex does not follow.
+    /// Whether the row is selected. Selecting scrolls to a row out of view, and without MultiSelect drops the other rows. ListIndex does not follow.
     virtual HRESULT STDMETHODCALLTYPE get_RowSelected(VARIANT Index, VARIANT_BOOL* result) = 0;
-    /// Whether the row is selected. Selecting scrolls to it, and without MultiSelect drops the other rows. ListIndex does not follow.
+    /// Whether the row is selected. Selecting scrolls to a row out of view, and without MultiSelect drops the other rows. ListIndex does not follow.
     virtual HRESULT STDMETHODCALLTYPE put_RowSelected(VARIANT Index, VARIANT_BOOL value) = 0;
-    /// Check mark of the row. Those of its cells are not touched.
+    /// Check mark that the control keeps for the host. Nothing shows it: what check boxes show is ItemChecked.
     virtual HRESULT STDMETHODCALLTYPE get_RowChecked(VARIANT Index, VARIANT_BOOL* result) = 0;
-    /// Check mark of the row. Those of its cells are not touched.
+    /// Check mark that the control keeps for the host. Nothing shows it: what check boxes show is ItemChecked.
     virtual HRESULT STDMETHODCALLTYPE put_RowChecked(VARIANT Index, VARIANT_BOOL value) = 0;
-    /// Vertical place of the text in the row.
+    /// Vertical place of the text in the row. Without effect while RowsDynamic is True.
     virtual HRESULT STDMETHODCALLTYPE get_TextPosition(VARIANT Index, cTextPosition* result) = 0;
-    /// Vertical place of the text in the row.
+    /// Vertical place of the text in the row. Without effect while RowsDynamic is True.
     virtual HRESULT STDMETHODCALLTYPE put_TextPosition(VARIANT Index, cTextPosition value) = 0;
     /// Whether the text is bold.
     virtual HRESULT STDMETHODCALLTYPE get_ItemFontBold(VARIANT Row, VARIANT Column, VARIANT_BOOL* result) = 0;
@@ -575,9 +575,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ItemForeColor(VARIANT Row, VARIANT Column, OLE_COLOR* result) = 0;
     /// Colour of the text.
     virtual HRESULT STDMETHODCALLTYPE put_ItemForeColor(VARIANT Row, VARIANT Column, OLE_COLOR value) = 0;
-    /// Background of the cell, or "def" for that of the list.
+    /// Background of the cell, or "def" for none of its own. AutoRowColor goes before it.
     virtual HRESULT STDMETHODCALLTYPE get_ItemBackColor(VARIANT Row, VARIANT Column, VARIANT* result) = 0;
-    /// Background of the cell, or "def" for that of the list.
+    /// Background of the cell, or "def" for none of its own. AutoRowColor goes before it.
     virtual HRESULT STDMETHODCALLTYPE put_ItemBackColor(VARIANT Row, VARIANT Column, VARIANT value) = 0;
     /// Colour of the text while selected, or "def" for white.
     virtual HRESULT STDMETHODCALLTYPE get_ItemForeColorSelect(VARIANT Row, VARIANT Column, VARIANT* result) = 0;
@@ -587,13 +587,13 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ItemBackColorSelect(VARIANT Row, VARIANT Column, VARIANT* result) = 0;
     /// Background while selected, or "def" for the colour of the scheme.
     virtual HRESULT STDMETHODCALLTYPE put_ItemBackColorSelect(VARIANT Row, VARIANT Column, VARIANT value) = 0;
-    /// Colour of the text while disabled.
+    /// Colour of the text while disabled. A number: "def" fails.
     virtual HRESULT STDMETHODCALLTYPE get_ItemForeColorDis(VARIANT Row, VARIANT Column, VARIANT* result) = 0;
-    /// Colour of the text while disabled.
+    /// Colour of the text while disabled. A number: "def" fails.
     virtual HRESULT STDMETHODCALLTYPE put_ItemForeColorDis(VARIANT Row, VARIANT Column, VARIANT value) = 0;
-    /// Background while disabled.
+    /// Background while disabled. A number: "def" fails.
     virtual HRESULT STDMETHODCALLTYPE get_ItemBackColorDis(VARIANT Row, VARIANT Column, VARIANT* result) = 0;
-    /// Background while disabled.
+    /// Background while disabled. A number: "def" fails.
     virtual HRESULT STDMETHODCALLTYPE put_ItemBackColorDis(VARIANT Row, VARIANT Column, VARIANT value) = 0;
     /// Value that the control keeps for the host.
     virtual HRESULT STDMETHODCALLTYPE get_ItemTag(VARIANT Row, VARIANT Column, VARIANT* result) = 0;
@@ -631,15 +631,15 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ItemText(VARIANT Row, VARIANT Column, BSTR* result) = 0;
     /// Text of the cell.
     virtual HRESULT STDMETHODCALLTYPE put_ItemText(VARIANT Row, VARIANT Column, BSTR value) = 0;
-    /// Tool tip of the cell.
+    /// Text that the control keeps for the host. It is never shown.
     virtual HRESULT STDMETHODCALLTYPE get_ItemToolTip(VARIANT Row, VARIANT Column, BSTR* result) = 0;
-    /// Tool tip of the cell.
+    /// Text that the control keeps for the host. It is never shown.
     virtual HRESULT STDMETHODCALLTYPE put_ItemToolTip(VARIANT Row, VARIANT Column, BSTR value) = 0;
     /// Width of the text in pixels, as the last paint measured it; 0 for a cell never painted.
     virtual HRESULT STDMETHODCALLTYPE get_ItemTextWidth(VARIANT Row, VARIANT Column, float* result) = 0;
-    /// Control of the host that is shown over the cell. One with a window becomes a child of the list. A failure is told by ListViewError.
+    /// Control of the host that is shown over the cell. One with a window becomes a child of the list. A failure while it is assigned raises ListViewError and is then reported.
     virtual HRESULT STDMETHODCALLTYPE get_ItemObject(VARIANT Row, VARIANT Column, IDispatch** result) = 0;
-    /// Control of the host that is shown over the cell. One with a window becomes a child of the list. A failure is told by ListViewError.
+    /// Control of the host that is shown over the cell. One with a window becomes a child of the list. A failure while it is assigned raises ListViewError and is then reported.
     virtual HRESULT STDMETHODCALLTYPE putref_ItemObject(VARIANT Row, VARIANT Column, IDispatch* value) = 0;
     /// Checked cells of a column; of all columns for a number that no column has.
     virtual HRESULT STDMETHODCALLTYPE ItemsCheckedCount(long Column, long* result) = 0;
@@ -653,7 +653,7 @@ struct _SpEv : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE TextSave(BSTR Filename, BSTR Text) = 0;
     /// Starts a sound file and returns at once; silent where it cannot be played.
     virtual HRESULT STDMETHODCALLTYPE PlayMusic(BSTR Filename) = 0;
-    /// Replaces a file by one line for each entry of a list box. At most 32767 entries are written.
+    /// Replaces a file by one line for each entry of a list box. At most 32,768 entries are written.
     virtual HRESULT STDMETHODCALLTYPE ListSave(IDispatch* List, BSTR Filename, BSTR TextBeforeListText, BSTR TextAfterListText) = 0;
     /// Adds each line of a file to a list box, which is not cleared before.
     virtual HRESULT STDMETHODCALLTYPE ListRead(IDispatch* List, BSTR Filename) = 0;
@@ -676,7 +676,7 @@ struct _Error : IDispatch {
 /// The events of lmListView by their dispatch numbers.
 namespace events {
 
-/// The list was clicked, or, with ClickOnIndexChange, its current row changed.
+/// The list was clicked, or, with ClickOnIndexChange, its current row is about to change.
 inline constexpr DISPID Click = 1; // ()
 /// The list was clicked twice. ItemDblClick follows where a cell was pressed before.
 inline constexpr DISPID DblClick = 2; // ()
@@ -692,7 +692,7 @@ inline constexpr DISPID MouseMove = 6; // (short* Button, short* Shift, float* X
 inline constexpr DISPID MouseDown = 7; // (short* Button, short* Shift, float* X, float* Y)
 /// A header was clicked. Where the column allows it, a sort as text follows.
 inline constexpr DISPID ColumnClick = 8; // (long* Column)
-/// The list was scrolled up or down by hand. Scrolling sideways is not told.
+/// The list was scrolled up or down with the thumb or the wheel. Scrolling sideways is not told.
 inline constexpr DISPID Scroll = 9; // ()
 /// A key went down.
 inline constexpr DISPID KeyDown = 10; // (short* KeyCode, short* Shift)
@@ -700,23 +700,23 @@ inline constexpr DISPID KeyDown = 10; // (short* KeyCode, short* Shift)
 inline constexpr DISPID KeyPress = 11; // (short* KeyAscii)
 /// A key was let go.
 inline constexpr DISPID KeyUp = 12; // (short* KeyCode, short* Shift)
-/// A drag that began here has ended.
+/// Never raised: the list starts no drag.
 inline constexpr DISPID OLECompleteDrag = 13; // (long* Effect)
 /// Something was dropped on the list. Effect answers what became of it.
 inline constexpr DISPID OLEDragDrop = 14; // (IDispatch** Data, long* Effect, short* Button, short* Shift, float* X, float* Y)
 /// Something is dragged over the list: State 0 enters, 1 leaves, 2 moves. Effect answers what a drop would do.
 inline constexpr DISPID OLEDragOver = 15; // (IDispatch** Data, long* Effect, short* Button, short* Shift, float* X, float* Y, short* State)
-/// A drag that began here asks for its pointer.
+/// Never raised: the list starts no drag.
 inline constexpr DISPID OLEGiveFeedback = 16; // (long* Effect, VARIANT_BOOL* DefaultCursors)
-/// A drag that began here asks for data that were promised.
+/// Never raised: the list starts no drag.
 inline constexpr DISPID OLESetData = 17; // (IDispatch** Data, short* DataFormat)
-/// A drag begins here. With OLEDragMode 2 it allows copying and moving.
+/// Never raised: the list starts no drag.
 inline constexpr DISPID OLEStartDrag = 18; // (IDispatch** Data, long* AllowedEffects)
-/// A row number was refused.
+/// ListIndex was assigned a number that no enabled row has. Index counts from 0; changing it changes nothing.
 inline constexpr DISPID ErrorWrongIndex = 19; // (VARIANT* Index)
 /// A sort has ended.
 inline constexpr DISPID SortDone = 20; // ()
-/// A paint or an embedded object failed. Other failures are reported.
+/// A paint, or the assignment of an embedded object, failed. Other failures are reported alone.
 inline constexpr DISPID ListViewError = 21; // (BSTR eSub, long eNumber, BSTR eDescription)
 /// A cell was pressed and let go.
 inline constexpr DISPID ItemClick = 22; // (long Row, long Column)

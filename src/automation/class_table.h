@@ -8,13 +8,17 @@ namespace lumtex {
 
 struct ClassDescription {
     StringView name;
-    StringView help; ///< one line
+    Help help;
     std::span<const Member> members;
 };
 
 const ClassDescription& listViewClass();
 const ClassDescription& spEvClass();
 const ClassDescription& errorClass();
+
+/// Of the whole library, whose name stands in lists of libraries.
+inline constexpr Help libraryHelp{u"LumtexListView, a list of rows and columns.",
+                                  u"LumtexListView, eine Liste aus Zeilen und Spalten."};
 
 /// All of them: the control first, then the classes that hosts create beside it.
 std::span<const ClassDescription> classTable();

@@ -10,71 +10,110 @@ using namespace detail;
 
 constexpr auto members = std::to_array<Member>({
     property<&lmListView::ColumnText, &lmListView::letColumnText>(
-        u"ColumnText", Repaint::asAutoRedraw, u"Text of the header.", {u"Index"}),
+        u"ColumnText",
+        Repaint::asAutoRedraw,
+        {u"Text of the header.", u"Text des Spaltenkopfs."},
+        {u"Index"}),
     property<&lmListView::ColumnIcon, &lmListView::setColumnIcon>(
-        u"ColumnIcon", Repaint::asAutoRedraw, u"Icon of the header.", {u"Index"}),
+        u"ColumnIcon",
+        Repaint::asAutoRedraw,
+        {u"Icon of the header.", u"Symbol des Spaltenkopfs."},
+        {u"Index"}),
     property<&lmListView::ColumnIconHover, &lmListView::setColumnIconHover>(
         u"ColumnIconHover",
         Repaint::asAutoRedraw,
-        u"Icon of the header while the pointer is over it.",
+        {u"Icon of the header while the pointer is over it.",
+         u"Symbol des Spaltenkopfs, während der Mauszeiger darauf steht."},
         {u"Index"}),
     property<&lmListView::ColumnIconDown, &lmListView::setColumnIconDown>(
-        u"ColumnIconDown", Repaint::asAutoRedraw, u"Icon of the header while it is pressed.", {u"Index"}),
+        u"ColumnIconDown",
+        Repaint::asAutoRedraw,
+        {u"Icon of the header while it is pressed.", u"Symbol des Spaltenkopfs, während er gedrückt ist."},
+        {u"Index"}),
     readOnly<&lmListView::ColumnLeft>(
         u"ColumnLeft",
-        u"Left edge of the header in twips. Goes stale when a column before it is resized by code.",
+        {u"Left edge of the header in twips. Goes stale when a column before it is resized by code.",
+         u"Linker Rand des Spaltenkopfs in Twips. Der Wert veraltet, wenn ein Programm eine Spalte davor "
+         u"verbreitert oder verschmälert."},
         {u"Index"}),
     property<&lmListView::ColumnWidth, &lmListView::letColumnWidth>(
         u"ColumnWidth",
         Repaint::asAutoRedraw,
-        u"Width in twips. The columns to the right keep their ColumnLeft.",
+        {u"Width in twips. The columns to the right keep their ColumnLeft.",
+         u"Breite in Twips. Die Spalten rechts davon behalten ihr ColumnLeft."},
         {u"Index"}),
     property<&lmListView::ColumnTag, &lmListView::letColumnTag>(
-        u"ColumnTag", Repaint::asAutoRedraw, u"Text that the control keeps for the host.", {u"Index"}),
+        u"ColumnTag",
+        Repaint::asAutoRedraw,
+        {u"Text that the control keeps for the host.",
+         u"Text, den das Steuerelement für das Programm aufbewahrt."},
+        {u"Index"}),
     property<&lmListView::ColumnKey, &lmListView::letColumnKey>(
         u"ColumnKey",
         Repaint::asAutoRedraw,
-        u"Text that the control keeps for the host. No column is found by it.",
+        {u"Text that the control keeps for the host. No column is found by it.",
+         u"Text, den das Steuerelement für das Programm aufbewahrt. Keine Spalte wird darüber gefunden."},
         {u"Index"}),
     property<&lmListView::ColumnAlignment, &lmListView::letColumnAlignment>(
-        u"ColumnAlignment", Repaint::asAutoRedraw, u"Place of the header text.", {u"Index"}),
+        u"ColumnAlignment",
+        Repaint::asAutoRedraw,
+        {u"Place of the header text. Cells have their own ItemAlignment.",
+         u"Ausrichtung des Texts im Spaltenkopf. Die Zellen haben ihr eigenes ItemAlignment."},
+        {u"Index"}),
     property<&lmListView::ColumnIconAlignment, &lmListView::letColumnIconAlignment>(
-        u"ColumnIconAlignment", Repaint::asAutoRedraw, u"Place of the header icon.", {u"Index"}),
+        u"ColumnIconAlignment",
+        Repaint::asAutoRedraw,
+        {u"Place of the header icon.", u"Ausrichtung des Symbols im Spaltenkopf."},
+        {u"Index"}),
     property<&lmListView::ColumnForeColor, &lmListView::letColumnForeColor>(
-        u"ColumnForeColor", Repaint::asAutoRedraw, u"Colour of the header text.", {u"Index"}),
+        u"ColumnForeColor",
+        Repaint::asAutoRedraw,
+        {u"Colour of the header text.", u"Textfarbe des Spaltenkopfs."},
+        {u"Index"}),
     property<&lmListView::ColumnForeColorHover, &lmListView::letColumnForeColorHover>(
         u"ColumnForeColorHover",
         Repaint::asAutoRedraw,
-        u"Colour of the header text while the pointer is over it.",
+        {u"Colour of the header text while the pointer is over it.",
+         u"Textfarbe des Spaltenkopfs, während der Mauszeiger darauf steht."},
         {u"Index"}),
     property<&lmListView::ColumnForeColorDown, &lmListView::letColumnForeColorDown>(
         u"ColumnForeColorDown",
         Repaint::asAutoRedraw,
-        u"Colour of the header text while the header is pressed.",
+        {u"Colour of the header text while the header is pressed.",
+         u"Textfarbe des Spaltenkopfs, während er gedrückt ist."},
         {u"Index"}),
     property<&lmListView::ColumnAllowSorting, &lmListView::letColumnAllowSorting>(
-        u"ColumnAllowSorting", Repaint::asAutoRedraw, u"Whether a click on the header sorts.", {u"Index"}),
+        u"ColumnAllowSorting",
+        Repaint::asAutoRedraw,
+        {u"Whether a click on the header sorts.", u"Gibt an, ob ein Klick auf den Spaltenkopf sortiert."},
+        {u"Index"}),
     property<&lmListView::ColumnCheckBoxes, &lmListView::letColumnCheckBoxes>(
         u"ColumnCheckBoxes",
         Repaint::asAutoRedraw,
-        u"Whether the cells of the column show check boxes.",
+        {u"Whether the cells of the column show check boxes, where Style is cCheckBoxes.",
+         u"Gibt an, ob die Zellen der Spalte Kontrollkästchen zeigen, wenn Style cCheckBoxes ist."},
         {u"Index"}),
     property<&lmListView::ColumnAdjustItemIcons, &lmListView::letColumnAdjustItemIcons>(
         u"ColumnAdjustItemIcons",
         Repaint::asAutoRedraw,
-        u"Whether cell icons are scaled to the icon size of the column.",
+        {u"Whether cell icons are scaled to the icon size of the column.",
+         u"Gibt an, ob Zellensymbole auf die Symbolgröße der Spalte gebracht werden."},
         {u"Index"}),
     property<&lmListView::ColumnItemIconH, &lmListView::letColumnItemIconH>(
         u"ColumnItemIconH",
         Repaint::asAutoRedraw,
-        u"True for any icon height but 0. Assigning stores 0 or -1; the real height comes from IconH as the "
-        u"column is added.",
+        {u"True for any icon height but 0. Assigning stores 0 or -1; the real height comes from IconH as the "
+         u"column is added.",
+         u"True für jede Symbolhöhe außer 0. Eine Zuweisung speichert 0 oder -1; die wirkliche Höhe stammt "
+         u"aus IconH, wenn die Spalte hinzugefügt wird."},
         {u"Index"}),
     property<&lmListView::ColumnItemIconW, &lmListView::letColumnItemIconW>(
         u"ColumnItemIconW",
         Repaint::asAutoRedraw,
-        u"True for any icon width but 0. Assigning stores 0 or -1; the real width comes from IconW as the "
-        u"column is added.",
+        {u"True for any icon width but 0. Assigning stores 0 or -1; the real width comes from IconW as the "
+         u"column is added.",
+         u"True für jede Symbolbreite außer 0. Eine Zuweisung speichert 0 oder -1; die wirkliche Breite "
+         u"stammt aus IconW, wenn die Spalte hinzugefügt wird."},
         {u"Index"}),
 });
 

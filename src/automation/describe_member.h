@@ -122,7 +122,7 @@ constexpr void sameCount(std::size_t names, std::size_t parameters) {
 }
 
 template <auto get>
-constexpr Member readOnly(StringView name, StringView help, std::initializer_list<Named> names = {}) {
+constexpr Member readOnly(StringView name, Help help, std::initializer_list<Named> names = {}) {
     using Get = Function<get>;
     sameCount(names.size(), Get::count);
     Member member{numberOf(name),
@@ -141,7 +141,7 @@ constexpr Member readOnly(StringView name, StringView help, std::initializer_lis
 
 template <auto get, auto let>
 constexpr Member
-property(StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
+property(StringView name, Repaint repaint, Help help, std::initializer_list<Named> names = {}) {
     using Let = Function<let>;
     sameCount(names.size() + 1, Let::count);
     Member member = readOnly<get>(name, help, names);
@@ -160,7 +160,7 @@ constexpr Member hidden(Member member) {
 
 template <auto function>
 constexpr Member
-method(StringView name, Repaint repaint, StringView help, std::initializer_list<Named> names = {}) {
+method(StringView name, Repaint repaint, Help help, std::initializer_list<Named> names = {}) {
     using Call = Function<function>;
     sameCount(names.size(), Call::count);
     Member member{numberOf(name),

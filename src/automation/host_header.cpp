@@ -33,8 +33,8 @@ std::string hostType(const TypeInfo& type) {
     return type.code == TypeCode::variantList ? "SAFEARRAY*" : interfaceType(type);
 }
 
-std::string commentText(const std::string& indent, StringView help) {
-    return indent + "/// " + toUtf8(help) + "\n";
+std::string commentText(const std::string& indent, const Help& help) {
+    return indent + "/// " + toUtf8(help.english) + "\n";
 }
 
 std::string enumerationText(const Enumeration& enumeration) {
@@ -45,7 +45,7 @@ std::string enumerationText(const Enumeration& enumeration) {
 }
 
 std::string recordText() {
-    std::string text = "/// What FindItem found.\nstruct FindResults {\n";
+    std::string text = commentText("", findResultsHelp) + "struct FindResults {\n";
     for (const RecordField& field : findResultsFields)
         text += "    " + interfaceType(field.type) + " " + toUtf8(field.name) + ";\n";
     return text + "};\n\n";

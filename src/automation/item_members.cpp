@@ -10,87 +10,141 @@ using namespace detail;
 
 constexpr auto members = std::to_array<Member>({
     property<&lmListView::ItemFontBold, &lmListView::letItemFontBold>(
-        u"ItemFontBold", Repaint::asAutoRedraw, u"Whether the text is bold.", {u"Row", u"Column"}),
+        u"ItemFontBold",
+        Repaint::asAutoRedraw,
+        {u"Whether the text is bold.", u"Gibt an, ob der Text fett ist."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemFontItalic, &lmListView::letItemFontItalic>(
-        u"ItemFontItalic", Repaint::asAutoRedraw, u"Whether the text is italic.", {u"Row", u"Column"}),
+        u"ItemFontItalic",
+        Repaint::asAutoRedraw,
+        {u"Whether the text is italic.", u"Gibt an, ob der Text kursiv ist."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemFontUnderline, &lmListView::letItemFontUnderline>(
-        u"ItemFontUnderline", Repaint::asAutoRedraw, u"Whether the text is underlined.", {u"Row", u"Column"}),
+        u"ItemFontUnderline",
+        Repaint::asAutoRedraw,
+        {u"Whether the text is underlined.", u"Gibt an, ob der Text unterstrichen ist."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemFontStrikethrough, &lmListView::letItemFontStrikethrough>(
         u"ItemFontStrikethrough",
         Repaint::asAutoRedraw,
-        u"Whether the text is struck through.",
+        {u"Whether the text is struck through.", u"Gibt an, ob der Text durchgestrichen ist."},
         {u"Row", u"Column"}),
     property<&lmListView::ItemFontSize, &lmListView::letItemFontSize>(
-        u"ItemFontSize", Repaint::asAutoRedraw, u"Size of the text in points.", {u"Row", u"Column"}),
+        u"ItemFontSize",
+        Repaint::asAutoRedraw,
+        {u"Size of the text in points.", u"Schriftgrad des Texts in Punkt."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemFontName, &lmListView::letItemFontName>(
-        u"ItemFontName", Repaint::asAutoRedraw, u"Typeface of the text.", {u"Row", u"Column"}),
+        u"ItemFontName",
+        Repaint::asAutoRedraw,
+        {u"Typeface of the text.", u"Schriftart des Texts."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemForeColor, &lmListView::letItemForeColor>(
-        u"ItemForeColor", Repaint::asAutoRedraw, u"Colour of the text.", {u"Row", u"Column"}),
+        u"ItemForeColor",
+        Repaint::asAutoRedraw,
+        {u"Colour of the text.", u"Farbe des Texts."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemBackColor, &lmListView::letItemBackColor>(
         u"ItemBackColor",
         Repaint::asAutoRedraw,
-        u"Background of the cell, or \"def\" for that of the list.",
+        {u"Background of the cell, or \"def\" for none of its own. AutoRowColor goes before it.",
+         u"Hintergrundfarbe der Zelle oder \"def\" für keine eigene. AutoRowColor geht vor."},
         {u"Row", u"Column"}),
     property<&lmListView::ItemForeColorSelect, &lmListView::letItemForeColorSelect>(
         u"ItemForeColorSelect",
         Repaint::asAutoRedraw,
-        u"Colour of the text while selected, or \"def\" for white.",
+        {u"Colour of the text while selected, or \"def\" for white.",
+         u"Textfarbe im ausgewählten Zustand oder \"def\" für Weiß."},
         {u"Row", u"Column"}),
     property<&lmListView::ItemBackColorSelect, &lmListView::letItemBackColorSelect>(
         u"ItemBackColorSelect",
         Repaint::asAutoRedraw,
-        u"Background while selected, or \"def\" for the colour of the scheme.",
+        {u"Background while selected, or \"def\" for the colour of the scheme.",
+         u"Hintergrundfarbe im ausgewählten Zustand oder \"def\" für die Farbe des Schemas."},
         {u"Row", u"Column"}),
     property<&lmListView::ItemForeColorDis, &lmListView::letItemForeColorDis>(
         u"ItemForeColorDis",
         Repaint::asAutoRedraw,
-        u"Colour of the text while disabled.",
+        {u"Colour of the text while disabled. A number: \"def\" fails.",
+         u"Textfarbe im deaktivierten Zustand. Eine Zahl: \"def\" schlägt fehl."},
         {u"Row", u"Column"}),
     property<&lmListView::ItemBackColorDis, &lmListView::letItemBackColorDis>(
-        u"ItemBackColorDis", Repaint::asAutoRedraw, u"Background while disabled.", {u"Row", u"Column"}),
+        u"ItemBackColorDis",
+        Repaint::asAutoRedraw,
+        {u"Background while disabled. A number: \"def\" fails.",
+         u"Hintergrundfarbe im deaktivierten Zustand. Eine Zahl: \"def\" schlägt fehl."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemTag, &lmListView::letItemTag>(
-        u"ItemTag", Repaint::never, u"Value that the control keeps for the host.", {u"Row", u"Column"}),
+        u"ItemTag",
+        Repaint::never,
+        {u"Value that the control keeps for the host.",
+         u"Wert, den das Steuerelement für das Programm aufbewahrt."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemEnabled, &lmListView::letItemEnabled>(
         u"ItemEnabled",
         Repaint::never,
-        u"Whether the cell is enabled. Shown by the next paint.",
+        {u"Whether the cell is enabled. Shown by the next paint.",
+         u"Gibt an, ob die Zelle aktiviert ist. Erst das nächste Zeichnen zeigt es."},
         {u"Row", u"Column"}),
-    property<&lmListView::ItemIcon, &lmListView::setItemIcon>(
-        u"ItemIcon", Repaint::asAutoRedraw, u"Icon of the cell.", {u"Row", u"Column"}),
+    property<&lmListView::ItemIcon, &lmListView::setItemIcon>(u"ItemIcon",
+                                                              Repaint::asAutoRedraw,
+                                                              {u"Icon of the cell.", u"Symbol der Zelle."},
+                                                              {u"Row", u"Column"}),
     property<&lmListView::ItemIconSelected, &lmListView::setItemIconSelected>(
-        u"ItemIconSelected", Repaint::asAutoRedraw, u"Icon of the cell while selected.", {u"Row", u"Column"}),
+        u"ItemIconSelected",
+        Repaint::asAutoRedraw,
+        {u"Icon of the cell while selected.", u"Symbol der Zelle im ausgewählten Zustand."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemAllowEdit, &lmListView::letItemAllowEdit>(
         u"ItemAllowEdit",
         Repaint::asAutoRedraw,
-        u"Whether the cell may be edited in place.",
+        {u"Whether the cell may be edited in place.",
+         u"Gibt an, ob sich die Zelle im Eingabefeld bearbeiten lässt."},
         {u"Row", u"Column"}),
     property<&lmListView::ItemChecked, &lmListView::letItemChecked>(
         u"ItemChecked",
         Repaint::asAutoRedraw,
-        u"Check mark of the cell. The count of its column follows; no event is raised.",
+        {u"Check mark of the cell. The count of its column follows; no event is raised.",
+         u"Häkchen der Zelle. Die Zählung ihrer Spalte folgt; kein Ereignis wird ausgelöst."},
         {u"Row", u"Column"}),
     property<&lmListView::ItemAlignment, &lmListView::letItemAlignment>(
-        u"ItemAlignment", Repaint::asAutoRedraw, u"Place of the text.", {u"Row", u"Column"}),
+        u"ItemAlignment",
+        Repaint::asAutoRedraw,
+        {u"Place of the text.", u"Ausrichtung des Texts."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemIconAlignment, &lmListView::letItemIconAlignment>(
-        u"ItemIconAlignment", Repaint::asAutoRedraw, u"Place of the icon.", {u"Row", u"Column"}),
+        u"ItemIconAlignment",
+        Repaint::asAutoRedraw,
+        {u"Place of the icon.", u"Ausrichtung des Symbols."},
+        {u"Row", u"Column"}),
     property<&lmListView::ItemText, &lmListView::letItemText>(
-        u"ItemText", Repaint::asAutoRedraw, u"Text of the cell.", {u"Row", u"Column"}),
+        u"ItemText", Repaint::asAutoRedraw, {u"Text of the cell.", u"Text der Zelle."}, {u"Row", u"Column"}),
     property<&lmListView::ItemToolTip, &lmListView::letItemToolTip>(
-        u"ItemToolTip", Repaint::asAutoRedraw, u"Tool tip of the cell.", {u"Row", u"Column"}),
+        u"ItemToolTip",
+        Repaint::asAutoRedraw,
+        {u"Text that the control keeps for the host. It is never shown.",
+         u"Text, den das Steuerelement für das Programm aufbewahrt. Er wird nie angezeigt."},
+        {u"Row", u"Column"}),
     readOnly<&lmListView::ItemTextWidth>(
         u"ItemTextWidth",
-        u"Width of the text in pixels, as the last paint measured it; 0 for a cell never painted.",
+        {u"Width of the text in pixels, as the last paint measured it; 0 for a cell never painted.",
+         u"Breite des Texts in Pixeln, wie das letzte Zeichnen sie gemessen hat; 0 für eine nie gezeichnete "
+         u"Zelle."},
         {u"Row", u"Column"}),
     property<&lmListView::ItemObject, &lmListView::setItemObject>(
         u"ItemObject",
         Repaint::asAutoRedraw,
-        u"Control of the host that is shown over the cell. One with a window becomes a child of the list. A "
-        u"failure is told by ListViewError.",
+        {u"Control of the host that is shown over the cell. One with a window becomes a child of the list. A "
+         u"failure while it is assigned raises ListViewError and is then reported.",
+         u"Steuerelement des Programms, das über der Zelle angezeigt wird. Eines mit Fenster wird der Liste "
+         u"untergeordnet. Ein Fehler beim Zuweisen löst ListViewError aus und wird danach gemeldet."},
         {u"Row", u"Column"}),
     method<&lmListView::ItemsCheckedCount>(
         u"ItemsCheckedCount",
         Repaint::never,
-        u"Checked cells of a column; of all columns for a number that no column has.",
+        {u"Checked cells of a column; of all columns for a number that no column has.",
+         u"Anzahl der Zellen mit Häkchen in einer Spalte; in allen Spalten bei einer Nummer, die keine "
+         u"Spalte hat."},
         {orNumber(u"Column", 0)}),
 });
 

@@ -22,7 +22,9 @@ constexpr auto members = std::to_array<Member>({
     method<&lmListView::ColumnsAdd>(
         u"ColumnsAdd",
         Repaint::asAutoRedraw,
-        u"Appends a column, and an empty cell to every row. The width is in twips; a colour of 0 is black.",
+        {u"Appends a column, and an empty cell to every row. The width is in twips; a colour of 0 is black.",
+         u"Hängt eine Spalte an und jeder Zeile eine leere Zelle. Die Breite ist in Twips angegeben; die "
+         u"Farbe 0 ist Schwarz."},
         {u"aText",
          orNothing(u"aIcon"),
          orNothing(u"aIconHover"),
@@ -38,92 +40,142 @@ constexpr auto members = std::to_array<Member>({
     method<&lmListView::ColumnsClear>(
         u"ColumnsClear",
         Repaint::asAutoRedraw,
-        u"Removes all columns. Rows keep their cells, so clear the rows first for an empty list."),
+        {u"Removes all columns. Rows keep their cells, so clear the rows first for an empty list.",
+         u"Entfernt alle Spalten. Die Zeilen behalten ihre Zellen; für eine leere Liste sind daher zuerst "
+         u"die Zeilen zu entfernen."}),
     method<&lmListView::ColumnsRemove>(
         u"ColumnsRemove",
         Repaint::asAutoRedraw,
-        u"Checks the scroll bars and repaints. The columns stay: a single column cannot be removed.",
+        {u"Checks the scroll bars and repaints. The columns stay: a single column cannot be removed.",
+         u"Prüft die Bildlaufleisten und zeichnet neu. Die Spalten bleiben: Eine einzelne Spalte lässt sich "
+         u"nicht entfernen."},
         {u"Index"}),
-    readOnly<&lmListView::ColumnsCount>(u"ColumnsCount", u"The number of columns."),
+    readOnly<&lmListView::ColumnsCount>(u"ColumnsCount", {u"The number of columns.", u"Anzahl der Spalten."}),
     method<rowsAdd>(
         u"RowsAdd",
         Repaint::asAutoRedraw,
-        u"Inserts a row before the 0-based place, or appends it where that is out of range, and writes back "
-        u"the place it took. The texts are split at the separator, without quoting. A list without columns "
-        u"takes no rows.",
+        {u"Inserts a row before the 0-based place, or appends it where that is out of range, and writes back "
+         u"the place it took. The texts are split at the separator, without quoting. A list without columns "
+         u"takes no rows.",
+         u"Fügt eine Zeile vor der ab 0 gezählten Stelle ein oder hängt sie an, wenn es diese Stelle nicht "
+         u"gibt, und schreibt die eingenommene Stelle zurück. Die Texte werden am Trennzeichen geteilt; "
+         u"Anführungszeichen schützen nicht davor. Eine Liste ohne Spalten nimmt keine Zeilen auf."},
         {orNumber(u"aIndex", -1), orText(u"aSplit", u","), orMissing(u"aItemTexts")}),
     method<rowsRemove>(
         u"RowsRemove",
         Repaint::asAutoRedraw,
-        u"Removes the row with the 1-based number. A number out of range removes nothing and is not "
-        u"reported. The host gets its turn after each row that moves up.",
+        {u"Removes the row with the 1-based number. A number out of range removes nothing and is not "
+         u"reported. The host gets its turn after each row that moves up.",
+         u"Entfernt die Zeile mit der ab 1 gezählten Nummer. Eine Nummer außerhalb der Liste entfernt nichts "
+         u"und wird nicht gemeldet. Nach jeder Zeile, die aufrückt, kommt das Programm an die Reihe."},
         {u"Index"}),
     method<&lmListView::RowsSelectedRemove>(
-        u"RowsSelectedRemove", Repaint::always, u"Removes all selected rows and paints once at the end."),
-    method<&lmListView::RowsClear>(
-        u"RowsClear", Repaint::asAutoRedraw, u"Removes all rows. ListIndex and NewIndex keep their numbers."),
-    readOnly<&lmListView::RowsCount>(u"RowsCount", u"The number of rows."),
-    method<&lmListView::RowSelectedCount>(
-        u"RowSelectedCount", Repaint::never, u"The number of selected rows, counted anew."),
+        u"RowsSelectedRemove",
+        Repaint::always,
+        {u"Removes all selected rows and paints once at the end.",
+         u"Entfernt alle ausgewählten Zeilen und zeichnet am Ende einmal neu."}),
+    method<&lmListView::RowsClear>(u"RowsClear",
+                                   Repaint::asAutoRedraw,
+                                   {u"Removes all rows. ListIndex and NewIndex keep their numbers.",
+                                    u"Entfernt alle Zeilen. ListIndex und NewIndex behalten ihre Werte."}),
+    readOnly<&lmListView::RowsCount>(u"RowsCount", {u"The number of rows.", u"Anzahl der Zeilen."}),
+    method<&lmListView::RowSelectedCount>(u"RowSelectedCount",
+                                          Repaint::never,
+                                          {u"The number of selected rows, counted anew.",
+                                           u"Anzahl der ausgewählten Zeilen; bei jedem Aufruf neu gezählt."}),
     method<&lmListView::WrongIndex>(
         u"WrongIndex",
         Repaint::never,
-        u"True for whatever is no number, and for every index once the list has had a row.",
+        {u"True for whatever is no number, and for every index once the list has had a row.",
+         u"True für alles, was keine Zahl ist, und für jeden Index, sobald die Liste einmal eine Zeile "
+         u"hatte."},
         {u"Index"}),
     method<&lmListView::WrongColumnIndex>(
         u"WrongColumnIndex",
         Repaint::never,
-        u"True for whatever is no number, and for every index once the list has had a column.",
+        {u"True for whatever is no number, and for every index once the list has had a column.",
+         u"True für alles, was keine Zahl ist, und für jeden Index, sobald die Liste einmal eine Spalte "
+         u"hatte."},
         {u"Index"}),
     readOnly<&lmListView::NewIndex>(
-        u"NewIndex", u"The 0-based place of the row last added. It is not corrected when rows move or go."),
+        u"NewIndex",
+        {u"The 0-based place of the row last added. It is not corrected when rows move or go.",
+         u"Ab 0 gezählte Stelle der zuletzt hinzugefügten Zeile. Sie wird nicht berichtigt, wenn Zeilen "
+         u"wandern oder entfernt werden."}),
     property<&lmListView::ListIndex, &lmListView::letListIndex>(
         u"ListIndex",
         Repaint::asAutoRedraw,
-        u"The current row, 0-based; -1 for none. A number that no enabled row has is refused with "
-        u"ErrorWrongIndex. Reading gives the host its turn once."),
+        {u"The current row, 0-based; -1 for none. A number that no enabled row has is refused with "
+         u"ErrorWrongIndex. Reading gives the host its turn once.",
+         u"Die aktuelle Zeile, ab 0 gezählt; -1 für keine. Eine Nummer, die keine aktivierte Zeile hat, wird "
+         u"mit ErrorWrongIndex abgelehnt. Beim Lesen kommt das Programm einmal an die Reihe."}),
     property<&lmListView::RowIndex, &lmListView::letRowIndex>(
         u"RowIndex",
         Repaint::asAutoRedraw,
-        u"The current row, 1-based; 0 for none. Assigning also scrolls to the row."),
+        {u"The current row, 1-based; 0 for none. Assigning also scrolls to the row.",
+         u"Die aktuelle Zeile, ab 1 gezählt; 0 für keine. Eine Zuweisung rollt die Liste auch zu dieser "
+         u"Zeile."}),
     property<&lmListView::TopIndex, &lmListView::letTopIndex>(
-        u"TopIndex", Repaint::asAutoRedraw, u"The first row shown, 0-based."),
-    method<&lmListView::CheckScroll>(u"CheckScroll",
-                                     Repaint::never,
-                                     u"Decides anew which scroll bars are needed, and how far they reach."),
-    method<&lmListView::Redraw>(
-        u"Redraw", Repaint::always, u"Paints the whole control, whatever AutoRedraw says."),
+        u"TopIndex",
+        Repaint::asAutoRedraw,
+        {u"The first row shown, 0-based.", u"Die oberste sichtbare Zeile, ab 0 gezählt."}),
+    method<&lmListView::CheckScroll>(
+        u"CheckScroll",
+        Repaint::never,
+        {u"Decides anew which scroll bars are needed, and how far they reach.",
+         u"Ermittelt neu, welche Bildlaufleisten nötig sind und wie weit sie reichen."}),
+    method<&lmListView::Redraw>(u"Redraw",
+                                Repaint::always,
+                                {u"Paints the whole control, whatever AutoRedraw says.",
+                                 u"Zeichnet das ganze Steuerelement neu, unabhängig von AutoRedraw."}),
     method<&lmListView::ClearListView>(
         u"ClearListView",
         Repaint::never,
-        u"Erases the picture, not the content, which comes back with the next paint."),
-    method<&lmListView::StopEdit>(
-        u"StopEdit", Repaint::never, u"Closes the in-place editor and drops what was typed."),
-    readOnly<&lmListView::hwnd>(u"hwnd", u"The number of the control's window."),
-    readOnly<&lmListView::hwndEdit>(u"hwndEdit", u"The number of the in-place editor's window."),
+        {u"Erases the picture, not the content, which comes back with the next paint.",
+         u"Löscht das Bild, nicht den Inhalt; dieser erscheint beim nächsten Zeichnen wieder."}),
+    method<&lmListView::StopEdit>(u"StopEdit",
+                                  Repaint::never,
+                                  {u"Closes the in-place editor and drops what was typed.",
+                                   u"Schließt das Eingabefeld und verwirft die Eingabe."}),
+    readOnly<&lmListView::hwnd>(
+        u"hwnd", {u"The number of the control's window.", u"Fensternummer (Handle) des Steuerelements."}),
+    readOnly<&lmListView::hwndEdit>(
+        u"hwndEdit",
+        {u"The number of the in-place editor's window.", u"Fensternummer (Handle) des Eingabefelds."}),
     method<&lmListView::SetEdit>(
         u"SetEdit",
-        Repaint::asAutoRedraw,
-        u"Opens the in-place editor over a cell, with the whole text selected. No permission is asked for.",
+        Repaint::never,
+        {u"Opens the in-place editor where the cell was painted last, with its whole text selected. Scrolls "
+         u"first where the row is out of view. No permission is asked for.",
+         u"Öffnet das Eingabefeld an der Stelle, an der die Zelle zuletzt gezeichnet wurde; der ganze Text "
+         u"ist markiert. Eine Zeile außerhalb des sichtbaren Bereichs wird zuvor herangerollt. AllowEdit und "
+         u"ItemAllowEdit werden nicht beachtet."},
         {u"Row", u"Column"}),
-    readOnly<&lmListView::ColumnIndex>(u"ColumnIndex",
-                                       u"The 1-based column under the last press or release; -1 for none."),
-    method<&lmListView::Sort>(u"Sort",
-                              Repaint::never,
-                              u"Orders the rows by the texts of a column and raises SortDone. -1 drops the "
-                              u"sort mark, which repaints. "
-                              u"Without a mode nothing is ordered.",
-                              {byReference(u"Column"),
-                               byReference(orNumber(u"SortMode", 0)),
-                               byReference(orNumber(u"SortType", cSortText))}),
+    readOnly<&lmListView::ColumnIndex>(
+        u"ColumnIndex",
+        {u"The 1-based column under the last press or release; -1 for none.",
+         u"Ab 1 gezählte Spalte unter dem letzten Drücken oder Loslassen einer Maustaste; -1 für keine."}),
+    method<&lmListView::Sort>(
+        u"Sort",
+        Repaint::never,
+        {u"Orders the rows by the texts of a column and raises SortDone. -1 drops the sort mark, which "
+         u"repaints. Without a mode nothing is ordered.",
+         u"Ordnet die Zeilen nach den Texten einer Spalte und löst SortDone aus. -1 entfernt die "
+         u"Sortiermarke und zeichnet neu. Ohne Reihenfolge wird nichts geordnet."},
+        {byReference(u"Column"),
+         byReference(orNumber(u"SortMode", 0)),
+         byReference(orNumber(u"SortType", cSortText))}),
     readOnly<&lmListView::SortColumnIndex>(u"SortColumnIndex",
-                                           u"The 1-based column of the last sort; -1 for none."),
+                                           {u"The 1-based column of the last sort; -1 for none.",
+                                            u"Ab 1 gezählte Spalte der letzten Sortierung; -1 für keine."}),
     method<findItem>(u"FindItem",
                      Repaint::never,
-                     u"Looks for the first cell whose text, or tag behind \"<itemtag>\", matches a pattern. "
-                     u"Columns and rows are "
-                     u"\"*\" or a list such as \"1,3-5,\"; a lone number needs its comma. The answer counts "
-                     u"places in these lists.",
+                     {u"Looks for the first cell whose text, or tag behind \"<itemtag>\", matches a pattern. "
+                      u"Columns and rows are \"*\" or a list such as \"1,3-5,\"; a lone number needs its "
+                      u"comma. The answer counts places in these lists.",
+                      u"Sucht die erste Zelle, deren Text (nach \"<itemtag>\" deren Tag) einem Muster "
+                      u"entspricht. Spalten und Zeilen sind \"*\" oder eine Liste wie \"1,3-5,\"; eine "
+                      u"einzelne Zahl braucht ihr Komma. Das Ergebnis zählt die Stellen in diesen Listen."},
                      {byReference(u"sFind"),
                       byReference(orNumber(u"cBegin", cFindContinue)),
                       byReference(orNumber(u"cCompare", cFindBinary)),
@@ -131,24 +183,33 @@ constexpr auto members = std::to_array<Member>({
                       orText(u"sRows", u"*")}),
     method<autoColumnSize>(u"AutoColumnSize",
                            Repaint::always,
-                           u"Makes the columns with these numbers as wide as the widest text painted in "
-                           u"them, or as their header; "
-                           u"without a number all of them.",
+                           {u"Makes the columns with these numbers as wide as the widest text painted in "
+                            u"them, or as their header; without a number all of them.",
+                            u"Macht die Spalten mit diesen Nummern so breit wie den breitesten darin "
+                            u"gezeichneten Text oder ihre Überschrift; ohne Nummer alle Spalten."},
                            {anyNumberOf(u"lColumns")}),
-    method<&lmListView::ContentSave>(u"ContentSave",
-                                     Repaint::never,
-                                     u"Writes the texts of all cells, and on demand their looks, tags and "
-                                     u"icons, to a file. A file of that "
-                                     u"name is deleted first. Returns True; failures are reported.",
-                                     {u"sFilename", orFalse(u"bSaveItemProperties")}),
+    method<&lmListView::ContentSave>(
+        u"ContentSave",
+        Repaint::never,
+        {u"Writes the texts of all cells, and on demand their looks, tags and icons, to a file. A file of "
+         u"that name is deleted first. A failure is reported; the result is True even then.",
+         u"Schreibt die Texte aller Zellen und auf Wunsch ihr Aussehen, ihre Tags und Symbole in eine Datei. "
+         u"Eine Datei dieses Namens wird zuvor gelöscht. Ein Fehler wird gemeldet; das Ergebnis ist auch "
+         u"dann True."},
+        {u"sFilename", orFalse(u"bSaveItemProperties")}),
     method<&lmListView::ContentInput>(
         u"ContentInput",
         Repaint::always,
-        u"Clears the rows and fills the list from such a file; the columns stay. Returns False, with nothing "
-        u"changed, where there is no file.",
+        {u"Clears the rows and fills the list from such a file; the columns stay. Where there is no file the "
+         u"result is False, and nothing is changed. Any other failure is reported, and the result is True.",
+         u"Leert die Zeilen und füllt die Liste aus einer solchen Datei; die Spalten bleiben. Fehlt die "
+         u"Datei, ist das Ergebnis False, und nichts ändert sich. Jeder andere Fehler wird gemeldet, und das "
+         u"Ergebnis ist True."},
         {u"sFilename", orFalse(u"bReadItemPropertiesIfExists")}),
-    method<&lmListView::About>(
-        u"About", Repaint::never, u"Shows the about box and returns once it was closed."),
+    method<&lmListView::About>(u"About",
+                               Repaint::never,
+                               {u"Shows the about box and returns once it was closed.",
+                                u"Zeigt das Infofenster und kehrt zurück, sobald es geschlossen wurde."}),
 });
 
 } // namespace

@@ -2,6 +2,7 @@
 /// What the table of the public interface says of each member.
 #pragma once
 
+#include "automation/help.h"
 #include "automation/type_info.h"
 
 #include <array>
@@ -47,8 +48,8 @@ struct Member {
 
     Long number; ///< the dispatch number; it never changes once a version has been given out
     StringView name;
-    StringView help; ///< one line: units, index base, and what is surprising
-    TypeInfo type;   ///< of the property, or of the method's result
+    Help help;     ///< units, index base, and what is surprising
+    TypeInfo type; ///< of the property, or of the method's result
     Repaint repaint;
     std::array<Parameter, mostParameters> slots;
     std::size_t count;

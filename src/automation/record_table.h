@@ -2,6 +2,7 @@
 /// The public record as data.
 #pragma once
 
+#include "automation/help.h"
 #include "automation/type_info.h"
 
 #include <array>
@@ -12,6 +13,10 @@ struct RecordField {
     StringView name;
     TypeInfo type;
 };
+
+inline constexpr Help findResultsHelp{
+    u"What FindItem found. Row and column count from 1 in the lists that were searched.",
+    u"Was FindItem gefunden hat. Zeile und Spalte zählen ab 1 in den durchsuchten Listen."};
 
 /// The fields of `FindResults`, in their order.
 constexpr auto findResultsFields = std::to_array<RecordField>({

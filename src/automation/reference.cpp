@@ -25,7 +25,20 @@ constexpr auto notes = std::to_array<Note>({
     {u"Column", TypeCode::variant, "Counts from 1. A number; any text fails."},
     {u"Column", TypeCode::longInteger, "Counts from 1."},
     {u"aIndex", TypeCode::variant, "Counts from 0."},
+    {u"aText", TypeCode::variant, "Text of the header; whatever converts to a text."},
+    {u"aIcon", TypeCode::picture, "Icon of the header."},
+    {u"aIconHover", TypeCode::picture, "Its icon while the pointer is over it; Nothing for none."},
+    {u"aIconDown", TypeCode::picture, "Its icon while it is pressed; Nothing for none."},
+    {u"aAlignment", TypeCode::enumeration, "Place of the text in the header; cells do not take it on."},
     {u"aWidth", TypeCode::single, "Twips."},
+    {u"aAllowSorting", TypeCode::boolean, "Whether a click on the header sorts."},
+    {u"aForeColor", TypeCode::color, "Colour of the header text; 0 is black."},
+    {u"aKey", TypeCode::string, "Kept for the host; no column is found by it."},
+    {u"aTag", TypeCode::string, "Kept for the host."},
+    {u"aForeColorHover",
+     TypeCode::color,
+     "Colour of the header text while the pointer is over it; 0 is black."},
+    {u"aForeColorDown", TypeCode::color, "Colour of the header text while it is pressed; 0 is black."},
 });
 
 std::string noteOn(const Parameter& parameter) {
@@ -70,6 +83,8 @@ const char* zeroOf(TypeCode type) {
     case TypeCode::font:
     case TypeCode::object:
         return "Nothing";
+    case TypeCode::record:
+        return "an answer that found nothing";
     default:
         return "0";
     }
@@ -124,22 +139,29 @@ std::string repaintText(const Member& member) {
     return member.let != nullptr ? "\nAssigning does not repaint.\n" : "";
 }
 
+/// These answer by rules of their own, which their help tells.
+constexpr StringView neverZero[] = {u"ContentSave", u"ContentInput", u"FileExists"};
+
 std::string failureText(const Member& member) {
     if (member.count == 0 || member.type.code == TypeCode::none)
         return "";
+    if (std::ranges::find(neverZero, member.name) != std::end(neverZero))
+        return "";
+    if (member.isReference())
+        return "\nA failure while reading is reported and yields Nothing.\n";
     return std::string("\nA failure is reported and yields ") + zeroOf(member.type.code) + ".\n";
 }
 
 std::string describe(const Member& member) {
     return "# " + toUtf8(member.name) + "\n\n    " + syntaxOf(member) + "\n\n" + kindOf(member) + "\n\n" +
-           toUtf8(member.help) + "\n" + parameterTable(member) + repaintText(member) + failureText(member) +
-           "\nDispatch number " + std::to_string(member.number) +
+           toUtf8(member.help.english) + "\n" + parameterTable(member) + repaintText(member) +
+           failureText(member) + "\nDispatch number " + std::to_string(member.number) +
            (member.hidden ? ". Hidden where properties are listed for choice.\n" : ".\n");
 }
 
 /// A small class has one page for all of its members.
 std::string pageOf(const ClassDescription& description) {
-    std::string text = "# " + toUtf8(description.name) + "\n\n" + toUtf8(description.help) + "\n";
+    std::string text = "# " + toUtf8(description.name) + "\n\n" + toUtf8(description.help.english) + "\n";
     for (const Member& member : description.members)
         text += "\n#" + describe(member);
     return text;
@@ -149,7 +171,7 @@ std::string eventsPage() {
     std::string text =
         "# Events\n\nIn the order of their interface. Rows and columns count from 1, positions are pixels.\n";
     for (const EventDescription& event : eventTable) {
-        text += "\n## " + toUtf8(event.name) + "\n\n" + toUtf8(event.help) + "\n\n";
+        text += "\n## " + toUtf8(event.name) + "\n\n" + toUtf8(event.help.english) + "\n\n";
         if (event.count == 0)
             text += "No arguments.\n";
         else
@@ -164,7 +186,7 @@ std::string eventsPage() {
 std::string enumerationsPage() {
     std::string text = "# Enumerations\n\nValues are not checked: any number is stored.\n";
     for (const Enumeration& enumeration : enumerationTable) {
-        text += "\n## " + toUtf8(enumeration.name) + "\n\n" + toUtf8(enumeration.help) +
+        text += "\n## " + toUtf8(enumeration.name) + "\n\n" + toUtf8(enumeration.help.english) +
                 "\n\n| name | number |\n|---|---|\n";
         for (const Enumerator& member : enumeration.enumerators())
             text += "| `" + toUtf8(member.name) + "` | " + std::to_string(member.number) + " |\n";
@@ -185,8 +207,8 @@ std::string indexPage() {
     const auto group = [&](const char* title, std::span<const Member> members) {
         text += std::string("\n## ") + title + "\n\n| member | |\n|---|---|\n";
         for (const Member& member : members)
-            text += "| [" + toUtf8(member.name) + "](" + fileNameOf(member) + ") | " + toUtf8(member.help) +
-                    " |\n";
+            text += "| [" + toUtf8(member.name) + "](" + fileNameOf(member) + ") | " +
+                    toUtf8(member.help.english) + " |\n";
     };
     group("The list", listMembers());
     group("Properties", propertyMembers());

@@ -12,21 +12,32 @@ constexpr auto members = std::to_array<Member>({
     property<&lmListView::RowEnabled, &lmListView::letRowEnabled>(
         u"RowEnabled",
         Repaint::asAutoRedraw,
-        u"Whether the row can be chosen. Assigning enables or disables its cells too.",
+        {u"Whether the row can be chosen. Assigning enables or disables its cells too.",
+         u"Gibt an, ob die Zeile gewählt werden kann. Eine Zuweisung aktiviert oder deaktiviert auch ihre "
+         u"Zellen."},
         {u"Index"}),
     property<&lmListView::RowSelected, &lmListView::letRowSelected>(
         u"RowSelected",
         Repaint::asAutoRedraw,
-        u"Whether the row is selected. Selecting scrolls to it, and without MultiSelect drops the other "
-        u"rows. ListIndex does not follow.",
+        {u"Whether the row is selected. Selecting scrolls to a row out of view, and without MultiSelect "
+         u"drops the other rows. ListIndex does not follow.",
+         u"Gibt an, ob die Zeile ausgewählt ist. Das Auswählen rollt zu einer Zeile außerhalb des sichtbaren "
+         u"Bereichs und hebt ohne MultiSelect die Auswahl der anderen auf. ListIndex folgt nicht."},
         {u"Index"}),
     property<&lmListView::RowChecked, &lmListView::letRowChecked>(
         u"RowChecked",
         Repaint::asAutoRedraw,
-        u"Check mark of the row. Those of its cells are not touched.",
+        {u"Check mark that the control keeps for the host. Nothing shows it: what check boxes show is "
+         u"ItemChecked.",
+         u"Häkchen, das das Steuerelement für das Programm aufbewahrt. Nichts zeigt es an: Kontrollkästchen "
+         u"zeigen ItemChecked."},
         {u"Index"}),
     property<&lmListView::TextPosition, &lmListView::letTextPosition>(
-        u"TextPosition", Repaint::asAutoRedraw, u"Vertical place of the text in the row.", {u"Index"}),
+        u"TextPosition",
+        Repaint::asAutoRedraw,
+        {u"Vertical place of the text in the row. Without effect while RowsDynamic is True.",
+         u"Senkrechte Lage des Texts in der Zeile. Ohne Wirkung, solange RowsDynamic True ist."},
+        {u"Index"}),
 });
 
 } // namespace

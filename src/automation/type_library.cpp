@@ -8,19 +8,26 @@
 #include "automation/interface_types.h"
 #include "automation/record_table.h"
 #include "platform/text.h"
+#include "platform/windows_1252.h"
 
 namespace lumtex {
 
 namespace {
 
+/// The compiler of type libraries takes the bytes of texts as they are, and the library holds them in the
+/// code page of the system, which is the German one's too.
 std::string quoted(StringView text) {
     std::string result = "\"";
-    for (const char c : toUtf8(text)) {
-        if (c == '"' || c == '\\')
+    for (const char16_t unit : text) {
+        if (unit == u'"' || unit == u'\\')
             result += '\\';
-        result += c;
+        result += static_cast<char>(toWindows1252(unit));
     }
     return result + "\"";
+}
+
+std::string helpText(const Help& help) {
+    return "helpstring(" + quoted(help.german) + ")";
 }
 
 std::string uuid(const std::string& name) {
@@ -74,7 +81,7 @@ std::string entryText(const InterfaceEntry& entry) {
     using enum InterfaceEntry::Kind;
     const Member& member = *entry.member;
     std::string text = "        [" + std::string(attributeOf(entry)) + "id(" + std::to_string(member.number) +
-                       "), helpstring(" + quoted(member.help) + (member.hidden ? "), nonbrowsable]" : ")]") +
+                       "), " + helpText(member.help) + (member.hidden ? ", nonbrowsable]" : "]") +
                        "\n        HRESULT " + toUtf8(member.name) + "(";
     const char* separator = "";
     for (const Parameter& parameter : member.parameters()) {
@@ -90,9 +97,8 @@ std::string entryText(const InterfaceEntry& entry) {
 
 std::string interfaceText(const ClassDescription& description) {
     const std::string name = "_" + toUtf8(description.name);
-    std::string text = "    [odl, " + uuid(name) +
-                       ", dual, oleautomation, nonextensible, hidden, helpstring(" +
-                       quoted(description.help) + ")]\n    interface " + name + " : IDispatch {\n";
+    std::string text = "    [odl, " + uuid(name) + ", dual, oleautomation, nonextensible, hidden, " +
+                       helpText(description.help) + "]\n    interface " + name + " : IDispatch {\n";
     for (const InterfaceEntry& entry : interfaceEntries(description.members))
         text += entryText(entry);
     return text + "    };\n\n";
@@ -100,13 +106,13 @@ std::string interfaceText(const ClassDescription& description) {
 
 /// Events are numbered in their order, from 1.
 std::string eventsText() {
-    std::string text = "    [" + uuid("__lmListView") +
-                       ", hidden, helpstring(\"Events of lmListView.\")]\n    dispinterface __lmListView {\n"
+    std::string text = "    [" + uuid("__lmListView") + ", hidden, " + helpText(eventsHelp) +
+                       "]\n    dispinterface __lmListView {\n"
                        "    properties:\n    methods:\n";
     int number = 0;
     for (const EventDescription& event : eventTable) {
-        text += "        [id(" + std::to_string(++number) + "), helpstring(" + quoted(event.help) +
-                ")] void " + toUtf8(event.name) + "(";
+        text += "        [id(" + std::to_string(++number) + "), " + helpText(event.help) + "] void " +
+                toUtf8(event.name) + "(";
         const char* separator = "";
         for (const EventArgument& argument : event.arguments()) {
             text += std::string(separator) + (argument.byReference ? "[in, out] " : "[in] ") +
@@ -121,8 +127,8 @@ std::string eventsText() {
 
 std::string enumerationText(const Enumeration& enumeration) {
     const std::string name = toUtf8(enumeration.name);
-    std::string text = "    typedef [" + uuid(name) + ", helpstring(" + quoted(enumeration.help) +
-                       ")] enum " + name + " {\n";
+    std::string text =
+        "    typedef [" + uuid(name) + ", " + helpText(enumeration.help) + "] enum " + name + " {\n";
     const char* separator = "";
     for (const Enumerator& enumerator : enumeration.enumerators()) {
         text += std::string(separator) + "        " + toUtf8(enumerator.name) + " = " +
@@ -134,9 +140,7 @@ std::string enumerationText(const Enumeration& enumeration) {
 
 std::string recordText() {
     std::string text =
-        "    typedef [" + uuid("FindResults") +
-        ", helpstring(\"What FindItem found. Row and column count from 1 in the lists that were "
-        "searched.\")] struct FindResults {\n";
+        "    typedef [" + uuid("FindResults") + ", " + helpText(findResultsHelp) + "] struct FindResults {\n";
     for (const RecordField& field : findResultsFields)
         text += "        " + interfaceType(field.type) + " " + toUtf8(field.name) + ";\n";
     return text + "    } FindResults;\n\n";
@@ -145,7 +149,7 @@ std::string recordText() {
 std::string classText(const ClassDescription& description) {
     const std::string name = toUtf8(description.name);
     const bool control = description.name == listViewClass().name;
-    std::string text = "    [" + uuid(name) + ", helpstring(" + quoted(description.help) + ")" +
+    std::string text = "    [" + uuid(name) + ", " + helpText(description.help) +
                        (control ? ", control" : "") + "]\n    coclass " + name +
                        " {\n        [default] interface _" + name + ";\n";
     if (control)
@@ -156,12 +160,13 @@ std::string classText(const ClassDescription& description) {
 } // namespace
 
 std::string typeLibrarySource() {
-    std::string text = "// Made from the tables in src/automation by scripts/reference; do not edit.\n"
+    std::string text = "// Made from the tables in src/automation by scripts/reference; do not edit. -*- "
+                       "coding: windows-1252 -*-\n"
                        "import \"base_types.idl\";\n\n"
                        "[" +
                        uuid("LumtexListView") + ", version(" + std::to_string(typeLibraryMajor) + "." +
-                       std::to_string(typeLibraryMinor) +
-                       "), helpstring(\"LumtexListView, a list of rows and columns\")]\n"
+                       std::to_string(typeLibraryMinor) + "), " + helpText(libraryHelp) +
+                       "]\n"
                        "library LumtexListView {\n    importlib(\"stdole2.tlb\");\n\n";
     for (const Enumeration& enumeration : enumerationTable)
         text += enumerationText(enumeration);

@@ -9,8 +9,8 @@
 namespace lumtex {
 
 /// Runs `body` for each value of `counter` from `first` to `last`, until `body` returns False. Whatever runs
-/// inside the loop and counts in the same member sends it on to another place, as it always did. One that is
-/// sent back again and again ends after some thousand turns more than its range.
+/// inside the loop and counts in the same member sends it on to another place: hosts may rely on that. One
+/// that is sent back again and again ends after some thousand turns more than its range.
 template <class Body>
 void countShared(Long& counter, Long first, Long last, Body body) {
     constexpr std::int64_t spareTurns = 4096;

@@ -5,7 +5,7 @@ namespace lumtex {
 
 namespace {
 
-/// One program of old asks for larger jumps and a lower text; it is known by its name.
+/// One program wants larger jumps and a lower text; its name tells it from all others.
 bool runsInKnownProgram(const ComponentInfo& component) {
     constexpr StringView known = u"qrdmph";
     const String& name = component.exeName;

@@ -141,8 +141,29 @@ TEST_F(TypeLibrary, TheEventsStandInTheirOrder) {
     MEMBERID number = 0;
     for (const EventDescription& event : eventTable) {
         EXPECT_EQ(nameOf(info.get(), ++number), event.name);
-        EXPECT_EQ(helpOf(info.get(), number), event.help);
+        EXPECT_EQ(helpOf(info.get(), number), event.help.german);
     }
+}
+
+TEST_F(TypeLibrary, TheHelpIsGermanWithItsUmlauts) {
+    bool umlaut = false;
+    for (const ClassDescription& description : classTable()) {
+        const std::string name = toUtf8(description.name);
+        EXPECT_EQ(helpOf(type(name).get(), MEMBERID_NIL), description.help.german) << name;
+        const ComRef<ITypeInfo> table = type("_" + name);
+        EXPECT_EQ(helpOf(table.get(), MEMBERID_NIL), description.help.german) << name;
+        for (const Member& member : description.members) {
+            EXPECT_EQ(helpOf(table.get(), member.number), member.help.german) << toUtf8(member.name);
+            umlaut = umlaut || member.help.german.find(u'ü') != StringView::npos;
+        }
+    }
+    EXPECT_TRUE(umlaut) << "or nothing was tried";
+    for (const Enumeration& enumeration : enumerationTable) {
+        const std::string name = toUtf8(enumeration.name);
+        EXPECT_EQ(helpOf(type(name).get(), MEMBERID_NIL), enumeration.help.german) << name;
+    }
+    EXPECT_EQ(helpOf(type("FindResults").get(), MEMBERID_NIL), findResultsHelp.german);
+    EXPECT_EQ(helpOf(type("__lmListView").get(), MEMBERID_NIL), eventsHelp.german);
 }
 
 TEST_F(TypeLibrary, TheRecordHasItsFields) {

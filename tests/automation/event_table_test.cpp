@@ -24,13 +24,6 @@ constexpr const char* cell = "(Row: Long, Column: Long)";
 
 } // namespace
 
-TEST(Events, SayInOneLineWhenTheyCome) {
-    for (const EventDescription& event : eventTable) {
-        EXPECT_TRUE(event.help.ends_with(u'.')) << toUtf8(event.name);
-        EXPECT_EQ(event.help.find(u'\n'), StringView::npos) << toUtf8(event.name);
-    }
-}
-
 TEST(Events, AreTwentySevenInTheirOrderWithTheirArguments) {
     const std::vector<std::string> expected = {
         "Click()",

@@ -226,11 +226,4 @@ TEST(MemberTable, GivesEachMemberANumberOfItsOwn) {
         EXPECT_TRUE(numbers.insert(member.number).second) << toUtf8(member.name);
 }
 
-TEST(MemberTable, ExplainsEachMemberInOneLine) {
-    for (const Member& member : memberTable()) {
-        EXPECT_TRUE(member.help.ends_with(u'.')) << toUtf8(member.name);
-        EXPECT_EQ(member.help.find(u'\n'), StringView::npos) << toUtf8(member.name);
-    }
-}
-
 } // namespace lumtex::testing

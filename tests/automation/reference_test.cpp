@@ -41,7 +41,7 @@ TEST(Reference, HasAPageForEachMemberThatNamesItsParameters) {
     for (const Member& member : memberTable()) {
         const auto page = std::ranges::find(pages, toUtf8(member.name) + ".md", &ReferencePage::fileName);
         ASSERT_NE(page, pages.end()) << toUtf8(member.name);
-        EXPECT_NE(page->text.find(toUtf8(member.help)), std::string::npos);
+        EXPECT_NE(page->text.find(toUtf8(member.help.english)), std::string::npos);
         for (const Parameter& parameter : member.parameters())
             EXPECT_NE(page->text.find("| `" + toUtf8(parameter.name) + "` |"), std::string::npos)
                 << page->text;

@@ -153,22 +153,22 @@ TEST(TypeLibrary, MembersAreWrittenWithTypesDirectionsAndDefaults) {
     EXPECT_TRUE(holds(source, "[propputref, id(159)"));
     EXPECT_TRUE(holds(source, "HRESULT Skin([in] IPictureDisp* value);"));
     EXPECT_TRUE(holds(source, "[id(-552), helpstring("));
-    EXPECT_TRUE(holds(
-        source, "repaints nothing.\"), nonbrowsable]\n        HRESULT Recordset([in] IDispatch* value);"));
+    EXPECT_TRUE(
+        holds(source, "gezeichnet.\"), nonbrowsable]\n        HRESULT Recordset([in] IDispatch* value);"));
 }
 
 TEST(TypeLibrary, EventsAreNumberedInTheirOrder) {
     const std::string source = typeLibrarySource();
-    EXPECT_TRUE(holds(source, "[id(20), helpstring(\"A sort has ended.\")] void SortDone();"));
-    EXPECT_TRUE(
-        holds(source,
-              "[id(3), helpstring(\"A press is about to change a check mark. Cancel keeps it.\")] void "
-              "ItemCheck([in] "
-              "long Row, [in] long Column, [in] VARIANT_BOOL NewValue, [in, out] VARIANT_BOOL* Cancel);"));
-    EXPECT_TRUE(
-        holds(source,
-              "[id(27), helpstring(\"Never raised.\")] void ItemOver([in] long Row, [in] long Column, [in] "
-              "VARIANT_BOOL bOverItem);"));
+    EXPECT_TRUE(holds(source, "[id(20), helpstring(\"Eine Sortierung ist beendet.\")] void SortDone();"));
+    EXPECT_TRUE(holds(
+        source,
+        "[id(3), helpstring(\"Ein Mausdruck \xE4ndert gleich ein H\xE4kchen. Cancel verhindert es.\")] void "
+        "ItemCheck([in] "
+        "long Row, [in] long Column, [in] VARIANT_BOOL NewValue, [in, out] VARIANT_BOOL* Cancel);"));
+    EXPECT_TRUE(holds(source,
+                      "[id(27), helpstring(\"Wird nie ausgel\xF6st.\")] void ItemOver([in] long Row, [in] "
+                      "long Column, [in] "
+                      "VARIANT_BOOL bOverItem);"));
 }
 
 TEST(TypeLibrary, TheControlAloneHasEvents) {

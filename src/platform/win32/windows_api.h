@@ -23,7 +23,7 @@
 #include <olectl.h>
 #include <windows.h>
 
-// Words of old segment models and interface compilers that are too good to lose.
+// Words that the headers take for segment models and interface compilers, and that make good names.
 #undef small
 #undef near
 #undef hyper
