@@ -52,6 +52,11 @@ TEST_F(CallingByName, WhatTheControlWritesComesBackInByReferenceArguments) {
     auto removed = with(u"1");
     byName.call(u"RowsRemove", removed);
     EXPECT_EQ(removed[0], Variant(Long{1}));
+    list.RowsAdd(Long{-1}, u",", u"x");
+    auto search = with(u"x", Long{cFindStart}, Long{cFindBinary}, u"", u"");
+    byName.call(u"FindItem", search);
+    EXPECT_EQ(search[3], Variant(u"*"));
+    EXPECT_EQ(search[4], Variant(u"*"));
 }
 
 TEST_F(CallingByName, ValuesAreConvertedToTheTypesOfTheInterface) {

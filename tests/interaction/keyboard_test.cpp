@@ -128,6 +128,39 @@ TEST_F(Keys, DownScrollsTheRowIntoTheLastPlaceAndUpIntoTheFirst) {
     EXPECT_EQ(list.TopIndex(), 24);
 }
 
+TEST_F(Keys, ARowThatShowsIsScrolledNowhere) {
+    fill(50);
+    const Long visible = inside.VisibleItems();
+    list.letListIndex(visible - 2);
+    down();
+    EXPECT_EQ(list.TopIndex(), 0) << "down to the last place";
+
+    const auto topAfterUpTo = [&](Long row, Long top) {
+        list.letListIndex(row + 1);
+        list.letTopIndex(top);
+        // Otherwise the index itself scrolls first.
+        inside.selection().indexScrollArmed = false;
+        host.changed.clear();
+        up();
+        EXPECT_EQ(inside.properties().ListIndex, row);
+        return list.TopIndex();
+    };
+    EXPECT_EQ(topAfterUpTo(20, 20), 20);
+    EXPECT_EQ(host.changed, std::vector<String>{u"ListIndex"}) << "the top row was not even assigned";
+    EXPECT_EQ(topAfterUpTo(19, 20), 19);
+    EXPECT_EQ(topAfterUpTo(20 + visible, 20), 20) << "the one below the last that shows";
+    EXPECT_EQ(topAfterUpTo(20 + visible + 1, 20), 20 + visible + 1);
+}
+
+TEST_F(Keys, UpReachesTheFirstRow) {
+    fill(3);
+    list.letListIndex(1);
+    up();
+    EXPECT_EQ(selection(), "index=1 selected=1");
+    EXPECT_EQ(paintsOf([&] { up(); }), 0);
+    EXPECT_EQ(selection(), "index=1 selected=1");
+}
+
 // Wanted: unlike Down, it leaves the scrolling of the index as it is.
 TEST_F(Keys, OnlyDownHoldsOffTheScrollingOfTheIndex) {
     fill(30);

@@ -107,6 +107,18 @@ TEST_F(MouseMove, GoesOnWithThePlaceThatTheHostMadeOfIt) {
     EXPECT_EQ(inside.mouse().lastMouseY, rowTop(2) + 5);
 }
 
+// Wanted: a press on a row's top edge hits nothing, a move there hits the row.
+TEST_F(MouseMove, OnARowsTopEdgeHitsTheRowAndNotTheOneAbove) {
+    fill(3);
+    hover(cell(1, 1));
+    list.UserControl_MouseMove(leftButton, 0, 30, rowTop(2));
+    EXPECT_EQ(selection(), "index=2 selected=2");
+    list.UserControl_MouseMove(leftButton, 0, 30, rowTop(2) - 1);
+    EXPECT_EQ(selection(), "index=1 selected=1");
+    list.UserControl_MouseMove(leftButton, 0, 30, rowTop(4));
+    EXPECT_EQ(selection(), "index=1 selected=1") << "below the last row";
+}
+
 // Wanted: nothing stores a number in the two fields, so the event is never raised.
 TEST_F(MouseMove, NeverRaisesItemOver) {
     fill(3);

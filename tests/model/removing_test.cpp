@@ -179,6 +179,16 @@ TEST_F(Removing, WhatAHostSwitchesDuringTheRemovalIsSwitchedBack) {
     EXPECT_EQ(texts(), u"bcd");
 }
 
+TEST_F(Removing, OfTheSelectedRowsChecksTheBarsBeforeItPaints) {
+    inside.rows()[3].Selected = true;
+    String tagDuringYield = u"none";
+    // The last row moves nothing, so the only yield is the one at the end of the paint.
+    desktop.onYield([&] { tagDuringYield = inside.vertical().Tag; });
+    inside.vertical().Tag = u"";
+    list.RowsSelectedRemove();
+    EXPECT_EQ(tagDuringYield, u"True");
+}
+
 TEST_F(Removing, ANewListTakesNoRemoval) {
     lmListView fresh{desktop, host, events};
     fresh.UserControl_InitProperties();

@@ -90,6 +90,50 @@ TEST_F(Indices, RowIndexScrollsItsRowIntoView) {
     EXPECT_EQ(list.TopIndex(), 18);
 }
 
+class RowsInView : public ListFixture {
+  protected:
+    RowsInView() {
+        list.letRowsDynamic(false);
+        addColumns({50});
+        addRows(50);
+        visible = inside.VisibleItems();
+    }
+
+    Long visible = 0;
+};
+
+TEST_F(RowsInView, ListIndexScrollsARowBelowTheViewToTheTopFromTheSecondTimeOn) {
+    inside.selection().indexScrollArmed = false;
+    list.letListIndex(visible);
+    EXPECT_EQ(list.TopIndex(), 0) << "the first time after loading";
+    list.letListIndex(visible - 1);
+    EXPECT_EQ(list.TopIndex(), 0) << "the last row that shows";
+    list.letListIndex(visible);
+    EXPECT_EQ(list.TopIndex(), visible) << "the first that does not";
+    list.letListIndex(visible - 1);
+    EXPECT_EQ(list.TopIndex(), visible) << "above the view";
+    list.letTopIndex(10);
+    list.letListIndex(10 + visible - 1);
+    EXPECT_EQ(list.TopIndex(), 10);
+    list.letListIndex(10 + visible);
+    EXPECT_EQ(list.TopIndex(), 10 + visible);
+}
+
+TEST_F(RowsInView, RowSelectedScrollsFromTheRowAboveTheViewAndFromItsLastRow) {
+    const auto topAfter = [&](Long row) {
+        list.letTopIndex(10);
+        list.letRowSelected(row, true);
+        return list.TopIndex();
+    };
+    EXPECT_EQ(topAfter(10), 9) << "just above";
+    EXPECT_EQ(topAfter(11), 10) << "the first in view";
+    EXPECT_EQ(topAfter(10 + visible - 1), 10);
+    EXPECT_EQ(topAfter(10 + visible), 10 + visible - 1) << "the last in view";
+    list.letTopIndex(10);
+    list.letRowSelected(1, false);
+    EXPECT_EQ(list.TopIndex(), 10) << "taking a selection away scrolls nowhere";
+}
+
 TEST_F(Indices, AListThatNeverHadRowsReportsItsMissingBoundAndRefusesTheIndex) {
     lmListView& fresh = freshList();
     fresh.letListIndex(0);

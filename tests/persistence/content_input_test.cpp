@@ -328,6 +328,16 @@ TEST_F(ContentInput, TheBarsAreCheckedOnceAtTheEndWhateverAutoCheckScrollSays) {
     }
 }
 
+TEST_F(ContentInput, TheBarsAreCheckedBeforeThePaint) {
+    addColumns({30});
+    std::vector<String> tags;
+    desktop.onYield([&] { tags.push_back(inside.vertical().Tag); });
+    inside.vertical().Tag = u"";
+    load(ContentBytes().header(2, 1, false).text("x").text("y"), false);
+    ASSERT_FALSE(tags.empty()) << "a paint yields";
+    EXPECT_EQ(tags.front(), u"True");
+}
+
 TEST_F(ContentInput, InDesignModeEveryStatementPaints) {
     host.userMode = false;
     addColumns({30});

@@ -65,5 +65,20 @@ TEST_F(FormattedText, APrefixCharacterAtTheEndStandsForItself) {
     EXPECT_EQ(widthOf(u"a&&b"), surface.textWidth(u"a&b"));
 }
 
+TEST_F(FormattedText, IsShortenedFromTheFirstPixelThatIsMissing) {
+    const auto whole = static_cast<Long>(surface.textWidth(u"HHHHHHHHHH"));
+    const auto dots = static_cast<Long>(surface.textWidth(u"..."));
+    const auto letter = static_cast<Long>(surface.textWidth(u"H"));
+    const auto widthIn = [&](Long room) {
+        Rect rect{0, 0, room, 30};
+        surface.drawText(u"HHHHHHHHHH", rect, dtWordEllipsis | dtCalcRect);
+        return rect.Right;
+    };
+    EXPECT_EQ(widthIn(whole), whole);
+    EXPECT_EQ(widthIn(whole - 1), dots + 6 * letter);
+    EXPECT_EQ(widthIn(dots + 6 * letter), dots + 6 * letter) << "six letters fit exactly";
+    EXPECT_EQ(widthIn(dots + 6 * letter - 1), dots + 5 * letter);
+}
+
 } // namespace
 } // namespace lumtex::testing

@@ -70,6 +70,24 @@ TEST_F(ListScroll, RowsThatFillTheSurfaceExactlyNeedNoBarAndOneMoreDoes) {
     EXPECT_TRUE(inside.scroll().lastRowHidden);
 }
 
+TEST_F(ListScroll, DynamicRowsThatFillTheSurfaceExactlyAllShow) {
+    addColumns({50});
+    addRows(10);
+    const auto visibleWith = [&](Single height) {
+        for (RowRecord& row : inside.rows())
+            row.Height = height;
+        return inside.VisibleItems();
+    };
+    EXPECT_EQ(visibleWith(25), 7);
+    EXPECT_EQ(visibleWith(24), 7);
+    inside.rows()[6].Height = 32;
+    EXPECT_EQ(inside.VisibleItems(), 6) << "24 x 6 + 32 is one pixel too many";
+    inside.rows()[6].Height = 31;
+    EXPECT_EQ(inside.VisibleItems(), 7);
+    EXPECT_EQ(visibleWith(17.5), 10) << "all there are, to the last pixel";
+    EXPECT_EQ(visibleWith(10), 10) << "and there are no more";
+}
+
 TEST_F(ListScroll, DynamicRowsNeedTheBarFromTheSecondOn) {
     addColumns({50});
     addRows(1);

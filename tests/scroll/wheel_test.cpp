@@ -139,6 +139,16 @@ TEST_F(WheelOnList, ScrollsUpByItsLinesAndEndsAtTheTop) {
     EXPECT_EQ(events.log, Lines{"Scroll"});
 }
 
+TEST_F(WheelOnList, StopsAtTheSecondRowWhereItsLinesLeadThere) {
+    addRows(40);
+    list.letTopIndex(4);
+    wheel(1);
+    EXPECT_EQ(list.TopIndex(), 1);
+    list.letTopIndex(3);
+    wheel(1);
+    EXPECT_EQ(list.TopIndex(), 0);
+}
+
 TEST_F(WheelOnList, StopsAtTheEndOfTheRange) {
     addRows(40);
     list.letTopIndex(35);

@@ -69,6 +69,16 @@ TEST_F(Finding, RangesDownwardsOrToThemselvesGiveNothing) {
     EXPECT_EQ(reportCount(), 2U);
 }
 
+TEST_F(Finding, TheLastColumnAndTheLastRowStillCount) {
+    EXPECT_EQ(find(u"c4", u"3,", u"4,"), "1 1");
+    EXPECT_EQ(find(u"c4", u"1-3", u"2-4"), "3 3");
+    EXPECT_EQ(find(u"c4", u"1,2-3,4-5,2-4", u"4,5,"), "1 3") << "what goes past the end is left out";
+    EXPECT_EQ(find(u"b2"), "2 2");
+    EXPECT_EQ(next(u"c2"), "2 3") << "it goes on in the last column";
+    EXPECT_EQ(find(u"c3"), "3 3");
+    EXPECT_EQ(next(u"b2"), "2 2") << "and behind it in the first";
+}
+
 TEST_F(Finding, AnswersArePlacesInTheLists) {
     EXPECT_EQ(find(u"c1", u"1,3"), "1 2");
     EXPECT_EQ(find(u"a1", u"1,3"), "1 1");
