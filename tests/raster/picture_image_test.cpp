@@ -1,6 +1,7 @@
 #include "error_number.h"
 #include "platform/raster/picture_image.h"
 #include "platform/runtime_error.h"
+#include "sample_images.h"
 
 #include <random>
 
@@ -8,8 +9,6 @@
 
 namespace lumtex::testing {
 namespace {
-
-using Image = std::vector<Byte>;
 
 constexpr std::uint32_t red = 0xFFFF0000U;
 constexpr std::uint32_t green = 0xFF00FF00U;
@@ -126,6 +125,23 @@ TEST(PictureImage, NoCutOrChangedByteCrashesTheReader) {
     }
 }
 
+TEST(PictureImage, DamagedImagesAreRefused) {
+    for (const NamedImage& damaged : damagedImages())
+        EXPECT_EQ(errorNumberOf([&] { pictureOfImage(damaged.image); }), invalidPicture) << damaged.name;
+}
+
+TEST(PictureImage, EachHeaderByteOfAnIconWithSeveralPicturesMayBeAnything) {
+    const Image whole = iconOf({iconPart(16), iconPart(32), pngImage()});
+    for (std::size_t i = 0; i < 6 + 3 * 16 + 40; ++i) {
+        for (const int value : {0, 1, 2, 0x7F, 0x80, 0xFF}) {
+            Image changed = whole;
+            changed[i] = static_cast<Byte>(value);
+            const Long number = errorNumberOf([&] { pictureOfImage(changed); });
+            EXPECT_TRUE(number == noError || number == invalidPicture) << i << " gives " << number;
+        }
+    }
+}
+
 TEST(PictureImage, ASizeThatTheBytesCannotHoldIsRefusedBeforeItsMemoryIsAskedFor) {
     Image image = imageOfPicture(BitmapPicture(Bitmap(1, 1, red)));
     image[30] = 1; // compressed runs, with a palette of 256 colours: no length follows from the size
@@ -133,6 +149,7 @@ TEST(PictureImage, ASizeThatTheBytesCannotHoldIsRefusedBeforeItsMemoryIsAskedFor
     image.resize(54 + 4 * 256);
     image[10] = 54;
     image[11] = 4;
+    image[34] = 2;                     // bytes of runs
     image.insert(image.end(), {0, 1}); // the end of the picture
     const auto letSide = [&](Byte low, Byte high) {
         image[18] = image[22] = low;

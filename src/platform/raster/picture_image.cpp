@@ -1,5 +1,6 @@
 #include "platform/raster/picture_image.h"
 
+#include "platform/image_check.h"
 #include "platform/raster/pixbuf.h"
 #include "platform/runtime_error.h"
 
@@ -10,30 +11,26 @@ namespace lumtex {
 
 namespace {
 
-constexpr unsigned mostPixelsToAByte = 8;
-
 struct Format {
-    std::array<Byte, 4> signature;
-    std::size_t signatureLength;
+    ImageFormat name;
     const char* loader;
     PictureKind kind;
     int coats; ///< how often the loader goes over each line: an icon has a mask
 };
 
 constexpr std::array<Format, 3> formats{{
-    {{'B', 'M'}, 2, "bmp", PictureKind::bitmap, 1},
-    {{0, 0, 1, 0}, 4, "ico", PictureKind::icon, 2},
-    {{0, 0, 2, 0}, 4, "ico", PictureKind::icon, 2},
+    {ImageFormat::bitmap, "bmp", PictureKind::bitmap, 1},
+    {ImageFormat::icon, "ico", PictureKind::icon, 2},
+    {ImageFormat::cursor, "ico", PictureKind::icon, 2},
 }};
 
 const Format& formatOf(std::span<const Byte> image) {
-    for (const Format& format : formats) {
-        const auto* const end = format.signature.begin() + format.signatureLength;
-        if (image.size() >= format.signatureLength &&
-            std::equal(format.signature.begin(), end, image.begin()))
-            return format;
-    }
-    throw RuntimeError(invalidPicture);
+    const ImageFormat name = checkImage(image);
+    const auto* const found = std::find_if(
+        formats.begin(), formats.end(), [&](const Format& format) { return format.name == name; });
+    if (found == formats.end())
+        throw RuntimeError(invalidPicture);
+    return *found;
 }
 
 /// What the loader tells while it reads.
