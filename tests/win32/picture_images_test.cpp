@@ -1,6 +1,8 @@
 #include "platform/picture_image.h"
 #include "platform/runtime_error.h"
+#include "platform/win32/ole_picture.h"
 #include "platform/win32/win32_runtime.h"
+#include "sample_images.h"
 
 #include <gtest/gtest.h>
 
@@ -70,6 +72,38 @@ TEST_F(PictureImages, AnImageThatDeclaresMorePixelsThanItsBytesCanHoldThrows481)
     std::vector<Byte> image = runtime.imageOfPicture(BitmapPicture(pattern(4, 4)));
     image[20] = 0x40; // a width of four millions
     EXPECT_EQ(failureOf(image), invalidPicture);
+}
+
+TEST_F(PictureImages, DamagedImagesNeverReachTheSystem) {
+    for (const NamedImage& damaged : damagedImages()) {
+        EXPECT_EQ(failureOf(damaged.image), invalidPicture) << damaged.name;
+        EXPECT_THROW(loadOlePicture(damaged.image), RuntimeError) << damaged.name;
+    }
+}
+
+TEST_F(PictureImages, EachHeaderByteMayBeAnything) {
+    const Image images[] = {iconOf({iconPart(16), iconPart(32), pngImage()}),
+                            iconImage(16),
+                            imageOfPicture(BitmapPicture(Bitmap(9, 9, 0xFF102030U))),
+                            imageOfPicture(BitmapPicture(Bitmap(300, 2, 0x80102030U)))};
+    for (const Image& whole : images) {
+        const std::size_t headers = std::min<std::size_t>(whole.size(), 150);
+        for (std::size_t i = 0; i < headers; ++i) {
+            for (const int value : {0, 1, 2, 0x7F, 0x80, 0xFF}) {
+                Image changed = whole;
+                changed[i] = static_cast<Byte>(value);
+                const Long number = failureOf(changed);
+                EXPECT_TRUE(number == 0 || number == invalidPicture) << i << " gives " << number;
+            }
+        }
+    }
+}
+
+TEST_F(PictureImages, OtherFormatsPassTheSystemsLoaderAlone) {
+    for (const Image& image : {pngImage(), gifImage()}) {
+        EXPECT_EQ(failureOf(image), invalidPicture) << "no content file holds them";
+        EXPECT_FALSE(loadOlePicture(image)->bitmap().pixels.empty());
+    }
 }
 
 TEST_F(PictureImages, APictureWithoutPixelsThrows481) {

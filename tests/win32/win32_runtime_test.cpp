@@ -154,6 +154,12 @@ TEST_F(SystemRuntime, EachByteOfTheCodePageComesBack) {
     EXPECT_EQ(unknown, Byte{'?'});
 }
 
+TEST_F(SystemRuntime, ALetterThatTheCodePageLacksBecomesTheNearest) {
+    std::vector<Byte> bytes(3);
+    runtime.toAnsi(u"\u0100\u010D\u221E", bytes);
+    EXPECT_EQ(std::string(bytes.begin(), bytes.end()), "Ac8");
+}
+
 TEST_F(SystemRuntime, FindsFilesByPattern) {
     runtime.createFile(folder + u"a.txt");
     const Long found = runtime.findFirstFile(folder + u"*.txt");

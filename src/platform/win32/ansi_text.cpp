@@ -19,12 +19,23 @@ int lengthOf(std::size_t length) {
     return static_cast<int>(length);
 }
 
+/// The byte of the letter of the code page that is nearest to a unit; "?" where none is near, and where it
+/// takes more than a byte.
+Byte nearestByte(char16_t unit) {
+    const auto spelled = static_cast<wchar_t>(unit);
+    char byte = '?';
+    const int size = WideCharToMultiByte(CP_ACP, 0, &spelled, 1, &byte, 1, nullptr, nullptr);
+    return size == 1 ? static_cast<Byte>(byte) : Byte{'?'};
+}
+
 /// The code page as one byte for each character, both ways.
 struct SingleBytes {
     std::array<char16_t, 256> units;
     std::vector<Byte> bytes = std::vector<Byte>(std::size_t{1} << 16U, Byte{'?'});
 
     SingleBytes() {
+        for (std::size_t unit = 0; unit < bytes.size(); ++unit)
+            bytes[unit] = nearestByte(static_cast<char16_t>(unit));
         for (std::size_t byte = units.size(); byte-- > 0;) {
             const char spelled = static_cast<char>(byte);
             wchar_t unit = 0;

@@ -1,5 +1,6 @@
 #include "platform/win32/ole_picture.h"
 
+#include "platform/image_check.h"
 #include "platform/rounding.h"
 #include "platform/runtime_error.h"
 #include "platform/win32/memory_bitmap.h"
@@ -250,20 +251,6 @@ HICON iconFor(const Bitmap& bitmap) {
     return icon;
 }
 
-/// A bitmap file that ends before its pixels begin. The system reads on behind such an image.
-bool isCutBitmapFile(std::span<const Byte> image) {
-    constexpr std::size_t headersEnd = 26; // of the shortest kind
-    constexpr std::size_t startOfPixels = 10;
-    if (image.size() < 2 || image[0] != 'B' || image[1] != 'M')
-        return false;
-    if (image.size() < headersEnd)
-        return true;
-    std::size_t start = 0;
-    for (unsigned i = 0; i < 4; ++i)
-        start |= std::size_t{image[startOfPixels + i]} << (8 * i);
-    return start >= image.size();
-}
-
 ComRef<IPictureDisp> makeObject(const Picture& picture) {
     PICTDESC description{};
     description.cbSizeofstruct = sizeof description;
@@ -300,8 +287,8 @@ PictureRef pictureFrom(IPictureDisp* picture) {
 ComRef<IPictureDisp> toIPicture(const PictureRef& picture) {
     if (!picture)
         return {};
-    if (const auto* hosts = dynamic_cast<const OlePicture*>(picture.get()))
-        return queryFor<IPictureDisp>(hosts->object());
+    if (IPicture* hosts = hostsPicture(*picture))
+        return queryFor<IPictureDisp>(hosts);
     if (picture->bitmap().pixels.empty())
         return {};
     if (ComRef<IPictureDisp> known = pairs().theirsFor(picture.get()))
@@ -319,9 +306,16 @@ ComRef<IPictureDisp> toIPicture(const PictureRef& picture) {
     return made;
 }
 
-PictureRef loadOlePicture(std::span<const Byte> image) {
-    if (image.empty() || image.size() > 0x7FFFFFFF || isCutBitmapFile(image))
+IPicture* hostsPicture(const Picture& picture) {
+    const auto* hosts = dynamic_cast<const OlePicture*>(&picture);
+    return hosts != nullptr ? hosts->object() : nullptr;
+}
+
+PictureRef loadOlePicture(std::span<const Byte> image, std::uint64_t freePixels) {
+    if (image.size() > 0x7FFFFFFF)
         throw RuntimeError(invalidPicture);
+    // The system's loader believes whatever an image says of itself.
+    checkImage(image, freePixels);
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, image.size());
     ComRef<IStream> stream;
     if (memory == nullptr || FAILED(CreateStreamOnHGlobal(memory, TRUE, stream.out()))) {

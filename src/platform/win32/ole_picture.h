@@ -20,8 +20,11 @@ PictureRef pictureFrom(IPictureDisp* picture);
 /// Throws RuntimeError 7 where it cannot be made.
 ComRef<IPictureDisp> toIPicture(const PictureRef& picture);
 
-/// Reads the bytes of a picture file of any kind that the system knows. Throws RuntimeError 481 for anything
-/// else.
-PictureRef loadOlePicture(std::span<const Byte> image);
+/// The object of a host that `picture` came from, alive as long as that is; null for a picture of ours.
+IPicture* hostsPicture(const Picture& picture);
+
+/// Reads the bytes of a picture file of any kind that `checkImage` admits with this many free pixels. Throws
+/// RuntimeError 481 for anything else.
+PictureRef loadOlePicture(std::span<const Byte> image, std::uint64_t freePixels = 0);
 
 } // namespace lumtex
