@@ -1,12 +1,24 @@
 /// Values to and from a container's bag.
 #include "activex/host_property_bag.h"
 
+#include "platform/runtime_error.h"
 #include "platform/win32/com_error.h"
 #include "platform/win32/variant_bridge.h"
 
 namespace lumtex {
 
 namespace {
+
+/// Whether a bag that did not give a value has it nevertheless, and could not convert it. Bags say in more
+/// ways than one that a name is missing, and one of these is what others say of a conversion.
+bool couldNotConvert(IPropertyBag& bag, const wchar_t* name, HRESULT result) {
+    if (SUCCEEDED(result) || result == E_INVALIDARG)
+        return false;
+    if (result == DISP_E_TYPEMISMATCH || result == DISP_E_OVERFLOW || result == DISP_E_BADVARTYPE)
+        return true;
+    OwnedVARIANT asItIs;
+    return SUCCEEDED(bag.Read(name, &asItIs.get(), nullptr)) && V_VT(&asItIs.get()) != VT_EMPTY;
+}
 
 /// What the bag shall give: it converts texts, and makes objects, by the type that it is asked for.
 VARTYPE typeOfDefault(const Variant& defaultValue) {
@@ -22,8 +34,10 @@ Variant HostPropertyBag::ReadProperty(StringView name, const Variant& defaultVal
     V_VT(&value.get()) = typeOfDefault(defaultValue);
     if (V_VT(&value.get()) == VT_UNKNOWN)
         V_UNKNOWN(&value.get()) = nullptr;
-    const HRESULT read = bag_.Read(wide(String(name)), &value.get(), log_);
-    // A bag says that a name is missing in more ways than one.
+    String key(name);
+    const HRESULT read = bag_.Read(wide(key.data()), &value.get(), log_);
+    if (couldNotConvert(bag_, wide(key.data()), read))
+        throw RuntimeError(read == DISP_E_OVERFLOW ? overflow : typeMismatch);
     if (FAILED(read) || V_VT(&value.get()) == VT_EMPTY)
         return defaultValue;
     return fromVARIANT(value.get());

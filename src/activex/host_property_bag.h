@@ -7,7 +7,8 @@
 
 namespace lumtex {
 
-/// Throws the RuntimeError of a value that cannot be used, and of a bag that refuses one.
+/// Throws the RuntimeError of a value that cannot be used, or that the bag cannot convert, and of a bag that
+/// refuses one.
 class HostPropertyBag final : public PropertyBag {
   public:
     /// `everything`: values that equal their default are written too. Both must outlive this; `log` may be

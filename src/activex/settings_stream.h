@@ -14,7 +14,9 @@ namespace lumtex {
 /// Throws RuntimeError 57 where the stream takes no more.
 void saveSettings(IStream& stream, const MemoryPropertyBag& bag);
 
-/// Throws RuntimeError 321 for a stream that was not written by `saveSettings`, or that ends too early.
+/// The stream comes from a document, which nobody trusts: no class is made because the stream names it, and
+/// fonts and pictures are made under the keys alone that hold them. Throws RuntimeError 321 for a stream that
+/// `saveSettings` did not write, that is damaged, or that ends too early.
 void loadSettings(IStream& stream, MemoryPropertyBag& bag);
 
 } // namespace lumtex
