@@ -145,6 +145,46 @@ TEST_F(JsonPropertyBagTest, TextThatIsNoObjectIsAnInvalidFormatAndChangesNothing
     }
 }
 
+TEST_F(JsonPropertyBagTest, TextNestedDeeperThanAnyOfOursIsRefused) {
+    const auto nested = [](int levels, const std::string& open, const std::string& close) {
+        std::string text = "{\"a\": ";
+        for (int i = 0; i < levels; ++i)
+            text += open;
+        text += "1";
+        for (int i = 0; i < levels; ++i)
+            text += close;
+        return text + "}";
+    };
+    EXPECT_EQ(errorNumberOf([&] { bag.parse(nested(6, "[", "]")); }), noError);
+    for (const int levels : {9, 20, 1'000'000}) {
+        EXPECT_EQ(errorNumberOf([&] { bag.parse(nested(levels, "[", "]")); }), invalidFileFormat) << levels;
+        EXPECT_EQ(errorNumberOf([&] { bag.parse(nested(levels, "{\"b\":", "}")); }), invalidFileFormat);
+    }
+}
+
+TEST_F(JsonPropertyBagTest, WhatNobodyAsksForIsNotWrittenAgain) {
+    bag.parse(R"({"Zebra": 1, "IconW": 5, "iconw": 6, "Ape": {"deep": [1, 2]}, "IconH": 7})");
+    EXPECT_EQ(bag.text(), "{}\n");
+    EXPECT_EQ(read(u"ICONH"), Variant(Long{7}));
+    EXPECT_EQ(read(u"IconW"), Variant(Long{5})) << "the first of two spellings";
+    EXPECT_EQ(bag.text(), "{\n    \"IconW\": 5,\n    \"IconH\": 7\n}\n");
+    bag.WriteProperty(u"IconW", Single{16}, Single{16});
+    bag.WriteProperty(u"Ape", Long{1}, Long{0});
+    EXPECT_EQ(bag.text(), "{\n    \"Ape\": 1,\n    \"IconH\": 7\n}\n");
+    EXPECT_EQ(read(u"IconW"), Variant(Long{-7}));
+    EXPECT_EQ(read(u"IconH"), Variant(Long{7}));
+}
+
+/// Looking at all others for each of them would take hours.
+TEST_F(JsonPropertyBagTest, HundredsOfThousandsOfMembersAreReadOver) {
+    std::string text = "{";
+    for (int i = 0; i < 100'000; ++i)
+        text += "\"k" + std::to_string(i) + "\": {\"Name\": 1},";
+    bag.parse(text + "\"IconW\": 5}");
+    EXPECT_EQ(read(u"IconW"), Variant(Long{5}));
+    EXPECT_EQ(bag.text(), "{\n    \"IconW\": 5\n}\n");
+}
+
 TEST_F(JsonPropertyBagTest, CutAnywhereTheTextIsRefused) {
     bag.WriteProperty(u"IconW", Single{1}, Single{16});
     bag.WriteProperty(u"Font", std::make_shared<Font>(FontSpec{.Name = u"ä", .Size = 8}), FontRef{});

@@ -1,13 +1,18 @@
 #include "platform/json/json_property_bag.h"
 
+#include "platform/case_mapping.h"
+#include "platform/json/json_members.h"
 #include "platform/runtime_error.h"
 #include "platform/text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
 #include <nlohmann/json.hpp>
+#include <unordered_map>
+#include <vector>
 
 #include <glib.h>
 
@@ -120,18 +125,42 @@ Variant valueOf(const Runtime& runtime, const Json& json) {
     }
 }
 
+/// The name that all spellings of it in capitals and small letters have in common.
+String keyOf(StringView name) {
+    String key(name);
+    std::transform(key.begin(), key.end(), key.begin(), lowerCase);
+    return key;
+}
+
 } // namespace
 
 struct JsonPropertyBag::Members {
-    Json json = Json::object();
+    struct Member {
+        std::string name;
+        Json json;
+        bool known = false; ///< somebody asked for it, or wrote it
+    };
 
-    /// Names compare without regard to case.
-    Json::iterator find(StringView name) {
-        auto found = json.begin();
-        while (found != json.end() && !sameName(fromUtf8(found.key()), name))
-            ++found;
-        return found;
+    Member* find(StringView name) {
+        const auto found = places.find(keyOf(name));
+        return found != places.end() ? &members[found->second] : nullptr;
     }
+    /// Of several spellings the first counts.
+    void add(const std::string& name, Json json, bool known) {
+        if (places.emplace(keyOf(fromUtf8(name)), members.size()).second)
+            members.push_back({name, std::move(json), known});
+    }
+    /// Its place stays, and is nobody's.
+    void remove(StringView name) {
+        const auto found = places.find(keyOf(name));
+        if (found == places.end())
+            return;
+        members[found->second] = {};
+        places.erase(found);
+    }
+
+    std::vector<Member> members;
+    std::unordered_map<String, std::size_t> places; ///< in `members`, by the names' keys
 };
 
 JsonPropertyBag::JsonPropertyBag(Runtime& runtime)
@@ -140,14 +169,19 @@ JsonPropertyBag::JsonPropertyBag(Runtime& runtime)
 JsonPropertyBag::~JsonPropertyBag() = default;
 
 void JsonPropertyBag::parse(std::string_view json) {
-    Json parsed = Json::parse(json, nullptr, false, true);
-    if (!parsed.is_object())
-        throw RuntimeError(invalidFileFormat);
-    members_->json = std::move(parsed);
+    Members members;
+    for (JsonMember& member : membersOfObject(json))
+        members.add(member.name, Json(std::move(member.value)), false);
+    *members_ = std::move(members);
 }
 
 std::string JsonPropertyBag::text() const {
-    return members_->json.dump(4) + '\n';
+    Json json = Json::object();
+    for (const Members::Member& member : members_->members) {
+        if (member.known)
+            json[member.name] = member.json;
+    }
+    return json.dump(4) + '\n';
 }
 
 void JsonPropertyBag::load(StringView path) {
@@ -165,22 +199,22 @@ void JsonPropertyBag::save(StringView path) const {
 }
 
 Variant JsonPropertyBag::ReadProperty(StringView name, const Variant& defaultValue) const {
-    const auto found = members_->find(name);
-    return found != members_->json.end() ? valueOf(runtime_, *found) : defaultValue;
+    Members::Member* const found = members_->find(name);
+    if (found == nullptr)
+        return defaultValue;
+    found->known = true;
+    return valueOf(runtime_, found->json);
 }
 
 void JsonPropertyBag::WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) {
-    const auto found = members_->find(name);
-    if (sameValue(value, defaultValue)) {
-        if (found != members_->json.end())
-            members_->json.erase(found);
-        return;
-    }
+    if (sameValue(value, defaultValue))
+        return members_->remove(name);
     Json json = jsonOf(runtime_, value);
-    if (found != members_->json.end())
-        *found = std::move(json);
-    else
-        members_->json[toUtf8(name)] = std::move(json);
+    Members::Member* const found = members_->find(name);
+    if (found == nullptr)
+        return members_->add(toUtf8(name), std::move(json), true);
+    found->json = std::move(json);
+    found->known = true;
 }
 
 } // namespace lumtex

@@ -17,7 +17,8 @@ namespace lumtex {
 /// special are left out; a picture is an object whose member "Picture" holds the bytes of its file as base64.
 /// A number that is none (infinite, say) cannot be stored, and an object cannot either.
 ///
-/// Members are kept in the order in which they were first written, and members that nobody asks for stay.
+/// Members are kept in the order in which they were first written. One that was read from a text, and that
+/// nobody has asked for since, is none of ours and is not written again.
 class JsonPropertyBag final : public PropertyBag {
   public:
     /// An empty bag. `runtime` must outlive it.
@@ -25,7 +26,8 @@ class JsonPropertyBag final : public PropertyBag {
     ~JsonPropertyBag() override;
 
     /// Takes over what `json` (UTF-8) says, in place of all that was there. Throws RuntimeError 321 for text
-    /// that is no JSON object, and changes nothing then. Comments are allowed.
+    /// that is no JSON object, or nested deeper than eight levels, and changes nothing then. Comments are
+    /// allowed. Of a name in several spellings the first counts.
     void parse(std::string_view json);
     /// UTF-8, a property a line.
     std::string text() const;
