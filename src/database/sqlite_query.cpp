@@ -1,5 +1,6 @@
 /// Queries on files of SQLite.
 #include "database/query.h"
+#include "database/sqlite_opening.h"
 #include "platform/text.h"
 
 #include <cmath>
@@ -7,39 +8,11 @@
 #include <optional>
 #include <vector>
 
-#include <sqlite3.h>
-
 namespace lumtex {
 
 namespace {
 
-/// How long to wait for a writer of the same file, in milliseconds.
-constexpr int patience = 5000;
-
-struct Closer {
-    void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-using Connection = std::unique_ptr<sqlite3, Closer>;
-using Statement = std::unique_ptr<sqlite3_stmt, Closer>;
-
-RuntimeError failureOf(sqlite3* database) {
-    if (sqlite3_errcode(database) == SQLITE_NOMEM)
-        return RuntimeError(outOfMemory);
-    return failureWith(sqlite3_errmsg(database));
-}
-
-Connection connect(const std::string& file) {
-    sqlite3* opened = nullptr;
-    const int outcome = sqlite3_open_v2(file.c_str(), &opened, SQLITE_OPEN_READONLY, nullptr);
-    Connection database(opened);
-    if (!database)
-        throw RuntimeError(outOfMemory);
-    if (outcome != SQLITE_OK)
-        throw failureOf(database.get());
-    sqlite3_busy_timeout(database.get(), patience);
-    return database;
-}
+using Statement = std::unique_ptr<sqlite3_stmt, SqliteCloser>;
 
 /// The first statement of `sql`, which then holds the rest; none where there is none.
 Statement prepareFirst(sqlite3* database, std::string_view& sql) {
@@ -48,7 +21,7 @@ Statement prepareFirst(sqlite3* database, std::string_view& sql) {
     sqlite3_stmt* prepared = nullptr;
     const char* rest = nullptr;
     if (sqlite3_prepare_v2(database, sql.data(), static_cast<int>(sql.size()), &prepared, &rest) != SQLITE_OK)
-        throw failureOf(database);
+        throw sqliteFailure(database);
     sql.remove_prefix(static_cast<std::size_t>(rest - sql.data()));
     return Statement(prepared);
 }
@@ -58,7 +31,7 @@ class Snapshot {
   public:
     explicit Snapshot(sqlite3* database) : database_(database) {
         if (sqlite3_exec(database_, "BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK)
-            throw failureOf(database_);
+            throw sqliteFailure(database_);
     }
     Snapshot(const Snapshot&) = delete;
     Snapshot& operator=(const Snapshot&) = delete;
@@ -70,7 +43,8 @@ class Snapshot {
 
 class SqliteQuery final : public Query {
   public:
-    SqliteQuery(const std::string& file, const std::string& sql) : database_(connect(file)), sql_(sql) {
+    SqliteQuery(const std::string& file, const std::string& sql)
+        : database_(openSqliteForReading(file)), sql_(sql) {
         std::string_view rest = sql_;
         statement_ = prepareFirst(database_.get(), rest);
         if (!statement_)
@@ -123,7 +97,7 @@ class SqliteQuery final : public Query {
             return true;
         // Before the end, which may have something else to say.
         const auto failure =
-            outcome == SQLITE_DONE ? std::nullopt : std::optional(failureOf(database_.get()));
+            outcome == SQLITE_DONE ? std::nullopt : std::optional(sqliteFailure(database_.get()));
         end();
         if (failure)
             throw RuntimeError(*failure);
@@ -211,7 +185,7 @@ class SqliteQuery final : public Query {
         if (!statement || !withoutEnd(rest).empty())
             return countedByWalking();
         if (sqlite3_step(statement.get()) != SQLITE_ROW)
-            throw failureOf(database_.get());
+            throw sqliteFailure(database_.get());
         return sqlite3_column_int64(statement.get(), 0);
     }
 
@@ -223,7 +197,7 @@ class SqliteQuery final : public Query {
         while ((outcome = sqlite3_step(statement.get())) == SQLITE_ROW)
             ++records;
         if (outcome != SQLITE_DONE)
-            throw failureOf(database_.get());
+            throw sqliteFailure(database_.get());
         return records;
     }
 
@@ -233,7 +207,7 @@ class SqliteQuery final : public Query {
         ran_ = true;
     }
 
-    Connection database_;
+    SqliteConnection database_;
     std::string sql_;
     Statement statement_;
     std::vector<String> names_;
