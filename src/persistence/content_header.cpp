@@ -2,6 +2,8 @@
 
 #include "platform/variant.h"
 
+#include <algorithm>
+
 namespace lumtex {
 
 namespace {
@@ -18,14 +20,16 @@ Integer SaveVersion() {
     return Variant(versionText).toInteger();
 }
 
-bool isPossible(const ContentHeader& header, std::int64_t remaining) {
+bool isPossible(const ContentHeader& header, std::int64_t remaining, Long listColumns) {
     if (header.rowCount <= 0)
         return true;
+    const std::int64_t rows = header.rowCount;
+    // A list without columns refuses each row by itself.
+    const std::int64_t cells = rows * std::max({header.columnCount, listColumns, Long{1}});
     if (header.columnCount <= 0)
-        return header.rowCount <= mostRowsWithoutCells;
-    const std::int64_t records = std::int64_t{header.rowCount} * header.columnCount;
+        return cells <= mostCellsWithoutRecords;
     const std::int64_t size = header.hasItemProperties ? shortestFullRecord : shortestTextRecord;
-    return records - mostMissingRecords <= remaining / size;
+    return cells <= mostMissingCells || rows * header.columnCount <= remaining / size;
 }
 
 } // namespace lumtex

@@ -17,14 +17,15 @@ struct ContentHeader {
     bool hasItemProperties = false;
 };
 
-/// Rows that a file may announce without a byte for each, as the file of a list does that has lost its
-/// columns.
-constexpr Long mostRowsWithoutCells = 1048576;
-/// Records that may be missing at the end of a file that was cut off.
-constexpr std::int64_t mostMissingRecords = 1024;
+/// Cells that a file may announce and not hold.
+constexpr std::int64_t mostMissingCells = 4'000'000;
+/// Cells of the rows of a file without columns, as a list leaves it that has lost its own: no byte stands for
+/// them, so that nothing tells a damaged count from a true one but its size.
+constexpr std::int64_t mostCellsWithoutRecords = std::int64_t{1} << 24U;
 
-/// Whether `remaining` bytes behind the header can be what it announces. Keeps the time and memory that a
-/// file takes in proportion to its size.
-bool isPossible(const ContentHeader& header, std::int64_t remaining);
+/// Counts are taken as they stand. False for those alone that `remaining` bytes behind the header cannot hold
+/// and that would starve the machine: by the cells that they announce, or that a list of `listColumns` would
+/// get. No list writes such a file.
+bool isPossible(const ContentHeader& header, std::int64_t remaining, Long listColumns);
 
 } // namespace lumtex

@@ -147,7 +147,7 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
 
     RowsClear();
     const bool possible = p.step([&] {
-        if (!isPossible(header, file.remaining()))
+        if (!isPossible(header, file.remaining(), ColumnsCount()))
             throw RuntimeError(outOfMemory);
     });
     if (possible && header.rowCount > 0) {

@@ -1,6 +1,7 @@
 #include "persistence/whole_record_loading.h"
 
 #include "persistence/content_colors.h"
+#include "services/error.h"
 #include "services/failure_of.h"
 
 #include <algorithm>
@@ -11,6 +12,8 @@ namespace {
 
 constexpr std::size_t flagsSize = 5 * sizeof(Integer);
 constexpr std::size_t colorsSize = 6 * sizeof(Long);
+/// What a record behind the file's end reads as.
+constexpr std::array<Byte, 56> nothingButZeros{};
 
 /// Walks over the fields of a record that lies ready. Past its end, and from a negative length on, it finds
 /// nothing more.
@@ -147,13 +150,26 @@ bool WholeRecordLoading::read(Long row, Long column) {
         Items* const cells = cells_.cellsOf(row, column);
         const auto index = static_cast<std::size_t>(column) - 1;
         // A new cell has nothing rare, unless host code gave it something at a report.
-        if (cells == nullptr || cells->extras(index) != nullptr || !cells_.assignSilently())
+        if ((cells != nullptr && cells->extras(index) != nullptr) || !cells_.assignSilently())
+            return;
+        // Failures that nobody hears of leave nothing behind but zeros.
+        const bool failsUnheard = silentError();
+        if (cells == nullptr && !failsUnheard)
             return;
         std::optional<Record> record = split(file_.ahead());
         if (!record && file_.lookAhead())
             record = split(file_.ahead());
+        if (!record && failsUnheard && file_.remaining() == 0) {
+            record = split(nothingButZeros);
+            record->size = 0;
+        }
         if (!record)
             return;
+        if (cells == nullptr) {
+            file_.taken(record->size);
+            done = true;
+            return;
+        }
         const bool hasLook = form_ == RecordForm::readProperties ? lookOf(*record) : plainLook();
         if (!hasLook)
             return;

@@ -13,15 +13,16 @@ namespace lumtex {
 /// Which properties of a record stand in the file, and what becomes of them.
 enum class RecordForm : Byte { textAlone, dropProperties, readProperties };
 
-/// Assigns what the accessors would, for records in which nothing can fail.
+/// Assigns what the accessors would, for records in which nothing can fail, or fails unheard: where reports
+/// are silenced, a record behind the file's end is all zeros, and one for a missing cell is read over.
 class WholeRecordLoading {
   public:
     WholeRecordLoading(lmListView& list, const Runtime& runtime, ContentReader& file, RecordForm form)
         : cells_(list), runtime_(runtime), file_(file), form_(form) {}
 
     /// False, with nothing read, for a record that has to be read value by value: one that is cut off or
-    /// damaged, one with a picture to load, one longer than the reader's buffer, and one for a cell that is
-    /// missing or shown at once.
+    /// damaged, one with a picture to load, one longer than the reader's buffer, one for a cell that is shown
+    /// at once, and while failures are heard of, one for a cell that is missing.
     bool read(Long row, Long column);
     /// Host code may have run since the last record.
     void forget() { look_.style.reset(); }

@@ -18,7 +18,9 @@ class ContentBadFiles : public ContentFixture {
     ContentBadFiles() { addColumns({30, 30}); }
 
     void expectUsableAfter(const std::string& bytes, bool properties) {
+        Error().letSilentError(true); // a changed count may announce millions of cells, each a failure
         EXPECT_TRUE(load(bytes, properties));
+        Error().letSilentError(false);
         takeReports();
         list.RowsClear();
         list.RowsAdd(Long{-1}, u",", u"still,here");
@@ -113,37 +115,54 @@ struct Counts {
     std::int64_t columns;
     bool properties;
     bool possible;
+    Long listColumns = 2;
 };
 
 constexpr std::int64_t most = 2147483647;
 
 // The file goes on with 4000 bytes.
 constexpr std::array<Counts, 22> counts{{
-    {0, 0, false, true},        {0, most, true, true},
-    {-1, 5, false, true},       {-2147483647 - 1, -2147483647 - 1, true, true},
-    {1, 1, false, true},        {1000, 1, false, true},
-    {2024, 1, false, true},     {2025, 1, false, false},
-    {1012, 2, false, true},     {1013, 2, false, false},
-    {1, 2024, false, true},     {1, 2025, false, false},
-    {1095, 1, true, true},      {1096, 1, true, false},
-    {most, 1, false, false},    {1, most, true, false},
-    {most, most, false, false}, {most, most, true, false},
-    {most, 0, false, false},    {most, -1, true, false},
-    {1048576, 0, false, true},  {1048577, -most, false, false},
+    {0, 0, false, true},
+    {0, most, true, true},
+    {-1, 5, false, true},
+    {-2147483647 - 1, -2147483647 - 1, true, true},
+    {1, 1, false, true},
+    {2025, 1, false, true},
+    {1, 2025, true, true},
+    {2'000'000, 1, false, true},
+    {2'000'000, 2, true, true},
+    {2'000'001, 2, true, false},
+    {2'000'001, 1, false, false},
+    {1, 4'000'000, false, true},
+    {1, 4'000'001, false, false},
+    {1000, 1, false, true, 5000},
+    {1001, 1, false, false, 5000},
+    {most, 1, false, false},
+    {most, most, true, false},
+    {most, 0, false, false},
+    {most, -1, true, false, 0},
+    {8'388'608, 0, false, true},
+    {8'388'609, -most, false, false},
+    {5'000'000, 0, true, true, 3},
 }};
 
 TEST_F(ContentBadFiles, CountsThatTheBytesCannotHoldAreImpossible) {
     for (const Counts& row : counts) {
         const ContentHeader header{
             275, static_cast<Long>(row.rows), static_cast<Long>(row.columns), row.properties};
-        EXPECT_EQ(isPossible(header, 4000), row.possible)
+        EXPECT_EQ(isPossible(header, 4000, row.listColumns), row.possible)
             << row.rows << " x " << row.columns << (row.properties ? " with" : " without");
+    }
+    // As many as the bytes hold are possible, however many that is.
+    for (const std::int64_t missing : {0, 1}) {
+        EXPECT_EQ(isPossible({275, 5'000'000, 2, false}, 40'000'000 - missing, 2), missing == 0);
+        EXPECT_EQ(isPossible({275, 5'000'000, 2, true}, 560'000'000 - missing, 2), missing == 0);
     }
 }
 
 TEST_F(ContentBadFiles, ImpossibleCountsRunOutOfMemoryOnceAndLeaveNoRows) {
     for (const Counts& row : counts) {
-        if (row.possible)
+        if (row.possible || row.listColumns != 2)
             continue;
         SCOPED_TRACE(std::to_string(row.rows) + " x " + std::to_string(row.columns));
         addRows(2);
@@ -153,6 +172,29 @@ TEST_F(ContentBadFiles, ImpossibleCountsRunOutOfMemoryOnceAndLeaveNoRows) {
         EXPECT_EQ(takeReports(), "7 ContentInput\n");
         EXPECT_EQ(list.RowsCount(), 0);
     }
+}
+
+TEST_F(ContentBadFiles, EachMissingCellIsAFailureOfItsOwnHoweverManyThereAre) {
+    for (const Long rows : {1024, 1025, 3000}) {
+        EXPECT_TRUE(load(ContentBytes().header(rows, 2, false).text("one"), false));
+        const std::string reports = takeReports();
+        EXPECT_EQ(std::count(reports.begin(), reports.end(), '\n'), 2 * rows - 1);
+        EXPECT_EQ(reports.substr(0, 16), "62 ContentInput\n");
+        EXPECT_EQ(list.RowsCount(), rows);
+        EXPECT_EQ(list.ItemText(1, 1), u"one");
+    }
+}
+
+TEST_F(ContentBadFiles, MoreThanAMillionRowsWithoutColumnsComeBack) {
+    addRows(3);
+    list.ColumnsClear();
+    EXPECT_EQ(saved(false), std::string(ContentBytes().header(3, 0, false))) << "what such a list becomes";
+    constexpr Long many = 1'048'577;
+    addColumns({30});
+    EXPECT_TRUE(load(ContentBytes().header(many, 0, false), false));
+    EXPECT_EQ(takeReports(), "");
+    EXPECT_EQ(list.RowsCount(), many);
+    EXPECT_EQ(list.ItemText(many, 1), u"");
 }
 
 TEST_F(ContentBadFiles, RowsWithoutCellsComeBackAsEmptyRows) {
@@ -259,6 +301,33 @@ TEST_F(ContentBadFiles, WithReportsSilencedTheSameIsReadWithoutABox) {
     Error().letSilentError(false);
     EXPECT_EQ(takeReports(), "");
     EXPECT_EQ(texts(), "one | ");
+}
+
+TEST_F(ContentBadFiles, SilencedFailuresLeaveTheSameListAsReportedOnes) {
+    const std::string whole = fullFile();
+    const auto content = [&] { return saved(true); };
+    for (std::size_t size = 12; size < whole.size(); size += 7) {
+        for (const bool properties : {false, true}) {
+            SCOPED_TRACE(std::to_string(size) + (properties ? " with" : " without"));
+            EXPECT_TRUE(load(whole.substr(0, size), properties));
+            const std::string heard = content();
+            Error().letSilentError(true);
+            EXPECT_TRUE(load(whole.substr(0, size), properties));
+            Error().letSilentError(false);
+            EXPECT_EQ(content(), heard);
+        }
+    }
+    // Cells that the list does not have, in the middle of the file.
+    list.ColumnsClear();
+    addColumns({30});
+    EXPECT_TRUE(load(whole, true));
+    const std::string heard = content();
+    takeReports();
+    Error().letSilentError(true);
+    EXPECT_TRUE(load(whole, true));
+    Error().letSilentError(false);
+    EXPECT_EQ(content(), heard);
+    EXPECT_EQ(takeReports(), "");
 }
 
 TEST_F(ContentBadFiles, HostCodeAtAReportMayLoadAndSaveItself) {
