@@ -6,7 +6,7 @@ namespace lumtex {
 
 namespace {
 
-constexpr std::size_t longestPath = 255; // code units
+constexpr std::size_t bufferSize = 255; // code units, the closing zero among them
 
 } // namespace
 
@@ -22,7 +22,8 @@ String CurrentExePath(const Runtime& runtime) {
     const StringView fileName = StringView(found->fileName).substr(0, found->fileName.find(u'\0'));
     // Wanted: the entry's file name is completed from the current folder, wherever the program lies.
     String path = runtime.fullPathName(fileName);
-    return path.size() <= longestPath ? path : String();
+    // One that does not fit leaves the buffer empty.
+    return path.size() < bufferSize ? path : String();
 }
 
 } // namespace lumtex

@@ -52,12 +52,13 @@ bool TextFile::atEnd() const {
 
 String TextFile::lineInput() {
     demandOpen();
-    const std::size_t end = std::min(content_.find_first_of(u"\r\n", place_), content_.size());
+    // Wanted: a line feed alone ends no line, so that entries which hold one come back whole.
+    const std::size_t end = std::min(content_.find(u'\r', place_), content_.size());
     String line = content_.substr(place_, end - place_);
     place_ = end;
-    if (place_ < content_.size() && content_[place_] == u'\r')
+    if (place_ < content_.size())
         ++place_;
-    if (place_ < content_.size() && content_[place_] == u'\n')
+    if (place_ > end && place_ < content_.size() && content_[place_] == u'\n')
         ++place_;
     return line;
 }

@@ -36,8 +36,8 @@ TEST_F(CurrentExePathTest, IsEmptyWhereTheWalkEndsFirst) {
 }
 
 TEST_F(CurrentExePathTest, APathThatFitsTheBufferIsWholeAndALongerOneEmpty) {
-    runtime.currentFolder = String(255 - 9, u'x');
-    EXPECT_EQ(CurrentExePath(runtime).size(), 255U);
+    runtime.currentFolder = String(254 - 9, u'x');
+    EXPECT_EQ(CurrentExePath(runtime).size(), 254U) << "the buffer of 255 has a closing zero";
     runtime.currentFolder += u'x';
     EXPECT_EQ(CurrentExePath(runtime), u"");
 }

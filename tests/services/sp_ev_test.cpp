@@ -212,15 +212,17 @@ struct LineRule {
     const char* entries;
 };
 
-TEST_F(ListRead, LinesEndAtAnyLineEndOrAtTheEndOfTheFile) {
+TEST_F(ListRead, LinesEndAtACarriageReturnOrAtTheEndOfTheFile) {
+    // Wanted: a line feed alone ends no line, so that entries which hold one come back whole.
     constexpr LineRule rules[] = {
         {"an empty file has no line", "", ""},
         {"the last line needs no end", "a\r\nb", "a|b|"},
         {"a line end alone is an empty line", "\r\n", "|"},
         {"an empty line at the end", "a\r\n\r\n", "a||"},
         {"carriage returns alone", "a\rb\r", "a|b|"},
-        {"line feeds alone", "a\nb\n", "a|b|"},
-        {"line feed before carriage return is two ends", "a\n\rb", "a||b|"},
+        {"line feeds alone", "a\nb\n", "a\nb\n|"},
+        {"a line feed before a carriage return", "a\n\rb", "a\n|b|"},
+        {"a line feed at the start", "\na\r\n\nb", "\na|\nb|"},
     };
     for (const LineRule& rule : rules) {
         list->entries.clear();
@@ -237,7 +239,7 @@ TEST_F(ListRead, OfAFileThatCannotBeOpenedIsReportedAndEnds) {
 }
 
 TEST_F(ListRead, ALineThatTheListRefusesCostsAReport) {
-    folder.write("list.txt", "a\nb\nc\n");
+    folder.write("list.txt", "a\r\nb\r\nc\r\n");
     int added = 0;
     list->onAddItem = [&] {
         if (++added == 2)
@@ -249,7 +251,7 @@ TEST_F(ListRead, ALineThatTheListRefusesCostsAReport) {
 }
 
 TEST_F(ListRead, IntoNoListFailsForEachLine) {
-    folder.write("list.txt", "a\nb\n");
+    folder.write("list.txt", "a\r\nb\r\n");
     spEv.ListRead(nullptr, folder.pathTo("list.txt"));
     EXPECT_EQ(reports(),
               "91 ListRead: Object variable or With block variable not set\n"
