@@ -3,6 +3,8 @@ set(LUMTEX_SANITIZE
     ""
     CACHE STRING "Sanitizers to build with, as -fsanitize takes them; empty for none")
 
+option(LUMTEX_COVERAGE "Count which lines of the rooms run" OFF)
+
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
@@ -43,6 +45,16 @@ if(LUMTEX_SANITIZE)
     target_sources(lumtex_flags INTERFACE
         "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${CMAKE_CURRENT_LIST_DIR}/sanitizer_defaults.cpp>")
 endif()
+
+# The rooms themselves count; a test that has run is no news.
+if(LUMTEX_COVERAGE)
+    target_link_options(lumtex_flags INTERFACE --coverage)
+endif()
+function(lumtex_counted room)
+    if(LUMTEX_COVERAGE)
+        target_compile_options(${room} PRIVATE --coverage)
+    endif()
+endfunction()
 
 # What ccache asks of a compiler before it keeps files that use a precompiled header.
 target_compile_options(
