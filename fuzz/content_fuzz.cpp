@@ -1,11 +1,12 @@
 /// Content files: no bytes may crash or hang the reader, and what was read comes back from a file of its own.
+#include "fuzz_input.h"
 #include "model/list_view.h"
 #include "persistence/content_bytes.h"
 #include "platform/headless/desktop.h"
 #include "platform/text.h"
 #include "services/error.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -15,15 +16,12 @@
 namespace {
 
 using namespace lumtex;
+using fuzz::require;
 
 constexpr std::size_t headerSize = 12;
-/// Rows without cells that one input may ask for; the bound of the reader itself takes a second.
-constexpr Long mostEmptyRows = 1000;
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
+/// Cells that one input may ask for; as many as the reader itself admits take seconds.
+constexpr std::int64_t mostCells = 4000;
+constexpr Long mostColumns = 3;
 
 struct Target {
     Desktop desktop;
@@ -59,7 +57,8 @@ bool asksForTooMuch(std::string_view bytes) {
     if (bytes.size() < headerSize)
         return false;
     const auto* const header = reinterpret_cast<const Byte*>(bytes.data());
-    return loadNumber<Long>(header + 6) <= 0 && loadNumber<Long>(header + 2) > mostEmptyRows;
+    const std::int64_t rows = loadNumber<Long>(header + 2);
+    return rows * std::max(loadNumber<Long>(header + 6), mostColumns) > mostCells;
 }
 
 } // namespace
@@ -75,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     lmListView& list = target.list;
     list.RowsClear();
     list.ColumnsClear();
-    for (int column = data[0] / 2 % 4; column > 0; --column)
+    for (int column = data[0] / 2 % (mostColumns + 1); column > 0; --column)
         list.ColumnsAdd(u"");
     target.write(bytes);
     require(list.ContentInput(target.path, data[0] % 2 != 0));

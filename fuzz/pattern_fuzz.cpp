@@ -1,21 +1,17 @@
 /// Patterns and notations of searches: no input may crash, and a pattern gives one answer for a text however
 /// its units are stored.
+#include "fuzz_input.h"
 #include "platform/runtime_error.h"
 #include "sortfind/like_pattern.h"
 #include "sortfind/number_list.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <vector>
 
 namespace {
 
 using namespace lumtex;
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
+using fuzz::require;
 
 void tryPattern(StringView text, StringView pattern, LikePattern::Letters letters) {
     try {

@@ -1,0 +1,38 @@
+/// JSON settings: no text may crash the reader, a list takes what it can, and what was taken is written so
+/// that it says the same again.
+#include "fuzz_input.h"
+#include "model/list_view.h"
+#include "platform/headless/desktop.h"
+#include "platform/json/json_property_bag.h"
+#include "services/error.h"
+
+using namespace lumtex;
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+    static Desktop desktop;
+    static Host host;
+    static lmListViewEvents events;
+    Error().letSilentError(true);
+    JsonPropertyBag bag(desktop.runtime());
+    try {
+        bag.parse({reinterpret_cast<const char*>(data), size});
+    } catch (const RuntimeError& error) {
+        fuzz::require(error.number() == invalidFileFormat);
+        fuzz::require(bag.text() == "{}\n");
+        return 0;
+    }
+    fuzz::require(bag.text() == "{}\n"); // nobody has asked for anything yet
+    lmListView list(desktop, host, events);
+    list.window().place(0, 0, 4, 4);
+    list.UserControl_ReadProperties(bag);
+    const std::string once = bag.text();
+    JsonPropertyBag again(desktop.runtime());
+    again.parse(once);
+    list.UserControl_ReadProperties(again);
+    fuzz::require(again.text() == once);
+    JsonPropertyBag written(desktop.runtime());
+    list.UserControl_WriteProperties(written);
+    JsonPropertyBag back(desktop.runtime());
+    back.parse(written.text());
+    return 0;
+}
