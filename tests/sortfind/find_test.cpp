@@ -181,6 +181,13 @@ TEST_F(Finding, APlacePastTheListStartsAgainAtItsTop) {
 }
 
 // Wanted: what was read once is kept while the text stays the same, whatever became of the list.
+TEST_F(Finding, AColumnPlacePastTheColumnsThatAreLeftStartsAgainAtTheFirst) {
+    EXPECT_EQ(find(u"b1"), "1 2");
+    list.ColumnsClear();
+    addColumns({50});
+    EXPECT_EQ(next(u"a1"), "1 1") << "rows keep their cells";
+}
+
 TEST_F(Finding, ANewRowIsSeenOnceAnotherSpecificationWasInBetween) {
     EXPECT_EQ(find(u"a4"), "4 1");
     list.RowsAdd(Long{-1}, u",", u"a5,b5,c5");

@@ -47,7 +47,7 @@ std::vector<Finding> brokenLinks(const SourceFile& file) {
 
 std::vector<SourceFile> documents() {
     std::vector<SourceFile> files = readTree("docs", {".md"});
-    for (const char* name : {"README.md", "CONTRIBUTING.md", "CHANGELOG.md"})
+    for (const char* name : {"README.md", "CONTRIBUTING.md", "CHANGELOG.md", "SECURITY.md"})
         files.push_back(readFile(name));
     return files;
 }
