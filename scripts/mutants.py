@@ -25,7 +25,7 @@ GENERAL = ["scenarios", "interaction", "model", "scroll", "render", "sortfind", 
 NEAREST = {"platform": ["platform", "headless"], "platform/raster": ["raster", "gallery"], "platform/headless": ["headless"],
            "platform/json": ["json"], "persistence": ["persistence", "json"]}
 BUILD = Path("build/mutants")
-WORK = BUILD / "work"
+WORK = BUILD / f"work-{os.getpid()}"  # gone with the run
 PATIENCE = 5  # times what the tests take on the code as it is
 LEAST_PATIENCE = 20.0  # seconds
 
@@ -171,7 +171,7 @@ class CopiedTree:
 
     def __init__(self, rooms, programs):
         self.programs = [f"lumtex_test_{name}" for name in ["win32", "activex", "scripts", "hosting"]]
-        self.tree = WORK / "tree"
+        self.tree = BUILD / "tree"
         self.tree.mkdir(parents=True, exist_ok=True)
         files = must(["git", "ls-files", "--cached", "--others", "--exclude-standard"]).splitlines()
         for name in filter(os.path.isfile, files):
@@ -292,6 +292,7 @@ def main():
 
     with ThreadPoolExecutor(jobs) as workers:
         list(workers.map(work, range(jobs)))
+    shutil.rmtree(WORK, ignore_errors=True)
     write_report(results, [trial for trial in done if trial.outcome == "survived"])
     return 0
 

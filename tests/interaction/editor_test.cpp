@@ -87,6 +87,13 @@ TEST_F(Editor, ALossOfFocusThrowsTheTypingAway) {
     EXPECT_TRUE(events.log.empty());
 }
 
+TEST_F(Editor, IsAStopOfTheTabulatorWhileItIsOpen) {
+    list.StopEdit();
+    EXPECT_FALSE(inside.editor().TabStop());
+    list.SetEdit(1, 1);
+    EXPECT_TRUE(inside.editor().TabStop());
+}
+
 TEST_F(Editor, StopEditKeepsTheTypedTextInTheBox) {
     list.StopEdit();
     EXPECT_FALSE(inside.editor().Visible());

@@ -1,6 +1,8 @@
 #include "played_list.h"
 #include "test_object.h"
 
+#include <sstream>
+
 namespace lumtex::testing {
 
 class Forwards : public PlayedList {};
@@ -74,6 +76,70 @@ TEST_F(Forwards, TheSixDragEventsGoOnAsTheyCome) {
                      "OLEGiveFeedback Effect=1 DefaultCursors=True",
                      "OLESetData Data=True DataFormat=13",
                      "OLEStartDrag Data=True AllowedEffects=1"}));
+}
+
+/// Raises each argument that it may change by one.
+class AnsweringEvents final : public lmListViewEvents {
+  public:
+    void OLECompleteDrag(Long& Effect) override { raise(Effect); }
+    void OLEDragDrop(
+        DragData& /*Data*/, Long& Effect, Integer& Button, Integer& Shift, Single& X, Single& Y) override {
+        raise(Effect, Button, Shift, X, Y);
+    }
+    void OLEDragOver(DragData& /*Data*/,
+                     Long& Effect,
+                     Integer& Button,
+                     Integer& Shift,
+                     Single& X,
+                     Single& Y,
+                     Integer& State) override {
+        raise(Effect, Button, Shift, X, Y, State);
+    }
+    void OLEGiveFeedback(Long& Effect, bool& DefaultCursors) override {
+        raise(Effect);
+        DefaultCursors = false;
+    }
+    void OLESetData(DragData& /*Data*/, Integer& DataFormat) override { raise(DataFormat); }
+    void OLEStartDrag(DragData& /*Data*/, Long& AllowedEffects) override { raise(AllowedEffects); }
+
+  private:
+    template <class... Numbers>
+    static void raise(Numbers&... numbers) {
+        (++numbers, ...);
+    }
+};
+
+TEST_F(Forwards, WhatAHostChangesComesBackToThePlatform) {
+    AnsweringEvents answering;
+    lmListView answered(desktop, host, answering);
+    UserControl& control = answered;
+    const DragData data = std::make_shared<TestObject>();
+    Long Effect = 0;
+    Integer Button = 10;
+    Integer Shift = 20;
+    Single X = 30;
+    Single Y = 40;
+    Integer State = 50;
+    const auto shown = [&] {
+        std::ostringstream text;
+        text << Effect << ' ' << Button << ' ' << Shift << ' ' << X << ' ' << Y << ' ' << State;
+        return text.str();
+    };
+    control.UserControl_OLEDragDrop(data, Effect, Button, Shift, X, Y);
+    EXPECT_EQ(shown(), "1 11 21 31 41 50");
+    control.UserControl_OLEDragOver(data, Effect, Button, Shift, X, Y, State);
+    EXPECT_EQ(shown(), "2 12 22 32 42 51");
+    control.UserControl_OLECompleteDrag(Effect);
+    EXPECT_EQ(Effect, 3);
+    bool DefaultCursors = true;
+    control.UserControl_OLEGiveFeedback(Effect, DefaultCursors);
+    EXPECT_EQ(Effect, 4);
+    EXPECT_FALSE(DefaultCursors);
+    Integer DataFormat = 1;
+    control.UserControl_OLESetData(data, DataFormat);
+    EXPECT_EQ(DataFormat, 2);
+    control.UserControl_OLEStartDrag(data, Effect);
+    EXPECT_EQ(Effect, 5);
 }
 
 TEST_F(Forwards, OnlyTheAutomaticDragModeAllowsCopyAndMove) {

@@ -27,6 +27,28 @@ TEST_F(Accessors, ClearingColumnsLeavesTheRowsAlone) {
     EXPECT_EQ(list.ItemText(1, 2), u"b");
 }
 
+TEST_F(Accessors, ACellKeepsItsLookWhenOthersOfTheSameLookChange) {
+    addColumns({50});
+    addRows(5);
+    for (const Long row : {1, 2, 3})
+        list.letItemForeColor(row, 1, 5);
+    list.letItemForeColor(1, 1, 6);
+    list.letItemForeColor(2, 1, 7);
+    list.letItemForeColor(4, 1, 8);
+    list.letItemForeColor(5, 1, 9);
+    EXPECT_EQ(list.ItemForeColor(3, 1), 5U) << "its place among the looks was not given away";
+    EXPECT_EQ(list.ItemForeColor(1, 1), 6U);
+    EXPECT_EQ(list.ItemForeColor(2, 1), 7U);
+}
+
+TEST_F(Accessors, AColumnOutsideTheListIsReported) {
+    addColumns({50});
+    for (const Long column : {0, 2, -1}) {
+        EXPECT_EQ(list.ColumnWidth(column), 0);
+        EXPECT_EQ(lastReport(), "9 ColumnWidth") << column;
+    }
+}
+
 TEST_F(Accessors, ATagThatIsTheEmptyTextIsNeitherEmptyNorLost) {
     addColumns({50});
     addRows(2);

@@ -119,6 +119,19 @@ TEST_F(RowsInView, ListIndexScrollsARowBelowTheViewToTheTopFromTheSecondTimeOn) 
     EXPECT_EQ(list.TopIndex(), 10 + visible);
 }
 
+TEST_F(RowsInView, ListIndexSelectsItsRowAloneUnlessThatIsHeldOff) {
+    list.letMultiSelect(true);
+    list.letRowSelected(2, true);
+    inside.selection().selectOnIndexSet = true;
+    list.letListIndex(4);
+    EXPECT_TRUE(list.RowSelected(5));
+    EXPECT_EQ(list.RowSelectedCount(), 1);
+    inside.selection().selectOnIndexSet = false;
+    list.letListIndex(6);
+    EXPECT_FALSE(list.RowSelected(7));
+    EXPECT_EQ(list.RowSelectedCount(), 1);
+}
+
 TEST_F(RowsInView, RowSelectedScrollsFromTheRowAboveTheViewAndFromItsLastRow) {
     const auto topAfter = [&](Long row) {
         list.letTopIndex(10);
