@@ -54,9 +54,9 @@ struct Target {
 };
 
 bool asksForTooMuch(std::string_view bytes) {
-    if (bytes.size() < headerSize)
-        return false;
-    const auto* const header = reinterpret_cast<const Byte*>(bytes.data());
+    std::string whole(bytes.substr(0, headerSize));
+    whole.resize(headerSize); // what is missing reads as zeros
+    const auto* const header = reinterpret_cast<const Byte*>(whole.data());
     const std::int64_t rows = loadNumber<Long>(header + 2);
     return rows * std::max(loadNumber<Long>(header + 6), mostColumns) > mostCells;
 }

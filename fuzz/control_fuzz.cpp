@@ -26,6 +26,36 @@ bool isOffLimits(StringView name) {
     return names.contains(name);
 }
 
+/// Members that take objects of a host, and that drop them.
+const std::vector<const Member*>& favourites() {
+    static const std::vector<const Member*> all = [] {
+        std::vector<const Member*> found;
+        for (const char16_t* name : {u"ItemTag",
+                                     u"ItemObject",
+                                     u"ItemIcon",
+                                     u"ItemBackColor",
+                                     u"ItemForeColorSelect",
+                                     u"ColumnTag",
+                                     u"RowsClear",
+                                     u"ColumnsClear",
+                                     u"RowsAdd",
+                                     u"ColumnsAdd",
+                                     u"RowsRemove",
+                                     u"ColumnsRemove",
+                                     u"RowsSelectedRemove",
+                                     u"DefaultItemFont",
+                                     u"Recordset",
+                                     u"Sort",
+                                     u"SetEdit",
+                                     u"ListIndex"}) {
+            if (const Member* member = findMember(listViewClass(), name))
+                found.push_back(member);
+        }
+        return found;
+    }();
+    return all;
+}
+
 class Program {
   public:
     Program(const unsigned char* data, std::size_t size) : input_(data, size) {
@@ -132,6 +162,8 @@ class Program {
             return input_.text();
         case TypeCode::boolean:
             return input_.flag();
+        case TypeCode::longInteger:
+            return input_.below(4) == 0 ? input_.number() : static_cast<Long>(1 + input_.below(3));
         default:
             return input_.number();
         }
@@ -139,7 +171,8 @@ class Program {
 
     void callMember() {
         const std::span<const Member> members = listViewClass().members;
-        const Member& member = members[input_.raw<std::uint16_t>() % members.size()];
+        const Member& member = input_.flag() ? *favourites()[input_.byte() % favourites().size()]
+                                             : members[input_.raw<std::uint16_t>() % members.size()];
         if (isOffLimits(member.name))
             return;
         std::vector<Variant> arguments;

@@ -27,7 +27,7 @@ bool isPossible(const ContentHeader& header, std::int64_t remaining, Long listCo
     // A list without columns refuses each row by itself.
     const std::int64_t cells = rows * std::max({header.columnCount, listColumns, Long{1}});
     if (header.columnCount <= 0)
-        return cells <= mostCellsWithoutRecords;
+        return rows <= mostRowsWithoutRecords && cells <= mostCellsWithoutRecords;
     const std::int64_t size = header.hasItemProperties ? shortestFullRecord : shortestTextRecord;
     return cells <= mostMissingCells || rows * header.columnCount <= remaining / size;
 }

@@ -121,7 +121,7 @@ struct Counts {
 constexpr std::int64_t most = 2147483647;
 
 // The file goes on with 4000 bytes.
-constexpr std::array<Counts, 22> counts{{
+constexpr std::array<Counts, 23> counts{{
     {0, 0, false, true},
     {0, most, true, true},
     {-1, 5, false, true},
@@ -141,9 +141,10 @@ constexpr std::array<Counts, 22> counts{{
     {most, most, true, false},
     {most, 0, false, false},
     {most, -1, true, false, 0},
-    {8'388'608, 0, false, true},
-    {8'388'609, -most, false, false},
-    {5'000'000, 0, true, true, 3},
+    {4'000'000, 0, false, true},
+    {4'000'001, -most, false, false},
+    {4'000'000, 0, true, true, 4},
+    {4'000'000, 0, true, false, 5},
 }};
 
 TEST_F(ContentBadFiles, CountsThatTheBytesCannotHoldAreImpossible) {
