@@ -35,4 +35,11 @@ Long BitmapPicture::Height() const {
     return toHimetric(bitmap_.height);
 }
 
+Long PixelArt::Width() const {
+    return toHimetric(bitmap_.width);
+}
+Long PixelArt::Height() const {
+    return toHimetric(bitmap_.height);
+}
+
 } // namespace lumtex

@@ -31,6 +31,10 @@ class Picture {
 
     virtual PictureKind kind() const { return kindOf(bitmap()); }
 
+    /// Whether a surface of any density shows it at the size of its own pixels, as drawings of the product
+    /// are shown, and not at its size in HIMETRIC units.
+    virtual bool isPixelArt() const { return false; }
+
   protected:
     /// The kind that can hold these pixels.
     static PictureKind kindOf(const Bitmap& bitmap);
@@ -52,6 +56,21 @@ class BitmapPicture final : public Picture {
   private:
     Bitmap bitmap_;
     PictureKind kind_;
+};
+
+/// A drawing of the product's own: one of its pixels is one of the screen's. Its size in HIMETRIC units is
+/// that at 96 pixels per inch.
+class PixelArt final : public Picture {
+  public:
+    explicit PixelArt(Bitmap bitmap) : bitmap_(std::move(bitmap)) {}
+
+    Long Width() const override;
+    Long Height() const override;
+    const Bitmap& bitmap() const override { return bitmap_; }
+    bool isPixelArt() const override { return true; }
+
+  private:
+    Bitmap bitmap_;
 };
 
 } // namespace lumtex

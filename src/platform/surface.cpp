@@ -1,5 +1,7 @@
 #include "platform/surface.h"
 
+#include "platform/rounding.h"
+
 namespace lumtex {
 
 namespace {
@@ -31,6 +33,13 @@ Single scaleX(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to
 
 Single scaleY(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to) {
     return scale(value, from, to, surface.pixelsPerInchY());
+}
+
+Point pictureSize(const Surface& surface, const Picture& picture) {
+    if (picture.isPixelArt())
+        return {picture.bitmap().width, picture.bitmap().height};
+    return {roundToLong(scaleX(surface, picture.Width(), himetric, pixels)),
+            roundToLong(scaleY(surface, picture.Height(), himetric, pixels))};
 }
 
 } // namespace lumtex

@@ -104,6 +104,9 @@ class Surface {
     virtual Single CurrentY() const = 0;
     virtual void letCurrentX(Single x) = 0;
     virtual void letCurrentY(Single y) = 0;
+    // A text ends at its first zero character when it is drawn or measured for drawing; `textWidth` and
+    // `textHeight` count all of it.
+
     /// Writes at the text cursor in ForeColor, then moves the cursor to the start of the next line.
     virtual void print(StringView text) = 0;
 
@@ -123,6 +126,8 @@ class Surface {
 
 /// `value` in another unit, unrounded, computed in double precision and held as Single.
 Single scaleX(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to);
+/// The size of a picture on a surface, in whole pixels. Throws RuntimeError 6 for one beyond all numbers.
+Point pictureSize(const Surface& surface, const Picture& picture);
 Single scaleY(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to);
 
 } // namespace lumtex

@@ -18,6 +18,11 @@ void appendFromUtf8(String& target, std::string_view text);
 /// space. Points into `text`.
 StringView trimmed(StringView text);
 
+/// What is drawn of a text: the part before its first zero character.
+inline StringView drawnPart(StringView text) {
+    return text.substr(0, text.find(u'\0'));
+}
+
 /// Whether two names are the same but for the case of A to Z. Member and property names hold nothing else.
 bool sameName(StringView a, StringView b);
 

@@ -26,14 +26,14 @@ PictureRef draw(Rows rows, std::span<const Ink> inks) {
             }
         }
     }
-    return std::make_shared<BitmapPicture>(std::move(bitmap));
+    return std::make_shared<PixelArt>(std::move(bitmap));
 }
 
 PictureRef drawPixels(Long width, std::span<const std::uint32_t> colors) {
     Bitmap bitmap(width, static_cast<Long>(colors.size()) / width);
     for (std::size_t i = 0; i < colors.size(); ++i)
         bitmap.pixels[i] = 0xFF000000U | colors[i];
-    return std::make_shared<BitmapPicture>(std::move(bitmap));
+    return std::make_shared<PixelArt>(std::move(bitmap));
 }
 
 // clang-format off
@@ -175,7 +175,7 @@ PictureRef sideBySide(std::span<const PictureRef> pieces) {
         }
         left += pixels.width;
     }
-    return std::make_shared<BitmapPicture>(std::move(strip));
+    return std::make_shared<PixelArt>(std::move(strip));
 }
 
 ListViewArtwork drawAll() {

@@ -7,13 +7,14 @@
 
 namespace lumtex {
 
-/// From the stored HIMETRIC units by the surface's resolution, rounded.
+/// From the stored HIMETRIC units by the surface's resolution, rounded; the product's own drawings have their
+/// own pixels.
 inline Long GetPictureWidth(const Surface& surface, const Picture& picture) {
-    return roundToLong(scaleX(surface, picture.Width(), himetric, pixels));
+    return pictureSize(surface, picture).x;
 }
 
 inline Long GetPictureHeight(const Surface& surface, const Picture& picture) {
-    return roundToLong(scaleY(surface, picture.Height(), himetric, pixels));
+    return pictureSize(surface, picture).y;
 }
 
 } // namespace lumtex

@@ -35,7 +35,7 @@ void lmListView::SplitSkin() {
                                 0,
                                 width,
                                 stripHeight);
-            artwork_.imgCol[i] = std::make_shared<BitmapPicture>(pSkin->image());
+            artwork_.imgCol[i] = std::make_shared<PixelArt>(pSkin->image());
         });
     }
 }

@@ -244,7 +244,7 @@ PictureRef button(Arrow arrow, const Look& look, const Frame& frame) {
     draw(bitmap, rows, {0, 0}, look, frame, level);
     const Chevron& chevron = chevrons[static_cast<std::size_t>(arrow)];
     draw(bitmap, chevron.rows, {chevron.x, chevron.y}, look, frame, level);
-    return std::make_shared<BitmapPicture>(std::move(bitmap));
+    return std::make_shared<PixelArt>(std::move(bitmap));
 }
 
 /// Only the first row of a body is ever seen, pulled over the whole thumb, so that all rows are the same.
@@ -256,14 +256,14 @@ PictureRef body(Axis axis, const Look& look) {
         for (Long x = 0; x < width; ++x)
             bitmap.at(x, y) = opaque | between(look.faceLight, look.faceDark, x, width - 1);
     }
-    return std::make_shared<BitmapPicture>(std::move(bitmap));
+    return std::make_shared<PixelArt>(std::move(bitmap));
 }
 
 PictureRef grip(Axis axis, const Look& look) {
     const Rows rows = axis == Axis::vertical ? Rows(uprightGrip) : Rows(levelGrip);
     Bitmap bitmap(static_cast<Long>(rows.front().size()), static_cast<Long>(rows.size()));
     draw(bitmap, rows, {0, 0}, look, {}, false);
-    return std::make_shared<BitmapPicture>(std::move(bitmap));
+    return std::make_shared<PixelArt>(std::move(bitmap));
 }
 
 ScrollArtwork drawAll() {

@@ -6,6 +6,8 @@
 #include "platform/rounding.h"
 #include "platform/win32/screen_density.h"
 #include "platform/win32/win32_text_box.h"
+#include "render/picture_size.h"
+#include "scroll/scroll_artwork.h"
 #include "win32/win32_list.h"
 
 #include <cstdlib>
@@ -148,6 +150,40 @@ TEST_F(OnOneScreen, ColumnsAndRowsAreAsLargeAsTheirTwips) {
     ListViewInspector inside(list);
     EXPECT_EQ(inside.paint().columnsRight, static_cast<Single>(2 * expected()));
     EXPECT_EQ(inside.rows().at(1).Top - inside.rows().at(0).Top, static_cast<Single>(expected()) / 2);
+}
+
+TEST_F(OnOneScreen, DrawingsOfTheProductHaveTheirOwnPixels) {
+    list.UserControl_ReadProperties(MemoryPropertyBag{});
+    list.letBorderVisible(false);
+    list.letRowsDynamic(false);
+    list.letRowHeight(720);
+    list.letStyle(cCheckBoxes);
+    list.setSkin(nullptr);
+    list.window().place(0, 0, 600, 400);
+    list.ColumnsAdd(u"a", nullptr, nullptr, nullptr, cColumnLeft, 2880);
+    list.letColumnCheckBoxes(1, true);
+    list.RowsAdd(Long{-1}, u",", u"x");
+    list.Redraw();
+    ListViewInspector inside(list);
+    const Surface& surface = list.window().surface();
+    const Bitmap& box = inside.artwork().img[1]->bitmap();
+    EXPECT_EQ(GetPictureWidth(surface, *inside.artwork().img[1]), 13);
+    EXPECT_EQ(GetPictureHeight(surface, *inside.artwork().img[1]), 13);
+    for (const PictureRef& piece : inside.artwork().imgCol)
+        EXPECT_EQ(GetPictureWidth(surface, *piece), piece->bitmap().width);
+    // Its left edge stands 5 pixels into the cell; how far down depends on the icon's height.
+    const Bitmap picture = list.window().surface().image();
+    Long hits = 0;
+    for (Long top = 0; top + box.height <= picture.height; ++top) {
+        bool same = true;
+        for (Long y = 0; y < box.height && same; ++y)
+            for (Long x = 0; x < box.width && same; ++x)
+                same = (picture.at(5 + x, top + y) & 0xFFFFFFU) == (box.at(x, y) & 0xFFFFFFU);
+        hits += same ? 1 : 0;
+    }
+    EXPECT_EQ(hits, 1) << "the box, pixel by pixel";
+    EXPECT_EQ(inside.vertical().Width(),
+              static_cast<Single>(ScrollArtwork::standard().buttonOf(Arrow::up)[0]->bitmap().width));
 }
 
 } // namespace

@@ -80,5 +80,29 @@ TEST_F(FormattedText, IsShortenedFromTheFirstPixelThatIsMissing) {
     EXPECT_EQ(widthIn(dots + 6 * letter - 1), dots + 5 * letter);
 }
 
+TEST_F(FormattedText, EndsAtItsFirstZeroCharacter) {
+    constexpr StringView text(u"HH\0HH", 5);
+    const auto painted = [&](StringView each) {
+        surface.Cls();
+        Rect rect{10, 10, 190, 50};
+        surface.drawText(each, rect, dtLeft);
+        surface.letCurrentX(100);
+        surface.letCurrentY(30);
+        surface.print(each);
+        return surface.image().pixels;
+    };
+    EXPECT_EQ(painted(text), painted(u"HH"));
+    Rect whole{0, 0, 100, 100};
+    surface.drawText(text, whole, dtLeft | dtCalcRect);
+    EXPECT_EQ(whole.Right, static_cast<Long>(surface.textWidth(u"HH")));
+    Rect lines{0, 0, 100, 100};
+    EXPECT_EQ(surface.drawText(StringView(u"H\0\nH", 4), lines, dtCalcRect),
+              static_cast<Long>(surface.textHeight(u"H")));
+}
+
+TEST_F(FormattedText, TheWidthOfATextCountsWhatIsBehindAZeroCharacter) {
+    EXPECT_GT(surface.textWidth(StringView(u"HH\0HH", 5)), surface.textWidth(u"HHH"));
+}
+
 } // namespace
 } // namespace lumtex::testing

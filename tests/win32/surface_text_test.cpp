@@ -196,5 +196,23 @@ TEST_F(SurfaceText, SizesThatAreNoSizesAreDrawnSmallest) {
     }
 }
 
+TEST_F(SurfaceText, EndsAtItsFirstZeroCharacterWhenItIsDrawn) {
+    constexpr StringView text(u"HH\0HH", 5);
+    const auto painted = [&](StringView each) {
+        windows.letBackColor(white);
+        Rect rect{10, 2, 100, 50};
+        windows.drawText(each, rect, dtLeft);
+        windows.letCurrentX(10);
+        windows.letCurrentY(30);
+        windows.print(each);
+        return windows.image().pixels;
+    };
+    EXPECT_EQ(painted(text), painted(u"HH"));
+    Rect whole{0, 0, 100, 100};
+    windows.drawText(text, whole, dtCalcRect);
+    EXPECT_EQ(whole.Right, static_cast<Long>(windows.textWidth(u"HH")));
+    EXPECT_GT(windows.textWidth(text), windows.textWidth(u"HHH"));
+}
+
 } // namespace
 } // namespace lumtex::testing

@@ -5,6 +5,7 @@
 #include "platform/raster/system_colors.h"
 #include "platform/raster/text_painter.h"
 #include "platform/rounding.h"
+#include "platform/text.h"
 
 #include <algorithm>
 #include <array>
@@ -141,11 +142,8 @@ void RasterSurface::polygon(std::span<const Point> points) {
 }
 
 void RasterSurface::paintPicture(const Picture& picture, Single x, Single y) {
-    paintPicture(picture,
-                 x,
-                 y,
-                 static_cast<Single>(roundToLong(scaleX(*this, picture.Width(), himetric, lumtex::pixels))),
-                 static_cast<Single>(roundToLong(scaleY(*this, picture.Height(), himetric, lumtex::pixels))));
+    const Point size = pictureSize(*this, picture);
+    paintPicture(picture, x, y, static_cast<Single>(size.x), static_cast<Single>(size.y));
 }
 
 void RasterSurface::paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) {
@@ -192,7 +190,8 @@ void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const
     }
 }
 
-void RasterSurface::print(StringView text) {
+void RasterSurface::print(StringView whole) {
+    const StringView text = drawnPart(whole);
     const Canvas target = canvas();
     raster::TextPainter painter(
         target, typeface(), pixelOf(foreColor_), font_.Underline, font_.Strikethrough);
@@ -220,7 +219,7 @@ Single RasterSurface::textHeight(StringView text) {
 Long RasterSurface::drawText(StringView text, Rect& rect, Long format) {
     raster::TextPainter painter(
         canvas(), typeface(), pixelOf(foreColor_), font_.Underline, font_.Strikethrough);
-    return painter.drawText(text, rect, format, scratch_);
+    return painter.drawText(drawnPart(text), rect, format, scratch_);
 }
 
 Bitmap RasterSurface::image() const {

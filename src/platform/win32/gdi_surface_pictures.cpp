@@ -45,11 +45,8 @@ bool layOut(const Bitmap& source,
 } // namespace
 
 void GdiSurface::paintPicture(const Picture& picture, Single x, Single y) {
-    paintPicture(picture,
-                 x,
-                 y,
-                 static_cast<Single>(roundToLong(scaleX(*this, picture.Width(), himetric, pixels))),
-                 static_cast<Single>(roundToLong(scaleY(*this, picture.Height(), himetric, pixels))));
+    const Point size = pictureSize(*this, picture);
+    paintPicture(picture, x, y, static_cast<Single>(size.x), static_cast<Single>(size.y));
 }
 
 void GdiSurface::paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) {

@@ -1,5 +1,6 @@
 /// Text on the surface of Windows.
 #include "platform/rounding.h"
+#include "platform/text.h"
 #include "platform/win32/gdi_color.h"
 #include "platform/win32/gdi_surface.h"
 
@@ -52,7 +53,8 @@ HDC GdiSurface::textDc() {
     return dc;
 }
 
-void GdiSurface::print(StringView text) {
+void GdiSurface::print(StringView whole) {
+    const StringView text = drawnPart(whole);
     const Long x = roundToLong(currentX_);
     const Long y = roundToLong(currentY_);
     TextOutW(textDc(), within(x), within(y), start(text), static_cast<int>(text.size()));
@@ -95,7 +97,8 @@ Long GdiSurface::placeNothing(Rect& rect, Long format) {
     return moved(height - height / 2, room / 2);
 }
 
-Long GdiSurface::drawText(StringView text, Rect& rect, Long format) {
+Long GdiSurface::drawText(StringView whole, Rect& rect, Long format) {
+    const StringView text = drawnPart(whole);
     const bool calculate = (format & dtCalcRect) != 0;
     if (text.empty())
         return placeNothing(rect, format);
