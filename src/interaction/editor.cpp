@@ -1,5 +1,6 @@
 /// Closing the in-place editor: with the text kept, or dropped.
 #include "model/list_view.h"
+#include "platform/rounding.h"
 
 namespace lumtex {
 
@@ -20,13 +21,19 @@ void lmListView::textBoxKeyPress(Integer& KeyAscii) {
     if (KeyAscii != enterKey)
         return;
     Procedure p = procedure(u"txtEdit_KeyPress");
-    letItemText(edit_.lastClickRow + 1, edit_.lastClickColumn + 1, txtEdit->Text());
+    p.step([&] {
+        const Long row = sumOf(edit_.lastClickRow, 1);
+        letItemText(row, sumOf(edit_.lastClickColumn, 1), txtEdit->Text());
+    });
     KeyAscii = 0;
     edit_.editActive = false;
     p.step([&] { txtEdit->letVisible(false); });
     p.step([&] { txtEdit->letTabStop(txtEdit->Visible()); });
     // Wanted: raised for an unchanged text too.
-    p.step([&] { events_.ItemChanged(edit_.lastClickRow + 1, edit_.lastClickColumn + 1, txtEdit->Text()); });
+    p.step([&] {
+        const Long row = sumOf(edit_.lastClickRow, 1);
+        events_.ItemChanged(row, sumOf(edit_.lastClickColumn, 1), txtEdit->Text());
+    });
     p.step([&] { txtEdit->letText({}); });
 }
 

@@ -1,5 +1,6 @@
 /// Platform events that go on to the host, with little or nothing added.
 #include "model/list_view.h"
+#include "platform/rounding.h"
 
 namespace lumtex {
 
@@ -19,9 +20,13 @@ void lmListView::UserControl_DblClick() {
     events_.DblClick();
     if (edit_.lastClickRow < 0 || edit_.lastClickColumn < 0)
         return;
-    events_.ItemDblClick(edit_.lastClickRow + 1, edit_.lastClickColumn + 1);
-    if (ItemAllowEdit(edit_.lastClickRow + 1, edit_.lastClickColumn + 1))
-        SetEdit(edit_.lastClickRow + 1, edit_.lastClickColumn + 1);
+    // The host may choose another cell in the event.
+    const auto row = [&] { return sumOf(edit_.lastClickRow, 1); };
+    const auto column = [&] { return sumOf(edit_.lastClickColumn, 1); };
+    Procedure p = procedure(u"UserControl_DblClick");
+    p.step([&] { events_.ItemDblClick(row(), column()); });
+    if (p.condition([&] { return ItemAllowEdit(row(), column()); }, true))
+        p.step([&] { SetEdit(row(), column()); });
 }
 
 void lmListView::UserControl_OLECompleteDrag(Long& Effect) {

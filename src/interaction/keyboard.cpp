@@ -1,5 +1,6 @@
 /// Keys: the arrows that move the current row, and the flags that presses ask for.
 #include "model/list_view.h"
+#include "platform/rounding.h"
 
 namespace lumtex {
 
@@ -55,8 +56,8 @@ void lmListView::arrowDown(Long visible, Procedure& p) {
         selection_.selectOnIndexSet = false;
         selection_.indexScrollArmed = false;
         letListIndex(row);
-        if (ListIndex() - TopIndex() >= visible)
-            letTopIndex(ListIndex() - visible + 1);
+        if (p.condition([&] { return differenceOf(ListIndex(), TopIndex()) >= visible; }, true))
+            p.step([&] { letTopIndex(sumOf(differenceOf(ListIndex(), visible), 1)); });
         if (TopIndex() > ListIndex())
             letTopIndex(ListIndex());
     }
@@ -75,9 +76,9 @@ void lmListView::arrowUp(Long visible, Procedure& p) {
         // Wanted: unlike Down, it leaves the scrolling of the index as it is.
         selection_.selectOnIndexSet = false;
         letListIndex(row);
-        if (ListIndex() - TopIndex() < 0)
+        if (p.condition([&] { return differenceOf(ListIndex(), TopIndex()) < 0; }, true))
             letTopIndex(ListIndex());
-        if (TopIndex() + visible < ListIndex())
+        if (p.condition([&] { return sumOf(TopIndex(), visible) < ListIndex(); }, true))
             letTopIndex(ListIndex());
     }
     selection_.selectOnIndexSet = true;

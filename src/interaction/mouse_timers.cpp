@@ -1,5 +1,6 @@
 /// The two timers of the mouse: one notices that it has left, one scrolls while a drag is held outside.
 #include "model/list_view.h"
+#include "platform/rounding.h"
 
 namespace lumtex {
 
@@ -20,6 +21,7 @@ void lmListView::tmrMouseIn_Timer() {
 }
 
 void lmListView::tmrMouseAction_Timer() {
+    Procedure p = procedure(u"tmrMouseAction_Timer");
     if (designMode() || mouse_.lastMouseButton == noButton) {
         tmrMouseAction->letEnabled(false);
         move_.moveTargetRow = -1;
@@ -32,9 +34,9 @@ void lmListView::tmrMouseAction_Timer() {
         letTopIndex(TopIndex() - 1);
     } else if (tmrMouseAction->Tag == u"down") {
         if (properties_.AllowItemMoving)
-            move_.moveTargetRow = TopIndex() + VisibleItems();
+            p.step([&] { move_.moveTargetRow = sumOf(TopIndex(), VisibleItems()); });
         // Wanted: at the last row it keeps ticking.
-        letTopIndex(TopIndex() + 1);
+        p.step([&] { letTopIndex(sumOf(TopIndex(), 1)); });
     } else {
         tmrMouseAction->letEnabled(false);
     }

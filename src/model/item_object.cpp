@@ -2,6 +2,7 @@
 #include "model/item_access.h"
 #include "model/list_view.h"
 #include "platform/runtime_error.h"
+#include "platform/window_handle.h"
 
 #include <array>
 
@@ -25,7 +26,7 @@ void lmListView::setItemObject(const Variant& Row, const Variant& Column, Object
     const std::optional<RuntimeError> failure = failureOf([&] {
         if (object) {
             Long handle = 0;
-            const bool hasWindow = ignoringErrors([&] { handle = object->get(u"hwnd").toLong(); });
+            const bool hasWindow = ignoringErrors([&] { handle = windowHandleOf(object->get(u"hwnd")); });
             if (hasWindow) {
                 window_->adopt(handle);
                 std::array<Variant, 1> position{zOrderToBack};

@@ -34,7 +34,8 @@ void lmListView::letListIndex(Long index) {
 
     const Long top = TopIndex();
     const Long visible = VisibleItems();
-    if (index > top + visible - 1 && selection_.indexScrollArmed)
+    const bool belowView = p.condition([&] { return index > differenceOf(sumOf(top, visible), 1); }, true);
+    if (belowView && selection_.indexScrollArmed)
         letTopIndex(index);
     selection_.indexScrollArmed = true;
     if (selection_.selectOnIndexSet) {

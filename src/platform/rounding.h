@@ -10,5 +10,12 @@ namespace lumtex {
 Long roundToLong(Double value);
 Integer roundToInteger(Double value);
 Byte roundToByte(Double value);
+/// Of two places or counts. Throw RuntimeError 6 where the result is no 32-bit number.
+inline Long sumOf(Long a, Long b) {
+    return roundToLong(static_cast<Double>(a) + b);
+}
+inline Long differenceOf(Long a, Long b) {
+    return roundToLong(static_cast<Double>(a) - b);
+}
 
 } // namespace lumtex

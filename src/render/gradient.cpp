@@ -3,20 +3,38 @@
 #include "platform/rounding.h"
 #include "services/ignoring_errors.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace lumtex {
 
 namespace {
 
-/// Bytes of a run of `count` pixels that starts at `from` and moves on by a `divisor`th of the way at each.
-std::vector<Byte> colorRun(std::size_t count, OLE_COLOR from, OLE_COLOR to, Double divisor) {
+/// So many pixels are worked out whether they can be seen or not.
+constexpr Long longestRun = 32768;
+
+/// The pixels of one axis to be worked out: all of a usual run, those on the surface of one that is longer.
+struct Stretch {
+    Long first = 0;
+    Long last = 0; ///< just past the end
+};
+
+Stretch stretchOf(Long first, Long last, Long limit) {
+    if (static_cast<Double>(last) - first <= longestRun)
+        return {first, last};
+    return {std::max<Long>(first, 0), std::min(last, limit)};
+}
+
+/// Bytes of `count` pixels of a run that starts at `from` and moves on by a `divisor`th of the way at each;
+/// the first `skipped` ones are left out.
+std::vector<Byte> colorRun(Double skipped, std::size_t count, OLE_COLOR from, OLE_COLOR to, Double divisor) {
     struct Channel {
         Double value;
         Double step;
     };
     const auto channel = [&](Byte first, Byte last) {
-        return Channel{Double(first), (last - first) / divisor};
+        const Double step = (last - first) / divisor;
+        return Channel{first + skipped * step, step};
     };
     Channel blue = channel(blueOf(from), blueOf(to));
     Channel green = channel(greenOf(from), greenOf(to));
@@ -44,14 +62,27 @@ void DrawGradient(Surface& surface, const Rect* rect, OLE_COLOR colour1, OLE_COL
         const Long width = roundToLong(static_cast<Double>(rect->Right) - rect->Left);
         const Long height = roundToLong(static_cast<Double>(rect->Bottom) - rect->Top);
         if (direction == leftToRight && width > 0) {
-            std::vector<Byte> bytes = colorRun(static_cast<std::size_t>(width), colour1, colour2, width);
+            const Stretch run = stretchOf(rect->Left, rect->Right, surface.scaleWidth());
+            if (run.first >= run.last)
+                return;
+            const Long shown = run.last - run.first;
+            const Double skipped = static_cast<Double>(run.first) - rect->Left;
+            std::vector<Byte> bytes =
+                colorRun(skipped, static_cast<std::size_t>(shown), colour1, colour2, width);
             bytes.resize((bytes.size() + 3) / 4 * 4);
-            surface.stretchDIBits(rect->Left, rect->Top, width, height, {width, 1, bytes});
+            surface.stretchDIBits(run.first, rect->Top, shown, height, {shown, 1, bytes});
         } else if (direction == bottomToTop && height > 0) {
-            const std::size_t count = static_cast<std::size_t>(height) * stripWidth;
-            const std::vector<Byte> bytes =
-                colorRun(count, colour1, colour2, static_cast<Double>(height) * stripWidth);
-            surface.stretchDIBits(rect->Left, rect->Top, width, height, {stripWidth, height, bytes});
+            const Stretch run = stretchOf(rect->Top, rect->Bottom, surface.scaleHeight());
+            if (run.first >= run.last)
+                return;
+            const Long shown = run.last - run.first;
+            const Double skipped = (static_cast<Double>(rect->Bottom) - run.last) * stripWidth;
+            const std::vector<Byte> bytes = colorRun(skipped,
+                                                     static_cast<std::size_t>(shown) * stripWidth,
+                                                     colour1,
+                                                     colour2,
+                                                     static_cast<Double>(height) * stripWidth);
+            surface.stretchDIBits(rect->Left, run.first, width, shown, {stripWidth, shown, bytes});
         }
     });
 }

@@ -79,9 +79,15 @@ void PaintPass::hoverBar(const StrokeFrame& frame) {
     const Single firstStep = std::max(0.0F, std::floor(-stampsLeft) - 1);
     const Single lastStep = std::min(std::floor(frame.right - stampsLeft),
                                      static_cast<Single>(surface.scaleWidth()) - stampsLeft);
+    // Far to the left a Single does not move on by 1, so the stamps are counted from the first one to be
+    // seen.
+    const Long stamps = surface.scaleWidth() + 3;
     bool odd = std::fmod(firstStep, 2.0F) != 0;
-    for (Single step = firstStep; step <= lastStep; step += 1) {
-        surface.paintPicture(odd ? *pieces[2] : *pieces[1], stampsLeft + step, top);
+    for (Long stamp = 0; stamp < stamps; ++stamp) {
+        const Double step = static_cast<Double>(firstStep) + stamp;
+        if (step > lastStep)
+            break;
+        surface.paintPicture(odd ? *pieces[2] : *pieces[1], static_cast<Single>(stampsLeft + step), top);
         odd = !odd;
     }
     surface.paintPicture(

@@ -1,4 +1,5 @@
 /// The rows: how tall each is, where it lies, and its grid lines.
+#include "platform/rounding.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
 
@@ -11,7 +12,9 @@ namespace lumtex {
 void PaintPass::hideObjects(Long firstRow, Long lastRow) {
     if (CellExtras::objectsInCells() == 0)
         return;
-    for (state.scanColumn = firstRow; state.scanColumn <= lastRow; ++state.scanColumn) {
+    // The bar may stand anywhere, but no object is in a row that is not there.
+    const Long last = std::min(lastRow, list.RowsCount());
+    for (state.scanColumn = std::max(firstRow, Long{1}); state.scanColumn <= last; ++state.scanColumn) {
         for (state.scanObjectColumn = 1; state.scanObjectColumn <= list.ColumnsCount();
              ++state.scanObjectColumn) {
             ignoringErrors([&] {
@@ -35,16 +38,20 @@ void PaintPass::beginRows() {
 }
 
 void PaintPass::rowPass() {
+    // Rows without a height from far above the first one on would take billions of turns.
+    constexpr std::int64_t spareTurns = 4096;
+    std::int64_t turnsLeft = std::int64_t{list.RowsCount()} + surface.scaleHeight() + spareTurns;
     statement([&] { beginRows(); });
     do {
         checkpoint();
         items = Items{};
-        statement([&] { items = list.rowAt(Variant(state.scanIndex + 1)).items; });
+        statement([&] { items = list.rowAt(Variant(sumOf(state.scanIndex, 1))).items; });
         rowCells();
         finishRow();
         checkpoint();
-    } while (state.scanIndex <= list.RowsCount() - 1 && rowY <= static_cast<Single>(surface.scaleHeight()));
-    if (state.scanIndex + 1 <= list.RowsCount())
+    } while (state.scanIndex <= list.RowsCount() - 1 && rowY <= static_cast<Single>(surface.scaleHeight()) &&
+             --turnsLeft > 0);
+    if (state.scanIndex < list.RowsCount())
         hideObjects(state.scanIndex + 1, list.RowsCount());
 }
 
@@ -101,7 +108,7 @@ void PaintPass::finishRow() {
     }
     rowY += rowBandHeight;
     rowBandHeight = 0;
-    ++state.scanIndex;
+    statement([&] { state.scanIndex = sumOf(state.scanIndex, 1); });
 }
 
 } // namespace lumtex

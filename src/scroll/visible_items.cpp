@@ -2,7 +2,19 @@
 #include "model/list_view.h"
 #include "platform/rounding.h"
 
+#include <cmath>
+
 namespace lumtex {
+
+namespace {
+
+/// How often a walk from `first` on in steps of `step`, above 0, stands at or before `last`. Reckoned and not
+/// walked: far below zero the walk would take billions of turns, or in Single not move at all.
+Double turnsOf(Double first, Double last, Double step) {
+    return first <= last ? std::floor((last - first) / step) + 1 : 0;
+}
+
+} // namespace
 
 Long lmListView::VisibleItems() {
     Procedure p = procedure(u"VisibleItems");
@@ -29,13 +41,14 @@ Long lmListView::VisibleItems() {
         }
 
         const Long height = roundToLong(scaleY(surface, properties_.RowHeight, twips, pixels));
-        auto y = static_cast<Single>(ColumnHeight());
+        Double y = ColumnHeight();
         if (height > 0) {
-            for (; y <= available; y += static_cast<Single>(height))
-                ++scroll_.visibleRowCount;
+            const Double turns = turnsOf(y, available, height);
+            scroll_.visibleRowCount = roundToLong(scroll_.visibleRowCount + turns);
+            y += turns * height;
         }
         // Wanted: with a positive height this test cannot be met.
-        if (y + barHeight + static_cast<Single>(height) / 2 < static_cast<Single>(surface.scaleHeight()))
+        if (y + barHeight + height / 2.0 < surface.scaleHeight())
             scroll_.lastRowHidden = false;
         return scroll_.visibleRowCount;
     });

@@ -61,7 +61,7 @@ bool lmListView::stopsWheel(Procedure& p, Long index) {
 
 void lmListView::wheelIndexDown(Procedure& p, Integer Rotation) {
     const auto last = [&] { return RowsCount() - 1; };
-    if (Rotation >= 0 || ListIndex() - Rotation >= last() || ListIndex() >= last()) {
+    if (Rotation >= 0 || static_cast<Double>(ListIndex()) - Rotation >= last() || ListIndex() >= last()) {
         letListIndex(last());
         return;
     }
@@ -84,7 +84,7 @@ void lmListView::wheelIndexDown(Procedure& p, Integer Rotation) {
 
 void lmListView::wheelIndexUp(Procedure& p, Integer Rotation) {
     // Wanted: the turn is added, so that only row 0 or no row at all takes the short way.
-    if (ListIndex() + Rotation <= 0 || ListIndex() <= 0) {
+    if (static_cast<Double>(ListIndex()) + Rotation <= 0 || ListIndex() <= 0) {
         letListIndex(0);
         return;
     }

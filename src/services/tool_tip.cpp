@@ -2,6 +2,7 @@
 
 #include "platform/runtime_error.h"
 #include "platform/variant.h"
+#include "platform/window_handle.h"
 #include "services/ignoring_errors.h"
 
 #include <array>
@@ -36,7 +37,7 @@ StringView GetStrFromBufferA(StringView buffer) {
 WindowHandle handleOf(const ObjectRef& object) {
     if (!object)
         throw RuntimeError(objectVariableNotSet);
-    return object->get(u"hwnd").toLong();
+    return windowHandleOf(object->get(u"hwnd"));
 }
 
 Long lengthWithZero(StringView text) {
