@@ -97,6 +97,11 @@ class Runtime {
     /// parts with "\".
     virtual std::optional<StoredSetting>
     storedSetting(std::uint32_t hive, StringView key, StringView name) const = 0;
+    /// The same for a key that the user may read and perhaps not write.
+    virtual std::optional<StoredSetting>
+    readOnlySetting(std::uint32_t hive, StringView key, StringView name) const {
+        return storedSetting(hive, key, name);
+    }
 
     /// Today's date and the time of the day.
     virtual Date now() const = 0;

@@ -47,6 +47,9 @@ class World {
     }
     /// An off-screen surface, as a hidden picture box has it.
     virtual std::unique_ptr<Surface> createSurface(Long width, Long height) = 0;
+
+    /// The one about box of all that live in this world, while somebody holds it.
+    std::weak_ptr<void> aboutForm;
 };
 
 } // namespace lumtex

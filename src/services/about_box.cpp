@@ -7,8 +7,6 @@
 #include "services/ignoring_errors.h"
 #include "services/registry_value.h"
 
-#include <map>
-
 namespace lumtex {
 
 namespace {
@@ -87,19 +85,19 @@ Point sizeOf(const Picture& picture, const Surface& surface) {
 LumtexAbout::LumtexAbout(World& world) : world_(world), window_(world.createForm(*this)) {}
 
 std::shared_ptr<LumtexAbout> LumtexAbout::of(World& world) {
-    static std::map<World*, std::weak_ptr<LumtexAbout>> forms;
-    std::erase_if(forms, [](const auto& entry) { return entry.second.expired(); });
-    std::shared_ptr<LumtexAbout> held = forms[&world].lock();
-    if (!held) {
-        held = std::make_shared<LumtexAbout>(world);
-        forms[&world] = held;
-    }
-    return held;
+    if (const std::shared_ptr<void> held = world.aboutForm.lock())
+        return std::static_pointer_cast<LumtexAbout>(held);
+    auto made = std::make_shared<LumtexAbout>(world);
+    world.aboutForm = made;
+    return made;
 }
 
 void LumtexAbout::Show(Mode mode) {
-    if (!loaded_)
+    // One that is neither shown nor hidden by us was closed by the desktop, and that unloads a form.
+    const bool closed = !window_->Visible() && !hidden_;
+    if (!loaded_ || closed)
         load();
+    hidden_ = false;
     if (mode == Mode::modeless || modal_) {
         window_->letVisible(true);
         window_->setFocus();
@@ -114,6 +112,7 @@ void LumtexAbout::Show(Mode mode) {
 }
 
 void LumtexAbout::Hide() {
+    hidden_ = true;
     window_->letVisible(false);
 }
 
@@ -236,9 +235,10 @@ void LumtexAbout::UserControl_KeyDown(Integer KeyCode, Integer /*Shift*/) {
 void LumtexAbout::openHelp() {
     Runtime& runtime = world_.runtime();
     // Reading a value that is not there fails, and there the click ends.
-    if (!runtime.storedSetting(currentUserHive, settingsKey, applicationsSetting))
+    const auto stored = runtime.readOnlySetting(currentUserHive, settingsKey, applicationsSetting);
+    if (!stored)
         return;
-    String folder = RegistryValue(runtime, currentUserHive, settingsKey, applicationsSetting);
+    String folder = textOfSetting(*stored);
     if (!folder.ends_with(u'\\'))
         folder += u'\\';
     folder += helpFolder;

@@ -59,6 +59,7 @@ class LumtexAbout final : public UserControl {
     AboutArtwork artwork_ = AboutArtwork::standard();
     std::unique_ptr<Window> window_;
     bool loaded_ = false;
+    bool hidden_ = false; ///< by `Hide`, not by the desktop
     bool modal_ = false;
     Control pressed_ = form;
     Control released_ = form;

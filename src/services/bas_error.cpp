@@ -21,7 +21,8 @@ constexpr std::size_t ruleLength = 30;
 
 constexpr std::array<StringView, 3> moduleKindTexts = {u"Benutzersteuerelement", u"Klassenmodul", u"Modul"};
 
-int runningReports = 0;
+/// Of this thread: boxes of other threads do not silence it.
+thread_local int runningReports = 0;
 
 class RunningReport {
   public:

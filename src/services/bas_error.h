@@ -30,8 +30,8 @@ String reportText(const ErrorReport& report, const ComponentInfo& component);
 /// handler anew each time, and not at the silent flag. Nothing escapes.
 ///
 /// The host's code runs in the handler and during the box, and may fail again: then a second report comes on
-/// top of the first. On top of `mostNestedReports` there is only the log, or a handler that itself fails
-/// would never come to an end.
+/// top of the first. On top of `mostNestedReports` of one thread there is only the log, or a handler that
+/// itself fails would never come to an end.
 void reportError(Runtime& runtime, const ErrorReport& report) noexcept;
 
 constexpr int mostNestedReports = 8;

@@ -26,19 +26,21 @@ String digitsFrom(const std::vector<Byte>& data) {
 
 } // namespace
 
-String RegistryValue(const Runtime& runtime, std::uint32_t hive, StringView key, StringView valueName) {
-    const std::optional<StoredSetting> stored = runtime.storedSetting(hive, key, valueName);
-    if (!stored || stored->data.size() > bufferSize)
-        return {};
-    switch (stored->type) {
+String textOfSetting(const StoredSetting& stored) {
+    switch (stored.type) {
     case StoredSetting::text:
     case StoredSetting::textWithVariables:
-        return textFrom(stored->data);
+        return textFrom(stored.data);
     case StoredSetting::number:
-        return digitsFrom(stored->data);
+        return digitsFrom(stored.data);
     default:
         return {};
     }
+}
+
+String RegistryValue(const Runtime& runtime, std::uint32_t hive, StringView key, StringView valueName) {
+    const std::optional<StoredSetting> stored = runtime.storedSetting(hive, key, valueName);
+    return stored && stored->data.size() <= bufferSize ? textOfSetting(*stored) : String();
 }
 
 } // namespace lumtex

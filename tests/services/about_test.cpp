@@ -311,5 +311,31 @@ TEST(AboutPictures, NoPixelIsBrighterThanItsAlphaAllows) {
     }
 }
 
+TEST_F(About, OneThatTheDesktopClosedLoadsAnew) {
+    Window& window = shown().window();
+    const Single left = window.Left();
+    window.place(0, 0, window.Width(), window.Height());
+    window.letVisible(false);
+    runtime.clock = Date{46388}; // 2027-01-01
+    EXPECT_EQ(shown().window().Left(), left);
+    EXPECT_EQ(form->Caption(Control::lblAutor), u"Copyright © Lumtex 2027");
+}
+
+TEST_F(About, OneThatWasHiddenStaysLoaded) {
+    Window& window = shown().window();
+    window.place(0, 0, window.Width(), window.Height());
+    form->Hide();
+    EXPECT_EQ(shown().window().Left(), 0);
+}
+
+TEST_F(About, TheFolderOfApplicationsMayBeOfAnyLength) {
+    const String folder = u"C:\\" + String(3000, u'x');
+    letApplicationsPath(folder);
+    shown();
+    click(Control::imgHelp);
+    ASSERT_EQ(runtime.opened.size(), 1U);
+    EXPECT_EQ(runtime.opened[0].folder, folder + u"\\LumtexHelp\\");
+}
+
 } // namespace
 } // namespace lumtex::testing

@@ -3,6 +3,7 @@
 #include "support/report_catcher.h"
 
 #include <new>
+#include <thread>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -308,6 +309,20 @@ TEST_F(Report, AHandlerThatFailsInItselfComesToAnEndWithOnlyTheLogOnTop) {
     onRaiseError = [](std::span<Variant> /*arguments*/) {};
     reportError(runtime, report);
     EXPECT_EQ(handler.calls.size(), static_cast<std::size_t>(mostNestedReports) + 1);
+}
+
+TEST_F(Report, BoxesOfAnotherThreadDoNotSilenceIt) {
+    int depth = 0;
+    FakeRuntime other;
+    runtime.onMessageBox = [&] {
+        if (++depth < mostNestedReports)
+            reportError(runtime, report);
+        else
+            std::thread([&] { reportError(other, report); }).join();
+    };
+    reportError(runtime, report);
+    EXPECT_EQ(depth, mostNestedReports);
+    EXPECT_EQ(other.boxes.size(), 1U);
 }
 
 } // namespace

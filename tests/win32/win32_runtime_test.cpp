@@ -211,5 +211,22 @@ TEST_F(SystemRuntime, IsOfTheFamilyThatHasThemes) {
     EXPECT_GE(runtime.systemVersion().major, 5);
 }
 
+TEST_F(SystemRuntime, ReadsSettingsThatItMayNotWrite) {
+    constexpr StringView key = u"Software\\LumtexTestReading";
+    const String text(3000, u'x');
+    RegSetKeyValueW(HKEY_CURRENT_USER,
+                    L"Software\\LumtexTestReading",
+                    L"Value",
+                    REG_SZ,
+                    text.c_str(),
+                    static_cast<DWORD>((text.size() + 1) * sizeof(char16_t)));
+    const auto stored = runtime.readOnlySetting(currentUserHive, key, u"Value");
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\LumtexTestReading");
+    ASSERT_TRUE(stored.has_value());
+    EXPECT_EQ(stored->type, StoredSetting::text);
+    EXPECT_GE(stored->data.size(), text.size());
+    EXPECT_EQ(runtime.readOnlySetting(currentUserHive, key, u"Value"), std::nullopt);
+}
+
 } // namespace
 } // namespace lumtex::testing

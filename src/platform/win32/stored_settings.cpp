@@ -8,13 +8,13 @@ namespace lumtex {
 
 namespace {
 
-/// What the key is opened with: reading and writing, as long as the user may.
-constexpr REGSAM accessRights = 0x2003F;
+/// Reading and writing, as long as the user may.
+constexpr REGSAM fullAccess = 0x2003F;
 
 class OpenKey {
   public:
-    OpenKey(HKEY hive, const String& path) {
-        if (RegOpenKeyExW(hive, wide(path), 0, accessRights, &key_) != ERROR_SUCCESS)
+    OpenKey(HKEY hive, const String& path, REGSAM access) {
+        if (RegOpenKeyExW(hive, wide(path), 0, access, &key_) != ERROR_SUCCESS)
             key_ = nullptr;
     }
     OpenKey(const OpenKey&) = delete;
@@ -37,13 +37,10 @@ std::vector<Byte> utf8From(const std::vector<Byte>& stored) {
     return {utf8.begin(), utf8.end()};
 }
 
-} // namespace
-
-std::optional<StoredSetting>
-Win32Runtime::storedSetting(std::uint32_t hive, StringView key, StringView name) const {
+std::optional<StoredSetting> settingOf(std::uint32_t hive, StringView key, StringView name, REGSAM access) {
     // Hives are numbers of 32 bits, extended by their sign.
     auto* root = reinterpret_cast<HKEY>(static_cast<INT_PTR>(static_cast<Long>(hive)));
-    const OpenKey opened(root, String(key));
+    const OpenKey opened(root, String(key), access);
     if (opened.get() == nullptr)
         return std::nullopt;
     const String valueName(name);
@@ -57,6 +54,18 @@ Win32Runtime::storedSetting(std::uint32_t hive, StringView key, StringView name)
     data.resize(size);
     const bool isText = type == StoredSetting::text || type == StoredSetting::textWithVariables;
     return StoredSetting{static_cast<Long>(type), isText ? utf8From(data) : data};
+}
+
+} // namespace
+
+std::optional<StoredSetting>
+Win32Runtime::storedSetting(std::uint32_t hive, StringView key, StringView name) const {
+    return settingOf(hive, key, name, fullAccess);
+}
+
+std::optional<StoredSetting>
+Win32Runtime::readOnlySetting(std::uint32_t hive, StringView key, StringView name) const {
+    return settingOf(hive, key, name, KEY_READ);
 }
 
 } // namespace lumtex

@@ -1,6 +1,7 @@
 /// The program, its processes, boxes and objects.
 #include "platform/win32/win32_runtime.h"
 
+#include "platform/nesting_level.h"
 #include "platform/runtime_error.h"
 #include "platform/text.h"
 #include "platform/version.h"
@@ -15,6 +16,8 @@ namespace lumtex {
 namespace {
 
 constexpr Single twipsPerInch = 1440;
+
+thread_local int openBoxes = 0;
 
 /// The file of a module; empty where the system does not tell.
 String moduleFile(HINSTANCE module) {
@@ -89,8 +92,18 @@ void Win32Runtime::messageBox(StringView text, Long style, StringView title) {
     const String caption(title);
     HWND owner = GetActiveWindow();
     const UINT modal = owner == nullptr ? MB_TASKMODAL : 0U;
+    HWND focus = GetFocus();
     const ModalSpan span(*this);
-    MessageBoxW(owner, wide(message), wide(caption), static_cast<UINT>(style) | MB_OK | modal);
+    {
+        const NestingLevel level(openBoxes);
+        MessageBoxW(owner, wide(message), wide(caption), static_cast<UINT>(style) | MB_OK | modal);
+    }
+    if (owner != nullptr && GetActiveWindow() == owner && IsChild(owner, focus))
+        SetFocus(focus);
+}
+
+bool Win32Runtime::isBoxOpen() {
+    return openBoxes > 0;
 }
 
 Long Win32Runtime::currentProcessId() const {

@@ -28,14 +28,18 @@ class Win32Runtime : public Runtime {
     /// A timer that is faster than its handler ticks twice at most in one call.
     void DoEvents() override;
     bool hasPendingEvents() const override;
-    /// Over the program's active window.
+    /// Over the program's active window. What had the focus has it again when the box has closed.
     void messageBox(StringView text, Long style, StringView title) override;
+    /// Is a box of `messageBox` open on this thread, whoever of the thread opened it?
+    static bool isBoxOpen();
     const ComponentInfo& component() const override { return component_; }
     Long currentProcessId() const override;
     std::optional<std::vector<ProcessEntry>> processes() const override;
     String fullPathName(StringView file) const override;
     std::optional<StoredSetting>
     storedSetting(std::uint32_t hive, StringView key, StringView name) const override;
+    std::optional<StoredSetting>
+    readOnlySetting(std::uint32_t hive, StringView key, StringView name) const override;
     Date now() const override;
     String dateText(Date date) const override;
     String timeText(Date date) const override;
