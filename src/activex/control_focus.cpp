@@ -1,6 +1,7 @@
 /// Focus and keys, between the list and its container.
 #include "activex/control_core.h"
 #include "platform/win32/shift_keys.h"
+#include "platform/win32/win32_window.h"
 
 #include <algorithm>
 
@@ -56,7 +57,8 @@ void ControlCore::focusChanged(bool got) {
 HRESULT ControlCore::translateKey(MSG& message) {
     if (!isOfKeyboard(message) || !hasFocus())
         return S_FALSE;
-    const bool inEditor = GetFocus() != window();
+    const Win32Window* const list = Win32Window::of(window());
+    const bool inEditor = list != nullptr && list->hasBox(GetFocus());
     const bool isKey = message.message == WM_KEYDOWN || message.message == WM_KEYUP;
     // Enter closes the editor as a character, which has the same number.
     const bool closesEditor =

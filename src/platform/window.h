@@ -51,6 +51,9 @@ class Window {
     virtual void setMouseIcon(PictureRef icon) = 0;
 
     virtual void setFocus() = 0;
+    /// Off for a part of the window around it, which has the keyboard for both: a press on the part gives it
+    /// the focus, unless its own text box has it.
+    virtual void letTakesKeys(bool takesKeys) = 0;
     /// From here on all mouse events come to this window, until released.
     virtual void setCapture() = 0;
     virtual void releaseCapture() = 0;

@@ -9,6 +9,7 @@ ArrowButton::ArrowButton(World& world, Window& parent, Arrow arrow, std::functio
     : world_(world), traits_(traitsOf(arrow)), step_(std::move(step)),
       img_(ScrollArtwork::standard().buttonOf(arrow)), window_(world.createWindow(&parent, *this)),
       Timer1(world.createTimer([this] { Timer1_Timer(); })) {
+    window_->letTakesKeys(false);
     UserControl_Resize();
     RedrawButton();
     window_->letVisible(true);

@@ -13,6 +13,7 @@ ScrollBar::ScrollBar(World& world, Window& parent, const BarTraits& traits, Even
               [this] { thumbMouseUp(); }}),
       low_(world, *window_, traits.low, [this] { stepLow(); }),
       high_(world, *window_, traits.high, [this] { stepHigh(); }) {
+    window_->letTakesKeys(false);
     layOut();
 }
 

@@ -37,6 +37,7 @@ constexpr OLE_COLOR silverFoot = 0xDFD1D0;
 ScrollThumb::ScrollThumb(World& world, Window& parent, Axis axis, Events events)
     : world_(world), axis_(axis), events_(std::move(events)), img_(ScrollArtwork::standard().thumbOf(axis)),
       window_(world.createWindow(&parent, *this)) {
+    window_->letTakesKeys(false);
     window_->letVisible(true);
 }
 

@@ -291,5 +291,30 @@ TEST_F(Focus, TheyWaitNoLongerThanTheListIsAmongThem) {
     EXPECT_EQ(container.modeless, (std::vector<bool>{false, true}));
 }
 
+TEST_F(Focus, EnterIsTheContainersWhileABarWasPressed) {
+    place(OLEIVERB_UIACTIVATE);
+    fill(1, {u"a", u"b", u"c", u"d", u"e", u"f", u"g", u"h", u"i", u"j", u"k", u"l", u"m", u"n"});
+    call(L"CheckScroll");
+    RECT area{};
+    GetClientRect(window(), &area);
+    HWND bar = ChildWindowFromPointEx(window(), {area.right - 6, area.bottom / 2}, CWP_SKIPINVISIBLE);
+    ASSERT_NE(bar, window());
+    call(L"SetEdit", {Long{1}, Long{1}});
+    HWND editor = toHWND(get(L"hwndEdit").toLong());
+    SetFocus(editor);
+    SendMessageW(bar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(6, 40));
+    SendMessageW(bar, WM_LBUTTONUP, 0, MAKELPARAM(6, 40));
+    EXPECT_EQ(GetFocus(), editor) << "an open editor stays open";
+    call(L"StopEdit");
+    SetFocus(neighbour.window);
+    SendMessageW(bar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(6, 40));
+    SendMessageW(bar, WM_LBUTTONUP, 0, MAKELPARAM(6, 40));
+    EXPECT_EQ(GetFocus(), window());
+    container.told.clear();
+    MSG enter{window(), WM_KEYDOWN, VK_RETURN, 0x1C0001, 0, {}};
+    EXPECT_EQ(container.active->TranslateAccelerator(&enter), S_FALSE);
+    EXPECT_EQ(container.told, std::vector<std::string>{"TranslateAccelerator " + std::to_string(VK_RETURN)});
+}
+
 } // namespace
 } // namespace lumtex::testing

@@ -38,6 +38,8 @@ TEST_F(Capture, SetByAWindowBringsItAllMouseEventsButTheWheel) {
         sameLog(events.take(),
                 {"b.MouseMove Button=0 Shift=0 X=-40 Y=10", "a.Wheel Rotation=120 Shift=0 X=10 Y=10"}));
     b->window().releaseCapture();
+    desktop.run();
+    EXPECT_TRUE(sameLog(events.take(), {"a.MouseMove Button=0 Shift=0 X=10 Y=10"}));
     desktop.move(a->window(), 11, 10);
     EXPECT_TRUE(sameLog(events.take(), {"a.MouseMove Button=0 Shift=0 X=11 Y=10"}));
 }
@@ -48,9 +50,11 @@ TEST_F(Capture, ItsWindowTakesThePressWhereverItFalls) {
     desktop.move(a->window(), 10, 10);
     events.clear();
     desktop.click();
-    EXPECT_TRUE(sameLog(
-        events.take(),
-        {"b.GotFocus", "b.MouseDown Button=1 Shift=0 X=-40 Y=10", "b.MouseUp Button=1 Shift=0 X=-40 Y=10"}));
+    EXPECT_TRUE(sameLog(events.take(),
+                        {"b.GotFocus",
+                         "b.MouseDown Button=1 Shift=0 X=-40 Y=10",
+                         "b.MouseUp Button=1 Shift=0 X=-40 Y=10",
+                         "a.MouseMove Button=0 Shift=0 X=10 Y=10"}));
 }
 
 TEST_F(Capture, EndsWithTheReleaseWhoeverTookIt) {
@@ -104,6 +108,44 @@ TEST_F(Capture, AWindowHiddenInItsOwnPressHearsNoRelease) {
     events.clear();
     desktop.release();
     EXPECT_TRUE(sameLog(events.take(), {"a.MouseUp Button=1 Shift=0 X=51 Y=1"}));
+}
+
+TEST_F(Capture, ThatEndsMakesUpAMoveForTheWindowUnderThePointerByThen) {
+    const auto b = child("b", *a, 50, 0, 50, 80);
+    desktop.press(a->window(), 10, 10);
+    events.clear();
+    // The pointer moves on while the release waits, and once more behind it.
+    desktop.postRelease();
+    desktop.postMove({65, 25});
+    desktop.run();
+    EXPECT_TRUE(sameLog(events.take(),
+                        {"a.MouseUp Button=1 Shift=0 X=10 Y=10",
+                         "a.Click",
+                         "b.MouseMove Button=0 Shift=0 X=5 Y=5",
+                         "b.MouseMove Button=0 Shift=0 X=5 Y=5"}));
+}
+
+TEST_F(Capture, ThatEndsTwiceBeforeMessagesRunMakesUpOneMove) {
+    desktop.move(a->window(), 10, 10);
+    events.clear();
+    for (int i = 0; i < 2; ++i) {
+        a->window().setCapture();
+        a->window().releaseCapture();
+    }
+    a->window().releaseCapture();
+    desktop.run();
+    EXPECT_TRUE(sameLog(events.take(), {"a.MouseMove Button=0 Shift=0 X=10 Y=10"}));
+}
+
+TEST_F(Capture, OfAWindowThatIsHiddenMakesUpAMove) {
+    const auto b = child("b", *a, 0, 0, 50, 80);
+    desktop.move(b->window(), 10, 10);
+    b->window().setCapture();
+    events.clear();
+    b->window().letVisible(false);
+    EXPECT_TRUE(sameLog(events.take(), {}));
+    desktop.run();
+    EXPECT_TRUE(sameLog(events.take(), {"a.MouseMove Button=0 Shift=0 X=10 Y=10"}));
 }
 
 } // namespace lumtex::testing

@@ -90,6 +90,7 @@ TEST_F(Yields, RunTheLoopInTheMiddleOfAnEvent) {
                          "a.MouseDown Button=1 Shift=0 X=5 Y=5",
                          "  a.MouseUp Button=1 Shift=0 X=5 Y=5",
                          "  a.Click",
+                         "  a.MouseMove Button=0 Shift=0 X=5 Y=5",
                          "back"}));
 }
 

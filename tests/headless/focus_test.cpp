@@ -32,7 +32,8 @@ TEST_F(FocusRules, APressOnAWindowTakesItFromTheChildThatHasIt) {
                          "a.GotFocus",
                          "a.MouseDown Button=1 Shift=0 X=10 Y=10",
                          "a.MouseUp Button=1 Shift=0 X=10 Y=10",
-                         "a.Click"}));
+                         "a.Click",
+                         "a.MouseMove Button=0 Shift=0 X=10 Y=10"}));
     EXPECT_EQ(desktop.focused(), a->window().hWnd());
 }
 
@@ -101,6 +102,39 @@ TEST_F(FocusRules, WhoTakesItBackInItsLossKeepsIt) {
     b->window().setFocus();
     EXPECT_TRUE(sameLog(events.take(), {"a.LostFocus", "b.LostFocus", "a.GotFocus"}));
     EXPECT_EQ(desktop.focused(), a->window().hWnd());
+}
+
+TEST_F(FocusRules, APressOnAPartGivesItToTheWindowItIsAPartOf) {
+    const auto bar = child("bar", *a, 50, 0, 50, 80);
+    const auto thumb = child("thumb", *bar, 0, 0, 50, 20);
+    bar->window().letTakesKeys(false);
+    thumb->window().letTakesKeys(false);
+    desktop.press(thumb->window(), 1, 1);
+    EXPECT_TRUE(sameLog(events.take(),
+                        {"thumb.MouseMove Button=0 Shift=0 X=1 Y=1",
+                         "a.GotFocus",
+                         "thumb.MouseDown Button=1 Shift=0 X=1 Y=1"}));
+    EXPECT_EQ(desktop.focused(), a->window().hWnd());
+}
+
+TEST_F(FocusRules, AProgramThatIsLeftHasItBackWhenTheUserComesBack) {
+    a->window().setFocus();
+    events.clear();
+    desktop.switchAway();
+    EXPECT_EQ(desktop.focused(), 0);
+    desktop.type(u"x");
+    desktop.switchBack();
+    EXPECT_TRUE(sameLog(events.take(), {"a.LostFocus", "a.GotFocus"}));
+    EXPECT_EQ(desktop.focused(), a->window().hWnd());
+}
+
+TEST_F(FocusRules, AWindowPressedOnTheWayBackKeepsIt) {
+    const auto b = child("b", *a, 50, 0, 50, 80);
+    a->window().setFocus();
+    desktop.switchAway();
+    desktop.press(b->window(), 1, 1);
+    desktop.switchBack();
+    EXPECT_EQ(desktop.focused(), b->window().hWnd());
 }
 
 } // namespace lumtex::testing

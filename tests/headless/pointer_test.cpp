@@ -115,6 +115,7 @@ TEST_F(PointerRules, HeldShiftKeysAndThoseOfTheVerbAreInEachEvent) {
                          "a.MouseDown Button=1 Shift=6 X=5 Y=5",
                          "a.MouseUp Button=1 Shift=6 X=5 Y=5",
                          "a.Click",
+                         "a.MouseMove Button=0 Shift=6 X=5 Y=5",
                          "a.Wheel Rotation=-120 Shift=3 X=5 Y=5"}));
 }
 
@@ -137,7 +138,8 @@ TEST_F(Clicks, ComeAfterTheReleaseInside) {
                         {"a.MouseMove Button=0 Shift=0 X=1 Y=2",
                          "a.MouseDown Button=2 Shift=0 X=1 Y=2",
                          "a.MouseUp Button=2 Shift=0 X=1 Y=2",
-                         "a.Click"}));
+                         "a.Click",
+                         "a.MouseMove Button=0 Shift=0 X=1 Y=2"}));
 }
 
 TEST_F(Clicks, DoNotComeAfterAReleaseOutside) {
@@ -154,7 +156,9 @@ TEST_F(Clicks, ComeAlsoWhereAChildCoversThePlaceOfTheRelease) {
     desktop.move(a->window(), 60, 10);
     events.clear();
     desktop.release();
-    EXPECT_TRUE(sameLog(events.take(), {"a.MouseUp Button=1 Shift=0 X=60 Y=10", "a.Click"}));
+    EXPECT_TRUE(sameLog(
+        events.take(),
+        {"a.MouseUp Button=1 Shift=0 X=60 Y=10", "a.Click", "b.MouseMove Button=0 Shift=0 X=10 Y=10"}));
 }
 
 TEST_F(Clicks, DoNotComeFromAPressOnAnotherWindow) {
@@ -181,9 +185,11 @@ TEST_F(Clicks, OfTwoButtonsTheOnePressedLastClicks) {
     events.clear();
     desktop.release(leftButton);
     desktop.release(rightButton);
-    EXPECT_TRUE(
-        sameLog(events.take(),
-                {"a.MouseUp Button=1 Shift=0 X=1 Y=1", "a.MouseUp Button=2 Shift=0 X=1 Y=1", "a.Click"}));
+    EXPECT_TRUE(sameLog(events.take(),
+                        {"a.MouseUp Button=1 Shift=0 X=1 Y=1",
+                         "a.MouseUp Button=2 Shift=0 X=1 Y=1",
+                         "a.Click",
+                         "a.MouseMove Button=0 Shift=0 X=1 Y=1"}));
 }
 
 TEST_F(Clicks, ADoubleClickStandsInPlaceOfTheSecondPressAndItsReleaseClicksNoMore) {
@@ -195,17 +201,21 @@ TEST_F(Clicks, ADoubleClickStandsInPlaceOfTheSecondPressAndItsReleaseClicksNoMor
                          "a.MouseDown Button=1 Shift=0 X=1 Y=2",
                          "a.MouseUp Button=1 Shift=0 X=1 Y=2",
                          "a.Click",
+                         "a.MouseMove Button=0 Shift=0 X=1 Y=2",
                          "a.DblClick",
-                         "a.MouseUp Button=1 Shift=0 X=1 Y=2"}));
+                         "a.MouseUp Button=1 Shift=0 X=1 Y=2",
+                         "a.MouseMove Button=0 Shift=0 X=1 Y=2"}));
 }
 
 TEST_F(Clicks, TwoPressesAloneAreNoDoubleClick) {
     desktop.click(a->window(), 1, 2);
     events.clear();
     desktop.click();
-    EXPECT_TRUE(
-        sameLog(events.take(),
-                {"a.MouseDown Button=1 Shift=0 X=1 Y=2", "a.MouseUp Button=1 Shift=0 X=1 Y=2", "a.Click"}));
+    EXPECT_TRUE(sameLog(events.take(),
+                        {"a.MouseDown Button=1 Shift=0 X=1 Y=2",
+                         "a.MouseUp Button=1 Shift=0 X=1 Y=2",
+                         "a.Click",
+                         "a.MouseMove Button=0 Shift=0 X=1 Y=2"}));
 }
 
 struct Spot {

@@ -56,6 +56,13 @@ class HeadlessStage final : public Stage {
         (onTheList ? list_.window() : *neighbour_).setFocus();
         desktop_.run();
     }
+    void switchProgram(bool away) override {
+        if (away)
+            desktop_.switchAway();
+        else
+            desktop_.switchBack();
+        desktop_.run();
+    }
     void advance(std::chrono::milliseconds span) override { desktop_.advance(span); }
     Bitmap picture() override { return desktop_.screenshot(list_.window()); }
 

@@ -161,6 +161,22 @@ class Player {
              (inside_.editor().Visible() ? " editing=" + wordFor(inside_.editor().Text()) : ""));
     }
 
+    void headers(const Words&) {
+        const HeaderPressState& state = inside_.header();
+        const auto column = [](Long index) { return index < 0 ? "none" : std::to_string(index + 1); };
+        note("hover=" + column(state.hoverColumn) + " pressed=" + column(state.pressedColumn) +
+             " divider=" + column(state.resizeColumn) + (state.resizing ? " resizing" : "") +
+             (inside_.guide().Visible() ? " guide" : ""));
+    }
+
+    void editor(const Words&) {
+        TextBox& box = inside_.editor();
+        const auto whole = [](Single pixels) { return std::to_string(static_cast<Long>(pixels)); };
+        note(box.Visible() ? "editor " + whole(box.Left()) + " " + whole(box.Top()) + " " +
+                                 whole(box.Width()) + " x " + whole(box.Height()) + " " + wordFor(box.Text())
+                           : "no editor");
+    }
+
     void texts(const Words& words) {
         std::string all;
         for (Long row = 1; row <= list_.RowsCount(); ++row)
@@ -285,6 +301,7 @@ class Player {
     void letGo(const Words& words) { stage_.keyUp(keyCode(words.at(0))); }
     void type(const Words& words) { stage_.type(valueOf(words.at(0)).toText()); }
     void focus(const Words& words) { stage_.focus(words.at(0) == "list"); }
+    void switchProgram(const Words& words) { stage_.switchProgram(words.at(0) == "away"); }
     void advance(const Words& words) { stage_.advance(std::chrono::milliseconds(number(words.at(0)))); }
     void size(const Words& words) { stage_.resize(number(words.at(0)), number(words.at(1))); }
 
@@ -324,7 +341,10 @@ const std::map<std::string, Player::Verb> Player::verbs = {{"size", &Player::siz
                                                            {"hold", &Player::hold},
                                                            {"letgo", &Player::letGo},
                                                            {"type", &Player::type},
+                                                           {"headers", &Player::headers},
+                                                           {"editor", &Player::editor},
                                                            {"focus", &Player::focus},
+                                                           {"switch", &Player::switchProgram},
                                                            {"advance", &Player::advance},
                                                            {"picture", &Player::picture},
                                                            {"frame", &Player::frame}};

@@ -24,6 +24,8 @@ struct Played {
 ///     let GridLines = True             a property; arguments stand before the "="
 ///     set Skin = Nothing               a reference: Nothing, picture W H 0xRRGGBB, font "Name" SIZE
 ///     show                             logs index, top row, selected and checked rows
+///     headers                          logs which header has which state, and the guide if it shows
+///     editor                           logs place and text of the editor
 ///     texts 1                          logs the texts of a column
 ///     move 20 30                       also "cell ROW COLUMN", "check ROW COLUMN", "header COLUMN",
 ///     press cell 2 1 right shift       "divider COLUMN", "away"; with a button and shift keys
@@ -32,6 +34,7 @@ struct Played {
 ///     key down control, down a, up a   keys by name, letter or number; "hold" and "let go" for one half
 ///     type "text"
 ///     focus list, focus away
+///     switch away, switch back         to another program and back
 ///     advance 350                      milliseconds
 ///     on ItemDown call RowsClear       what the host does in each such event; "on ItemDown" ends it
 ///     yield call RowsClear             what it does in the next yield

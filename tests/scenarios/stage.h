@@ -40,6 +40,8 @@ class Stage {
     virtual void keyUp(Integer keyCode) = 0;
     virtual void type(StringView text) = 0;
     virtual void focus(bool onTheList) = 0;
+    /// The user goes to another program, or comes back from there.
+    virtual void switchProgram(bool away) = 0;
     virtual void advance(std::chrono::milliseconds span) = 0;
     virtual Bitmap picture() = 0;
 };

@@ -97,6 +97,19 @@ class WindowsStage final : public Stage {
         (onTheList ? list_.window() : *neighbour_).setFocus();
         runtime_.deliver();
     }
+    /// The desktop itself belongs to another program. Coming back, a program's window gives the focus to what
+    /// had it.
+    void switchProgram(bool away) override {
+        if (away) {
+            focusBefore_ = GetFocus();
+            SetForegroundWindow(GetDesktopWindow());
+        } else {
+            SetForegroundWindow(programWindow());
+            if (IsWindowVisible(focusBefore_))
+                SetFocus(focusBefore_);
+        }
+        runtime_.deliver();
+    }
     void advance(std::chrono::milliseconds span) override {
         ticks_.advance(span, [this] { runtime_.deliver(); });
     }
@@ -118,6 +131,7 @@ class WindowsStage final : public Stage {
     TestHost host_;
     RecordingEvents events_;
     lmListView list_{world_, host_, events_};
+    HWND focusBefore_ = nullptr;
     Neighbour neighbourClient_;
     std::unique_ptr<Window> neighbour_;
 };

@@ -35,6 +35,7 @@ class ForwardingWindow : public Window {
     void letMousePointer(Integer shape) override { inner_->letMousePointer(shape); }
     PictureRef MouseIcon() const override { return inner_->MouseIcon(); }
     void setMouseIcon(PictureRef icon) override { inner_->setMouseIcon(std::move(icon)); }
+    void letTakesKeys(bool takesKeys) override { inner_->letTakesKeys(takesKeys); }
     void setFocus() override { inner_->setFocus(); }
     void setCapture() override { inner_->setCapture(); }
     void releaseCapture() override { inner_->releaseCapture(); }

@@ -59,5 +59,24 @@ TEST_F(SystemBoxes, ShowReportsAndLetEventsThroughMeanwhile) {
     EXPECT_EQ(events.log, std::vector<std::string>{"MouseMove Button=0 Shift=0 X=30 Y=40"});
 }
 
+TEST_F(SystemBoxes, OfAReportLeaveAnOpenEditorAsItIsAndGiveItTheFocusBack) {
+    list->ColumnsAdd(u"a", nullptr, nullptr, nullptr, cColumnLeft, 900);
+    list->RowsAdd(Long{-1}, u",", u"x");
+    list->SetEdit(Long{1}, Long{1});
+    HWND editor = toHWND(list->hwndEdit());
+    ASSERT_EQ(GetFocus(), editor);
+    SetWindowTextW(editor, L"typed");
+    bool boxHadFocus = false;
+    watch.whileOpen = [&](HWND box) { boxHadFocus = IsChild(box, GetFocus()) != FALSE; };
+    list->ItemText(Long{99}, Long{1});
+    EXPECT_EQ(std::exchange(watch.boxes, {}).size(), 1U);
+    EXPECT_TRUE(boxHadFocus);
+    EXPECT_TRUE(IsWindowVisible(editor));
+    EXPECT_EQ(GetFocus(), editor);
+    wchar_t text[10]{};
+    GetWindowTextW(editor, text, 10);
+    EXPECT_STREQ(text, L"typed");
+}
+
 } // namespace
 } // namespace lumtex::testing

@@ -30,7 +30,8 @@ TEST_F(Win32List, TellsTheWholeRoadOfAClick) {
     EXPECT_EQ(list->ListIndex(), 1);
     mouse.release();
     EXPECT_EQ(take(),
-              (Lines{"MouseUp Button=1 Shift=0 X=30 Y=55",
+              (Lines{"MouseMove Button=0 Shift=0 X=30 Y=55",
+                     "MouseUp Button=1 Shift=0 X=30 Y=55",
                      "ItemUp Row=2 Column=1",
                      "ItemClick Row=2 Column=1",
                      "Click"}));

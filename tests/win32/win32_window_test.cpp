@@ -371,5 +371,58 @@ TEST_F(Win32Windows, LeaveNoHandlesBehind) {
     EXPECT_EQ(gdiObjectCount(), before);
 }
 
+TEST_F(Win32Windows, APressOnAPartGivesTheFocusToTheWindowItIsAPartOf) {
+    NotedBox client;
+    const std::unique_ptr<TextBox> box = world.createTextBox(*outer, client);
+    box->letVisible(true);
+    inner->letTakesKeys(false);
+    const auto clickInner = [&] {
+        send(*inner, WM_LBUTTONDOWN, MK_LBUTTON, 5, 5);
+        send(*inner, WM_LBUTTONUP, 0, 5, 5);
+    };
+    SetFocus(program->get());
+    clickInner();
+    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd()));
+    box->setFocus();
+    clickInner();
+    EXPECT_EQ(GetFocus(), toHWND(box->hWnd()));
+    EXPECT_EQ(client.losses, 0);
+    take();
+}
+
+TEST_F(Win32Windows, APressTakesTheFocusFromAHostsControlInIt) {
+    HWND foreign = CreateWindowExW(0,
+                                   L"EDIT",
+                                   L"",
+                                   WS_CHILD | WS_VISIBLE,
+                                   100,
+                                   50,
+                                   50,
+                                   20,
+                                   program->get(),
+                                   nullptr,
+                                   GetModuleHandleW(nullptr),
+                                   nullptr);
+    ASSERT_TRUE(outer->adopt(fromHWND(foreign)));
+    SetFocus(foreign);
+    ASSERT_EQ(GetFocus(), foreign);
+    send(*outer, WM_LBUTTONDOWN, MK_LBUTTON, 5, 5);
+    send(*outer, WM_LBUTTONUP, 0, 5, 5);
+    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd()));
+    DestroyWindow(foreign);
+}
+
+TEST_F(Win32Windows, ABoxLosesItsFocusToOtherWindowsOfTheProgramAlone) {
+    NotedBox client;
+    const std::unique_ptr<TextBox> box = world.createTextBox(*outer, client);
+    box->letVisible(true);
+    box->setFocus();
+    SetFocus(nullptr); // as when the user goes to another program
+    EXPECT_EQ(client.losses, 0);
+    box->setFocus();
+    SetFocus(program->get());
+    EXPECT_EQ(client.losses, 1);
+}
+
 } // namespace
 } // namespace lumtex::testing

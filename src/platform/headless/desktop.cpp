@@ -12,6 +12,10 @@ Desktop::Desktop(std::shared_ptr<raster::FontLibrary> fonts) : fonts_(std::move(
         pointer_.forget(pane);
         focus_.forget(pane);
     };
+    pointer_.onMadeUpMove = [this](Pointer::Event event) {
+        event.shift = withHeldKeys(event.shift);
+        post([this, event] { pointer_.deliverMadeUpMove(event); });
+    };
 }
 
 Desktop::~Desktop() = default;

@@ -99,6 +99,10 @@ class Desktop final : public World {
     void key(Integer keyCode, Integer shift = 0);
     /// Each unit as its key goes down and up; one that has no key comes as `keys::packet`.
     void type(StringView text);
+    /// The user goes to another program, and keys go with him.
+    void switchAway() { focus_.switchAway(); }
+    /// Back from there: what had the focus has it again.
+    void switchBack() { focus_.switchBack(); }
 
     // Loop and clock
 

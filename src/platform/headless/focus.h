@@ -8,6 +8,8 @@ namespace lumtex {
 
 /// Both sides of a change are told before the call returns: first the one that lost the focus, then, if it
 /// still has it by then, the one that got it.
+///
+/// While the user is in another program, no pane has it.
 class Focus {
   public:
     explicit Focus(WindowTree& tree) : tree_(tree) {}
@@ -23,12 +25,17 @@ class Focus {
     void leave(const Pane& pane);
     /// `pane` goes away: a focus within it goes too, and nobody is told.
     void forget(const Pane& pane);
+    /// The user goes to another program.
+    void switchAway();
+    /// The user comes back: what had the focus then has it again, if it still takes input.
+    void switchBack();
 
   private:
     void change(WindowHandle handle);
 
     WindowTree& tree_;
     WindowHandle holder_ = 0;
+    WindowHandle before_ = 0; ///< who had it when the user went away
 };
 
 } // namespace lumtex

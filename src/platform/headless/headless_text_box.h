@@ -53,7 +53,10 @@ class HeadlessTextBox final : public TextBox, public Pane {
     void character(Integer unit) override;
     void keyUp(Integer /*keyCode*/, Integer /*shift*/) override {}
     void gotFocus() override {}
-    void lostFocus() override { client_.textBoxLostFocus(); }
+    void lostFocus(bool toOther) override {
+        if (toOther)
+            client_.textBoxLostFocus();
+    }
     bool wheel(Long /*rotation*/, Integer /*shift*/, Point /*at*/) override { return false; }
     void paint() override {}
 

@@ -37,6 +37,7 @@ class HeadlessWindow final : public Window, public Pane {
     PictureRef MouseIcon() const override { return mouseIcon_; }
     void setMouseIcon(PictureRef icon) override { mouseIcon_ = std::move(icon); }
     void setFocus() override;
+    void letTakesKeys(bool takesKeys) override { takesKeys_ = takesKeys; }
     void setCapture() override;
     void releaseCapture() override;
     bool pointerStrictlyInside() const override;
@@ -63,7 +64,7 @@ class HeadlessWindow final : public Window, public Pane {
     void character(Integer unit) override { client_.UserControl_KeyPress(unit); }
     void keyUp(Integer keyCode, Integer shift) override { client_.UserControl_KeyUp(keyCode, shift); }
     void gotFocus() override { client_.UserControl_GotFocus(); }
-    void lostFocus() override { client_.UserControl_LostFocus(); }
+    void lostFocus(bool /*toOther*/) override { client_.UserControl_LostFocus(); }
     bool wheel(Long rotation, Integer shift, Point at) override;
     void paint() override;
 

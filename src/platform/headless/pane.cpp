@@ -71,6 +71,13 @@ bool Pane::isWithin(const Pane& outer) const {
     return pane != nullptr;
 }
 
+const Pane& Pane::keyWindow() const {
+    const Pane* pane = this;
+    while (!pane->takesKeys_ && pane->parent_ != nullptr)
+        pane = pane->parent_;
+    return *pane;
+}
+
 bool Pane::takesInput() const {
     return visible_ && enabled_ && (parent_ == nullptr || parent_->takesInput());
 }

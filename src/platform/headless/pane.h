@@ -40,6 +40,8 @@ class Pane {
     bool isWithin(const Pane& outer) const;
     /// Visible and enabled, and so is all that it lies in.
     bool takesInput() const;
+    /// The pane that has the keyboard after a press on this one: itself, or the one that it is a part of.
+    const Pane& keyWindow() const;
     bool isVisible() const { return visible_; }
     bool isEnabled() const { return enabled_; }
 
@@ -57,7 +59,8 @@ class Pane {
     virtual void character(Integer unit) = 0;
     virtual void keyUp(Integer keyCode, Integer shift) = 0;
     virtual void gotFocus() = 0;
-    virtual void lostFocus() = 0;
+    /// `toOther`: another pane gets it. Otherwise nobody does, as when the user goes to another program.
+    virtual void lostFocus(bool toOther) = 0;
     /// False: not for this pane, but for the one around it.
     virtual bool wheel(Long rotation, Integer shift, Point at) = 0;
     /// The paint that was asked for has come.
@@ -69,6 +72,7 @@ class Pane {
 
     bool visible_ = false;
     bool enabled_ = true;
+    bool takesKeys_ = true; ///< off: the parent has the keys for both
 
   private:
     friend class WindowTree;

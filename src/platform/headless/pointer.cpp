@@ -6,6 +6,19 @@
 
 namespace lumtex {
 
+class Pointer::Delivery {
+  public:
+    Delivery(Pointer& pointer, const Event& event)
+        : shift_(pointer.shift_), outer_(std::exchange(pointer.shift_, event.shift)) {}
+    Delivery(const Delivery&) = delete;
+    Delivery& operator=(const Delivery&) = delete;
+    ~Delivery() { shift_ = outer_; }
+
+  private:
+    Integer& shift_;
+    Integer outer_;
+};
+
 Pointer::Event Pointer::moveTo(Point place, Integer shift) {
     place_ = place;
     return {place_, noButton, buttons_, shift};
@@ -37,8 +50,21 @@ Pane* Pointer::targetOf(const Event& event) const {
 }
 
 void Pointer::deliverMove(const Event& event) {
+    const Delivery delivery(*this, event);
     if (Pane* target = targetOf(event))
         target->mouseMove(event.buttons, event.shift, target->fromDesktop(event.at));
+}
+
+void Pointer::deliverMadeUpMove(Event event) {
+    moveMadeUp_ = false;
+    event.at = place_;
+    deliverMove(event);
+}
+
+void Pointer::endCapture() {
+    if (std::exchange(captured_, 0) == 0 || !onMadeUpMove || std::exchange(moveMadeUp_, true))
+        return;
+    onMadeUpMove({place_, noButton, buttons_, shift_});
 }
 
 Pane* Pointer::pressTarget(const Event& event) {
@@ -47,18 +73,20 @@ Pane* Pointer::pressTarget(const Event& event) {
         return nullptr;
     const WindowHandle handle = target->handle();
     captured_ = handle;
-    // A window does not take the focus away from a box in it: an open editor stays open until the window has
-    // decided what to do with it. Bars have no use for keys.
+    // A window does not take the focus away from its own text box: an open editor stays open until the window
+    // has decided what to do with it. A host's control in it is not its own.
+    const Pane& keyWindow = target->keyWindow();
     const Pane* held = focus_.holder();
-    const bool isBoxOfTarget =
-        held != nullptr && held->isWithin(*target) && dynamic_cast<const HeadlessWindow*>(held) == nullptr;
-    if (!isBoxOfTarget)
-        focus_.moveTo(*target);
+    const bool isOwnBox = held != nullptr && held->parent() == &keyWindow &&
+                          dynamic_cast<const HeadlessWindow*>(held) == nullptr;
+    if (!isOwnBox)
+        focus_.moveTo(keyWindow);
     target = tree_.find(handle);
     return target != nullptr && target->takesInput() ? target : nullptr;
 }
 
 void Pointer::deliverPress(const Event& event) {
+    const Delivery delivery(*this, event);
     Pane* target = pressTarget(event);
     if (target == nullptr)
         return;
@@ -68,17 +96,19 @@ void Pointer::deliverPress(const Event& event) {
 }
 
 void Pointer::deliverDoublePress(const Event& event) {
+    const Delivery delivery(*this, event);
     pressed_ = 0;
     if (Pane* target = pressTarget(event))
         target->doubleClick(target->fromDesktop(event.at));
 }
 
 void Pointer::deliverRelease(const Event& event) {
+    const Delivery delivery(*this, event);
     Pane* target = targetOf(event);
     const bool endsPress = event.button == pressedButton_;
     const WindowHandle pressed = endsPress ? std::exchange(pressed_, 0) : 0;
     if (event.buttons == noButton)
-        captured_ = 0;
+        endCapture();
     if (target == nullptr)
         return;
     const WindowHandle handle = target->handle();
@@ -89,6 +119,7 @@ void Pointer::deliverRelease(const Event& event) {
 }
 
 void Pointer::deliverWheel(const Event& event, Long rotation) {
+    const Delivery delivery(*this, event);
     for (Pane* target = tree_.at(event.at); target != nullptr;) {
         const WindowHandle outer = target->parent() != nullptr ? target->parent()->handle() : 0;
         if (target->wheel(rotation, event.shift, target->fromDesktop(event.at)))
@@ -104,13 +135,13 @@ void Pointer::capture(const Pane& pane) {
 
 void Pointer::releaseCapture(const Pane& pane) {
     if (captured_ == pane.handle())
-        captured_ = 0;
+        endCapture();
 }
 
 void Pointer::forget(const Pane& pane) {
     const Pane* captured = tree_.find(captured_);
     if (captured != nullptr && captured->isWithin(pane))
-        captured_ = 0;
+        endCapture();
     const Pane* pressed = tree_.find(pressed_);
     if (pressed != nullptr && pressed->isWithin(pane))
         pressed_ = 0;

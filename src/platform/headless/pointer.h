@@ -5,12 +5,15 @@
 #include "platform/headless/focus.h"
 #include "platform/headless/window_tree.h"
 
+#include <functional>
+
 namespace lumtex {
 
 /// Who gets an event is decided when it is delivered, from the place where the pointer was when it happened.
 ///
 /// There is one capture. A press takes it for the window that was pressed, and the release of the last button
-/// gives it up, whoever took it; so a window that wants to keep it asks for it again.
+/// gives it up, whoever took it; so a window that wants to keep it asks for it again. However a capture ends,
+/// a move is made up, so that the window that lies under the pointer by then does not miss it.
 class Pointer {
   public:
     /// Something that the mouse did, as it was at that time.
@@ -38,6 +41,8 @@ class Pointer {
     Event turnWheel(Integer shift) const;
 
     void deliverMove(const Event& event);
+    /// The move that was made up when a capture ended; goes to where the pointer is now.
+    void deliverMadeUpMove(Event event);
     void deliverPress(const Event& event);
     /// In place of the second press of a double click. No click follows its release.
     void deliverDoublePress(const Event& event);
@@ -52,9 +57,16 @@ class Pointer {
     /// `pane` takes no input any more: a capture or press within it ends.
     void forget(const Pane& pane);
 
+    /// Takes the move that is made up when a capture ends, for `deliverMadeUpMove` when messages run next.
+    std::function<void(const Event&)> onMadeUpMove;
+
   private:
+    /// While one lives, the keys of an event that is being delivered are held.
+    class Delivery;
+
     Pane* targetOf(const Event& event) const;
-    /// The target, captured and with the focus; none where it took no input after all that.
+    void endCapture();
+    /// The target, captured, with the focus where keys belong; none where it took no input after all that.
     Pane* pressTarget(const Event& event);
 
     WindowTree& tree_;
@@ -62,6 +74,8 @@ class Pointer {
     Point place_{-1, -1};
     Integer buttons_ = noButton;
     Integer pressedSince_ = noButton; ///< the last questions, one bit a button
+    Integer shift_ = 0;               ///< of the event that is being delivered
+    bool moveMadeUp_ = false;         ///< one waits
     WindowHandle captured_ = 0;
     WindowHandle pressed_ = 0; ///< the pane whose press waits for its release
     Integer pressedButton_ = noButton;

@@ -5,6 +5,12 @@
 
 namespace lumtex {
 
+namespace {
+
+constexpr UINT postedWork = WM_APP;
+
+} // namespace
+
 TimerWindow::TimerWindow(HINSTANCE instance, TickSource& ticks)
     : ticks_(ticks), class_(instance, L"LumtexTimers", procedure, 0) {
     window_ = CreateWindowExW(0, class_.name(), L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, instance, nullptr);
@@ -38,7 +44,18 @@ void TimerWindow::tick(UINT_PTR run) {
         found->second->tick();
 }
 
+bool TimerWindow::post(void (*work)(void*), void* argument) const {
+    static_assert(sizeof(work) == sizeof(WPARAM) && sizeof(argument) == sizeof(LPARAM));
+    return PostMessageW(
+               window_, postedWork, reinterpret_cast<WPARAM>(work), reinterpret_cast<LPARAM>(argument)) !=
+           FALSE;
+}
+
 LRESULT CALLBACK TimerWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    if (message == postedWork) {
+        reinterpret_cast<void (*)(void*)>(wParam)(reinterpret_cast<void*>(lParam));
+        return 0;
+    }
     auto* timers = reinterpret_cast<TimerWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (message != WM_TIMER || timers == nullptr)
         return DefWindowProcW(window, message, wParam, lParam);

@@ -22,6 +22,10 @@ class TimerWindow {
     /// Begins to tick; the number names this run of the timer. 0 where there is no timer left.
     UINT_PTR start(Win32Timer& timer, Long milliseconds);
     void stop(UINT_PTR run);
+    /// Has the thread of the window call `work` with `argument` when its messages run next. May be called
+    /// from any thread, and `work` may end the window. False where the thread has gone, or takes no more
+    /// messages.
+    bool post(void (*work)(void*), void* argument) const;
 
   private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;

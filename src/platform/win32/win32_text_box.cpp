@@ -10,6 +10,17 @@
 
 namespace lumtex {
 
+namespace {
+
+/// None, or a window of another program, is not.
+bool isOfProgram(HWND window) {
+    DWORD process = 0;
+    return window != nullptr && GetWindowThreadProcessId(window, &process) != 0 &&
+           process == GetCurrentProcessId();
+}
+
+} // namespace
+
 Win32TextBox::Win32TextBox(Win32World& world, Win32Window& parent, TextBoxClient& client)
     : world_(world), parent_(&parent), client_(client) {
     hwnd_ = CreateWindowExW(0,
@@ -169,7 +180,8 @@ std::optional<LRESULT> Win32TextBox::answer(const WindowMessage& message) {
         // The box first, so that its caret is gone when the owner hears of it.
         const LRESULT result =
             CallWindowProcW(boxProcedure_, message.window, message.number, message.wParam, message.lParam);
-        if (!world_.isQuiet())
+        if (!world_.isQuiet() && isOfProgram(reinterpret_cast<HWND>(message.wParam)) &&
+            !Win32Runtime::isBoxOpen())
             client_.textBoxLostFocus();
         return result;
     }

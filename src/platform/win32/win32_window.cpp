@@ -74,6 +74,8 @@ Win32Window::~Win32Window() {
         return;
     const Win32World::Quiet quiet(world_);
     HWND window = hwnd_;
+    if (GetCapture() == window)
+        Win32World::giveUpCapture();
     dropPlace_.reset();
     detach();
     setFreeChildren(window);
@@ -160,7 +162,7 @@ void Win32Window::loseInput() {
         world_.press = {};
     HWND captured = GetCapture();
     if (captured != nullptr && (captured == window || IsChild(window, captured)))
-        world_.giveUpCapture();
+        Win32World::giveUpCapture();
     passOnFocus(window);
 }
 
@@ -179,6 +181,17 @@ bool Win32Window::takesInput() const {
         return false;
     const Win32Window* outer = of(GetAncestor(hwnd_, GA_PARENT));
     return outer == nullptr || outer->takesInput();
+}
+
+Win32Window& Win32Window::keyWindow() {
+    Win32Window* outer = !takesKeys_ && hwnd_ != nullptr ? of(GetAncestor(hwnd_, GA_PARENT)) : nullptr;
+    return outer != nullptr ? outer->keyWindow() : *this;
+}
+
+bool Win32Window::hasBox(HWND window) const {
+    return window != nullptr && std::ranges::any_of(boxes_, [&](const Win32TextBox* box) {
+               return toHWND(box->hWnd()) == window;
+           });
 }
 
 void Win32Window::letOLEDropMode(Integer mode) {
@@ -221,7 +234,7 @@ void Win32Window::setCapture() {
 
 void Win32Window::releaseCapture() {
     if (hwnd_ != nullptr && GetCapture() == hwnd_)
-        world_.giveUpCapture();
+        Win32World::giveUpCapture();
 }
 
 bool Win32Window::underPointer() const {

@@ -47,6 +47,7 @@ class Win32Window final : public Window {
     PictureRef MouseIcon() const override { return pointerShape_.icon(); }
     void setMouseIcon(PictureRef icon) override;
     void setFocus() override;
+    void letTakesKeys(bool takesKeys) override { takesKeys_ = takesKeys; }
     void setCapture() override;
     void releaseCapture() override;
     bool pointerStrictlyInside() const override;
@@ -62,6 +63,10 @@ class Win32Window final : public Window {
     Win32World& world() const { return world_; }
     /// Visible and enabled, and so is every window of ours that it lies in.
     bool takesInput() const;
+    /// The window that has the keyboard after a press on this one: itself, or the one that it is a part of.
+    Win32Window& keyWindow();
+    /// Is `window` a text box of this one?
+    bool hasBox(HWND window) const;
 
     void add(Win32GuideLine& guide) { guides_.push_back(&guide); }
     void remove(Win32GuideLine& guide);
@@ -111,7 +116,8 @@ class Win32Window final : public Window {
     HWND hwnd_ = nullptr;
     std::unique_ptr<GdiSurface> surface_;
     Point corner_;
-    bool placing_ = false; ///< the window is being placed by ourselves
+    bool placing_ = false;  ///< the window is being placed by ourselves
+    bool takesKeys_ = true; ///< off: the parent has the keys for both
     bool visible_;
     bool enabled_ = true;
     Integer oleDropMode_ = 0;

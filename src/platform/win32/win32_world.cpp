@@ -78,21 +78,8 @@ Win32World* Win32World::of(HWND window) {
 }
 
 void Win32World::giveUpCapture() {
-    POINT at{};
-    if (GetCapture() == nullptr)
-        return;
-    if (GetCursorPos(&at))
-        captureEnded_ = at;
-    ReleaseCapture();
-}
-
-bool Win32World::isEchoOfCapture(const WindowMessage& message) {
-    const std::optional<POINT> ended = std::exchange(captureEnded_, std::nullopt);
-    if (!ended || message.number != WM_MOUSEMOVE)
-        return false;
-    POINT at{static_cast<Integer>(LOWORD(message.lParam)), static_cast<Integer>(HIWORD(message.lParam))};
-    ClientToScreen(message.window, &at);
-    return at.x == ended->x && at.y == ended->y;
+    if (GetCapture() != nullptr)
+        ReleaseCapture();
 }
 
 std::unique_ptr<WheelHook> Win32World::createWheelHook(Window& parent, const WheelHook::OnWheel& onWheel) {

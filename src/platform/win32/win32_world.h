@@ -23,8 +23,8 @@ struct WindowMessage {
 /// Belongs to the thread that makes it, as do all things made by it.
 ///
 /// Press, focus, capture and click follow one another as on the simulated desktop: a press takes the capture,
-/// then the focus unless a box in it has it; the release of the last button gives up the capture before it is
-/// told.
+/// then the focus for the list that was pressed on, or whose bar or button it was, unless the list's own box
+/// has it; the release of the last button gives up the capture before it is told.
 class Win32World final : public World {
   public:
     /// Pixels that one surface may have at most.
@@ -71,6 +71,10 @@ class Win32World final : public World {
     /// runs.
     IUnknown* owner = nullptr;
 
+    /// Has the thread of the world call `work` with `argument` when its messages run next. May be called from
+    /// any thread, and `work` may end the world. False where that thread has gone. `work` must not throw.
+    bool post(void (*work)(void*), void* argument) const { return timers_.post(work, argument); }
+
     // For what the world makes
 
     HINSTANCE instance() const { return instance_; }
@@ -85,11 +89,9 @@ class Win32World final : public World {
     };
     Press press;
 
-    /// Gives up the capture, whoever of the thread has it.
-    void giveUpCapture();
-    /// Is this the move that the system makes up when a capture ends, so that nobody misses one? Asked for
-    /// each mouse message, in order.
-    bool isEchoOfCapture(const WindowMessage& message);
+    /// Gives up the capture, whoever of the thread has it. The system makes up a move then, for the window
+    /// that is under the mouse when messages run next.
+    static void giveUpCapture();
 
     /// While one lives, nothing that happens to windows is told: their owners are going.
     class Quiet {
@@ -109,7 +111,6 @@ class Win32World final : public World {
     HWND container_;
     Runtime* runtime_;
     int quietDepth_ = 0;
-    std::optional<POINT> captureEnded_; ///< where the mouse was, on the screen, until the next mouse message
     WindowClass surfaceClass_;
     TimerWindow timers_;
     Win32Runtime ownRuntime_;

@@ -20,8 +20,6 @@ Integer shiftOf(const WindowMessage& message) {
 } // namespace
 
 Win32Window::Answer Win32Window::answerMouse(const WindowMessage& message) {
-    if (world_.isEchoOfCapture(message))
-        return 0;
     switch (message.number) {
     case WM_MOUSEMOVE: {
         const POINT at = placeOf(message);
@@ -59,12 +57,11 @@ Win32Window::Answer Win32Window::pressed(MouseButton button, bool isSecond, cons
     if (isSecond)
         world.press = {};
     ::SetCapture(window);
-    // A window does not take the focus away from a box in it: an open editor stays open until the control has
-    // decided what to do with it. Bars have no use for keys.
-    HWND focus = GetFocus();
-    const bool isBoxOfOurs = IsChild(window, focus) && of(focus) == nullptr;
-    if (!isBoxOfOurs)
-        setFocus();
+    // A window does not take the focus away from its own text box: an open editor stays open until the
+    // control has decided what to do with it. A host's control in it is not its own.
+    Win32Window& keys = keyWindow();
+    if (!keys.hasBox(GetFocus()))
+        keys.setFocus();
     if (of(window) != this || !takesInput())
         return 0;
     if (isSecond) {
@@ -84,7 +81,7 @@ Win32Window::Answer Win32Window::released(MouseButton button, const WindowMessag
     HWND pressedOn = endsPress ? std::exchange(world_.press.window, nullptr) : nullptr;
     // Before the control hears of it, so that one that wants to keep the capture asks for it again.
     if (buttonsIn(message.wParam) == noButton)
-        world_.giveUpCapture();
+        Win32World::giveUpCapture();
     if (of(window) != this)
         return 0;
     const POINT at = placeOf(message);
