@@ -28,6 +28,9 @@ class ControlCore final : public AutomationTarget {
         return onOwnThread() ? guarded(std::forward<Body>(body)) : RPC_E_WRONG_THREAD;
     }
 
+    /// See Win32World::post.
+    bool postToOwnThread(void (*work)(void*), void* argument) const { return world_.post(work, argument); }
+
     /// The list, initialised.
     lmListView& list();
     /// Null once the container has destroyed it.

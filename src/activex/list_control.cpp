@@ -34,11 +34,19 @@ ULONG ListControl::Inner::Release() {
     if (left == 0) {
         // What is let go at the end may ask for the control once more.
         references_ = 1;
-        ListControl* const control = &control_;
-        control->core_.deactivate();
-        delete control;
+        if (control_.core_.onOwnThread())
+            end(&control_);
+        else
+            // Where that thread has gone, with its windows and its counts, nobody may take the rest apart.
+            control_.core_.postToOwnThread(&ListControl::end, &control_);
     }
     return left;
+}
+
+void ListControl::end(void* control) {
+    auto* const self = static_cast<ListControl*>(control);
+    self->core_.deactivate();
+    delete self;
 }
 
 /// Each face derives from one interface alone, so that all of its pointers are one.

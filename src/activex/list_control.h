@@ -46,6 +46,8 @@ class ListControl {
     };
 
     ~ListControl() = default;
+    /// On its own thread, to which windows, timers and the counts of styles belong.
+    static void end(void* control);
     /// Null for an interface that the control does not have.
     IUnknown* face(REFIID iid);
 

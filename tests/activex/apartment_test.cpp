@@ -132,5 +132,84 @@ TEST_F(Apartment, DirectCallsFromAnotherThreadAreRefusedOnEachInterface) {
     EXPECT_EQ(container.references, 1U);
 }
 
+/// Notes on which thread it ends.
+class Witness final : public IDispatch {
+  public:
+    explicit Witness(DWORD& thread) : thread_(thread) {}
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
+        const bool known = IsEqualIID(iid, IID_IUnknown) || IsEqualIID(iid, IID_IDispatch);
+        *found = known ? this : nullptr;
+        if (known)
+            AddRef();
+        return known ? S_OK : E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        if (--references_ == 0)
+            thread_ = GetCurrentThreadId();
+        return references_;
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
+        *count = 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
+        return DISP_E_UNKNOWNNAME;
+    }
+    HRESULT STDMETHODCALLTYPE
+    Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
+        return DISP_E_MEMBERNOTFOUND;
+    }
+
+  private:
+    DWORD& thread_;
+    ULONG references_ = 1;
+};
+
+TEST_F(Apartment, TheEndComesOnTheControlsOwnThreadWhoeverLetsGoLast) {
+    for (int round = 0; round < 20; ++round) {
+        DWORD endedOn = 0;
+        Witness witness(endedOn);
+        ComRef<IUnknown> made = component.make("lmListView");
+        IUnknown* const list = made.get();
+        list->AddRef();
+        made = {};
+        {
+            const ComRef<IDispatch> other = ComRef<IUnknown>(list).as<IDispatch>();
+            ASSERT_TRUE(other);
+            invoke(other.get(), L"ColumnsAdd", DISPATCH_METHOD, {u"a"});
+            invoke(other.get(), L"RowsAdd", DISPATCH_METHOD, {Long{-1}, u",", u"x"});
+            invoke(other.get(), L"ItemForeColor", DISPATCH_PROPERTYPUT, {Long{1}, Long{1}, Long{round + 77}});
+            VARIANT arguments[3]{};
+            arguments[0].vt = VT_DISPATCH;
+            arguments[0].pdispVal = &witness;
+            arguments[1].vt = VT_I4;
+            arguments[1].lVal = 1;
+            arguments[2] = arguments[1];
+            DISPID put = DISPID_PROPERTYPUT;
+            DISPPARAMS parameters{arguments, &put, 3, 1};
+            ASSERT_EQ(other->Invoke(idOf(other.get(), L"ItemObject"),
+                                    IID_NULL,
+                                    LOCALE_USER_DEFAULT,
+                                    DISPATCH_PROPERTYPUTREF,
+                                    &parameters,
+                                    nullptr,
+                                    nullptr,
+                                    nullptr),
+                      S_OK);
+        }
+        witness.Release();
+        ASSERT_EQ(endedOn, 0U);
+        ULONG left = 1;
+        elsewhere(COINIT_MULTITHREADED, [&] { left = list->Release(); });
+        EXPECT_EQ(left, 0U);
+        MSG message{};
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+            DispatchMessageW(&message);
+        EXPECT_EQ(endedOn, GetCurrentThreadId());
+    }
+}
+
 } // namespace
 } // namespace lumtex::testing
