@@ -36,7 +36,7 @@ AutomationFace::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID /*lo
 
 HRESULT AutomationFace::Invoke(DISPID number,
                                REFIID iid,
-                               LCID /*locale*/,
+                               LCID locale,
                                WORD kind,
                                DISPPARAMS* parameters,
                                VARIANT* result,
@@ -46,7 +46,7 @@ HRESULT AutomationFace::Invoke(DISPID number,
         return DISP_E_UNKNOWNINTERFACE;
     // The object may be let go in the call.
     const ComRef<IUnknown> alive(&outer());
-    return invokeMember(target_, {number, kind, parameters, result, details, wrongArgument});
+    return invokeMember(target_, {number, kind, locale, parameters, result, details, wrongArgument});
 }
 
 const Member& AutomationFace::memberOf(Long number) const {

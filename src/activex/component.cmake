@@ -13,6 +13,10 @@ add_custom_command(
     OUTPUT "${type_library}"
     COMMAND ${LUMTEX_WIDL} -m${pointer_bits} -I "${activex_folder}" -L "${stdole2_folder}" -t -o "${type_library}"
             "${activex_folder}/lumtex_list_view.idl"
+    # The compiler refuses a text as the default of a by-reference parameter. Where it wrote the mark instead, stand
+    # eight bytes: the kind, the length or mark, and fill.
+    COMMAND "${CMAKE_COMMAND}" -E env LC_ALL=C sed -i
+            "s/\\x08\\x00AABGWW/\\x08\\x00\\x01\\x00\\x00\\x00*W/g" "${type_library}"
     DEPENDS "${activex_folder}/lumtex_list_view.idl" "${activex_folder}/base_types.idl"
     COMMENT "Type library"
     VERBATIM)

@@ -6,7 +6,9 @@
 #include "platform/text.h"
 #include "platform/variant_conversion.h"
 #include "platform/win32/variant_bridge.h"
+#include "platform/win32/win32_locale.h"
 #include "platform/win32/write_back.h"
+#include "services/ignoring_errors.h"
 
 #include <vector>
 
@@ -87,10 +89,11 @@ class Arguments {
 
     bool wasGiven(std::size_t parameter) const { return places_[parameter] != none; }
 
-    void writeBackTo(const Member& member) {
+    /// Where the caller's variable cannot hold a value, it keeps what it has.
+    void writeBackTo(const Member& member, LCID locale) {
         for (std::size_t i = 0; i < values_.size() && i < member.count; ++i)
             if (member.slots[i].byReference && places_[i] != none)
-                writeBack(values_[i], parameters_.rgvarg[places_[i]]);
+                ignoringErrors([&] { writeBack(values_[i], parameters_.rgvarg[places_[i]], locale); });
     }
 
   private:
@@ -155,7 +158,8 @@ bool fits(const Variant& value, TypeCode type) {
     }
 }
 
-UINT placeOfMisfit(const Member& member, Arguments& arguments) {
+UINT placeOfMisfit(const Member& member, Arguments& arguments, const Locale& callers) {
+    const UsingLocale asTheCallerWrites(callers);
     const auto values = arguments.values();
     for (std::size_t i = 0; i < values.size() && i < member.count; ++i)
         if (values[i].isMissing() ? !member.slots[i].optional() && arguments.wasGiven(i)
@@ -201,7 +205,9 @@ HRESULT perform(AutomationTarget& target, const Member& member, const DispatchCa
                     parameters.rgdispidNamedArgs[0] != DISPID_PROPERTYPUT))
         return DISP_E_PARAMNOTOPTIONAL;
     Arguments arguments(member, parameters, assigns ? 1 : 0);
+    const Win32Locale callers(call.locale);
     CallByName byName = target.byName();
+    byName.letCallersLocale(&callers);
     try {
         if (assigns) {
             assign(byName, member, call, arguments);
@@ -209,13 +215,13 @@ HRESULT perform(AutomationTarget& target, const Member& member, const DispatchCa
         }
         const Variant value = member.isMethod() ? byName.call(member, arguments.values())
                                                 : byName.get(member, arguments.values());
-        arguments.writeBackTo(member);
+        arguments.writeBackTo(member, call.locale);
         if (member.type.code != TypeCode::none && call.result != nullptr)
             *call.result = toVARIANT(value).release();
         return S_OK;
     } catch (const RuntimeError& error) {
         if (call.wrongArgument != nullptr)
-            *call.wrongArgument = placeOfMisfit(member, arguments);
+            *call.wrongArgument = placeOfMisfit(member, arguments, callers);
         return refusal(error, call);
     }
 }

@@ -13,7 +13,8 @@ HRESULT idsOfNames(const ClassDescription& description, std::span<LPOLESTR> name
 /// What a caller of IDispatch::Invoke handed over. `result`, `details` and `wrongArgument` may be null.
 struct DispatchCall {
     DISPID number;
-    WORD kind; ///< a property is also read by a call, and a method also called by a read, as scripts do it
+    WORD kind;   ///< a property is also read by a call, and a method also called by a read, as scripts do it
+    LCID locale; ///< of the caller, by which typed arguments are converted
     DISPPARAMS* parameters;
     VARIANT* result;
     EXCEPINFO* details;

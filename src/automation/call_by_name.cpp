@@ -128,7 +128,7 @@ Variant CallByName::invoke(const Member& member,
     if (value != nullptr)
         all.push_back(*value);
 
-    Variant result = entry(object_, all);
+    Variant result = entry(object_, all, callers_);
     for (std::size_t i = 0; i < std::min(arguments.size(), fixed); ++i)
         if (member.slots[i].byReference && !arguments[i].isMissing())
             arguments[i] = std::move(all[i]);

@@ -36,6 +36,10 @@ class CallByName {
     void set(StringView name, std::span<Variant> arguments, const Variant& value);
     Variant call(StringView name, std::span<Variant> arguments = {});
 
+    /// How the caller writes numbers and dates; arguments are converted by it. Null: as the control does.
+    /// Must outlive the calls.
+    void letCallersLocale(const Locale* locale) { callers_ = locale; }
+
     // The same with a member of the class that was looked up before.
 
     Variant get(const Member& member, std::span<Variant> arguments);
@@ -52,6 +56,7 @@ class CallByName {
 
     const ClassDescription& class_;
     void* object_;
+    const Locale* callers_ = nullptr;
 };
 
 } // namespace lumtex

@@ -70,19 +70,25 @@ struct Callable {
     static constexpr std::array<TypeInfo, count> types{typeOf<Parameters>()...};
     static constexpr std::array<bool, count> byReference{travelsBack<Parameters>...};
 
-    static Variant invoke(void* object, std::span<Variant> arguments) {
+    static Variant invoke(void* object, std::span<Variant> arguments, const Locale* callers) {
         return invokeWith(
-            *static_cast<Reached<Class>*>(object), arguments, std::make_index_sequence<count>{});
+            *static_cast<Reached<Class>*>(object), arguments, callers, std::make_index_sequence<count>{});
     }
 
   private:
     template <std::size_t... positions>
     static Variant invokeWith(Reached<Class>& object,
                               [[maybe_unused]] std::span<Variant> arguments,
+                              [[maybe_unused]] const Locale* callers,
                               std::index_sequence<positions...>) {
         // Converted from the first to the last, before the call.
         std::tuple<std::optional<Argument<Parameters>>...> slots;
-        (std::get<positions>(slots).emplace(arguments, positions), ...);
+        {
+            std::optional<UsingLocale> asTheCallerWrites;
+            if (callers != nullptr)
+                asTheCallerWrites.emplace(*callers);
+            (std::get<positions>(slots).emplace(arguments, positions), ...);
+        }
         Variant result;
         if constexpr (std::is_void_v<Result>)
             (object.*function)(std::get<positions>(slots)->pass()...);

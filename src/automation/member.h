@@ -4,6 +4,7 @@
 
 #include "automation/help.h"
 #include "automation/type_info.h"
+#include "platform/locale.h"
 
 #include <array>
 #include <span>
@@ -43,8 +44,9 @@ struct Member {
 
     /// Reads, assigns or calls by Variants. `object` is of the class that the member belongs to. All
     /// parameters have a value; of an assignment, the new value comes last. By-reference parameters are
-    /// written back. Throws where an argument cannot be converted.
-    using Invoke = Variant (*)(void* object, std::span<Variant> arguments);
+    /// written back. Throws where an argument cannot be converted, for which `callers` stands in for the
+    /// current locale, unless it is null.
+    using Invoke = Variant (*)(void* object, std::span<Variant> arguments, const Locale* callers);
 
     Long number; ///< the dispatch number; it never changes once a version has been given out
     StringView name;

@@ -10,6 +10,8 @@
 #include "platform/text.h"
 #include "platform/windows_1252.h"
 
+#include <bit>
+
 namespace lumtex {
 
 namespace {
@@ -34,8 +36,8 @@ std::string uuid(const std::string& name) {
     return "uuid(" + std::string(uuidOf(name)) + ")";
 }
 
-/// Type libraries hold no default of a colour, of a text by reference, or of a Variant. A caller who leaves
-/// such an argument out passes 0, the empty text, or the mark of an absent one, which mean the same to the
+/// Type libraries hold no default of a colour or of a Variant. A caller who leaves
+/// such an argument out passes 0 or the mark of an absent one, which mean the same to the
 /// control.
 std::string defaultOf(const Parameter& parameter) {
     using Kind = DefaultValue::Kind;
@@ -43,10 +45,18 @@ std::string defaultOf(const Parameter& parameter) {
     const TypeCode type = parameter.type.code;
     if (type == TypeCode::color || type == TypeCode::variant)
         return "";
+    // The compiler takes an integer alone, and stores its bits.
+    if (type == TypeCode::single)
+        return ", defaultvalue(" + std::to_string(std::bit_cast<Long>(static_cast<Single>(value.number))) +
+               ")";
     if (value.kind == Kind::boolean || value.kind == Kind::number)
         return ", defaultvalue(" + toUtf8(textFromNumber(value.number)) + ")";
     if (value.kind == Kind::text && !parameter.byReference)
         return ", defaultvalue(" + quoted(value.text) + ")";
+    // For a text by reference, too, the compiler takes an integer alone. Its bits are the mark at which the
+    // build puts the text "*" (component.cmake).
+    if (value.kind == Kind::text && value.text == u"*")
+        return ", defaultvalue(" + std::to_string(0x47424141) + ")";
     return "";
 }
 

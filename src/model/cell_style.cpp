@@ -14,7 +14,12 @@ struct HashOfValue {
     std::size_t operator()(std::monostate) const { return 0; }
     std::size_t operator()(Null) const { return 1; }
     std::size_t operator()(Missing) const { return 2; }
+    std::size_t operator()(Unsupported) const { return 3; }
     std::size_t operator()(Date date) const { return std::hash<Double>{}(date.days); }
+    std::size_t operator()(LongLong number) const { return std::hash<std::int64_t>{}(number.value); }
+    std::size_t operator()(UnsignedLongLong number) const { return std::hash<std::uint64_t>{}(number.value); }
+    std::size_t operator()(Currency amount) const { return std::hash<std::int64_t>{}(amount.tenThousandths); }
+    std::size_t operator()(const Decimal& number) const { return number.words[0]; }
     template <class T>
     std::size_t operator()(const T& value) const {
         return std::hash<T>{}(value);

@@ -1,5 +1,6 @@
 /// Reading and writing one field of one cell.
 #include "model/item_access.h"
+#include "platform/runtime_error.h"
 
 namespace lumtex {
 
@@ -12,6 +13,10 @@ template <class T>
 void ListViewRecords::styleLet(
     StringView name, const Variant& Row, const Variant& Column, T CellStyle::*field, const T& value) {
     itemLet(name, Row, Column, [&](const Cell& cell) {
+        if constexpr (std::is_same_v<T, Variant>) {
+            if (value.isUnsupported())
+                throw RuntimeError(typeMismatch);
+        }
         cell.item().restyle([&](CellStyle& style) { style.*field = value; });
     });
 }
@@ -126,6 +131,8 @@ Variant ListViewRecords::ItemTag(const Variant& Row, const Variant& Column) {
 void ListViewRecords::letItemTag(const Variant& Row, const Variant& Column, const Variant& tag) {
     procedure(u"ItemTag").step([&] {
         const Cell cell = cellAt(Row, Column);
+        if (tag.isUnsupported())
+            throw RuntimeError(typeMismatch);
         cell.items.letTag(cell.index, tag);
     });
 }

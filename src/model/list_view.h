@@ -205,7 +205,7 @@ class lmListView final : public UserControl,
     void letScrollButtonJumpLines(Long value) override;
     void letTextPositionDefault(cTextPosition value) override;
     void setSkin(PictureRef picture) override;
-    void letOLEDropMode(Integer value) override;
+    void letOLEDropMode(Long value) override;
 
     /// Shows the about box and returns once it was closed.
     void About();

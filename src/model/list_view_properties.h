@@ -140,10 +140,10 @@ class ListViewProperties {
     void letFixColumns(bool value);
     bool CheckMouseOver() const { return properties_.CheckMouseOver; }
     void letCheckMouseOver(bool value);
-    Integer OLEDragMode() const { return properties_.OLEDragMode; }
-    void letOLEDragMode(Integer value);
-    Integer OLEDropMode() const { return properties_.OLEDropMode; }
-    virtual void letOLEDropMode(Integer value) = 0;
+    Long OLEDragMode() const { return properties_.OLEDragMode; }
+    void letOLEDragMode(Long value);
+    Long OLEDropMode() const { return properties_.OLEDropMode; }
+    virtual void letOLEDropMode(Long value) = 0;
     bool AutoRowColor() const { return properties_.AutoRowColor; }
     void letAutoRowColor(bool value);
     OLE_COLOR RowColorFirst() const { return properties_.RowColorFirst; }

@@ -80,7 +80,7 @@ void ListViewProperties::letDrawColumnIcons(bool value) { store(Property::DrawCo
 void ListViewProperties::setBackgroundPicture(PictureRef picture) { store(Property::BackgroundPicture, properties_.BackgroundPicture, std::move(picture)); }
 void ListViewProperties::letFixColumns(bool value) { store(Property::FixColumns, properties_.FixColumns, value); }
 void ListViewProperties::letCheckMouseOver(bool value) { store(Property::CheckMouseOver, properties_.CheckMouseOver, value); }
-void ListViewProperties::letOLEDragMode(Integer value) { store(Property::OLEDragMode, properties_.OLEDragMode, value); }
+void ListViewProperties::letOLEDragMode(Long value) { store(Property::OLEDragMode, properties_.OLEDragMode, value); }
 void ListViewProperties::letAutoRowColor(bool value) { store(Property::AutoRowColor, properties_.AutoRowColor, value); }
 void ListViewProperties::letRowColorFirst(OLE_COLOR value) { store(Property::RowColorFirst, properties_.RowColorFirst, value); }
 void ListViewProperties::letRowColorSecond(OLE_COLOR value) { store(Property::RowColorSecond, properties_.RowColorSecond, value); }

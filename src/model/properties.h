@@ -78,8 +78,8 @@ struct Properties {
     PictureRef Skin;
     bool FixColumns = false;
     bool CheckMouseOver = false;
-    Integer OLEDragMode = 0;
-    Integer OLEDropMode = 0;
+    Long OLEDragMode = 0;
+    Long OLEDropMode = 0;
     bool AutoRowColor = false;
     OLE_COLOR RowColorFirst = 0;
     OLE_COLOR RowColorSecond = 0;

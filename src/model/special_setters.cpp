@@ -91,7 +91,7 @@ void lmListView::setSkin(PictureRef picture) {
     p.step([&] { host_.PropertyChanged(u"Skin"); });
 }
 
-void lmListView::letOLEDropMode(Integer value) {
+void lmListView::letOLEDropMode(Long value) {
     Procedure p = procedure(u"OLEDropMode");
     p.step([&] { properties_.OLEDropMode = value; });
     p.step([&] { window_->letOLEDropMode(value); });

@@ -1,4 +1,4 @@
-/// Dates and text, by rules that no locale changes.
+/// Dates and text, by rules that no user changes.
 #include "platform/date_text.h"
 
 #include "platform/runtime_error.h"
@@ -79,6 +79,11 @@ constexpr auto dateForms = std::to_array<DateForm>({
     {u'.', 2, 1, 0, true},
     {u'/', 2, 0, 1, true},
 });
+constexpr auto dayFirstForms = std::to_array<DateForm>({
+    {u'-', 0, 1, 2, false},
+    {u'.', 2, 1, 0, true},
+    {u'/', 2, 1, 0, true},
+});
 
 std::optional<int> dayNumber(Field y, Field m, Field d, bool shortYears) {
     int fullYear = y.value;
@@ -95,8 +100,8 @@ std::optional<int> dayNumber(Field y, Field m, Field d, bool shortYears) {
     return (sys_days{date} - startDay).count();
 }
 
-std::optional<int> datePart(StringView text) {
-    for (const DateForm& form : dateForms) {
+std::optional<int> datePart(StringView text, DateOrder order) {
+    for (const DateForm& form : order == DateOrder::dayFirst ? dayFirstForms : dateForms) {
         const auto fields = fieldsOf(text, form.separator);
         if (fields && fields->count == 3) {
             const auto& field = fields->field;
@@ -132,6 +137,53 @@ void appendPadded(String& text, int value, int width) {
         text.push_back(static_cast<char16_t>(u'0' + value / unitValue % 10));
 }
 
+void appendDay(String& text, int wholeDays, DateOrder order) {
+    const year_month_day date{startDay + days{wholeDays}};
+    const auto month = static_cast<int>(static_cast<unsigned>(date.month()));
+    const auto day = static_cast<int>(static_cast<unsigned>(date.day()));
+    if (order == DateOrder::dayFirst) {
+        appendPadded(text, day, 2);
+        text.push_back(u'.');
+        appendPadded(text, month, 2);
+        text.push_back(u'.');
+        appendPadded(text, static_cast<int>(date.year()), 4);
+        return;
+    }
+    appendPadded(text, static_cast<int>(date.year()), 4);
+    text.push_back(u'-');
+    appendPadded(text, month, 2);
+    text.push_back(u'-');
+    appendPadded(text, day, 2);
+}
+
+void appendTime(String& text, int seconds) {
+    appendPadded(text, seconds / secondsPerHour, 2);
+    text.push_back(u':');
+    appendPadded(text, seconds / secondsPerMinute % 60, 2);
+    text.push_back(u':');
+    appendPadded(text, seconds % secondsPerMinute, 2);
+}
+
+/// A moment rounded to whole seconds.
+struct Moment {
+    int wholeDays;
+    int seconds;
+};
+
+Moment momentOf(Date value) {
+    if (!isDateInRange(value.days))
+        throw RuntimeError(overflow);
+    auto wholeDays = static_cast<int>(value.days);
+    auto seconds = static_cast<int>(std::lround(std::fabs(value.days - wholeDays) * secondsPerDay));
+    if (seconds == secondsPerDay && wholeDays == lastDay) {
+        seconds -= 1;
+    } else if (seconds == secondsPerDay) {
+        seconds = 0;
+        wholeDays += 1;
+    }
+    return {wholeDays, seconds};
+}
+
 } // namespace
 
 bool isDateInRange(Double days) {
@@ -145,11 +197,15 @@ int yearOf(Date date) {
 }
 
 std::optional<Date> dateFromText(StringView text) {
+    return dateFromText(text, DateOrder::yearFirst);
+}
+
+std::optional<Date> dateFromText(StringView text, DateOrder order) {
     text = trimmed(text);
     if (const auto seconds = secondsOfTimePart(text))
         return dateOf(0, *seconds);
     const std::size_t gap = text.find_first_of(u" T");
-    const auto wholeDays = datePart(text.substr(0, gap));
+    const auto wholeDays = datePart(text.substr(0, gap), order);
     if (!wholeDays)
         return std::nullopt;
     if (gap == StringView::npos)
@@ -162,33 +218,31 @@ std::optional<Date> dateFromText(StringView text) {
 }
 
 String textFromDate(Date value) {
-    if (!isDateInRange(value.days))
-        throw RuntimeError(overflow);
-    auto wholeDays = static_cast<int>(value.days);
-    auto seconds = static_cast<int>(std::lround(std::fabs(value.days - wholeDays) * secondsPerDay));
-    if (seconds == secondsPerDay && wholeDays == lastDay) {
-        seconds -= 1;
-    } else if (seconds == secondsPerDay) {
-        seconds = 0;
-        wholeDays += 1;
-    }
+    return textFromDate(value, DateOrder::yearFirst);
+}
+
+String textFromDate(Date value, DateOrder order) {
+    const Moment moment = momentOf(value);
     String text;
-    if (wholeDays != 0) {
-        const year_month_day date{startDay + days{wholeDays}};
-        appendPadded(text, static_cast<int>(date.year()), 4);
-        text.push_back(u'-');
-        appendPadded(text, static_cast<int>(static_cast<unsigned>(date.month())), 2);
-        text.push_back(u'-');
-        appendPadded(text, static_cast<int>(static_cast<unsigned>(date.day())), 2);
-        if (seconds == 0)
+    if (moment.wholeDays != 0) {
+        appendDay(text, moment.wholeDays, order);
+        if (moment.seconds == 0)
             return text;
         text.push_back(u' ');
     }
-    appendPadded(text, seconds / secondsPerHour, 2);
-    text.push_back(u':');
-    appendPadded(text, seconds / secondsPerMinute % 60, 2);
-    text.push_back(u':');
-    appendPadded(text, seconds % secondsPerMinute, 2);
+    appendTime(text, moment.seconds);
+    return text;
+}
+
+String dayTextFromDate(Date value, DateOrder order) {
+    String text;
+    appendDay(text, momentOf(value).wholeDays, order);
+    return text;
+}
+
+String timeTextFromDate(Date value) {
+    String text;
+    appendTime(text, momentOf(value).seconds);
     return text;
 }
 

@@ -1,4 +1,4 @@
-/// Text to number, by rules that no locale changes.
+/// Text to number, by rules that no user changes.
 #include "platform/number_text.h"
 
 #include "platform/text.h"
@@ -140,7 +140,7 @@ NumberFromText bitsFromText(StringView digits, unsigned base) {
 
 } // namespace
 
-NumberFromText readNumber(StringView text) {
+NumberFromText readNumber(StringView text, NumberMarks marks) {
     Reader reader(trimmed(text));
     if (reader.takeOneOf(u"&")) {
         if (reader.takeOneOf(u"Hh"))
@@ -157,14 +157,18 @@ NumberFromText readNumber(StringView text) {
     Significand significand;
     bool anyDigit = false;
     bool behindPoint = false;
-    while (reader.atDigit() || (!behindPoint && !reader.atEnd() && reader.rest().front() == u'.')) {
-        if (!reader.atDigit()) {
+    while (!reader.atEnd()) {
+        if (reader.atDigit()) {
+            significand.add(reader.take(), behindPoint);
+            anyDigit = true;
+        } else if (!behindPoint && reader.rest().front() == marks.decimal) {
             reader.take();
             behindPoint = true;
-            continue;
+        } else if (anyDigit && marks.group != noGroupMark && reader.rest().front() == marks.group) {
+            reader.take();
+        } else {
+            break;
         }
-        significand.add(reader.take(), behindPoint);
-        anyDigit = true;
     }
     if (!anyDigit)
         return {NumberFromText::notANumber, 0};

@@ -15,7 +15,20 @@ struct NumberFromText {
     Double value = 0; ///< 0 unless the outcome is `number`
 };
 
+constexpr char16_t noGroupMark = 0;
+
+/// What stands before the decimals, and what may stand behind any digit of the whole number and the decimals,
+/// and means nothing.
+struct NumberMarks {
+    char16_t decimal = u'.';
+    char16_t group = noGroupMark;
+};
+
 /// By the rules of docs/conversions.md. Takes time in proportion to the text and no memory of its own.
-NumberFromText readNumber(StringView text);
+NumberFromText readNumber(StringView text, NumberMarks marks = {});
+
+/// As the functions without a mark, which write a point.
+String textFromNumber(Double value, char16_t decimalMark);
+String textFromNumber(Single value, char16_t decimalMark);
 
 } // namespace lumtex

@@ -105,13 +105,6 @@ class Runtime {
 
     /// Today's date and the time of the day.
     virtual Date now() const = 0;
-    /// Date and time in the user's default short forms.
-    virtual String dateText(Date date) const = 0;
-    virtual String timeText(Date date) const = 0;
-
-    /// Text to number and to date under the user's settings; none where it is neither.
-    virtual std::optional<Double> numberFromText(StringView text) const = 0;
-    virtual std::optional<Date> dateFromText(StringView text) const = 0;
 
     // Files of text in the platform's encoding. These throw RuntimeError 76 where the folder does not exist,
     // 75 where the file cannot be opened for another reason.

@@ -1,4 +1,5 @@
-/// Number to text, by rules that no locale changes.
+/// Number to text, by rules that no user changes.
+#include "platform/number_text.h"
 #include "platform/variant.h"
 
 #include <algorithm>
@@ -41,10 +42,10 @@ class Digits {
     int exponent_ = 0;
 };
 
-void appendExponentForm(String& target, const Digits& digits) {
+void appendExponentForm(String& target, const Digits& digits, char16_t decimalMark) {
     digits.appendTo(target, 0, 1);
     if (digits.count() > 1) {
-        target.push_back(u'.');
+        target.push_back(decimalMark);
         digits.appendTo(target, 1, digits.count());
     }
     target.append(digits.exponent() < 0 ? u"E-" : u"E+");
@@ -55,7 +56,7 @@ void appendExponentForm(String& target, const Digits& digits) {
     target.push_back(static_cast<char16_t>(u'0' + exponent % 10));
 }
 
-void appendPlainForm(String& target, const Digits& digits) {
+void appendPlainForm(String& target, const Digits& digits, char16_t decimalMark) {
     const int whole = digits.exponent() + 1;
     if (whole > 0) {
         digits.appendTo(target, 0, whole);
@@ -63,13 +64,13 @@ void appendPlainForm(String& target, const Digits& digits) {
         target.push_back(u'0');
     }
     if (digits.count() > whole) {
-        target.push_back(u'.');
+        target.push_back(decimalMark);
         target.append(static_cast<std::size_t>(std::max(-whole, 0)), u'0');
         digits.appendTo(target, std::max(whole, 0), digits.count());
     }
 }
 
-String textOf(Double value, int precision) {
+String textOf(Double value, int precision, char16_t decimalMark) {
     if (std::isnan(value))
         return u"1.#QNAN";
     if (std::isinf(value))
@@ -83,19 +84,25 @@ String textOf(Double value, int precision) {
     // The plain form shows at most `precision` digits before the point, and as many behind it.
     const int decimals = digits.count() - 1 - digits.exponent();
     if (digits.exponent() < precision && decimals <= precision)
-        appendPlainForm(text, digits);
+        appendPlainForm(text, digits, decimalMark);
     else
-        appendExponentForm(text, digits);
+        appendExponentForm(text, digits, decimalMark);
     return text;
 }
 
 } // namespace
 
 String textFromNumber(Double value) {
-    return textOf(value, 15);
+    return textFromNumber(value, u'.');
 }
 String textFromNumber(Single value) {
-    return textOf(static_cast<Double>(value), 7);
+    return textFromNumber(value, u'.');
+}
+String textFromNumber(Double value, char16_t decimalMark) {
+    return textOf(value, 15, decimalMark);
+}
+String textFromNumber(Single value, char16_t decimalMark) {
+    return textOf(static_cast<Double>(value), 7, decimalMark);
 }
 
 } // namespace lumtex

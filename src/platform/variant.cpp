@@ -1,7 +1,7 @@
 #include "platform/variant.h"
 
 #include "platform/date_text.h"
-#include "platform/number_text.h"
+#include "platform/locale.h"
 #include "platform/rounding.h"
 #include "platform/runtime_error.h"
 #include "platform/text.h"
@@ -13,15 +13,6 @@ namespace lumtex {
 
 namespace {
 
-Double numberOf(const String& text) {
-    const NumberFromText result = readNumber(text);
-    if (result.outcome == NumberFromText::notANumber)
-        throw RuntimeError(typeMismatch);
-    if (result.outcome == NumberFromText::tooLarge)
-        throw RuntimeError(overflow);
-    return result.value;
-}
-
 struct ToDouble {
     Double operator()(std::monostate) const { return 0; }
     Double operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
@@ -31,10 +22,14 @@ struct ToDouble {
     Double operator()(Long value) const { return value; }
     Double operator()(Single value) const { return static_cast<Double>(value); }
     Double operator()(Double value) const { return value; }
+    Double operator()(LongLong value) const { return static_cast<Double>(value.value); }
+    Double operator()(UnsignedLongLong value) const { return static_cast<Double>(value.value); }
+    Double operator()(Currency value) const { return lumtex::toDouble(toDecimal(value)); }
+    Double operator()(const Decimal& value) const { return lumtex::toDouble(value); }
     Double operator()(Date value) const { return value.days; }
-    Double operator()(const String& text) const { return numberOf(text); }
-    template <class MissingOrObject>
-    Double operator()(const MissingOrObject&) const {
+    Double operator()(const String& text) const { return numberFrom(text); }
+    template <class NoValue>
+    Double operator()(const NoValue&) const {
         throw RuntimeError(typeMismatch);
     }
 };
@@ -43,15 +38,19 @@ struct ToText {
     String operator()(std::monostate) const { return {}; }
     String operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
     String operator()(bool value) const { return value ? u"True" : u"False"; }
-    String operator()(Byte value) const { return textFromNumber(static_cast<Double>(value)); }
-    String operator()(Integer value) const { return textFromNumber(static_cast<Double>(value)); }
-    String operator()(Long value) const { return textFromNumber(static_cast<Double>(value)); }
-    String operator()(Single value) const { return textFromNumber(value); }
-    String operator()(Double value) const { return textFromNumber(value); }
-    String operator()(Date value) const { return textFromDate(value); }
     String operator()(const String& text) const { return text; }
-    template <class MissingOrObject>
-    String operator()(const MissingOrObject&) const {
+    String operator()(Byte value) const { return (*this)(LongLong{value}); }
+    String operator()(Integer value) const { return (*this)(LongLong{value}); }
+    String operator()(Long value) const { return (*this)(LongLong{value}); }
+    String operator()(LongLong value) const { return currentLocale().textOf(value); }
+    String operator()(UnsignedLongLong value) const { return currentLocale().textOf(value); }
+    String operator()(Single value) const { return currentLocale().textOf(value); }
+    String operator()(Double value) const { return currentLocale().textOf(value); }
+    String operator()(Currency value) const { return currentLocale().textOf(value); }
+    String operator()(const Decimal& value) const { return currentLocale().textOf(value); }
+    String operator()(Date value) const { return currentLocale().textOf(value); }
+    template <class NoValue>
+    String operator()(const NoValue&) const {
         throw RuntimeError(typeMismatch);
     }
 };
@@ -77,10 +76,27 @@ struct MinusOne {
     }
     Variant operator()(Single value) const { return value - 1; }
     Variant operator()(Double value) const { return value - 1; }
+    Variant operator()(LongLong value) const {
+        if (value.value == std::numeric_limits<std::int64_t>::min())
+            return ToDouble()(value) - 1;
+        return LongLong{value.value - 1};
+    }
+    Variant operator()(UnsignedLongLong value) const {
+        if (value.value == 0)
+            return Double{-1};
+        return UnsignedLongLong{value.value - 1};
+    }
+    Variant operator()(Currency value) const {
+        constexpr std::int64_t one = 10'000;
+        if (value.tenThousandths < std::numeric_limits<std::int64_t>::min() + one)
+            return ToDouble()(value) - 1;
+        return Currency{value.tenThousandths - one};
+    }
+    Variant operator()(const Decimal& value) const { return ToDouble()(value) - 1; }
     Variant operator()(Date value) const { return Date{value.days - 1}; }
-    Variant operator()(const String& text) const { return numberOf(text) - 1; }
-    template <class MissingOrObject>
-    Variant operator()(const MissingOrObject&) const {
+    Variant operator()(const String& text) const { return numberFrom(text) - 1; }
+    template <class NoValue>
+    Variant operator()(const NoValue&) const {
         throw RuntimeError(typeMismatch);
     }
 };
@@ -108,8 +124,8 @@ struct ToReference {
 
 bool Variant::isNumeric() const {
     if (const String* held = text())
-        return numberFromText(*held).has_value();
-    return !isNull() && !isMissing() && !isObject() && as<Date>() == nullptr;
+        return numberIn(*held).has_value();
+    return !isNull() && !isMissing() && !isUnsupported() && !isObject() && as<Date>() == nullptr;
 }
 
 Long Variant::toLong() const {
@@ -155,10 +171,8 @@ bool Variant::toBoolean() const {
 Date Variant::toDate() const {
     if (const Date* held = as<Date>())
         return *held;
-    if (const String* held = text()) {
-        if (const auto date = dateFromText(*held))
-            return *date;
-    }
+    if (const String* held = text())
+        return dateFrom(*held);
     const Double value = toDouble();
     if (!isDateInRange(value))
         throw RuntimeError(overflow);

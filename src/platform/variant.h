@@ -1,7 +1,9 @@
 /// \file
-/// A tagged value with the classic conversions. All conversion rules of the system stand in this one place.
+/// A tagged value with the classic conversions. All conversion rules but those between texts and numbers or
+/// dates stand in this one place; a Locale has those.
 #pragma once
 
+#include "platform/decimal.h"
 #include "platform/font.h"
 #include "platform/object.h"
 #include "platform/picture.h"
@@ -33,6 +35,12 @@ struct Missing {
     bool operator==(const Missing&) const = default;
 };
 
+/// Something that no property can hold: an array, a record, an error of an automation host. Converting it
+/// fails with error 13.
+struct Unsupported {
+    bool operator==(const Unsupported&) const = default;
+};
+
 /// Holds a number, text, date, Boolean, object, or nothing (Empty, the start value).
 ///
 /// Conversions throw RuntimeError 13 for a value of the wrong kind (text that is no number, an object, an
@@ -53,10 +61,15 @@ class Variant {
     Variant(Double value) { hold(value); }
     /// A colour number keeps its 32 bits and travels as a Long.
     Variant(OLE_COLOR color) : Variant(static_cast<Long>(color)) {}
+    Variant(LongLong value) { hold(value); }
+    Variant(UnsignedLongLong value) { hold(value); }
+    Variant(Currency value) { hold(value); }
+    Variant(const Decimal& value) { hold(value); }
     Variant(Date value) { hold(value); }
     Variant(std::monostate value) { hold(value); }
     Variant(Null value) { hold(value); }
     Variant(Missing value) { hold(value); }
+    Variant(Unsupported value) { hold(value); }
     Variant(String value) { hold(std::move(value)); }
     Variant(StringView value) : Variant(String(value)) {}
     Variant(const char16_t* value) : Variant(String(value)) {}
@@ -104,6 +117,7 @@ class Variant {
     bool isEmpty() const { return kind_ == Kind::empty; }
     bool isNull() const { return kind_ == Kind::null; }
     bool isMissing() const { return kind_ == Kind::missing; }
+    bool isUnsupported() const { return kind_ == Kind::unsupported; }
     bool isString() const { return kind_ == Kind::text; }
     /// True for an object, picture or font, and for an empty reference to one.
     bool isObject() const { return kind_ >= Kind::object; }
@@ -121,7 +135,7 @@ class Variant {
     bool toBoolean() const;
     /// Text: a date, or a number of days.
     Date toDate() const;
-    /// The invariant text forms; a Runtime has those of the user's settings.
+    /// By the current locale, as all conversions from and to texts are (platform/locale.h).
     String toText() const;
     /// A number's 32 bits; a value up to 0xFFFFFFFF and a negative Long both keep their bits.
     OLE_COLOR toColor() const;
@@ -146,6 +160,8 @@ class Variant {
             return visitor(held<Null>());
         case Kind::missing:
             return visitor(held<Missing>());
+        case Kind::unsupported:
+            return visitor(held<Unsupported>());
         case Kind::boolean:
             return visitor(held<bool>());
         case Kind::byteNumber:
@@ -158,10 +174,18 @@ class Variant {
             return visitor(held<Single>());
         case Kind::doubleNumber:
             return visitor(held<Double>());
+        case Kind::longLongNumber:
+            return visitor(held<LongLong>());
+        case Kind::unsignedLongLongNumber:
+            return visitor(held<UnsignedLongLong>());
+        case Kind::currency:
+            return visitor(held<Currency>());
         case Kind::date:
             return visitor(held<Date>());
         case Kind::text:
             return visitor(held<String>());
+        case Kind::decimal:
+            return visitor(held<Decimal>());
         case Kind::object:
             return visitor(held<ObjectRef>());
         case Kind::picture:
@@ -186,14 +210,19 @@ class Variant {
         empty,
         null,
         missing,
+        unsupported,
         boolean,
         byteNumber,
         integerNumber,
         longNumber,
         singleNumber,
         doubleNumber,
+        longLongNumber,
+        unsignedLongLongNumber,
+        currency,
         date,
         text,
+        decimal,
         object,
         picture,
         font,
@@ -215,25 +244,33 @@ class Variant {
     using Types = TypeList<std::monostate,
                            Null,
                            Missing,
+                           Unsupported,
                            bool,
                            Byte,
                            Integer,
                            Long,
                            Single,
                            Double,
+                           LongLong,
+                           UnsignedLongLong,
+                           Currency,
                            Date,
                            String,
+                           Decimal,
                            ObjectRef,
                            PictureRef,
                            FontRef>;
+
+    template <class T>
+    static constexpr bool isPlainType = Types::kindOf<T>() <= Kind::date;
 
     bool isPlain() const { return kind_ <= Kind::date; }
 
     template <class T>
     void hold(T value) {
         static_assert(sizeof(T) <= sizeof(bytes_) && alignof(T) <= alignof(Double));
-        if constexpr (std::is_trivially_copyable_v<T>) {
-            static_assert(sizeof(T) <= plainSize);
+        if constexpr (isPlainType<T>) {
+            static_assert(sizeof(T) <= plainSize && std::is_trivially_copyable_v<T>);
             // All that copyPlain takes has a value.
             std::memset(bytes_, 0, plainSize);
         }

@@ -3,23 +3,16 @@
 
 namespace lumtex {
 
-namespace {
-
-template <class T>
-constexpr bool ownsSomething = !std::is_trivially_copyable_v<T>;
-
-} // namespace
-
 void Variant::copyHeld(const Variant& other) {
     other.visit([&]<class T>(const T& value) {
-        if constexpr (ownsSomething<T>)
+        if constexpr (!isPlainType<T>)
             hold<T>(value);
     });
 }
 
 void Variant::moveHeld(Variant& other) noexcept {
     other.visit([&]<class T>(const T& /*value*/) {
-        if constexpr (ownsSomething<T>)
+        if constexpr (!isPlainType<T>)
             hold<T>(std::move(other.held<T>()));
     });
 }

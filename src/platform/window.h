@@ -42,8 +42,8 @@ class Window {
     virtual bool Enabled() const = 0;
     /// A disabled window gets no mouse and no keys.
     virtual void letEnabled(bool enabled) = 0;
-    virtual Integer OLEDropMode() const = 0;
-    virtual void letOLEDropMode(Integer mode) = 0;
+    virtual Long OLEDropMode() const = 0;
+    virtual void letOLEDropMode(Long mode) = 0;
 
     virtual Integer MousePointer() const = 0;
     virtual void letMousePointer(Integer shape) = 0;

@@ -1,5 +1,7 @@
 #include "services/bas_error.h"
 
+#include "platform/locale.h"
+#include "services/application_object.h"
 #include "services/current_exe_path.h"
 #include "services/registry_value.h"
 
@@ -71,15 +73,18 @@ void writeLogRecord(Runtime& runtime, StringView text) {
     if (path.empty())
         return;
     const Date now = runtime.now();
-    String record = runtime.dateText(now) + u" " + runtime.timeText(now);
+    String record = currentLocale().dateText(now) + u" " + currentLocale().timeText(now);
     record.append(lineEnd).append(text).append(lineEnd).append(ruleLength, u'-').append(lineEnd);
     runtime.appendToFile(path, record);
 }
 
 void callHandler(Runtime& runtime, Object& handler, const ErrorReport& report) {
+    ObjectRef application = runtime.applicationObject();
+    if (!application)
+        application = std::make_shared<ApplicationObject>(runtime.component());
     // The last six go by reference, but what a handler makes of them is not read back.
     std::array<Variant, 8> arguments = {CurrentExePath(runtime),
-                                        runtime.applicationObject(),
+                                        application,
                                         report.number,
                                         report.description,
                                         report.procedure,

@@ -1,7 +1,7 @@
 #include "sortfind/number_list.h"
 
+#include "platform/locale.h"
 #include "platform/runtime_error.h"
-#include "platform/variant.h"
 
 #include <algorithm>
 
@@ -44,15 +44,15 @@ StringView takePart(StringView& rest, char16_t separator) {
 
 void appendItem(NumberList& numbers, StringView item, Long limit) {
     if (item.find(u'-') == StringView::npos) {
-        const auto number = numberFromText(item);
+        const auto number = numberIn(item);
         // Wanted: a number below 1 stays in the list, and fails when its cell is read.
         if (number && *number <= limit)
             numbers.append(Variant(*number).toLong(), Variant(*number).toLong());
         return;
     }
-    const auto first = numberFromText(takePart(item, u'-'));
+    const auto first = numberIn(takePart(item, u'-'));
     const StringView end = takePart(item, u'-');
-    const auto last = end == u"*" ? std::optional<Double>(limit) : numberFromText(end);
+    const auto last = end == u"*" ? std::optional<Double>(limit) : numberIn(end);
     // Wanted: a range from a number to itself is left out.
     if (first && last && *last > *first && *last <= limit)
         numbers.append(Variant(*first).toLong(), Variant(*last).toLong());
@@ -61,7 +61,7 @@ void appendItem(NumberList& numbers, StringView item, Long limit) {
 /// A number that stands alone.
 FindNotation readLoneNumber(StringView spec, Long limit) {
     FindNotation notation;
-    const auto number = numberFromText(spec);
+    const auto number = numberIn(spec);
     notation.valid = number.has_value();
     notation.empty = number && *number > limit;
     if (!number || *number > limit)
@@ -70,7 +70,7 @@ FindNotation readLoneNumber(StringView spec, Long limit) {
     const StringView cut = spec.substr(0, spec.size() - 1);
     if (cut.empty())
         return notation;
-    if (const auto left = numberFromText(cut))
+    if (const auto left = numberIn(cut))
         notation.numbers.append(Variant(*left).toLong(), Variant(*left).toLong());
     else
         notation.numbers.appendUnreadable();

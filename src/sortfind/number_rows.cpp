@@ -1,5 +1,6 @@
 #include "sortfind/number_rows.h"
 
+#include "platform/locale.h"
 #include "services/ignoring_errors.h"
 #include "sortfind/sort_keys.h"
 
@@ -19,9 +20,9 @@ constexpr Double smallestInexact = 1e15;
 constexpr std::array<Double, mostExactDigits + 1> powersOfTen = {
     1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
-/// A number of digits alone, with a minus before it and, if allowed, a point inside. None for any other text,
-/// which may be a number still.
-std::optional<Double> plainDecimal(std::span<const unsigned char> text, bool withPoint) {
+/// A number of digits alone, with a minus before it and a decimal mark inside. None for any other text, which
+/// may be a number still.
+std::optional<Double> plainDecimal(std::span<const unsigned char> text, unsigned char decimalMark) {
     const bool negative = !text.empty() && text[0] == '-';
     if (negative)
         text = text.subspan(1);
@@ -32,7 +33,7 @@ std::optional<Double> plainDecimal(std::span<const unsigned char> text, bool wit
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] >= '0' && text[i] <= '9')
             digits = digits * 10 + (text[i] - '0');
-        else if (text[i] == '.' && withPoint && i > 0 && i + 1 < text.size() && point == text.size() - 1)
+        else if (text[i] == decimalMark && i > 0 && i + 1 < text.size() && point == text.size() - 1)
             point = i;
         else
             return std::nullopt;
@@ -54,11 +55,45 @@ bool isShortDecimal(Double value) {
     return false;
 }
 
+/// The mark between the digits of 1.5, as far as it is a point or a comma.
+unsigned char decimalMark() {
+    for (const unsigned char mark : {'.', ','}) {
+        const String text{u'1', mark, u'5'};
+        if (numberIn(text) == 1.5)
+            return mark;
+    }
+    return 0;
+}
+
+/// Whether the current locale writes dates so that nothing is lost: some users have it leave out the century
+/// or the seconds.
+bool datesKeepTheirTexts() {
+    const Locale& locale = currentLocale();
+    for (const Double days : {-36522.0, 2.25, 10958.999988, 36585.000012, 47483.5, 73050.75, 401768.0}) {
+        const auto first = locale.readDate(locale.textOf(Date{days}));
+        constexpr Double halfSecond = 0.5 / (24 * 60 * 60);
+        if (!first || std::fabs(first->days - days) > halfSecond ||
+            locale.readDate(locale.textOf(*first)) != first)
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
-NumberReader::NumberReader(const Runtime& runtime, cSortType type) : runtime_(runtime), type_(type) {
+NumberReader::NumberReader(cSortType type) : type_(type) {
     if (type == cSortNumeric)
-        pointIsDecimalMark_ = runtime.numberFromText(u"1.5") == std::optional<Double>(1.5);
+        decimalMark_ = decimalMark();
+    else
+        ignoringErrors([&] { readsBack_ = datesKeepTheirTexts(); });
+}
+
+/// A date that was read has whole seconds; a number of days need not.
+Double NumberReader::readDate() {
+    if (const auto date = currentLocale().readDate(buffer_))
+        return date->days;
+    readsBack_ = false;
+    return numberKey(buffer_, type_);
 }
 
 Double NumberReader::read(const CompactText& text) {
@@ -67,14 +102,14 @@ Double NumberReader::read(const CompactText& text) {
             if constexpr (std::is_same_v<Units, StringView>)
                 return std::nullopt;
             else
-                return plainDecimal(units, pointIsDecimalMark_);
+                return plainDecimal(units, decimalMark_);
         });
         if (plain)
             return *plain;
     }
     text.copyTo(buffer_);
     Double key = unreadable;
-    ignoringErrors([&] { key = numberKey(runtime_, buffer_, type_); });
+    ignoringErrors([&] { key = type_ == cSortDate ? readDate() : numberKey(buffer_, type_); });
     return key;
 }
 
@@ -84,7 +119,11 @@ Double throughPivotText(Double key, cSortType type) {
     if (type == cSortNumeric && isShortDecimal(key))
         return key;
     Double pivot = unreadable;
-    ignoringErrors([&] { pivot = pivotFromText(pivotText(key, type), type); });
+    // All locales write the same fifteen digits, and the system's own ones take long for it.
+    if (type == cSortNumeric)
+        pivot = numberFromText(textFromNumber(key)).value_or(unreadable);
+    else
+        ignoringErrors([&] { pivot = numberKey(pivotText(key, type), type); });
     return pivot;
 }
 

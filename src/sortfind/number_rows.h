@@ -4,7 +4,6 @@
 
 #include "model/compact_text.h"
 #include "model/enumerations.h"
-#include "platform/runtime.h"
 
 #include <cstdint>
 #include <limits>
@@ -20,15 +19,20 @@ constexpr Double unreadable = std::numeric_limits<Double>::quiet_NaN();
 /// Reads keys as `numberKey` does, without its errors and, for plain decimal numbers, much faster.
 class NumberReader {
   public:
-    NumberReader(const Runtime& runtime, cSortType type);
+    explicit NumberReader(cSortType type);
 
     /// `unreadable` for what `numberKey` throws at.
     Double read(const CompactText& text);
 
+    /// Whether the text form of each key so far would surely be read as that key again.
+    bool readsBackItsKeys() const { return readsBack_; }
+
   private:
-    const Runtime& runtime_;
+    Double readDate();
+
     cSortType type_;
-    bool pointIsDecimalMark_ = false; ///< under the user's settings
+    unsigned char decimalMark_ = 0; ///< of plain numbers; 0 where it is no single byte
+    bool readsBack_ = false;
     String buffer_;
 };
 
@@ -45,12 +49,15 @@ class NumberRows {
     }
     void add(Double key) { keys_.push_back({key, static_cast<std::uint32_t>(keys_.size() - 1)}); }
 
+    /// Spares the pivots the way through their texts.
+    void letKeysAreTheirPivots(bool value) { keysAreTheirPivots_ = value; }
+
     void choosePivot(Long index) {
         // The element behind the last stops a scan that runs out of the array.
         if (!closed_)
             keys_.push_back({unreadable, 0});
         closed_ = true;
-        pivot_ = throughPivotText(at(index).value, type_);
+        pivot_ = keysAreTheirPivots_ ? at(index).value : throughPivotText(at(index).value, type_);
         // A pivot that is too large to read back fails at each comparison.
         wouldReport_ = wouldReport_ || pivot_ != pivot_;
     }
@@ -84,6 +91,7 @@ class NumberRows {
     std::vector<Key> keys_; ///< from the second element on; ends with one more
     Double pivot_ = 0;
     cSortType type_;
+    bool keysAreTheirPivots_ = false;
     bool closed_ = false;
     bool wouldReport_ = false;
 };

@@ -71,7 +71,7 @@ bool lmListView::sortByKeys(Long Column, cSortType SortType, cSortMode order) {
     bool sorted = false;
     ignoringErrors([&] {
         const auto cell = static_cast<std::size_t>(Column) - 1;
-        const auto sources = orderByKeys(runtime(), rows_, cell, SortType, order, silentError());
+        const auto sources = orderByKeys(rows_, cell, SortType, order, silentError());
         if (!sources)
             return;
         std::vector<RowRecord> moved;

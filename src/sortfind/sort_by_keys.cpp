@@ -42,13 +42,9 @@ Order orderOfTexts(const std::vector<RowRecord>& rows, std::size_t cell, bool si
 }
 
 template <bool descending>
-Order orderOfNumbers(const Runtime& runtime,
-                     const std::vector<RowRecord>& rows,
-                     std::size_t cell,
-                     cSortType type,
-                     bool silent) {
+Order orderOfNumbers(const std::vector<RowRecord>& rows, std::size_t cell, cSortType type, bool silent) {
     NumberRows<descending> keys(rows.size(), type);
-    NumberReader reader(runtime, type);
+    NumberReader reader(type);
     for (const RowRecord& row : rows) {
         const CompactText* text = textOf(row, cell);
         const Double key = text != nullptr ? reader.read(*text) : unreadable;
@@ -56,6 +52,7 @@ Order orderOfNumbers(const Runtime& runtime,
             return std::nullopt;
         keys.add(key);
     }
+    keys.letKeysAreTheirPivots(reader.readsBackItsKeys());
     quickSort(keys, 0, static_cast<Long>(rows.size()) - 1);
     if (keys.wouldReport() && !silent)
         return std::nullopt;
@@ -64,17 +61,13 @@ Order orderOfNumbers(const Runtime& runtime,
 
 } // namespace
 
-Order orderByKeys(const Runtime& runtime,
-                  const std::vector<RowRecord>& rows,
-                  std::size_t cell,
-                  cSortType type,
-                  cSortMode order,
-                  bool silent) {
+Order orderByKeys(
+    const std::vector<RowRecord>& rows, std::size_t cell, cSortType type, cSortMode order, bool silent) {
     const bool descending = order == cDescending;
     if (type == cSortText)
         return descending ? orderOfTexts<true>(rows, cell, silent) : orderOfTexts<false>(rows, cell, silent);
-    return descending ? orderOfNumbers<true>(runtime, rows, cell, type, silent)
-                      : orderOfNumbers<false>(runtime, rows, cell, type, silent);
+    return descending ? orderOfNumbers<true>(rows, cell, type, silent)
+                      : orderOfNumbers<false>(rows, cell, type, silent);
 }
 
 } // namespace lumtex

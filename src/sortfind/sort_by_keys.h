@@ -2,8 +2,8 @@
 /// The sort over keys that were read once.
 #pragma once
 
+#include "model/enumerations.h"
 #include "model/row_record.h"
-#include "platform/runtime.h"
 
 #include <optional>
 #include <vector>
@@ -15,11 +15,7 @@ namespace lumtex {
 ///
 /// None where that sort would report anything and `silent` is False: then the host's code may run in
 /// the middle, and only the statements themselves do what is due. Throws std::bad_alloc.
-std::optional<std::vector<std::uint32_t>> orderByKeys(const Runtime& runtime,
-                                                      const std::vector<RowRecord>& rows,
-                                                      std::size_t cell,
-                                                      cSortType type,
-                                                      cSortMode order,
-                                                      bool silent);
+std::optional<std::vector<std::uint32_t>> orderByKeys(
+    const std::vector<RowRecord>& rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
 
 } // namespace lumtex

@@ -21,7 +21,7 @@ void SortByStatements::choosePivot(Long index) {
         if (type_ == cSortText)
             pivot_ = textKey(ItemText(index));
         else if (type_ == cSortNumeric || type_ == cSortDate)
-            pivot_ = pivotText(numberKey(list_.runtime(), ItemText(index), type_), type_);
+            pivot_ = pivotText(numberKey(ItemText(index), type_), type_);
     });
 }
 
@@ -40,8 +40,8 @@ bool SortByStatements::compare(Long index, bool greater) {
     // Wanted: of any other type there is no key, so that each partition swaps all the way inwards.
     if (type_ != cSortNumeric && type_ != cSortDate)
         return false;
-    const Double key = numberKey(list_.runtime(), ItemText(index), type_);
-    const Double pivot = pivotFromText(pivot_, type_);
+    const Double key = numberKey(ItemText(index), type_);
+    const Double pivot = numberKey(pivot_, type_);
     return greater ? key > pivot : key < pivot;
 }
 

@@ -1,7 +1,7 @@
 #include "sortfind/sort_keys.h"
 
 #include "platform/case_mapping.h"
-#include "platform/variant.h"
+#include "platform/locale.h"
 
 #include <algorithm>
 
@@ -13,22 +13,12 @@ String textKey(StringView text) {
     return key;
 }
 
-Double numberKey(const Runtime& runtime, StringView text, cSortType type) {
-    if (type == cSortDate) {
-        const auto date = runtime.dateFromText(text);
-        return date ? date->days : Variant(text).toDate().days;
-    }
-    const auto number = runtime.numberFromText(text);
-    return number ? *number : Variant(text).toDouble();
+Double numberKey(StringView text, cSortType type) {
+    return type == cSortDate ? dateFrom(text).days : numberFrom(text);
 }
 
 String pivotText(Double key, cSortType type) {
-    return type == cSortDate ? textFromDate(Date{key}) : textFromNumber(key);
-}
-
-Double pivotFromText(StringView text, cSortType type) {
-    const Variant pivot(text);
-    return type == cSortDate ? pivot.toDate().days : pivot.toDouble();
+    return type == cSortDate ? currentLocale().textOf(Date{key}) : currentLocale().textOf(key);
 }
 
 } // namespace lumtex

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "model/enumerations.h"
-#include "platform/runtime.h"
 #include "platform/types.h"
 
 namespace lumtex {
@@ -11,15 +10,12 @@ namespace lumtex {
 /// The lower case of each code unit.
 String textKey(StringView text);
 
-/// The number, or the date in days, that a text holds for a sort of that type: by the user's settings, and
-/// where these do not know it, by the rules of docs/conversions.md. Throws RuntimeError 13 for a text that is
-/// nothing of the kind, 6 for one out of range.
-Double numberKey(const Runtime& runtime, StringView text, cSortType type);
+/// The number, or the date in days, that a text holds for a sort of that type. Throws RuntimeError 13 for a
+/// text that is nothing of the kind, 6 for one out of range.
+Double numberKey(StringView text, cSortType type);
 
-/// The text form that a pivot is held in, and the value that it is read back as. A number passes through 15
-/// digits, a date through whole seconds, so that the pivot may be no value of the column. Both throw as
-/// `numberKey` does.
+/// The text form that a pivot is held in, and `numberKey` reads back. A number passes through 15 digits, a
+/// date through whole seconds, so that the pivot may be no value of the column. Throws as `numberKey` does.
 String pivotText(Double key, cSortType type);
-Double pivotFromText(StringView text, cSortType type);
 
 } // namespace lumtex

@@ -271,23 +271,48 @@ TEST_F(TypeLibrary, ANullPlaceForAByReferenceArgumentIsRefused) {
 }
 
 TEST_F(TypeLibrary, AFailureOfATableCallLeavesItsText) {
-    OwnedVARIANT split = toVARIANT(Variant(u","));
-    SAFEARRAY* words = SafeArrayCreateVector(VT_BSTR, 0, 1);
-    VARIANT index;
-    VariantInit(&index);
-    V_VT(&index) = VT_ARRAY | VT_BSTR;
-    V_ARRAY(&index) = words;
-    EXPECT_EQ(callEntry(dispatch.get(),
-                        placeOf(listViewClass(), u"RowsAdd", InterfaceEntry::Kind::call),
-                        {pointerTo(&index), split.get(), split.get()}),
-              DISP_E_TYPEMISMATCH);
+    VARIANT noPicture;
+    VariantInit(&noPicture);
+    V_VT(&noPicture) = VT_DISPATCH;
+    V_DISPATCH(&noPicture) = dispatch.get();
+    EXPECT_EQ(
+        callEntry(dispatch.get(), placeOf(listViewClass(), u"Skin", InterfaceEntry::Kind::set), {noPicture}),
+        DISP_E_TYPEMISMATCH);
     ComRef<IErrorInfo> info;
     ASSERT_EQ(GetErrorInfo(0, info.out()), S_OK);
     BSTR text = nullptr;
     EXPECT_EQ(info->GetDescription(&text), S_OK);
     EXPECT_EQ(viewBSTR(text), u"Type mismatch");
     SysFreeString(text);
-    SafeArrayDestroy(words);
+}
+
+/// The default of a parameter of a table entry, counted from 0; Null where there is none.
+Variant defaultIn(ITypeInfo* table, StringView member, int parameter) {
+    for (UINT entry = 0;; ++entry) {
+        FUNCDESC* description = nullptr;
+        demand(table->GetFuncDesc(entry, &description));
+        Variant found = Null{};
+        const bool isIt = nameOf(table, description->memid) == member;
+        if (isIt) {
+            const PARAMDESC& of = description->lprgelemdescParam[parameter].paramdesc;
+            if ((of.wParamFlags & PARAMFLAG_FHASDEFAULT) != 0)
+                found = fromVARIANT(of.pparamdescex->varDefaultValue);
+        }
+        table->ReleaseFuncDesc(description);
+        if (isIt)
+            return found;
+    }
+}
+
+TEST_F(TypeLibrary, DefaultsOfEveryTypeAreReadAsTheyAreMeant) {
+    const ComRef<ITypeInfo> table = tableOf("_lmListView");
+    EXPECT_EQ(defaultIn(table.get(), u"ColumnsAdd", 5), Variant(Single{1000}));
+    EXPECT_EQ(defaultIn(table.get(), u"ColumnsAdd", 6), Variant(false));
+    EXPECT_EQ(defaultIn(table.get(), u"ColumnsAdd", 8), Variant(u""));
+    EXPECT_EQ(defaultIn(table.get(), u"FindItem", 1), Variant(Long{1}));
+    EXPECT_EQ(defaultIn(table.get(), u"FindItem", 3), Variant(u"*"));
+    EXPECT_EQ(defaultIn(table.get(), u"FindItem", 4), Variant(u"*"));
+    EXPECT_EQ(defaultIn(table.get(), u"FindItem", 0), Variant(Null{}));
 }
 
 } // namespace

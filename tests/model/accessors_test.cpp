@@ -167,7 +167,7 @@ TEST_F(Accessors, AnObjectWithoutAWindowIsStoredAndOneWithAWindowIsAdopted) {
     EXPECT_EQ(list.ItemObject(1, 1), windowed);
 }
 
-TEST_F(Accessors, AnObjectThatFailsIsToldAsAnEvent) {
+TEST_F(Accessors, AnObjectThatFailsIsToldAsAnEventReportedAndStored) {
     addColumns({50});
     addRows(1);
     list.letAutoRedraw(false);
@@ -177,8 +177,36 @@ TEST_F(Accessors, AnObjectThatFailsIsToldAsAnEvent) {
     EXPECT_EQ(events.log,
               std::vector<std::string>{"ListViewError eSub=ItemObject eNumber=438 "
                                        "eDescription=Object doesn't support this property or method"});
-    EXPECT_EQ(list.ItemObject(1, 1), nullptr);
-    EXPECT_EQ(reportCount(), 0U);
+    EXPECT_EQ(list.ItemObject(1, 1), broken);
+    EXPECT_EQ(reportCount(), 1U);
+    EXPECT_EQ(lastReport(), "438 ItemObject");
+    list.setItemObject(9, 1, nullptr);
+    EXPECT_EQ(events.log.size(), 2U);
+    EXPECT_EQ(lastReport(), "9 ItemObject");
+}
+
+TEST_F(Accessors, TheEventOfAFailingObjectComesAheadOfItsReport) {
+    addColumns({50});
+    addRows(1);
+    list.letAutoRedraw(false);
+    std::size_t eventsAtTheReport = 0;
+    desktop.runtime().whileBoxIsOpen = [&] { eventsAtTheReport = events.log.size(); };
+    list.setItemObject(9, 1, std::make_shared<TestObject>());
+    EXPECT_EQ(eventsAtTheReport, 1U);
+}
+
+TEST_F(Accessors, WhatNoTagOrColourHoldsIsReportedAndKeepsTheOldOne) {
+    addColumns({50});
+    addRows(1);
+    list.letItemTag(1, 1, u"kept");
+    list.letItemTag(1, 1, Unsupported{});
+    EXPECT_EQ(lastReport(), "13 ItemTag");
+    EXPECT_EQ(list.ItemTag(1, 1), Variant(u"kept"));
+    list.letItemBackColor(1, 1, Unsupported{});
+    EXPECT_EQ(lastReport(), "13 ItemBackColor");
+    EXPECT_EQ(list.ItemBackColor(1, 1), Variant(u"def"));
+    EXPECT_EQ(list.ItemText(Unsupported{}, 1), u"");
+    EXPECT_EQ(lastReport(), "13 ItemText");
 }
 
 } // namespace lumtex::testing

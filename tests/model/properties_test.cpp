@@ -99,8 +99,8 @@ const std::vector<StartValue>& startValues() {
         PLAIN(DrawColumnIcons, true),
         PLAIN(FixColumns, false),
         PLAIN(CheckMouseOver, false),
-        PLAIN(OLEDropMode, Integer{0}),
-        PLAIN(OLEDragMode, Integer{0}),
+        PLAIN(OLEDropMode, Long{0}),
+        PLAIN(OLEDragMode, Long{0}),
         PLAIN(HideSelection, false),
     };
 #undef PLAIN

@@ -39,9 +39,9 @@ class PlainQuickSort {
             if (type_ == cSortText)
                 pivot = lowered(text);
             else if (type_ == cSortNumeric)
-                pivot = textFromNumber(Variant(text).toDouble());
+                pivot = Variant(Variant(text).toDouble()).toText();
             else if (type_ == cSortDate)
-                pivot = textFromDate(Variant(text).toDate());
+                pivot = Variant(Variant(text).toDate()).toText();
             return true;
         });
         do {

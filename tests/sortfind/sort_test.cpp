@@ -1,4 +1,5 @@
 #include "list_fixture.h"
+#include "platform/fixed_locale.h"
 
 #include <limits>
 
@@ -36,6 +37,18 @@ TEST_F(Sorting, TenStandsBeforeNineAsTextAndBehindItAsANumber) {
     EXPECT_EQ(column(), "10 9 ");
     list.Sort(1, cAscending, cSortNumeric);
     EXPECT_EQ(column(), "9 10 ");
+}
+
+TEST_F(Sorting, NumbersAndDatesAreReadAsTheUserWritesThem) {
+    desktop.runtime().letLocale(germanLocale());
+    fill({u"1.234,56|29.02.2024", u"2,5|1.12.2023", u"-1.000|31.01.1999", u"10|05.06.2024"});
+    list.Sort(1, cAscending, cSortNumeric);
+    EXPECT_EQ(column(), "-1.000 2,5 10 1.234,56 ");
+    list.Sort(2, cAscending, cSortDate);
+    EXPECT_EQ(column(2), "31.01.1999 1.12.2023 29.02.2024 05.06.2024 ");
+    list.Sort(2, cDescending, cSortDate);
+    EXPECT_EQ(column(2), "05.06.2024 29.02.2024 1.12.2023 31.01.1999 ");
+    EXPECT_EQ(reportCount(), 0U);
 }
 
 TEST_F(Sorting, ASingleRowIsSwappedWithItselfAndTellsSortDoneOnce) {

@@ -72,15 +72,6 @@ class FakeRuntime final : public Runtime {
     }
 
     Date now() const override { return clock; }
-    String dateText(Date date) const override { return textFromDate(Date{std::trunc(date.days)}); }
-    String timeText(Date date) const override {
-        return textFromDate(Date{std::fabs(date.days - std::trunc(date.days))});
-    }
-
-    std::optional<Double> numberFromText(StringView text) const override {
-        return lumtex::numberFromText(text);
-    }
-    std::optional<Date> dateFromText(StringView text) const override { return lumtex::dateFromText(text); }
 
     void appendToFile(StringView path, StringView text) override {
         journal.push_back(u"append " + String(path));

@@ -29,8 +29,8 @@ class ForwardingWindow : public Window {
     void letVisible(bool visible) override { inner_->letVisible(visible); }
     bool Enabled() const override { return inner_->Enabled(); }
     void letEnabled(bool enabled) override { inner_->letEnabled(enabled); }
-    Integer OLEDropMode() const override { return inner_->OLEDropMode(); }
-    void letOLEDropMode(Integer mode) override { inner_->letOLEDropMode(mode); }
+    Long OLEDropMode() const override { return inner_->OLEDropMode(); }
+    void letOLEDropMode(Long mode) override { inner_->letOLEDropMode(mode); }
     Integer MousePointer() const override { return inner_->MousePointer(); }
     void letMousePointer(Integer shape) override { inner_->letMousePointer(shape); }
     PictureRef MouseIcon() const override { return inner_->MouseIcon(); }

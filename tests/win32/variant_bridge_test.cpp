@@ -62,24 +62,42 @@ TEST(FromVARIANT, TakesEachKindOfValue) {
         {"32 bits without sign, in range", numberVARIANT(VT_UI4, 2000000000), Long{2000000000}},
         {"32 bits without sign, out of range", numberVARIANT(VT_UI4, 4000000000), 4000000000.0},
         {"machine integer without sign", numberVARIANT(VT_UINT, 4000000000), 4000000000.0},
-        {"64 bits, in range", numberVARIANT(VT_I8, -9), Long{-9}},
-        {"64 bits, out of range", numberVARIANT(VT_I8, 1LL << 40), 1099511627776.0},
-        {"64 bits without sign", numberVARIANT(VT_UI8, 1LL << 40), 1099511627776.0},
+        {"64 bits, in range", numberVARIANT(VT_I8, -9), LongLong{-9}},
+        {"64 bits, out of range", numberVARIANT(VT_I8, 1LL << 60), LongLong{1LL << 60}},
+        {"64 bits without sign", numberVARIANT(VT_UI8, -1), UnsignedLongLong{~std::uint64_t{0}}},
         {"single", singleVARIANT(1.5F), 1.5F},
         {"double", realVARIANT(VT_R8, 2.25), 2.25},
         {"date", realVARIANT(VT_DATE, 36526.5), Date{36526.5}},
-        {"currency", numberVARIANT(VT_CY, 12345), 1.2345},
+        {"currency", numberVARIANT(VT_CY, 12345), Currency{12345}},
     };
     for (const Row& row : table)
         EXPECT_EQ(fromVARIANT(row.given), row.expected) << row.name;
 }
 
-TEST(FromVARIANT, TakesADecimalNumberAsADouble) {
+TEST(FromVARIANT, TakesADecimalNumberWithAllItsDigits) {
     VARIANT value;
     VariantInit(&value);
-    ASSERT_EQ(VarDecFromR8(12.5, &V_DECIMAL(&value)), S_OK);
+    DECIMAL& number = V_DECIMAL(&value);
+    number.Hi32 = 0xFFFFFFFF;
+    number.Lo64 = 0xFFFFFFFF00000001;
+    number.scale = 28;
+    number.sign = DECIMAL_NEG;
     V_VT(&value) = VT_DECIMAL;
-    EXPECT_EQ(fromVARIANT(value), Variant(12.5));
+    const Variant taken = fromVARIANT(value);
+    EXPECT_EQ(taken, Variant(Decimal{{1, 0xFFFFFFFF, 0xFFFFFFFF}, 28, true}));
+    const OwnedVARIANT back = toVARIANT(taken);
+    EXPECT_EQ(V_VT(&back.get()), VT_DECIMAL);
+    EXPECT_EQ(std::memcmp(&back.get(), &value, sizeof(DECIMAL)), 0);
+    number.scale = 29;
+    EXPECT_EQ(errorNumberOf([&] { fromVARIANT(value); }), typeMismatch);
+}
+
+TEST(ToVARIANT, KeepsTheKindOfExactNumbers) {
+    EXPECT_EQ(V_VT(&toVARIANT(LongLong{1}).get()), VT_I8);
+    EXPECT_EQ(V_VT(&toVARIANT(UnsignedLongLong{1}).get()), VT_UI8);
+    const OwnedVARIANT amount = toVARIANT(Currency{-12345});
+    EXPECT_EQ(V_VT(&amount.get()), VT_CY);
+    EXPECT_EQ(V_CY(&amount.get()).int64, -12345);
 }
 
 TEST(FromVARIANT, KeepsZerosInsideAText) {
@@ -108,16 +126,22 @@ TEST(FromVARIANT, FollowsReferences) {
     EXPECT_EQ(fromVARIANT(toVariant), Variant(Long{77}));
 }
 
-TEST(FromVARIANT, RefusesArraysRecordsAndErrorValues) {
+TEST(FromVARIANT, TakesArraysRecordsAndErrorValuesAsWhatNothingConverts) {
     SAFEARRAY* array = SafeArrayCreateVector(VT_I4, 0, 2);
     VARIANT value;
     VariantInit(&value);
     V_VT(&value) = VT_ARRAY | VT_I4;
     V_ARRAY(&value) = array;
-    EXPECT_EQ(errorNumberOf([&] { fromVARIANT(value); }), typeMismatch);
+    EXPECT_EQ(fromVARIANT(value), Variant(Unsupported{}));
+    VARIANT reference;
+    VariantInit(&reference);
+    V_VT(&reference) = VT_BYREF | VT_ARRAY | VT_I4;
+    V_ARRAYREF(&reference) = &array;
+    EXPECT_EQ(fromVARIANT(reference), Variant(Unsupported{}));
     VariantClear(&value);
-    EXPECT_EQ(errorNumberOf([] { fromVARIANT(numberVARIANT(VT_RECORD, 0)); }), typeMismatch);
-    EXPECT_EQ(errorNumberOf([] { fromVARIANT(numberVARIANT(VT_ERROR, E_FAIL)); }), typeMismatch);
+    EXPECT_EQ(fromVARIANT(numberVARIANT(VT_RECORD, 0)), Variant(Unsupported{}));
+    EXPECT_EQ(fromVARIANT(numberVARIANT(VT_ERROR, E_FAIL)), Variant(Unsupported{}));
+    EXPECT_EQ(errorNumberOf([] { toVARIANT(Unsupported{}); }), typeMismatch);
 }
 
 TEST(FromVARIANT, TakesNothingAsAnEmptyReference) {

@@ -2,6 +2,7 @@
 #include "error_number.h"
 #include "platform/text.h"
 #include "platform/version.h"
+#include "platform/win32/win32_locale.h"
 #include "platform/win32/win32_runtime.h"
 #include "scratch_folder.h"
 #include "services/current_exe_path.h"
@@ -74,17 +75,8 @@ TEST_F(StoredValues, AreTextsAndNumbers) {
     EXPECT_EQ(runtime.storedSetting(currentUserHive, u"Software\\LumtexNothing", u"Value"), std::nullopt);
 }
 
-TEST_F(SystemRuntime, ReadsNumbersAndDatesAsTheUserWritesThem) {
-    EXPECT_EQ(runtime.numberFromText(u" 12 "), 12.0);
-    EXPECT_EQ(runtime.numberFromText(u"&H1F"), 31.0);
-    EXPECT_EQ(runtime.numberFromText(u"twelve"), std::nullopt);
-    EXPECT_EQ(runtime.numberFromText(u""), std::nullopt);
-    ASSERT_TRUE(runtime.dateFromText(u"2000-01-31").has_value());
-    EXPECT_EQ(runtime.dateFromText(u"2000-01-31")->days, 36556.0);
-    EXPECT_EQ(runtime.dateFromText(u"no day"), std::nullopt);
-    const Date moment{36556.25};
-    EXPECT_EQ(runtime.dateFromText(runtime.dateText(moment))->days, 36556.0);
-    EXPECT_EQ(runtime.dateFromText(runtime.timeText(moment))->days, 0.25);
+TEST_F(SystemRuntime, PutsTheUsersSettingsInForce) {
+    EXPECT_EQ(&currentLocale(), &win32UsersLocale());
 }
 
 TEST_F(SystemRuntime, KnowsTheTimeOfTheDay) {

@@ -1,5 +1,6 @@
 #include "platform/headless/event_recorder.h"
 
+#include "platform/fixed_locale.h"
 #include "platform/headless/desktop.h"
 #include "platform/text.h"
 
@@ -33,6 +34,7 @@ struct LogText {
     std::string operator()(std::monostate) const { return "Empty"; }
     std::string operator()(Null) const { return "Null"; }
     std::string operator()(Missing) const { return "Missing"; }
+    std::string operator()(Unsupported) const { return "Unsupported"; }
     std::string operator()(const String& text) const { return quoted(text); }
     std::string operator()(const ObjectRef& object) const { return object ? "Object" : "Nothing"; }
     std::string operator()(const PictureRef& picture) const { return picture ? "Picture" : "Nothing"; }
@@ -46,6 +48,8 @@ struct LogText {
 } // namespace
 
 std::string logText(const Variant& value) {
+    // The same log under any settings.
+    const UsingLocale invariant(invariantLocale());
     return value.visit(LogText{});
 }
 

@@ -118,27 +118,6 @@ Date HeadlessRuntime::now() const {
     return {clock.days + static_cast<Double>(desktop_.time().count()) / millisecondsPerDay};
 }
 
-String HeadlessRuntime::dateText(Date date) const {
-    const String text = textFromDate(date);
-    const bool isTimeAlone = text.find(u'-') == String::npos;
-    return isTimeAlone ? String(startDay) : text.substr(0, text.find(u' '));
-}
-
-String HeadlessRuntime::timeText(Date date) const {
-    String text = textFromDate(date);
-    if (text.find(u'-') == String::npos)
-        return text;
-    const std::size_t gap = text.find(u' ');
-    return gap != String::npos ? text.substr(gap + 1) : String(midnight);
-}
-
-std::optional<Double> HeadlessRuntime::numberFromText(StringView text) const {
-    return lumtex::numberFromText(text);
-}
-std::optional<Date> HeadlessRuntime::dateFromText(StringView text) const {
-    return lumtex::dateFromText(text);
-}
-
 void HeadlessRuntime::toAnsi(StringView text, std::span<Byte> bytes) const {
     std::transform(text.begin(), text.end(), bytes.begin(), toWindows1252);
 }

@@ -2,6 +2,7 @@
 /// The system around a simulated desktop: everything is kept in memory and can be looked at.
 #pragma once
 
+#include "platform/locale.h"
 #include "platform/runtime.h"
 
 #include <functional>
@@ -54,13 +55,6 @@ class HeadlessRuntime final : public Runtime {
     storedSetting(std::uint32_t hive, StringView key, StringView name) const override;
     /// `clock`, and the virtual time that has passed.
     Date now() const override;
-    /// "2000-01-31", under any settings.
-    String dateText(Date date) const override;
-    /// "23:59:58", under any settings.
-    String timeText(Date date) const override;
-    /// The invariant rules.
-    std::optional<Double> numberFromText(StringView text) const override;
-    std::optional<Date> dateFromText(StringView text) const override;
     // Files of the machine: UTF-8, line ends as given; "\" in a path separates folders.
 
     String readFile(StringView path) const override;
@@ -95,6 +89,10 @@ class HeadlessRuntime final : public Runtime {
     Single twipsPerPixelX() const override { return 15; }
     Single twipsPerPixelY() const override { return 15; }
 
+    /// What conversions on this thread follow from now on, as long as the runtime lives; at first they are
+    /// invariant. `locale` must outlive the runtime.
+    void letLocale(const Locale& locale) { locale_.emplace(locale); }
+
     /// Of the current user.
     void letSetting(StringView key, StringView name, StringView text);
     void letSetting(std::uint32_t hive, StringView key, StringView name, StoredSetting value);
@@ -123,6 +121,7 @@ class HeadlessRuntime final : public Runtime {
     };
 
     Desktop& desktop_;
+    std::optional<UsingLocale> locale_;
     std::map<SettingOrder::Key, StoredSetting, SettingOrder> settings_; ///< by hive, key and name
     Long lastSearch_ = 0;
 };

@@ -30,8 +30,8 @@ class HeadlessWindow final : public Window, public Pane {
     void letVisible(bool visible) override;
     bool Enabled() const override { return isEnabled(); }
     void letEnabled(bool enabled) override;
-    Integer OLEDropMode() const override { return oleDropMode_; }
-    void letOLEDropMode(Integer mode) override { oleDropMode_ = mode; }
+    Long OLEDropMode() const override { return oleDropMode_; }
+    void letOLEDropMode(Long mode) override { oleDropMode_ = mode; }
     Integer MousePointer() const override { return mousePointer_; }
     void letMousePointer(Integer shape) override { mousePointer_ = shape; }
     PictureRef MouseIcon() const override { return mouseIcon_; }
@@ -76,7 +76,7 @@ class HeadlessWindow final : public Window, public Pane {
     RasterSurface surface_;
     std::vector<HeadlessGuideLine*> guides_;
     bool paintWaits_ = false;
-    Integer oleDropMode_ = 0;
+    Long oleDropMode_ = 0;
     Integer mousePointer_ = pointerDefault;
     PictureRef mouseIcon_;
     int presented_ = 0;

@@ -86,6 +86,10 @@ Json jsonOf(const Runtime& runtime, const Variant& value) {
             return jsonOfNumber(shortestDouble(held));
         else if constexpr (std::is_same_v<T, Double>)
             return jsonOfNumber(held);
+        else if constexpr (std::is_same_v<T, LongLong> || std::is_same_v<T, UnsignedLongLong>)
+            return held.value;
+        else if constexpr (std::is_same_v<T, Currency> || std::is_same_v<T, Decimal>)
+            return jsonOfNumber(Variant(held).toDouble());
         else if constexpr (std::is_same_v<T, String>)
             return toUtf8(held);
         else if constexpr (std::is_same_v<T, FontRef>)

@@ -14,28 +14,27 @@ namespace lumtex {
 
 namespace {
 
-template <class Number>
-Variant narrowed(Number value) {
+Variant narrowed(std::uint32_t value) {
     if (std::in_range<Long>(value))
         return static_cast<Long>(value);
     return static_cast<Double>(value);
 }
 
-Variant fromDecimal(DECIMAL value) {
-    Double number = 0;
-    demand(VarR8FromDec(&value, &number));
-    return number;
-}
-
-Variant fromCurrency(CY value) {
-    Double number = 0;
-    demand(VarR8FromCy(value, &number));
-    return number;
+/// Throws for a number that is none: one with more decimals than there are.
+Decimal fromDECIMAL(const DECIMAL& value) {
+    constexpr unsigned bitsOfWord = 32;
+    if (value.scale > Decimal::mostDecimals || (value.sign & ~DECIMAL_NEG) != 0)
+        throw RuntimeError(typeMismatch);
+    return {{static_cast<std::uint32_t>(value.Lo64),
+             static_cast<std::uint32_t>(value.Lo64 >> bitsOfWord),
+             static_cast<std::uint32_t>(value.Hi32)},
+            value.scale,
+            value.sign != 0};
 }
 
 Variant fromError(SCODE code) {
     if (code != DISP_E_PARAMNOTFOUND)
-        throw RuntimeError(typeMismatch);
+        return Unsupported{};
     return Missing{};
 }
 
@@ -73,6 +72,7 @@ struct ToVARIANT {
         V_ERROR(&value) = DISP_E_PARAMNOTFOUND;
         return value;
     }
+    VARIANT operator()(Unsupported) const { throw RuntimeError(typeMismatch); }
     VARIANT operator()(bool held) const {
         VARIANT value = empty(VT_BOOL);
         V_BOOL(&value) = held ? VARIANT_TRUE : VARIANT_FALSE;
@@ -103,6 +103,29 @@ struct ToVARIANT {
         V_R8(&value) = held;
         return value;
     }
+    VARIANT operator()(LongLong held) const {
+        VARIANT value = empty(VT_I8);
+        V_I8(&value) = held.value;
+        return value;
+    }
+    VARIANT operator()(UnsignedLongLong held) const {
+        VARIANT value = empty(VT_UI8);
+        V_UI8(&value) = held.value;
+        return value;
+    }
+    VARIANT operator()(Currency held) const {
+        VARIANT value = empty(VT_CY);
+        V_CY(&value).int64 = held.tenThousandths;
+        return value;
+    }
+    VARIANT operator()(const Decimal& held) const {
+        VARIANT value;
+        VariantInit(&value);
+        // The number fills the whole value, the place of its kind too.
+        V_DECIMAL(&value) = toDECIMAL(held);
+        V_VT(&value) = VT_DECIMAL;
+        return value;
+    }
     VARIANT operator()(Date held) const {
         VARIANT value = empty(VT_DATE);
         V_DATE(&value) = held.days;
@@ -123,6 +146,16 @@ struct ToVARIANT {
 };
 
 } // namespace
+
+DECIMAL toDECIMAL(const Decimal& value) {
+    constexpr unsigned bitsOfWord = 32;
+    DECIMAL number{};
+    number.Lo64 = value.words[0] | (std::uint64_t{value.words[1]} << bitsOfWord);
+    number.Hi32 = value.words[2];
+    number.scale = value.scale;
+    number.sign = value.negative ? DECIMAL_NEG : 0;
+    return number;
+}
 
 BSTR newBSTR(StringView text) {
     BSTR copy =
@@ -148,6 +181,8 @@ const VARIANT& endOfReferences(const VARIANT& value) {
 }
 
 Variant fromVARIANT(const VARIANT& value) {
+    if ((V_VT(&value) & VT_ARRAY) != 0)
+        return Unsupported{};
     if (V_ISBYREF(&value)) {
         const VARIANT& last = endOfReferences(value);
         if (!V_ISBYREF(&last))
@@ -182,21 +217,23 @@ Variant fromVARIANT(const VARIANT& value) {
     case VT_UINT:
         return narrowed(static_cast<std::uint32_t>(V_UI4(&value)));
     case VT_I8:
-        return narrowed(static_cast<std::int64_t>(V_I8(&value)));
+        return LongLong{V_I8(&value)};
     case VT_UI8:
-        return narrowed(static_cast<std::uint64_t>(V_UI8(&value)));
+        return UnsignedLongLong{V_UI8(&value)};
     case VT_R4:
         return V_R4(&value);
     case VT_R8:
         return V_R8(&value);
     case VT_CY:
-        return fromCurrency(V_CY(&value));
+        return Currency{V_CY(&value).int64};
     case VT_DECIMAL:
-        return fromDecimal(V_DECIMAL(&value));
+        return fromDECIMAL(V_DECIMAL(&value));
     case VT_DATE:
         return Date{V_DATE(&value)};
     case VT_BSTR:
         return String(viewBSTR(V_BSTR(&value)));
+    case VT_RECORD:
+        return Unsupported{};
     case VT_DISPATCH:
         return fromUnknown(V_DISPATCH(&value));
     case VT_UNKNOWN:

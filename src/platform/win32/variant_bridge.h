@@ -46,14 +46,17 @@ class OwnedVARIANT {
 /// Ends at any other value, at one that leads nowhere, and after a length that only a circle has.
 const VARIANT& endOfReferences(const VARIANT& value);
 
-/// A copy of the value, also of one that `value` only points to. Integers that no Long holds, currency and
-/// decimal numbers become Doubles. An object that is a picture or a font comes as such; any other one must
-/// answer late-bound calls. Throws RuntimeError 13 for arrays, records, references that lead nowhere and
-/// error values; an argument that was left out is no error value.
+/// A copy of the value, also of one that `value` only points to. A number keeps its digits, and its kind
+/// where a Variant has it: a signed byte comes as an Integer, an unsigned one of two bytes as a Long, one of
+/// four as a Long or Double. An object that is a picture or a font comes as such; any other one must answer
+/// late-bound calls. Arrays, records and error values come as Unsupported; an argument that was left out is
+/// no error value. Throws RuntimeError 13 for references that lead nowhere.
 Variant fromVARIANT(const VARIANT& value);
 
 /// Throws RuntimeError 7 where there is no memory for a text.
 OwnedVARIANT toVARIANT(const Variant& value);
+
+DECIMAL toDECIMAL(const Decimal& value);
 
 /// Owned by the caller, to be freed with SysFreeString; may hold zeros. Throws RuntimeError 7.
 BSTR newBSTR(StringView text);

@@ -6,6 +6,7 @@
 #include "platform/text.h"
 #include "platform/version.h"
 #include "platform/win32/object_bridge.h"
+#include "platform/win32/win32_locale.h"
 
 #include <limits>
 
@@ -63,7 +64,9 @@ class KernelHandle {
 } // namespace
 
 Win32Runtime::Win32Runtime(HINSTANCE instance)
-    : component_(componentOf(instance)), density_(screenDensity()) {}
+    : component_(componentOf(instance)), density_(screenDensity()) {
+    letUsersLocale(win32UsersLocale());
+}
 
 Single Win32Runtime::twipsPerPixelX() const {
     return twipsPerInch / static_cast<Single>(density_.x);

@@ -11,7 +11,7 @@
 
 namespace lumtex {
 
-/// Belongs to one thread. Texts of numbers, dates and times follow the user's settings; files hold text in
+/// Belongs to one thread. From the first one on, conversions follow the user's settings; files hold text in
 /// the code page of the system.
 class Win32Runtime : public Runtime {
   public:
@@ -41,10 +41,6 @@ class Win32Runtime : public Runtime {
     std::optional<StoredSetting>
     readOnlySetting(std::uint32_t hive, StringView key, StringView name) const override;
     Date now() const override;
-    String dateText(Date date) const override;
-    String timeText(Date date) const override;
-    std::optional<Double> numberFromText(StringView text) const override;
-    std::optional<Date> dateFromText(StringView text) const override;
 
     String readFile(StringView path) const override;
     void createFile(StringView path) override;

@@ -194,7 +194,7 @@ bool Win32Window::hasBox(HWND window) const {
            });
 }
 
-void Win32Window::letOLEDropMode(Integer mode) {
+void Win32Window::letOLEDropMode(Long mode) {
     constexpr Integer manual = 1;
     oleDropMode_ = mode;
     if (mode != manual || hwnd_ == nullptr)

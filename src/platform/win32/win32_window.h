@@ -38,10 +38,10 @@ class Win32Window final : public Window {
     void letVisible(bool visible) override;
     bool Enabled() const override { return enabled_; }
     void letEnabled(bool enabled) override;
-    Integer OLEDropMode() const override { return oleDropMode_; }
+    Long OLEDropMode() const override { return oleDropMode_; }
     /// 1 takes what is dragged over the window and its children, unless a child takes it itself; any other
     /// number does not. Where the thread may not have drag and drop, nothing comes.
-    void letOLEDropMode(Integer mode) override;
+    void letOLEDropMode(Long mode) override;
     Integer MousePointer() const override { return pointerShape_.shape(); }
     void letMousePointer(Integer shape) override;
     PictureRef MouseIcon() const override { return pointerShape_.icon(); }
@@ -120,7 +120,7 @@ class Win32Window final : public Window {
     bool takesKeys_ = true; ///< off: the parent has the keys for both
     bool visible_;
     bool enabled_ = true;
-    Integer oleDropMode_ = 0;
+    Long oleDropMode_ = 0;
     std::unique_ptr<DropPlace> dropPlace_; ///< while drops are taken
     PointerShape pointerShape_;
     std::vector<Win32GuideLine*> guides_;

@@ -52,8 +52,8 @@ void writeToVariant(OwnedVARIANT fresh, VARIANT& place) {
 
 } // namespace
 
-void writeBack(const Variant& value, VARIANT& argument) {
-    if (!V_ISBYREF(&argument))
+void writeBack(const Variant& value, VARIANT& argument, LCID locale) {
+    if (!V_ISBYREF(&argument) || value.isUnsupported())
         return;
     const auto type = static_cast<VARTYPE>(V_VT(&argument) & ~VT_BYREF);
     if (type == VT_VARIANT) {
@@ -61,13 +61,13 @@ void writeBack(const Variant& value, VARIANT& argument) {
         if (V_VT(&place) == (VT_BYREF | VT_VARIANT))
             throw RuntimeError(typeMismatch);
         if (V_ISBYREF(&place))
-            writeBack(value, place);
+            writeBack(value, place, locale);
         else
             writeToVariant(toVARIANT(value), place);
         return;
     }
     OwnedVARIANT fresh = toVARIANT(value);
-    demand(VariantChangeType(&fresh.get(), &fresh.get(), 0, type));
+    demand(VariantChangeTypeEx(&fresh.get(), &fresh.get(), locale, 0, type));
     switch (type) {
     case VT_BSTR:
         SysFreeString(std::exchange(*V_BSTRREF(&argument), V_BSTR(&fresh.get())));
