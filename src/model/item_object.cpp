@@ -22,24 +22,30 @@ ObjectRef lmListView::ItemObject(const Variant& Row, const Variant& Column) {
 }
 
 void lmListView::setItemObject(const Variant& Row, const Variant& Column, ObjectRef object) {
-    // This procedure tells the host of a failure instead of reporting it, and ends there.
-    const std::optional<RuntimeError> failure = failureOf([&] {
-        if (object) {
-            Long handle = 0;
-            const bool hasWindow = ignoringErrors([&] { handle = windowHandleOf(object->get(u"hwnd")); });
-            if (hasWindow) {
-                window_->adopt(handle);
+    Procedure p = procedure(u"ItemObject");
+    // Wanted: the host hears of a failure by an event before it is reported, and the next statement runs.
+    const auto statement = [&](auto body) {
+        const std::optional<RuntimeError> failure = failureOf(body);
+        if (!failure)
+            return;
+        p.step([&] { events_.ListViewError(u"ItemObject", failure->number(), failure->description()); });
+        p.step([&] { throw *failure; });
+    };
+    if (object) {
+        Long handle = 0;
+        const bool hasWindow = ignoringErrors([&] { handle = windowHandleOf(object->get(u"hwnd")); });
+        if (hasWindow) {
+            statement([&] { window_->adopt(handle); });
+            statement([&] {
                 std::array<Variant, 1> position{zOrderToBack};
                 object->call(u"ZOrder", position);
-            }
+            });
         }
+    }
+    statement([&] {
         const Cell cell = cellAt(Row, Column);
         cell.items.needExtras(cell.index).setObject(std::move(object));
     });
-    if (failure) {
-        events_.ListViewError(u"ItemObject", failure->number(), failure->description());
-        return;
-    }
     CheckForRedraw();
 }
 

@@ -22,7 +22,11 @@ void lmListView::letListIndex(Long index) {
         return;
     }
     const bool rejectedIndex = p.condition(
-        [&] { return index < 0 || index > upperBoundOfRows() || !recordAt(index).Enabled; }, true);
+        [&] {
+            const Long last = upperBoundOfRows();
+            return index < 0 || index > last || !recordAt(index).Enabled;
+        },
+        true);
     if (rejectedIndex) {
         Variant rejected = index;
         p.step([&] { events_.ErrorWrongIndex(rejected); });

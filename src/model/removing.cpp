@@ -50,6 +50,8 @@ void lmListView::removeRow(Long Index, Procedure& p) {
 void lmListView::RowsSelectedRemove() {
     const bool autoCheckScroll = properties_.AutoCheckScroll;
     const bool autoRedraw = properties_.AutoRedraw;
+    properties_.AutoCheckScroll = false;
+    properties_.AutoRedraw = false;
     paint_.paintBusy = true;
     Long row = 1;
     // Wanted: the first row is looked at before the count, so a list that never had rows reports its absence.

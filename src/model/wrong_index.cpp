@@ -22,7 +22,8 @@ bool lmListView::WrongIndex(const Variant& Index) {
     return procedure(u"WrongIndex").value<bool>([&] {
         if (!Index.isNumeric() || ArrDim(Long{0}))
             return true;
-        return Index.toDouble() < 0 || Index.toDouble() > upperBoundOfRows();
+        const Long last = upperBoundOfRows();
+        return Index.toDouble() < 0 || Index.toDouble() > last;
     });
 }
 
@@ -31,7 +32,8 @@ bool lmListView::WrongColumnIndex(const Variant& Index) {
     return procedure(u"WrongColumnIndex").value<bool>([&] {
         if (!Index.isNumeric() || ArrDim(Long{1}))
             return true;
-        return Index.toDouble() < 1 || Index.toDouble() > upperBoundOfColumns() + 1.0;
+        const Long last = upperBoundOfColumns();
+        return Index.toDouble() < 1 || Index.toDouble() > last + 1.0;
     });
 }
 

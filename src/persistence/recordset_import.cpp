@@ -1,4 +1,5 @@
 /// Filling the list from a recordset, once.
+#include "interaction/shared_count.h"
 #include "model/list_view.h"
 #include "persistence/recordset_members.h"
 
@@ -10,17 +11,18 @@ namespace {
 constexpr int mostRefusals = 2;
 
 /// The fields of the record under the cursor, each with a comma behind it but the last.
-void joinFields(RecordSource& records, String& line, Procedure& p) {
+void joinFields(RecordSource& records, String& line, Procedure& p, Long& counter) {
     line.clear();
     const Long count = p.value<Long>([&] { return records.fieldCount(); });
-    for (Long i = 0; i < count; ++i) {
+    countShared(counter, 0, count - 1, [&] {
         // A field that fails leaves its comma out too, so that those behind it move to the left.
         p.step([&] {
-            records.appendField(i, line);
+            records.appendField(counter, line);
             // Wanted: a value that holds a comma spreads over the next columns; nothing is escaped.
             line += u',';
         });
-    }
+        return true;
+    });
     p.step([&] {
         if (line.empty())
             throw RuntimeError(invalidProcedureCall);
@@ -34,8 +36,8 @@ void lmListView::setRecordset(ObjectRef recordset) {
     Procedure p = procedure(u"Recordset");
     p.step([&] { recordset_ = recordset; });
     RecordsetMembers members(std::move(recordset));
-    // A test that fails stops nothing: what follows it runs.
-    if (!p.condition([&] { return members.hasRecords(); }, true))
+    // A count that cannot be read is not above 0.
+    if (!p.condition([&] { return members.hasRecords(); }, false))
         return;
 
     const bool redraws = AutoRedraw();
@@ -46,8 +48,11 @@ void lmListView::setRecordset(ObjectRef recordset) {
     ColumnsClear();
 
     const Long columns = p.value<Long>([&] { return members.fieldCount(); });
-    for (Long i = 0; i < columns; ++i)
-        p.step([&] { ColumnsAdd(members.fieldName(i)); });
+    // Wanted: the shared counter, which the repaints of design mode move.
+    countShared(paint_.scanIndex, 0, columns - 1, [&] {
+        p.step([&] { ColumnsAdd(members.fieldName(paint_.scanIndex)); });
+        return true;
+    });
 
     p.step([&] { members.moveFirst(); });
     RecordSource& records = members.records();
@@ -55,7 +60,7 @@ void lmListView::setRecordset(ObjectRef recordset) {
     int refusals = 0;
     // Wanted: the end is asked for after the move alone, so that the first record is always taken.
     do {
-        joinFields(records, line, p);
+        joinFields(records, line, p, paint_.scanIndex);
         RowsAdd(Long{-1}, u",", line);
         refusals = p.step([&] { records.moveNext(); }) ? 0 : refusals + 1;
         // An end that cannot be asked for has come.

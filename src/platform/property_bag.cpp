@@ -24,6 +24,10 @@ bool isNothing(const Variant& value) {
 } // namespace
 
 bool sameValue(const Variant& a, const Variant& b) {
+    const FontRef* const font = a.as<FontRef>();
+    const FontRef* const other = b.as<FontRef>();
+    if (font != nullptr && other != nullptr && *font && *other)
+        return (*font)->spec == (*other)->spec;
     if (isNumber(a) && isNumber(b))
         return a.toDouble() == b.toDouble();
     return a == b || (isNothing(a) && isNothing(b));

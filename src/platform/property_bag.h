@@ -20,8 +20,8 @@ class PropertyBag {
     virtual void WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) = 0;
 };
 
-/// How bags compare a value with its default: numbers and Booleans by value, objects by identity, and an
-/// empty reference equals any other.
+/// How bags compare a value with its default: numbers and Booleans by value, fonts by their attributes,
+/// other objects by identity, and an empty reference equals any other.
 bool sameValue(const Variant& a, const Variant& b);
 
 /// Keeps its values in the order in which they were first written.

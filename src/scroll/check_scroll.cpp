@@ -1,4 +1,5 @@
 /// Which bars the list needs, and their ranges.
+#include "interaction/shared_count.h"
 #include "model/list_view.h"
 #include "platform/rounding.h"
 
@@ -19,8 +20,10 @@ void lmListView::CheckScroll() {
     const Surface& surface = window_->surface();
     Single total = 0;
     p.step([&] {
-        for (Long column = 0; column < ColumnsCount(); ++column)
-            total += columnWidthInPixels(column);
+        countShared(paint_.scanIndex, 0, ColumnsCount() - 1, [&] {
+            total += columnWidthInPixels(paint_.scanIndex);
+            return true;
+        });
     });
     // Wanted: the whole width counts, although the vertical bar takes some of it away.
     if (total > static_cast<Single>(surface.scaleWidth())) {

@@ -21,6 +21,10 @@ class Indices : public ListFixture {
 TEST_F(Indices, EveryRowIndexIsWrongOnceThereWasARow) {
     EXPECT_FALSE(list.WrongIndex(1));
     EXPECT_EQ(lastReport(), "9 WrongIndex");
+    EXPECT_FALSE(list.WrongIndex(-1)) << "the bound is asked for first";
+    EXPECT_EQ(reportCount(), 2U);
+    list.letListIndex(-2);
+    EXPECT_EQ(lastReport(), "9 ListIndex");
     addColumns({50});
     addRows(2);
     const std::size_t reports = reportCount();
@@ -37,6 +41,8 @@ TEST_F(Indices, EveryColumnIndexIsWrongOnceThereWasAColumn) {
     EXPECT_TRUE(list.WrongColumnIndex(Null{}));
     EXPECT_EQ(reportCount(), 0U);
     EXPECT_FALSE(list.WrongColumnIndex(1));
+    EXPECT_FALSE(list.WrongColumnIndex(0)) << "the bound is asked for first";
+    EXPECT_EQ(reportCount(), 2U);
     EXPECT_EQ(lastReport(), "9 WrongColumnIndex");
     addColumns({50});
     EXPECT_TRUE(list.WrongColumnIndex(1));

@@ -30,15 +30,19 @@ class RecordsetFailure : public RecordsetFixture {
     std::shared_ptr<TestRecordset> recordset = make({u"a", u"b"}, {{u"1", u"2"}, {u"3", u"4"}, {u"5", u"6"}});
 };
 
-TEST_F(RecordsetFailure, OfTheCountStopsNothing) {
+TEST_F(RecordsetFailure, OfTheCountStopsTheImport) {
     fillBefore();
-    EXPECT_EQ(load("RecordCount", always), "a|b\n1|2\n3|4\n5|6");
+    fillBefore();
+    const std::string before = content();
+    EXPECT_EQ(load("RecordCount", always), before);
     EXPECT_EQ(reports(), "3000 Recordset");
 }
 
-TEST_F(RecordsetFailure, OfACountThatIsNoNumberStopsNothing) {
+TEST_F(RecordsetFailure, OfACountThatIsNoNumberStopsTheImport) {
     recordset->countSaid = u"many";
-    EXPECT_EQ(load("", always), "a|b\n1|2\n3|4\n5|6");
+    fillBefore();
+    const std::string before = content();
+    EXPECT_EQ(load("", always), before);
     EXPECT_EQ(reports(), "13 Recordset");
 }
 
@@ -156,7 +160,7 @@ TEST_F(RecordsetFailure, OfARecordThatEndsEarly) {
     EXPECT_EQ(reports(), "");
 }
 
-TEST_F(RecordsetFailure, OfAnObjectWithoutAnyMemberEmptiesTheList) {
+TEST_F(RecordsetFailure, OfAnObjectWithoutAnyMemberChangesNothing) {
     fillBefore();
     class Stranger final : public Object {
       public:
@@ -168,24 +172,20 @@ TEST_F(RecordsetFailure, OfAnObjectWithoutAnyMemberEmptiesTheList) {
             throw RuntimeError(objectDoesNotSupportMember);
         }
     };
+    const std::string before = content();
     list.setRecordset(std::make_shared<Stranger>());
-    EXPECT_EQ(content(), "");
-    // Count to load, fields for columns, first move; fields, cut, move and end of the one record.
-    EXPECT_EQ(reports(),
-              "438 Recordset; 438 Recordset; 438 Recordset; 438 Recordset; 5 Recordset; 438 Recordset; "
-              "438 Recordset");
-    list.ColumnsAdd(u"again");
-    EXPECT_EQ(content(), "again");
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(reports(), "438 Recordset");
 }
 
 TEST_F(RecordsetFailure, OfNothingIsThatThereIsNoObject) {
     fillBefore();
+    const std::string before = content();
+    EXPECT_NE(before, "");
     list.setRecordset(nullptr);
     EXPECT_EQ(list.Recordset(), nullptr);
-    EXPECT_EQ(content(), "");
-    EXPECT_EQ(reports(),
-              "91 Recordset; 91 Recordset; 91 Recordset; 91 Recordset; 5 Recordset; 91 Recordset; "
-              "91 Recordset");
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(reports(), "91 Recordset");
 }
 
 TEST_F(RecordsetFailure, OfThePaintingAtTheEndIsNotTheRecordsets) {

@@ -44,11 +44,31 @@ TEST_F(WriteProperties, OfAListThatWasReadFromAnEmptyBagWritesNothing) {
     list.UserControl_ReadProperties(MemoryPropertyBag());
     MemoryPropertyBag bag;
     list.UserControl_WriteProperties(bag);
-    // The two fonts are clones of the container's, so they are not the default object itself.
-    std::vector<String> names;
-    for (const auto& entry : bag.entries())
-        names.push_back(entry.name);
-    EXPECT_EQ(names, (std::vector<String>{u"DefaultItemFont", u"DefaultColumnFont"}));
+    EXPECT_TRUE(bag.entries().empty());
+    list.letRowHeight(list.RowHeight() + 15);
+    list.UserControl_WriteProperties(bag);
+    ASSERT_EQ(bag.entries().size(), 1U);
+    EXPECT_EQ(bag.entries().front().name, u"RowHeight");
+}
+
+TEST_F(WriteProperties, AnUntouchedFontFollowsTheContainerAtEachLoad) {
+    MemoryPropertyBag bag;
+    list.UserControl_ReadProperties(bag);
+    list.UserControl_WriteProperties(bag);
+    host.font = std::make_shared<Font>(FontSpec{.Name = u"Other", .Size = 20});
+    list.UserControl_ReadProperties(bag);
+    EXPECT_EQ(list.DefaultItemFont()->spec, host.font->spec);
+    EXPECT_EQ(list.DefaultColumnFont()->spec, host.font->spec);
+    FontRef own = list.DefaultItemFont()->Clone();
+    own->spec.Bold = true;
+    list.setDefaultItemFont(own);
+    list.UserControl_WriteProperties(bag);
+    ASSERT_EQ(bag.entries().size(), 1U);
+    EXPECT_EQ(bag.entries().front().name, u"DefaultItemFont");
+    host.font = std::make_shared<Font>(FontSpec{.Name = u"Third", .Size = 9});
+    list.UserControl_ReadProperties(bag);
+    EXPECT_EQ(list.DefaultItemFont()->spec, own->spec);
+    EXPECT_EQ(list.DefaultColumnFont()->spec, host.font->spec);
 }
 
 TEST_F(WriteProperties, WritesTheKeysThatAreReadWithTheSameDefaults) {
