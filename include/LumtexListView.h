@@ -434,13 +434,13 @@ struct _lmListView : IDispatch {
     /// Kept for the host; it has no visible effect.
     virtual HRESULT STDMETHODCALLTYPE put_CheckMouseOver(VARIANT_BOOL value) = 0;
     /// Kept for the host; the list never starts a drag by itself.
-    virtual HRESULT STDMETHODCALLTYPE get_OLEDragMode(short* result) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_OLEDragMode(long* result) = 0;
     /// Kept for the host; the list never starts a drag by itself.
-    virtual HRESULT STDMETHODCALLTYPE put_OLEDragMode(short value) = 0;
+    virtual HRESULT STDMETHODCALLTYPE put_OLEDragMode(long value) = 0;
     /// Whether the control takes drops.
-    virtual HRESULT STDMETHODCALLTYPE get_OLEDropMode(short* result) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_OLEDropMode(long* result) = 0;
     /// Whether the control takes drops.
-    virtual HRESULT STDMETHODCALLTYPE put_OLEDropMode(short value) = 0;
+    virtual HRESULT STDMETHODCALLTYPE put_OLEDropMode(long value) = 0;
     /// Whether rows take turns with two background colours, in place of those of their cells.
     virtual HRESULT STDMETHODCALLTYPE get_AutoRowColor(VARIANT_BOOL* result) = 0;
     /// Whether rows take turns with two background colours, in place of those of their cells.

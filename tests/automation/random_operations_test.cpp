@@ -292,7 +292,7 @@ class RandomOperations : public ListFixture, public ::testing::WithParamInterfac
         for (const Member& member : members) {
             const auto field = expected.find(String(member.name));
             if (field != expected.end()) {
-                ASSERT_EQ(member.get(&list, at), field->second) << toUtf8(member.name);
+                ASSERT_EQ(member.get(&list, at, nullptr), field->second) << toUtf8(member.name);
             }
         }
     }

@@ -78,7 +78,7 @@ TEST(PropertyBag, ComparesNumbersByValueAndAllElseByKind) {
         {"a date and its number", Date{1}, 1.0, false},
         {"the same object", font, font, true},
         {"an equal font", font, std::make_shared<Font>(FontSpec{}), true},
-        {"another font", font, std::make_shared<Font>(FontSpec{.Size = 8}), false},
+        {"another font", font, std::make_shared<Font>(FontSpec{.Name = u"", .Size = 8}), false},
         {"no picture and no object", PictureRef(), ObjectRef(), true},
         {"an object and none", font, FontRef(), false},
         {"no picture and Empty", PictureRef(), {}, false},
