@@ -48,7 +48,7 @@ void lmListView::setRecordset(ObjectRef recordset) {
     ColumnsClear();
 
     const Long columns = p.value<Long>([&] { return members.fieldCount(); });
-    // Wanted: the shared counter, which the repaints of design mode move.
+    // By the counter that all long loops share.
     countShared(paint_.scanIndex, 0, columns - 1, [&] {
         p.step([&] { ColumnsAdd(members.fieldName(paint_.scanIndex)); });
         return true;

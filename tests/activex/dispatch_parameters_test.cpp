@@ -140,7 +140,7 @@ const std::vector<Refusal>& refusals() {
          {assigned},
          DISP_E_TYPEMISMATCH,
          0},
-        {"a number out of range", L"ColumnIconW", put, {number(70000)}, {assigned}, DISP_E_OVERFLOW, 0},
+        {"a number out of range", L"OLEDropMode", put, {text(L"3000000000")}, {assigned}, DISP_E_OVERFLOW, 0},
         {"a result that stands for an error, where a number belongs",
          L"ColumnWidth",
          put,

@@ -70,7 +70,7 @@ TEST_F(CallingByName, ValuesAreConvertedToTheTypesOfTheInterface) {
     EXPECT_EQ(inside.columns()[0]->ItemIconH, -1);
     EXPECT_EQ(byName.get(u"ColumnItemIconH", first), Variant(true));
     EXPECT_EQ(errorNumberOf([&] { byName.let(u"ColumnWidth", first, u"wide"); }), typeMismatch);
-    EXPECT_EQ(errorNumberOf([&] { byName.let(u"OLEDragMode", {}, Long{70000}); }), overflow);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"OLEDragMode", {}, 3e9); }), overflow);
     EXPECT_EQ(list.ColumnWidth(1), 12.5F);
     EXPECT_EQ(reportCount(), 0U);
 }

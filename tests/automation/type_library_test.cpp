@@ -146,8 +146,10 @@ TEST(TypeLibrary, MembersAreWrittenWithTypesDirectionsAndDefaults) {
     EXPECT_TRUE(
         holds(source,
               "HRESULT FindItem([in, out] BSTR* sFind, [in, out, optional, defaultvalue(1)] cFindBegin* "
-              "cBegin, [in, out, optional, defaultvalue(0)] cFindCompare* cCompare, [in, out, optional] "
-              "BSTR* sColumns, [in, out, optional] BSTR* sRows, [out, retval] FindResults* result);"));
+              "cBegin, [in, out, optional, defaultvalue(0)] cFindCompare* cCompare, [in, out, optional, "
+              "defaultvalue(1195524417)] "
+              "BSTR* sColumns, [in, out, optional, defaultvalue(1195524417)] BSTR* sRows, [out, retval] "
+              "FindResults* result);"));
     EXPECT_TRUE(holds(source, "[vararg, id(28)"));
     EXPECT_TRUE(holds(source, "HRESULT AutoColumnSize([in] SAFEARRAY(VARIANT) lColumns);"));
     EXPECT_TRUE(holds(source, "[propputref, id(159)"));

@@ -185,6 +185,7 @@ TEST_F(Accessors, AnObjectThatFailsIsToldAsAnEventReportedAndStored) {
     EXPECT_EQ(lastReport(), "9 ItemObject");
 }
 
+// Wanted: the host hears of a failure by an event before it is reported, and the next statement runs.
 TEST_F(Accessors, TheEventOfAFailingObjectComesAheadOfItsReport) {
     addColumns({50});
     addRows(1);
