@@ -30,9 +30,9 @@ void lmListView::textBoxKeyPress(Integer& KeyAscii) {
     p.step([&] { txtEdit->letVisible(false); });
     p.step([&] { txtEdit->letTabStop(txtEdit->Visible()); });
     // Wanted: raised for an unchanged text too.
-    p.step([&] {
+    p.raise([&] {
         const Long row = sumOf(edit_.lastClickRow, 1);
-        events_.ItemChanged(row, sumOf(edit_.lastClickColumn, 1), txtEdit->Text());
+        events_->ItemChanged(row, sumOf(edit_.lastClickColumn, 1), txtEdit->Text());
     });
     p.step([&] { txtEdit->letText({}); });
 }

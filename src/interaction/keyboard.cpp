@@ -17,7 +17,7 @@ constexpr Integer downKey = 40;
 void lmListView::UserControl_KeyDown(Integer KeyCode, Integer Shift) {
     Procedure p = procedure(u"UserControl_KeyDown");
     // The host may turn the key into another one.
-    events_.KeyDown(KeyCode, Shift);
+    p.raise([&] { events_->KeyDown(KeyCode, Shift); });
     // Wanted: only the key pressed last counts, so Shift and Control are never held together.
     selection_.shiftDown = KeyCode == shiftKey;
     selection_.ctrlDown = KeyCode == controlKey;
@@ -31,14 +31,16 @@ void lmListView::UserControl_KeyDown(Integer KeyCode, Integer Shift) {
 }
 
 void lmListView::UserControl_KeyPress(Integer KeyAscii) {
-    events_.KeyPress(KeyAscii);
+    Procedure p = procedure(u"UserControl_KeyPress");
+    p.raise([&] { events_->KeyPress(KeyAscii); });
 }
 
 void lmListView::UserControl_KeyUp(Integer KeyCode, Integer Shift) {
+    Procedure p = procedure(u"UserControl_KeyUp");
     // Wanted: letting go of any key clears both.
     selection_.shiftDown = false;
     selection_.ctrlDown = false;
-    events_.KeyUp(KeyCode, Shift);
+    p.raise([&] { events_->KeyUp(KeyCode, Shift); });
 }
 
 bool lmListView::rowCanBeCurrent(Long row, Procedure& p) {

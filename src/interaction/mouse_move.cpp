@@ -6,7 +6,7 @@ namespace lumtex {
 
 void lmListView::UserControl_MouseMove(Integer Button, Integer Shift, Single X, Single Y) {
     Procedure p = procedure(u"UserControl_MouseMove");
-    runtime().DoEvents();
+    yield();
     mouse_.lastMouseX = X;
     mouse_.lastMouseY = Y;
     mouse_.lastMouseButton = Button;
@@ -19,7 +19,7 @@ void lmListView::UserControl_MouseMove(Integer Button, Integer Shift, Single X, 
         headerPress_.pressPending = false;
     }
     // What the host changes counts from here on.
-    events_.MouseMove(Button, Shift, X, Y);
+    p.raise([&] { events_->MouseMove(Button, Shift, X, Y); });
     if (!properties_.HideColumnHeaders)
         moveOverHeaders(X, Y);
     if (RowsCount() < 1 || ColumnsCount() < 1)
@@ -31,8 +31,8 @@ void lmListView::UserControl_MouseMove(Integer Button, Integer Shift, Single X, 
     if (Button == leftButton)
         drag(Y, row);
     if (properties_.CheckMouseOver && !row)
-        leaveItem();
-    runtime().DoEvents();
+        leaveItem(p);
+    yield();
 }
 
 void lmListView::moveOverHeaders(Single X, Single Y) {
@@ -74,12 +74,12 @@ void lmListView::drag(Single Y, std::optional<Long> row) {
 }
 
 // Wanted: nothing stores a number in the two fields, so the event is never raised.
-void lmListView::leaveItem() {
+void lmListView::leaveItem(Procedure& p) {
     if (mouse_.hoverRow == 0 && mouse_.hoverCellColumn == 0)
         return;
     mouse_.hoverRow = 0;
     mouse_.hoverCellColumn = 0;
-    events_.ItemOver(0, 0, false);
+    p.raise([&] { events_->ItemOver(0, 0, false); });
     if (!tips_)
         tips_ = std::make_unique<QI>(world_);
     tips_->Remove(std::make_shared<SurfaceObject>(window_->hWnd()));

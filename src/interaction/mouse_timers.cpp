@@ -5,6 +5,7 @@
 namespace lumtex {
 
 void lmListView::tmrMouseIn_Timer() {
+    Procedure p = procedure(u"tmrMouseIn_Timer");
     if (designMode()) {
         tmrMouseIn->letEnabled(false);
         return;

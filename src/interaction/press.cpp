@@ -16,16 +16,16 @@ constexpr Single dividerMargin = 5;
 
 /// Any button counts.
 void lmListView::UserControl_MouseDown(Integer Button, Integer Shift, Single X, Single Y) {
+    Procedure p = procedure(u"UserControl_MouseDown");
     // Wanted: a press on an empty list is not even remembered.
     if (ColumnsCount() != 0 || RowsCount() != 0) {
-        Procedure p = procedure(u"UserControl_MouseDown");
         mouse_.lastMouseX = X;
         mouse_.lastMouseY = Y;
         mouse_.lastMouseButton = Button;
         press(X, Y, p);
         selection_.selectOnIndexSet = true;
     }
-    events_.MouseDown(Button, Shift, X, Y);
+    p.raise([&] { events_->MouseDown(Button, Shift, X, Y); });
 }
 
 void lmListView::press(Single X, Single Y, Procedure& p) {
@@ -72,7 +72,7 @@ void lmListView::pressRow(Long row, Single X, Single Y, Procedure& p) {
     });
 
     if (inCheckBoxZone(X, Y, p))
-        toggleCheckBox();
+        toggleCheckBox(p);
     else
         Redraw();
 
@@ -85,7 +85,7 @@ void lmListView::pressRow(Long row, Single X, Single Y, Procedure& p) {
     StopEdit();
     edit_.lastClickColumn = column;
     edit_.lastClickRow = row;
-    events_.ItemDown(row + 1, column + 1);
+    p.raise([&] { events_->ItemDown(row + 1, column + 1); });
 }
 
 // Wanted: a press at the place of a check box toggles the cell, whether its column draws boxes or not.
@@ -109,18 +109,19 @@ bool lmListView::inCheckBoxZone(Single X, Single Y, Procedure& p) {
         false);
 }
 
-void lmListView::toggleCheckBox() {
+void lmListView::toggleCheckBox(Procedure& p) {
     const Long& column = headerPress_.currentColumn;
     const Long row = RowIndex();
     bool cancel = false;
-    events_.ItemCheck(row, column + 1, !ItemChecked(row, column + 1), cancel);
+    const bool wanted = !ItemChecked(row, column + 1);
+    p.raise([&] { events_->ItemCheck(row, column + 1, wanted, cancel); });
     if (cancel) {
         Redraw();
         return;
     }
     letItemChecked(row, column + 1, !ItemChecked(row, column + 1));
     Redraw();
-    events_.ItemChecked(row, column + 1, ItemChecked(row, column + 1));
+    p.raise([&] { events_->ItemChecked(row, column + 1, ItemChecked(row, column + 1)); });
 }
 
 } // namespace lumtex

@@ -22,11 +22,11 @@ void lmListView::UserControl_MouseUp(Integer Button, Integer Shift, Single X, Si
             clickColumn(p);
         endHeaderPress();
     }
-    events_.MouseUp(Button, Shift, X, Y);
+    p.raise([&] { events_->MouseUp(Button, Shift, X, Y); });
     if (RowsCount() < 1 || ColumnsCount() < 1 || edit_.lastClickRow < 0 || edit_.lastClickColumn < 0)
         return;
     if (const std::optional<Long> row = rowUnder(Y, RowEdge::excluded, p))
-        releaseOnRow(*row);
+        releaseOnRow(*row, p);
 }
 
 void lmListView::endResize(Single X, Procedure& p) {
@@ -48,7 +48,7 @@ void lmListView::endResize(Single X, Procedure& p) {
 
 void lmListView::clickColumn(Procedure& p) {
     Long column = headerPress_.hoverColumn + 1;
-    events_.ColumnClick(column);
+    p.raise([&] { events_->ColumnClick(column); });
     if (!p.condition([&] { return columnAt(headerPress_.hoverColumn).AllowSorting; }, false))
         return;
     sort_.sortColumn = headerPress_.hoverColumn;
@@ -64,17 +64,17 @@ void lmListView::endHeaderPress() {
     Line1->letVisible(false);
     headerPress_.resizeColumn = -1;
     headerPress_.pressPending = false;
-    runtime().DoEvents();
+    yield();
     Redraw();
 }
 
 /// `row` counts from 0. The cell of a release is remembered as that of a press is, so a press on it counts as
 /// the second one.
-void lmListView::releaseOnRow(Long row) {
+void lmListView::releaseOnRow(Long row, Procedure& p) {
     const Long& column = headerPress_.currentColumn;
-    events_.ItemUp(row + 1, column + 1);
+    p.raise([&] { events_->ItemUp(row + 1, column + 1); });
     if (edit_.lastClickColumn == column && edit_.lastClickRow == row)
-        events_.ItemClick(row + 1, column + 1);
+        p.raise([&] { events_->ItemClick(row + 1, column + 1); });
     edit_.lastClickRow = row;
     edit_.lastClickColumn = column;
 }

@@ -21,11 +21,13 @@ void lmListView::SetEdit(const Variant& Row, const Variant& Column) {
         txtEdit->letLeft(static_cast<Single>(static_cast<Double>(left) - HS->Value() + 1));
     });
 
-    txtEdit->letVisible(true);
-    txtEdit->letTabStop(txtEdit->Visible());
-    txtEdit->setFocus();
-    txtEdit->letSelStart(0);
-    txtEdit->letSelLength(static_cast<Long>(txtEdit->Text().size()));
+    if (life_.hasEnded())
+        return;
+    p.step([&] { txtEdit->letVisible(true); });
+    p.step([&] { txtEdit->letTabStop(txtEdit->Visible()); });
+    p.step([&] { txtEdit->setFocus(); });
+    p.step([&] { txtEdit->letSelStart(0); });
+    p.step([&] { txtEdit->letSelLength(static_cast<Long>(txtEdit->Text().size())); });
 }
 
 // Wanted: a number counted from 1 against a top row counted from 0, and the way down goes past the row.

@@ -28,7 +28,8 @@ struct HashOfValue {
 
 std::size_t hashOf(const CellStyle& style) {
     std::size_t seed = style.ForeColor;
-    for (const Variant* color : {&style.BackColor, &style.ForeColorSelect, &style.BackColorSelect})
+    for (const Variant* color :
+         {&style.BackColor.get(), &style.ForeColorSelect.get(), &style.BackColorSelect.get()})
         mix(seed, color->visit(HashOfValue{}));
     mix(seed, style.ForeColorDis);
     mix(seed, style.BackColorDis);

@@ -6,6 +6,7 @@
 #include "platform/color.h"
 #include "platform/font.h"
 #include "platform/variant.h"
+#include "services/held.h"
 
 #include <deque>
 #include <unordered_set>
@@ -17,9 +18,9 @@ namespace lumtex {
 /// decides.
 struct CellStyle {
     OLE_COLOR ForeColor = 0;
-    Variant BackColor = u"def";
-    Variant ForeColorSelect = u"def";
-    Variant BackColorSelect = u"def";
+    Held<Variant> BackColor = u"def";
+    Held<Variant> ForeColorSelect = u"def";
+    Held<Variant> BackColorSelect = u"def";
     OLE_COLOR ForeColorDis = grayText;
     OLE_COLOR BackColorDis = buttonFace;
     cItemAlign IconAlignment = cItemLeft;

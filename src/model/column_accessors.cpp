@@ -13,8 +13,9 @@ constexpr Single numberOf(bool value) {
 } // namespace
 
 template <class T>
-T ListViewRecords::columnGet(StringView name, const Variant& Index, T ColumnHeader::*field) {
-    return procedure(name).value<T>([&] { return columnAt(zeroBased(Index)).*field; });
+ValueOf<T> ListViewRecords::columnGet(StringView name, const Variant& Index, T ColumnHeader::*field) {
+    Procedure p = procedure(name);
+    return p.value<ValueOf<T>>([&]() -> ValueOf<T> { return columnAt(zeroBased(Index)).*field; });
 }
 
 template <class T, class Value>
@@ -22,7 +23,8 @@ void ListViewRecords::columnLet(StringView name,
                                 const Variant& Index,
                                 T ColumnHeader::*field,
                                 Value&& value) {
-    procedure(name).step([&] { columnAt(zeroBased(Index)).*field = std::forward<Value>(value); });
+    Procedure p = procedure(name);
+    p.step([&] { columnAt(zeroBased(Index)).*field = std::forward<Value>(value); });
     CheckForRedraw();
 }
 

@@ -5,6 +5,7 @@
 #include "model/enumerations.h"
 #include "platform/color.h"
 #include "platform/picture.h"
+#include "services/held.h"
 
 namespace lumtex {
 
@@ -12,9 +13,9 @@ namespace lumtex {
 struct ColumnHeader {
     bool AllowSorting = false; ///< a click on the header may sort
     String Text;
-    PictureRef Icon;
-    PictureRef IconHover; ///< while the mouse is over the header
-    PictureRef IconDown;  ///< while the header is pressed
+    Held<PictureRef> Icon;
+    Held<PictureRef> IconHover; ///< while the mouse is over the header
+    Held<PictureRef> IconDown;  ///< while the header is pressed
     cColumnHeaderAlign IconAlignment = cColumnLeft;
     Single Left = 0;  ///< twips
     Single Width = 0; ///< twips

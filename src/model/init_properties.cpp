@@ -20,7 +20,7 @@ bool runsInKnownProgram(const ComponentInfo& component) {
 /// A container without a font leaves that of the design.
 void lmListView::takeContainersFont() {
     ignoringErrors([&] {
-        if (const FontRef font = host_.parentFont())
+        if (const FontRef font = host_->parentFont())
             lblFont->spec = font->spec;
     });
 }

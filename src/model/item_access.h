@@ -8,12 +8,14 @@ namespace lumtex {
 
 template <class T, class Read>
 T ListViewRecords::itemGet(StringView name, const Variant& Row, const Variant& Column, Read read) {
-    return procedure(name).value<T>([&] { return read(cellAt(Row, Column)); });
+    Procedure p = procedure(name);
+    return p.value<T>([&]() -> T { return read(cellAt(Row, Column)); });
 }
 
 template <class Write>
 void ListViewRecords::itemLet(StringView name, const Variant& Row, const Variant& Column, Write write) {
-    procedure(name).step([&] { write(cellAt(Row, Column)); });
+    Procedure p = procedure(name);
+    p.step([&] { write(cellAt(Row, Column)); });
     CheckForRedraw();
 }
 

@@ -5,13 +5,18 @@
 namespace lumtex {
 
 template <class T>
-T ListViewRecords::styleGet(StringView name, const Variant& Row, const Variant& Column, T CellStyle::*field) {
-    return itemGet<T>(name, Row, Column, [&](const Cell& cell) { return cell.item().style().*field; });
+ValueOf<T>
+ListViewRecords::styleGet(StringView name, const Variant& Row, const Variant& Column, T CellStyle::*field) {
+    return itemGet<ValueOf<T>>(
+        name, Row, Column, [&](const Cell& cell) { return cell.item().style().*field; });
 }
 
 template <class T>
-void ListViewRecords::styleLet(
-    StringView name, const Variant& Row, const Variant& Column, T CellStyle::*field, const T& value) {
+void ListViewRecords::styleLet(StringView name,
+                               const Variant& Row,
+                               const Variant& Column,
+                               T CellStyle::*field,
+                               const ValueOf<T>& value) {
     itemLet(name, Row, Column, [&](const Cell& cell) {
         if constexpr (std::is_same_v<T, Variant>) {
             if (value.isUnsupported())
@@ -35,13 +40,11 @@ void ListViewRecords::fontLet(
 }
 
 template <class T>
-T ListViewRecords::extraGet(StringView name,
-                            const Variant& Row,
-                            const Variant& Column,
-                            T CellExtras::*field) {
-    return itemGet<T>(name, Row, Column, [&](const Cell& cell) {
+ValueOf<T>
+ListViewRecords::extraGet(StringView name, const Variant& Row, const Variant& Column, T CellExtras::*field) {
+    return itemGet<ValueOf<T>>(name, Row, Column, [&](const Cell& cell) {
         const CellExtras* extras = cell.items.extras(cell.index);
-        return extras != nullptr ? extras->*field : T{};
+        return extras != nullptr ? static_cast<const ValueOf<T>&>(extras->*field) : ValueOf<T>{};
     });
 }
 
@@ -117,9 +120,8 @@ bool ListViewRecords::ItemEnabled(const Variant& Row, const Variant& Column) {
 
 // Wanted: no repaint, so that a whole row can be switched and painted once.
 void ListViewRecords::letItemEnabled(const Variant& Row, const Variant& Column, bool enabled) {
-    procedure(u"ItemEnabled").step([&] {
-        cellAt(Row, Column).item().restyle([&](CellStyle& style) { style.Enabled = enabled; });
-    });
+    Procedure p = procedure(u"ItemEnabled");
+    p.step([&] { cellAt(Row, Column).item().restyle([&](CellStyle& style) { style.Enabled = enabled; }); });
 }
 
 Variant ListViewRecords::ItemTag(const Variant& Row, const Variant& Column) {
@@ -129,7 +131,8 @@ Variant ListViewRecords::ItemTag(const Variant& Row, const Variant& Column) {
 
 // Wanted: no repaint here either.
 void ListViewRecords::letItemTag(const Variant& Row, const Variant& Column, const Variant& tag) {
-    procedure(u"ItemTag").step([&] {
+    Procedure p = procedure(u"ItemTag");
+    p.step([&] {
         const Cell cell = cellAt(Row, Column);
         if (tag.isUnsupported())
             throw RuntimeError(typeMismatch);

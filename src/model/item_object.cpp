@@ -28,7 +28,7 @@ void lmListView::setItemObject(const Variant& Row, const Variant& Column, Object
         const std::optional<RuntimeError> failure = failureOf(body);
         if (!failure)
             return;
-        p.step([&] { events_.ListViewError(u"ItemObject", failure->number(), failure->description()); });
+        p.raise([&] { events_->ListViewError(u"ItemObject", failure->number(), failure->description()); });
         p.step([&] { throw *failure; });
     };
     if (object) {

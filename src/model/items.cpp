@@ -12,14 +12,15 @@ namespace lumtex {
 struct Items::Block {
     using Extras = std::vector<std::unique_ptr<CellExtras>>;
 
-    static constexpr std::size_t mostCells = (std::size_t{1} << 23U) - 1;
+    static constexpr std::size_t mostCells = (std::size_t{1} << 20U) - 1;
+    static constexpr std::size_t mostReferences = (std::size_t{1} << 23U) - 1;
 
-    // Sixteen bytes in all, since every row has one. Only a record that is being moved is held more than
-    // once.
-    std::uint64_t references : 16 = 1;
+    // Sixteen bytes in all, since every row has one. A record is held more than once while it is moved, and
+    // for good where host code took rows away meanwhile.
+    std::uint64_t references : 23 = 1;
     std::uint64_t moved : 1 = 0;
-    std::uint64_t count : 23 = 0;
-    std::uint64_t capacity : 24 = 0;
+    std::uint64_t count : 20 = 0;
+    std::uint64_t capacity : 20 = 0;
     union {
         Extras* extras = nullptr; ///< owned; null while no cell has any
         Block* successor;         ///< once moved; holds one reference
@@ -60,9 +61,16 @@ Items Items::create(std::size_t capacity) {
     return items;
 }
 
-Items::Items(const Items& other) noexcept : block_(other.block()) {
-    if (block_ != nullptr)
-        ++block_->references;
+Items::Items(const Items& other) : block_(shared(other.block())) {}
+
+/// Counts one holder more.
+Items::Block* Items::shared(Block* block) {
+    if (block == nullptr)
+        return nullptr;
+    if (block->references == Block::mostReferences)
+        throw std::length_error("a row has too many copies");
+    ++block->references;
+    return block;
 }
 
 Items::~Items() {
@@ -71,10 +79,9 @@ Items::~Items() {
 
 Items::Block* Items::block() const {
     while (block_ != nullptr && block_->moved != 0) {
-        Block* successor = block_->successor;
-        ++successor->references;
-        release(block_);
-        block_ = successor;
+        Block* const signpost = block_;
+        block_ = shared(signpost->successor);
+        release(signpost);
     }
     return block_;
 }
@@ -160,7 +167,7 @@ Variant Items::tag(std::size_t index) const {
     if ((*this)[index].tagIsEmptyText())
         return u"";
     const CellExtras* rare = extras(index);
-    return rare != nullptr ? rare->Tag : Variant();
+    return rare != nullptr ? rare->Tag.get() : Variant();
 }
 
 void Items::letTag(std::size_t index, const Variant& tag) {

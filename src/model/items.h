@@ -19,9 +19,10 @@ class Items {
     /// An empty collection with room for `capacity` cells.
     static Items create(std::size_t capacity);
 
-    Items(const Items& other) noexcept;
+    /// Throws std::length_error for some millions of copies.
+    Items(const Items& other);
     Items(Items&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
-    Items& operator=(const Items& other) noexcept {
+    Items& operator=(const Items& other) {
         Items copy(other);
         std::swap(block_, copy.block_);
         return *this;
@@ -64,6 +65,7 @@ class Items {
 
     /// The block that holds the cells now; a block that grew leaves its successor's address behind.
     Block* block() const;
+    static Block* shared(Block* block);
     static void release(Block* block);
     static Block* allocate(std::size_t capacity);
     Block* grow(std::size_t capacity);

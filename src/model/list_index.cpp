@@ -5,11 +5,12 @@
 namespace lumtex {
 
 Long lmListView::ListIndex() {
+    Procedure p = procedure(u"ListIndex");
     // Wanted: the stored number is not compared with the count of rows, so a stale one comes back as it
     // stands.
     const Long index = RowsCount() >= 1 ? properties_.ListIndex : -1;
     // Wanted: each read yields to the host once.
-    runtime().DoEvents();
+    yield();
     return index;
 }
 
@@ -18,7 +19,7 @@ void lmListView::letListIndex(Long index) {
     if (index == -1) {
         NoSelected();
         properties_.ListIndex = -1;
-        p.step([&] { host_.PropertyChanged(u"ListIndex"); });
+        p.step([&] { host_->PropertyChanged(u"ListIndex"); });
         return;
     }
     const bool rejectedIndex = p.condition(
@@ -29,7 +30,7 @@ void lmListView::letListIndex(Long index) {
         true);
     if (rejectedIndex) {
         Variant rejected = index;
-        p.step([&] { events_.ErrorWrongIndex(rejected); });
+        p.raise([&] { events_->ErrorWrongIndex(rejected); });
         return;
     }
     if (properties_.ClickOnIndexChange)
@@ -47,11 +48,12 @@ void lmListView::letListIndex(Long index) {
         p.step([&] { rowAt(Variant(index + 1)).Selected = true; });
         CheckForRedraw();
     }
-    p.step([&] { host_.PropertyChanged(u"ListIndex"); });
+    p.step([&] { host_->PropertyChanged(u"ListIndex"); });
 }
 
 Long lmListView::RowIndex() {
-    return procedure(u"RowIndex").value<Long>([&] { return roundToLong(ListIndex() + 1.0); });
+    Procedure p = procedure(u"RowIndex");
+    return p.value<Long>([&] { return roundToLong(ListIndex() + 1.0); });
 }
 
 void lmListView::letRowIndex(Long index) {

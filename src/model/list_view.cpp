@@ -1,4 +1,4 @@
-/// Birth and end of the control.
+/// Birth of the control, and what all its rooms stand on.
 #include "model/list_view.h"
 
 namespace lumtex {
@@ -17,16 +17,19 @@ const FontSpec designFont{.Name = u"Verdana", .Size = 9.75F};
 } // namespace
 
 lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Window* parent)
-    : world_(world), host_(host), events_(events), window_(world.createWindow(parent, *this)),
+    : ListViewLife(this, destroy), world_(world), host_(&host), events_(&events),
+      window_(world.createWindow(parent, *this)),
       VS(std::make_unique<lmVScroll>(
-          world, *window_, ScrollBar::Events{[this] { VS_Change(); }, [this] { VS_Scroll(); }})),
+          world, *window_, ScrollBar::Events{[this] { VS_Change(); }, [this] { VS_Scroll(); }}, &life_)),
       HS(std::make_unique<lmHScroll>(
-          world, *window_, ScrollBar::Events{[this] { HS_Change(); }, [this] { HS_Scroll(); }})),
-      Wheel1(std::make_unique<Wheel>(world,
-                                     *window_,
-                                     [this](Integer& Rotation, Integer& Keys, Single& X, Single& Y) {
-                                         Wheel1_WheelScroll(Rotation, Keys, X, Y);
-                                     })),
+          world, *window_, ScrollBar::Events{[this] { HS_Change(); }, [this] { HS_Scroll(); }}, &life_)),
+      Wheel1(std::make_unique<Wheel>(
+          world,
+          *window_,
+          [this](Integer& Rotation, Integer& Keys, Single& X, Single& Y) {
+              Wheel1_WheelScroll(Rotation, Keys, X, Y);
+          },
+          &life_)),
       txtEdit(world.createTextBox(*window_, *this)), Line1(world.createGuideLine(*window_)),
       tmrMouseIn(world.createTimer([this] { tmrMouseIn_Timer(); })),
       tmrMouseAction(world.createTimer([this] { tmrMouseAction_Timer(); })),
@@ -44,18 +47,14 @@ lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Windo
     paint_.paintBusy = false;
 }
 
-lmListView::~lmListView() {
-    UserControl_Terminate();
-}
-
-/// Everything but the wheel goes with its owner.
-void lmListView::UserControl_Terminate() {
-    if (!designMode())
-        Wheel1->DisableWheel();
-}
-
 Procedure lmListView::procedure(StringView name) const {
-    return Procedure{runtime(), name, ModuleKind::control, u"lmListView"};
+    return {runtime(), name, ModuleKind::control, u"lmListView", &life_};
+}
+
+/// The host's turn. A control that has ended has no more business with it.
+void lmListView::yield() {
+    if (!life_.hasEnded())
+        runtime().DoEvents();
 }
 
 void lmListView::CheckForRedraw() {

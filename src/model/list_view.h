@@ -5,6 +5,7 @@
 
 #include "model/enumerations.h"
 #include "model/list_view_events.h"
+#include "model/list_view_life.h"
 #include "model/list_view_properties.h"
 #include "model/list_view_records.h"
 #include "platform/host.h"
@@ -16,6 +17,7 @@
 #include "services/qi.h"
 
 #include <initializer_list>
+#include <new>
 #include <optional>
 #include <span>
 
@@ -30,15 +32,21 @@ struct PropertyKey;
 /// twips, all other sizes pixels. No member throws: a failure is reported (see `reportError`), what was
 /// stored before the failing statement stays, and a get that failed returns its type's zero.
 ///
-/// The world, the host and the event receiver must outlive the control. After construction the host calls
-/// exactly one of the two `UserControl_...Properties` entry points.
-class lmListView final : public UserControl,
+/// The world must outlive the control and its last call, the host and the event receiver the control alone.
+/// After construction the host calls exactly one of the two `UserControl_...Properties` entry points. A
+/// control that host code may end from within its calls is made by `new`.
+class lmListView final : private ListViewLife,
+                         public UserControl,
                          public ListViewProperties,
                          public ListViewRecords,
                          private TextBoxClient {
   public:
     lmListView(World& world, Host& host, lmListViewEvents& events, Window* parent = nullptr);
     ~lmListView() override;
+    /// Host code may `delete` a list while calls of it run. For the host it has ended then: it raises and
+    /// reports nothing more, and lets go of all that it held. Its memory goes when the last of the calls
+    /// returns.
+    static void operator delete(lmListView* list, std::destroying_delete_t /*tag*/);
 
     // Lifecycle
 
@@ -258,24 +266,30 @@ class lmListView final : public UserControl,
     Long defaultJumpLines() const;
     std::vector<PropertyKey> propertyKeys() const;
     void UserControl_Terminate();
+    void end();
+    bool holdsAnything() const;
+    void dropContent();
+    static void destroy(void* list);
 
     // Failure path
 
     Procedure procedure(StringView name) const override;
     Runtime& runtime() const { return world_.runtime(); }
+    void yield();
 
     // Model (model/)
 
     StyleHandle emptyItemStyle();
     void appendCell(Items& items, StringView text, StyleHandle style);
     void growRows();
+    Long placeOfNewRow(Variant& aIndex, Procedure& p);
     void removeRow(Long Index, Procedure& p);
     void CheckForRedraw() override;
     void CheckProperty();
-    bool designMode() const { return !host_.UserMode(); }
+    bool designMode() const { return !host_->UserMode(); }
 
-    void propertyStored(Property property) override;
-    void storeFont(Property property, FontRef& field, const FontRef& font);
+    void propertyStored(Property property, Procedure& p) override;
+    void storeFont(Property property, Held<FontRef>& field, const FontRef& font);
 
     // Painting (render/)
 
@@ -313,16 +327,16 @@ class lmListView final : public UserControl,
     void pressRow(Long row, Single X, Single Y, Procedure& p);
     void pressSelection(Long row, Procedure& p);
     bool inCheckBoxZone(Single X, Single Y, Procedure& p);
-    void toggleCheckBox();
+    void toggleCheckBox(Procedure& p);
 
     void moveOverHeaders(Single X, Single Y);
     void drag(Single Y, std::optional<Long> row);
-    void leaveItem();
+    void leaveItem(Procedure& p);
 
     void endResize(Single X, Procedure& p);
     void clickColumn(Procedure& p);
     void endHeaderPress();
-    void releaseOnRow(Long row);
+    void releaseOnRow(Long row, Procedure& p);
 
     void tmrMouseIn_Timer();
     void tmrMouseAction_Timer();
@@ -360,8 +374,8 @@ class lmListView final : public UserControl,
     bool stopsWheel(Procedure& p, Long index);
 
     World& world_;
-    Host& host_;
-    lmListViewEvents& events_;
+    Host* host_;
+    lmListViewEvents* events_;
     std::unique_ptr<Window> window_;
 
     // Children, under the names of their event handlers.

@@ -9,9 +9,10 @@ thread_local std::size_t objectCount = 0;
 } // namespace
 
 void CellExtras::setObject(ObjectRef object) {
-    objectCount += object ? 1 : 0;
+    Held<ObjectRef> fresh(std::move(object));
+    objectCount += fresh ? 1 : 0;
     objectCount -= object_ ? 1 : 0;
-    object_ = std::move(object);
+    object_ = std::move(fresh);
 }
 
 std::size_t CellExtras::objectsInCells() {
@@ -31,9 +32,9 @@ ListViewItem::~ListViewItem() {
 
 void ListViewItem::share(const CellStyle& style) {
     CellStyles& styles = CellStyles::ofThread();
-    const StyleHandle shared = styles.acquire(style);
-    styles.release(style_);
-    style_ = shared;
+    const StyleHandle before = style_;
+    style_ = styles.acquire(style);
+    styles.release(before);
 }
 
 } // namespace lumtex

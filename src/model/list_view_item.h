@@ -16,19 +16,19 @@ struct CellExtras {
     CellExtras& operator=(const CellExtras&) = delete;
     ~CellExtras() { setObject(nullptr); }
 
-    PictureRef Icon;
-    PictureRef IconSelected;
-    Variant Tag; ///< Empty until the host writes it; also where it is the empty text
+    Held<PictureRef> Icon;
+    Held<PictureRef> IconSelected;
+    Held<Variant> Tag; ///< Empty until the host writes it; also where it is the empty text
     String ToolTip;
 
-    const ObjectRef& object() const { return object_; }
+    const ObjectRef& object() const { return object_.get(); }
     void setObject(ObjectRef object);
 
     /// How many cells of this thread hold an object. While none does, a pass need not look for them.
     static std::size_t objectsInCells();
 
   private:
-    ObjectRef object_;
+    Held<ObjectRef> object_;
 };
 
 /// A cell in 24 bytes: its text, a share of a style, and the width that painting measured. The rare fields
@@ -53,8 +53,9 @@ class ListViewItem {
     /// Takes a share of another style.
     void letStyle(StyleHandle style) {
         CellStyles::ofThread().addReference(style);
-        CellStyles::ofThread().release(style_);
+        const StyleHandle before = style_;
         style_ = style;
+        CellStyles::ofThread().release(before);
     }
     /// Applies `change` to a copy of the style and shares the result.
     template <class Change>

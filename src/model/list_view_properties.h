@@ -4,6 +4,7 @@
 
 #include "model/properties.h"
 #include "model/setter_table.h"
+#include "services/procedure.h"
 
 namespace lumtex {
 
@@ -155,7 +156,8 @@ class ListViewProperties {
 
   protected:
     /// A plain setter stored its value; the rest stands in `setterTable`.
-    virtual void propertyStored(Property property) = 0;
+    virtual void propertyStored(Property property, Procedure& p) = 0;
+    virtual Procedure procedure(StringView name) const = 0;
 
     // Reached by the property bag alone.
     bool AllowItemMoving() const { return properties_.AllowItemMoving; }
@@ -165,7 +167,7 @@ class ListViewProperties {
 
   private:
     template <class T>
-    void store(Property property, T& field, T value);
+    void store(Property property, T& field, ValueOf<T> value);
 };
 
 } // namespace lumtex

@@ -146,7 +146,7 @@ class ListViewRecords : protected ListViewState {
     Cell cellAt(const Variant& Row, const Variant& Column);
 
     template <class T>
-    T columnGet(StringView name, const Variant& Index, T ColumnHeader::*field);
+    ValueOf<T> columnGet(StringView name, const Variant& Index, T ColumnHeader::*field);
     template <class T, class Value>
     void columnLet(StringView name, const Variant& Index, T ColumnHeader::*field, Value&& value);
     template <class T>
@@ -158,17 +158,20 @@ class ListViewRecords : protected ListViewState {
     template <class Write>
     void itemLet(StringView name, const Variant& Row, const Variant& Column, Write write);
     template <class T>
-    T styleGet(StringView name, const Variant& Row, const Variant& Column, T CellStyle::*field);
+    ValueOf<T> styleGet(StringView name, const Variant& Row, const Variant& Column, T CellStyle::*field);
     template <class T>
-    void
-    styleLet(StringView name, const Variant& Row, const Variant& Column, T CellStyle::*field, const T& value);
+    void styleLet(StringView name,
+                  const Variant& Row,
+                  const Variant& Column,
+                  T CellStyle::*field,
+                  const ValueOf<T>& value);
     template <class T>
     T fontGet(StringView name, const Variant& Row, const Variant& Column, T FontSpec::*field);
     template <class T>
     void
     fontLet(StringView name, const Variant& Row, const Variant& Column, T FontSpec::*field, const T& value);
     template <class T>
-    T extraGet(StringView name, const Variant& Row, const Variant& Column, T CellExtras::*field);
+    ValueOf<T> extraGet(StringView name, const Variant& Row, const Variant& Column, T CellExtras::*field);
 };
 
 } // namespace lumtex

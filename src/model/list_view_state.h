@@ -46,7 +46,7 @@ class ListViewState {
     FindState find_;
     ScrollState scroll_;
     ContentState content_;
-    ObjectRef recordset_;                ///< as it was assigned; the list has taken its records already
+    Held<ObjectRef> recordset_;          ///< as it was assigned; the list has taken its records already
     std::shared_ptr<LumtexAbout> about_; ///< the form of the world, from the first `About` on
 };
 

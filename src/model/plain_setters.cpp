@@ -4,14 +4,15 @@
 namespace lumtex {
 
 template <class T>
-void ListViewProperties::store(Property property, T& field, T value) {
-    field = std::move(value);
-    propertyStored(property);
+void ListViewProperties::store(Property property, T& field, ValueOf<T> value) {
+    Procedure p = procedure(setterOf(property).name);
+    p.step([&] { field = std::move(value); });
+    propertyStored(property, p);
 }
 
-void lmListView::propertyStored(Property property) {
+void lmListView::propertyStored(Property property, Procedure& p) {
     const auto& [name, setterClass] = setterOf(property);
-    procedure(name).step([&, name = name] { host_.PropertyChanged(name); });
+    p.step([&, name = name] { host_->PropertyChanged(name); });
     switch (setterClass) {
     case SetterClass::checkForRedraw:
         CheckForRedraw();

@@ -5,6 +5,7 @@
 #include "model/enumerations.h"
 #include "platform/font.h"
 #include "platform/picture.h"
+#include "services/held.h"
 
 namespace lumtex {
 
@@ -14,7 +15,7 @@ constexpr Single defaultRowHeight = 16;
 /// Everything starts at zero; `UserControl_InitProperties` gives the values of a new instance. What hosts see
 /// of each, and what setting it does, stands with its setter.
 struct Properties {
-    FontRef DefaultItemFont;
+    Held<FontRef> DefaultItemFont;
     OLE_COLOR DefaultItemForeColor = 0;
     OLE_COLOR BackColor = 0;
     OLE_COLOR BackColorDisabled = 0;
@@ -48,7 +49,7 @@ struct Properties {
     bool HideColumnHeaders = false;
     Long ColumnTextY = 0; ///< pixels
     bool MoveColumnTextAtDown = false;
-    FontRef DefaultColumnFont;
+    Held<FontRef> DefaultColumnFont;
     OLE_COLOR DefaultColumnForeColor = 0;
     Single EmptyColumnFieldWidth = 0; ///< twips
     OLE_COLOR ColumnBackColor = 0;
@@ -74,8 +75,8 @@ struct Properties {
     cTextPosition TextPositionDefault = cTextPosTop;
     bool DrawItemIcons = false;
     bool DrawColumnIcons = false;
-    PictureRef BackgroundPicture;
-    PictureRef Skin;
+    Held<PictureRef> BackgroundPicture;
+    Held<PictureRef> Skin;
     bool FixColumns = false;
     bool CheckMouseOver = false;
     Long OLEDragMode = 0;

@@ -11,9 +11,12 @@ void lmListView::RowsRemove(Variant& Index) {
     const bool outOfRange = p.condition(
         [&] { return Index.toDouble() < 1 || Index.toDouble() > upperBoundOfRows() + 1.0; }, true);
     if (!outOfRange) {
-        p.step([&] { Index = Index.toLong(); });
-        removeRow(Index.toLong(), p);
-        CheckForRedraw();
+        Long row = 0;
+        if (p.step([&] { row = Index.toLong(); })) {
+            p.step([&] { writeBack(Index, row); });
+            removeRow(row, p);
+            CheckForRedraw();
+        }
     }
     // Wanted: the scroll check comes after the repaint, and for a place out of range too.
     if (properties_.AutoCheckScroll)
@@ -38,7 +41,7 @@ void lmListView::removeRow(Long Index, Procedure& p) {
     for (; row <= last; ++row) {
         p.step([&] { recordAt(row - 1) = recordAt(row); });
         // Wanted: the host gets its turn after each row, and sees the row behind the gap twice.
-        runtime().DoEvents();
+        yield();
     }
     // Wanted: ListIndex, NewIndex and the top row keep their numbers.
     if (RowsCount() < 2)
@@ -48,6 +51,7 @@ void lmListView::removeRow(Long Index, Procedure& p) {
 }
 
 void lmListView::RowsSelectedRemove() {
+    Procedure p = procedure(u"RowsSelectedRemove");
     const bool autoCheckScroll = properties_.AutoCheckScroll;
     const bool autoRedraw = properties_.AutoRedraw;
     properties_.AutoCheckScroll = false;
@@ -71,6 +75,7 @@ void lmListView::RowsSelectedRemove() {
 void lmListView::ColumnsRemove(const Variant& /*Index*/) {
     if (!columnsAllocated_)
         return;
+    Procedure p = procedure(u"ColumnsRemove");
     // Wanted: every index is a wrong one once there are columns, so no column ever goes.
     if (properties_.AutoCheckScroll)
         CheckScroll();

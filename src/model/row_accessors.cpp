@@ -5,12 +5,14 @@ namespace lumtex {
 
 template <class T>
 T ListViewRecords::rowGet(StringView name, const Variant& Index, T RowRecord::*field) {
-    return procedure(name).value<T>([&] { return rowAt(Index).*field; });
+    Procedure p = procedure(name);
+    return p.value<T>([&] { return rowAt(Index).*field; });
 }
 
 template <class T>
 void ListViewRecords::rowLet(StringView name, const Variant& Index, T RowRecord::*field, T value) {
-    procedure(name).step([&] { rowAt(Index).*field = value; });
+    Procedure p = procedure(name);
+    p.step([&] { rowAt(Index).*field = value; });
     CheckForRedraw();
 }
 
@@ -19,7 +21,8 @@ bool ListViewRecords::RowEnabled(const Variant& Index) {
 }
 
 void ListViewRecords::letRowEnabled(const Variant& Index, bool enabled) {
-    procedure(u"RowEnabled").step([&] { rowAt(Index).Enabled = enabled; });
+    Procedure p = procedure(u"RowEnabled");
+    p.step([&] { rowAt(Index).Enabled = enabled; });
     for (Long column = 1; column <= ColumnsCount(); ++column)
         letItemEnabled(Index, column, enabled);
     CheckForRedraw();
@@ -72,7 +75,8 @@ void lmListView::letRowSelected(const Variant& Index, bool selected) {
 }
 
 Long ListViewRecords::RowSelectedCount() {
-    return procedure(u"RowSelectedCount").value<Long>([&] {
+    Procedure p = procedure(u"RowSelectedCount");
+    return p.value<Long>([&] {
         const Long last = upperBoundOfRows();
         Long count = 0;
         for (Long row = 0; row <= last; ++row)

@@ -54,6 +54,20 @@ void lmListView::growRows() {
     rowsAllocated_ = true;
 }
 
+/// Where the row goes that stands last now; a place out of range becomes that of the last row, for the caller
+/// too.
+Long lmListView::placeOfNewRow(Variant& aIndex, Procedure& p) {
+    // A place that cannot be understood counts as out of range.
+    const bool outOfRange =
+        p.condition([&] { return aIndex.toDouble() < 0 || aIndex.toDouble() > upperBoundOfRows(); }, true);
+    if (outOfRange)
+        p.step([&] { writeBack(aIndex, upperBoundOfRows()); });
+    Long place = 0;
+    if (!p.step([&] { place = aIndex.toLong(); }))
+        p.step([&] { place = upperBoundOfRows(); });
+    return place;
+}
+
 void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<StringView> aItemTexts) {
     if (ColumnsCount() == 0)
         return;
@@ -72,22 +86,23 @@ void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<Strin
             appendCell(cells, pieces.next(), style.handle());
     });
 
-    const auto last = static_cast<Long>(rows_.size()) - 1;
-    Long place = last;
-    // A place that cannot be understood counts as out of range.
-    const bool outOfRange =
-        p.condition([&] { return aIndex.toDouble() < 0 || aIndex.toDouble() > last; }, true);
-    if (outOfRange)
-        p.step([&] { aIndex = last; });
-    p.step([&] { place = aIndex.toLong(); });
-
-    std::rotate(rows_.begin() + place, rows_.end() - 1, rows_.end());
-    RowRecord& row = rows_[static_cast<std::size_t>(place)];
-    row.Enabled = true;
-    row.Selected = false;
-    row.Checked = false;
-    row.TextPosition = properties_.TextPositionDefault;
-    properties_.NewIndex = place;
+    const Long place = placeOfNewRow(aIndex, p);
+    // A report above may have let host code take rows away, the new one among them.
+    const bool placed = p.step([&] {
+        RowRecord row = std::move(recordAt(upperBoundOfRows()));
+        if (place < 0 || place > upperBoundOfRows()) {
+            rows_.back() = std::move(row);
+            throw RuntimeError(subscriptOutOfRange);
+        }
+        std::move_backward(rows_.begin() + place, rows_.end() - 1, rows_.end());
+        row.Enabled = true;
+        row.Selected = false;
+        row.Checked = false;
+        row.TextPosition = properties_.TextPositionDefault;
+        rows_[static_cast<std::size_t>(place)] = std::move(row);
+    });
+    if (placed)
+        properties_.NewIndex = place;
 
     if (properties_.AutoCheckScroll)
         CheckScroll();

@@ -10,7 +10,7 @@ void lmListView::letEnabled(bool value) {
     p.step([&] { window_->letEnabled(value); });
     p.step([&] { VS->letEnabled(value); });
     p.step([&] { HS->letEnabled(value); });
-    p.step([&] { host_.PropertyChanged(u"Enabled"); });
+    p.step([&] { host_->PropertyChanged(u"Enabled"); });
     Redraw();
 }
 
@@ -20,7 +20,7 @@ void lmListView::letColorStyle(cColorStyle value) {
     // A scheme carries the bars along; the custom style leaves them as they are.
     if (value != cCustom)
         letScrollColorStyle(static_cast<cScrollColorStyle>(value));
-    p.step([&] { host_.PropertyChanged(u"ColorStyle"); });
+    p.step([&] { host_->PropertyChanged(u"ColorStyle"); });
     CheckForRedraw();
 }
 
@@ -29,7 +29,7 @@ void lmListView::letScrollColorStyle(cScrollColorStyle value) {
     p.step([&] { properties_.ScrollColorStyle = value; });
     p.step([&] { VS->letColorStyle(value); });
     p.step([&] { HS->letColorStyle(value); });
-    p.step([&] { host_.PropertyChanged(u"ScrollColorStyle"); });
+    p.step([&] { host_->PropertyChanged(u"ScrollColorStyle"); });
 }
 
 void lmListView::letScrollButtonJumpLines(Long value) {
@@ -39,7 +39,7 @@ void lmListView::letScrollButtonJumpLines(Long value) {
     Procedure p = procedure(u"ScrollButtonJumpLines");
     p.step([&] { properties_.ScrollButtonJumpLines = value; });
     p.step([&] { VS->letScrollButtonJumpLines(value); });
-    p.step([&] { host_.PropertyChanged(u"ScrollButtonJumpLines"); });
+    p.step([&] { host_->PropertyChanged(u"ScrollButtonJumpLines"); });
 }
 
 void lmListView::letAutoCheckScroll(bool value) {
@@ -47,7 +47,7 @@ void lmListView::letAutoCheckScroll(bool value) {
     p.step([&] { properties_.AutoCheckScroll = value; });
     if (value)
         CheckScroll();
-    p.step([&] { host_.PropertyChanged(u"AutoCheckScroll"); });
+    p.step([&] { host_->PropertyChanged(u"AutoCheckScroll"); });
 }
 
 void lmListView::letAutoRedraw(bool value) {
@@ -55,23 +55,23 @@ void lmListView::letAutoRedraw(bool value) {
     p.step([&] { properties_.AutoRedraw = value; });
     if (value)
         Redraw();
-    p.step([&] { host_.PropertyChanged(u"AutoRedraw"); });
+    p.step([&] { host_->PropertyChanged(u"AutoRedraw"); });
 }
 
 void lmListView::letRowsDynamic(bool value) {
     Procedure p = procedure(u"RowsDynamic");
     p.step([&] { properties_.RowsDynamic = value; });
-    p.step([&] { host_.PropertyChanged(u"RowsDynamic"); });
+    p.step([&] { host_->PropertyChanged(u"RowsDynamic"); });
     if (properties_.AutoCheckScroll)
         CheckScroll();
     CheckForRedraw();
 }
 
-void lmListView::storeFont(Property property, FontRef& field, const FontRef& font) {
+void lmListView::storeFont(Property property, Held<FontRef>& field, const FontRef& font) {
     const StringView name = setterOf(property).name;
     Procedure p = procedure(name);
     p.step([&] { field = CloneFont(font); });
-    p.step([&] { host_.PropertyChanged(name); });
+    p.step([&] { host_->PropertyChanged(name); });
     CheckForRedraw();
 }
 
@@ -88,14 +88,14 @@ void lmListView::setSkin(PictureRef picture) {
     p.step([&] { properties_.Skin = std::move(picture); });
     SplitSkin();
     Redraw();
-    p.step([&] { host_.PropertyChanged(u"Skin"); });
+    p.step([&] { host_->PropertyChanged(u"Skin"); });
 }
 
 void lmListView::letOLEDropMode(Long value) {
     Procedure p = procedure(u"OLEDropMode");
     p.step([&] { properties_.OLEDropMode = value; });
     p.step([&] { window_->letOLEDropMode(value); });
-    p.step([&] { host_.PropertyChanged(u"OLEDropMode"); });
+    p.step([&] { host_->PropertyChanged(u"OLEDropMode"); });
 }
 
 void lmListView::letTextPositionDefault(cTextPosition value) {

@@ -19,7 +19,8 @@ Long ListViewRecords::upperBoundOfColumns() const {
 
 // Wanted: every index is wrong as soon as the array exists, and without one the test itself fails.
 bool lmListView::WrongIndex(const Variant& Index) {
-    return procedure(u"WrongIndex").value<bool>([&] {
+    Procedure p = procedure(u"WrongIndex");
+    return p.value<bool>([&] {
         if (!Index.isNumeric() || ArrDim(Long{0}))
             return true;
         const Long last = upperBoundOfRows();
@@ -29,7 +30,8 @@ bool lmListView::WrongIndex(const Variant& Index) {
 
 // Wanted: the same for columns.
 bool lmListView::WrongColumnIndex(const Variant& Index) {
-    return procedure(u"WrongColumnIndex").value<bool>([&] {
+    Procedure p = procedure(u"WrongColumnIndex");
+    return p.value<bool>([&] {
         if (!Index.isNumeric() || ArrDim(Long{1}))
             return true;
         const Long last = upperBoundOfColumns();

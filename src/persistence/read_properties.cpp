@@ -7,9 +7,11 @@ void lmListView::UserControl_ReadProperties(const PropertyBag& bag) {
     Procedure p = procedure(u"UserControl_ReadProperties");
     takeContainersFont();
     recogniseProgram();
+    std::vector<PropertyKey> keys;
+    p.step([&] { keys = propertyKeys(); });
     p.step([&] { paint_.paintBusy = true; });
     // A value that cannot be used is reported, and reading goes on with the next key.
-    for (const PropertyKey& key : propertyKeys())
+    for (const PropertyKey& key : keys)
         p.step([&] { key.let(*this, bag.ReadProperty(key.name, key.byDefault)); });
     p.step([&] { paint_.paintBusy = false; });
 

@@ -118,11 +118,11 @@ bool WholeRecordSaving::write(Long row, Long column) {
             return;
         }
         const CellExtras* extras = cells->extras(index);
-        const bool hasTag = extras != nullptr && !extras->Tag.isEmpty();
+        const bool hasTag = extras != nullptr && !extras->Tag.get().isEmpty();
         if (extras != nullptr &&
-            (extras->Icon || extras->IconSelected || (hasTag && !extras->Tag.isString())))
+            (extras->Icon || extras->IconSelected || (hasTag && !extras->Tag.get().isString())))
             return;
-        const StringView tag = hasTag ? StringView(*extras->Tag.text()) : StringView();
+        const StringView tag = hasTag ? StringView(*extras->Tag.get().text()) : StringView();
         const Look& look = lookOf(item.styleHandle());
         const std::size_t size = lengthSize + textSize + look.beforeTag.size() + lengthSize + tag.size() +
                                  look.behindTag.size() + noPictures;

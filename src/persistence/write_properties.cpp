@@ -7,7 +7,9 @@ namespace lumtex {
 
 void lmListView::UserControl_WriteProperties(PropertyBag& bag) {
     Procedure p = procedure(u"UserControl_WriteProperties");
-    const std::vector<PropertyKey> keys = propertyKeys();
+    std::vector<PropertyKey> keys;
+    if (!p.step([&] { keys = propertyKeys(); }))
+        return;
     const auto write = [&](const PropertyKey& key) {
         p.step([&] { bag.WriteProperty(key.name, key.get(*this), key.byDefault); });
     };

@@ -47,6 +47,7 @@ constexpr auto descriptions = std::to_array<Description>({
     {429, u"ActiveX component can't create object"},
     {430, u"Class does not support Automation or does not support expected interface"},
     {438, u"Object doesn't support this property or method"},
+    {440, u"Automation error"},
     {448, u"Named argument not found"},
     {449, u"Argument not optional"},
     {450, u"Wrong number of arguments or invalid property assignment"},

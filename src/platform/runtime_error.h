@@ -32,6 +32,7 @@ enum ErrorNumber : Long {
     invalidFileFormat = 321,
     cannotCreateObject = 429,
     objectDoesNotSupportMember = 438,
+    automationError = 440,
     argumentNotOptional = 449,
     wrongNumberOfArguments = 450,
     invalidPicture = 481,

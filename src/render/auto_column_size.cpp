@@ -28,7 +28,7 @@ void lmListView::AutoColumnSize(std::span<const Variant> lColumns) {
     const String spec = columnSpec(lColumns);
     const Long columns = ColumnsCount();
     for (Long column = 0; column < columns; ++column) {
-        runtime().DoEvents();
+        yield();
         // Wanted: the number is looked for as a text, so that 12 fits column 2 too.
         const String number = Variant(column + 1).toText() + u",";
         if (spec.empty() || spec.find(number) != String::npos)

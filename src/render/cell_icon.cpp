@@ -6,17 +6,19 @@
 
 namespace lumtex {
 
-void PaintPass::chooseCheckBox(const ListViewItem& item) {
+void PaintPass::chooseCheckBox() {
     checkBoxCell = properties.Style == cCheckBoxes && list.ColumnCheckBoxes(state.scanColumn);
     if (checkBoxCell) {
-        const auto& boxes = item.style().Enabled ? list.artwork_.img : list.artwork_.imgd;
-        cellIcon = boxes[item.Checked() ? 2 : 1];
+        statement([&] {
+            const auto& boxes = style().Enabled ? list.artwork_.img : list.artwork_.imgd;
+            cellIcon = boxes[item().Checked() ? 2 : 1];
+        });
     } else if (!properties.DrawItemIcons) {
         cellIcon = nullptr;
     }
 }
 
-void PaintPass::cellIconPicture(const CellStyle& style) {
+void PaintPass::cellIconPicture() {
     const Picture& box = *list.artwork_.img[1];
     Single iconBoxWidth = properties.IconW;
     statement([&] {
@@ -35,10 +37,13 @@ void PaintPass::cellIconPicture(const CellStyle& style) {
     const auto iconY = static_cast<Single>(state.textRect.Top);
     const Single d = downOffset;
     Single iconX = penX + 5 + d;
-    if (style.IconAlignment == cItemRight)
-        iconX = penX + columnWidthPx - 5 - iconBoxWidth + d;
-    else if (style.IconAlignment == cItemCenter) // Wanted: no shift and no inset in the middle.
-        iconX = (columnWidthPx - iconBoxWidth) / 2 + penX;
+    statement([&] {
+        const cItemAlign alignment = style().IconAlignment;
+        if (alignment == cItemRight)
+            iconX = penX + columnWidthPx - 5 - iconBoxWidth + d;
+        else if (alignment == cItemCenter) // Wanted: no shift and no inset in the middle.
+            iconX = (columnWidthPx - iconBoxWidth) / 2 + penX;
+    });
 
     // The text lies below the picture.
     statement([&] {

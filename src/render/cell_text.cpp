@@ -6,14 +6,15 @@
 namespace lumtex {
 
 /// Makes room beside the text where the icon stands at the same side; elsewhere the two may overlap.
-void PaintPass::cellIconRoom(const CellStyle& style) {
+void PaintPass::cellIconRoom() {
     Rect& rect = state.textRect;
+    const cItemAlign alignment = style().IconAlignment;
     // Wanted: a check box takes the room of an icon, not its own 13 pixels.
     const Single d = downOffset;
-    if (style.IconAlignment == cItemLeft && textAlignment == dtLeft)
+    if (alignment == cItemLeft && textAlignment == dtLeft)
         rect.Left =
             roundToLong(properties.IconW + static_cast<Single>(rect.Left) + properties.DistPicText + d);
-    else if (style.IconAlignment == cItemRight && textAlignment == dtRight)
+    else if (alignment == cItemRight && textAlignment == dtRight)
         rect.Right =
             roundToLong(static_cast<Single>(rect.Right) - (properties.IconW + properties.DistPicText) + d);
 }
@@ -46,10 +47,13 @@ Long PaintPass::textFormatForCell() {
     return format;
 }
 
-void PaintPass::cellText(ListViewItem& item) {
-    statement([&] { item.text().copyTo(state.cellText); });
+void PaintPass::cellText() {
+    statement([&] { item().text().copyTo(state.cellText); });
     statement([&] { textFormat = textFormatForCell(); });
-    statement([&] { item.letTextWidth(surface.textWidth(state.cellText)); });
+    statement([&] {
+        const Single width = surface.textWidth(state.cellText);
+        item().letTextWidth(width);
+    });
     statement([&] { surface.drawText(state.cellText, state.textRect, textFormat); });
 }
 

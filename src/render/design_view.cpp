@@ -35,7 +35,7 @@ void lmListView::paintDesignView() {
     });
     p.step([&] {
         surface.letCurrentY(margin);
-        surface.print(host_.extenderName());
+        surface.print(host_->extenderName());
     });
     if (properties_.BorderVisible)
         DrawBorder();

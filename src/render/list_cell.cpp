@@ -24,29 +24,39 @@ void PaintPass::listCell() {
         statement([] { throw RuntimeError(subscriptOutOfRange); });
         return;
     }
-    ListViewItem& item = items[index];
     bool rowSelected = false;
     statement([&] { rowSelected = list.rowAt(Variant(state.scanIndex + 1)).Selected; });
 
-    cellBackground(item, rowSelected);
-    const CellExtras* extras = items.extras(index);
-    if (extras != nullptr && extras->object()) {
-        cellObject(extras->object());
+    cellBackground(rowSelected);
+    if (const CellExtras* rare = extras(); rare != nullptr && rare->object()) {
+        cellObject(rare->object());
         return;
     }
-    const CellStyle& style = item.style();
-    statement([&] { surface.letForeColor(style.ForeColor); });
-    statement([&] { surface.setFont(style.font); });
-    statement([&] { cellRectangle(style); });
-    cellColorsAndIcon(item, rowSelected);
+    statement([&] { surface.letForeColor(style().ForeColor); });
+    statement([&] { surface.setFont(style().font); });
+    statement([&] { cellRectangle(); });
+    cellColorsAndIcon(rowSelected);
     checkpoint();
-    chooseCheckBox(item);
+    chooseCheckBox();
     statement([&] { surface.letForeColor(textColor); });
     if (cellIcon)
-        statement([&] { cellIconRoom(style); });
-    cellText(item);
+        statement([&] { cellIconRoom(); });
+    cellText();
     if (cellIcon)
-        cellIconPicture(style);
+        cellIconPicture();
+}
+
+/// Throws 9 where host code at a report moved the pass to a column without a cell.
+ListViewItem& PaintPass::item() {
+    const auto index = static_cast<std::size_t>(state.scanColumn - 1);
+    if (index >= items.count())
+        throw RuntimeError(subscriptOutOfRange);
+    return items[index];
+}
+
+/// Null while the cell has nothing rare.
+const CellExtras* PaintPass::extras() const {
+    return items.extras(static_cast<std::size_t>(state.scanColumn - 1));
 }
 
 /// Wanted: with dynamic rows the font in force is that of the cell painted before.
@@ -59,21 +69,21 @@ OLE_COLOR PaintPass::selectionColor(const Variant& color, OLE_COLOR otherwise) c
     return isDefault(color) ? otherwise : color.toColor();
 }
 
-void PaintPass::cellBackground(const ListViewItem& item, bool rowSelected) {
-    const CellStyle& style = item.style();
+void PaintPass::cellBackground(bool rowSelected) {
     // Wanted: with HideSelection no colour is chosen, and the one that a pass starts with is black.
     if (!properties.HideSelection) {
         statement([&] {
-            if (!style.Enabled)
-                fillColor = static_cast<Long>(style.BackColorDis);
+            const CellStyle& look = style();
+            if (!look.Enabled)
+                fillColor = static_cast<Long>(look.BackColorDis);
             else if (rowSelected && (properties.FullRowSelect || state.scanColumn == 1))
-                fillColor = static_cast<Long>(selectionColor(style.BackColorSelect, list.aktValueColor()));
+                fillColor = static_cast<Long>(selectionColor(look.BackColorSelect, list.aktValueColor()));
             else if (properties.AutoRowColor)
                 fillColor = static_cast<Long>(state.scanIndex % 2 != 0 ? properties.RowColorSecond
                                                                        : properties.RowColorFirst);
             else
                 fillColor =
-                    isDefault(style.BackColor) ? noFill : static_cast<Long>(style.BackColor.toColor());
+                    isDefault(look.BackColor) ? noFill : static_cast<Long>(look.BackColor.get().toColor());
         });
     }
     // The row's top pixel line stays free for the grid line of the row before.
@@ -88,39 +98,47 @@ void PaintPass::cellBackground(const ListViewItem& item, bool rowSelected) {
     }
 }
 
-void PaintPass::cellRectangle(const CellStyle& style) {
-    if (style.Alignment == cItemLeft || style.Alignment == cItemCenter || style.Alignment == cItemRight)
-        textAlignment = style.Alignment;
+void PaintPass::cellRectangle() {
+    const cItemAlign alignment = style().Alignment;
+    if (alignment == cItemLeft || alignment == cItemCenter || alignment == cItemRight)
+        textAlignment = alignment;
     state.textRect = {roundToLong(penX + 5),
                       roundToLong(rowY),
                       roundToLong(penX + columnWidthPx - 3),
                       roundToLong(rowY + static_cast<Single>(cellHeight))};
 }
 
-void PaintPass::cellColorsAndIcon(const ListViewItem& item, bool rowSelected) {
-    const CellStyle& style = item.style();
-    const CellExtras* extras = items.extras(static_cast<std::size_t>(state.scanColumn - 1));
-    const PictureRef icon = extras != nullptr ? extras->Icon : nullptr;
-    if (!style.Enabled) {
-        textColor = style.ForeColorDis;
-        cellIcon = icon;
-    } else if (rowSelected) {
-        // The open editor follows its row.
-        if (list.txtEdit->Visible())
-            statement([&] { list.txtEdit->letTop(rowY + 1); });
-        statement([&] {
-            textColor = properties.FullRowSelect || state.scanColumn == 1
-                            ? selectionColor(style.ForeColorSelect, white)
-                            : style.ForeColor;
-        });
-        // Wanted: the picture follows the row's selection in every column, also where the text colour does
-        // not.
-        const PictureRef selected = extras != nullptr ? extras->IconSelected : nullptr;
-        cellIcon = properties.DefaultIconSelectedIsIcon && !selected ? icon : selected;
-    } else {
-        textColor = style.ForeColor;
-        cellIcon = icon;
+void PaintPass::cellColorsAndIcon(bool rowSelected) {
+    const auto takeIcon = [&](Held<PictureRef> CellExtras::*field) {
+        const CellExtras* rare = extras();
+        cellIcon = rare != nullptr ? rare->*field : Held<PictureRef>();
+    };
+    bool enabled = true;
+    statement([&] { enabled = style().Enabled; });
+    if (!enabled) {
+        statement([&] { textColor = style().ForeColorDis; });
+        statement([&] { takeIcon(&CellExtras::Icon); });
+        return;
     }
+    if (!rowSelected) {
+        statement([&] { textColor = style().ForeColor; });
+        statement([&] { takeIcon(&CellExtras::Icon); });
+        return;
+    }
+    // The open editor follows its row.
+    if (list.txtEdit->Visible())
+        statement([&] { list.txtEdit->letTop(rowY + 1); });
+    statement([&] {
+        textColor = properties.FullRowSelect || state.scanColumn == 1
+                        ? selectionColor(style().ForeColorSelect, white)
+                        : style().ForeColor;
+    });
+    // Wanted: the picture follows the row's selection in every column, also where the text colour does not.
+    statement([&] {
+        takeIcon(&CellExtras::IconSelected);
+        if (properties.DefaultIconSelectedIsIcon && !cellIcon)
+            takeIcon(&CellExtras::Icon);
+    });
 }
 
 } // namespace lumtex

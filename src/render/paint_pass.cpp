@@ -7,8 +7,8 @@
 
 namespace lumtex {
 
-PaintPass::PaintPass(lmListView& owner)
-    : PaintPassValues(owner, owner.properties_, owner.paint_, owner.window_->surface()) {}
+PaintPass::PaintPass(lmListView& owner, Procedure& p)
+    : PaintPassValues(owner, p, owner.properties_, owner.paint_, owner.window_->surface()) {}
 
 void PaintPass::run() {
     if (state.paintBusy)
@@ -24,7 +24,7 @@ void PaintPass::run() {
     }
     // The flag goes first, so that a paint queued meanwhile can run at once.
     state.paintBusy = false;
-    list.runtime().DoEvents();
+    list.yield();
 }
 
 void PaintPass::runSteps() {
@@ -34,7 +34,8 @@ void PaintPass::runSteps() {
     // Up to the rows a failure goes to the host as an event, and painting may be tried again.
     const std::optional<RuntimeError> failure = failureOf([&] { backgroundAndHeaders(); });
     if (failure) {
-        list.events_.ListViewError(u"Redraw", failure->number(), failure->description());
+        procedure.raise(
+            [&] { list.events_->ListViewError(u"Redraw", failure->number(), failure->description()); });
         state.paintBusy = false;
         throw PassEnds{};
     }

@@ -10,10 +10,12 @@ namespace lumtex {
 /// What a pass works on, and the working values that its steps hand to one another. What must outlive the
 /// pass lies in `PaintState`.
 struct PaintPassValues {
-    PaintPassValues(lmListView& owner, Properties& values, PaintState& kept, Surface& target)
-        : list(owner), properties(values), state(kept), surface(target) {}
+    PaintPassValues(
+        lmListView& owner, Procedure& guard, Properties& values, PaintState& kept, Surface& target)
+        : list(owner), procedure(guard), properties(values), state(kept), surface(target) {}
 
     lmListView& list;
+    Procedure& procedure; ///< of `Redraw`; outlives the pass
     Properties& properties;
     PaintState& state;
     Surface& surface;
@@ -28,7 +30,7 @@ struct PaintPassValues {
     Single rowBandHeight = 0;  ///< the row's height as it will be stored and stepped
     Single lastIconHeight = 0; ///< of the last icon laid out in this pass; 0 until the first
     Byte downOffset = 0;       ///< text shift of the last header cell painted; the list's cells read it too
-    PictureRef cellIcon;       ///< the picture chosen for the current cell, or none
+    Held<PictureRef> cellIcon; ///< the picture chosen for the current cell, or none
     Long fillColor = 0;        ///< -1: no fill; keeps its value where a cell assigns none
     Long textAlignment = 0;    ///< keeps its value where a cell assigns none
     OLE_COLOR textColor = 0;
@@ -43,7 +45,7 @@ struct PaintPassValues {
 /// list_cell.cpp, cell_text.cpp, cell_icon.cpp, cell_object.cpp.
 class PaintPass : private PaintPassValues {
   public:
-    explicit PaintPass(lmListView& owner);
+    PaintPass(lmListView& owner, Procedure& p);
 
     void run();
 
@@ -91,19 +93,23 @@ class PaintPass : private PaintPassValues {
     void rowCells();
     void finishRow();
 
-    // Cells (list_cell.cpp, cell_text.cpp, cell_icon.cpp, cell_object.cpp)
+    // Cells (list_cell.cpp, cell_text.cpp, cell_icon.cpp, cell_object.cpp). The cell is looked up anew in
+    // each statement, since the report of the one before may have changed it, or moved it to another place.
 
     void listCell();
     void measureCellHeight();
-    void cellBackground(const ListViewItem& item, bool rowSelected);
+    ListViewItem& item();
+    const CellStyle& style() { return item().style(); }
+    const CellExtras* extras() const;
+    void cellBackground(bool rowSelected);
     OLE_COLOR selectionColor(const Variant& color, OLE_COLOR otherwise) const;
     void cellObject(const ObjectRef& shared);
-    void cellRectangle(const CellStyle& style);
-    void cellColorsAndIcon(const ListViewItem& item, bool rowSelected);
-    void chooseCheckBox(const ListViewItem& item);
-    void cellIconRoom(const CellStyle& style);
-    void cellText(ListViewItem& item);
-    void cellIconPicture(const CellStyle& style);
+    void cellRectangle();
+    void cellColorsAndIcon(bool rowSelected);
+    void chooseCheckBox();
+    void cellIconRoom();
+    void cellText();
+    void cellIconPicture();
     Long textFormatForCell();
 };
 

@@ -10,7 +10,7 @@ namespace lumtex {
 template <class Statement>
 void PaintPass::statement(Statement body) {
     const bool silent = silentError();
-    const bool succeeded = list.procedure(u"Redraw").step(body);
+    const bool succeeded = procedure.step(body);
     if (!succeeded && !silent)
         throw PassEnds{};
 }

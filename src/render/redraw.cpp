@@ -4,10 +4,13 @@
 namespace lumtex {
 
 void lmListView::Redraw() {
+    if (life_.hasEnded())
+        return;
+    Procedure p = procedure(u"Redraw");
     if (designMode())
         paintDesignView();
     else
-        PaintPass(*this).run();
+        PaintPass(*this, p).run();
 }
 
 void lmListView::ClearListView() {

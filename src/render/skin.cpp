@@ -19,7 +19,7 @@ constexpr OLE_COLOR boardColor = white;
 
 void lmListView::SplitSkin() {
     Procedure p = procedure(u"SplitSkin");
-    const PictureRef source = properties_.Skin ? properties_.Skin : artwork_.imgDefault;
+    const PictureRef source = properties_.Skin ? properties_.Skin.get() : artwork_.imgDefault;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         p.step([&] {
             const auto width = static_cast<Single>(pieces[i].width);

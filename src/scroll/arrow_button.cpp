@@ -5,8 +5,9 @@
 
 namespace lumtex {
 
-ArrowButton::ArrowButton(World& world, Window& parent, Arrow arrow, std::function<void()> step)
-    : world_(world), traits_(traitsOf(arrow)), step_(std::move(step)),
+ArrowButton::ArrowButton(
+    World& world, Window& parent, Arrow arrow, std::function<void()> step, ControlLife* life)
+    : world_(world), life_(life), traits_(traitsOf(arrow)), step_(std::move(step)),
       img_(ScrollArtwork::standard().buttonOf(arrow)), window_(world.createWindow(&parent, *this)),
       Timer1(world.createTimer([this] { Timer1_Timer(); })) {
     window_->letTakesKeys(false);
@@ -16,7 +17,7 @@ ArrowButton::ArrowButton(World& world, Window& parent, Arrow arrow, std::functio
 }
 
 Procedure ArrowButton::procedure(StringView name) const {
-    return {world_.runtime(), name, ModuleKind::control, traits_.moduleName};
+    return {world_.runtime(), name, ModuleKind::control, traits_.moduleName, life_};
 }
 
 void ArrowButton::letC(Long style) {
@@ -35,6 +36,7 @@ void ArrowButton::letColor(OLE_COLOR ArrowColors::*role, OLE_COLOR color) {
 }
 
 void ArrowButton::UC_MDown() {
+    Procedure p = procedure(u"UC_MDown");
     UserControl_MouseDown(leftButton, 0, 0, 0);
     RedrawButton();
 }
@@ -70,7 +72,8 @@ void ArrowButton::Timer1_Timer() {
 }
 
 void ArrowButton::UserControl_MouseMove(Integer /*Button*/, Integer /*Shift*/, Single X, Single Y) {
-    procedure(u"UserControl_MouseMove").step([&] { hover_.MouseOut(*window_, X, Y); });
+    Procedure p = procedure(u"UserControl_MouseMove");
+    p.step([&] { hover_.MouseOut(*window_, X, Y); });
     lastX_ = X;
     lastY_ = Y;
     RedrawButton();
@@ -78,13 +81,15 @@ void ArrowButton::UserControl_MouseMove(Integer /*Button*/, Integer /*Shift*/, S
 
 // Wanted: a release leaves the hover look as it is, also one that the trough made.
 void ArrowButton::UserControl_MouseUp(Integer /*Button*/, Integer /*Shift*/, Single /*X*/, Single /*Y*/) {
+    Procedure p = procedure(u"UserControl_MouseUp");
     hover_.down = false;
     RedrawButton();
-    procedure(u"UserControl_MouseUp").step([&] { Timer1->letEnabled(false); });
+    p.step([&] { Timer1->letEnabled(false); });
 }
 
 void ArrowButton::UserControl_Resize() {
-    procedure(u"UserControl_Resize").step([&] {
+    Procedure p = procedure(u"UserControl_Resize");
+    p.step([&] {
         const Surface& surface = window_->surface();
         const Picture& first = pictureAt(img_, 1);
         window_->place(window_->Left(),

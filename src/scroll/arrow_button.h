@@ -22,7 +22,9 @@ class ArrowButton final : public UserControl {
 
     /// `step` is the one event, `ValueUp` or `ValueDown`: at once with the press, again after both intervals,
     /// then at each repeat for as long as the pointer is over the button.
-    ArrowButton(World& world, Window& parent, Arrow arrow, std::function<void()> step);
+    /// `life` is that of the control that it belongs to.
+    ArrowButton(
+        World& world, Window& parent, Arrow arrow, std::function<void()> step, ControlLife* life = nullptr);
 
     // Each repaints.
 
@@ -59,6 +61,7 @@ class ArrowButton final : public UserControl {
     void paintCustom(Procedure& p);
 
     World& world_;
+    ControlLife* life_;
     const ArrowTraits& traits_;
     std::function<void()> step_;
     const ButtonArtwork& img_;

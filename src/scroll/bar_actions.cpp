@@ -24,9 +24,10 @@ void ScrollBar::thumbMouseMove(Integer Button, Single X, Single Y) {
 }
 
 void ScrollBar::thumbMouseUp() {
+    Procedure p = procedure(u"MouseUp");
     MoveScroll(Move::mouseup, noButton, 0);
     ÜberprüfeValue();
-    events_.change();
+    p.step([&] { events_.change(); });
 }
 
 /// `position` is in pixels of the thumb. The thumb moves under the pointer, so that the anchor stays.
@@ -101,6 +102,7 @@ void ScrollBar::press(ArrowButton& button, Single position, Long direction) {
 }
 
 void ScrollBar::UserControl_MouseDown(Integer /*Button*/, Integer /*Shift*/, Single X, Single Y) {
+    Procedure p = procedure(u"UserControl_MouseDown");
     const Single position = axis_.along(X, Y);
     if (position > axis_.end(thumb_.window()))
         press(high_, position, traits_.pressHigh);
@@ -111,6 +113,7 @@ void ScrollBar::UserControl_MouseDown(Integer /*Button*/, Integer /*Shift*/, Sin
 }
 
 void ScrollBar::UserControl_MouseUp(Integer /*Button*/, Integer /*Shift*/, Single /*X*/, Single /*Y*/) {
+    Procedure p = procedure(u"UserControl_MouseUp");
     low_.UC_MUp();
     high_.UC_MUp();
     pressActive_ = false;

@@ -7,20 +7,23 @@ namespace lumtex {
 // position. Wanted: a flag, not a counter, so that a nested change clears it for the outer one too.
 
 void lmListView::VS_Change() {
+    Procedure p = procedure(u"VS_Change");
     scroll_.scrollPending = true;
-    runtime().DoEvents();
+    yield();
     scroll_.scrollPending = false;
     Redraw();
 }
 
 void lmListView::VS_Scroll() {
+    Procedure p = procedure(u"VS_Scroll");
     VS_Change();
-    events_.Scroll();
+    p.raise([&] { events_->Scroll(); });
 }
 
 void lmListView::HS_Change() {
+    Procedure p = procedure(u"HS_Change");
     scroll_.scrollPending = true;
-    runtime().DoEvents();
+    yield();
     scroll_.scrollPending = false;
     Redraw();
 }

@@ -28,6 +28,7 @@ void ScrollBar::layOut() {
 }
 
 void ScrollBar::UserControl_Resize() {
+    Procedure p = procedure(u"UserControl_Resize");
     layOut();
     // Wanted: the length alone decides, so that a disabled thumb can come back.
     ignoringErrors([&] {

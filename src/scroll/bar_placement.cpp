@@ -35,6 +35,7 @@ void lmListView::CheckScrollPlacement() {
 }
 
 void lmListView::UserControl_Resize() {
+    Procedure p = procedure(u"UserControl_Resize");
     // Wanted: the ranges, and whether the bars are needed, stay as the last check left them.
     CheckScrollPlacement();
     Redraw();

@@ -2,23 +2,26 @@
 
 namespace lumtex {
 
-ScrollBar::ScrollBar(World& world, Window& parent, const BarTraits& traits, Events events)
-    : world_(world), traits_(traits), axis_(traits.axis), events_(std::move(events)),
+ScrollBar::ScrollBar(World& world, Window& parent, const BarTraits& traits, Events events, ControlLife* life)
+    : world_(world), life_(life), traits_(traits), axis_(traits.axis), events_(std::move(events)),
       window_(world.createWindow(&parent, *this)),
       thumb_(world,
              *window_,
              traits.axis,
              {[this](Integer Button, Single X, Single Y) { thumbMouseDown(Button, X, Y); },
               [this](Integer Button, Single X, Single Y) { thumbMouseMove(Button, X, Y); },
-              [this] { thumbMouseUp(); }}),
-      low_(world, *window_, traits.low, [this] { stepLow(); }),
-      high_(world, *window_, traits.high, [this] { stepHigh(); }) {
+              [this] { thumbMouseUp(); }},
+             life),
+      low_(
+          world, *window_, traits.low, [this] { stepLow(); }, life),
+      high_(
+          world, *window_, traits.high, [this] { stepHigh(); }, life) {
     window_->letTakesKeys(false);
     layOut();
 }
 
 Procedure ScrollBar::procedure(StringView name) const {
-    return {world_.runtime(), name, ModuleKind::control, traits_.moduleName};
+    return {world_.runtime(), name, ModuleKind::control, traits_.moduleName, life_};
 }
 
 template <class T>

@@ -30,7 +30,9 @@ class ScrollBar : public UserControl {
         std::function<void(StringView name)> propertyChanged = [](StringView /*name*/) {};
     };
 
-    ScrollBar(World& world, Window& parent, const BarTraits& traits, Events events);
+    /// `life` is that of the control that it belongs to.
+    ScrollBar(
+        World& world, Window& parent, const BarTraits& traits, Events events, ControlLife* life = nullptr);
 
     // Each setter tells `propertyChanged`; all but those of the three step widths repaint.
 
@@ -132,6 +134,7 @@ class ScrollBar : public UserControl {
     void press(ArrowButton& button, Single position, Long direction);
 
     World& world_;
+    ControlLife* life_;
     const BarTraits& traits_;
     AlongAxis axis_;
     Events events_;
@@ -165,8 +168,8 @@ class ScrollBar : public UserControl {
 
 class lmVScroll final : public ScrollBar {
   public:
-    lmVScroll(World& world, Window& parent, Events events)
-        : ScrollBar(world, parent, verticalBar, std::move(events)) {}
+    lmVScroll(World& world, Window& parent, Events events, ControlLife* life = nullptr)
+        : ScrollBar(world, parent, verticalBar, std::move(events), life) {}
 
     Long ScrollButtonJumpLines() const { return jumpLines(); }
     void letScrollButtonJumpLines(Long lines) { letJumpLines(lines); }
@@ -174,8 +177,8 @@ class lmVScroll final : public ScrollBar {
 
 class lmHScroll final : public ScrollBar {
   public:
-    lmHScroll(World& world, Window& parent, Events events)
-        : ScrollBar(world, parent, horizontalBar, std::move(events)) {}
+    lmHScroll(World& world, Window& parent, Events events, ControlLife* life = nullptr)
+        : ScrollBar(world, parent, horizontalBar, std::move(events), life) {}
 };
 
 } // namespace lumtex

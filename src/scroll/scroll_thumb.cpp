@@ -34,9 +34,9 @@ constexpr OLE_COLOR silverFoot = 0xDFD1D0;
 
 } // namespace
 
-ScrollThumb::ScrollThumb(World& world, Window& parent, Axis axis, Events events)
-    : world_(world), axis_(axis), events_(std::move(events)), img_(ScrollArtwork::standard().thumbOf(axis)),
-      window_(world.createWindow(&parent, *this)) {
+ScrollThumb::ScrollThumb(World& world, Window& parent, Axis axis, Events events, ControlLife* life)
+    : world_(world), life_(life), axis_(axis), events_(std::move(events)),
+      img_(ScrollArtwork::standard().thumbOf(axis)), window_(world.createWindow(&parent, *this)) {
     window_->letTakesKeys(false);
     window_->letVisible(true);
 }
@@ -45,7 +45,8 @@ Procedure ScrollThumb::procedure(StringView name) const {
     return {world_.runtime(),
             name,
             ModuleKind::control,
-            axis_ == Axis::vertical ? StringView(u"VScrollBar") : StringView(u"HScrollBar")};
+            axis_ == Axis::vertical ? StringView(u"VScrollBar") : StringView(u"HScrollBar"),
+            life_};
 }
 
 void ScrollThumb::letC(Long style) {
@@ -74,8 +75,9 @@ void ScrollThumb::letBarHover(OLE_COLOR color) {
 }
 
 void ScrollThumb::UserControl_MouseDown(Integer Button, Integer /*Shift*/, Single X, Single Y) {
+    Procedure p = procedure(u"UserControl_MouseDown");
     hover_.down = true;
-    procedure(u"UserControl_MouseDown").step([&] { events_.mouseDown(Button, X, Y); });
+    p.step([&] { events_.mouseDown(Button, X, Y); });
     RedrawScroll();
 }
 
@@ -88,8 +90,9 @@ void ScrollThumb::UserControl_MouseMove(Integer Button, Integer /*Shift*/, Singl
 }
 
 void ScrollThumb::UserControl_MouseUp(Integer /*Button*/, Integer /*Shift*/, Single /*X*/, Single /*Y*/) {
+    Procedure p = procedure(u"UserControl_MouseUp");
     hover_.down = false;
-    procedure(u"UserControl_MouseUp").step([&] { events_.mouseUp(); });
+    p.step([&] { events_.mouseUp(); });
     RedrawScroll();
 }
 

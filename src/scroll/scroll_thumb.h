@@ -23,7 +23,8 @@ class ScrollThumb final : public UserControl {
         std::function<void()> mouseUp;
     };
 
-    ScrollThumb(World& world, Window& parent, Axis axis, Events events);
+    /// `life` is that of the control that it belongs to.
+    ScrollThumb(World& world, Window& parent, Axis axis, Events events, ControlLife* life = nullptr);
 
     // Each repaints.
 
@@ -59,6 +60,7 @@ class ScrollThumb final : public UserControl {
     void silverEdges(Procedure& p, Single w, Single h);
 
     World& world_;
+    ControlLife* life_;
     Axis axis_;
     Events events_;
     const ThumbArtwork& img_;

@@ -10,7 +10,7 @@ void lmListView::letTopIndex(Long topIndex) {
     const Long visible = VisibleItems();
     topIndex = std::min(std::max(topIndex, Long{0}), RowsCount() - 1);
     scroll_.topIndex = topIndex;
-    p.step([&] { host_.PropertyChanged(u"TopIndex"); });
+    p.step([&] { host_->PropertyChanged(u"TopIndex"); });
     if (VS->Max() < RowsCount() - visible)
         VS->letMax(RowsCount() - visible);
     // Wanted: twice in a row, and never compared with the bar's end.

@@ -12,11 +12,11 @@ constexpr Double deltaOfNotch = 120;
 
 } // namespace
 
-Wheel::Wheel(Runtime& runtime, WheelScroll wheelScroll)
-    : runtime_(runtime), wheelScroll_(std::move(wheelScroll)) {}
+Wheel::Wheel(Runtime& runtime, WheelScroll wheelScroll, ControlLife* life)
+    : runtime_(runtime), life_(life), wheelScroll_(std::move(wheelScroll)) {}
 
-Wheel::Wheel(World& world, Window& parent, WheelScroll wheelScroll)
-    : Wheel(world.runtime(), std::move(wheelScroll)) {
+Wheel::Wheel(World& world, Window& parent, WheelScroll wheelScroll, ControlLife* life)
+    : Wheel(world.runtime(), std::move(wheelScroll), life) {
     hook_ = world.createWheelHook(parent,
                                   [this](WindowHandle hWnd, Long delta, Integer Keys, Single X, Single Y) {
                                       WndProc(hWnd, delta, Keys, X, Y);
@@ -46,7 +46,7 @@ void Wheel::DisableWheel() {
 bool Wheel::WndProc(WindowHandle hWnd, Long delta, Integer Keys, Single X, Single Y) {
     if (!isListeningTo(hWnd))
         return false;
-    Procedure p{runtime_, u"WheelProc", ModuleKind::module, u"basWheel"};
+    Procedure p{runtime_, u"WheelProc", ModuleKind::module, u"basWheel", life_};
     p.step([&] {
         // Wanted: less than half a notch is a turn by 0, and half a notch rounds to the even number.
         Integer rotation = roundToInteger(delta / deltaOfNotch);

@@ -5,6 +5,7 @@
 #include "platform/runtime.h"
 #include "platform/wheel_hook.h"
 #include "platform/window.h"
+#include "services/control_life.h"
 
 #include <functional>
 #include <memory>
@@ -20,9 +21,10 @@ class Wheel {
     /// `Rotation` is in notches, positive away from the user.
     using WheelScroll = std::function<void(Integer& Rotation, Integer& Keys, Single& X, Single& Y)>;
 
-    Wheel(Runtime& runtime, WheelScroll wheelScroll);
-    /// Puts a hook of `world` into `parent`, which must outlive this object.
-    Wheel(World& world, Window& parent, WheelScroll wheelScroll);
+    Wheel(Runtime& runtime, WheelScroll wheelScroll, ControlLife* life = nullptr);
+    /// Puts a hook of `world` into `parent`, which must outlive this object. `life` is that of the control
+    /// that it belongs to.
+    Wheel(World& world, Window& parent, WheelScroll wheelScroll, ControlLife* life = nullptr);
     Wheel(const Wheel&) = delete;
     Wheel& operator=(const Wheel&) = delete;
     ~Wheel() { UserControl_Terminate(); }
@@ -46,6 +48,7 @@ class Wheel {
 
   private:
     Runtime& runtime_;
+    ControlLife* life_;
     WheelScroll wheelScroll_;
     WindowHandle hWndCapture_ = 0;
     WindowHandle listensTo_ = 0;

@@ -5,6 +5,7 @@
 namespace lumtex {
 
 bool lmListView::UserControl_Wheel(Long Rotation, Integer Shift, Single X, Single Y) {
+    Procedure p = procedure(u"UserControl_Wheel");
     return Wheel1->WndProc(hwnd(), Rotation, Shift, X, Y);
 }
 
@@ -31,7 +32,7 @@ void lmListView::Wheel1_WheelScroll(Integer& Rotation, Integer& /*Keys*/, Single
     }
     Wheel1->lethWndCapture(hwnd());
     Redraw();
-    p.step([&] { runtime().DoEvents(); });
+    p.step([&] { yield(); });
 }
 
 // Wanted: the size of a turn does not matter, and a turn by 0 goes to the end of the range, as does a turn
@@ -42,7 +43,7 @@ void lmListView::wheelLinesDown(Procedure& p, Integer Rotation) {
         p.step([&] { VS->letValue(roundToLong(next)); });
     else
         VS->letValue(VS->Max());
-    p.step([&] { events_.Scroll(); });
+    p.raise([&] { events_->Scroll(); });
 }
 
 void lmListView::wheelLinesUp(Procedure& p) {
@@ -51,7 +52,7 @@ void lmListView::wheelLinesUp(Procedure& p) {
         p.step([&] { VS->letValue(roundToLong(next)); });
     else
         VS->letValue(0);
-    p.step([&] { events_.Scroll(); });
+    p.raise([&] { events_->Scroll(); });
 }
 
 /// Is the row enabled? A row that went away in a yield is reported and ends the walk, as an enabled one does.
@@ -71,14 +72,14 @@ void lmListView::wheelIndexDown(Procedure& p, Integer Rotation) {
             return;
         if (stopsWheel(p, i))
             break;
-        p.step([&] { runtime().DoEvents(); });
+        p.step([&] { yield(); });
         if (i == last())
             return;
     }
     if (ListIndex() < last()) {
-        p.step([&] { runtime().DoEvents(); });
+        p.step([&] { yield(); });
         letListIndex(i);
-        p.step([&] { runtime().DoEvents(); });
+        p.step([&] { yield(); });
     }
 }
 
@@ -91,17 +92,17 @@ void lmListView::wheelIndexUp(Procedure& p, Integer Rotation) {
     for (Long i = ListIndex() - 1; i >= 0; --i) {
         if (stopsWheel(p, i)) {
             if (ListIndex() > 0) {
-                p.step([&] { runtime().DoEvents(); });
+                p.step([&] { yield(); });
                 letListIndex(i);
-                p.step([&] { runtime().DoEvents(); });
+                p.step([&] { yield(); });
             }
             break;
         }
-        p.step([&] { runtime().DoEvents(); });
+        p.step([&] { yield(); });
     }
     if (ListIndex() < VS->Value()) {
         VS->letValue(ListIndex());
-        p.step([&] { events_.Scroll(); });
+        p.raise([&] { events_->Scroll(); });
     }
 }
 

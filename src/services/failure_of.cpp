@@ -1,5 +1,7 @@
 #include "services/failure_of.h"
 
+#include "platform/text.h"
+
 #include <new>
 #include <stdexcept>
 
@@ -12,6 +14,14 @@ RuntimeError failureFrom(const std::exception& caught) {
         dynamic_cast<const std::length_error*>(&caught) != nullptr)
         return RuntimeError(outOfMemory);
     throw;
+}
+
+RuntimeError failureOfHandler(const std::exception& caught) {
+    try {
+        return failureFrom(caught);
+    } catch (const std::exception& foreign) {
+        return RuntimeError(automationError, fromUtf8(foreign.what()));
+    }
 }
 
 } // namespace lumtex

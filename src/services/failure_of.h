@@ -14,6 +14,10 @@ namespace lumtex {
 /// on its way: call this only while handling `caught`.
 RuntimeError failureFrom(const std::exception& caught);
 
+/// The same for what a host's handler threw: any other exception of its is error 440 with the exception's
+/// text.
+RuntimeError failureOfHandler(const std::exception& caught);
+
 /// Runs `body`; its failure, or none.
 template <class Body>
 std::optional<RuntimeError> failureOf(Body&& body) {

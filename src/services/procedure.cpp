@@ -5,7 +5,7 @@
 namespace lumtex {
 
 void Procedure::report(const RuntimeError& error) noexcept {
-    if (silentError())
+    if (silentError() || (life_ != nullptr && life_->hasEnded()))
         return;
     reportError(runtime_,
                 {.number = error.number(),

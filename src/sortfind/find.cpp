@@ -152,7 +152,8 @@ FindResults CellSearch::scanTags(const FindMatcher& matcher) {
         [&](const Items& items, std::size_t cell) {
             const CellExtras* extras = items.extras(cell);
             String tag;
-            const bool hasText = extras == nullptr || procedure_.step([&] { tag = extras->Tag.toText(); });
+            const bool hasText =
+                extras == nullptr || procedure_.step([&] { tag = extras->Tag.get().toText(); });
             return hasText && matcher.matches(tag);
         },
         [&](Long row, Long column) { list_.ItemTag(row, column); });

@@ -23,6 +23,7 @@ bool holdsMoreThanBlanks(const CompactText& text) {
 void lmListView::Sort(Long Column, cSortMode SortMode, cSortType SortType) {
     if (ColumnsCount() == 0 || RowsCount() == 0 || Column > ColumnsCount())
         return;
+    Procedure p = procedure(u"Sort");
     // Wanted: dropping the mark repaints and raises no SortDone.
     if (Column == -1) {
         sort_.sortAscending = 0;
@@ -37,7 +38,7 @@ void lmListView::Sort(Long Column, cSortMode SortMode, cSortType SortType) {
         sort_.sortColumn = Column - 1;
     }
     // Wanted: SortDone comes also where nothing was sorted, and the sort itself does not repaint.
-    events_.SortDone();
+    p.raise([&] { events_->SortDone(); });
 }
 
 /// Looks at every row, so that each cell that cannot be read is reported.
@@ -59,8 +60,11 @@ void lmListView::quickSort(Long Column, cSortType SortType, cSortMode order) {
     // Wanted: ListIndex, NewIndex, the top row and the anchors of the selection keep their numbers.
     if (sortByKeys(Column, SortType, order))
         return;
-    SortByStatements rows(*this, Column, SortType, order);
-    lumtex::quickSort(rows, 0, upperBoundOfRows());
+    Procedure p = procedure(order == cDescending ? u"QuickSortDesc" : u"QuickSortAsc");
+    p.step([&] {
+        SortByStatements rows(*this, p, Column, SortType, order);
+        lumtex::quickSort(rows, 0, upperBoundOfRows());
+    });
 }
 
 /// False, with nothing done, where the statements must run one by one: they report something, or there is no

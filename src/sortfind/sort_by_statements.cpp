@@ -4,12 +4,10 @@
 
 namespace lumtex {
 
-SortByStatements::SortByStatements(lmListView& list, Long Column, cSortType SortType, cSortMode order)
-    : list_(list), procedure_(list.runtime(),
-                              order == cDescending ? u"QuickSortDesc" : u"QuickSortAsc",
-                              ModuleKind::control,
-                              u"lmListView"),
-      Column_(Column), type_(SortType), descending_(order == cDescending) {}
+SortByStatements::SortByStatements(
+    lmListView& list, Procedure& procedure, Long Column, cSortType SortType, cSortMode order)
+    : list_(list), procedure_(procedure), Column_(Column), type_(SortType),
+      descending_(order == cDescending) {}
 
 String SortByStatements::ItemText(Long index) {
     return list_.ItemText(static_cast<Double>(index) + 1, Column_);

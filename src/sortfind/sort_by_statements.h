@@ -10,8 +10,9 @@ namespace lumtex {
 /// the name of the sort. The host's code may run in a report and change the list.
 class SortByStatements {
   public:
-    /// `Column` counts from 1.
-    SortByStatements(lmListView& list, Long Column, cSortType SortType, cSortMode order);
+    /// `procedure` is that of the sort and outlives this object. `Column` counts from 1.
+    SortByStatements(
+        lmListView& list, Procedure& procedure, Long Column, cSortType SortType, cSortMode order);
 
     void choosePivot(Long index);
     bool before(Long i) { return test(i, descending_); }
@@ -25,7 +26,7 @@ class SortByStatements {
     bool compare(Long index, bool greater);
 
     lmListView& list_;
-    Procedure procedure_;
+    Procedure& procedure_;
     String pivot_;
     Long Column_;
     cSortType type_;
