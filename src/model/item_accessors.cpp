@@ -18,7 +18,7 @@ void ListViewRecords::styleLet(StringView name,
                                T CellStyle::*field,
                                const ValueOf<T>& value) {
     itemLet(name, Row, Column, [&](const Cell& cell) {
-        if constexpr (std::is_same_v<T, Variant>) {
+        if constexpr (std::is_same_v<ValueOf<T>, Variant>) {
             if (value.isUnsupported())
                 throw RuntimeError(typeMismatch);
         }

@@ -76,9 +76,9 @@ class PixelSum {
 
 /// A header, its palette and its lines, as they follow the 14 bytes that a bitmap file begins with.
 /// `linesAt` counts from the header's start.
-void checkBitmapLines(const ImageBytes& header, std::uint64_t linesAt, PixelSum& pixels);
+void checkBitmapLines(const ImageBytes& bytes, std::uint64_t linesAt, PixelSum& pixels);
 /// The same as icons hold it: twice as high as it shows, and a mask of one bit a pixel follows the lines.
-void checkIconLines(const ImageBytes& header, PixelSum& pixels);
+void checkIconLines(const ImageBytes& bytes, PixelSum& pixels);
 void checkPng(const ImageBytes& image, PixelSum& pixels);
 void checkGif(const ImageBytes& image, PixelSum& pixels);
 void checkJpeg(const ImageBytes& image, PixelSum& pixels);

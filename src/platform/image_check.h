@@ -28,7 +28,7 @@ constexpr std::uint64_t freeSettingsPixels = std::uint64_t{1} << 22U;
 /// decoder needs stay in proportion to the bytes, and a decoder that trusts what it reads finds it true.
 /// Throws RuntimeError 481 for any other bytes. Says nothing about compressed data, which decoders must
 /// check themselves.
-ImageFormat checkImage(std::span<const Byte> image, std::uint64_t freePixels = 0);
+ImageFormat checkImage(std::span<const Byte> bytes, std::uint64_t freePixels = 0);
 
 /// Whether it passes.
 bool isSoundImage(std::span<const Byte> image, std::uint64_t freePixels = 0);

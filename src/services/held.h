@@ -47,9 +47,8 @@ class Held {
   public:
     Held() = default;
     template <class Value>
-    requires(std::is_convertible_v<Value, T> && !std::is_same_v<std::remove_cvref_t<Value>, Held>)
-        Held(Value&& value)
-        : value_(std::forward<Value>(value)) { // stands for its value
+    requires(std::is_convertible_v<Value, T> && !std::is_same_v<Value, Held>) Held(Value value)
+        : value_(std::move(value)) { // stands for its value
         if (detail::holdsReference(value_))
             ReleaseBin::ofThread().reserve();
     }
@@ -61,8 +60,8 @@ class Held {
         return *this;
     }
     Held& operator=(const Held& other) {
-        Held copy(other);
-        std::swap(value_, copy.value_);
+        if (this != &other)
+            *this = Held(other);
         return *this;
     }
     ~Held() { drop(); }

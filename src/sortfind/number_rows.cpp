@@ -68,15 +68,15 @@ unsigned char decimalMark() {
 /// Whether the current locale writes dates so that nothing is lost: some users have it leave out the century
 /// or the seconds.
 bool datesKeepTheirTexts() {
+    static constexpr Double probes[] = {
+        -36522.0, 2.25, 10958.999988, 36585.000012, 47483.5, 73050.75, 401768.0};
+    static constexpr Double halfSecond = 0.5 / (24 * 60 * 60);
     const Locale& locale = currentLocale();
-    for (const Double days : {-36522.0, 2.25, 10958.999988, 36585.000012, 47483.5, 73050.75, 401768.0}) {
+    return std::ranges::all_of(probes, [&](Double days) {
         const auto first = locale.readDate(locale.textOf(Date{days}));
-        constexpr Double halfSecond = 0.5 / (24 * 60 * 60);
-        if (!first || std::fabs(first->days - days) > halfSecond ||
-            locale.readDate(locale.textOf(*first)) != first)
-            return false;
-    }
-    return true;
+        return first && std::fabs(first->days - days) <= halfSecond &&
+               locale.readDate(locale.textOf(*first)) == first;
+    });
 }
 
 } // namespace

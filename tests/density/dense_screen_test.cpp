@@ -183,7 +183,7 @@ TEST_F(OnOneScreen, DrawingsOfTheProductHaveTheirOwnPixels) {
     }
     EXPECT_EQ(hits, 1) << "the box, pixel by pixel";
     EXPECT_EQ(inside.vertical().Width(),
-              static_cast<Single>(ScrollArtwork::standard().buttonOf(Arrow::up)[0]->bitmap().width));
+              static_cast<Single>(pictureAt(ScrollArtwork::standard().buttonOf(Arrow::up), 1).bitmap().width));
 }
 
 } // namespace

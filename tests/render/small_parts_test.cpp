@@ -296,11 +296,11 @@ TEST_F(SelectionColour, FollowsTheStyleAndIsZeroForAnUnknownOne) {
 
 TEST(Gradient, FarBeyondTheSurfaceIsWorkedOutWhereItCanBeSeen) {
     RasterSurface surface(4, 100, testFonts());
-    // One step of blue for each 10,000,000 rows, counted from below.
-    const Rect tall{0, -1999999950, 4, 550000050};
+    // One step of blue for each 8,000,000 rows, counted from below.
+    const Rect tall{0, -1599999950, 4, 440000050};
     DrawGradient(surface, &tall, 0x000000, 0xFF0000, bottomToTop);
     EXPECT_EQ(surface.image().at(0, 99), 0xFF000037U);
-    const Rect wide{-1999999998, 0, 550000002, 100};
+    const Rect wide{-1599999998, 0, 440000002, 100};
     DrawGradient(surface, &wide, 0x000000, 0xFF0000, leftToRight);
     EXPECT_EQ(surface.image().at(0, 0), 0xFF0000C8U);
     const Rect beside{-2000000000, 0, 0, 100};

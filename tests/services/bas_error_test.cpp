@@ -214,10 +214,17 @@ TEST_F(Report, TheHandlerGetsEightArgumentsInOrder) {
     EXPECT_TRUE(runtime.boxes.empty());
 }
 
-TEST_F(Report, AHandlerWithoutAnApplicationObjectGetsAnEmptyReference) {
+TEST_F(Report, AHandlerGetsTheComponentWhereTheWorldHasNoApplicationObject) {
     const ReportCatcher& handler = installHandler();
     reportError(runtime, report);
-    EXPECT_EQ(handler.calls.at(0)[1], Variant(ObjectRef()));
+    const ObjectRef application = handler.calls.at(0)[1].toObject();
+    EXPECT_EQ(application->get(u"EXEName"), Variant(runtime.component().exeName));
+    EXPECT_EQ(application->get(u"Path"), Variant(runtime.component().folder));
+    EXPECT_EQ(application->get(u"Major").toLong(), runtime.component().major);
+    EXPECT_EQ(application->get(u"Minor").toLong(), runtime.component().minor);
+    EXPECT_EQ(application->get(u"Revision").toLong(), runtime.component().revision);
+    EXPECT_THROW(application->get(u"Title"), RuntimeError);
+    EXPECT_THROW(application->put(u"Path", u"elsewhere"), RuntimeError);
 }
 
 TEST_F(Report, AHandlerThatRaisesInRaiseErrorMeansTheBoxAsWell) {

@@ -19,7 +19,7 @@ namespace lumtex::testing {
 /// test may run twice at once.
 class ScratchFolder {
   public:
-    ScratchFolder() = default;
+    ScratchFolder() {} // written out, so that Clang makes constant ones
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
     ~ScratchFolder() {

@@ -47,10 +47,6 @@ void fill(std::span<char16_t> buffer, StringView text) {
     buffer[count] = u'\0';
 }
 
-/// The invariant text of a moment is a date, a time, or both with a blank between them.
-constexpr StringView startDay = u"1899-12-30";
-constexpr StringView midnight = u"00:00:00";
-
 } // namespace
 
 bool HeadlessRuntime::NameOrder::operator()(StringView a, StringView b) const {

@@ -174,8 +174,8 @@ JsonPropertyBag::~JsonPropertyBag() = default;
 
 void JsonPropertyBag::parse(std::string_view json) {
     Members members;
-    for (JsonMember& member : membersOfObject(json))
-        members.add(member.name, Json(std::move(member.value)), false);
+    for (const JsonMember& member : membersOfObject(json))
+        members.add(member.name, Json(member.value), false);
     *members_ = std::move(members);
 }
 

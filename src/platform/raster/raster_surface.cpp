@@ -190,13 +190,13 @@ void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const
     }
 }
 
-void RasterSurface::print(StringView whole) {
-    const StringView text = drawnPart(whole);
+void RasterSurface::print(StringView text) {
+    const StringView drawn = drawnPart(text);
     const Canvas target = canvas();
     raster::TextPainter painter(
         target, typeface(), pixelOf(foreColor_), font_.Underline, font_.Strikethrough);
     const Point at = rounded(currentX_, currentY_);
-    painter.drawLine(text, at.x, at.y, target.bounds());
+    painter.drawLine(drawn, at.x, at.y, target.bounds());
     currentX_ = 0;
     currentY_ += textHeight(text);
 }
