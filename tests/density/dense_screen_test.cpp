@@ -182,8 +182,9 @@ TEST_F(OnOneScreen, DrawingsOfTheProductHaveTheirOwnPixels) {
         hits += same ? 1 : 0;
     }
     EXPECT_EQ(hits, 1) << "the box, pixel by pixel";
-    EXPECT_EQ(inside.vertical().Width(),
-              static_cast<Single>(pictureAt(ScrollArtwork::standard().buttonOf(Arrow::up), 1).bitmap().width));
+    EXPECT_EQ(
+        inside.vertical().Width(),
+        static_cast<Single>(pictureAt(ScrollArtwork::standard().buttonOf(Arrow::up), 1).bitmap().width));
 }
 
 } // namespace
