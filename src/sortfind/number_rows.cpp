@@ -4,6 +4,7 @@
 #include "services/ignoring_errors.h"
 #include "sortfind/sort_keys.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
