@@ -393,9 +393,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_WheelFunction(cWheelFunction* result) = 0;
     /// What the wheel moves: the view, the current row, or nothing.
     virtual HRESULT STDMETHODCALLTYPE put_WheelFunction(cWheelFunction value) = 0;
-    /// Rows that one wheel event moves, however far the wheel was turned.
+    /// Rows by which one wheel event scrolls the view, however far the wheel was turned.
     virtual HRESULT STDMETHODCALLTYPE get_WheelScrollLines(long* result) = 0;
-    /// Rows that one wheel event moves, however far the wheel was turned.
+    /// Rows by which one wheel event scrolls the view, however far the wheel was turned.
     virtual HRESULT STDMETHODCALLTYPE put_WheelScrollLines(long value) = 0;
     /// Whether a selected cell without a picture of its own for that shows its plain icon.
     virtual HRESULT STDMETHODCALLTYPE get_DefaultIconSelectedIsIcon(VARIANT_BOOL* result) = 0;

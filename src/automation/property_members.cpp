@@ -266,7 +266,7 @@ constexpr auto members = std::to_array<Member>({
     property<&lmListView::WheelScrollLines, &lmListView::letWheelScrollLines>(
         u"WheelScrollLines",
         Repaint::never,
-        {u"Rows that one wheel event moves, however far the wheel was turned.",
+        {u"Rows by which one wheel event scrolls the view, however far the wheel was turned.",
          u"Anzahl der Zeilen, um die ein Mausradereignis die Ansicht bewegt, gleich wie weit das Rad gedreht "
          u"wurde."}),
     property<&lmListView::DefaultIconSelectedIsIcon, &lmListView::letDefaultIconSelectedIsIcon>(

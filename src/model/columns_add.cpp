@@ -29,10 +29,12 @@ void lmListView::ColumnsAdd(const Variant& aText,
 
     if (RowsCount() >= 1) {
         p.step([&] {
-            const StyleLease style(emptyItemStyle());
+            std::optional<StyleLease> style;
             // The control's own counter, not a local one, as in every walk over the rows.
-            for (paint_.scanIndex = 0; paint_.scanIndex < RowsCount(); ++paint_.scanIndex)
-                appendCell(rows_[static_cast<std::size_t>(paint_.scanIndex)].items, {}, style.handle());
+            for (paint_.scanIndex = 0; paint_.scanIndex < RowsCount(); ++paint_.scanIndex) {
+                freshenItemStyle(style);
+                appendCell(recordAt(paint_.scanIndex).items, {}, style->handle());
+            }
         });
     }
 

@@ -280,6 +280,7 @@ class lmListView final : private ListViewLife,
     // Model (model/)
 
     StyleHandle emptyItemStyle();
+    void freshenItemStyle(std::optional<StyleLease>& style);
     void appendCell(Items& items, StringView text, StyleHandle style);
     void growRows();
     Long placeOfNewRow(Variant& aIndex, Procedure& p);

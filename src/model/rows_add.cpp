@@ -1,5 +1,6 @@
 /// Adding a row, and the cells that come with it.
 #include "model/list_view.h"
+#include "render/font_attributes.h"
 
 #include <algorithm>
 
@@ -35,11 +36,21 @@ class Pieces {
 
 /// The style that a cell gets at its creation: a copy of the defaults that hold now.
 StyleHandle lmListView::emptyItemStyle() {
+    Procedure p = procedure(u"EmptyItem");
     CellStyle style;
     style.ForeColor = properties_.DefaultItemForeColor;
-    if (properties_.DefaultItemFont)
-        style.font = properties_.DefaultItemFont->spec;
+    readFontAttributes(
+        properties_.DefaultItemFont,
+        [&](auto attribute) { return p.step(attribute); },
+        [&](const FontSpec& font) { style.font = font; });
     return CellStyles::ofThread().acquire(style);
+}
+
+/// Readies `style` for the next new cell. As long as nothing fails all cells of a walk share one.
+void lmListView::freshenItemStyle(std::optional<StyleLease>& style) {
+    // Without a font every cell has its own failures, and the host may change the defaults at each.
+    if (!style || !properties_.DefaultItemFont)
+        style.emplace(emptyItemStyle());
 }
 
 void lmListView::appendCell(Items& items, StringView text, StyleHandle style) {
@@ -80,10 +91,12 @@ void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<Strin
         const Long columns = ColumnsCount();
         Items cells = Items::create(static_cast<std::size_t>(columns));
         rows_.back().items = cells;
-        const StyleLease style(emptyItemStyle());
+        std::optional<StyleLease> style;
         Pieces pieces(aItemTexts.value_or(StringView{}), aSplit);
-        for (paint_.scanIndex = 1; paint_.scanIndex <= columns; ++paint_.scanIndex)
-            appendCell(cells, pieces.next(), style.handle());
+        for (paint_.scanIndex = 1; paint_.scanIndex <= columns; ++paint_.scanIndex) {
+            freshenItemStyle(style);
+            appendCell(cells, pieces.next(), style->handle());
+        }
     });
 
     const Long place = placeOfNewRow(aIndex, p);

@@ -1,6 +1,7 @@
 /// Measures of the header band.
 #include "model/list_view.h"
 #include "platform/rounding.h"
+#include "render/font_attributes.h"
 
 namespace lumtex {
 
@@ -16,10 +17,10 @@ Long lmListView::ColumnHeight() {
     if (properties_.HideColumnHeaders)
         return 0;
     Procedure p = procedure(u"ColumnHeight");
-    p.step([&] {
-        if (properties_.DefaultColumnFont)
-            Picture1->setFont(properties_.DefaultColumnFont->spec);
-    });
+    readFontAttributes(
+        properties_.DefaultColumnFont,
+        [&](auto attribute) { return p.step(attribute); },
+        [&](const FontSpec& font) { Picture1->setFont(font); });
     return p.value<Long>([&] {
         return roundToLong(Picture1->textHeight(u"A") + static_cast<Double>(properties_.ColumnTextY) +
                            bandMargin);

@@ -18,25 +18,27 @@ void lmListView::paintDesignView() {
         surface.letBackColor(properties_.Enabled ? properties_.BackColor : properties_.BackColorDisabled);
     });
     p.step([&] {
-        if (properties_.DefaultItemFont)
-            surface.setFont(properties_.DefaultItemFont->spec);
+        // The font goes over as a whole here, in one statement.
+        if (!properties_.DefaultItemFont)
+            throw RuntimeError(objectVariableNotSet);
+        surface.setFont(properties_.DefaultItemFont->spec);
     });
     p.step([&] { surface.letForeColor(properties_.DefaultColumnForeColor); });
-    p.step([&] {
-        if (properties_.Style == cCheckBoxes) {
+    if (properties_.Style == cCheckBoxes) {
+        p.step([&] {
             const Picture& box = *artwork_.img[1];
             const auto boxHeight = static_cast<Single>(GetPictureHeight(surface, box));
             surface.paintPicture(box, margin, (surface.textHeight(u"A") - boxHeight) / 2 + margin);
+        });
+        p.step([&] {
             const auto boxWidth = static_cast<Single>(GetPictureWidth(surface, *artwork_.img[2]));
             surface.letCurrentX(margin + boxWidth + margin);
-        } else {
-            surface.letCurrentX(margin);
-        }
-    });
-    p.step([&] {
-        surface.letCurrentY(margin);
-        surface.print(host_->extenderName());
-    });
+        });
+    } else {
+        p.step([&] { surface.letCurrentX(margin); });
+    }
+    p.step([&] { surface.letCurrentY(margin); });
+    p.step([&] { surface.print(host_->extenderName()); });
     if (properties_.BorderVisible)
         DrawBorder();
     p.step([&] { window_->present(); });

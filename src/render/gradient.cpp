@@ -4,6 +4,8 @@
 #include "services/ignoring_errors.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <vector>
 
 namespace lumtex {
@@ -53,6 +55,31 @@ std::vector<Byte> colorRun(Double skipped, std::size_t count, OLE_COLOR from, OL
 /// A vertical run is four pixels wide, so that a row of its bitmap is twelve bytes and needs no padding.
 constexpr Long stripWidth = 4;
 
+/// Turns each row of a strip round.
+void mirrorRows(std::vector<Byte>& strip) {
+    using Pixels = std::array<std::array<Byte, 3>, stripWidth>;
+    for (std::size_t row = 0; row < strip.size(); row += sizeof(Pixels)) {
+        Pixels pixels;
+        std::memcpy(&pixels, strip.data() + row, sizeof pixels);
+        std::reverse(pixels.begin(), pixels.end());
+        std::memcpy(strip.data() + row, &pixels, sizeof pixels);
+    }
+}
+
+/// The pixels that a stretch between two edges covers.
+struct Span {
+    Long first = 0;
+    Long extent = 0;
+    bool mirrored = false;
+};
+
+/// Throws 6 for more pixels than a Long counts.
+Span spanOf(Long from, Long to) {
+    if (to >= from)
+        return {from, roundToLong(static_cast<Double>(to) - from), false};
+    return {to + 1, roundToLong(static_cast<Double>(from) - to), true};
+}
+
 } // namespace
 
 void DrawGradient(Surface& surface, const Rect* rect, OLE_COLOR colour1, OLE_COLOR colour2, Long direction) {
@@ -61,6 +88,9 @@ void DrawGradient(Surface& surface, const Rect* rect, OLE_COLOR colour1, OLE_COL
             return;
         const Long width = roundToLong(static_cast<Double>(rect->Right) - rect->Left);
         const Long height = roundToLong(static_cast<Double>(rect->Bottom) - rect->Top);
+        // Across the run an extent below zero mirrors: it reaches to the other side from the first pixel on.
+        const Span across =
+            direction == leftToRight ? spanOf(rect->Top, rect->Bottom) : spanOf(rect->Left, rect->Right);
         if (direction == leftToRight && width > 0) {
             const Stretch run = stretchOf(rect->Left, rect->Right, surface.scaleWidth());
             if (run.first >= run.last)
@@ -70,19 +100,21 @@ void DrawGradient(Surface& surface, const Rect* rect, OLE_COLOR colour1, OLE_COL
             std::vector<Byte> bytes =
                 colorRun(skipped, static_cast<std::size_t>(shown), colour1, colour2, width);
             bytes.resize((bytes.size() + 3) / 4 * 4);
-            surface.stretchDIBits(run.first, rect->Top, shown, height, {shown, 1, bytes});
+            surface.stretchDIBits(run.first, across.first, shown, across.extent, {shown, 1, bytes});
         } else if (direction == bottomToTop && height > 0) {
             const Stretch run = stretchOf(rect->Top, rect->Bottom, surface.scaleHeight());
             if (run.first >= run.last)
                 return;
             const Long shown = run.last - run.first;
             const Double skipped = (static_cast<Double>(rect->Bottom) - run.last) * stripWidth;
-            const std::vector<Byte> bytes = colorRun(skipped,
-                                                     static_cast<std::size_t>(shown) * stripWidth,
-                                                     colour1,
-                                                     colour2,
-                                                     static_cast<Double>(height) * stripWidth);
-            surface.stretchDIBits(rect->Left, run.first, width, shown, {stripWidth, shown, bytes});
+            std::vector<Byte> bytes = colorRun(skipped,
+                                               static_cast<std::size_t>(shown) * stripWidth,
+                                               colour1,
+                                               colour2,
+                                               static_cast<Double>(height) * stripWidth);
+            if (across.mirrored)
+                mirrorRows(bytes);
+            surface.stretchDIBits(across.first, run.first, across.extent, shown, {stripWidth, shown, bytes});
         }
     });
 }

@@ -36,8 +36,9 @@ void PaintPass::beginHeaders() {
     penX = state.firstColumnX;
     headerHeight = static_cast<Single>(list.ColumnHeight());
     list.headerPress_.hoverColumn = -1;
-    if (properties.DefaultColumnFont)
-        surface.setFont(properties.DefaultColumnFont->spec);
+    if (!properties.DefaultColumnFont)
+        throw RuntimeError(objectVariableNotSet);
+    surface.setFont(properties.DefaultColumnFont->spec);
 }
 
 void PaintPass::headerPass() {

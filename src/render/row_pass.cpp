@@ -1,5 +1,6 @@
 /// The rows: how tall each is, where it lies, and its grid lines.
 #include "platform/rounding.h"
+#include "render/font_attributes.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
 
@@ -87,10 +88,16 @@ void PaintPass::finishRow() {
     if (lastIconHeight == 0) {
         // Wanted: until the first icon of a pass, every row has the height of the default font, however tall
         // the fonts of its cells are.
-        statement([&] {
-            if (properties.DefaultItemFont)
-                surface.setFont(properties.DefaultItemFont->spec);
-        });
+        const auto attributeRead = [&](auto attribute) {
+            bool read = false;
+            statement([&] {
+                attribute();
+                read = true;
+            });
+            return read;
+        };
+        readFontAttributes(
+            properties.DefaultItemFont, attributeRead, [&](const FontSpec& font) { surface.setFont(font); });
         statement([&] {
             rowBandHeight = properties.RowsDynamic ? surface.textHeight(u"A")
                                                    : scaleY(surface, properties.RowHeight, twips, pixels);

@@ -20,12 +20,17 @@ constexpr OLE_COLOR boardColor = white;
 void lmListView::SplitSkin() {
     Procedure p = procedure(u"SplitSkin");
     const PictureRef source = properties_.Skin ? properties_.Skin.get() : artwork_.imgDefault;
+    std::unique_ptr<Surface> pSkin;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         p.step([&] {
-            const auto width = static_cast<Single>(pieces[i].width);
-            const std::unique_ptr<Surface> pSkin = world_.createSurface(pieces[i].width, stripHeight);
-            // What the strip does not cover stays the board's background.
+            pSkin = world_.createSurface(pieces[i].width, stripHeight);
             pSkin->letBackColor(boardColor);
+        });
+        if (!pSkin)
+            continue;
+        // What the strip does not cover, or all where it cannot be painted, stays the board's background.
+        p.step([&] {
+            const auto width = static_cast<Single>(pieces[i].width);
             pSkin->paintPicture(*source,
                                 0,
                                 0,
@@ -35,8 +40,8 @@ void lmListView::SplitSkin() {
                                 0,
                                 width,
                                 stripHeight);
-            artwork_.imgCol[i] = std::make_shared<PixelArt>(pSkin->image());
         });
+        p.step([&] { artwork_.imgCol[i] = std::make_shared<PixelArt>(pSkin->image()); });
     }
 }
 

@@ -79,6 +79,13 @@ TEST_F(TextBoxRules, EnterAndEscapeReachTheOwnerAndNotTheText) {
     EXPECT_EQ(state(), "|0,0");
 }
 
+TEST_F(TextBoxRules, ATextEndsAtItsFirstZero) {
+    box->letText(String(u"ab\0c", 4));
+    EXPECT_EQ(box->Text(), u"ab");
+    box->letText(String(1, u'\0'));
+    EXPECT_EQ(box->Text(), u"");
+}
+
 TEST_F(TextBoxRules, TypingReplacesTheSelection) {
     box->letText(u"hello");
     box->letSelStart(1);

@@ -179,6 +179,26 @@ TEST_F(Removing, WhatAHostSwitchesDuringTheRemovalIsSwitchedBack) {
     EXPECT_EQ(texts(), u"bcd");
 }
 
+TEST_F(Removing, OfTheSelectedRowsHoldsBothSwitchesOffAndTellsNobody) {
+    list.letRowSelected(1, true);
+    host.changed.clear();
+    int turns = 0;
+    desktop.onYield(
+        [&] {
+            if (!inside.paint().paintBusy) // the paint at the end has its own
+                return;
+            ++turns;
+            EXPECT_FALSE(list.AutoCheckScroll());
+            EXPECT_FALSE(list.AutoRedraw());
+        },
+        4);
+    list.RowsSelectedRemove();
+    EXPECT_EQ(turns, 3);
+    EXPECT_TRUE(list.AutoCheckScroll());
+    EXPECT_TRUE(list.AutoRedraw());
+    EXPECT_TRUE(host.changed.empty());
+}
+
 TEST_F(Removing, OfTheSelectedRowsChecksTheBarsBeforeItPaints) {
     inside.rows()[3].Selected = true;
     String tagDuringYield = u"none";

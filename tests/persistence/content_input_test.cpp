@@ -260,10 +260,11 @@ TEST_F(LoadWithoutProperties, FontsBecomeTheDefaultFontAsItIsThen) {
 TEST_F(LoadWithoutProperties, AListWithoutADefaultFontReportsEachFieldOfIt) {
     inside.properties().DefaultItemFont = nullptr;
     load(ContentBytes().header(1, 1, false).text("x"), false);
-    std::string six;
-    for (int i = 0; i < 6; ++i)
-        six += "91 ContentInput\n";
-    EXPECT_EQ(takeReports(), six);
+    std::string all;
+    for (const char* field : {"91 EmptyItem\n", "91 ContentInput\n"})
+        for (int i = 0; i < 6; ++i)
+            all += field;
+    EXPECT_EQ(takeReports(), all + "91 Redraw\n");
     EXPECT_EQ(list.ItemText(1, 1), u"x");
 }
 

@@ -189,6 +189,16 @@ TEST_F(Recordset, GivesValuesTheirTextForms) {
     EXPECT_EQ(reports(), "");
 }
 
+TEST_F(Recordset, IsWalkedByTheCounterThatTheListsOtherLoopsShare) {
+    const auto records = make({u"a", u"b", u"c"}, {{u"1", u"2", u"3"}, {u"4", u"5", u"6"}});
+    records->onCall = [&](const std::string& call, int times) {
+        if (call == "Value(0)" && times == 2)
+            list.CheckScroll(); // walks the three columns
+    };
+    list.setRecordset(records);
+    EXPECT_EQ(content(), "a|b|c\n1|2|3\n4||");
+}
+
 TEST_F(Recordset, ThatIsSetWhileItLoadsStillLoadsToItsEnd) {
     const auto inner = make({u"i"}, {{u"9"}});
     const auto outer = make({u"a"}, {{u"1"}, {u"2"}, {u"3"}});

@@ -1,4 +1,5 @@
 /// The strip that the hover bar of the headers is cut from.
+#include "broken_picture.h"
 #include "painted_list.h"
 
 namespace lumtex::testing {
@@ -113,6 +114,15 @@ TEST_F(Skin, WithoutPixelsLeavesTheBoard) {
     list.setSkin(plainPicture(0, 0));
     EXPECT_EQ(piece(0).width, 6);
     EXPECT_EQ(piece(0).at(0, 0), 0xFFFFFFFFU);
+}
+
+TEST_F(Skin, ThatCannotBePaintedLeavesFourBoards) {
+    list.setSkin(std::make_shared<BrokenPicture>());
+    EXPECT_EQ(desktop.runtime().boxes.size(), 4U) << "one statement of each piece";
+    for (std::size_t i = 0; i < std::size(cuttingTable); ++i) {
+        EXPECT_EQ(piece(i).width, cuttingTable[i].width);
+        EXPECT_EQ(piece(i).at(0, 0), 0xFFFFFFFFU);
+    }
 }
 
 } // namespace

@@ -38,6 +38,25 @@ TEST(Gradient, RunsFromBottomToTopAndMovesOnAtEveryPixelOfItsStrip) {
     }
 }
 
+TEST(Gradient, OfAnExtentBelowZeroMirrorsToTheOtherSideOfItsFirstPixel) {
+    RasterSurface surface(6, 3, testFonts());
+    const Rect leftwards{4, 0, 0, 2};
+    DrawGradient(surface, &leftwards, 0x000000, 0x000050, bottomToTop);
+    const std::uint32_t lower[] = {0xFFFFFF, 0x1E0000, 0x140000, 0x0A0000, 0x000000, 0xFFFFFF};
+    const std::uint32_t upper[] = {0xFFFFFF, 0x460000, 0x3C0000, 0x320000, 0x280000, 0xFFFFFF};
+    for (Long x = 0; x < 6; ++x) {
+        EXPECT_EQ(at(surface, x, 1), lower[x]) << x;
+        EXPECT_EQ(at(surface, x, 0), upper[x]) << x;
+    }
+    surface.Cls();
+    const Rect upwards{1, 2, 3, 0};
+    DrawGradient(surface, &upwards, 0x000000, 0x000050, leftToRight);
+    for (Long y = 0; y < 3; ++y) {
+        EXPECT_EQ(at(surface, 1, y), y == 0 ? 0xFFFFFFU : 0x000000U) << y;
+        EXPECT_EQ(at(surface, 2, y), y == 0 ? 0xFFFFFFU : 0x280000U) << y;
+    }
+}
+
 TEST(Gradient, ChannelsAreRoundedHalfToEven) {
     RasterSurface surface(2, 1, testFonts());
     const Rect rect{0, 0, 2, 1};

@@ -48,7 +48,8 @@ void HeadlessTextBox::letVisible(bool visible) {
 }
 
 void HeadlessTextBox::letText(StringView text) {
-    text_ = text;
+    // The system's own boxes take a text up to its first zero.
+    text_ = text.substr(0, text.find(u'\0'));
     placeCaret(0, false);
 }
 

@@ -1,0 +1,18 @@
+/// \file
+/// A picture that cannot be painted.
+#pragma once
+
+#include "platform/picture.h"
+#include "platform/runtime_error.h"
+
+namespace lumtex::testing {
+
+/// Each look at it fails with 481.
+class BrokenPicture final : public Picture {
+  public:
+    Long Width() const override { throw RuntimeError(invalidPicture); }
+    Long Height() const override { throw RuntimeError(invalidPicture); }
+    const Bitmap& bitmap() const override { throw RuntimeError(invalidPicture); }
+};
+
+} // namespace lumtex::testing
