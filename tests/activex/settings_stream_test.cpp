@@ -123,7 +123,7 @@ class SettingsStream : public ListFixture {
 TEST_F(SettingsStream, FontsAndPicturesStandAsTheSystemSavesThem) {
     const PictureRef skin = loadOlePicture(bitmapImage(6, 4));
     const PictureRef ground = loadOlePicture(gifImage());
-    const FontRef font = std::make_shared<Font>(FontSpec{u"Tahoma", 15, true, true, false, true});
+    const FontRef font = std::make_shared<Font>(FontSpec{u"DejaVu Sans Mono", 15, true, true, false, true});
     ASSERT_EQ(invoke(dispatch.get(), L"Skin", DISPATCH_PROPERTYPUTREF, {skin}).result, S_OK);
     ASSERT_EQ(invoke(dispatch.get(), L"BackgroundPicture", DISPATCH_PROPERTYPUTREF, {ground}).result, S_OK);
     ASSERT_EQ(invoke(dispatch.get(), L"DefaultItemFont", DISPATCH_PROPERTYPUTREF, {font}).result, S_OK);

@@ -1,5 +1,6 @@
 #include "platform/runtime_error.h"
 #include "platform/win32/ole_font.h"
+#include "platform/win32/variant_bridge.h"
 
 #include <limits>
 
@@ -26,6 +27,21 @@ class OleFontTest : public ::testing::Test {
         void* made = nullptr;
         EXPECT_EQ(OleCreateFontIndirect(&description, IID_IFontDisp, &made), S_OK);
         return ComRef<IFontDisp>::adopting(static_cast<IFontDisp*>(made));
+    }
+    /// As scripts read it.
+    static String nameOf(IFontDisp* object) {
+        DISPPARAMS none{};
+        OwnedVARIANT name;
+        EXPECT_EQ(object->Invoke(DISPID_FONT_NAME,
+                                 IID_NULL,
+                                 LOCALE_USER_DEFAULT,
+                                 DISPATCH_PROPERTYGET,
+                                 &none,
+                                 name.out(),
+                                 nullptr,
+                                 nullptr),
+                  S_OK);
+        return fromVARIANT(name.get()).toText();
     }
     static ULONG referencesOf(IUnknown* object) {
         object->AddRef();
@@ -144,6 +160,50 @@ TEST_F(OleFontTest, AnObjectMadeAnewKnowsTheChangesOfTheOneBefore) {
     BOOL italic = FALSE;
     toIFont(font).as<IFont>()->get_Italic(&italic);
     EXPECT_NE(italic, FALSE);
+}
+
+TEST_F(OleFontTest, OursTellsItsNameWhereThatFaceIsNotInstalled) {
+    const auto font = std::make_shared<Font>(FontSpec{.Name = u"No Such Face", .Size = 12});
+    const ComRef<IFontDisp> object = toIFont(font);
+    EXPECT_EQ(nameOf(object.get()), u"No Such Face");
+    object.as<IFont>()->put_Italic(TRUE);
+    EXPECT_EQ(nameOf(object.get()), u"No Such Face");
+    EXPECT_EQ(font->spec.Name, u"No Such Face");
+    ComRef<IFont> clone;
+    ASSERT_EQ(object.as<IFont>()->Clone(clone.out()), S_OK);
+    EXPECT_EQ(nameOf(clone.as<IFontDisp>().get()), u"No Such Face");
+}
+
+TEST_F(OleFontTest, OursTellsWhatTheSystemFoundOnceTheHostNamesAnother) {
+    const auto font = std::make_shared<Font>(FontSpec{.Name = u"No Such Face", .Size = 12});
+    const ComRef<IFontDisp> object = toIFont(font);
+    for (const wchar_t* name : {L"DejaVu Sans Mono", L"No Such Face Either"}) {
+        const BSTR text = SysAllocString(name);
+        EXPECT_EQ(object.as<IFont>()->put_Name(text), S_OK);
+        SysFreeString(text);
+        EXPECT_EQ(nameOf(object.get()), font->spec.Name);
+    }
+    EXPECT_NE(font->spec.Name, u"No Such Face");
+}
+
+TEST_F(OleFontTest, AnObjectOfOursIsOneWithAllItsInterfaces) {
+    const auto font = std::make_shared<Font>(FontSpec{.Name = u"DejaVu Sans Mono", .Size = 9.75F});
+    const ComRef<IFontDisp> object = toIFont(font);
+    const ComRef<IUnknown> identity = object.as<IUnknown>();
+    EXPECT_EQ(object.as<IFont>().as<IUnknown>().get(), identity.get());
+    EXPECT_EQ(object.as<IDispatch>().as<IUnknown>().get(), identity.get());
+    EXPECT_TRUE(object.as<IPersistStream>()) << "settings keep it by itself";
+    EXPECT_EQ(object->QueryInterface(IID_IStream, nullptr), E_POINTER);
+    EXPECT_FALSE(object.as<IStream>());
+}
+
+TEST_F(OleFontTest, AnInterfaceOfTheSystemsMayOutliveTheObject) {
+    auto font = std::make_shared<Font>(FontSpec{.Name = u"DejaVu Sans Mono", .Size = 9.75F});
+    ComRef<IFontDisp> object = toIFont(font);
+    const auto stream = object.as<IPersistStream>();
+    object = {};
+    EXPECT_EQ(stream->IsDirty(), S_OK);
+    EXPECT_EQ(nameOf(toIFont(font).get()), u"DejaVu Sans Mono") << "a new object, not the one that went";
 }
 
 TEST_F(OleFontTest, SizesBeyondAllBoundsDoNoHarm) {

@@ -1,6 +1,6 @@
 #include "platform/win32/ole_font.h"
 
-#include "platform/runtime_error.h"
+#include "platform/win32/named_font.h"
 #include "platform/win32/object_pairs.h"
 #include "platform/win32/property_sink.h"
 
@@ -112,7 +112,7 @@ std::shared_ptr<Font> OleFont::Clone() const {
     return entered(std::move(copy));
 }
 
-ComRef<IFontDisp> makeObject(const FontSpec& spec) {
+ComRef<IFontDisp> makeObject(const FontSpec& spec, NamedFontClient client) {
     // Written so that what is not a number becomes 0.
     const Double size = spec.Size > 0 ? std::min<Double>(spec.Size, largestSize) : 0;
     String name = spec.Name;
@@ -125,10 +125,7 @@ ComRef<IFontDisp> makeObject(const FontSpec& spec) {
     description.fItalic = spec.Italic ? TRUE : FALSE;
     description.fUnderline = spec.Underline ? TRUE : FALSE;
     description.fStrikethrough = spec.Strikethrough ? TRUE : FALSE;
-    void* made = nullptr;
-    if (FAILED(OleCreateFontIndirect(&description, IID_IFontDisp, &made)))
-        throw RuntimeError(outOfMemory);
-    return ComRef<IFontDisp>::adopting(static_cast<IFontDisp*>(made));
+    return makeNamedFont(description, std::move(client));
 }
 
 } // namespace
@@ -150,19 +147,13 @@ ComRef<IFontDisp> toIFont(const FontRef& font) {
         return queryFor<IFontDisp>(hosts->object());
     if (ComRef<IFontDisp> known = pairs().theirsFor(font.get()))
         return known;
-    ComRef<IFontDisp> made = makeObject(font->spec);
-    const ComRef<IFont> attributes = made.as<IFont>();
-    const ComRef<IUnknown> identity = made.as<IUnknown>();
-    // The sink belongs to the object and ends with it, so both pointers are good whenever it calls; it keeps
-    // the font alive for the host.
-    const ComRef<PropertySink> sink = PropertySink::make(
-        [font, object = attributes.get()](DISPID property) { readAttribute(object, property, font->spec); },
-        [font, object = identity.get()] { pairs().forget(object, font.get()); });
-    DWORD cookie = 0;
-    if (sink->listenTo(made.get(), cookie)) {
-        pairs().enterOurs(identity.get(), font);
-        pairs().enterTheirs(font.get(), made.get());
-    }
+    // The object keeps the font alive for the host.
+    ComRef<IFontDisp> made = makeObject(
+        font->spec,
+        {.onChanged = [font](IFont* object, DISPID property) { readAttribute(object, property, font->spec); },
+         .onGone = [font](IUnknown* identity) { pairs().forget(identity, font.get()); }});
+    pairs().enterOurs(made.as<IUnknown>().get(), font);
+    pairs().enterTheirs(font.get(), made.get());
     return made;
 }
 
