@@ -22,6 +22,16 @@ TEST_F(MouseMove, YieldsAtBothEndsAndWithoutRowsAtTheStartAlone) {
     EXPECT_EQ(yieldsOf([&] { list.UserControl_MouseMove(0, 0, low.x, low.y); }), 2);
 }
 
+TEST_F(MouseMove, IsToldBeforeTheHeadersFollow) {
+    fill(2);
+    hover({30, 150});
+    Long hoveredWhenTold = 0;
+    events.on("MouseMove", [&] { hoveredWhenTold = inside.header().hoverColumn; });
+    move({30, 10});
+    EXPECT_EQ(hoveredWhenTold, -1);
+    EXPECT_EQ(inside.header().hoverColumn, 0);
+}
+
 TEST_F(MouseMove, YieldsBeforeItRemembersThePlace) {
     fill(2);
     move({10, 150});
@@ -96,6 +106,9 @@ TEST_F(MouseMove, CarriesTheGuideLineAlong) {
     EXPECT_EQ(inside.guide().X2(), 95);
     EXPECT_EQ(inside.guide().Y1(), 0);
     EXPECT_EQ(inside.guide().Y2(), 200);
+    list.window().place(100, 100, 300, 260);
+    move({96, 50});
+    EXPECT_EQ(inside.guide().Y2(), 260) << "as tall as the list is now";
 }
 
 TEST_F(MouseMove, GoesOnWithThePlaceThatTheHostMadeOfIt) {

@@ -301,6 +301,26 @@ TEST(AboutPictures, TheBackgroundIsOpaqueAndTheOthersLetItThrough) {
         EXPECT_EQ(picture->bitmap().at(0, 0), 0U);
 }
 
+TEST(AboutPictures, AreDrawnLikeThis) {
+    constexpr Long gap = 4; // pixels
+    const AboutArtwork artwork = AboutArtwork::standard();
+    const PictureRef pictures[] = {artwork.background, artwork.title, artwork.help, artwork.hand};
+    Long width = 0;
+    Long height = gap;
+    for (const PictureRef& picture : pictures) {
+        width = std::max(width, picture->bitmap().width);
+        height += picture->bitmap().height + gap;
+    }
+    RasterSurface sheet(width, height, testFonts());
+    sheet.letBackColor(0x808000);
+    Long top = gap;
+    for (const PictureRef& picture : pictures) {
+        sheet.paintPicture(*picture, 0, static_cast<Single>(top));
+        top += picture->bitmap().height + gap;
+    }
+    EXPECT_TRUE(showsPicture("about-pictures", sheet.image()));
+}
+
 TEST(AboutPictures, NoPixelIsBrighterThanItsAlphaAllows) {
     const AboutArtwork artwork = AboutArtwork::standard();
     for (const PictureRef& picture : {artwork.background, artwork.title, artwork.help, artwork.hand}) {
