@@ -81,10 +81,4 @@ void CompactText::copyTo(String& target) const {
     });
 }
 
-std::size_t CompactText::heapBytes() const {
-    if (!onHeap())
-        return 0;
-    return tag() == wideOnHeap ? heapLength() * sizeof(char16_t) : heapLength();
-}
-
 } // namespace lumtex

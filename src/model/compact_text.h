@@ -44,9 +44,6 @@ class CompactText {
         return visitor(std::span<const unsigned char>(onHeap() ? heap() : bytes_.data(), size()));
     }
 
-    /// Bytes on the heap, for the accounting of benchmarks.
-    std::size_t heapBytes() const;
-
   private:
     static constexpr std::size_t inlineCapacity = 15;
     /// Values of the last byte; up to `inlineCapacity` it is the length of a text kept inside.

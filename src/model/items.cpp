@@ -158,11 +158,6 @@ void Items::exchangeCell(std::size_t index, Items& other) {
     std::construct_at(theirs, std::move(kept));
 }
 
-bool Items::hasExtras() const {
-    const Block* current = block();
-    return current != nullptr && current->extras != nullptr;
-}
-
 Variant Items::tag(std::size_t index) const {
     if ((*this)[index].tagIsEmptyText())
         return u"";
@@ -177,11 +172,6 @@ void Items::letTag(std::size_t index, const Variant& tag) {
     else if (extras(index) != nullptr)
         needExtras(index).Tag = Variant();
     (*this)[index].letTagIsEmptyText(isEmptyText);
-}
-
-std::size_t Items::heapBytes() const {
-    const Block* current = block();
-    return current != nullptr ? sizeof(Block) + current->capacity * sizeof(ListViewItem) : 0;
 }
 
 } // namespace lumtex

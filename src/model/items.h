@@ -51,14 +51,10 @@ class Items {
     const CellExtras* extras(std::size_t index) const;
     /// The same, made on demand.
     CellExtras& needExtras(std::size_t index);
-    bool hasExtras() const;
 
     /// The tag of a cell, Empty while it has none.
     Variant tag(std::size_t index) const;
     void letTag(std::size_t index, const Variant& tag);
-
-    /// Bytes of the block, the rare fields aside, for the accounting of benchmarks.
-    std::size_t heapBytes() const;
 
   private:
     struct Block;

@@ -6,18 +6,11 @@ namespace lumtex::testing {
 namespace {
 
 /// Gives each value as the type that it is asked for, and says `failure` where it cannot.
-class ConvertingBag final : public IPropertyBag {
+class ConvertingBag final : public MapBag {
   public:
-    std::map<String, Variant> values;
     HRESULT failure = DISP_E_TYPEMISMATCH;
     HRESULT missing = E_INVALIDARG;
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID /*iid*/, void** found) override {
-        *found = nullptr;
-        return E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-    ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) override {
         const auto found = values.find(String(textOf(name)));
         if (found == values.end())
@@ -29,7 +22,6 @@ class ConvertingBag final : public IPropertyBag {
         *value = held.release();
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE Write(LPCOLESTR /*name*/, VARIANT* /*value*/) override { return E_NOTIMPL; }
 };
 
 class PropertyBagLoading : public ListFixture {

@@ -223,7 +223,7 @@ class SmallContainer final : public IOleClientSite,
 };
 
 /// A container's bag.
-class MapBag final : public IPropertyBag {
+class MapBag : public IPropertyBag {
   public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID /*iid*/, void** found) override {
         *found = nullptr;
