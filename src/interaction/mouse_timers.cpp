@@ -7,24 +7,24 @@ namespace lumtex {
 void lmListView::tmrMouseIn_Timer() {
     Procedure p = procedure(u"tmrMouseIn_Timer");
     if (designMode()) {
-        tmrMouseIn->letEnabled(false);
+        p.step([&] { tmrMouseIn->letEnabled(false); });
         return;
     }
     // A child over the surface, a bar for one, counts as outside.
-    if (window_->pointerStrictlyInside()) {
+    if (p.condition([&] { return window_->pointerStrictlyInside(); }, true)) {
         mouse_.mouseInside = true;
         return;
     }
     mouse_.mouseInside = false;
-    window_->letMousePointer(pointerDefault);
+    p.step([&] { window_->letMousePointer(pointerDefault); });
     Redraw();
-    tmrMouseIn->letEnabled(false);
+    p.step([&] { tmrMouseIn->letEnabled(false); });
 }
 
 void lmListView::tmrMouseAction_Timer() {
     Procedure p = procedure(u"tmrMouseAction_Timer");
     if (designMode() || mouse_.lastMouseButton == noButton) {
-        tmrMouseAction->letEnabled(false);
+        p.step([&] { tmrMouseAction->letEnabled(false); });
         move_.moveTargetRow = -1;
         tmrMouseAction->Tag.clear();
         return;
@@ -39,7 +39,7 @@ void lmListView::tmrMouseAction_Timer() {
         // Wanted: at the last row it keeps ticking.
         p.step([&] { letTopIndex(sumOf(TopIndex(), 1)); });
     } else {
-        tmrMouseAction->letEnabled(false);
+        p.step([&] { tmrMouseAction->letEnabled(false); });
     }
 }
 

@@ -23,7 +23,7 @@ void lmListView::SetNewSelected(Long index) {
     Procedure p = procedure(u"SetNewSelected");
     countShared(paint_.scanIndex, 0, RowsCount() - 1, [&] {
         p.step([&] { recordAt(paint_.scanIndex).Selected = false; });
-        yield();
+        yield(p);
         return true;
     });
     p.step([&] { recordAt(index).Selected = true; });

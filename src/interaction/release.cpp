@@ -7,7 +7,7 @@ namespace lumtex {
 
 void lmListView::UserControl_MouseUp(Integer Button, Integer Shift, Single X, Single Y) {
     Procedure p = procedure(u"UserControl_MouseUp");
-    tmrMouseAction->letEnabled(false);
+    p.step([&] { tmrMouseAction->letEnabled(false); });
     if (properties_.AllowItemMoving)
         dropRow();
     if (ColumnsCount() != 0) {
@@ -20,7 +20,7 @@ void lmListView::UserControl_MouseUp(Integer Button, Integer Shift, Single X, Si
             endResize(X, p);
         if (headerPress_.hoverColumn == headerPress_.pressedColumn && headerPress_.hoverColumn != -1)
             clickColumn(p);
-        endHeaderPress();
+        endHeaderPress(p);
     }
     p.raise([&] { events_->MouseUp(Button, Shift, X, Y); });
     if (RowsCount() < 1 || ColumnsCount() < 1 || edit_.lastClickRow < 0 || edit_.lastClickColumn < 0)
@@ -41,7 +41,7 @@ void lmListView::endResize(Single X, Procedure& p) {
     for (Long i = std::max<Long>(resized, 0); i < ColumnsCount() - 1; ++i) {
         // Wanted: what is taken off is always the old width of the resized column, so only its first
         // neighbour moves by the true amount.
-        columnAt(i + 1).Left = columnAt(i + 1).Left + columnAt(i).Width - oldWidth;
+        p.step([&] { columnAt(i + 1).Left = columnAt(i + 1).Left + columnAt(i).Width - oldWidth; });
     }
     CheckScroll();
 }
@@ -58,13 +58,13 @@ void lmListView::clickColumn(Procedure& p) {
     Sort(sort_.sortColumn + 1, sort_.sortAscending == 0 ? cDescending : cAscending, cSortText);
 }
 
-void lmListView::endHeaderPress() {
+void lmListView::endHeaderPress(Procedure& p) {
     headerPress_.pressedColumn = -1;
     headerPress_.resizing = false;
-    Line1->letVisible(false);
+    p.step([&] { Line1->letVisible(false); });
     headerPress_.resizeColumn = -1;
     headerPress_.pressPending = false;
-    yield();
+    yield(p);
     Redraw();
 }
 

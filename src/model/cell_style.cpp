@@ -85,7 +85,12 @@ StyleHandle CellStyles::acquire(const CellStyle& style) {
     Slot& slot = slots_[handle];
     slot.style = style;
     slot.hash = hashOf(style);
-    index_.insert(handle);
+    try {
+        index_.insert(handle);
+    } catch (...) {
+        slot.style = CellStyle{}; // nothing of the host's stays in a slot that nobody uses
+        throw;
+    }
     slot.references = 1;
     free_.pop_back();
     return handle;

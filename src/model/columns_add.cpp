@@ -16,7 +16,7 @@ void lmListView::ColumnsAdd(const Variant& aText,
                             OLE_COLOR aForeColorHover,
                             OLE_COLOR aForeColorDown) {
     Procedure p = procedure(u"ColumnsAdd");
-    p.step([&] {
+    const bool grown = p.step([&] {
         if (columnsAllocated_) {
             columns_.emplace_back();
         } else {
@@ -26,6 +26,9 @@ void lmListView::ColumnsAdd(const Variant& aText,
         }
         newColumnSlot_ = static_cast<Long>(columns_.size()) - 1;
     });
+    // The statements below would go to the column before.
+    if (!grown)
+        return;
 
     if (RowsCount() >= 1) {
         p.step([&] {

@@ -10,7 +10,7 @@ Long lmListView::ListIndex() {
     // stands.
     const Long index = RowsCount() >= 1 ? properties_.ListIndex : -1;
     // Wanted: each read yields to the host once.
-    yield();
+    yield(p);
     return index;
 }
 

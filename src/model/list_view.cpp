@@ -51,10 +51,18 @@ Procedure lmListView::procedure(StringView name) const {
     return {runtime(), name, ModuleKind::control, u"lmListView", &life_};
 }
 
-/// The host's turn. A control that has ended has no more business with it.
-void lmListView::yield() {
+/// The host's turn, in which its code may throw as in an event. A control that has ended has no more business
+/// with it.
+void lmListView::yield(Procedure& p) {
     if (!life_.hasEnded())
-        runtime().DoEvents();
+        p.raise([&] { runtime().DoEvents(); });
+}
+
+/// A host that cannot tell is taken for a running program.
+bool lmListView::designMode() const {
+    bool running = true;
+    ignoringErrors([&] { running = host_->UserMode(); });
+    return !running;
 }
 
 void lmListView::CheckForRedraw() {

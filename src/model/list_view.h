@@ -275,7 +275,7 @@ class lmListView final : private ListViewLife,
 
     Procedure procedure(StringView name) const override;
     Runtime& runtime() const { return world_.runtime(); }
-    void yield();
+    void yield(Procedure& p);
 
     // Model (model/)
 
@@ -287,7 +287,7 @@ class lmListView final : private ListViewLife,
     void removeRow(Long Index, Procedure& p);
     void CheckForRedraw() override;
     void CheckProperty();
-    bool designMode() const { return !host_->UserMode(); }
+    bool designMode() const;
 
     void propertyStored(Property property, Procedure& p) override;
     void storeFont(Property property, Held<FontRef>& field, const FontRef& font);
@@ -330,13 +330,13 @@ class lmListView final : private ListViewLife,
     bool inCheckBoxZone(Single X, Single Y, Procedure& p);
     void toggleCheckBox(Procedure& p);
 
-    void moveOverHeaders(Single X, Single Y);
-    void drag(Single Y, std::optional<Long> row);
+    void moveOverHeaders(Single X, Single Y, Procedure& p);
+    void drag(Single Y, std::optional<Long> row, Procedure& p);
     void leaveItem(Procedure& p);
 
     void endResize(Single X, Procedure& p);
     void clickColumn(Procedure& p);
-    void endHeaderPress();
+    void endHeaderPress(Procedure& p);
     void releaseOnRow(Long row, Procedure& p);
 
     void tmrMouseIn_Timer();

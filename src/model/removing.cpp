@@ -41,7 +41,7 @@ void lmListView::removeRow(Long Index, Procedure& p) {
     for (; row <= last; ++row) {
         p.step([&] { recordAt(row - 1) = recordAt(row); });
         // Wanted: the host gets its turn after each row, and sees the row behind the gap twice.
-        yield();
+        yield(p);
     }
     // Wanted: ListIndex, NewIndex and the top row keep their numbers.
     if (RowsCount() < 2)

@@ -1,5 +1,7 @@
 #include "persistence/content_reader.h"
 
+#include "services/failure_of.h"
+
 #include <algorithm>
 
 namespace lumtex {
@@ -38,8 +40,8 @@ void ContentReader::refill() {
         end_ += got;
         // A file that became shorter ends here.
         behindBuffer_ = got == wanted ? behindBuffer_ - static_cast<std::int64_t>(got) : 0;
-    } catch (const RuntimeError& error) {
-        failure_ = error.number();
+    } catch (const std::exception& caught) {
+        failure_ = failureFrom(caught).number();
         goToEnd();
     }
 }

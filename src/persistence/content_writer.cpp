@@ -1,5 +1,7 @@
 #include "persistence/content_writer.h"
 
+#include "services/failure_of.h"
+
 #include <algorithm>
 #include <exception>
 
@@ -21,8 +23,8 @@ void ContentWriter::writeOut() {
     used_ = 0;
     try {
         file_->write({buffer_.data(), waiting});
-    } catch (const RuntimeError& error) {
-        failure_ = error.number();
+    } catch (const std::exception& caught) {
+        failure_ = failureFrom(caught).number();
         buffer_.clear();
         throw;
     }
@@ -41,7 +43,7 @@ void ContentWriter::close() {
     if (failure_ == 0 && used_ > 0) {
         try {
             file->write({buffer_.data(), used_});
-        } catch (const RuntimeError&) {
+        } catch (const std::exception&) {
             lost = std::current_exception();
         }
     }

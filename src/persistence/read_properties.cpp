@@ -29,8 +29,8 @@ void lmListView::UserControl_ReadProperties(const PropertyBag& bag) {
     p.step([&] { tmrMouseIn->letEnabled(false); });
     p.step([&] { tmrMouseAction->letEnabled(false); });
     if (!designMode()) {
-        Wheel1->lethWndCapture(hwnd());
-        Wheel1->EnableWheel();
+        p.step([&] { Wheel1->lethWndCapture(hwnd()); });
+        p.step([&] { Wheel1->EnableWheel(); });
     }
     Redraw();
 }

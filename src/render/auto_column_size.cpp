@@ -28,10 +28,12 @@ void lmListView::AutoColumnSize(std::span<const Variant> lColumns) {
     const String spec = columnSpec(lColumns);
     const Long columns = ColumnsCount();
     for (Long column = 0; column < columns; ++column) {
-        yield();
+        yield(p);
         // Wanted: the number is looked for as a text, so that 12 fits column 2 too.
-        const String number = Variant(column + 1).toText() + u",";
-        if (spec.empty() || spec.find(number) != String::npos)
+        const bool meant = p.condition(
+            [&] { return spec.empty() || spec.find(Variant(column + 1).toText() + u",") != String::npos; },
+            true);
+        if (meant)
             fitColumn(column, p);
     }
     // Wanted: the places of the columns behind and the scroll bars stay as they are.

@@ -16,15 +16,15 @@ void PaintPass::run() {
     state.paintBusy = true;
     try {
         runSteps();
-        list.window_->present();
+        statement([&] { list.window_->present(); });
     } catch (const PassEnds&) {
         // Wanted: a pass that gave up leaves `paintBusy` set.
-        list.window_->present();
+        ignoringErrors([&] { list.window_->present(); });
         return;
     }
     // The flag goes first, so that a paint queued meanwhile can run at once.
     state.paintBusy = false;
-    list.yield();
+    list.yield(procedure);
 }
 
 void PaintPass::runSteps() {

@@ -112,7 +112,7 @@ void ArrowButton::RedrawButton() {
         const Double index = 1.0 * c_ * buttonPictures + static_cast<Byte>(look);
         p.step([&] { window_->surface().paintPicture(pictureAt(img_, index), 0, 0); });
     }
-    window_->present();
+    p.step([&] { window_->present(); });
 }
 
 // Wanted: a disabled button of the custom style looks as an enabled one.

@@ -9,7 +9,7 @@ namespace lumtex {
 void lmListView::VS_Change() {
     Procedure p = procedure(u"VS_Change");
     scroll_.scrollPending = true;
-    yield();
+    yield(p);
     scroll_.scrollPending = false;
     Redraw();
 }
@@ -23,7 +23,7 @@ void lmListView::VS_Scroll() {
 void lmListView::HS_Change() {
     Procedure p = procedure(u"HS_Change");
     scroll_.scrollPending = true;
-    yield();
+    yield(p);
     scroll_.scrollPending = false;
     Redraw();
 }

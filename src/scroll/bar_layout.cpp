@@ -120,7 +120,7 @@ void ScrollBar::Redraw() {
     if (!dragging_)
         placeThumb(p);
     p.step([&] { paintTrough(); });
-    window_->present();
+    p.step([&] { window_->present(); });
 }
 
 } // namespace lumtex

@@ -8,8 +8,8 @@ namespace lumtex {
 void lmListView::CheckScroll() {
     Procedure p = procedure(u"CheckScroll");
     if (ColumnsCount() == 0) {
-        VS->letVisible(false);
-        HS->letVisible(false);
+        p.step([&] { VS->letVisible(false); });
+        p.step([&] { HS->letVisible(false); });
         VS->letMax(0);
         VS->letValue(0);
         HS->letMax(0);

@@ -112,7 +112,7 @@ void ScrollThumb::RedrawScroll() {
     } else {
         paintScheme(p);
     }
-    window_->present();
+    p.step([&] { window_->present(); });
 }
 
 void ScrollThumb::paintScheme(Procedure& p) {

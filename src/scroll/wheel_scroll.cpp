@@ -32,7 +32,7 @@ void lmListView::Wheel1_WheelScroll(Integer& Rotation, Integer& /*Keys*/, Single
     }
     Wheel1->lethWndCapture(hwnd());
     Redraw();
-    p.step([&] { yield(); });
+    yield(p);
 }
 
 // Wanted: the size of a turn does not matter, and a turn by 0 goes to the end of the range, as does a turn
@@ -72,14 +72,14 @@ void lmListView::wheelIndexDown(Procedure& p, Integer Rotation) {
             return;
         if (stopsWheel(p, i))
             break;
-        p.step([&] { yield(); });
+        yield(p);
         if (i == last())
             return;
     }
     if (ListIndex() < last()) {
-        p.step([&] { yield(); });
+        yield(p);
         letListIndex(i);
-        p.step([&] { yield(); });
+        yield(p);
     }
 }
 
@@ -92,13 +92,13 @@ void lmListView::wheelIndexUp(Procedure& p, Integer Rotation) {
     for (Long i = ListIndex() - 1; i >= 0; --i) {
         if (stopsWheel(p, i)) {
             if (ListIndex() > 0) {
-                p.step([&] { yield(); });
+                yield(p);
                 letListIndex(i);
-                p.step([&] { yield(); });
+                yield(p);
             }
             break;
         }
-        p.step([&] { yield(); });
+        yield(p);
     }
     if (ListIndex() < VS->Value()) {
         VS->letValue(ListIndex());

@@ -20,7 +20,11 @@ RuntimeError failureOfHandler(const std::exception& caught) {
     try {
         return failureFrom(caught);
     } catch (const std::exception& foreign) {
-        return RuntimeError(automationError, fromUtf8(foreign.what()));
+        try {
+            return RuntimeError(automationError, fromUtf8(foreign.what()));
+        } catch (const std::exception&) {
+            return RuntimeError(automationError); // without its own text, where there is no memory for it
+        }
     }
 }
 

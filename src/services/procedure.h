@@ -84,6 +84,8 @@ class [[nodiscard]] Procedure {
             event();
         } catch (const std::exception& caught) {
             report(failureOfHandler(caught));
+        } catch (...) {
+            report(RuntimeError(automationError));
         }
     }
 

@@ -44,9 +44,12 @@ class CellSearch {
 
 FindResults lmListView::FindItem(
     StringView sFind, cFindBegin cBegin, cFindCompare cCompare, StringView sColumns, StringView sRows) {
-    String columns(sColumns);
-    String rows(sRows);
-    return FindItem(sFind, cBegin, cCompare, columns, rows);
+    Procedure p = procedure(u"FindItem");
+    return p.value<FindResults>([&] {
+        String columns(sColumns);
+        String rows(sRows);
+        return FindItem(sFind, cBegin, cCompare, columns, rows);
+    });
 }
 
 FindResults lmListView::FindItem(

@@ -86,9 +86,10 @@ bool HeadlessWindow::adopt(WindowHandle child) {
 
 void HeadlessWindow::present() {
     ++presented_;
-    if (std::exchange(paintWaits_, true))
+    if (paintWaits_)
         return;
     desktop_.postPaint(*this);
+    paintWaits_ = true;
 }
 
 void HeadlessWindow::paint() {

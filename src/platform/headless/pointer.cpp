@@ -2,6 +2,7 @@
 
 #include "platform/headless/headless_window.h"
 
+#include <new>
 #include <utility>
 
 namespace lumtex {
@@ -62,9 +63,14 @@ void Pointer::deliverMadeUpMove(Event event) {
 }
 
 void Pointer::endCapture() {
-    if (std::exchange(captured_, 0) == 0 || !onMadeUpMove || std::exchange(moveMadeUp_, true))
+    if (std::exchange(captured_, 0) == 0 || !onMadeUpMove || moveMadeUp_)
         return;
-    onMadeUpMove({place_, noButton, buttons_, shift_});
+    try {
+        onMadeUpMove({place_, noButton, buttons_, shift_});
+        moveMadeUp_ = true;
+    } catch (const std::bad_alloc&) {
+        // Windows that go end a capture too, and must not fail: the move is not made.
+    }
 }
 
 Pane* Pointer::pressTarget(const Event& event) {

@@ -20,6 +20,12 @@ TimerClock::Span TimerClock::after(Span span) const {
     return now_ + std::clamp(span, Span{0}, endOfTime - now_);
 }
 
+void TimerClock::born() {
+    if (timers_.capacity() <= alive_)
+        timers_.reserve(2 * alive_ + 1);
+    ++alive_;
+}
+
 HeadlessTimer* TimerClock::first() const {
     HeadlessTimer* first = nullptr;
     for (HeadlessTimer* timer : timers_) {
@@ -43,10 +49,13 @@ bool TimerClock::deliverTick() {
 }
 
 HeadlessTimer::HeadlessTimer(TimerClock& clock, std::function<void()> onTimer)
-    : clock_(clock), onTimer_(std::move(onTimer)) {}
+    : clock_(clock), onTimer_(std::move(onTimer)) {
+    clock_.born();
+}
 
 HeadlessTimer::~HeadlessTimer() {
     clock_.remove(*this);
+    clock_.died();
 }
 
 void HeadlessTimer::start() {

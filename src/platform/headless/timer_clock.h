@@ -35,6 +35,9 @@ class TimerClock {
     /// Delivers the tick that is due first, if any is.
     bool deliverTick();
 
+    /// Makes room for one timer more, so that starting one never needs memory.
+    void born();
+    void died() { --alive_; }
     void add(HeadlessTimer& timer) { timers_.push_back(&timer); }
     void remove(HeadlessTimer& timer) { std::erase(timers_, &timer); }
     /// Orders timers that are due at the same moment.
@@ -45,6 +48,7 @@ class TimerClock {
 
     Span now_{0};
     std::uint64_t arrivals_ = 0;
+    std::size_t alive_ = 0;
     std::vector<HeadlessTimer*> timers_; ///< those that run
 };
 
