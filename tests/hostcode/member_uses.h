@@ -14,7 +14,9 @@ namespace lumtex::testing {
 /// Values for the parameters of a member, good ones or such that are refused.
 class CallValues {
   public:
-    explicit CallValues(std::string folder) : folder_(std::move(folder)) {}
+    /// `text` is what parameters and properties without a meaning of their own get.
+    explicit CallValues(std::string folder, StringView text = u"text")
+        : folder_(std::move(folder)), text_(text) {}
 
     std::vector<Variant> good(const Member& member) const {
         std::vector<Variant> values;
@@ -38,10 +40,10 @@ class CallValues {
         }
         return values;
     }
-    static Variant valueFor(const Member& member) {
+    Variant valueFor(const Member& member) const {
         switch (member.type.code) {
         case TypeCode::string:
-            return u"text";
+            return text_;
         case TypeCode::picture:
             return PictureRef{};
         case TypeCode::font:
@@ -61,17 +63,18 @@ class CallValues {
         if (name == u"sFind")
             return u"*b*";
         if (name == u"aItemTexts")
-            return u"new,x,y";
+            return u"new,x," + text_;
         if (name == u"SortMode" || name == u"SortType")
             return Long{1};
         if (parameter.optional() || parameter.type.code == TypeCode::picture)
             return Missing{};
         if (parameter.type.code == TypeCode::string)
-            return u"text";
+            return text_;
         return Long{1};
     }
 
     std::string folder_;
+    String text_;
 };
 
 /// Every use of every member: what reads, what assigns, what calls.
@@ -95,14 +98,16 @@ inline std::string nameOf(const MemberUse& use) {
     return (use.assigns ? "let " : "") + toUtf8(use.member->name);
 }
 
-/// Calls by name; what cannot be converted is refused before it reaches the list.
-inline void use(lmListView& list, const MemberUse& use, std::vector<Variant> arguments) {
+/// Calls by name, with a new value where it assigns; what cannot be converted is refused before it reaches
+/// the list.
+inline void
+use(lmListView& list, const MemberUse& use, std::vector<Variant> arguments, const Variant& value) {
     CallByName byName(list);
     try {
         if (use.assigns && use.member->isReference())
-            byName.set(*use.member, arguments, CallValues::valueFor(*use.member));
+            byName.set(*use.member, arguments, value);
         else if (use.assigns)
-            byName.let(*use.member, arguments, CallValues::valueFor(*use.member));
+            byName.let(*use.member, arguments, value);
         else if (use.member->isMethod())
             byName.call(*use.member, arguments);
         else

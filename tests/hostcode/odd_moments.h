@@ -162,7 +162,7 @@ class OddMoments : public ::testing::Test {
     void makeList() {
         releases.code = {};
         list.reset();
-        list.reset(new lmListView(desktop, host, events));
+        list.reset(new lmListView(*world, *container, events));
         list->UserControl_ReadProperties(MemoryPropertyBag{});
         list->window().place(0, 0, static_cast<Single>(width), static_cast<Single>(height));
         list->window().letVisible(true);
@@ -290,6 +290,9 @@ class OddMoments : public ::testing::Test {
     Releases releases;
     Desktop desktop{testFonts()};
     TestHost host;
+    // What the next list is made in; a test may put something in front of both.
+    World* world = &desktop;
+    Host* container = &host;
     RecordingEvents events;
     std::unique_ptr<lmListView> list;
 

@@ -41,7 +41,8 @@ class ReleaseWalk : public OddMoments {
 TEST_F(ReleaseWalk, NoMemberIsHarmedByWhatRunsAtARelease) {
     for (const MemberUse& each : memberUses()) {
         SCOPED_TRACE(nameOf(each));
-        walk([&] { holdAll(); }, [&] { use(*list, each, values.good(*each.member)); });
+        walk([&] { holdAll(); },
+             [&] { use(*list, each, values.good(*each.member), values.valueFor(*each.member)); });
     }
     // What assigns to a cell or a column, clears, removes, loads.
     EXPECT_GT(releasing_, 15 * static_cast<int>(codes().size()));

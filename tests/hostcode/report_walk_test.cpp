@@ -40,7 +40,8 @@ TEST_F(ReportWalk, NoMemberIsHarmedByWhatRunsDuringItsReport) {
         SCOPED_TRACE(nameOf(each));
         withSomeCodes([&](const NamedCode& named) {
             quietly([&] { makeList(); });
-            const bool reported = reports(named, [&] { use(*list, each, values.bad(*each.member)); });
+            const bool reported = reports(
+                named, [&] { use(*list, each, values.bad(*each.member), values.valueFor(*each.member)); });
             reporting += reported ? 1 : 0;
             quietly([&] { expectServes(); });
             return reported;

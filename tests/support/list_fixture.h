@@ -52,6 +52,7 @@ class ListViewInspector {
     void MoveItemUp(Long row, Long count) { list_.MoveItemUp(row, count); }
     void MoveItemDown(Long row, Long count) { list_.MoveItemDown(row, count); }
     QI* tips() { return list_.tips_.get(); }
+    const ControlLife& life() const { return list_.life_; }
     void letAllowItemMoving(bool value) { list_.letAllowItemMoving(value); }
 
     /// What `RowsClear` and `ColumnsClear` leave behind: one blank element and the flag False.
