@@ -152,6 +152,15 @@ TEST_F(Keys, ARowThatShowsIsScrolledNowhere) {
     EXPECT_EQ(topAfterUpTo(20 + visible + 1, 20), 20 + visible + 1);
 }
 
+TEST_F(Keys, DownBringsARowAboveTheViewToItsTop) {
+    fill(40);
+    list.letListIndex(2);
+    list.letTopIndex(20);
+    list.UserControl_KeyDown(keys::down, 0);
+    EXPECT_EQ(list.ListIndex(), 3);
+    EXPECT_EQ(list.TopIndex(), 3);
+}
+
 TEST_F(Keys, UpReachesTheFirstRow) {
     fill(3);
     list.letListIndex(1);

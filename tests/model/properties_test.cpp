@@ -381,6 +381,22 @@ TEST_F(Setters, RowsDynamicChecksTheBarsAndRepaints) {
     EXPECT_EQ(inside.vertical().Tag, u"False") << "three rows of 16 pixels fit";
 }
 
+TEST_F(Setters, RowsDynamicChecksTheBarsBeforeItRepaints) {
+    addColumns({50});
+    addRows(3);
+    list.letRowsDynamic(false);
+    String tagAtThePaint;
+    desktop.onYield([&] { tagAtThePaint = inside.vertical().Tag; });
+    list.letRowsDynamic(true);
+    EXPECT_EQ(tagAtThePaint, u"True");
+}
+
+TEST_F(Setters, AScrollColourReachesBothBars) {
+    list.letScrollBackColor(0x123456);
+    EXPECT_EQ(inside.vertical().BackColor(), 0x123456U);
+    EXPECT_EQ(inside.horizontal().BackColor(), 0x123456U);
+}
+
 // Wanted: the one setter that does not tell the host.
 TEST_F(Setters, TextPositionDefaultRepaintsButDoesNotTellTheHost) {
     addColumns({50});

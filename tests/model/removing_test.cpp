@@ -222,6 +222,27 @@ TEST_F(Removing, ANewListTakesNoRemoval) {
     EXPECT_EQ(lastReport(), "9 RowSelectedCount");
 }
 
+TEST_F(Removing, OfAllRowsChecksTheBarsAfterThePaintWhereThatIsAutomatic) {
+    String tagAtThePaint;
+    desktop.onYield([&] { tagAtThePaint = inside.vertical().Tag; });
+    EXPECT_EQ(inside.vertical().Tag, u"True");
+    list.RowsClear();
+    EXPECT_EQ(tagAtThePaint, u"True");
+    EXPECT_EQ(inside.vertical().Tag, u"False");
+    inside.vertical().Tag = u"";
+    list.letAutoCheckScroll(false);
+    list.RowsClear();
+    EXPECT_EQ(inside.vertical().Tag, u"");
+}
+
+TEST_F(Removing, OfAllRowsLeavesNoColumnWithCheckedCells) {
+    list.letItemChecked(1, 1, true);
+    list.letItemChecked(2, 2, true);
+    list.RowsClear();
+    for (const std::unique_ptr<ColumnHeader>& column : inside.columns())
+        EXPECT_EQ(column->ItemsChecked, 0);
+}
+
 TEST_F(Removing, AClearedListHasNoSelectedRowsAndReportsNothing) {
     list.RowsClear();
     list.RowsSelectedRemove();

@@ -1,4 +1,5 @@
 #include "list_fixture.h"
+#include "nosy_bag.h"
 #include "variant_printing.h"
 
 namespace lumtex::testing {
@@ -6,23 +7,6 @@ namespace {
 
 class WriteProperties : public ListFixture {
   protected:
-    /// Keeps whatever is written, with its default.
-    class NosyBag final : public PropertyBag {
-      public:
-        Variant ReadProperty(StringView, const Variant& defaultValue) const override { return defaultValue; }
-        void WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) override {
-            names.emplace_back(name);
-            values.push_back(value);
-            defaults.push_back(defaultValue);
-            if (name == refused)
-                throw RuntimeError(outOfMemory);
-        }
-        std::vector<String> names;
-        std::vector<Variant> values;
-        std::vector<Variant> defaults;
-        String refused;
-    };
-
     /// The names in the order in which a list asks for them.
     std::vector<String> namesRead() {
         class AskedBag final : public PropertyBag {

@@ -101,6 +101,13 @@ TEST(SortArrow, PointsDownForZeroUpForOneAndNowhereElse) {
             "Polygon 2,3 10,3 6,7", "Polygon 2,8 10,8 6,3", "Polygon 0,0 0,0 0,0", "Polygon 2,8 10,8 6,12"}));
 }
 
+TEST(SortArrow, IsFilledAndLeavesTheSurfaceTransparent) {
+    RasterSurface surface(20, 20, testFonts());
+    DrawArrow(surface, 0, 2, 3);
+    EXPECT_EQ(at(surface, 6, 4), 0x999999U) << "inside";
+    EXPECT_EQ(surface.fillStyle(), FillStyle::transparent);
+}
+
 TEST(CloneFontTest, GivesNoneForNoneElseAFontOfItsOwn) {
     EXPECT_EQ(CloneFont(nullptr), nullptr);
     const auto font = std::make_shared<Font>(FontSpec{.Name = u"a", .Size = 3, .Underline = true});

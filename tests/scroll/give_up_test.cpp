@@ -31,9 +31,10 @@ class GivingUpInAChange : public PaintedList {
         list.CheckScroll();
     }
 
-    /// Presses the bar's upper arrow and runs `body` while the `Change` of that step waits.
-    void duringChange(const std::function<void()>& body) {
-        desktop.move(inside.vertical().window(), 8, 8);
+    /// Presses the first arrow of a bar, the vertical one if none is named, and runs `body` while the
+    /// `Change` of that step waits.
+    void duringChange(const std::function<void()>& body, ScrollBar* bar = nullptr) {
+        desktop.move((bar != nullptr ? bar : &inside.vertical())->window(), 8, 8);
         bool ran = false;
         desktop.onYield([&] {
             EXPECT_TRUE(inside.scroll().scrollPending);
@@ -44,6 +45,17 @@ class GivingUpInAChange : public PaintedList {
         EXPECT_TRUE(ran);
     }
 };
+
+TEST_F(GivingUpInAChange, OfTheHorizontalBarPaintsGiveUpToo) {
+    list.letColumnWidth(2, 6000);
+    list.CheckScroll();
+    ASSERT_TRUE(inside.horizontal().Visible());
+    Lines painted;
+    duringChange([&] { painted = repaint(); }, &inside.horizontal());
+    ASSERT_FALSE(painted.empty());
+    EXPECT_EQ(painted.back().substr(0, 9), "BackColor");
+    EXPECT_FALSE(inside.scroll().scrollPending);
+}
 
 TEST_F(GivingUpInAChange, APaintStopsBeforeItsFirstCheckpoint) {
     Lines painted;

@@ -132,6 +132,14 @@ TEST_F(ListSave, WritesTheTextsBeforeAndAfterEachEntry) {
     EXPECT_EQ(folder.contentOf("list.txt"), "<li>a</li>\r\n<li>b</li>\r\n");
 }
 
+TEST_F(ListSave, WhoseCountCannotBeReadHasEmptiedTheFile) {
+    folder.write("list.txt", "before");
+    list->claimedCount = u"many";
+    spEv.ListSave(list, folder.pathTo("list.txt"));
+    EXPECT_EQ(folder.contentOf("list.txt"), "");
+    EXPECT_NE(reports(), "");
+}
+
 TEST_F(ListSave, OfAnEmptyListEmptiesTheFile) {
     folder.write("list.txt", "before");
     spEv.ListSave(list, folder.pathTo("list.txt"), u"<", u">");
