@@ -12,6 +12,7 @@ NO_CODE = re.compile(r'//[^\n]*|/\*.*?\*/|u?R"\((?:.|\n)*?\)"|"(?:\\.|[^"\\\n])*
                      re.S | re.M)
 # Statements that are no more than their names; without `return x`, no value is left, which is no single change.
 KEPT = re.compile(r"(return\b(?!;)|case\b|default\b|using\b|namespace\b|template\b|static_assert|friend\b|public:|private:|throw\b|struct\b|class\b|enum\b|extern\b|goto\b)")
+DECLARATION = re.compile(r"(?:const |static |constexpr |auto )|[A-Za-z_:]+(?:<[^;]*?>)?[&*]* \w+ ?(?:[=({;]|$)")
 # What a host hears of, and may answer by changing an argument.
 EVENT = re.compile(r"\b(?:events?_?|list_\.events_|host_?)(?:\(\))?(?:\.|->)[A-Za-z]+\(([^()]*)\)")
 
@@ -107,8 +108,8 @@ def dropped_and_swapped(source, code):
         yield Mutation("dropped", start, end, ";")
         # Two plain assignments in a row seldom mind which comes first.
         calls = former and "(" in code[former[0] : former[1]] + code[start:end]
-        # Where a procedure begins decides no more than the name in a report of what comes before it.
-        calls = calls and "Procedure p" not in code[former[0] : end]
+        # A name's place among the statements before its use, that of the procedure too, seldom decides anything.
+        calls = calls and not any(DECLARATION.match(code[one[0] : one[1]]) for one in (former, (start, end)))
         if calls and former[2] == indent and not code[former[1] : start].strip():
             between = source[former[1] : start]
             yield Mutation("swapped", former[0], end, source[start:end] + between + source[former[0] : former[1]])

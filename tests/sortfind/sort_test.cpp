@@ -89,6 +89,11 @@ TEST_F(Sorting, MinusOneDropsTheMarkWithoutSortDone) {
     EXPECT_EQ(inside.sort().sortAscending, 0);
     EXPECT_EQ(column(), "a b ");
     EXPECT_EQ(events.log, std::vector<std::string>{});
+    list.Sort(1, cAscending);
+    Long markAtThePaint = 0;
+    desktop.onYield([&] { markAtThePaint = inside.sort().sortColumn; });
+    list.Sort(-1, cDescending);
+    EXPECT_EQ(markAtThePaint, -1) << "the paint shows it no more";
 }
 
 // Wanted: SortDone comes also where nothing was sorted, and the sort itself does not repaint.
