@@ -42,6 +42,11 @@ bool SpEv::IsWinXP() const {
 }
 
 cActiveXPTheme SpEv::ActiveXPTheme() {
+    Procedure p = procedure(u"ActiveXPTheme");
+    return p.value<cActiveXPTheme>([&] { return activeTheme(); });
+}
+
+cActiveXPTheme SpEv::activeTheme() const {
     if (!IsWinXP())
         return styleClassic;
     String themeFile(themeFileLength, u' ');

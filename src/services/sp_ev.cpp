@@ -3,6 +3,7 @@
 #include "platform/runtime_error.h"
 #include "platform/variant.h"
 #include "services/file_exists.h"
+#include "services/ignoring_errors.h"
 #include "services/text_file.h"
 
 #include <array>
@@ -55,7 +56,8 @@ void SpEv::TextSave(StringView Filename, StringView Text) {
 }
 
 void SpEv::PlayMusic(StringView Filename) {
-    runtime_.playSound(Filename, soundAsync | soundNoDefault);
+    Procedure p = procedure(u"PlayMusic");
+    p.step([&] { runtime_.playSound(Filename, soundAsync | soundNoDefault); });
 }
 
 void SpEv::ListSave(const ObjectRef& List,
@@ -92,7 +94,9 @@ void SpEv::ListRead(const ObjectRef& List, StringView Filename) {
 }
 
 bool SpEv::FileExists(StringView sFile) {
-    return lumtex::FileExists(runtime_, sFile);
+    bool exists = false;
+    ignoringErrors([&] { exists = lumtex::FileExists(runtime_, sFile); });
+    return exists;
 }
 
 } // namespace lumtex

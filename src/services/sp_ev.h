@@ -49,6 +49,7 @@ class SpEv {
   private:
     Procedure procedure(StringView name) const;
     bool IsWinXP() const;
+    cActiveXPTheme activeTheme() const;
 
     Runtime& runtime_;
 };

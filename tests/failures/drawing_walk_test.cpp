@@ -47,7 +47,7 @@ class DrawingWalk : public FailureWalk {
 };
 
 TEST_F(DrawingWalk, AFailureReachesNoCaller) {
-    EXPECT_GT(walkScenes(memberScenes(), Steps::coarse), 1000);
+    EXPECT_GT(walkScenes(memberScenes(), Steps::coarse), 500);
     EXPECT_GT(walkScenes(longerScenes(), Steps::fine), 300);
 }
 
@@ -57,7 +57,7 @@ TEST_F(DrawingWalk, AFailureReachesNoUser) {
 
 TEST_F(DrawingWalk, AFailureIsReportedAsErrorSeven) {
     Error().letSilentError(false);
-    EXPECT_GT(walkScenes(longerScenes(), Steps::coarse), 150);
+    EXPECT_GT(walkScenes(longerScenes(), Steps::coarse), 50);
 }
 
 TEST_F(DrawingWalk, AFailingPaintTellsTheHostUpToTheHeadersAndReportsFromTheRowsOn) {
@@ -92,8 +92,8 @@ TEST_F(DrawingWalk, AFailingPaintTellsTheHostUpToTheHeadersAndReportsFromTheRows
 }
 
 TEST_F(DrawingWalk, ASurfaceThatFailsForGoodReachesNobody) {
-    EXPECT_GT(walkScenes(longerScenes(), Steps::coarse, true), 100);
-    EXPECT_GT(walkScenes(inputScenes(), Steps::coarse, true), 100);
+    EXPECT_GT(walkScenes(longerScenes(), Steps::coarse, true), 50);
+    EXPECT_GT(walkScenes(inputScenes(), Steps::coarse, true), 50);
 }
 
 } // namespace lumtex::testing

@@ -141,9 +141,11 @@ class FailingWindow final : public ForwardingWindow {
 /// A desktop of such windows and surfaces.
 class FailingWorld final : public World {
   public:
-    FailingWorld(Desktop& desktop, FailurePoint& point) : desktop_(desktop), point_(point) {}
+    /// `runtime` stands in for the desktop's, unless it is null.
+    FailingWorld(Desktop& desktop, FailurePoint& point, Runtime* runtime = nullptr)
+        : desktop_(desktop), point_(point), runtime_(runtime != nullptr ? *runtime : desktop.runtime()) {}
 
-    Runtime& runtime() override { return desktop_.runtime(); }
+    Runtime& runtime() override { return runtime_; }
     TipPlatform& tips() override { return desktop_.tips(); }
     std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) override {
         return std::make_unique<FailingWindow>(desktop_.createWindow(innerOf(parent), client), point_);
@@ -174,6 +176,7 @@ class FailingWorld final : public World {
 
     Desktop& desktop_;
     FailurePoint& point_;
+    Runtime& runtime_;
 };
 
 } // namespace lumtex::testing

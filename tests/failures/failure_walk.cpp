@@ -101,6 +101,15 @@ std::vector<FailureWalk::Scene> FailureWalk::inputScenes() {
              desktop.move(thumb, 5, 25);
              desktop.dragTo({95, 60});
          }},
+        {"arrow and trough of a bar",
+         [this] {
+             desktop.move(arrowButton);
+             desktop.press();
+             desktop.advance(milliseconds(500));
+             desktop.release();
+             desktop.move({arrowButton.x, 45});
+             desktop.click();
+         }},
         {"a typed text",
          [this] {
              list->SetEdit(1, 1);

@@ -36,6 +36,9 @@ class FailureWalk : public OddMoments {
   protected:
     static constexpr StringView longText = u"a text that no room inside a string or a cell can hold";
 
+    /// A place of the upper arrow of the vertical bar.
+    static constexpr Point arrowButton{92, 8};
+
     FailureWalk();
 
     /// Something that a host or a user does.
@@ -72,8 +75,8 @@ class FailureWalk : public OddMoments {
     /// rounds met a failure.
     enum class Steps { fine, coarse };
     static long walk(const std::function<bool(long n)>& round, Steps steps = Steps::fine) {
-        const long stepByStep = steps == Steps::fine ? 40 : 8;
-        const long part = steps == Steps::fine ? 8 : 3;
+        const long stepByStep = steps == Steps::fine ? 40 : 6;
+        const long part = steps == Steps::fine ? 8 : 1;
         long met = 0;
         for (long n = 1; round(n); n += n < stepByStep ? 1 : n / part)
             ++met;
@@ -101,7 +104,7 @@ class FailureWalk : public OddMoments {
         ASSERT_EQ(toUtf8(list->ItemText(2, 3)), "a");
         dress();
     }
-    void dress() {
+    virtual void dress() {
         list->letAutoRedraw(false);
         list->letItemTag(1, 1, ObjectRef(std::make_shared<CallingObject>(releases)));
         list->setItemObject(2, 1, embedded);
