@@ -1,6 +1,6 @@
 /// The whole control: a program of public calls and input, whose pieces also run as host code: in events, in
 /// yields, while a report's box is open, and when the last reference to an object of the host goes. Whatever
-/// it does, the list works afterwards.
+/// it does, a list that it has not ended works afterwards.
 #include "automation/call_by_name.h"
 #include "fuzz_input.h"
 #include "model/list_view.h"
@@ -10,6 +10,7 @@
 #include "services/error.h"
 
 #include <algorithm>
+#include <memory>
 #include <set>
 
 using namespace lumtex;
@@ -67,26 +68,28 @@ class Program {
             events_.on(name, [this] { hostCode(); });
         desktop_.runtime().whileBoxIsOpen = [this] { hostCode(); };
         Error().letSilentError(false);
-        list_.UserControl_ReadProperties(MemoryPropertyBag());
-        list_.window().place(20, 20, 150, 90);
+        list_->UserControl_ReadProperties(MemoryPropertyBag());
+        list_->window().place(20, 20, 150, 90);
         for (int column = 0; column < 3; ++column)
-            list_.ColumnsAdd(u"column", nullptr, nullptr, nullptr, cColumnLeft, 700);
+            list_->ColumnsAdd(u"column", nullptr, nullptr, nullptr, cColumnLeft, 700);
         for (int row = 0; row < 8; ++row)
-            list_.RowsAdd(Long{-1}, u",", u"a,b,c");
+            list_->RowsAdd(Long{-1}, u",", u"a,b,c");
     }
 
     void run() {
-        while (!input_.atEnd() && steps_ < mostSteps)
+        while (list_ && !input_.atEnd() && steps_ < mostSteps)
             step();
         // From here on the host is quiet.
         steps_ = mostSteps;
         desktop_.runtime().whileBoxIsOpen = nullptr;
         desktop_.run();
-        list_.RowsClear();
-        list_.ColumnsClear();
-        list_.ColumnsAdd(u"column");
-        list_.RowsAdd(Long{-1}, u",", u"still here");
-        fuzz::require(list_.RowsCount() == 1 && list_.ItemText(1, 1) == u"still here");
+        if (!list_)
+            return;
+        list_->RowsClear();
+        list_->ColumnsClear();
+        list_->ColumnsAdd(u"column");
+        list_->RowsAdd(Long{-1}, u",", u"still here");
+        fuzz::require(list_->RowsCount() == 1 && list_->ItemText(1, 1) == u"still here");
     }
 
   private:
@@ -97,14 +100,14 @@ class Program {
         ~Releasing() override { program_.hostCode(); }
 
         Variant get(StringView name, std::span<Variant> /*arguments*/) override {
-            program_.hostCode();
+            program_.asked();
             if (name == u"EOF")
                 return true; // records without end are the host's own affair
             return static_cast<Long>(program_.input_.below(5));
         }
-        void put(StringView /*name*/, const Variant& /*value*/) override { program_.hostCode(); }
+        void put(StringView /*name*/, const Variant& /*value*/) override { program_.asked(); }
         Variant call(StringView /*name*/, std::span<Variant> /*arguments*/) override {
-            program_.hostCode();
+            program_.asked();
             return {};
         }
 
@@ -128,11 +131,23 @@ class Program {
         if (nesting_ >= mostNesting || steps_ >= mostSteps || input_.atEnd() || !input_.flag())
             return;
         ++nesting_;
-        step();
+        if (asked_ == 0 && input_.below(32) == 0)
+            list_.reset();
+        else
+            step();
         --nesting_;
+    }
+    /// Host code while an object of the host's is asked. An argument may be asked before its call begins, so
+    /// the list is not ended there.
+    void asked() noexcept {
+        ++asked_;
+        hostCode();
+        --asked_;
     }
 
     void step() {
+        if (!list_)
+            return;
         ++steps_;
         events_.log.clear();
         try {
@@ -142,8 +157,8 @@ class Program {
                 callMember();
         } catch (const RuntimeError&) { // an argument that does not convert
         }
-        if (list_.RowsCount() > mostRows)
-            list_.RowsClear();
+        if (list_ && list_->RowsCount() > mostRows)
+            list_->RowsClear();
     }
 
     Variant argument(TypeCode type) {
@@ -178,7 +193,7 @@ class Program {
         std::vector<Variant> arguments;
         for (const Parameter& parameter : member.parameters())
             arguments.push_back(argument(parameter.type.code));
-        CallByName list(list_);
+        CallByName list(*list_);
         if (member.isMethod())
             list.call(member, arguments);
         else if (member.let == nullptr || (member.get != nullptr && input_.below(4) == 0))
@@ -221,10 +236,11 @@ class Program {
     fuzz::Input input_;
     int steps_ = 0;
     int nesting_ = 0;
+    int asked_ = 0;
     Desktop desktop_;
     Host host_;
     testing::RecordingEvents events_;
-    lmListView list_{desktop_, host_, events_};
+    std::unique_ptr<lmListView> list_{new lmListView(desktop_, host_, events_)}; ///< null once ended
 };
 
 } // namespace
