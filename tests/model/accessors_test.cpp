@@ -142,7 +142,16 @@ TEST_F(Accessors, ASecondSelectedRowNeedsMultiSelect) {
 TEST_F(Accessors, ADisabledColourRefusesTheDefaultAndTheOthersTakeIt) {
     addColumns({50});
     addRows(1);
-    list.letItemBackColor(1, 1, Long{5});
+    for (const Variant& color : {Variant(Long{5}),
+                                 Variant(Missing{}),
+                                 Variant(Date{2.5}),
+                                 Variant(LongLong{std::int64_t{1} << 40}),
+                                 Variant(UnsignedLongLong{std::uint64_t{1} << 63}),
+                                 Variant(Currency{12345}),
+                                 Variant(Decimal{{1, 2, 3}, 4, true})}) {
+        list.letItemBackColor(1, 1, color);
+        EXPECT_EQ(list.ItemBackColor(1, 1), color) << "kept as it comes, whatever it is worth as a colour";
+    }
     list.letItemBackColor(1, 1, u"def");
     EXPECT_EQ(list.ItemBackColor(1, 1), Variant(u"def"));
     list.letItemBackColorDis(1, 1, u"def");

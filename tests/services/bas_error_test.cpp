@@ -225,6 +225,9 @@ TEST_F(Report, AHandlerGetsTheComponentWhereTheWorldHasNoApplicationObject) {
     EXPECT_EQ(application->get(u"Revision").toLong(), runtime.component().revision);
     EXPECT_THROW(application->get(u"Title"), RuntimeError);
     EXPECT_THROW(application->put(u"Path", u"elsewhere"), RuntimeError);
+    EXPECT_EQ(application->call(u"EXEName"), Variant(runtime.component().exeName)) << "as some hosts read";
+    Variant index(Long{1});
+    EXPECT_THROW(application->get(u"Path", {&index, 1}), RuntimeError);
 }
 
 TEST_F(Report, AHandlerThatRaisesInRaiseErrorMeansTheBoxAsWell) {
