@@ -161,6 +161,13 @@ TEST_F(Keys, DownBringsARowAboveTheViewToItsTop) {
     EXPECT_EQ(list.TopIndex(), 3);
 }
 
+TEST_F(Keys, AnArrowPaintsOnce) {
+    fill(5);
+    list.letListIndex(2);
+    EXPECT_EQ(paintsOf([&] { list.UserControl_KeyDown(keys::up, 0); }), 1);
+    EXPECT_EQ(paintsOf([&] { list.UserControl_KeyDown(keys::down, 0); }), 1);
+}
+
 TEST_F(Keys, UpReachesTheFirstRow) {
     fill(3);
     list.letListIndex(1);

@@ -98,6 +98,16 @@ TEST_F(Release, WithoutColumnsOrRowsRaisesMouseUpAlone) {
     EXPECT_EQ(inside.header().pressedColumn, -1);
 }
 
+TEST_F(Release, HasForgottenThePressBeforeTheHostsTurn) {
+    fill(2);
+    hover(header(1));
+    inside.header().pressPending = true;
+    bool pending = true;
+    desktop.onYield([&] { pending = inside.header().pressPending; });
+    list.UserControl_MouseUp(leftButton, 0, 30, 5);
+    EXPECT_FALSE(pending);
+}
+
 TEST_F(Release, ReturnsTheHeadersToIdle) {
     fill(2);
     press(divider(1));

@@ -112,6 +112,13 @@ TEST_F(ProcedureTest, AFailedConditionTakesTheBranchThatWasNamed) {
     EXPECT_EQ(handler->calls.size(), 2U);
 }
 
+TEST_F(ProcedureTest, WhateverAHandlerThrowsIsReportedAsError440) {
+    p.raise([] { throw std::logic_error("no rows today"); });
+    p.raise([] { throw 1; });
+    EXPECT_EQ(handler->reports(),
+              u"440 ItemText: no rows today\n440 ItemText: " + errorDescription(automationError) + u"\n");
+}
+
 TEST_F(ProcedureTest, AFailingStatementInALoopCostsAReportOnEachTurn) {
     int turns = 0;
     for (int i = 0; i < 5; ++i) {
