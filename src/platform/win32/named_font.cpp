@@ -85,11 +85,18 @@ class NamedFont final : public IFont, public IFontDisp {
         *clone = nullptr;
         ComRef<IFont> copy;
         const HRESULT result = font_->Clone(copy.out());
-        if (FAILED(result) || !name_)
+        if (FAILED(result))
+            return result;
+        if (!name_) {
             *clone = copy.detach();
-        else
-            *clone = new (std::nothrow) NamedFont(std::move(copy), *name_, {});
-        return SUCCEEDED(result) && *clone == nullptr ? E_OUTOFMEMORY : result;
+            return result;
+        }
+        try {
+            *clone = new NamedFont(std::move(copy), *name_, {});
+        } catch (const std::bad_alloc&) {
+            return E_OUTOFMEMORY; // nothing is thrown at callers of the component model
+        }
+        return result;
     }
 
     STDMETHODIMP GetTypeInfoCount(UINT* count) override { return dispatch_->GetTypeInfoCount(count); }
