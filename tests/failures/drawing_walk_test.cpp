@@ -10,17 +10,7 @@ class DrawingWalk : public FailureWalk {
     ~DrawingWalk() override { list.reset(); }
 
     long walkScenes(const std::vector<Scene>& scenes, Steps steps, bool onwards = false) {
-        long met = 0;
-        for (const Scene& scene : scenes)
-            met += walkScene(
-                scene,
-                [&](long n) {
-                    point_.arm(n, onwards);
-                    guarded(scene.play);
-                    return point_.disarm() != 0;
-                },
-                steps);
-        return met;
+        return walkScenesAt(point_, scenes, steps, onwards);
     }
 
     FailurePoint point_;

@@ -166,6 +166,20 @@ class FailureWalk : public OddMoments {
         };
         return walk(round, steps);
     }
+    /// The same for all of `scenes`, with the failures at `point`: one a round, or from there on all of them.
+    long walkScenesAt(FailurePoint& point, const std::vector<Scene>& scenes, Steps steps, bool onwards) {
+        long met = 0;
+        for (const Scene& scene : scenes)
+            met += walkScene(
+                scene,
+                [&](long n) {
+                    point.arm(n, onwards);
+                    guarded(scene.play);
+                    return point.disarm() != 0;
+                },
+                steps);
+        return met;
+    }
     virtual void expectFirstReport() {}
     /// At the begin of each round.
     virtual void expectLooks() {}

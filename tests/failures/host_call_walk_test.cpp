@@ -105,17 +105,7 @@ class HostCallWalk : public FailureWalk {
         list->letAutoRedraw(true);
     }
     long walkScenes(const std::vector<Scene>& scenes, Steps steps, bool onwards = false) {
-        long met = 0;
-        for (const Scene& scene : scenes)
-            met += walkScene(
-                scene,
-                [&](long n) {
-                    point.arm(n, onwards);
-                    guarded(scene.play);
-                    return point.disarm() != 0;
-                },
-                steps);
-        return met;
+        return walkScenesAt(point, scenes, steps, onwards);
     }
     /// Calls that hand over more of the host's.
     std::vector<Scene> hostScenes() {
