@@ -21,7 +21,8 @@ LOGIC = ["model", "render", "interaction", "sortfind", "persistence", "scroll", 
 BACKENDS = ["platform", "platform/raster", "platform/headless", "platform/json", "automation", "database"]
 COMPONENT = ["activex", "platform/win32"]
 # What runs after the programs of the mutant's own room, in this order.
-GENERAL = ["scenarios", "interaction", "model", "scroll", "render", "sortfind", "persistence", "services", "automation"]
+GENERAL = ["scenarios", "interaction", "model", "scroll", "render", "sortfind", "persistence", "services", "automation",
+           "hostcode", "failures"]
 NEAREST = {"platform": ["platform", "headless"], "platform/raster": ["raster", "gallery"], "platform/headless": ["headless"],
            "platform/json": ["json"], "persistence": ["persistence", "json"]}
 BUILD = Path("build/mutants")
