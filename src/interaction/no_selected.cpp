@@ -1,6 +1,7 @@
 /// Taking the selection from all rows.
 #include "interaction/shared_count.h"
 #include "model/list_view.h"
+#include "platform/queue_watch.h"
 
 namespace lumtex {
 
@@ -21,9 +22,11 @@ void lmListView::NoSelected(std::optional<Long> index) {
 /// `index` counts from 0.
 void lmListView::SetNewSelected(Long index) {
     Procedure p = procedure(u"SetNewSelected");
+    QueueWatch watch(runtime());
     countShared(paint_.scanIndex, 0, RowsCount() - 1, [&] {
-        p.step([&] { recordAt(paint_.scanIndex).Selected = false; });
-        yield(p);
+        if (!p.step([&] { recordAt(paint_.scanIndex).Selected = false; }))
+            watch.hostRan();
+        yield(p, watch);
         return true;
     });
     p.step([&] { recordAt(index).Selected = true; });

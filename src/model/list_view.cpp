@@ -1,6 +1,8 @@
 /// Birth of the control, and what all its rooms stand on.
 #include "model/list_view.h"
 
+#include "platform/queue_watch.h"
+
 namespace lumtex {
 
 namespace {
@@ -56,6 +58,14 @@ Procedure lmListView::procedure(StringView name) const {
 void lmListView::yield(Procedure& p) {
     if (!life_.hasEnded())
         p.raise([&] { runtime().DoEvents(); });
+}
+
+/// The same for a walk that runs no code of the host between two of its yields.
+void lmListView::yield(Procedure& p, QueueWatch& watch) {
+    if (!watch.eventWaits())
+        return;
+    yield(p);
+    watch.hostRan();
 }
 
 /// A host that cannot tell is taken for a running program.

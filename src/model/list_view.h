@@ -24,6 +24,7 @@
 namespace lumtex {
 
 struct PropertyKey;
+class QueueWatch;
 
 /// An owner-drawn list of rows and columns.
 ///
@@ -276,6 +277,7 @@ class lmListView final : private ListViewLife,
     Procedure procedure(StringView name) const override;
     Runtime& runtime() const { return world_.runtime(); }
     void yield(Procedure& p);
+    void yield(Procedure& p, QueueWatch& watch);
 
     // Model (model/)
 

@@ -1,5 +1,6 @@
 /// Removing rows, and the entry for columns.
 #include "model/list_view.h"
+#include "platform/queue_watch.h"
 
 namespace lumtex {
 
@@ -33,15 +34,16 @@ void lmListView::removeRow(Long Index, Procedure& p) {
     const Long last = upperBoundOfRows();
     // While nothing waits for the host, nobody sees whether a record is copied or, much faster, moved; the
     // last one moved leaves an empty record, which goes below.
-    const Runtime& host = runtime();
+    QueueWatch watch(runtime());
     RowRecord* const records = rows_.data();
     Long row = Index;
-    for (; row <= last && !host.hasPendingEvents(); ++row)
+    for (; row <= last && !watch.eventWaits(); ++row)
         records[row - 1] = std::move(records[row]);
     for (; row <= last; ++row) {
-        p.step([&] { recordAt(row - 1) = recordAt(row); });
+        if (!p.step([&] { recordAt(row - 1) = recordAt(row); }))
+            watch.hostRan();
         // Wanted: the host gets its turn after each row, and sees the row behind the gap twice.
-        yield(p);
+        yield(p, watch);
     }
     // Wanted: ListIndex, NewIndex and the top row keep their numbers.
     if (RowsCount() < 2)

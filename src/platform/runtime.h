@@ -78,8 +78,8 @@ class Runtime {
 
     /// Lets the host's message loop run until its queue is empty; events, timers and paints may come in here.
     virtual void DoEvents() = 0;
-    /// False where `DoEvents` would find nothing to do, so that a long walk need not call it. Cheap enough to
-    /// be asked for each row of a list. A runtime that cannot tell says True.
+    /// False where `DoEvents` would find nothing to do, so that a long walk need not call it; see
+    /// `QueueWatch`. A runtime that cannot tell says True.
     virtual bool hasPendingEvents() const { return true; }
 
     /// Shows a box with the button OK and returns once it was dismissed. Events may come in meanwhile.

@@ -1,5 +1,6 @@
 /// What the mouse wheel does to the list.
 #include "model/list_view.h"
+#include "platform/queue_watch.h"
 #include "platform/rounding.h"
 
 namespace lumtex {
@@ -67,12 +68,13 @@ void lmListView::wheelIndexDown(Procedure& p, Integer Rotation) {
         return;
     }
     Long i = ListIndex() + 1;
+    QueueWatch watch(runtime());
     for (;; ++i) {
         if (i > last())
             return;
         if (stopsWheel(p, i))
             break;
-        yield(p);
+        yield(p, watch);
         if (i == last())
             return;
     }
@@ -89,6 +91,7 @@ void lmListView::wheelIndexUp(Procedure& p, Integer Rotation) {
         letListIndex(0);
         return;
     }
+    QueueWatch watch(runtime());
     for (Long i = ListIndex() - 1; i >= 0; --i) {
         if (stopsWheel(p, i)) {
             if (ListIndex() > 0) {
@@ -98,7 +101,7 @@ void lmListView::wheelIndexUp(Procedure& p, Integer Rotation) {
             }
             break;
         }
-        yield(p);
+        yield(p, watch);
     }
     if (ListIndex() < VS->Value()) {
         VS->letValue(ListIndex());

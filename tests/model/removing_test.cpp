@@ -112,6 +112,29 @@ TEST_F(Removing, IndicesKeepTheirNumbersAndAnEmptyListOnlyHidesThem) {
     EXPECT_EQ(list.ListIndex(), 3);
 }
 
+TEST_F(Removing, AHostThatFindsMoreToDoHasItsTurnAfterTheNextRow) {
+    list.letAutoRedraw(false);
+    String seen;
+    desktop.onYield([&] { desktop.onYield([&] { seen = texts(); }); });
+    list.RowsRemove(1);
+    EXPECT_EQ(seen, u"bccd");
+}
+
+TEST_F(Removing, WhatAHostLeavesWaitingInAReportComesAfterThatRow) {
+    list.letAutoRedraw(false);
+    std::size_t reportsBefore = 0;
+    desktop.onYield([&] {
+        list.RowsClear();
+        desktop.runtime().whileBoxIsOpen = [&] {
+            desktop.onYield([&] { reportsBefore = reportCount(); });
+            desktop.runtime().whileBoxIsOpen = nullptr;
+        };
+    });
+    list.RowsRemove(1);
+    EXPECT_EQ(reportsBefore, 1U);
+    EXPECT_EQ(reportCount(), 2U);
+}
+
 // Wanted: the host gets its turn after each row, and sees the row behind the gap twice.
 TEST_F(Removing, AHostThatLooksDuringTheMoveSeesTheHalfMovedRows) {
     list.letAutoRedraw(false);

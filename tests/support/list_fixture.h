@@ -49,6 +49,13 @@ class ListViewInspector {
     Single topInset() const { return list_.topInset_; }
     void MouseOut(Single x, Single y) { list_.MouseOut(x, y); }
     void SetNewSelected(Long index) { list_.SetNewSelected(index); }
+    /// In notches, up above 0.
+    void turnWheel(Integer rotation) {
+        Integer keys = 0;
+        Single x = 0;
+        Single y = 0;
+        list_.Wheel1_WheelScroll(rotation, keys, x, y);
+    }
     void MoveItemUp(Long row, Long count) { list_.MoveItemUp(row, count); }
     void MoveItemDown(Long row, Long count) { list_.MoveItemDown(row, count); }
     QI* tips() { return list_.tips_.get(); }
