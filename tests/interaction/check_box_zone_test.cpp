@@ -45,6 +45,19 @@ TEST(CheckBoxZone, FollowsTheIconsAlignment) {
     EXPECT_FALSE(checkBoxZone(static_cast<cItemAlign>(77), 60, 60, 13, 0));
 }
 
+TEST_F(CheckBoxZonePress, PaintsTheNewStateWithoutAutoRedrawBeforeTheHostHearsOfIt) {
+    fill(3);
+    hover(cell(1, 1));
+    list.letAutoRedraw(false);
+    int before = 0;
+    events.on("ItemCheck", [&] { before = window().presented(); });
+    int painted = 0;
+    events.on("ItemChecked", [&] { painted = window().presented() - before; });
+    list.UserControl_MouseDown(leftButton, 0, 70, rowTop(2) + 8);
+    EXPECT_TRUE(list.ItemChecked(2, 2));
+    EXPECT_EQ(painted, 1);
+}
+
 // Wanted: a press at the place of a check box toggles the cell, whether its column draws boxes or not.
 TEST_F(CheckBoxZonePress, TogglesAtTheZonesEndsAndNotBeyond) {
     fill(3);

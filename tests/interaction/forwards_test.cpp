@@ -27,6 +27,19 @@ TEST_F(Forwards, ADoubleClickTellsTheCellOfTheLastPress) {
     EXPECT_EQ(taken(), (Lines{"DblClick", "ItemDblClick Row=2 Column=2"}));
 }
 
+TEST_F(Forwards, TheHostHearsOfADoubleClickBeforeTheEditorOpens) {
+    fill(3);
+    click(cell(2, 2));
+    bool openInEvent = true;
+    events.on("ItemDblClick", [&] {
+        openInEvent = inside.editor().Visible();
+        list.letItemAllowEdit(2, 2, true);
+    });
+    list.UserControl_DblClick();
+    EXPECT_FALSE(openInEvent);
+    EXPECT_TRUE(inside.editor().Visible()) << "the permission came in the event";
+}
+
 TEST_F(Forwards, ADoubleClickBeforeAnyCellWasPressedTellsNoCell) {
     fill(3);
     list.UserControl_DblClick();

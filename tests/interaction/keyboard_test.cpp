@@ -1,6 +1,8 @@
 #include "platform/headless/keyboard.h"
 #include "played_list.h"
 
+#include <algorithm>
+
 namespace lumtex::testing {
 
 class Keys : public PlayedList {
@@ -59,6 +61,14 @@ TEST_F(Keys, TheHostMayMakeAnotherKeyOfIt) {
     list.UserControl_KeyDown(keys::down, 0);
     EXPECT_EQ(selection(), "index=1 selected=1");
     EXPECT_TRUE(inside.selection().ctrlDown);
+}
+
+TEST_F(Keys, AnArrowOntoTheTopRowLeavesTheTopAlone) {
+    fill(30);
+    host.changed.clear();
+    down();
+    EXPECT_EQ(selection(), "index=1 selected=1");
+    EXPECT_EQ(std::count(host.changed.begin(), host.changed.end(), u"TopIndex"), 0);
 }
 
 TEST_F(Keys, OnlyTheArrowsUpAndDownAct) {

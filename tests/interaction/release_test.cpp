@@ -38,6 +38,13 @@ TEST_F(Release, OnTheSameCellIsUpUpClickAndThePlatformsClick) {
     EXPECT_EQ(list.ColumnIndex(), 2);
 }
 
+TEST_F(Release, TheButtonThatWentUpIsTheOneRemembered) {
+    fill(3);
+    press(cell(2, 2));
+    list.UserControl_MouseUp(rightButton, 0, 10, 50);
+    EXPECT_EQ(inside.mouse().lastMouseButton, rightButton);
+}
+
 TEST_F(Release, OnAnotherCellIsItemUpAloneAndStoresThatCell) {
     fill(3);
     press(cell(1, 1));

@@ -196,6 +196,15 @@ TEST_F(Adding, EachAddRefreshesOnceWithBarsCheckedBefore) {
     EXPECT_EQ(inside.vertical().Tag, u"False") << "not checked for the second row";
 }
 
+TEST_F(Adding, ARowIsPaintedAfterTheBarsWereChecked) {
+    addColumns({50});
+    list.RowsAdd();
+    String tagAtThePaint;
+    desktop.onYield([&] { tagAtThePaint = inside.vertical().Tag; });
+    list.RowsAdd();
+    EXPECT_EQ(tagAtThePaint, u"True");
+}
+
 TEST_F(Adding, ATextOfTenMillionUnitsAndOddUnitsComesBack) {
     addColumns({50});
     const String longText(10'000'000, u'x');

@@ -33,6 +33,20 @@ TEST_F(ControlCore, WithoutRowsListIndexReadsNoneWhateverIsStored) {
     EXPECT_EQ(list.ListIndex(), -1);
 }
 
+TEST_F(ControlCore, InADesignerItPaintsWhateverAutoRedrawSays) {
+    list.letAutoRedraw(false);
+    EXPECT_EQ(paintsOf([&] { inside.CheckForRedraw(); }), 0);
+    host.userMode = false;
+    EXPECT_EQ(paintsOf([&] { inside.CheckForRedraw(); }), 1);
+}
+
+TEST_F(ControlCore, AContainerThatCannotTellItsModeIsARunningProgram) {
+    list.letAutoRedraw(false);
+    host.modeFails = true;
+    EXPECT_EQ(paintsOf([&] { inside.CheckForRedraw(); }), 0);
+    EXPECT_EQ(reportCount(), 0U);
+}
+
 // Wanted: each read yields to the host once.
 TEST_F(ControlCore, ListIndexYieldsOncePerRead) {
     int yields = 0;

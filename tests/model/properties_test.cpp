@@ -391,6 +391,14 @@ TEST_F(Setters, RowsDynamicChecksTheBarsBeforeItRepaints) {
     EXPECT_EQ(tagAtThePaint, u"True");
 }
 
+TEST_F(Setters, TheHostHearsOfADefaultFontBeforeItIsPainted) {
+    std::size_t toldAtThePaint = 0;
+    host.changed.clear();
+    desktop.onYield([&] { toldAtThePaint = host.changed.size(); });
+    list.setDefaultItemFont(std::make_shared<Font>(FontSpec{.Name = u"Verdana", .Size = 12}));
+    EXPECT_EQ(toldAtThePaint, 1U);
+}
+
 TEST_F(Setters, AScrollColourReachesBothBars) {
     list.letScrollBackColor(0x123456);
     EXPECT_EQ(inside.vertical().BackColor(), 0x123456U);

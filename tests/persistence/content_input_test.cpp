@@ -29,6 +29,20 @@ TEST_F(ContentInput, AnEmptyListClearsTheRowsAndSucceeds) {
     EXPECT_EQ(takeReports(), "");
 }
 
+TEST_F(ContentInput, TheRowsGoOnceTheWholeHeaderWasRead) {
+    addColumns({30});
+    addRows(3);
+    Long rowsInReport = 0;
+    desktop.runtime().whileBoxIsOpen = [&] {
+        rowsInReport = list.RowsCount();
+        desktop.runtime().whileBoxIsOpen = nullptr;
+    };
+    load(ContentBytes().integer(275).number(0).number(0).byte(1), false);
+    EXPECT_EQ(rowsInReport, 3) << "the flag behind the counts is cut in half";
+    EXPECT_EQ(list.RowsCount(), 0);
+    EXPECT_EQ(takeReports(), "62 ContentInput\n");
+}
+
 TEST_F(ContentInput, AMissingFileReturnsFalseAndKeepsTheRows) {
     addColumns({30});
     addRows(3, u"x");

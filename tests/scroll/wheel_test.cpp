@@ -36,6 +36,8 @@ TEST_F(WheelReceiver, IsNotEnabledWithoutAWindow) {
     EXPECT_FALSE(turn(120, 0));
     wheel.lethWndCapture(7);
     EXPECT_FALSE(turn(120));
+    wheel.EnableWheel();
+    EXPECT_TRUE(turn(120)) << "nothing was enabled before";
 }
 
 TEST_F(WheelReceiver, EnabledTwiceStaysWithItsFirstWindow) {
@@ -266,6 +268,19 @@ TEST_F(WheelOnIndex, WithAllRowsBelowDisabledStays) {
     wheel(-4);
     EXPECT_EQ(list.ListIndex(), 5);
     EXPECT_EQ(events.log, Lines{"ErrorWrongIndex Index=9"}) << "the short way meets a disabled row";
+}
+
+TEST_F(WheelOnIndex, TheHostHasItsTurnAtTheLastDisabledRowToo) {
+    disable({6, 7, 8, 9});
+    // Three yields of reading the index, one for each disabled row, then those of the end.
+    for (int turn = 1; turn <= 8; ++turn) {
+        list.letListIndex(5);
+        desktop.onYield([] {}, turn - 1);
+        desktop.onYield([&] { list.RowsAdd(); });
+        wheel(-1);
+        EXPECT_EQ(list.ListIndex(), turn <= 7 ? 10 : 5) << turn;
+        list.RowsRemove(11);
+    }
 }
 
 TEST_F(WheelOnIndex, WithAllRowsAboveDisabledStays) {

@@ -149,6 +149,14 @@ TEST_F(Finding, AContinuedSearchGoesOnBehindTheHit) {
     EXPECT_EQ(shown(list.FindItem(u"?2")), "2 3") << "continuing is the default";
 }
 
+TEST_F(Finding, AContinuedSearchGoesOnInTheLastRow) {
+    EXPECT_EQ(find(u"c3"), "3 3");
+    EXPECT_EQ(next(u"a4"), "4 1");
+    EXPECT_EQ(inside.find().findRowPos, 3);
+    EXPECT_EQ(next(u"?4"), "4 2");
+    EXPECT_EQ(next(u"b?"), "none") << "the place is still the last row, behind its second column";
+}
+
 // Wanted: each row starts at the stored column, so that a continued search leaves out those before it.
 TEST_F(Finding, AContinuedSearchMissesTheColumnsBeforeItsPlace) {
     EXPECT_EQ(find(u"b1"), "1 2");
