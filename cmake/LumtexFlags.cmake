@@ -1,4 +1,5 @@
-# Everything compiles with the flags of this one interface target.
+# What a program needs that uses the rooms, and below, what the rooms and our own programs compile with besides. A room
+# links the second privately: our warnings are no business of a user's code.
 set(LUMTEX_SANITIZE
     ""
     CACHE STRING "Sanitizers to build with, as -fsanitize takes them; empty for none")
@@ -8,9 +9,12 @@ option(LUMTEX_COVERAGE "Count which lines of the rooms run" OFF)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
+add_library(lumtex_use INTERFACE)
+target_compile_features(lumtex_use INTERFACE cxx_std_20)
+target_include_directories(lumtex_use INTERFACE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_BINARY_DIR}/generated")
+
 add_library(lumtex_flags INTERFACE)
-target_compile_features(lumtex_flags INTERFACE cxx_std_20)
-target_include_directories(lumtex_flags INTERFACE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_BINARY_DIR}/generated")
+target_link_libraries(lumtex_flags INTERFACE lumtex_use)
 # Contracted multiply-adds would make coordinates differ from one processor to the next.
 target_compile_options(
     lumtex_flags

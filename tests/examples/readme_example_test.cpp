@@ -1,4 +1,4 @@
-/// The example of the README does what the README says.
+/// The example of the README does what the README says, and programs of others may be written as they like.
 #include "platform/picture.h"
 #include "platform/raster/image_file.h"
 
@@ -26,6 +26,11 @@ TEST(ReadmeExample, RunsAndLeavesAPictureOfItsList) {
     ASSERT_EQ(pixels.height, 120);
     // Border, header shades and smoothed text: far more colours than an unpainted window has.
     EXPECT_GT(std::set<std::uint32_t>(pixels.pixels.begin(), pixels.pixels.end()).size(), 10U);
+}
+
+/// That it was built is most of it: an unused and a hidden variable are errors in our own code.
+TEST(CarelessExample, BuildsWithoutOurWarnings) {
+    EXPECT_EQ(std::system("'" LUMTEX_PROGRAMS "/careless_example'"), 0);
 }
 
 } // namespace
