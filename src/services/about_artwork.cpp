@@ -32,7 +32,7 @@ constexpr Shade footTint{221, 231, 247};
 struct Letter {
     char name;
     float width;
-    std::array<Stroke, 6> strokes;
+    std::array<PenStroke, 6> strokes;
     std::size_t count;
 };
 
@@ -99,7 +99,7 @@ const Letter& letter(char name) {
     return letters[letterIndex(name)];
 }
 
-std::span<const Stroke> strokesOf(const Letter& letter) {
+std::span<const PenStroke> strokesOf(const Letter& letter) {
     return std::span(letter.strokes).first(letter.count);
 }
 
@@ -108,7 +108,7 @@ PictureRef pictureOf(Bitmap bitmap) {
 }
 
 /// Writes `word`; where the next one would stand.
-float write(Bitmap& picture, std::string_view word, StrokeFrame frame, const Shade& shade, float opacity) {
+float write(Bitmap& picture, std::string_view word, LetterFrame frame, const Shade& shade, float opacity) {
     for (const char name : word) {
         drawStrokes(picture, strokesOf(letter(name)), frame, shade, opacity);
         frame.left += (letter(name).width + letterGap) * frame.scale;
@@ -167,7 +167,7 @@ void drawList(Bitmap& picture, float left, float top) {
         fillBox(picture, {left + 7, rowTop + 4, 11, 11, 2}, lineBlue, lineBlue);
         fillBox(picture, {left + 8, rowTop + 5, 9, 9, 1}, {236, 240, 246}, plainWhite);
         if (row % 2 == 0) {
-            constexpr Stroke mark[] = {{0, 2, 2, 0}, {2, 0, 5.5F, 5}};
+            constexpr PenStroke mark[] = {{0, 2, 2, 0}, {2, 0, 5.5F, 5}};
             drawStrokes(picture, mark, {left + 9.7F, rowTop + 12, 1, 1.1F}, tick);
         }
         fillBox(picture, {left + 23, rowTop + 7, textWidths[row][0], 4, 2}, ink, ink, 0.9F);
@@ -212,9 +212,9 @@ PictureRef drawBackground() {
 
 PictureRef drawTitle() {
     constexpr float scale = 1.52F;
-    constexpr StrokeFrame frame{6, 33, scale, 1.9F};
+    constexpr LetterFrame frame{6, 33, scale, 1.9F};
     Bitmap picture(258, 44);
-    const StrokeFrame cast{frame.left + 1, frame.baseLine + 2, scale, frame.halfWidth};
+    const LetterFrame cast{frame.left + 1, frame.baseLine + 2, scale, frame.halfWidth};
     const float castNext = write(picture, firstWord, cast, deepBlue, 0.55F);
     write(picture, secondWord, {castNext, cast.baseLine, scale, cast.halfWidth}, deepBlue, 0.55F);
     const float next = write(picture, firstWord, frame, plainWhite, 1);

@@ -28,7 +28,7 @@ float distanceTo(const RoundBox& box, float x, float y) {
            box.radius;
 }
 
-float distanceToLine(const Stroke& line, float x, float y) {
+float distanceToLine(const PenStroke& line, float x, float y) {
     const float alongX = line.x2 - line.x1;
     const float alongY = line.y2 - line.y1;
     const float square = alongX * alongX + alongY * alongY;
@@ -43,7 +43,7 @@ unsigned quadrantOf(float x, float y) {
     return x >= 0 ? rightBelow : leftBelow;
 }
 
-float distanceToArc(const Stroke& arc, float x, float y) {
+float distanceToArc(const PenStroke& arc, float x, float y) {
     const float fromX = x - arc.x1;
     const float fromY = y - arc.y1;
     const float radius = arc.x2;
@@ -61,9 +61,9 @@ float distanceToArc(const Stroke& arc, float x, float y) {
     return nearest;
 }
 
-float distanceTo(std::span<const Stroke> strokes, float x, float y) {
+float distanceTo(std::span<const PenStroke> strokes, float x, float y) {
     float nearest = INFINITY;
-    for (const Stroke& stroke : strokes)
+    for (const PenStroke& stroke : strokes)
         nearest = std::min(
             nearest, stroke.quadrants != 0 ? distanceToArc(stroke, x, y) : distanceToLine(stroke, x, y));
     return nearest;
@@ -128,8 +128,8 @@ void shadow(Bitmap& picture, const RoundBox& box, float blur, float opacity) {
 }
 
 void drawStrokes(Bitmap& picture,
-                 std::span<const Stroke> strokes,
-                 const StrokeFrame& frame,
+                 std::span<const PenStroke> strokes,
+                 const LetterFrame& frame,
                  const Shade& shade,
                  float opacity) {
     eachPixel(picture,

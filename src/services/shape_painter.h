@@ -30,7 +30,7 @@ struct RoundBox {
 /// A line with round ends: straight where `quadrants` is 0, otherwise those quarters of the circle around
 /// (`x1`, `y1`) with the radius `x2`, as bits: 1 right above, 2 left above, 4 left below, 8 right below the
 /// centre. Units of a letter: y counts upwards from the base line.
-struct Stroke {
+struct PenStroke {
     float x1;
     float y1;
     float x2;
@@ -39,7 +39,7 @@ struct Stroke {
 };
 
 /// Where and how big the strokes of a letter lie on a picture, in pixels.
-struct StrokeFrame {
+struct LetterFrame {
     float left;
     float baseLine;
     float scale;     ///< pixels per unit
@@ -56,8 +56,8 @@ void fillBox(Bitmap& picture, const RoundBox& box, const Shade& top, const Shade
 void shadow(Bitmap& picture, const RoundBox& box, float blur, float opacity);
 
 void drawStrokes(Bitmap& picture,
-                 std::span<const Stroke> strokes,
-                 const StrokeFrame& frame,
+                 std::span<const PenStroke> strokes,
+                 const LetterFrame& frame,
                  const Shade& shade,
                  float opacity = 1);
 
