@@ -51,8 +51,6 @@ class CellStyles {
     /// Stays where it is until its last count is given back.
     const CellStyle& operator[](StyleHandle handle) const { return slots_[handle].style; }
 
-    std::size_t stylesInUse() const { return index_.size(); }
-
   private:
     struct Slot {
         CellStyle style;

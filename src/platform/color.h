@@ -29,9 +29,4 @@ constexpr Byte blueOf(OLE_COLOR color) {
     return static_cast<Byte>((color >> 16U) & 0xFFU);
 }
 
-constexpr OLE_COLOR rgb(Byte red, Byte green, Byte blue) {
-    return static_cast<OLE_COLOR>(red) | (static_cast<OLE_COLOR>(green) << 8U) |
-           (static_cast<OLE_COLOR>(blue) << 16U);
-}
-
 } // namespace lumtex

@@ -60,7 +60,7 @@ struct ShellRequest {
 
 enum SoundFlags : Long {
     soundAsync = 1,     ///< return at once
-    soundNoDefault = 2, ///< silence where the file cannot be played
+    soundNoDefault = 2, ///< silence if the file cannot be played
 };
 
 enum MessageBoxStyle : Long {
@@ -78,7 +78,7 @@ class Runtime {
 
     /// Lets the host's message loop run until its queue is empty; events, timers and paints may come in here.
     virtual void DoEvents() = 0;
-    /// False where `DoEvents` would find nothing to do, so that a long walk need not call it; see
+    /// False if `DoEvents` would find nothing to do, so that a long walk need not call it; see
     /// `QueueWatch`. A runtime that cannot tell says True.
     virtual bool hasPendingEvents() const { return true; }
 
@@ -88,12 +88,12 @@ class Runtime {
     virtual const ComponentInfo& component() const = 0;
 
     virtual Long currentProcessId() const = 0;
-    /// All processes, or as many as the world knows, its own among them; none where they cannot be listed.
+    /// All processes, or as many as the world knows, its own among them; none if they cannot be listed.
     virtual std::optional<std::vector<ProcessEntry>> processes() const = 0;
     /// `file`, completed from the current folder where it has no full path of its own.
     virtual String fullPathName(StringView file) const = 0;
 
-    /// The value `name` under `key` of the settings store, none where there is none. `key` separates its
+    /// The value `name` under `key` of the settings store, none if there is none. `key` separates its
     /// parts with "\".
     virtual std::optional<StoredSetting>
     storedSetting(std::uint32_t hive, StringView key, StringView name) const = 0;
@@ -106,10 +106,10 @@ class Runtime {
     /// Today's date and the time of the day.
     virtual Date now() const = 0;
 
-    // Files of text in the platform's encoding. These throw RuntimeError 76 where the folder does not exist,
-    // 75 where the file cannot be opened for another reason.
+    // Files of text in the platform's encoding. These throw RuntimeError 76 if the folder does not exist,
+    // 75 if the file cannot be opened for another reason.
 
-    /// The whole file. Throws 53 where there is none.
+    /// The whole file. Throws 53 if there is none.
     virtual String readFile(StringView path) const = 0;
     /// Creates a file without content, or empties the one that is there.
     virtual void createFile(StringView path) = 0;
@@ -117,15 +117,15 @@ class Runtime {
     virtual void appendToFile(StringView path, StringView text) = 0;
 
     // Files of bytes. Only plain files are read, written or deleted: for a folder, a device and the like, and
-    // for whatever else stands in the way, these throw RuntimeError 75, and 76 where the folder does not
+    // for whatever else stands in the way, these throw RuntimeError 75, and 76 if the folder does not
     // exist.
 
     /// The file stands under its name after `OutputFile::close`; before that it should not, so that nobody
     /// reads half of it. A file that has the name then is replaced.
     virtual std::unique_ptr<OutputFile> openForBinaryWriting(StringView path) = 0;
-    /// Throws 53 where there is no file.
+    /// Throws 53 if there is no file.
     virtual std::unique_ptr<InputFile> openForBinaryReading(StringView path) = 0;
-    /// `path` is a name, not a pattern. Throws 53 where there is no file.
+    /// `path` is a name, not a pattern. Throws 53 if there is no file.
     virtual void deleteFile(StringView path) = 0;
 
     // Text in the system's ANSI code page, one byte for each UTF-16 code unit. `bytes` and `text` are of the
@@ -142,12 +142,12 @@ class Runtime {
     /// that declares more than eight pixels to a byte, which no uncompressed image has.
     virtual PictureRef pictureOfImage(std::span<const Byte> image) const = 0;
 
-    /// Looks for a file or folder; the last part of `pattern` may hold "*" and "?". A search that found
-    /// something has a handle, to be closed; -1 otherwise. Closing -1 does nothing.
+    /// Looks for a file or folder; the last part of `pattern` may hold "*" and "?". Returns a handle that the
+    /// caller closes if something was found, otherwise -1. Closing -1 does nothing.
     virtual Long findFirstFile(StringView pattern) = 0;
     virtual void findClose(Long handle) = 0;
 
-    /// Creates an automation object by its program identifier; throws RuntimeError 429 where there is none.
+    /// Creates an automation object by its program identifier; throws RuntimeError 429 if there is none.
     virtual ObjectRef createObject(StringView programId) = 0;
     /// The component's application object, as handed to an error handler; may be none.
     virtual ObjectRef applicationObject() = 0;
@@ -168,7 +168,6 @@ class Runtime {
     virtual void shellExecute(const ShellRequest& request) = 0;
 
     /// 15 on a screen of 96 pixels to the inch, 7.5 on one of 192.
-    virtual Single twipsPerPixelX() const = 0;
     virtual Single twipsPerPixelY() const = 0;
 };
 

@@ -71,7 +71,6 @@ class FailingFiles final : public Runtime {
     }
     Integer asyncKeyState(Long virtualKey) override { return inner_.asyncKeyState(virtualKey); }
     void shellExecute(const ShellRequest& request) override { inner_.shellExecute(request); }
-    Single twipsPerPixelX() const override { return inner_.twipsPerPixelX(); }
     Single twipsPerPixelY() const override { return inner_.twipsPerPixelY(); }
 
   private:

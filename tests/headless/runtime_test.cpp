@@ -192,7 +192,6 @@ TEST_F(RuntimeRules, ObjectsComeFromTheirFactories) {
 }
 
 TEST_F(RuntimeRules, APixelIsFifteenTwips) {
-    EXPECT_EQ(desktop.runtime().twipsPerPixelX(), 15);
     EXPECT_EQ(desktop.runtime().twipsPerPixelY(), 15);
     EXPECT_EQ(desktop.runtime().applicationObject(), nullptr);
 }

@@ -280,7 +280,7 @@ TEST(VariantToColor, KeepsTheBits) {
     expectRows<OLE_COLOR>(&Variant::toColor,
                           {
                               {"Empty", {}, {0}},
-                              {"a colour", rgb(1, 2, 3), {0x030201}},
+                              {"a colour", OLE_COLOR{0x030201}, {0x030201}},
                               {"a colour of the system", buttonFace, {0x8000000F}},
                               {"the same as a Long", Long{-2147483633}, {0x8000000F}},
                               {"the same as a Double", 2147483663.0, {0x8000000F}},

@@ -136,7 +136,6 @@ class FakeRuntime : public Runtime {
     }
     ObjectRef applicationObject() override { return application; }
 
-    Single twipsPerPixelX() const override { return 15; }
     Single twipsPerPixelY() const override { return 15; }
 
   private:

@@ -86,7 +86,6 @@ class HeadlessRuntime final : public Runtime {
     Integer asyncKeyState(Long virtualKey) override;
     /// Noted, not opened.
     void shellExecute(const ShellRequest& request) override { opened.push_back(request); }
-    Single twipsPerPixelX() const override { return 15; }
     Single twipsPerPixelY() const override { return 15; }
 
     /// What conversions on this thread follow from now on, as long as the runtime lives; at first they are

@@ -68,9 +68,6 @@ Win32Runtime::Win32Runtime(HINSTANCE instance)
     letUsersLocale(win32UsersLocale());
 }
 
-Single Win32Runtime::twipsPerPixelX() const {
-    return twipsPerInch / static_cast<Single>(density_.x);
-}
 Single Win32Runtime::twipsPerPixelY() const {
     return twipsPerInch / static_cast<Single>(density_.y);
 }

@@ -66,7 +66,6 @@ class Win32Runtime : public Runtime {
                           std::span<char16_t> sizeName) const override;
     Integer asyncKeyState(Long virtualKey) override;
     void shellExecute(const ShellRequest& request) override;
-    Single twipsPerPixelX() const override;
     Single twipsPerPixelY() const override;
 
     /// Sees each message that `DoEvents` takes from the queue. True: it was dealt with. Must not throw.
