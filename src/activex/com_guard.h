@@ -8,8 +8,7 @@
 
 namespace lumtex {
 
-/// The result by which automation knows a refused argument or an unknown member; that of the number for any
-/// other failure.
+/// DISP_E_... for a refused argument or an unknown member, otherwise the HRESULT made from the error number.
 HRESULT automationResult(const RuntimeError& error) noexcept;
 
 /// Leaves the text of a failure where the caller finds it.

@@ -24,9 +24,8 @@ class ConnectionPoint final : public IConnectionPoint {
     ~ConnectionPoint() = default;
 
     const GUID& interfaceId() const { return interfaceId_; }
-    /// The sinks in the order in which they came; held, so that one may go while it is called.
+    /// In order of Advise. The references are owned, so a sink may call Unadvise while it is being called.
     std::vector<ComRef<IUnknown>> sinks() const;
-    void dropAll() { sinks_.clear(); }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override;
     ULONG STDMETHODCALLTYPE AddRef() override { return container_.AddRef(); }

@@ -32,7 +32,7 @@ class ContainerHost final : public Host {
 
   private:
     Variant ambient(DISPID number) const;
-    /// The host's own object around the control; none where it has none.
+    /// The host's own object around the control; none if it has none.
     ObjectRef extender() const;
     String nameByExtender() const;
     void readUserMode();

@@ -48,12 +48,11 @@ class ControlCore final : public AutomationTarget {
 
     // Settings
 
-    /// False where the control was initialised before: a container does it once.
+    /// False if the control was initialised before: a container does it once.
     bool initNew();
     bool load(const PropertyBag& bag);
     void save(PropertyBag& bag) { list().UserControl_WriteProperties(bag); }
     bool dirty() const { return dirty_; }
-    void letDirty(bool dirty) { dirty_ = dirty; }
     /// The settings lie safe in the container's document: nothing is dirty any more, and advised sinks hear.
     void noteSaved();
 
@@ -67,7 +66,6 @@ class ControlCore final : public AutomationTarget {
     void letExtent(SIZEL extent);
 
     bool inPlaceActive() const { return inPlaceActive_; }
-    bool uiActive() const { return uiActive_; }
     /// Shows the control in its container's window. `withFocus`: it also takes keys and the container's
     /// menus.
     HRESULT activate(bool withFocus);

@@ -11,7 +11,7 @@
 
 namespace lumtex {
 
-/// Throws RuntimeError 57 where the stream takes no more.
+/// Throws RuntimeError 57 if the stream takes no more.
 class SettingsWriter {
   public:
     explicit SettingsWriter(IStream& stream) : stream_(stream) {}

@@ -11,7 +11,7 @@ namespace lumtex {
 // type and its bytes; fonts and pictures as the system's objects save themselves. All numbers are
 // little-endian.
 
-/// Throws RuntimeError 57 where the stream takes no more.
+/// Throws RuntimeError 57 if the stream takes no more.
 void saveSettings(IStream& stream, const MemoryPropertyBag& bag);
 
 /// The stream comes from a document, which nobody trusts: no class is made because the stream names it, and

@@ -10,9 +10,9 @@
 
 namespace lumtex {
 
-/// The member of that name, whatever its case; none where there is no such member.
+/// The member of that name, whatever its case; none if there is no such member.
 const Member* findMember(const ClassDescription& of, StringView name);
-/// The member with that dispatch number; none where there is no such member.
+/// The member with that dispatch number; none if there is no such member.
 const Member* findMember(const ClassDescription& of, Long number);
 
 /// One object of a public class, as a script or another late-bound caller sees it.

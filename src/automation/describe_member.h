@@ -58,7 +58,8 @@ constexpr Named orMissing(const char16_t* name) {
     return {name, {missing}};
 }
 
-/// The public class through which a host reaches what `Class` declares: the list for whatever it inherits.
+/// The public class that offers what `Class` declares: the list if `Class` is one of its bases, else `Class`
+/// itself.
 template <class Class>
 using Reached = std::conditional_t<std::is_base_of_v<Class, lmListView>, lmListView, Class>;
 

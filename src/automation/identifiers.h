@@ -47,8 +47,8 @@ constexpr auto identifiers = std::to_array<Identifier>({
 constexpr int typeLibraryMajor = 1;
 constexpr int typeLibraryMinor = 0;
 
-/// The uuid of a name; asked for while the code is compiled, an unknown one is an error there. Throws
-/// std::out_of_range else.
+/// The uuid of a name. An unknown name is a compile-time error in a constant expression; at run time it
+/// throws std::out_of_range.
 constexpr std::string_view uuidOf(std::string_view name) {
     std::size_t place = 0;
     while (place < identifiers.size() && identifiers[place].name != name)
@@ -230,8 +230,8 @@ constexpr auto memberNumbers = std::to_array<MemberNumber>({
 });
 // clang-format on
 
-/// The number of a member; asked for while the code is compiled, an unknown one is an error there. Throws
-/// std::out_of_range else.
+/// The number of a member. An unknown name is a compile-time error in a constant expression; at run time it
+/// throws std::out_of_range.
 constexpr Long numberOf(StringView name) {
     std::size_t place = 0;
     while (place < memberNumbers.size() && memberNumbers[place].name != name)

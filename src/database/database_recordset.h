@@ -17,7 +17,7 @@ constexpr Long noSuchField = 3265;
 ///
 /// - `RecordCount`: how many records the database counts, when first asked for and after each new run.
 ///   Counting runs the query a second time, and both see the same data, unless the query itself says
-///   something else each time. On PostgreSQL -1 where it is first asked for between two records.
+///   something else each time. On PostgreSQL -1 if it is first asked for between two records.
 /// - `fields`: an object with `Count`, and for an index from 0 an element with `Name` and the default member
 ///   `Value`: Null, a Boolean, a Long or a Double where the database says so and they hold the value in full,
 ///   else text. Bytes read as "\x" and hexadecimal digits, dates as the database writes them.

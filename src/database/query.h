@@ -27,7 +27,7 @@ class Query {
     virtual Long columnCount() const = 0;
     virtual String columnName(Long column) const = 0;
 
-    /// How many records a run yields, by the database's own count; -1 where it cannot be had during a run.
+    /// How many records a run yields, by the database's own count; -1 if it cannot be had during a run.
     virtual std::int64_t count() = 0;
     /// Begins a run, and gives up one that is under way.
     virtual void start() = 0;

@@ -9,10 +9,10 @@
 
 namespace lumtex {
 
-/// Runs `body` for each value of `counter` from `first` to `last`, until `body` returns False. Whatever runs
-/// inside the loop and counts in the same member sends it on to another place: hosts may rely on that. One
-/// that is sent back again and again ends after some thousand turns more than its range, and one that begins
-/// further below 0, where nothing is to be found, begins there.
+/// Runs `body` for each value of `counter` from `first` to `last`, until `body` returns False. If code inside
+/// the loop changes `counter`, the loop goes on from there: hosts may rely on that. To guarantee an end, it
+/// stops some thousand turns after its range. One that would begin further below 0 than that, where there is
+/// nothing to find, begins there.
 template <class Body>
 void countShared(Long& counter, Long first, Long last, Body body) {
     constexpr std::int64_t spareTurns = 4096;

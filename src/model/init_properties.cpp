@@ -5,7 +5,7 @@ namespace lumtex {
 
 namespace {
 
-/// One program wants larger jumps and a lower text; its name tells it from all others.
+/// One program, recognised by its name, gets larger jumps and a lower text.
 bool runsInKnownProgram(const ComponentInfo& component) {
     constexpr StringView known = u"qrdmph";
     const String& name = component.exeName;

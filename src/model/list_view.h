@@ -1,6 +1,6 @@
 /// \file
 /// The control: its public members as hosts know them. The plain properties, and the accessors of columns,
-/// rows and cells, stand in its bases; what it keeps between calls, `ListViewState` tells.
+/// rows and cells, stand in its bases; `ListViewState` holds what it keeps between calls.
 #pragma once
 
 #include "model/enumerations.h"
@@ -107,8 +107,9 @@ class lmListView final : private ListViewLife,
     ObjectRef Recordset() const { return recordset_; }
     /// Takes an object's fields as columns and its records as rows, once; where its `RecordCount` is not
     /// above 0, nothing changes. Members are called by name (see `RecordsetMembers`), with paints and scroll
-    /// checks off. A failing one costs a report and its statement: a name its column, a value itself and its
-    /// comma. The load ends where `EOF` is true or fails, or where `MoveNext` fails twice in a row.
+    /// checks off. A member that fails is reported and its step skipped: a field whose name fails gets no
+    /// column, and a value that fails is left out together with its comma. The load ends where `EOF` is true
+    /// or fails, or where `MoveNext` fails twice in a row.
     void setRecordset(ObjectRef recordset);
 
     // Counts
@@ -163,7 +164,7 @@ class lmListView final : private ListViewLife,
                          cFindCompare cCompare = cFindBinary,
                          StringView sColumns = u"*",
                          StringView sRows = u"*");
-    /// The same; an empty `sColumns` or `sRows` becomes "*" at the caller's.
+    /// As above. An empty `sColumns` or `sRows` is set to "*", which the caller sees.
     FindResults
     FindItem(StringView sFind, cFindBegin cBegin, cFindCompare cCompare, String& sColumns, String& sRows);
 

@@ -21,8 +21,8 @@ namespace lumtex {
 
 class LumtexAbout;
 
-/// The data of `lmListView`, its properties and children apart. Which room owns which part,
-/// docs/architecture.md tells; the type of each struct says what its members mean.
+/// The data of `lmListView`, its properties and children apart. See docs/architecture.md for which room owns
+/// which struct.
 class ListViewState {
   protected:
     FontRef lblFont; ///< initial value of the two default fonts

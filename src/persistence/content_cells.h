@@ -6,12 +6,12 @@
 
 namespace lumtex {
 
-/// Tells where the public accessors may be passed by because nobody could tell the difference.
+/// Says when the public accessors can be bypassed without observable difference.
 class ContentCells {
   public:
     explicit ContentCells(lmListView& list) : list_(list) {}
 
-    /// The cells of the row if that of `column` is among them; null where the accessors would fail. Both
+    /// The cells of the row if that of `column` is among them; null if the accessors would fail. Both
     /// count from 1.
     Items* cellsOf(Long row, Long column) const {
         if (row > list_.RowsCount())

@@ -12,7 +12,7 @@
 namespace lumtex {
 
 /// Each reading operation throws RuntimeError 52 while no file is open, 62 for more than the file still has,
-/// and 57 where the file cannot be read. After the last two the reader stands at the file's end, so that
+/// and 57 if the file cannot be read. After the last two the reader stands at the file's end, so that
 /// nothing is read from the middle of a lost piece; after the last each further operation fails as that did.
 class ContentReader {
   public:

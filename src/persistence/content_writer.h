@@ -19,7 +19,7 @@ class ContentWriter {
 
     /// Throws as `Runtime::openForBinaryWriting`.
     void open(StringView path);
-    /// Does nothing where no file is open. Throws as OutputFile does.
+    /// Does nothing if no file is open. Throws as OutputFile does.
     void close();
 
     template <ContentNumber T>

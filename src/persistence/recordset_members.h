@@ -8,7 +8,7 @@
 
 namespace lumtex {
 
-/// Calls them by name on any object. Each failure is thrown: 91 where there is no object, what the object
+/// Calls them by name on any object. Each failure is thrown: 91 if there is no object, what the object
 /// reports, or what a conversion says. Nothing is kept between calls, so that each asks anew, as a statement
 /// would.
 class RecordsetMembers final : public RecordSource {

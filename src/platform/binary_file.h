@@ -17,11 +17,11 @@ class OutputFile {
     OutputFile& operator=(const OutputFile&) = delete;
     virtual ~OutputFile() = default;
 
-    /// Appends `bytes`. Throws RuntimeError 61 where the disk is full, 57 for any other reason; an unknown
+    /// Appends `bytes`. Throws RuntimeError 61 if the disk is full, 57 for any other reason; an unknown
     /// part of the bytes is in the file then. Not buffered: callers hand over large pieces.
     virtual void write(std::span<const Byte> bytes) = 0;
     /// Called at most once, and nothing after it. From here on the file stands under its name with all that
-    /// was written, also where a `write` failed. Throws as `write`, or 75 where the name cannot be given.
+    /// was written, also where a `write` failed. Throws as `write`, or 75 if the name cannot be given.
     virtual void close() = 0;
 };
 

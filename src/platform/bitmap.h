@@ -30,7 +30,7 @@ struct Bitmap {
     }
 };
 
-/// Channel number `channel` of a premultiplied pixel, counted from red as 0, as it was before.
+/// One channel (0 red, 1 green, 2 blue) of a premultiplied pixel, with the alpha divided out again.
 constexpr Byte straightChannel(std::uint32_t pixel, unsigned channel) {
     const unsigned alpha = pixel >> 24U;
     const unsigned value = (pixel >> (16 - 8 * channel)) & 0xFFU;

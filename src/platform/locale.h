@@ -16,7 +16,7 @@ class Locale {
     virtual ~Locale() = default;
 
     virtual NumberFromText readNumber(StringView text) const = 0;
-    /// None where the text is no date; a number of days is none.
+    /// None if the text is no date; a number of days is none.
     virtual std::optional<Date> readDate(StringView text) const = 0;
 
     virtual String textOf(LongLong value) const = 0;
@@ -64,7 +64,7 @@ class UsingLocale {
 Double numberFrom(StringView text);
 /// A date, or a number of days.
 Date dateFrom(StringView text);
-/// None where `numberFrom` throws.
+/// None if `numberFrom` throws.
 std::optional<Double> numberIn(StringView text);
 
 } // namespace lumtex

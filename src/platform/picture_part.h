@@ -15,7 +15,7 @@ struct PicturePart {
 };
 
 /// The arguments of `Surface::paintPicture`, rounded. What lies outside the picture is cut off on both sides
-/// of the copy. Throws RuntimeError 6 where a coordinate does not fit.
+/// of the copy. Throws RuntimeError 6 if a coordinate does not fit.
 PicturePart picturePart(const Bitmap& picture,
                         Single x,
                         Single y,

@@ -1,5 +1,5 @@
 /// \file
-/// A bag of named values, each left out while it equals its default.
+/// A bag of named values. A value equal to its default is not stored.
 #pragma once
 
 #include "platform/variant.h"
@@ -16,7 +16,7 @@ class PropertyBag {
 
     /// The value stored under `name`, or `defaultValue` where there is none.
     virtual Variant ReadProperty(StringView name, const Variant& defaultValue) const = 0;
-    /// Stores `value`, or removes the name where the value equals the default (see `sameValue`).
+    /// Stores `value`, or removes the name if the value equals the default (see `sameValue`).
     virtual void WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) = 0;
 };
 

@@ -7,8 +7,8 @@
 namespace lumtex {
 
 /// What an object with records may offer beside its members, for readers that go through all of them. Each
-/// function does what the members told at it do, and fails as they do, so that nobody can see which way was
-/// taken.
+/// function behaves and fails exactly like the members named above it, so that callers cannot tell which one
+/// was used.
 class RecordSource {
   public:
     RecordSource() = default;

@@ -6,11 +6,11 @@
 
 namespace lumtex {
 
-/// Each throws RuntimeError 6 where the rounded value does not fit, or the value is not a number.
+/// Each throws RuntimeError 6 if the rounded value does not fit, or the value is not a number.
 Long roundToLong(Double value);
 Integer roundToInteger(Double value);
 Byte roundToByte(Double value);
-/// Of two places or counts. Throw RuntimeError 6 where the result is no 32-bit number.
+/// Of two places or counts. Throw RuntimeError 6 if the result is no 32-bit number.
 inline Long sumOf(Long a, Long b) {
     return roundToLong(static_cast<Double>(a) + b);
 }

@@ -12,12 +12,12 @@ namespace lumtex {
 
 /// The messages of the class, in their 8-bit text forms.
 enum TipMessage : Long {
-    ttmSetDelayTime = 1027,  ///< wParam: which time, lParam: milliseconds
-    ttmAddTool = 1028,       ///< ToolInfo; the reply is not 0 where it was added
-    ttmDelTool = 1029,       ///< ToolInfo, by owner and id
-    ttmUpdateTipText = 1036, ///< ToolInfo, by owner and id
-    ttmGetToolCount = 1037,  ///< the reply is the count
-    ttmEnumTools = 1038, ///< wParam: index from 0; fills a ToolInfo; the reply is not 0 where there is one
+    ttmSetDelayTime = 1027,    ///< wParam: which time, lParam: milliseconds
+    ttmAddTool = 1028,         ///< ToolInfo; the reply is not 0 if it was added
+    ttmDelTool = 1029,         ///< ToolInfo, by owner and id
+    ttmUpdateTipText = 1036,   ///< ToolInfo, by owner and id
+    ttmGetToolCount = 1037,    ///< the reply is the count
+    ttmEnumTools = 1038,       ///< wParam: index from 0; fills a ToolInfo; the reply is not 0 if there is one
     ttmSetTipBackColor = 1043, ///< wParam: colour
     ttmSetTipTextColor = 1044, ///< wParam: colour; the reply says nothing of the colour
     ttmGetDelayTime = 1045,    ///< wParam: which time; the reply is in milliseconds
@@ -43,7 +43,7 @@ struct ToolInfo {
     WindowHandle owner = 0; ///< the window in which the tool lies
     WindowHandle id = 0;
     /// On the way in the text. On the way out a buffer, filled up to its size, with a closing zero where the
-    /// text ends before that; none where the caller does not want the text.
+    /// text ends before that; none if the caller does not want the text.
     std::optional<String> text;
 };
 
@@ -68,7 +68,7 @@ class TipPlatform {
     virtual bool isFormOrSurface(WindowHandle window) const = 0;
 
     virtual void initCommonControls() = 0;
-    /// 0 where the window could not be made.
+    /// 0 if the window could not be made.
     virtual WindowHandle createWindow(const TipWindowForm& form) = 0;
     virtual void destroyWindow(WindowHandle tips) = 0;
 

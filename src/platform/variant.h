@@ -130,8 +130,8 @@ class Variant {
     Byte toByte() const;
     Single toSingle() const;
     Double toDouble() const;
-    /// Numbers: not zero. Text: "True", "False" (in any case) or a number. Only here these words mean
-    /// anything.
+    /// Numbers: not zero. Text: "True", "False" (in any case) or a number. No other conversion knows these
+    /// words.
     bool toBoolean() const;
     /// Text: a date, or a number of days.
     Date toDate() const;
@@ -198,7 +198,7 @@ class Variant {
         return visitor(held<std::monostate>());
     }
 
-    /// Same kind and same value; objects by identity. Not the language's `=`, which converts.
+    /// Same kind and same value; objects by identity. Not the converting comparison of scripts.
     bool operator==(const Variant& other) const {
         return kind_ == other.kind_ &&
                visit([&]<class T>(const T& value) { return value == other.held<T>(); });
@@ -299,8 +299,8 @@ class Variant {
     Kind kind_ = Kind::empty;
 };
 
-/// `value` - 1 as the language computes it on a Variant: text becomes a Double and a Boolean an Integer;
-/// Byte, Integer and Long keep their kind where the result fits and widen where not; Single, Double and Date
+/// `value` - 1 by the rules of Variant arithmetic: text becomes a Double and a Boolean an Integer;
+/// Byte, Integer and Long keep their kind if the result fits and widen if not; Single, Double and Date
 /// keep it. Throws as the conversions do.
 Variant minusOne(const Variant& value);
 
@@ -315,11 +315,11 @@ inline Long zeroBased(const Variant& index) {
 }
 
 /// Text to number by the invariant rules: surrounding blanks, a sign, digits with "." as the decimal mark, an
-/// exponent with E or D, "&H" and "&O" integers. No group marks. None where the text is not a number, or one
+/// exponent with E or D, "&H" and "&O" integers. No group marks. None if the text is not a number, or one
 /// that a Double cannot hold.
 std::optional<Double> numberFromText(StringView text);
 
-/// Text to a date by the invariant rules (documented in docs/conversions.md). None where it is not a date.
+/// Text to a date by the invariant rules (documented in docs/conversions.md). None if it is not a date.
 std::optional<Date> dateFromText(StringView text);
 
 /// 15 significant digits for a Double, 7 for a Single, trailing zeros left out; "1E+15" where that many

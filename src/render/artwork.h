@@ -9,7 +9,7 @@
 namespace lumtex {
 
 struct ListViewArtwork {
-    /// 13 x 13; index 1 unchecked, 2 checked; 0 is empty, for these pictures count from 1.
+    /// 13 x 13; Index 1 is unchecked, 2 is checked; 0 is empty because these pictures are numbered from 1.
     std::array<PictureRef, 3> img;
     std::array<PictureRef, 3> imgd;   ///< the same, disabled
     std::array<PictureRef, 4> imgCol; ///< pieces of the hover bar: left cap, two stamps, right cap

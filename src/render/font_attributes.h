@@ -9,7 +9,7 @@
 namespace lumtex {
 
 /// Hands what `font` holds to `take`. Its six attributes are read by as many statements, each of which fails
-/// with 91 where there is no font. Host code at the report of one may set a font: the statement after it
+/// with 91 if there is no font. Host code at the report of one may set a font: the statement after it
 /// takes that.
 ///
 /// `statement` runs one statement and says whether it succeeded.

@@ -16,8 +16,7 @@ struct PaintState {
 
     String cellText; ///< room for the text of a cell, kept so that painting allocates nothing
 
-    /// Counters of the control, not of a pass: a host that calls in during a pass disturbs them, as it always
-    /// did.
+    /// Counters shared by all passes on purpose: a host that re-enters during a pass changes them.
     Long scanIndex = 0;
     Long scanColumn = 0;
     Long scanObjectColumn = 0;

@@ -29,9 +29,8 @@ class Wheel {
     Wheel& operator=(const Wheel&) = delete;
     ~Wheel() { UserControl_Terminate(); }
 
-    /// The window to listen to. A new one counts from the next time that the wheel is enabled while it
-    /// listens to none.
-    WindowHandle hWndCapture() const { return hWndCapture_; }
+    /// The window to listen to. A new value takes effect at the next EnableWheel() that is called while no
+    /// window is hooked.
     void lethWndCapture(WindowHandle window) { hWndCapture_ = window; }
 
     /// Begins to listen; nothing without a window.
@@ -53,7 +52,7 @@ class Wheel {
     WindowHandle hWndCapture_ = 0;
     WindowHandle listensTo_ = 0;
     bool active_ = false;
-    std::unique_ptr<WheelHook> hook_; ///< none where the platform has no hooks
+    std::unique_ptr<WheelHook> hook_; ///< none if the platform has no hooks
 };
 
 } // namespace lumtex

@@ -14,8 +14,7 @@ namespace lumtex {
 /// A form without a frame in the middle of the screen. A click on it closes it; the link and the help button
 /// open what they name; F1 is the help button.
 ///
-/// Has no error path of its own: what fails while it is shown reaches whoever shows it, what fails in answer
-/// to the user leaves the rest undone.
+/// Reports nothing itself: Show() throws, and an answer to the user that fails leaves the rest undone.
 class LumtexAbout final : public UserControl {
   public:
     enum class Mode : Byte { modeless, modal };

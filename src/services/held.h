@@ -12,7 +12,7 @@ namespace lumtex {
 
 namespace detail {
 
-/// The reference inside, or none where the value holds none.
+/// The reference inside, or none if the value holds none.
 template <class T>
 ReleaseBin::Reference referenceIn(T&& reference) noexcept {
     return std::forward<T>(reference);

@@ -17,7 +17,7 @@ class TextFile {
     void openForInput(StringView path);
     /// Empties the file. Throws as `Runtime::createFile`.
     void openForOutput(StringView path);
-    /// Does nothing where the file is not open. Throws as `Runtime::appendToFile`.
+    /// Does nothing if the file is not open. Throws as `Runtime::appendToFile`.
     void close();
 
     /// All that has not been read yet.

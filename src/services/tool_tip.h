@@ -21,11 +21,11 @@ class lmToolTip {
     lmToolTip& operator=(const lmToolTip&) = delete;
     ~lmToolTip() { Class_Terminate(); }
 
-    /// Makes the window, owned by that of `Parent`, unless there is one already. False where `Parent` is
+    /// Makes the window, owned by that of `Parent`, unless there is one already. False if `Parent` is
     /// neither a form nor the surface of a control, or the platform gives no window.
     bool Create(const ObjectRef& Parent);
 
-    /// False where the control has a tool already.
+    /// False if the control has a tool already.
     bool AddTool(const ObjectRef& Control, StringView Text);
     bool RemoveTool(const ObjectRef& Control);
     Integer ToolCount();

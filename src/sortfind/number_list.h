@@ -13,7 +13,7 @@ namespace lumtex {
 /// number.
 class NumberList {
   public:
-    /// Appends `first`, `first` + 1, ..., `last`; nothing where `last` lies below.
+    /// Appends `first`, `first` + 1, ..., `last`; nothing if `last` lies below.
     void append(Long first, Long last);
     /// Appends what was a number before its last character was cut; reading it is a type mismatch.
     void appendUnreadable();

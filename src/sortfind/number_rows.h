@@ -31,7 +31,7 @@ class NumberReader {
     Double readDate();
 
     cSortType type_;
-    unsigned char decimalMark_ = 0; ///< of plain numbers; 0 where it is no single byte
+    unsigned char decimalMark_ = 0; ///< of plain numbers; 0 if it is no single byte
     bool readsBack_ = false;
     String buffer_;
 };

@@ -11,7 +11,7 @@ namespace lumtex {
 /// "\" becomes the machine's own separator.
 std::filesystem::path nativePath(StringView path);
 
-/// Throws RuntimeError 76 where the folder of `file` does not exist.
+/// Throws RuntimeError 76 if the folder of `file` does not exist.
 void demandFolderOf(const std::filesystem::path& file);
 
 } // namespace lumtex

@@ -66,7 +66,7 @@ class Pointer {
 
     Pane* targetOf(const Event& event) const;
     void endCapture();
-    /// The target, captured, with the focus where keys belong; none where it took no input after all that.
+    /// The target, captured, with the focus where keys belong; none if it took no input after all that.
     Pane* pressTarget(const Event& event);
 
     WindowTree& tree_;

@@ -32,7 +32,7 @@ class JsonPropertyBag final : public PropertyBag {
     /// UTF-8, a property a line.
     std::string text() const;
 
-    /// As `parse`, from a file. Throws 53 where there is none, and what reading it may throw.
+    /// As `parse`, from a file. Throws 53 if there is none, and what reading it may throw.
     void load(StringView path);
     /// The file is replaced when all of it is written. Throws what writing may throw.
     void save(StringView path) const;

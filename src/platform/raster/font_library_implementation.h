@@ -39,7 +39,7 @@ struct FontLibrary::Implementation {
 
     /// The best file; with a character, the best one that has it. An empty path where there is none.
     FaceFile find(const FaceRequest& request, char32_t character = 0) const;
-    /// Throws RuntimeError 53 where the file cannot be opened.
+    /// Throws RuntimeError 53 if the file cannot be opened.
     FtFaceHandle open(const FaceFile& file, Long pixels) const;
 };
 

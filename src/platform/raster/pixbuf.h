@@ -20,7 +20,7 @@ using PixbufHandle = std::unique_ptr<GdkPixbuf, UnrefObject>;
 using LoaderHandle = std::unique_ptr<GdkPixbufLoader, UnrefObject>;
 using ErrorHandle = std::unique_ptr<GError, FreeError>;
 
-/// The pixels, opaque where the picture has no alpha.
+/// The pixels, opaque if the picture has no alpha.
 Bitmap bitmapOf(const GdkPixbuf* pixbuf);
 
 } // namespace lumtex

@@ -12,7 +12,7 @@ namespace lumtex {
 ///
 /// - `GetFormat(Format)`: whether there is data in that format.
 /// - `GetData(Format)`: texts of formats 1, 13 and of rich text as a String, a bitmap of format 2 as a
-///   picture; without a format, the text. RuntimeError 5 where there is none, or in any other format.
+///   picture; without a format, the text. RuntimeError 5 if there is none, or in any other format.
 /// - `Files`: the names of dragged files, with `Count` and `Item(Index)`, Index from 1; RuntimeError 5 where
 ///   no files are dragged, 9 for an index outside.
 ObjectRef carriedData(ComRef<IDataObject> data);

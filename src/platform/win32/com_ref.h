@@ -55,7 +55,7 @@ class ComRef {
     /// The reference, now the caller's.
     T* detach() { return std::exchange(object_, nullptr); }
 
-    /// The same object under another interface; none where it has no such one.
+    /// The same object under another interface; none if it has no such one.
     template <class U>
     ComRef<U> as() const {
         return queryFor<U>(object_);

@@ -10,7 +10,7 @@ class DropTarget;
 class UserControl;
 
 /// Has the system tell `client` what is dragged over `window` and dropped there, as long as this lives.
-/// Without effect where the system refuses: on a thread of many-threaded objects, or where somebody else
+/// Without effect if the system refuses: on a thread of many-threaded objects, or where somebody else
 /// takes the window's drops already. Both must outlive this.
 ///
 /// The client hears UserControl_OLEDragOver with the states below, and UserControl_OLEDragDrop. The effect
@@ -26,7 +26,7 @@ class DropPlace {
   private:
     HWND window_;
     bool hasOle_;
-    ComRef<DropTarget> target_; ///< none where the system refused
+    ComRef<DropTarget> target_; ///< none if the system refused
 };
 
 /// The last argument of UserControl_OLEDragOver.

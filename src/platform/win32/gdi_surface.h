@@ -15,12 +15,12 @@ namespace lumtex {
 /// system's decision; this class rounds, clips and translates. Belongs to one thread.
 class GdiSurface final : public Surface {
   public:
-    /// Negative sizes count as 0. Throws RuntimeError 7 where there is no room.
+    /// Negative sizes count as 0. Throws RuntimeError 7 if there is no room.
     GdiSurface(Long width, Long height, Long pixelsPerInchX, Long pixelsPerInchY);
     ~GdiSurface() override;
 
     /// What was drawn stays in so far as it still fits; new parts show BackColor. Negative sizes count as 0.
-    /// Throws RuntimeError 7 where there is no room, and stays as it was.
+    /// Throws RuntimeError 7 if there is no room, and stays as it was.
     void resize(Long width, Long height);
 
     /// The context that all drawing goes through. Changes with each `resize`. Whoever draws on it leaves pen,

@@ -15,7 +15,7 @@ struct NamedFontClient {
 };
 
 /// A font object of `description`. The system's own tells another name where that face is not installed; this
-/// one tells the name it was made with, until somebody names another face. Throws RuntimeError 7 where it
+/// one tells the name it was made with, until somebody names another face. Throws RuntimeError 7 if it
 /// cannot be made.
 ComRef<IFontDisp> makeNamedFont(FONTDESC description, NamedFontClient client);
 

@@ -14,7 +14,7 @@ FontRef fontFrom(IFontDisp* font);
 
 /// What a host gets to see of a font: the object that it came from, or one made for it, whose changes show in
 /// `font`. As long as somebody holds that, the same font gives it each time. Null for none. Throws
-/// RuntimeError 7 where it cannot be made.
+/// RuntimeError 7 if it cannot be made.
 ComRef<IFontDisp> toIFont(const FontRef& font);
 
 } // namespace lumtex

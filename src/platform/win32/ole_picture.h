@@ -17,7 +17,7 @@ PictureRef pictureFrom(IPictureDisp* picture);
 
 /// What a host gets to see of a picture: the object that it came from, or one made for it. As long as
 /// somebody holds that, the same picture gives it each time. Null for none and for a picture without pixels.
-/// Throws RuntimeError 7 where it cannot be made.
+/// Throws RuntimeError 7 if it cannot be made.
 ComRef<IPictureDisp> toIPicture(const PictureRef& picture);
 
 /// The object of a host that `picture` came from, alive as long as that is; null for a picture of ours.

@@ -30,7 +30,7 @@ class PointerShape {
 
     Integer shape_ = pointerDefault;
     PictureRef icon_;
-    HCURSOR iconCursor_ = nullptr; ///< owned; none where the icon could not be made into one
+    HCURSOR iconCursor_ = nullptr; ///< owned; none if the icon could not be made into one
 };
 
 } // namespace lumtex

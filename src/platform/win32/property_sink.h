@@ -18,7 +18,7 @@ class PropertySink final : public CountedObject<IPropertyNotifySink> {
     /// Calls back no more.
     void silence();
 
-    /// Has `source` tell its changes to this sink. False where it has no way to.
+    /// Has `source` tell its changes to this sink. False if it has no way to.
     bool listenTo(IUnknown* source, DWORD& cookie);
     /// Ends that again.
     static void stopListening(IUnknown* source, DWORD cookie);

@@ -15,7 +15,7 @@ class TickSource {
     TickSource& operator=(const TickSource&) = delete;
     virtual ~TickSource() = default;
 
-    /// From now on `window` gets a tick each `milliseconds`, which are more than 0. False where there is no
+    /// From now on `window` gets a tick each `milliseconds`, which are more than 0. False if there is no
     /// timer left.
     virtual bool start(HWND window, UINT_PTR run, Long milliseconds) = 0;
     /// A tick that is on its way already may still come.

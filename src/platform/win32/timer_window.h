@@ -13,17 +13,17 @@ class Win32Timer;
 
 class TimerWindow {
   public:
-    /// `ticks` must outlive the window. Throws RuntimeError 7 where the system gives no window.
+    /// `ticks` must outlive the window. Throws RuntimeError 7 if the system gives no window.
     TimerWindow(HINSTANCE instance, TickSource& ticks);
     TimerWindow(const TimerWindow&) = delete;
     TimerWindow& operator=(const TimerWindow&) = delete;
     ~TimerWindow();
 
-    /// Begins to tick; the number names this run of the timer. 0 where there is no timer left.
+    /// Begins to tick; the number names this run of the timer. 0 if there is no timer left.
     UINT_PTR start(Win32Timer& timer, Long milliseconds);
     void stop(UINT_PTR run);
     /// Has the thread of the window call `work` with `argument` when its messages run next. May be called
-    /// from any thread, and `work` may end the window. False where the thread has gone, or takes no more
+    /// from any thread, and `work` may end the window. False if the thread has gone, or takes no more
     /// messages.
     bool post(void (*work)(void*), void* argument) const;
 

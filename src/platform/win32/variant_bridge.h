@@ -53,7 +53,7 @@ const VARIANT& endOfReferences(const VARIANT& value);
 /// no error value. Throws RuntimeError 13 for references that lead nowhere.
 Variant fromVARIANT(const VARIANT& value);
 
-/// Throws RuntimeError 7 where there is no memory for a text.
+/// Throws RuntimeError 7 if there is no memory for a text.
 OwnedVARIANT toVARIANT(const Variant& value);
 
 DECIMAL toDECIMAL(const Decimal& value);

@@ -14,7 +14,7 @@ class Win32World;
 /// procedure, which also says that the hook is in force, and "WheelPtr", the hook.
 class WheelSubclass final : public WheelHook {
   public:
-    /// The hook's own window is a hidden child of `parent`. Throws RuntimeError 7 where the system gives
+    /// The hook's own window is a hidden child of `parent`. Throws RuntimeError 7 if the system gives
     /// none.
     WheelSubclass(Win32World& world, HWND parent, OnWheel onWheel);
     ~WheelSubclass() override;

@@ -14,7 +14,7 @@ namespace lumtex {
 /// a Win32Window may.
 class Win32TextBox final : public TextBox {
   public:
-    /// Throws RuntimeError 7 where the system gives no window.
+    /// Throws RuntimeError 7 if the system gives no window.
     Win32TextBox(Win32World& world, Win32Window& parent, TextBoxClient& client);
     ~Win32TextBox() override;
 

@@ -20,7 +20,7 @@ class Win32Window final : public Window {
   public:
     enum class Kind { child, shownChild, form };
 
-    /// Throws RuntimeError 7 where the system gives no window.
+    /// Throws RuntimeError 7 if the system gives no window.
     Win32Window(Win32World& world, HWND parent, Kind kind, UserControl& client);
     ~Win32Window() override;
 

@@ -63,7 +63,7 @@ class Win32World final : public World {
     /// Told when one of our windows has a new picture for the screen. Must not throw.
     std::function<void()> onPresent;
 
-    /// The world of the nearest window of ours around a window, or of that itself; none where there is none.
+    /// The world of the nearest window of ours around a window, or of that itself; none if there is none.
     static Win32World* of(HWND window);
 
     /// The object that the world belongs to; may be null. It is counted while a message, a tick or a turn of
@@ -72,7 +72,7 @@ class Win32World final : public World {
     IUnknown* owner = nullptr;
 
     /// Has the thread of the world call `work` with `argument` when its messages run next. May be called from
-    /// any thread, and `work` may end the world. False where that thread has gone. `work` must not throw.
+    /// any thread, and `work` may end the world. False if that thread has gone. `work` must not throw.
     bool post(void (*work)(void*), void* argument) const { return timers_.post(work, argument); }
 
     // For what the world makes

@@ -11,7 +11,7 @@ namespace lumtex {
 /// thread.
 class WindowClass {
   public:
-    /// `name` must live as long as the program. Throws RuntimeError 7 where the system refuses the class.
+    /// `name` must live as long as the program. Throws RuntimeError 7 if the system refuses the class.
     WindowClass(HINSTANCE instance, const wchar_t* name, WNDPROC procedure, UINT style);
     WindowClass(const WindowClass&) = delete;
     WindowClass& operator=(const WindowClass&) = delete;

@@ -23,7 +23,7 @@
 #include <olectl.h>
 #include <windows.h>
 
-// Words that the headers take for segment models and interface compilers, and that make good names.
+// Undo macros of the system headers that would take these names from us.
 #undef small
 #undef near
 #undef hyper
