@@ -5,7 +5,7 @@
 #include "activex/event_sink.h"
 #include "activex/small_container.h"
 #include "calling_thing.h"
-#include "scratch_folder.h"
+#include "hosted_list.h"
 
 namespace lumtex::testing {
 
@@ -31,7 +31,7 @@ constexpr HeldThing heldThings[] = {
 };
 
 /// A call that ends the control is the last one that reaches it. Nobody but the host holds a reference.
-class CalledBackList {
+class CalledBackList final : public HostedList {
   public:
     static constexpr Long rows = 4;
     static constexpr Long columns = 2;
@@ -42,9 +42,9 @@ class CalledBackList {
     }
     CalledBackList(const CalledBackList&) = delete;
     CalledBackList& operator=(const CalledBackList&) = delete;
-    ~CalledBackList() { end(); }
+    ~CalledBackList() override { end(); }
 
-    bool isOver() const { return !control_; }
+    bool isOver() const override { return !control_; }
     SmallContainer& container() { return container_; }
 
     /// As new; a control that was ended is followed by another one.
@@ -89,23 +89,7 @@ class CalledBackList {
         put(held.member, held.kind, arguments);
     }
 
-    // Each does nothing once the control has ended.
-
-    Variant get(const wchar_t* name, const std::vector<Variant>& arguments = {}) {
-        return ask(name, DISPATCH_PROPERTYGET, arguments);
-    }
-    void let(const wchar_t* name, const std::vector<Variant>& arguments) {
-        ask(name, DISPATCH_PROPERTYPUT, arguments);
-    }
-    void put(const wchar_t* name, WORD kind, const std::vector<Variant>& arguments) {
-        ask(name, kind, arguments);
-    }
-    void call(const wchar_t* name, const std::vector<Variant>& arguments = {}) {
-        ask(name, DISPATCH_METHOD, arguments);
-    }
-    void saveContent() { call(L"ContentSave", {folder_.pathTo("content"), true}); }
-    void loadContent() { call(L"ContentInput", {folder_.pathTo("content"), true}); }
-    void end() {
+    void end() override {
         if (!control_)
             return;
         object_->Close(OLECLOSE_NOSAVE);
@@ -140,56 +124,13 @@ class CalledBackList {
         invoke(dispatch, idOf(dispatch, held.member), held.kind, arguments);
         static_cast<IPictureDisp*>(thing)->Release();
     }
-    Variant ask(const wchar_t* name, WORD kind, const std::vector<Variant>& arguments) {
-        if (!control_)
-            return {};
-        IDispatch* const dispatch = control_.as<IDispatch>().get(); // without a reference of its own
-        return invoke(dispatch, name, kind, arguments).value;
-    }
+    IDispatch* calls() override { return control_.as<IDispatch>().get(); } // without a reference of its own
 
-    ScratchFolder folder_;
     MapBag settings_;
     Component component_;
     SmallContainer container_;
     ComRef<IUnknown> control_;
     ComRef<IOleObject> object_;
-};
-
-/// What host code does at an odd moment, the end of the control included.
-struct HostCode {
-    const char* name;
-    void (*run)(CalledBackList& list);
-};
-constexpr HostCode hostCodes[] = {
-    {"reads",
-     [](CalledBackList& list) {
-         for (Long row = 1; row <= CalledBackList::rows; ++row) {
-             list.get(L"ItemText", {row, Long{1}});
-             list.get(L"ItemTag", {row, Long{1}});
-             list.get(L"ItemIcon", {row, Long{1}});
-         }
-     }},
-    {"adds",
-     [](CalledBackList& list) {
-         list.call(L"ColumnsAdd", {u"more"});
-         list.call(L"RowsAdd", {Long{0}, u",", u"first"});
-     }},
-    {"removes", [](CalledBackList& list) { list.call(L"RowsRemove", {Long{1}}); }},
-    {"removes the selected", [](CalledBackList& list) { list.call(L"RowsSelectedRemove"); }},
-    {"clears rows", [](CalledBackList& list) { list.call(L"RowsClear"); }},
-    {"clears columns", [](CalledBackList& list) { list.call(L"ColumnsClear"); }},
-    {"sorts",
-     [](CalledBackList& list) {
-         list.call(L"Sort", {Long{1}, Long{1}});
-     }},
-    {"paints", [](CalledBackList& list) { list.call(L"Redraw"); }},
-    {"edits",
-     [](CalledBackList& list) {
-         list.call(L"SetEdit", {Long{1}, Long{1}});
-         list.call(L"StopEdit");
-     }},
-    {"loads", [](CalledBackList& list) { list.loadContent(); }},
-    {"ends", [](CalledBackList& list) { list.end(); }},
 };
 
 } // namespace lumtex::testing

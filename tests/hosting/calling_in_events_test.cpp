@@ -1,0 +1,54 @@
+/// A host may do anything in the control's own events.
+#include "event_story.h"
+
+namespace lumtex::testing {
+namespace {
+
+class CallingInEvents : public ::testing::Test {
+  protected:
+    CallingInEvents() {
+        OleInitialize(nullptr);
+        silence(true);
+    }
+    ~CallingInEvents() override {
+        silence(false);
+        EXPECT_TRUE(component.canUnload());
+        OleUninitialize();
+    }
+    void silence(bool on) const {
+        const ComRef<IUnknown> error = component.make("Error");
+        invoke(error.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
+    }
+
+    BoxWatch watch;
+    Component component;
+};
+
+TEST_F(CallingInEvents, AnyEventMayBeAnsweredWithAnyCall) {
+    for (const DISPID event : raisedByTheStory)
+        for (const HostCode& code : hostCodes) {
+            SCOPED_TRACE(std::string("event ") + std::to_string(event) + ", the host " + code.name);
+            Story story;
+            bool answered = false;
+            story.answer(event, [&] {
+                answered = true;
+                code.run(story);
+            });
+            story.run();
+            EXPECT_TRUE(answered);
+            if (!story.isOver()) {
+                story.call(L"RowsClear");
+                story.call(L"ColumnsClear");
+                story.call(L"ColumnsAdd", {u"column"});
+                story.call(L"RowsAdd", {Long{-1}, u",", u"text"});
+                EXPECT_EQ(story.get(L"RowsCount"), Variant(Long{1}));
+                EXPECT_EQ(story.get(L"ItemText", {Long{1}, Long{1}}), Variant(u"text"));
+            }
+            story.end();
+            EXPECT_EQ(story.container().references, 1U);
+            EXPECT_EQ(story.sink().references, 1U);
+        }
+}
+
+} // namespace
+} // namespace lumtex::testing
