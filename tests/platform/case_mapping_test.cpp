@@ -59,5 +59,22 @@ TEST(CaseMapping, MapsAsManyUnitsAsTheStandardLists) {
     EXPECT_EQ(folded, 1194);
 }
 
+/// FNV-1a over what all units map to, low byte first.
+std::uint64_t fingerprintOf(const CaseMapping& mapping) {
+    std::uint64_t fingerprint = 0xCBF29CE484222325U;
+    for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
+        const unsigned mapped = mapping(static_cast<char16_t>(unit));
+        for (const unsigned byte : {mapped & 0xFFU, mapped >> 8U})
+            fingerprint = (fingerprint ^ byte) * 0x100000001B3U;
+    }
+    return fingerprint;
+}
+
+// Computed apart from this code, from the character database of Python 3.11, which is of the same version.
+TEST(CaseMapping, MapsEachUnitAsTheStandardDoes) {
+    EXPECT_EQ(fingerprintOf(lowerCase), 0x9C8AD38EAF2BC829U);
+    EXPECT_EQ(fingerprintOf(foldCase), 0xE4A30AEAE011D775U);
+}
+
 } // namespace
 } // namespace lumtex

@@ -104,5 +104,11 @@ TEST_F(FormattedText, TheWidthOfATextCountsWhatIsBehindAZeroCharacter) {
     EXPECT_GT(surface.textWidth(StringView(u"HH\0HH", 5)), surface.textWidth(u"HHH"));
 }
 
+TEST_F(FormattedText, AShapedTextIsAsWideAsItsLetters) {
+    const Single alef = surface.textWidth(u"\u05D0");
+    EXPECT_GT(alef, 0);
+    EXPECT_EQ(surface.textWidth(u"\u05D0\u05D0\u05D0"), 3 * alef);
+}
+
 } // namespace
 } // namespace lumtex::testing
