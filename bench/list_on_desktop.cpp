@@ -1,49 +1,18 @@
 #include "list_on_desktop.h"
 
 #include "platform/text.h"
+#include "sample_rows.h"
 
 #include <map>
-#include <random>
 
 namespace lumtex::bench {
-
-namespace {
-
-/// Rows of a running number, a name of 8 to 20 letters, one of 200 cities, a decimal number and an ISO date.
-std::vector<String> makeRows(int count) {
-    std::mt19937 random(20261121);
-    const auto between = [&](int low, int high) {
-        return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
-    };
-    const auto word = [&](int length) {
-        std::string text;
-        for (int i = 0; i < length; ++i)
-            text += static_cast<char>('a' + between(0, 25));
-        return text;
-    };
-    const auto twoDigits = [](int value) { return std::to_string(100 + value).substr(1); };
-    std::vector<std::string> cities;
-    for (int i = 0; i < 200; ++i)
-        cities.push_back(word(between(4, 14)));
-    std::vector<String> rows;
-    for (int i = 1; i <= count; ++i) {
-        const std::string amount = std::to_string(between(0, 99999)) + "." + twoDigits(between(0, 99));
-        const std::string date = std::to_string(between(1990, 2026)) + "-" + twoDigits(between(1, 12)) + "-" +
-                                 twoDigits(between(1, 28));
-        rows.push_back(fromUtf8(std::to_string(i) + "|" + word(between(8, 20)) + "|" +
-                                cities[static_cast<std::size_t>(between(0, 199))] + "|" + amount + "|" +
-                                date));
-    }
-    return rows;
-}
-
-} // namespace
 
 const std::vector<String>& rowsOf(std::int64_t count) {
     static std::map<std::int64_t, std::vector<String>> known;
     auto& rows = known[count];
     if (rows.empty())
-        rows = makeRows(static_cast<int>(count));
+        for (const std::string& row : sampleRows(static_cast<int>(count)))
+            rows.push_back(fromUtf8(row));
     return rows;
 }
 

@@ -1,0 +1,363 @@
+// What the component costs a host in C++ that calls it early bound, beside the system's own list on the same
+// rows.
+//
+// Prints a table for docs/performance.md: medians of three runs, in milliseconds of the wall clock.
+#include "LumtexListView.h"
+#include "sample_rows.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <commctrl.h>
+#include <windows.h>
+
+namespace {
+
+using namespace LumtexListView;
+using lumtex::bench::sampleRows;
+
+constexpr int columns = 5;
+constexpr int width = 1280;
+constexpr int height = 800;
+
+using Cells = std::vector<std::wstring>;
+
+/// The texts of one row, and all of them in one.
+struct Row {
+    std::wstring whole;
+    Cells cells;
+};
+
+std::vector<Row> rowsOf(int count) {
+    std::vector<Row> rows;
+    for (const std::string& text : sampleRows(count)) {
+        Row row{std::wstring(text.begin(), text.end()), {}};
+        std::wistringstream pieces(row.whole);
+        for (std::wstring cell; std::getline(pieces, cell, L'|');)
+            row.cells.push_back(cell);
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+void must(bool done, const char* what) {
+    if (!done)
+        throw std::runtime_error(what);
+}
+
+/// A text for the length of a call.
+class Text {
+  public:
+    explicit Text(const std::wstring& text)
+        : text_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
+    Text(const Text&) = delete;
+    Text& operator=(const Text&) = delete;
+    ~Text() { SysFreeString(text_); }
+    operator BSTR() const { return text_; }
+    operator VARIANT() const {
+        VARIANT value;
+        value.vt = VT_BSTR;
+        value.bstrVal = text_;
+        return value;
+    }
+
+  private:
+    BSTR text_;
+};
+
+VARIANT number(long value) {
+    VARIANT result;
+    result.vt = VT_I4;
+    result.lVal = value;
+    return result;
+}
+
+HWND window(const wchar_t* className, DWORD style, HWND parent) {
+    HWND made = CreateWindowExW(
+        0, className, L"", style | WS_VISIBLE, 0, 0, width, height, parent, nullptr, nullptr, nullptr);
+    must(made != nullptr, "a window could not be made");
+    return made;
+}
+
+/// What each list can do; times are taken around these calls.
+class List {
+  public:
+    virtual ~List() = default;
+    /// Until the next call of `show` nothing is painted.
+    virtual void hold() = 0;
+    virtual void show() = 0;
+    virtual void add(const Row& row) = 0;
+    virtual void removeFirst() = 0;
+    virtual void select(int row) = 0;
+    virtual void removeSelected() = 0;
+    /// Makes it the first row that is seen, and paints.
+    virtual void scrollTo(int row) = 0;
+    virtual void paint() = 0;
+    virtual int count() = 0;
+};
+
+class Component final : public List {
+  public:
+    explicit Component(HWND parent) : host_(window(L"AtlAxWin", WS_CHILD | WS_CLIPCHILDREN, parent)) {
+        const HMODULE library = LoadLibraryW(L"LumtexListView.ocx");
+        must(library != nullptr, "LumtexListView.ocx must lie beside this program");
+        const auto getClass = reinterpret_cast<HRESULT(WINAPI*)(REFCLSID, REFIID, void**)>(
+            reinterpret_cast<void*>(GetProcAddress(library, "DllGetClassObject")));
+        const auto attach = reinterpret_cast<HRESULT(WINAPI*)(IUnknown*, HWND, IUnknown**)>(
+            reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"atl.dll"), "AtlAxAttachControl")));
+        void* factory = nullptr;
+        must(SUCCEEDED(getClass(CLSID_lmListView, IID_IClassFactory, &factory)), "no class factory");
+        void* list = nullptr;
+        const HRESULT made =
+            static_cast<IClassFactory*>(factory)->CreateInstance(nullptr, IID__lmListView, &list);
+        static_cast<IClassFactory*>(factory)->Release();
+        must(SUCCEEDED(made), "no control");
+        list_ = static_cast<_lmListView*>(list);
+        must(attach != nullptr && SUCCEEDED(attach(list_, host_, nullptr)), "the container takes no control");
+        hold();
+        list_->put_RowsDynamic(VARIANT_FALSE);
+        for (const float pixels : {70, 200, 160, 120, 110})
+            list_->ColumnsAdd(Text(L"Column"),
+                              nullptr,
+                              nullptr,
+                              nullptr,
+                              cColumnLeft,
+                              pixels * 15,
+                              VARIANT_TRUE,
+                              0,
+                              Text(L""),
+                              Text(L""),
+                              0,
+                              0);
+    }
+    ~Component() override {
+        list_->Release();
+        DestroyWindow(host_);
+    }
+    void hold() override {
+        list_->put_AutoRedraw(VARIANT_FALSE);
+        list_->put_AutoCheckScroll(VARIANT_FALSE);
+    }
+    void show() override {
+        list_->put_AutoRedraw(VARIANT_TRUE);
+        list_->put_AutoCheckScroll(VARIANT_TRUE);
+    }
+    void add(const Row& row) override {
+        VARIANT atTheEnd = number(-1);
+        list_->RowsAdd(&atTheEnd, separator_, Text(row.whole));
+    }
+    void removeFirst() override {
+        VARIANT first = number(1);
+        list_->RowsRemove(&first);
+    }
+    void select(int row) override {
+        list_->put_MultiSelect(VARIANT_TRUE);
+        list_->put_RowSelected(number(row + 1), VARIANT_TRUE);
+    }
+    void removeSelected() override { list_->RowsSelectedRemove(); }
+    void scrollTo(int row) override {
+        list_->put_TopIndex(row);
+        paint();
+    }
+    void paint() override {
+        UpdateWindow(host_);
+        GdiFlush();
+    }
+    int count() override {
+        long rows = 0;
+        list_->get_RowsCount(&rows);
+        return static_cast<int>(rows);
+    }
+
+  private:
+    HWND host_;
+    _lmListView* list_ = nullptr;
+    Text separator_{L"|"};
+};
+
+/// The system's list, which keeps a copy of each text.
+class SystemList final : public List {
+  public:
+    explicit SystemList(HWND parent)
+        : list_(window(WC_LISTVIEWW, WS_CHILD | LVS_REPORT | LVS_SHOWSELALWAYS, parent)) {
+        SendMessageW(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+        int place = 0;
+        for (const int pixels : {70, 200, 160, 120, 110}) {
+            LVCOLUMNW column{};
+            column.mask = LVCF_WIDTH | LVCF_TEXT;
+            column.cx = pixels;
+            column.pszText = const_cast<wchar_t*>(L"Column");
+            SendMessageW(
+                list_, LVM_INSERTCOLUMNW, static_cast<WPARAM>(place++), reinterpret_cast<LPARAM>(&column));
+        }
+    }
+    ~SystemList() override { DestroyWindow(list_); }
+    void hold() override { SendMessageW(list_, WM_SETREDRAW, FALSE, 0); }
+    void show() override { SendMessageW(list_, WM_SETREDRAW, TRUE, 0); }
+    void add(const Row& row) override {
+        LVITEMW item{};
+        item.mask = LVIF_TEXT;
+        item.iItem = count();
+        for (const std::wstring& cell : row.cells) {
+            item.pszText = const_cast<wchar_t*>(cell.c_str());
+            if (item.iSubItem == 0)
+                SendMessageW(list_, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+            else
+                SendMessageW(list_,
+                             LVM_SETITEMTEXTW,
+                             static_cast<WPARAM>(item.iItem),
+                             reinterpret_cast<LPARAM>(&item));
+            ++item.iSubItem;
+        }
+    }
+    void removeFirst() override { SendMessageW(list_, LVM_DELETEITEM, 0, 0); }
+    void select(int row) override {
+        LVITEMW item{};
+        item.state = item.stateMask = LVIS_SELECTED;
+        SendMessageW(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+    }
+    void removeSelected() override {
+        for (LRESULT row;
+             (row = SendMessageW(list_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED)) >= 0;)
+            SendMessageW(list_, LVM_DELETEITEM, static_cast<WPARAM>(row), 0);
+    }
+    void scrollTo(int row) override {
+        const auto top = static_cast<int>(SendMessageW(list_, LVM_GETTOPINDEX, 0, 0));
+        RECT one{};
+        SendMessageW(list_, LVM_GETITEMRECT, static_cast<WPARAM>(top), reinterpret_cast<LPARAM>(&one));
+        SendMessageW(list_, LVM_SCROLL, 0, static_cast<LPARAM>(row - top) * (one.bottom - one.top));
+        paint();
+    }
+    void paint() override {
+        UpdateWindow(list_);
+        GdiFlush();
+    }
+    int count() override { return static_cast<int>(SendMessageW(list_, LVM_GETITEMCOUNT, 0, 0)); }
+
+  private:
+    HWND list_;
+};
+
+using Clock = std::chrono::steady_clock;
+
+double timeOf(const std::function<void()>& work) {
+    const auto began = Clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(Clock::now() - began).count();
+}
+
+struct Measure {
+    const char* name;
+    int rows; ///< that the list holds before
+    double (*run)(List& list, const std::vector<Row>& rows);
+    int rowsAfter;
+};
+
+constexpr int loaded = 100000;
+constexpr int removals = 1000;
+constexpr int steps = 100;
+
+const Measure measures[] = {
+    {"load 100,000 rows, nothing painted",
+     0,
+     [](List& list, const std::vector<Row>& rows) {
+         return timeOf([&] {
+             for (int row = 0; row < loaded; ++row)
+                 list.add(rows[static_cast<std::size_t>(row)]);
+         });
+     },
+     loaded},
+    {"remove the first of 10,000 rows",
+     10000,
+     [](List& list, const std::vector<Row>&) { return timeOf([&] { list.removeFirst(); }); },
+     9999},
+    {"remove 1,000 selected of 25,000 rows",
+     25000,
+     [](List& list, const std::vector<Row>&) {
+         for (int row = 0; row < removals; ++row)
+             list.select(row * 25);
+         list.scrollTo(0); // selecting scrolls, and a list keeps its top when rows go
+         return timeOf([&] { list.removeSelected(); });
+     },
+     25000 - removals},
+    {"scroll by a page and repaint, one of 100",
+     25000,
+     [](List& list, const std::vector<Row>&) {
+         list.show();
+         list.scrollTo(0);
+         return timeOf([&] {
+                    for (int step = 1; step <= steps; ++step)
+                        list.scrollTo(step * 39);
+                }) /
+                steps;
+     },
+     25000},
+    {"1,000 appends, each painted",
+     0,
+     [](List& list, const std::vector<Row>& rows) {
+         list.show();
+         return timeOf([&] {
+             for (int row = 0; row < removals; ++row) {
+                 list.add(rows[static_cast<std::size_t>(row)]);
+                 list.paint();
+             }
+         });
+     },
+     removals},
+};
+
+template <class Kind>
+double medianOf(const Measure& measure, HWND parent, const std::vector<Row>& rows) {
+    constexpr int runs = 3;
+    std::vector<double> times;
+    for (int run = 0; run < runs; ++run) {
+        Kind list(parent);
+        list.hold();
+        for (int row = 0; row < measure.rows; ++row)
+            list.add(rows[static_cast<std::size_t>(row)]);
+        times.push_back(measure.run(list, rows));
+        must(list.count() == measure.rowsAfter, measure.name);
+    }
+    std::sort(times.begin(), times.end());
+    return times[runs / 2];
+}
+
+void printTable() {
+    const INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_LISTVIEW_CLASSES};
+    InitCommonControlsEx(&classes);
+    const auto start = reinterpret_cast<BOOL(WINAPI*)()>(
+        reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"atl.dll"), "AtlAxWinInit")));
+    must(start != nullptr && start() != FALSE, "atl.dll is not there");
+    HWND parent = window(L"STATIC", WS_POPUP | WS_CLIPCHILDREN, nullptr);
+    const std::vector<Row> rows = rowsOf(loaded);
+    std::puts("| milliseconds | component | system's list |\n|---|--:|--:|");
+    for (const Measure& measure : measures) {
+        const double own = medianOf<Component>(measure, parent, rows);
+        const double peer = medianOf<SystemList>(measure, parent, rows);
+        std::printf("| %s | %.3g | %.3g |\n", measure.name, own, peer);
+        std::fflush(stdout);
+    }
+    DestroyWindow(parent);
+}
+
+} // namespace
+
+int main() {
+    if (FAILED(OleInitialize(nullptr)))
+        return 1;
+    int status = 0;
+    try {
+        printTable();
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        status = 1;
+    }
+    OleUninitialize();
+    return status;
+}
