@@ -1,6 +1,6 @@
 /// Saving and loading content files, each beside plainly writing and reading as many bytes.
 #include "list_on_desktop.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <cstdio>
 #include <filesystem>

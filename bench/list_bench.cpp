@@ -4,7 +4,7 @@
 /// included.
 #include "allocation_counter.h"
 #include "list_on_desktop.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <array>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "list_on_desktop.h"
 
-#include "platform/text.h"
+#include "values/text.h"
 #include "sample_rows.h"
 
 #include <map>

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "model/list_view.h"
-#include "platform/headless/desktop.h"
-#include "platform/headless/headless_window.h"
+#include "worlds/headless/desktop.h"
+#include "worlds/headless/headless_window.h"
 
 #include <vector>
 

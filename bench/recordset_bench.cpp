@@ -2,11 +2,11 @@
 ///
 /// Both read the same table of the same file, made from one seed. Bytes of the file are in the system's cache
 /// after the first turn.
-#include "database/database_recordset.h"
+#include "adapters/database/database_recordset.h"
 #include "list_on_desktop.h"
 #include "platform/record_source.h"
-#include "platform/runtime_error.h"
-#include "platform/text.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
 
 #include <filesystem>
 #include <stdexcept>

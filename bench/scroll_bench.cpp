@@ -3,9 +3,9 @@
 ///
 /// A step takes the whole way that a user's hand takes: the event from the desktop's queue, the bar, the
 /// list's repaint, and all events that come of it. The peer is the repaint alone.
+#include "bars/scroll_bar.h"
 #include "list_on_desktop.h"
-#include "platform/color.h"
-#include "scroll/scroll_bar.h"
+#include "values/color.h"
 
 #include <map>
 #include <memory>

@@ -1,6 +1,6 @@
 /// Sorting and searching, each beside the plainest way to do the same work on data that lies ready.
 #include "model/list_view.h"
-#include "platform/headless/desktop.h"
+#include "worlds/headless/desktop.h"
 
 #include <algorithm>
 #include <random>

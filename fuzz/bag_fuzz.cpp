@@ -1,10 +1,10 @@
 /// Property bags: any value of any kind may stand under any key. The list takes what it can and works, and
 /// what it writes then is what it writes after reading that.
 #include "fuzz_input.h"
+#include "guards/error.h"
 #include "model/list_view.h"
-#include "platform/headless/desktop.h"
 #include "platform/property_bag.h"
-#include "services/error.h"
+#include "worlds/headless/desktop.h"
 
 using namespace lumtex;
 

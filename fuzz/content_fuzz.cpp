@@ -1,10 +1,10 @@
 /// Content files: no bytes may crash or hang the reader, and what was read comes back from a file of its own.
+#include "content/content_bytes.h"
 #include "fuzz_input.h"
+#include "guards/error.h"
 #include "model/list_view.h"
-#include "persistence/content_bytes.h"
-#include "platform/headless/desktop.h"
-#include "platform/text.h"
-#include "services/error.h"
+#include "values/text.h"
+#include "worlds/headless/desktop.h"
 
 #include <algorithm>
 #include <filesystem>

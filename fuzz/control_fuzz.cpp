@@ -3,11 +3,11 @@
 /// it does, a list that it has not ended works afterwards.
 #include "automation/call_by_name.h"
 #include "fuzz_input.h"
+#include "guards/error.h"
 #include "model/list_view.h"
-#include "platform/headless/desktop.h"
-#include "platform/headless/headless_window.h"
 #include "recording_events.h"
-#include "services/error.h"
+#include "worlds/headless/desktop.h"
+#include "worlds/headless/headless_window.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,7 +1,7 @@
 /// Conversions between values and texts: each gives a value or one of the three failures, and what was turned
 /// into text and back is what it was.
 #include "fuzz_input.h"
-#include "platform/date_text.h"
+#include "values/date_text.h"
 
 #include <cmath>
 

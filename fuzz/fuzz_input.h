@@ -2,9 +2,9 @@
 /// What every fuzzer shares: demands, and the input taken apart piece by piece.
 #pragma once
 
-#include "platform/picture.h"
-#include "platform/runtime_error.h"
-#include "platform/variant.h"
+#include "values/references/picture.h"
+#include "values/runtime_error.h"
+#include "values/variant.h"
 
 #include <bit>
 #include <cstdlib>

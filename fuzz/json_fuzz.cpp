@@ -1,10 +1,10 @@
 /// JSON settings: no text may crash the reader, a list takes what it can, and what was taken is written so
 /// that it says the same again.
+#include "adapters/json/json_property_bag.h"
 #include "fuzz_input.h"
+#include "guards/error.h"
 #include "model/list_view.h"
-#include "platform/headless/desktop.h"
-#include "platform/json/json_property_bag.h"
-#include "services/error.h"
+#include "worlds/headless/desktop.h"
 
 using namespace lumtex;
 

@@ -1,9 +1,9 @@
 /// Patterns and notations of searches: no input may crash, and a pattern gives one answer for a text however
 /// its units are stored.
 #include "fuzz_input.h"
-#include "platform/runtime_error.h"
-#include "sortfind/like_pattern.h"
-#include "sortfind/number_list.h"
+#include "ordering/like_pattern.h"
+#include "ordering/number_list.h"
+#include "values/runtime_error.h"
 
 #include <algorithm>
 #include <vector>

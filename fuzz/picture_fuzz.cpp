@@ -1,8 +1,8 @@
 /// Picture files: no bytes may crash a reader or take memory out of proportion, and what was read comes back.
+#include "adapters/pictures/picture_image.h"
 #include "fuzz_input.h"
-#include "platform/image_check.h"
-#include "platform/picture_image.h"
-#include "platform/raster/picture_image.h"
+#include "values/image_check.h"
+#include "values/picture_image.h"
 
 using namespace lumtex;
 

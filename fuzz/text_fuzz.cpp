@@ -1,7 +1,7 @@
 /// Drawn text: no text, font, place or format may crash or hang a surface, and measuring draws nothing.
 #include "fuzz_input.h"
-#include "platform/raster/font_library.h"
-#include "platform/raster/raster_surface.h"
+#include "raster/font_library.h"
+#include "raster/raster_surface.h"
 
 #include <vector>
 

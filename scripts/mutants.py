@@ -17,14 +17,20 @@ from pathlib import Path
 
 from mutations import mutations
 
-LOGIC = ["model", "render", "interaction", "sortfind", "persistence", "scroll", "services"]
-BACKENDS = ["platform", "platform/raster", "platform/headless", "platform/json", "automation", "database"]
-COMPONENT = ["activex", "platform/win32"]
+LOGIC = ["guards", "records", "drawing", "bars", "about", "tips", "helpers", "ordering", "content",
+         "model", "render", "interaction", "sortfind", "persistence", "scroll"]
+BACKENDS = ["values", "values/references", "platform", "raster", "adapters/pictures", "adapters/json", "adapters/database",
+            "worlds/common", "worlds/headless", "automation"]
+COMPONENT = ["activex", "worlds/win32"]
 # What runs after the programs of the mutant's own room, in this order.
-GENERAL = ["scenarios", "interaction", "model", "scroll", "render", "sortfind", "persistence", "services", "automation",
-           "hostcode", "failures"]
-NEAREST = {"platform": ["platform", "headless"], "platform/raster": ["raster", "gallery"], "platform/headless": ["headless"],
-           "platform/json": ["json"], "persistence": ["persistence", "json"]}
+GENERAL = ["scenarios", "interaction", "model", "scroll", "bars", "render", "sortfind", "persistence", "guards", "about", "tips",
+           "helpers", "automation", "hostcode", "failures"]
+NEAREST = {"values": ["values", "platform", "headless"], "values/references": ["values", "platform"],
+           "platform": ["platform", "headless"], "raster": ["raster", "gallery"], "adapters/pictures": ["pictures", "gallery"],
+           "adapters/json": ["json"], "adapters/database": ["database"], "worlds/common": ["headless"],
+           "worlds/headless": ["headless"], "worlds/win32": ["win32"], "records": ["records", "model"],
+           "drawing": ["drawing", "render"], "bars": ["bars", "scroll"], "ordering": ["ordering", "sortfind"],
+           "content": ["persistence"], "persistence": ["persistence", "json"]}
 BUILD = Path("build/mutants")
 WORK = BUILD / f"work-{os.getpid()}"  # gone with the run
 PATIENCE = 5  # times what the tests take on the code as it is

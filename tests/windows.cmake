@@ -14,22 +14,21 @@ target_include_directories(lumtex_test_base INTERFACE "${CMAKE_CURRENT_SOURCE_DI
 
 # The software surface and the simulated desktop, to hold the surface of Windows against them. Doubles in windows/
 # stand in for the libraries of fonts and pictures.
-set(backends "${PROJECT_SOURCE_DIR}/src/platform")
-file(GLOB desktop_sources CONFIGURE_DEPENDS ${backends}/headless/*.cpp)
+set(rooms "${PROJECT_SOURCE_DIR}/src")
+file(GLOB desktop_sources CONFIGURE_DEPENDS ${rooms}/worlds/headless/*.cpp)
 add_library(
     lumtex_test_raster STATIC
-    ${backends}/raster/raster_surface.cpp ${backends}/raster/blend.cpp ${backends}/raster/fill.cpp
-    ${backends}/raster/line.cpp ${backends}/raster/polygon.cpp ${backends}/raster/text_painter.cpp
+    ${rooms}/raster/raster_surface.cpp ${rooms}/raster/blend.cpp ${rooms}/raster/fill.cpp
+    ${rooms}/raster/line.cpp ${rooms}/raster/polygon.cpp ${rooms}/raster/text_painter.cpp
     ${desktop_sources} support/pixels.cpp windows/gdi_typefaces.cpp windows/picture_doubles.cpp)
 target_link_libraries(lumtex_test_raster PUBLIC lumtex_test_base lumtex_win32)
-# Windows knows no quota of its own.
-set_source_files_properties(${backends}/headless/binary_files.cpp PROPERTIES COMPILE_DEFINITIONS EDQUOT=ENOSPC)
 
-# One program per folder: `lumtex_test_<folder>`, run by ctest through Wine, one after another: there is one mouse, one
+# One program per folder: `lumtex_test_<last part of its path>`, run by ctest through Wine, one after another: there is one mouse, one
 # keyboard, and one window in front. One that is ALONE has a display and a prefix of its own beside the others.
-function(lumtex_tests folder)
+function(lumtex_tests path)
     cmake_parse_arguments(TESTS "ALONE" "" "LINK" ${ARGN})
-    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${folder}/*.cpp)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${path}/*.cpp)
+    get_filename_component(folder ${path} NAME)
     if(NOT sources)
         return()
     endif()
@@ -49,8 +48,9 @@ function(lumtex_tests folder)
 endfunction()
 
 # The conversions are the same everywhere, and the compiler's library is another one.
+lumtex_tests(values LINK lumtex_values)
 lumtex_tests(platform LINK lumtex_platform)
-lumtex_tests(win32 LINK lumtex_control lumtex_test_raster lumtex_win32)
+lumtex_tests(worlds/win32 LINK lumtex_control lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_win32 PRIVATE scripts/script_host.cpp)
 lumtex_tests(mirrored LINK lumtex_automation lumtex_test_raster lumtex_win32)
 target_sources(lumtex_test_mirrored PRIVATE scenarios/headless_stage.cpp scenarios/player.cpp scenarios/script.cpp)

@@ -1,7 +1,7 @@
 #include "directory_source.h"
 
 #include "icons.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <algorithm>
 #include <chrono>

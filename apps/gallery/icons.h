@@ -2,7 +2,7 @@
 /// The icons of the gallery, 16 x 16.
 #pragma once
 
-#include "platform/picture.h"
+#include "values/references/picture.h"
 
 namespace lumtex::gallery {
 

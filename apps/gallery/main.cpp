@@ -1,11 +1,11 @@
 /// The gallery: a file, a folder or a query as a list, in all its looks, as pictures in out/.
+#include "adapters/pictures/image_file.h"
 #include "arguments.h"
 #include "csv_source.h"
 #include "directory_source.h"
-#include "platform/raster/image_file.h"
-#include "platform/text.h"
 #include "query_source.h"
 #include "scenes.h"
+#include "values/text.h"
 
 #include <cstdio>
 #include <filesystem>

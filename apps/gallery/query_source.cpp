@@ -1,9 +1,9 @@
 #include "query_source.h"
 
-#include "database/database_recordset.h"
+#include "adapters/database/database_recordset.h"
+#include "guards/error.h"
 #include "platform/record_source.h"
-#include "platform/runtime_error.h"
-#include "services/error.h"
+#include "values/runtime_error.h"
 
 #include <optional>
 #include <type_traits>

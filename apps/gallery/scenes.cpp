@@ -1,6 +1,6 @@
 #include "scenes.h"
 
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <algorithm>
 #include <array>

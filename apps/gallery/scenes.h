@@ -3,7 +3,7 @@
 #pragma once
 
 #include "list_builder.h"
-#include "platform/headless/desktop.h"
+#include "worlds/headless/desktop.h"
 
 #include <string>
 #include <vector>

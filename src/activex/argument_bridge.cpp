@@ -1,6 +1,6 @@
 #include "activex/argument_bridge.h"
 
-#include "platform/win32/variant_bridge.h"
+#include "worlds/win32/variant_bridge.h"
 
 namespace lumtex {
 

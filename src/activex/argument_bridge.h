@@ -2,8 +2,8 @@
 /// Arguments of calls as the control's own values.
 #pragma once
 
-#include "platform/variant.h"
-#include "platform/win32/windows_api.h"
+#include "values/variant.h"
+#include "worlds/win32/windows_api.h"
 
 #include <exception>
 

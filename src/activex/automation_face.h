@@ -6,7 +6,7 @@
 #include "activex/com_guard.h"
 #include "activex/dual_arguments.h"
 #include "activex/face.h"
-#include "platform/win32/com_ref.h"
+#include "worlds/win32/com_ref.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include "activex/guid.h"
 #include "activex/helper_object.h"
 #include "activex/list_control.h"
-#include "platform/win32/counted_object.h"
+#include "worlds/win32/counted_object.h"
 
 #include <mutex>
 #include <vector>

@@ -2,7 +2,7 @@
 /// Makes the objects of the public classes.
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "worlds/win32/windows_api.h"
 
 namespace lumtex {
 

@@ -1,6 +1,6 @@
 #include "activex/com_guard.h"
 
-#include "platform/win32/com_ref.h"
+#include "worlds/win32/com_ref.h"
 
 namespace lumtex {
 

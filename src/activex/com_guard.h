@@ -2,7 +2,7 @@
 /// The border that no exception crosses.
 #pragma once
 
-#include "platform/win32/com_error.h"
+#include "worlds/win32/com_error.h"
 
 #include <new>
 

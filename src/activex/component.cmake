@@ -27,10 +27,11 @@ set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/component.rc"
 
 file(GLOB activex_sources CONFIGURE_DEPENDS activex/*.cpp)
 file(GLOB activex_headers CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" activex/*.h)
+lumtex_layer(activex folders below)
 add_library(LumtexListView SHARED ${activex_sources} activex/lumtex_list_view.def
                                   "${CMAKE_CURRENT_BINARY_DIR}/component.rc" "${type_library}")
 set_target_properties(LumtexListView PROPERTIES PREFIX "" SUFFIX ".ocx")
-target_link_libraries(LumtexListView PRIVATE lumtex_flags lumtex_automation lumtex_win32)
+target_link_libraries(LumtexListView PRIVATE lumtex_flags ${below})
 target_link_options(LumtexListView PRIVATE -Wl,--enable-stdcall-fixup)
 target_precompile_headers(LumtexListView REUSE_FROM lumtex_precompiled)
 lumtex_headers_alone(LumtexListView ${activex_headers})

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "activex/automation_target.h"
-#include "platform/win32/com_ref.h"
+#include "worlds/win32/com_ref.h"
 
 #include <map>
 #include <vector>

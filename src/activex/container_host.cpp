@@ -1,8 +1,8 @@
 /// Ambient properties and the extender.
 #include "activex/container_host.h"
 
-#include "platform/runtime_error.h"
-#include "platform/win32/object_bridge.h"
+#include "values/runtime_error.h"
+#include "worlds/win32/object_bridge.h"
 
 namespace lumtex {
 

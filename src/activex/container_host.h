@@ -3,8 +3,8 @@
 #pragma once
 
 #include "platform/host.h"
-#include "platform/win32/com_ref.h"
-#include "platform/win32/variant_bridge.h"
+#include "worlds/win32/com_ref.h"
+#include "worlds/win32/variant_bridge.h"
 
 #include <functional>
 

@@ -3,8 +3,8 @@
 
 #include "activex/guid.h"
 #include "activex/module.h"
-#include "platform/win32/com_error.h"
-#include "platform/win32/screen_density.h"
+#include "worlds/win32/com_error.h"
+#include "worlds/win32/screen_density.h"
 
 namespace lumtex {
 

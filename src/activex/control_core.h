@@ -7,8 +7,8 @@
 #include "activex/connection_point.h"
 #include "activex/container_host.h"
 #include "activex/event_source.h"
-#include "platform/win32/module_lock.h"
-#include "platform/win32/win32_world.h"
+#include "worlds/win32/module_lock.h"
+#include "worlds/win32/win32_world.h"
 
 namespace lumtex {
 

@@ -1,7 +1,7 @@
 /// Focus and keys, between the list and its container.
 #include "activex/control_core.h"
-#include "platform/win32/shift_keys.h"
-#include "platform/win32/win32_window.h"
+#include "worlds/win32/shift_keys.h"
+#include "worlds/win32/win32_window.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 /// The control's picture in any device context.
 #include "activex/control_core.h"
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace lumtex {
 

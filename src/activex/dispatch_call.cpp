@@ -3,12 +3,12 @@
 
 #include "activex/argument_bridge.h"
 #include "activex/com_guard.h"
-#include "platform/text.h"
-#include "platform/variant_conversion.h"
-#include "platform/win32/variant_bridge.h"
-#include "platform/win32/win32_locale.h"
-#include "platform/win32/write_back.h"
-#include "services/ignoring_errors.h"
+#include "guards/ignoring_errors.h"
+#include "values/text.h"
+#include "values/variant_conversion.h"
+#include "worlds/win32/variant_bridge.h"
+#include "worlds/win32/win32_locale.h"
+#include "worlds/win32/write_back.h"
 
 #include <vector>
 

@@ -1,10 +1,10 @@
 /// Typed arguments and results.
 #include "activex/dual_arguments.h"
 
-#include "platform/runtime_error.h"
-#include "platform/win32/com_error.h"
-#include "platform/win32/com_ref.h"
-#include "platform/win32/write_back.h"
+#include "values/runtime_error.h"
+#include "worlds/win32/com_error.h"
+#include "worlds/win32/com_ref.h"
+#include "worlds/win32/write_back.h"
 
 #include <utility>
 

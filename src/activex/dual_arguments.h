@@ -3,7 +3,7 @@
 #pragma once
 
 #include "activex/argument_bridge.h"
-#include "platform/win32/variant_bridge.h"
+#include "worlds/win32/variant_bridge.h"
 
 #include <vector>
 

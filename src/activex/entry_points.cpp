@@ -2,7 +2,7 @@
 #include "activex/class_factory.h"
 #include "activex/module.h"
 #include "activex/registration.h"
-#include "platform/win32/module_lock.h"
+#include "worlds/win32/module_lock.h"
 
 using namespace lumtex;
 

@@ -2,9 +2,9 @@
 /// One argument of an event on its way to a sink and back.
 #pragma once
 
-#include "platform/variant_conversion.h"
-#include "platform/win32/object_bridge.h"
-#include "platform/win32/variant_bridge.h"
+#include "values/variant_conversion.h"
+#include "worlds/win32/object_bridge.h"
+#include "worlds/win32/variant_bridge.h"
 
 namespace lumtex {
 

@@ -1,7 +1,7 @@
 /// Raising events.
 #include "activex/event_source.h"
 
-#include "platform/win32/com_error.h"
+#include "worlds/win32/com_error.h"
 
 #include <array>
 #include <tuple>

@@ -2,7 +2,7 @@
 /// One interface of an object that has many.
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "worlds/win32/windows_api.h"
 
 namespace lumtex {
 

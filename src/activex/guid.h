@@ -3,7 +3,7 @@
 #pragma once
 
 #include "automation/identifiers.h"
-#include "platform/win32/windows_api.h"
+#include "worlds/win32/windows_api.h"
 
 namespace lumtex {
 

@@ -6,8 +6,8 @@
 #include "activex/class_faces.h"
 #include "activex/guid.h"
 #include "activex/module.h"
-#include "platform/win32/counted_object.h"
-#include "platform/win32/win32_runtime.h"
+#include "worlds/win32/counted_object.h"
+#include "worlds/win32/win32_runtime.h"
 
 namespace lumtex {
 

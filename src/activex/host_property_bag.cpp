@@ -1,9 +1,9 @@
 /// Values to and from a container's bag.
 #include "activex/host_property_bag.h"
 
-#include "platform/runtime_error.h"
-#include "platform/win32/com_error.h"
-#include "platform/win32/variant_bridge.h"
+#include "values/runtime_error.h"
+#include "worlds/win32/com_error.h"
+#include "worlds/win32/variant_bridge.h"
 
 namespace lumtex {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/property_bag.h"
-#include "platform/win32/com_ref.h"
+#include "worlds/win32/com_ref.h"
 
 namespace lumtex {
 

@@ -1,7 +1,7 @@
 /// File and type library of the module.
 #include "activex/module.h"
 
-#include "platform/win32/com_error.h"
+#include "worlds/win32/com_error.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 /// The component's module: its file, its type library.
 #pragma once
 
-#include "platform/win32/com_ref.h"
+#include "worlds/win32/com_ref.h"
 
 #include <oaidl.h>
 

@@ -2,7 +2,7 @@
 /// The component's entries in the registry.
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "worlds/win32/windows_api.h"
 
 namespace lumtex {
 

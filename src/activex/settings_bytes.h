@@ -2,8 +2,8 @@
 /// Bytes of a stream, demanded.
 #pragma once
 
-#include "platform/runtime_error.h"
-#include "platform/win32/windows_api.h"
+#include "values/runtime_error.h"
+#include "worlds/win32/windows_api.h"
 
 #include <algorithm>
 #include <limits>

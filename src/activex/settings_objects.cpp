@@ -1,13 +1,13 @@
 #include "activex/settings_objects.h"
 
-#include "platform/image_check.h"
-#include "platform/picture_image.h"
-#include "platform/text.h"
-#include "platform/win32/ansi_text.h"
-#include "platform/win32/com_ref.h"
-#include "platform/win32/ole_font.h"
-#include "platform/win32/ole_picture.h"
-#include "platform/win32/ole_picture_image.h"
+#include "values/image_check.h"
+#include "values/picture_image.h"
+#include "values/text.h"
+#include "worlds/win32/ansi_text.h"
+#include "worlds/win32/com_ref.h"
+#include "worlds/win32/ole_font.h"
+#include "worlds/win32/ole_picture.h"
+#include "worlds/win32/ole_picture_image.h"
 
 namespace lumtex {
 

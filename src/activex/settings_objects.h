@@ -3,7 +3,7 @@
 #pragma once
 
 #include "activex/settings_bytes.h"
-#include "platform/variant.h"
+#include "values/variant.h"
 
 namespace lumtex {
 

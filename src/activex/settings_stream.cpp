@@ -2,7 +2,7 @@
 #include "activex/settings_stream.h"
 
 #include "activex/settings_objects.h"
-#include "platform/win32/variant_bridge.h"
+#include "worlds/win32/variant_bridge.h"
 
 #include <set>
 

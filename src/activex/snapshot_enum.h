@@ -2,7 +2,7 @@
 /// Enumerators over a list that does not change any more.
 #pragma once
 
-#include "platform/win32/counted_object.h"
+#include "worlds/win32/counted_object.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 #include "activex/view_faces.h"
 
 #include "activex/snapshot_enum.h"
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "automation/type_info.h"
-#include "platform/variant_conversion.h"
+#include "values/variant_conversion.h"
 
 #include <type_traits>
 

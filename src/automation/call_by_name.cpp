@@ -1,7 +1,7 @@
 /// Calls by member names over Variants.
 #include "automation/call_by_name.h"
 
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 #include <algorithm>
 #include <unordered_map>

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "automation/class_table.h"
+#include "guards/error.h"
 #include "model/list_view.h"
-#include "services/error.h"
 
 #include <vector>
 

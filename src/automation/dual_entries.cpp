@@ -2,7 +2,7 @@
 #include "automation/dual_entries.h"
 
 #include "automation/interface_types.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 namespace lumtex {
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "automation/help.h"
-#include "model/enumerations.h"
-#include "services/sp_ev.h"
+#include "helpers/sp_ev.h"
+#include "records/enumerations.h"
 
 #include <array>
 #include <span>

@@ -1,8 +1,8 @@
 /// The result of a search as an object.
 #include "automation/found_record.h"
 
-#include "platform/runtime_error.h"
-#include "platform/text.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
 
 namespace lumtex {
 

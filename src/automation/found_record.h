@@ -2,8 +2,8 @@
 /// What a search found, for callers who cannot read a record.
 #pragma once
 
-#include "platform/variant.h"
 #include "sortfind/find_state.h"
+#include "values/variant.h"
 
 namespace lumtex {
 

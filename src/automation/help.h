@@ -2,7 +2,7 @@
 /// What is said of a member, an event, an enumeration or a class, in two languages.
 #pragma once
 
-#include "platform/text.h"
+#include "values/text.h"
 
 namespace lumtex {
 

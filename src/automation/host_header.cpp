@@ -7,7 +7,7 @@
 #include "automation/identifiers.h"
 #include "automation/interface_types.h"
 #include "automation/record_table.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 namespace lumtex {
 

@@ -3,7 +3,7 @@
 /// and none is used twice.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 #include <array>
 #include <string_view>

@@ -1,7 +1,7 @@
 /// Types, order and signatures of a table of functions.
 #include "automation/interface_types.h"
 
-#include "platform/text.h"
+#include "values/text.h"
 
 namespace lumtex {
 

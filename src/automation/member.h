@@ -4,7 +4,7 @@
 
 #include "automation/help.h"
 #include "automation/type_info.h"
-#include "platform/locale.h"
+#include "values/locale.h"
 
 #include <array>
 #include <span>

@@ -4,7 +4,7 @@
 #include "automation/class_table.h"
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 /// Members of the classes that hosts create beside the control.
 #include "automation/describe_member.h"
 #include "automation/member_table.h"
-#include "services/error.h"
-#include "services/sp_ev.h"
+#include "guards/error.h"
+#include "helpers/sp_ev.h"
 
 namespace lumtex {
 

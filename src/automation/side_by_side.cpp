@@ -3,7 +3,7 @@
 
 #include "automation/class_table.h"
 #include "automation/identifiers.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 namespace lumtex {
 

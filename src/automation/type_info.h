@@ -2,13 +2,13 @@
 /// The types of the public interface as hosts know them, deduced from those of the code.
 #pragma once
 
-#include "model/enumerations.h"
-#include "platform/font.h"
-#include "platform/object.h"
-#include "platform/picture.h"
-#include "platform/variant.h"
-#include "services/sp_ev.h"
+#include "helpers/sp_ev.h"
+#include "records/enumerations.h"
 #include "sortfind/find_state.h"
+#include "values/references/font.h"
+#include "values/references/object.h"
+#include "values/references/picture.h"
+#include "values/variant.h"
 
 #include <optional>
 #include <span>

@@ -7,8 +7,8 @@
 #include "automation/identifiers.h"
 #include "automation/interface_types.h"
 #include "automation/record_table.h"
-#include "platform/text.h"
-#include "platform/windows_1252.h"
+#include "values/text.h"
+#include "values/windows_1252.h"
 
 #include <bit>
 

@@ -2,8 +2,8 @@
 /// Where in a cell a press means its check box.
 #pragma once
 
-#include "model/enumerations.h"
-#include "platform/types.h"
+#include "records/enumerations.h"
+#include "values/types.h"
 
 #include <optional>
 

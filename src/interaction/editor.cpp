@@ -1,6 +1,6 @@
 /// Closing the in-place editor: with the text kept, or dropped.
 #include "model/list_view.h"
-#include "platform/rounding.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

@@ -1,6 +1,6 @@
 /// Platform events that go on to the host, with little or nothing added.
 #include "model/list_view.h"
-#include "platform/rounding.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

@@ -2,7 +2,7 @@
 /// What the mouse and the keyboard left behind, as painting and the handlers read it.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 namespace lumtex {
 

@@ -1,6 +1,6 @@
 /// Keys: the arrows that move the current row, and the flags that presses ask for.
 #include "model/list_view.h"
-#include "platform/rounding.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

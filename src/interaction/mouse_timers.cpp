@@ -1,6 +1,6 @@
 /// The two timers of the mouse: one notices that it has left, one scrolls while a drag is held outside.
 #include "model/list_view.h"
-#include "platform/rounding.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

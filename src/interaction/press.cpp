@@ -1,7 +1,7 @@
 /// A press on the control: what it hits, and what it does to selection, check box and editor.
+#include "drawing/picture_size.h"
 #include "interaction/check_box_zone.h"
 #include "model/list_view.h"
-#include "render/picture_size.h"
 
 namespace lumtex {
 

@@ -1,6 +1,6 @@
 /// Opening the in-place editor over a cell.
 #include "model/list_view.h"
-#include "platform/rounding.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

@@ -2,7 +2,7 @@
 /// Loops that count in a member of the control.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -2,10 +2,10 @@
 /// The control's own surface, for those who know controls by late binding alone.
 #pragma once
 
-#include "platform/object.h"
-#include "platform/runtime_error.h"
-#include "platform/variant.h"
 #include "platform/window.h"
+#include "values/references/object.h"
+#include "values/runtime_error.h"
+#include "values/variant.h"
 
 namespace lumtex {
 

@@ -1,7 +1,7 @@
 /// Handing the ten scroll colours to the bars.
+#include "bars/scroll_colors.h"
 #include "model/list_view.h"
 #include "platform/property_bag.h"
-#include "scroll/scroll_colors.h"
 
 namespace lumtex {
 

@@ -1,6 +1,6 @@
 /// Reading and writing one field of one cell.
 #include "model/item_access.h"
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace lumtex {
 

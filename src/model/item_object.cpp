@@ -1,8 +1,8 @@
 /// Controls of the host that live in cells.
 #include "model/item_access.h"
 #include "model/list_view.h"
-#include "platform/runtime_error.h"
 #include "platform/window_handle.h"
+#include "values/runtime_error.h"
 
 #include <array>
 

@@ -3,7 +3,9 @@
 /// rows and cells, stand in its bases; `ListViewState` holds what it keeps between calls.
 #pragma once
 
-#include "model/enumerations.h"
+#include "bars/scroll_bar.h"
+#include "bars/wheel.h"
+#include "guards/ignoring_errors.h"
 #include "model/list_view_events.h"
 #include "model/list_view_life.h"
 #include "model/list_view_properties.h"
@@ -11,10 +13,8 @@
 #include "platform/host.h"
 #include "platform/property_bag.h"
 #include "platform/world.h"
-#include "scroll/scroll_bar.h"
-#include "scroll/wheel.h"
-#include "services/ignoring_errors.h"
-#include "services/qi.h"
+#include "records/enumerations.h"
+#include "tips/qi.h"
 
 #include <initializer_list>
 #include <new>

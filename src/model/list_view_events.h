@@ -2,9 +2,9 @@
 /// The 27 events of the control, in the order of their interface.
 #pragma once
 
-#include "platform/types.h"
 #include "platform/user_control.h"
-#include "platform/variant.h"
+#include "values/types.h"
+#include "values/variant.h"
 
 namespace lumtex {
 

@@ -2,8 +2,8 @@
 /// The part of a list that goes last.
 #pragma once
 
-#include "services/control_life.h"
-#include "services/release_bin.h"
+#include "guards/control_life.h"
+#include "guards/release_bin.h"
 
 #include <cstddef>
 #include <optional>

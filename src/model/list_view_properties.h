@@ -2,9 +2,9 @@
 /// The control-level properties: what a host reads and assigns.
 #pragma once
 
-#include "model/properties.h"
+#include "guards/procedure.h"
 #include "model/setter_table.h"
-#include "services/procedure.h"
+#include "records/properties.h"
 
 namespace lumtex {
 

@@ -1,7 +1,7 @@
 /// The look-ups that every accessor stands on.
 #include "model/list_view_records.h"
 
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace lumtex {
 

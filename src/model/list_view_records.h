@@ -2,10 +2,10 @@
 /// The list's records, and the accessors of their fields: columns, rows, cells.
 #pragma once
 
-#include "model/enumerations.h"
+#include "guards/procedure.h"
 #include "model/list_view_state.h"
-#include "platform/object.h"
-#include "services/procedure.h"
+#include "records/enumerations.h"
+#include "values/references/object.h"
 
 namespace lumtex {
 

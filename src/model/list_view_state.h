@@ -3,16 +3,16 @@
 /// one.
 #pragma once
 
+#include "drawing/artwork.h"
 #include "interaction/interaction_state.h"
-#include "model/column_header.h"
-#include "model/row_record.h"
 #include "persistence/content_state.h"
-#include "platform/object.h"
-#include "render/artwork.h"
+#include "records/column_header.h"
+#include "records/row_record.h"
 #include "render/paint_state.h"
 #include "scroll/scroll_state.h"
 #include "sortfind/find_state.h"
 #include "sortfind/sort_state.h"
+#include "values/references/object.h"
 
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
 /// Adding a row, and the cells that come with it.
+#include "drawing/font_attributes.h"
 #include "model/list_view.h"
-#include "render/font_attributes.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 /// The control-level properties by name, each with what its setter does once the value is stored.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 #include <array>
 #include <cstddef>

@@ -1,6 +1,6 @@
 /// The setters with more to them than `setterTable` can say.
+#include "drawing/clone_font.h"
 #include "model/list_view.h"
-#include "render/clone_font.h"
 
 namespace lumtex {
 

@@ -1,6 +1,6 @@
 /// The two public tests of an index, and the bounds they ask for.
 #include "model/list_view.h"
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace lumtex {
 

@@ -1,12 +1,12 @@
 /// Filling the list from a file.
+#include "content/content_colors.h"
+#include "content/content_header.h"
+#include "content/content_pictures.h"
+#include "content/content_reader.h"
+#include "helpers/file_exists.h"
 #include "model/list_view.h"
-#include "persistence/content_colors.h"
-#include "persistence/content_header.h"
-#include "persistence/content_pictures.h"
-#include "persistence/content_reader.h"
 #include "persistence/whole_record_loading.h"
-#include "platform/color.h"
-#include "services/file_exists.h"
+#include "values/color.h"
 
 namespace lumtex {
 

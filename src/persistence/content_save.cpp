@@ -1,11 +1,11 @@
 /// Writing all cells to a file.
+#include "content/content_colors.h"
+#include "content/content_header.h"
+#include "content/content_pictures.h"
+#include "content/content_writer.h"
+#include "helpers/file_exists.h"
 #include "model/list_view.h"
-#include "persistence/content_colors.h"
-#include "persistence/content_header.h"
-#include "persistence/content_pictures.h"
-#include "persistence/content_writer.h"
 #include "persistence/whole_record_saving.h"
-#include "services/file_exists.h"
 
 namespace lumtex {
 

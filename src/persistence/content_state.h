@@ -2,7 +2,7 @@
 /// Where a save of the content stands.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 namespace lumtex {
 

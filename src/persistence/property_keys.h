@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/list_view.h"
-#include "platform/variant_conversion.h"
+#include "values/variant_conversion.h"
 
 #include <type_traits>
 

@@ -1,7 +1,7 @@
 /// Filling the list from a recordset, once.
+#include "content/recordset_members.h"
 #include "interaction/shared_count.h"
 #include "model/list_view.h"
-#include "persistence/recordset_members.h"
 
 namespace lumtex {
 

@@ -1,8 +1,8 @@
 #include "persistence/whole_record_loading.h"
 
-#include "persistence/content_colors.h"
-#include "services/error.h"
-#include "services/failure_of.h"
+#include "content/content_colors.h"
+#include "guards/error.h"
+#include "guards/failure_of.h"
 
 #include <algorithm>
 

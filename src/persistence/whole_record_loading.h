@@ -2,8 +2,8 @@
 /// The fast way of loading: a record at once, into the cell as it lies.
 #pragma once
 
+#include "content/content_reader.h"
 #include "persistence/content_cells.h"
-#include "persistence/content_reader.h"
 
 #include <array>
 #include <vector>

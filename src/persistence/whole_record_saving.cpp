@@ -1,7 +1,7 @@
 #include "persistence/whole_record_saving.h"
 
-#include "persistence/content_colors.h"
-#include "services/failure_of.h"
+#include "content/content_colors.h"
+#include "guards/failure_of.h"
 
 #include <algorithm>
 

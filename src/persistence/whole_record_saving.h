@@ -2,8 +2,8 @@
 /// The fast way of saving: a record at once, out of the cell as it lies.
 #pragma once
 
+#include "content/content_writer.h"
 #include "persistence/content_cells.h"
-#include "persistence/content_writer.h"
 
 #include <vector>
 

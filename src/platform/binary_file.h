@@ -2,7 +2,7 @@
 /// Files of bytes, read and written from the start to the end.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 #include <cstddef>
 #include <span>

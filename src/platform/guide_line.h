@@ -2,7 +2,7 @@
 /// The line shown over the surface while a column is resized.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 namespace lumtex {
 

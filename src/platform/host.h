@@ -2,8 +2,8 @@
 /// The container that holds one control: its ambient properties and its dirty mark.
 #pragma once
 
-#include "platform/font.h"
-#include "platform/types.h"
+#include "values/references/font.h"
+#include "values/types.h"
 
 namespace lumtex {
 

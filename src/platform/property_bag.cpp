@@ -1,6 +1,6 @@
 #include "platform/property_bag.h"
 
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <algorithm>
 

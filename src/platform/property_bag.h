@@ -2,7 +2,7 @@
 /// A bag of named values. A value equal to its default is not stored.
 #pragma once
 
-#include "platform/variant.h"
+#include "values/variant.h"
 
 namespace lumtex {
 

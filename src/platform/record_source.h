@@ -2,7 +2,7 @@
 /// Records read one after another, without a call by name for each value.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 namespace lumtex {
 

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "platform/binary_file.h"
-#include "platform/object.h"
-#include "platform/types.h"
-#include "platform/variant.h"
+#include "values/references/object.h"
+#include "values/types.h"
+#include "values/variant.h"
 
 #include <memory>
 #include <optional>

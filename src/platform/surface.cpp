@@ -1,6 +1,6 @@
 #include "platform/surface.h"
 
-#include "platform/rounding.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

@@ -2,10 +2,10 @@
 /// The drawing operations. Everything that the control shows is made of these.
 #pragma once
 
-#include "platform/color.h"
-#include "platform/font.h"
-#include "platform/geometry.h"
-#include "platform/picture.h"
+#include "values/color.h"
+#include "values/geometry.h"
+#include "values/references/font.h"
+#include "values/references/picture.h"
 
 #include <span>
 

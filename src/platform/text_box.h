@@ -2,8 +2,8 @@
 /// The text box that serves as the in-place editor.
 #pragma once
 
-#include "platform/font.h"
 #include "platform/window.h"
+#include "values/references/font.h"
 
 namespace lumtex {
 

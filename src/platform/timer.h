@@ -2,7 +2,7 @@
 /// A timer that ticks while it is enabled.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 namespace lumtex {
 

@@ -2,9 +2,9 @@
 /// The platform's class of tip windows, reached by its public messages.
 #pragma once
 
-#include "platform/geometry.h"
-#include "platform/types.h"
 #include "platform/window.h"
+#include "values/geometry.h"
+#include "values/types.h"
 
 #include <optional>
 

@@ -2,8 +2,8 @@
 /// The event entry points of an own-drawn control, as a window calls them.
 #pragma once
 
-#include "platform/types.h"
-#include "platform/variant.h"
+#include "values/types.h"
+#include "values/variant.h"
 
 namespace lumtex {
 

@@ -2,8 +2,8 @@
 /// Wheel messages of a window, taken before the window sees them.
 #pragma once
 
-#include "platform/types.h"
 #include "platform/window.h"
+#include "values/types.h"
 
 #include <functional>
 

@@ -2,9 +2,9 @@
 /// The number of a window, as a host's object tells it.
 #pragma once
 
-#include "platform/rounding.h"
-#include "platform/variant.h"
 #include "platform/window.h"
+#include "values/rounding.h"
+#include "values/variant.h"
 
 namespace lumtex {
 

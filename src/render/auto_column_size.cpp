@@ -1,6 +1,6 @@
 /// Fitting columns to their texts.
+#include "guards/ignoring_errors.h"
 #include "model/list_view.h"
-#include "services/ignoring_errors.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 /// The frame, and the selection colour that goes with it.
+#include "drawing/palette.h"
 #include "model/list_view.h"
-#include "render/palette.h"
 
 namespace lumtex {
 

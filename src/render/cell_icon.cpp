@@ -1,8 +1,8 @@
 /// The icon or check box of a cell.
-#include "platform/rounding.h"
+#include "drawing/picture_size.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
-#include "render/picture_size.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

@@ -1,7 +1,7 @@
 /// A control of the host, shown over its cell in place of text and icon.
-#include "platform/rounding.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
+#include "values/rounding.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 /// The text of a cell.
-#include "platform/rounding.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

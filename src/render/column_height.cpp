@@ -1,7 +1,7 @@
 /// Measures of the header band.
+#include "drawing/font_attributes.h"
 #include "model/list_view.h"
-#include "platform/rounding.h"
-#include "render/font_attributes.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

@@ -1,6 +1,6 @@
 /// What a designer shows in place of the list.
+#include "drawing/picture_size.h"
 #include "model/list_view.h"
-#include "render/picture_size.h"
 
 namespace lumtex {
 

@@ -1,8 +1,8 @@
 /// One header cell: background by state, text, icon, sort arrow; and the field beside the last one.
-#include "render/draw_arrow.h"
-#include "render/header_strokes.h"
+#include "drawing/draw_arrow.h"
+#include "drawing/header_strokes.h"
+#include "drawing/picture_size.h"
 #include "render/paint_pass.h"
-#include "render/picture_size.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 /// One cell of the list: its height, its background, and the order of all that stands in it.
-#include "platform/rounding.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

@@ -1,9 +1,9 @@
 /// The order of a repaint.
 #include "render/paint_pass.h"
 
+#include "drawing/picture_size.h"
+#include "guards/failure_of.h"
 #include "render/paint_pass_statement.h"
-#include "render/picture_size.h"
-#include "services/failure_of.h"
 
 namespace lumtex {
 

@@ -2,8 +2,8 @@
 /// One run-time repaint, from the guard to the border.
 #pragma once
 
+#include "drawing/strokes.h"
 #include "model/list_view.h"
-#include "render/strokes.h"
 
 namespace lumtex {
 

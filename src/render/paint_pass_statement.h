@@ -2,8 +2,8 @@
 /// How a statement of a pass fails; for the files of the pass alone.
 #pragma once
 
+#include "guards/error.h"
 #include "render/paint_pass.h"
-#include "services/error.h"
 
 namespace lumtex {
 

@@ -2,8 +2,8 @@
 /// What a paint pass leaves behind for the hit tests and for the next pass.
 #pragma once
 
-#include "platform/geometry.h"
-#include "platform/types.h"
+#include "values/geometry.h"
+#include "values/types.h"
 
 namespace lumtex {
 

@@ -1,8 +1,8 @@
 /// The rows: how tall each is, where it lies, and its grid lines.
-#include "platform/rounding.h"
-#include "render/font_attributes.h"
+#include "drawing/font_attributes.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
+#include "values/rounding.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 /// Which bars the list needs, and their ranges.
 #include "interaction/shared_count.h"
 #include "model/list_view.h"
-#include "platform/rounding.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

@@ -2,7 +2,7 @@
 /// Working values of the arithmetic between the list and its bars.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 namespace lumtex {
 

@@ -1,6 +1,6 @@
 /// How many rows fit entirely under the headers.
 #include "model/list_view.h"
-#include "platform/rounding.h"
+#include "values/rounding.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 /// What the mouse wheel does to the list.
 #include "model/list_view.h"
 #include "platform/queue_watch.h"
-#include "platform/rounding.h"
+#include "values/rounding.h"
 
 namespace lumtex {
 

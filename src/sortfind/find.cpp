@@ -1,8 +1,8 @@
 /// Searching cells by a pattern.
 #include "model/list_view.h"
-#include "platform/case_mapping.h"
-#include "platform/runtime_error.h"
-#include "sortfind/find_matcher.h"
+#include "ordering/find_matcher.h"
+#include "values/case_mapping.h"
+#include "values/runtime_error.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 /// What a search leaves behind for the next.
 #pragma once
 
-#include "platform/types.h"
-#include "sortfind/number_list.h"
+#include "ordering/number_list.h"
+#include "values/types.h"
 
 namespace lumtex {
 

@@ -1,8 +1,8 @@
 /// Ordering the rows by the texts of one column.
+#include "guards/error.h"
 #include "model/list_view.h"
-#include "services/error.h"
-#include "sortfind/quick_sort.h"
-#include "sortfind/sort_by_keys.h"
+#include "ordering/quick_sort.h"
+#include "ordering/sort_by_keys.h"
 #include "sortfind/sort_by_statements.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "sortfind/sort_by_statements.h"
 
-#include "sortfind/sort_keys.h"
+#include "ordering/sort_keys.h"
 
 namespace lumtex {
 

@@ -2,7 +2,7 @@
 /// What the last sort left behind: the header's arrow, and whether there was anything to sort.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 namespace lumtex {
 

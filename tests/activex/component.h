@@ -3,12 +3,12 @@
 #pragma once
 
 #include "activex/guid.h"
-#include "platform/text.h"
-#include "platform/win32/com_error.h"
-#include "platform/win32/com_ref.h"
-#include "platform/win32/object_bridge.h"
-#include "platform/win32/variant_bridge.h"
+#include "values/text.h"
 #include "windows/box_watch.h"
+#include "worlds/win32/com_error.h"
+#include "worlds/win32/com_ref.h"
+#include "worlds/win32/object_bridge.h"
+#include "worlds/win32/variant_bridge.h"
 
 #include <vector>
 

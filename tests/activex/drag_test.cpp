@@ -1,6 +1,6 @@
 /// Things dropped on the list.
-#include "../win32/dragged_data.h"
 #include "event_sink.h"
+#include "worlds/win32/dragged_data.h"
 
 #include <ole2.h>
 

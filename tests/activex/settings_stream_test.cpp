@@ -1,8 +1,8 @@
 /// Settings in streams that no list wrote.
 #include "activex/settings_stream.h"
 #include "event_sink.h"
-#include "platform/win32/ole_picture.h"
 #include "sample_images.h"
+#include "worlds/win32/ole_picture.h"
 
 #include <random>
 

@@ -2,7 +2,7 @@
 /// What a control is drawn on.
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "worlds/win32/windows_api.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,7 +1,7 @@
 /// Numbers and dates as the user's own settings write them. ./check runs these tests as an American user and
 /// as a German one.
 #include "component.h"
-#include "model/enumerations.h"
+#include "records/enumerations.h"
 
 #include <array>
 #include <cstdlib>

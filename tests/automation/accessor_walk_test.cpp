@@ -3,9 +3,9 @@
 #include "automation/member_table.h"
 #include "error_number.h"
 #include "list_fixture.h"
-#include "platform/text.h"
 #include "test_object.h"
 #include "test_recordset.h"
+#include "values/text.h"
 #include "variant_printing.h"
 
 #include <limits>

@@ -3,7 +3,7 @@
 #include "automation/identifiers.h"
 #include "error_number.h"
 #include "fake_runtime.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <set>
 

@@ -1,5 +1,5 @@
 #include "automation/event_table.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <gtest/gtest.h>
 

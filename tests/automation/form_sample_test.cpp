@@ -4,7 +4,7 @@
 #include "automation/identifiers.h"
 #include "automation/member_table.h"
 #include "folders.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <filesystem>
 #include <fstream>

@@ -3,8 +3,8 @@
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
 #include "automation/record_table.h"
-#include "platform/text.h"
-#include "platform/windows_1252.h"
+#include "values/text.h"
+#include "values/windows_1252.h"
 
 #include <sstream>
 

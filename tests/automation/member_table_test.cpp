@@ -1,5 +1,5 @@
 #include "automation/member_table.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <set>
 

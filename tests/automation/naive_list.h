@@ -3,8 +3,8 @@
 /// operations compare the real list with.
 #pragma once
 
-#include "platform/runtime_error.h"
-#include "platform/variant.h"
+#include "values/runtime_error.h"
+#include "values/variant.h"
 
 #include <cmath>
 #include <limits>

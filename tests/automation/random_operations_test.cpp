@@ -3,7 +3,7 @@
 #include "automation/member_table.h"
 #include "list_fixture.h"
 #include "naive_list.h"
-#include "platform/text.h"
+#include "values/text.h"
 #include "variant_printing.h"
 
 #include <random>

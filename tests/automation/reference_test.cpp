@@ -2,7 +2,7 @@
 #include "automation/member_table.h"
 #include "automation/reference.h"
 #include "folders.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <algorithm>
 #include <filesystem>

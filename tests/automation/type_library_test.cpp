@@ -8,7 +8,7 @@
 #include "automation/record_table.h"
 #include "automation/type_library.h"
 #include "folders.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <filesystem>
 #include <fstream>

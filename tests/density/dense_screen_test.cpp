@@ -2,13 +2,13 @@
 ///
 /// The system tells a program how dense the screen is when it starts. So the tests of one density run in a
 /// program of their own, which is this one again.
+#include "bars/scroll_artwork.h"
+#include "drawing/picture_size.h"
 #include "list_fixture.h"
-#include "platform/rounding.h"
-#include "platform/win32/screen_density.h"
-#include "platform/win32/win32_text_box.h"
-#include "render/picture_size.h"
-#include "scroll/scroll_artwork.h"
-#include "win32/win32_list.h"
+#include "values/rounding.h"
+#include "worlds/win32/screen_density.h"
+#include "worlds/win32/win32_list.h"
+#include "worlds/win32/win32_text_box.h"
 
 #include <cstdlib>
 

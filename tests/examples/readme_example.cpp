@@ -1,9 +1,9 @@
 /// \file
 /// The example of the README, as a program of its own.
 // [readme
+#include "adapters/pictures/image_file.h"
 #include "model/list_view.h"
-#include "platform/headless/desktop.h"
-#include "platform/raster/image_file.h"
+#include "worlds/headless/desktop.h"
 using namespace lumtex;
 
 int main() {

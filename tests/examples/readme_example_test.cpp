@@ -1,6 +1,6 @@
 /// The example of the README does what the README says, and programs of others may be written as they like.
-#include "platform/picture.h"
-#include "platform/raster/image_file.h"
+#include "adapters/pictures/image_file.h"
+#include "values/references/picture.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "failures/failure_point.h"
-#include "platform/headless/headless_runtime.h"
+#include "worlds/headless/headless_runtime.h"
 
 #include <algorithm>
 

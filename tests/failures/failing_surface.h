@@ -4,7 +4,7 @@
 
 #include "failures/failure_point.h"
 #include "forwarding_window.h"
-#include "platform/headless/desktop.h"
+#include "worlds/headless/desktop.h"
 
 namespace lumtex::testing {
 

@@ -2,7 +2,7 @@
 /// The place at which something fails.
 #pragma once
 
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 namespace lumtex::testing {
 

@@ -1,11 +1,11 @@
 /// Files may fail at each operation and at each byte: what was written stands, and the next call works.
+#include "adapters/json/json_property_bag.h"
 #include "error_number.h"
 #include "failures/failing_files.h"
 #include "failures/failing_surface.h"
 #include "failures/failure_walk.h"
-#include "platform/json/json_property_bag.h"
-#include "services/bas_error.h"
-#include "services/sp_ev.h"
+#include "guards/bas_error.h"
+#include "helpers/sp_ev.h"
 
 namespace lumtex::testing {
 

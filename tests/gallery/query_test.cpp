@@ -1,8 +1,8 @@
 #include "arguments.h"
+#include "guards/error.h"
 #include "list_fixture.h"
 #include "query_source.h"
 #include "scratch_folder.h"
-#include "services/error.h"
 
 #include <cstdlib>
 #include <fstream>

@@ -2,11 +2,11 @@
 /// Things of a host that run its code as the last reference to them goes.
 #pragma once
 
-#include "platform/font.h"
-#include "platform/object.h"
-#include "platform/picture.h"
-#include "platform/runtime_error.h"
-#include "platform/variant.h"
+#include "values/references/font.h"
+#include "values/references/object.h"
+#include "values/references/picture.h"
+#include "values/runtime_error.h"
+#include "values/variant.h"
 
 #include <functional>
 #include <memory>

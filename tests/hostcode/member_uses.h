@@ -4,7 +4,7 @@
 
 #include "automation/call_by_name.h"
 #include "automation/member_table.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <string>
 #include <vector>

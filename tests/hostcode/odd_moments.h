@@ -2,15 +2,15 @@
 /// A list whose host runs code of its own at every odd moment that there is.
 #pragma once
 
+#include "guards/error.h"
 #include "hostcode/calling_things.h"
 #include "model/list_view.h"
-#include "platform/headless/desktop.h"
 #include "platform/property_bag.h"
-#include "platform/text.h"
 #include "recording_events.h"
-#include "services/error.h"
 #include "test_fonts.h"
 #include "test_host.h"
+#include "values/text.h"
+#include "worlds/headless/desktop.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "lifetime/resources.h"
 #include "message_loop.h"
 #include "stage/user_input.h"
-#include "win32/window_pictures.h"
+#include "worlds/win32/window_pictures.h"
 
 #include <algorithm>
 #include <set>

@@ -6,7 +6,7 @@
 #include "activex/small_container.h"
 #include "hosted_list.h"
 #include "message_loop.h"
-#include "win32/dragged_data.h"
+#include "worlds/win32/dragged_data.h"
 
 #include <functional>
 #include <set>

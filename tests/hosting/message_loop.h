@@ -2,7 +2,7 @@
 /// The loop of a program that shows a control.
 #pragma once
 
-#include "platform/win32/com_ref.h"
+#include "worlds/win32/com_ref.h"
 
 namespace lumtex::testing {
 

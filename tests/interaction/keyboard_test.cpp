@@ -1,5 +1,5 @@
-#include "platform/headless/keyboard.h"
 #include "played_list.h"
+#include "worlds/headless/keyboard.h"
 
 #include <algorithm>
 

@@ -1,12 +1,12 @@
 /// A host that writes no handler at all: everything works, with what each event lets pass by default.
 #include "model/list_view.h"
-#include "platform/headless/desktop.h"
-#include "platform/headless/keyboard.h"
 #include "platform/property_bag.h"
-#include "platform/text.h"
 #include "test_fonts.h"
 #include "test_host.h"
 #include "test_object.h"
+#include "values/text.h"
+#include "worlds/headless/desktop.h"
+#include "worlds/headless/keyboard.h"
 
 #include <chrono>
 #include <limits>

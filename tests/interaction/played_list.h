@@ -2,8 +2,8 @@
 /// A list that tests play on with mouse and keyboard.
 #pragma once
 
+#include "guards/error.h"
 #include "list_fixture.h"
-#include "services/error.h"
 
 #include <chrono>
 

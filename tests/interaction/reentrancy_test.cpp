@@ -1,7 +1,7 @@
 #include "log_comparison.h"
-#include "platform/headless/keyboard.h"
 #include "played_list.h"
 #include "test_object.h"
+#include "worlds/headless/keyboard.h"
 
 #include <set>
 

@@ -2,8 +2,8 @@
 /// What this process holds of the system.
 #pragma once
 
-#include "platform/types.h"
-#include "win32/gdi_handles.h"
+#include "values/types.h"
+#include "worlds/win32/gdi_handles.h"
 
 #include <algorithm>
 #include <array>

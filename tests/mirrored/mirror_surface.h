@@ -2,9 +2,9 @@
 /// One surface that draws on two.
 #pragma once
 
-#include "platform/raster/raster_surface.h"
-#include "platform/win32/gdi_surface.h"
-#include "win32/surface_pair.h"
+#include "raster/raster_surface.h"
+#include "worlds/win32/gdi_surface.h"
+#include "worlds/win32/surface_pair.h"
 
 #include <memory>
 #include <utility>

@@ -4,8 +4,8 @@
 
 #include "forwarding_window.h"
 #include "mirror_surface.h"
-#include "platform/headless/desktop.h"
-#include "win32/surface_pair.h"
+#include "worlds/headless/desktop.h"
+#include "worlds/win32/surface_pair.h"
 
 #include <memory>
 #include <utility>

@@ -5,7 +5,7 @@
 #include "scenarios/headless_stage.h"
 #include "scenarios/player.h"
 #include "scenarios/script_files.h"
-#include "win32/same_system_colors.h"
+#include "worlds/win32/same_system_colors.h"
 
 namespace lumtex::testing {
 

@@ -1,5 +1,5 @@
+#include "bars/scroll_colors.h"
 #include "list_fixture.h"
-#include "scroll/scroll_colors.h"
 
 namespace lumtex::testing {
 

@@ -1,7 +1,7 @@
 /// Random presses, moves, keys, wheel turns and ticks on a list that its host changes as well. Nothing may
 /// crash or hang, and what must hold between two inputs holds.
+#include "guards/error.h"
 #include "list_fixture.h"
-#include "services/error.h"
 
 #include <chrono>
 #include <random>

@@ -1,7 +1,7 @@
 /// Files that no list wrote, and places where no file can be.
+#include "content/content_header.h"
 #include "content_fixture.h"
-#include "persistence/content_header.h"
-#include "services/error.h"
+#include "guards/error.h"
 
 #include <csignal>
 #include <filesystem>

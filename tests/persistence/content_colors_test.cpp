@@ -1,5 +1,5 @@
+#include "content/content_colors.h"
 #include "content_fixture.h"
-#include "persistence/content_colors.h"
 
 namespace lumtex::testing {
 namespace {

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "list_fixture.h"
-#include "platform/text.h"
 #include "scratch_folder.h"
+#include "values/text.h"
 
 #include <bit>
 #include <string>

@@ -1,5 +1,5 @@
 #include "content_fixture.h"
-#include "platform/variant_conversion.h"
+#include "values/variant_conversion.h"
 
 namespace lumtex::testing {
 namespace {

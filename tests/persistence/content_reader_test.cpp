@@ -1,6 +1,6 @@
+#include "content/content_reader.h"
 #include "content_fixture.h"
 #include "error_number.h"
-#include "persistence/content_reader.h"
 
 namespace lumtex::testing {
 namespace {

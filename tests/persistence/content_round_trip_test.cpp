@@ -1,7 +1,7 @@
 /// Lists at random, saved and loaded again.
 #include "content_fixture.h"
-#include "platform/variant_conversion.h"
-#include "platform/windows_1252.h"
+#include "values/variant_conversion.h"
+#include "values/windows_1252.h"
 
 #include <random>
 

@@ -1,5 +1,5 @@
+#include "content/content_header.h"
 #include "content_fixture.h"
-#include "persistence/content_header.h"
 
 namespace lumtex::testing {
 namespace {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/property_bag.h"
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 #include <vector>
 

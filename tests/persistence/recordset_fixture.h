@@ -2,8 +2,8 @@
 /// A list with content of its own, and recordsets to replace it by.
 #pragma once
 
+#include "guards/error.h"
 #include "list_fixture.h"
-#include "services/error.h"
 #include "test_recordset.h"
 
 namespace lumtex::testing {

@@ -1,5 +1,5 @@
-#include "platform/color.h"
 #include "platform/property_bag.h"
+#include "values/color.h"
 
 #include <limits>
 

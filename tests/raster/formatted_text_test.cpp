@@ -1,6 +1,6 @@
 /// Where formatted text stands, as the system's own routine places it.
 #include "pixels.h"
-#include "platform/raster/raster_surface.h"
+#include "raster/raster_surface.h"
 #include "test_fonts.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
+#include "adapters/pictures/image_file.h"
 #include "picture_check.h"
-#include "platform/raster/image_file.h"
 
 #include <filesystem>
 #include <string>

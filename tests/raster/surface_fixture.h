@@ -3,9 +3,9 @@
 #pragma once
 
 #include "pixels.h"
-#include "platform/raster/raster_surface.h"
-#include "platform/types.h"
+#include "raster/raster_surface.h"
 #include "test_fonts.h"
+#include "values/types.h"
 
 #include <limits>
 #include <string>

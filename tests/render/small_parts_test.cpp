@@ -1,8 +1,8 @@
+#include "drawing/clone_font.h"
+#include "drawing/draw_arrow.h"
+#include "drawing/gradient.h"
+#include "drawing/picture_size.h"
 #include "painted_list.h"
-#include "render/clone_font.h"
-#include "render/draw_arrow.h"
-#include "render/gradient.h"
-#include "render/picture_size.h"
 
 namespace lumtex::testing {
 

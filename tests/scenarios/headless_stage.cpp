@@ -1,10 +1,10 @@
 #include "headless_stage.h"
 
-#include "platform/headless/desktop.h"
 #include "recording_events.h"
 #include "report_line.h"
 #include "test_fonts.h"
 #include "test_host.h"
+#include "worlds/headless/desktop.h"
 
 namespace lumtex::testing {
 

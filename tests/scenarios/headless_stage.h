@@ -2,8 +2,8 @@
 /// The simulated desktop as a stage.
 #pragma once
 
-#include "platform/headless/desktop.h"
 #include "stage.h"
+#include "worlds/headless/desktop.h"
 
 #include <functional>
 #include <memory>

@@ -2,9 +2,9 @@
 
 #include "list_fixture.h"
 #include "picture_check.h"
-#include "platform/headless/keyboard.h"
-#include "platform/runtime_error.h"
-#include "platform/text.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
+#include "worlds/headless/keyboard.h"
 
 #include <map>
 #include <optional>

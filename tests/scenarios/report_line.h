@@ -2,7 +2,7 @@
 /// How a scenario's log names an error report.
 #pragma once
 
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <string>
 

@@ -2,10 +2,10 @@
 ///
 /// LUMTEX_ACCEPT_SCENARIOS=1 writes the logs that came out into the scripts; such a run fails where anything
 /// changed, and what it wrote is to be read before it is committed.
+#include "adapters/pictures/image_file.h"
 #include "folders.h"
 #include "headless_stage.h"
 #include "log_comparison.h"
-#include "platform/raster/image_file.h"
 #include "player.h"
 #include "script_files.h"
 

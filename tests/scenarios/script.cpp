@@ -1,6 +1,6 @@
 #include "script.h"
 
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <charconv>
 #include <iomanip>

@@ -2,7 +2,7 @@
 /// The readable form of a scenario: steps, and after each the log that it must leave.
 #pragma once
 
-#include "platform/variant.h"
+#include "values/variant.h"
 
 #include <string>
 #include <vector>

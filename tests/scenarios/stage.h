@@ -4,7 +4,7 @@
 
 #include "automation/call_by_name.h"
 #include "model/list_view.h"
-#include "platform/bitmap.h"
+#include "values/bitmap.h"
 
 #include <chrono>
 #include <functional>

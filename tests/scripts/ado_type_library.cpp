@@ -1,7 +1,7 @@
 #include "scripts/ado_type_library.h"
 
-#include "platform/text.h"
-#include "platform/win32/windows_api.h"
+#include "values/text.h"
+#include "worlds/win32/windows_api.h"
 
 #include <array>
 #include <fstream>

@@ -2,7 +2,7 @@
 /// A repair of the database objects that come with the system.
 #pragma once
 
-#include "platform/types.h"
+#include "values/types.h"
 
 #include <filesystem>
 

@@ -2,7 +2,7 @@
 #include "scripts/member_program.h"
 
 #include "automation/record_table.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <algorithm>
 

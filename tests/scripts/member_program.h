@@ -3,8 +3,8 @@
 #pragma once
 
 #include "automation/class_table.h"
-#include "platform/variant.h"
 #include "scripts/script_host.h"
+#include "values/variant.h"
 
 #include <vector>
 

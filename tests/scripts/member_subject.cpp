@@ -1,7 +1,7 @@
 /// What both sides hold and show.
 #include "scripts/member_subject.h"
 
-#include "platform/win32/ole_font.h"
+#include "worlds/win32/ole_font.h"
 
 namespace lumtex::testing {
 

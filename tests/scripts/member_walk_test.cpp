@@ -1,17 +1,17 @@
 /// Every member of every public class, used by programs in both languages, against the core itself.
 #include "activex/small_container.h"
 #include "automation/record_table.h"
-#include "platform/win32/ole_font.h"
-#include "platform/win32/ole_picture.h"
-#include "platform/win32/win32_world.h"
+#include "guards/error.h"
 #include "recording_events.h"
 #include "scratch_folder.h"
 #include "scripts/list_box.h"
 #include "scripts/member_program.h"
 #include "scripts/member_subject.h"
-#include "services/error.h"
 #include "test_host.h"
 #include "test_object.h"
+#include "worlds/win32/ole_font.h"
+#include "worlds/win32/ole_picture.h"
+#include "worlds/win32/win32_world.h"
 
 namespace lumtex::testing {
 namespace {

@@ -1,8 +1,8 @@
 #include "scripts/script_console.h"
 
-#include "platform/runtime_error.h"
-#include "platform/text.h"
-#include "platform/win32/object_bridge.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
+#include "worlds/win32/object_bridge.h"
 
 namespace lumtex::testing {
 

@@ -1,9 +1,9 @@
 /// Events by name.
 #include "scripts/script_events.h"
 
-#include "platform/text.h"
-#include "platform/win32/com_error.h"
-#include "platform/win32/variant_bridge.h"
+#include "values/text.h"
+#include "worlds/win32/com_error.h"
+#include "worlds/win32/variant_bridge.h"
 
 #include <cstring>
 #include <deque>

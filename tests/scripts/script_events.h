@@ -2,9 +2,9 @@
 /// Events of a control on their way to the functions of a script.
 #pragma once
 
-#include "platform/types.h"
-#include "platform/win32/com_ref.h"
-#include "platform/win32/windows_api.h"
+#include "values/types.h"
+#include "worlds/win32/com_ref.h"
+#include "worlds/win32/windows_api.h"
 
 #include <map>
 

@@ -1,11 +1,11 @@
 /// The engine of a language, and the site that it talks to.
 #include "scripts/script_host.h"
 
-#include "platform/runtime_error.h"
-#include "platform/text.h"
-#include "platform/win32/com_error.h"
-#include "platform/win32/object_bridge.h"
-#include "platform/win32/variant_bridge.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
+#include "worlds/win32/com_error.h"
+#include "worlds/win32/object_bridge.h"
+#include "worlds/win32/variant_bridge.h"
 
 namespace lumtex::testing {
 

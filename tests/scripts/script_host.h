@@ -2,8 +2,8 @@
 /// A host of the system's script languages, as programs with macros have one.
 #pragma once
 
-#include "platform/object.h"
-#include "platform/win32/com_ref.h"
+#include "values/references/object.h"
+#include "worlds/win32/com_ref.h"
 
 #include <functional>
 #include <map>

@@ -1,8 +1,8 @@
 /// The host of scripts itself: what it tells of failures, and how a script ends.
-#include "platform/runtime_error.h"
 #include "scratch_folder.h"
 #include "scripts/script_run.h"
 #include "test_object.h"
+#include "values/runtime_error.h"
 #include "variant_printing.h"
 
 namespace lumtex::testing {

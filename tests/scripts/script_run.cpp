@@ -1,9 +1,9 @@
 /// Script files in a host of ours.
 #include "scripts/script_run.h"
 
-#include "platform/text.h"
 #include "scripts/script_console.h"
 #include "scripts/script_user.h"
+#include "values/text.h"
 #include "windows/box_watch.h"
 
 #include <fstream>

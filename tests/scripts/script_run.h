@@ -2,8 +2,8 @@
 /// A script file from its first line to its last.
 #pragma once
 
-#include "platform/types.h"
 #include "scripts/script_host.h"
+#include "values/types.h"
 
 #include <filesystem>
 #include <string>

@@ -1,7 +1,7 @@
 #include "scripts/script_user.h"
 
-#include "platform/runtime_error.h"
-#include "platform/win32/ole_picture.h"
+#include "values/runtime_error.h"
+#include "worlds/win32/ole_picture.h"
 
 #include <olectl.h>
 

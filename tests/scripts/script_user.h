@@ -3,7 +3,7 @@
 #pragma once
 
 #include "activex/small_container.h"
-#include "platform/object.h"
+#include "values/references/object.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 /// The system's own host of scripts, in a folder where it finds the component.
-#include "platform/text.h"
-#include "platform/win32/ansi_text.h"
 #include "scripts/script_run.h"
+#include "values/text.h"
 #include "windows/box_watch.h"
+#include "worlds/win32/ansi_text.h"
 
 #include <algorithm>
 #include <fstream>

@@ -1,9 +1,9 @@
 /// Scripts as application developers write them, in a host with events and in the system's own.
 #include "folders.h"
-#include "platform/win32/windows_api.h"
 #include "scratch_folder.h"
 #include "scripts/ado_type_library.h"
 #include "scripts/script_run.h"
+#include "worlds/win32/windows_api.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,5 +1,5 @@
 /// The bars of a list under the pointer: what moves, what the host hears, what is painted.
-#include "bar_fixture.h"
+#include "bars/bar_fixture.h"
 #include "list_fixture.h"
 #include "picture_check.h"
 

@@ -1,4 +1,4 @@
-#include "bar_fixture.h"
+#include "bars/bar_fixture.h"
 #include "list_fixture.h"
 
 namespace lumtex::testing {

@@ -1,7 +1,7 @@
 /// The wheel: what is taken, in which unit, and what it does to the list.
+#include "bars/wheel.h"
 #include "list_fixture.h"
 #include "log_comparison.h"
-#include "scroll/wheel.h"
 
 namespace lumtex::testing {
 

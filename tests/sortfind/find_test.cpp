@@ -1,5 +1,5 @@
+#include "guards/error.h"
 #include "list_fixture.h"
-#include "services/error.h"
 
 namespace lumtex::testing {
 

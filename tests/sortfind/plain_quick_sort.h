@@ -2,10 +2,10 @@
 /// The sort written down word for word, slow and recursive, as the oracle for the real one.
 #pragma once
 
-#include "model/enumerations.h"
-#include "platform/case_mapping.h"
-#include "platform/runtime_error.h"
-#include "platform/variant.h"
+#include "records/enumerations.h"
+#include "values/case_mapping.h"
+#include "values/runtime_error.h"
+#include "values/variant.h"
 
 #include <cmath>
 #include <vector>

@@ -1,8 +1,8 @@
+#include "guards/error.h"
 #include "list_fixture.h"
+#include "ordering/quick_sort.h"
 #include "plain_quick_sort.h"
-#include "platform/fixed_locale.h"
-#include "services/error.h"
-#include "sortfind/quick_sort.h"
+#include "values/fixed_locale.h"
 
 #include <random>
 #include <set>

@@ -1,5 +1,5 @@
 #include "list_fixture.h"
-#include "platform/fixed_locale.h"
+#include "values/fixed_locale.h"
 
 #include <limits>
 

@@ -1,187 +1,90 @@
-/// What each layer of the tree may include.
-#include "includes.h"
+/// What each layer of the tree may include: the table that the build links by holds for every include.
+#include "layers.h"
 
-#include <algorithm>
-#include <array>
+#include <ostream>
 
 #include <gtest/gtest.h>
 
 namespace lumtex::source {
 namespace {
 
-constexpr std::array<std::string_view, 7> logicFolders = {
-    "model", "render", "interaction", "sortfind", "persistence", "scroll", "services"};
-
-bool isLogic(const std::string& name) {
-    const std::string folder = name.substr(0, name.find('/'));
-    return std::find(logicFolders.begin(), logicFolders.end(), folder) != logicFolders.end();
+const SourceFile& table() {
+    static const SourceFile file = readFile("src/layers.txt");
+    return file;
 }
 
-bool isAbstractLayer(const std::string& name) {
-    return name.starts_with("platform/") && std::count(name.begin(), name.end(), '/') == 1;
+TEST(Layers, StandOnLayersAboveThemInTheTable) {
+    EXPECT_EQ(report(faultsOf(table())), "");
+    EXPECT_GT(layersOf(table()).size(), 15U);
 }
 
-/// Angled includes name the standard library, quoted ones what `mayName` allows.
-template <class MayName>
-std::vector<Finding> includesOutside(const SourceFile& file, MayName mayName) {
-    std::vector<Finding> findings;
-    for (const Include& include : includesOf(file)) {
-        if (include.angled && !isStandardHeader(include.name))
-            findings.push_back({file.path, include.line, "<" + include.name + "> is of no standard library"});
-        else if (!include.angled && !mayName(include.name))
-            findings.push_back({file.path, include.line, include.name + " is out of reach for this folder"});
-    }
-    return findings;
+TEST(Layers, AreCaughtStandingOnLaterOnesAndSharingFolders) {
+    EXPECT_EQ(report(faultsOf({"layers.txt",
+                               "# ground first\n"
+                               "ground  ground\n"
+                               "middle  middle  < ground top system\n"
+                               "top     top ground  < middle # and so on\n"
+                               "top     attic\n"})),
+              "layers.txt:3: top is no layer above this one\n"
+              "layers.txt:4: ground belongs to another layer, too\n"
+              "layers.txt:5: top stands here twice\n");
 }
 
-std::vector<Finding> logicReachesOut(const SourceFile& file) {
-    return includesOutside(file, [](const auto& name) { return isLogic(name) || isAbstractLayer(name); });
+TEST(Layers, IncludeWhatTheyStandOnAlone) {
+    const std::vector<Layer> layers = layersOf(table());
+    EXPECT_EQ(offenders(readTree("src", {".h", ".cpp", ".h.in", ".inc"}),
+                        [&](const SourceFile& file) { return outOfReach(layers, file); }),
+              "");
 }
 
-std::vector<Finding> abstractLayerReachesOut(const SourceFile& file) {
-    return includesOutside(file, isAbstractLayer);
+struct Arrow {
+    std::string file;
+    std::string include; ///< as a directive has it
+    std::string finding; ///< empty for what is allowed
+};
+
+void PrintTo(const Arrow& arrow, std::ostream* out) {
+    *out << arrow.file << " includes " << arrow.include;
 }
 
-std::vector<Finding> automationReachesOut(const SourceFile& file) {
-    return includesOutside(file, [](const auto& name) {
-        return name.starts_with("automation/") || isLogic(name) || isAbstractLayer(name);
-    });
+class LayerArrow : public testing::TestWithParam<Arrow> {};
+
+TEST_P(LayerArrow, IsJudgedByTheTable) {
+    const auto& [file, include, finding] = GetParam();
+    const SourceFile sample(file, "#include " + include + "\n");
+    EXPECT_EQ(report(outOfReach(layersOf(table()), sample)),
+              finding.empty() ? "" : file + ":1: " + finding + "\n");
 }
 
-std::vector<Finding> backendReachesLogic(const SourceFile& file) {
-    std::vector<Finding> findings;
-    for (const Include& include : includesOf(file))
-        if (isLogic(include.name))
-            findings.push_back(
-                {file.path, include.line, include.name + " is logic, which backends do not know"});
-    return findings;
-}
-
-/// Libraries are what this room is for.
-std::vector<Finding> databaseReachesOut(const SourceFile& file) {
-    std::vector<Finding> findings;
-    for (const Include& include : includesOf(file)) {
-        if (!include.angled && !include.name.starts_with("database/") && !isAbstractLayer(include.name))
-            findings.push_back({file.path, include.line, include.name + " is out of reach for this folder"});
-    }
-    return findings;
-}
-
-std::vector<Finding> componentReachesOut(const SourceFile& file) {
-    std::vector<Finding> findings;
-    for (const Include& include : includesOf(file)) {
-        const bool inReach = include.name.starts_with("activex/") ||
-                             include.name.starts_with("automation/") ||
-                             include.name.starts_with("platform/win32/") || isLogic(include.name) ||
-                             isAbstractLayer(include.name);
-        if (!include.angled && !inReach)
-            findings.push_back({file.path, include.line, include.name + " is out of reach for this folder"});
-    }
-    return findings;
-}
-
-/// All of the logic; a folder that is not there yet has nothing to break.
-std::vector<SourceFile> logicFiles() {
-    std::vector<SourceFile> files = readTree("src", {".h", ".cpp"});
-    std::erase_if(files, [](const SourceFile& file) { return !isLogic(file.path.substr(4)); });
-    return files;
-}
-
-/// Files of `platform` in the folder itself, or in its backends.
-std::vector<SourceFile> platformFiles(bool inBackends) {
-    std::vector<SourceFile> files = readTree("src/platform", {".h", ".cpp", ".h.in"});
-    std::erase_if(files, [&](const SourceFile& file) {
-        return (std::count(file.path.begin(), file.path.end(), '/') > 2) != inBackends;
-    });
-    return files;
-}
-
-TEST(LogicFolders, IncludeOnlyEachOtherAndTheAbstractLayer) {
-    EXPECT_EQ(offenders(logicFiles(), logicReachesOut), "");
-}
-
-TEST(LogicFolders, AreCaughtAtABackendsOrAToolkitsHeader) {
-    const SourceFile sample("src/model/sample.cpp",
-                            "#include \"model/items.h\"\n"
-                            "#include \"platform/world.h\"\n"
-                            "#include \"platform/raster/canvas.h\"\n"
-                            "#include <vector>\n"
-                            "#  include <windows.h>\n"
-                            "#include \"automation/interface.h\"\n");
-    EXPECT_EQ(report(logicReachesOut(sample)),
-              "src/model/sample.cpp:3: platform/raster/canvas.h is out of reach for this folder\n"
-              "src/model/sample.cpp:5: <windows.h> is of no standard library\n"
-              "src/model/sample.cpp:6: automation/interface.h is out of reach for this folder\n");
-}
-
-TEST(Automation, SeesTheControlAndNoBackend) {
-    EXPECT_EQ(offenders(readTree("src/automation", {".h", ".cpp"}), automationReachesOut), "");
-}
-
-TEST(Automation, IsCaughtAtABackend) {
-    const SourceFile sample("src/automation/sample.cpp",
-                            "#include \"automation/member.h\"\n"
-                            "#include \"model/list_view.h\"\n"
-                            "#include \"platform/headless/desktop.h\"\n");
-    EXPECT_EQ(report(automationReachesOut(sample)),
-              "src/automation/sample.cpp:3: platform/headless/desktop.h is out of reach for this folder\n");
-}
-
-TEST(Component, SeesTheInterfaceAndItsOwnBackend) {
-    EXPECT_EQ(offenders(readTree("src/activex", {".h", ".cpp"}), componentReachesOut), "");
-}
-
-TEST(Component, IsCaughtAtAnotherBackend) {
-    const SourceFile sample("src/activex/sample.cpp",
-                            "#include \"platform/win32/com_ref.h\"\n"
-                            "#include <olectl.h>\n"
-                            "#include \"platform/headless/desktop.h\"\n");
-    EXPECT_EQ(report(componentReachesOut(sample)),
-              "src/activex/sample.cpp:3: platform/headless/desktop.h is out of reach for this folder\n");
-}
-
-TEST(AbstractLayer, IncludesOnlyItself) {
-    EXPECT_EQ(offenders(platformFiles(false), abstractLayerReachesOut), "");
-}
-
-TEST(AbstractLayer, IsCaughtAtLogicAndAtABackend) {
-    const SourceFile sample("src/platform/sample.h",
-                            "#include \"platform/types.h\"\n"
-                            "#include \"model/items.h\"\n"
-                            "#include \"platform/headless/desktop.h\"\n");
-    EXPECT_EQ(report(abstractLayerReachesOut(sample)),
-              "src/platform/sample.h:2: model/items.h is out of reach for this folder\n"
-              "src/platform/sample.h:3: platform/headless/desktop.h is out of reach for this folder\n");
-}
-
-TEST(Backends, NeverIncludeLogic) {
-    EXPECT_EQ(offenders(platformFiles(true), backendReachesLogic), "");
-}
-
-TEST(Backends, AreCaughtAtLogic) {
-    const SourceFile sample("src/platform/raster/sample.cpp",
-                            "#include \"platform/surface.h\"\n"
-                            "#include <pixman.h>\n"
-                            "\t#include \"render/palette.h\"\n");
-    EXPECT_EQ(report(backendReachesLogic(sample)),
-              "src/platform/raster/sample.cpp:3: render/palette.h is logic, which backends do not know\n");
-}
-
-TEST(Database, SeesTheAbstractLayerAndItsLibrariesAlone) {
-    EXPECT_EQ(offenders(readTree("src/database", {".h", ".cpp"}), databaseReachesOut), "");
-}
-
-TEST(Database, IsCaughtAtLogicAndAtABackend) {
-    const SourceFile sample("src/database/sample.cpp",
-                            "#include \"database/query.h\"\n"
-                            "#include \"platform/object.h\"\n"
-                            "#include <sqlite3.h>\n"
-                            "#include \"model/list_view.h\"\n"
-                            "#include \"platform/headless/desktop.h\"\n");
-    EXPECT_EQ(report(databaseReachesOut(sample)),
-              "src/database/sample.cpp:4: model/list_view.h is out of reach for this folder\n"
-              "src/database/sample.cpp:5: platform/headless/desktop.h is out of reach for this folder\n");
-}
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Samples, LayerArrow, testing::ValuesIn(std::vector<Arrow>{
+    {"src/values/a.h", "<vector>", ""},
+    {"src/values/a.h", "\"values/references/font.h\"", ""},
+    {"src/values/a.h", "\"platform/window.h\"", "platform/window.h is out of reach for values"},
+    {"src/platform/a.h", "\"records/items.h\"", "records/items.h is out of reach for platform"},
+    {"src/guards/a.cpp", "\"values/types.h\"", ""},
+    {"src/bars/a.cpp", "\"guards/procedure.h\"", ""},
+    {"src/bars/a.cpp", "\"model/list_view.h\"", "model/list_view.h is out of reach for bars"},
+    {"src/tips/a.cpp", "\"bars/scroll_bar.h\"", "bars/scroll_bar.h is out of reach for tips"},
+    {"src/model/a.cpp", "\"scroll/scroll_state.h\"", ""},
+    {"src/model/a.cpp", "\t<windows.h>", "<windows.h> is of no standard library"},
+    {"src/model/a.cpp", "\"automation/member.h\"", "automation/member.h is out of reach for control"},
+    {"src/automation/a.cpp", "\"model/list_view.h\"", ""},
+    {"src/automation/a.cpp", "\"worlds/headless/desktop.h\"", "worlds/headless/desktop.h is out of reach for automation"},
+    {"src/raster/a.cpp", "<hb.h>", ""},
+    {"src/raster/a.cpp", "FT_OUTLINE_H", ""},
+    {"src/platform/a.h", "FT_OUTLINE_H", "<FT_OUTLINE_H> is of no standard library"},
+    {"src/raster/a.cpp", "\"adapters/pictures/pixbuf.h\"", "adapters/pictures/pixbuf.h is out of reach for raster"},
+    {"src/raster/a.cpp", "\"drawing/palette.h\"", "drawing/palette.h is out of reach for raster"},
+    {"src/adapters/database/a.cpp", "<sqlite3.h>", ""},
+    {"src/adapters/database/a.cpp", "\"model/list_view.h\"", "model/list_view.h is out of reach for database"},
+    {"src/worlds/headless/a.cpp", "\"raster/canvas.h\"", ""},
+    {"src/worlds/win32/a.cpp", "\"raster/canvas.h\"", "raster/canvas.h is out of reach for win32"},
+    {"src/activex/a.cpp", "\"worlds/win32/com_ref.h\"", ""},
+    {"src/activex/a.cpp", "\"worlds/headless/desktop.h\"", "worlds/headless/desktop.h is out of reach for activex"},
+    {"src/cellar/a.cpp", "<vector>", "its folder is in no layer"},
+}));
+// clang-format on
 
 } // namespace
 } // namespace lumtex::source

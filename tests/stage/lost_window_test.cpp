@@ -1,8 +1,8 @@
 /// A host's handler may destroy the list's window, with all that lies in it. The list lives on without one.
-#include "platform/win32/windows_api.h"
 #include "scenarios/player.h"
 #include "scenarios/script_files.h"
 #include "windows_stage.h"
+#include "worlds/win32/windows_api.h"
 
 #include <map>
 

@@ -2,7 +2,7 @@
 /// Timers of Windows on a clock that only moves by hand.
 #pragma once
 
-#include "platform/win32/tick_source.h"
+#include "worlds/win32/tick_source.h"
 
 #include <algorithm>
 #include <chrono>

@@ -2,7 +2,7 @@
 /// The font that pictures in tests are pinned to, as a font of Windows.
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "worlds/win32/windows_api.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 /// The fonts and colours of the software surface, for all tests of this program: whatever has drawn a text
 /// keeps the font that it found.
 #include "reference_fonts.h"
-#include "win32/same_system_colors.h"
+#include "worlds/win32/same_system_colors.h"
 
 #include <memory>
 

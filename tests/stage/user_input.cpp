@@ -1,6 +1,6 @@
 #include "user_input.h"
 
-#include "platform/headless/keyboard.h"
+#include "worlds/headless/keyboard.h"
 
 #include <array>
 #include <utility>

@@ -2,8 +2,8 @@
 /// The hands of a user on the system's own mouse and keyboard.
 #pragma once
 
-#include "platform/text.h"
-#include "platform/win32/shift_keys.h"
+#include "values/text.h"
+#include "worlds/win32/shift_keys.h"
 
 #include <functional>
 

@@ -5,8 +5,8 @@
 #include "scenarios/headless_stage.h"
 #include "scenarios/player.h"
 #include "scenarios/script_files.h"
-#include "win32/surface_pair.h"
 #include "windows_stage.h"
+#include "worlds/win32/surface_pair.h"
 
 namespace lumtex::testing {
 

@@ -1,13 +1,13 @@
 #include "windows_stage.h"
 
 #include "manual_ticks.h"
-#include "platform/nesting_level.h"
-#include "platform/rounding.h"
 #include "recording_events.h"
 #include "scenarios/report_line.h"
 #include "user_input.h"
-#include "win32/win32_list.h"
-#include "win32/window_pictures.h"
+#include "values/rounding.h"
+#include "worlds/common/nesting_level.h"
+#include "worlds/win32/win32_list.h"
+#include "worlds/win32/window_pictures.h"
 
 #include <deque>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #include "screenshot.h"
 
-#include "platform/win32/com_ref.h"
+#include "worlds/win32/com_ref.h"
 
 #include <stdexcept>
 

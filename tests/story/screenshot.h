@@ -2,7 +2,7 @@
 /// Pictures of the screen for people to look at.
 #pragma once
 
-#include "platform/bitmap.h"
+#include "values/bitmap.h"
 
 #include <filesystem>
 

@@ -4,10 +4,10 @@
 #include "activex/small_container.h"
 #include "folders.h"
 #include "hosting/message_loop.h"
-#include "model/enumerations.h"
+#include "records/enumerations.h"
 #include "screenshot.h"
 #include "stage/user_input.h"
-#include "win32/window_pictures.h"
+#include "worlds/win32/window_pictures.h"
 
 #include <algorithm>
 

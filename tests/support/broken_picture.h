@@ -2,8 +2,8 @@
 /// A picture that cannot be painted.
 #pragma once
 
-#include "platform/picture.h"
-#include "platform/runtime_error.h"
+#include "values/references/picture.h"
+#include "values/runtime_error.h"
 
 namespace lumtex::testing {
 

@@ -2,7 +2,7 @@
 /// Asking a statement for the number it fails with.
 #pragma once
 
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 #include <gtest/gtest.h>
 

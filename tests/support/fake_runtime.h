@@ -3,9 +3,9 @@
 #pragma once
 
 #include "platform/runtime.h"
-#include "platform/runtime_error.h"
-#include "platform/text.h"
-#include "platform/windows_1252.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
+#include "values/windows_1252.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 /// A window in front of another one.
 #pragma once
 
-#include "platform/headless/headless_window.h"
+#include "worlds/headless/headless_window.h"
 
 #include <memory>
 #include <utility>

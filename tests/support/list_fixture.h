@@ -3,11 +3,11 @@
 #pragma once
 
 #include "model/list_view.h"
-#include "platform/headless/desktop.h"
-#include "platform/headless/headless_window.h"
 #include "recording_events.h"
 #include "test_fonts.h"
 #include "test_host.h"
+#include "worlds/headless/desktop.h"
+#include "worlds/headless/headless_window.h"
 
 #include <gtest/gtest.h>
 

@@ -2,10 +2,10 @@
 /// A list whose drawing operations are written down.
 #pragma once
 
+#include "guards/error.h"
 #include "list_fixture.h"
 #include "log_comparison.h"
 #include "recording_world.h"
-#include "services/error.h"
 #include "test_object.h"
 
 namespace lumtex::testing {

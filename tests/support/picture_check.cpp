@@ -1,7 +1,7 @@
 #include "picture_check.h"
 
+#include "adapters/pictures/image_file.h"
 #include "folders.h"
-#include "platform/raster/image_file.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -2,7 +2,7 @@
 /// Whole pictures against references, pixel by pixel.
 #pragma once
 
-#include "platform/bitmap.h"
+#include "values/bitmap.h"
 
 #include <filesystem>
 #include <string>

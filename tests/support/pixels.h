@@ -2,8 +2,8 @@
 /// Pixels as rows of characters, so that a failing test shows both drawings.
 #pragma once
 
-#include "platform/bitmap.h"
-#include "platform/geometry.h"
+#include "values/bitmap.h"
+#include "values/geometry.h"
 
 #include <map>
 #include <string>

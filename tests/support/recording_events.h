@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/list_view_events.h"
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <functional>
 #include <map>

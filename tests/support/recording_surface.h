@@ -3,8 +3,8 @@
 #pragma once
 
 #include "platform/surface.h"
-#include "platform/text.h"
-#include "platform/variant.h"
+#include "values/text.h"
+#include "values/variant.h"
 
 #include <algorithm>
 #include <functional>

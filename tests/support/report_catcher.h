@@ -2,10 +2,10 @@
 /// An error handler that keeps every report, so that tests can ask for number, text and count.
 #pragma once
 
-#include "platform/object.h"
-#include "platform/runtime_error.h"
-#include "platform/text.h"
-#include "platform/variant.h"
+#include "values/references/object.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
+#include "values/variant.h"
 
 #include <functional>
 #include <memory>

@@ -2,7 +2,7 @@
 /// Picture files that are sound, and some that are damaged in ways that decoders have fallen for.
 #pragma once
 
-#include "platform/picture_image.h"
+#include "values/picture_image.h"
 
 #include <initializer_list>
 #include <string>

@@ -2,7 +2,7 @@
 /// A folder of the machine for one test.
 #pragma once
 
-#include "platform/text.h"
+#include "values/text.h"
 
 #include <algorithm>
 #include <filesystem>

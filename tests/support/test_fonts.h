@@ -3,7 +3,7 @@
 #pragma once
 
 #include "folders.h"
-#include "platform/raster/font_library.h"
+#include "raster/font_library.h"
 
 #include <memory>
 

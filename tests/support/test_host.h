@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/host.h"
-#include "platform/runtime_error.h"
+#include "values/runtime_error.h"
 
 #include <vector>
 

@@ -2,10 +2,10 @@
 /// A host's object, made of functions.
 #pragma once
 
-#include "platform/object.h"
-#include "platform/runtime_error.h"
-#include "platform/text.h"
-#include "platform/variant.h"
+#include "values/references/object.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
+#include "values/variant.h"
 
 #include <functional>
 #include <map>

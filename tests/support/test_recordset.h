@@ -2,11 +2,11 @@
 /// A recordset made of tables, which notes every call and fails where a test says so.
 #pragma once
 
-#include "platform/object.h"
 #include "platform/record_source.h"
-#include "platform/runtime_error.h"
-#include "platform/text.h"
-#include "platform/variant.h"
+#include "values/references/object.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
+#include "values/variant.h"
 
 #include <functional>
 #include <map>

@@ -2,8 +2,8 @@
 /// How failing tests show a Variant.
 #pragma once
 
-#include "platform/text.h"
-#include "platform/variant.h"
+#include "values/text.h"
+#include "values/variant.h"
 
 #include <ostream>
 

@@ -2,8 +2,8 @@
 /// Message boxes that nobody answers.
 #pragma once
 
-#include "platform/text.h"
-#include "platform/win32/windows_api.h"
+#include "values/text.h"
+#include "worlds/win32/windows_api.h"
 
 #include <functional>
 #include <vector>

@@ -1,9 +1,9 @@
 /// The software surface's fonts, replaced by those of Windows: same measures, and glyphs as Windows draws
 /// them. So both surfaces lay out alike in one program, and their pictures can be compared.
-#include "platform/raster/font_library.h"
-#include "platform/rounding.h"
-#include "platform/win32/gdi_font.h"
-#include "platform/win32/memory_bitmap.h"
+#include "raster/font_library.h"
+#include "values/rounding.h"
+#include "worlds/win32/gdi_font.h"
+#include "worlds/win32/memory_bitmap.h"
 
 #include <algorithm>
 #include <map>

@@ -1,7 +1,7 @@
 /// What the simulated desktop asks of the picture library, answered by the system.
+#include "adapters/pictures/picture_image.h"
 #include "picture_check.h"
-#include "platform/raster/picture_image.h"
-#include "platform/win32/ole_picture.h"
+#include "worlds/win32/ole_picture.h"
 
 namespace lumtex {
 

@@ -1,0 +1,58 @@
+/// \file
+/// The receiver of the mouse wheel: what it takes, and in which unit it passes it on.
+#pragma once
+
+#include "guards/control_life.h"
+#include "platform/runtime.h"
+#include "platform/wheel_hook.h"
+#include "platform/window.h"
+
+#include <functional>
+#include <memory>
+
+namespace lumtex {
+
+class World;
+
+/// Turns the wheel messages of one window into `WheelScroll`. They come through a hook where the platform has
+/// such, else through the window's control. The runtime must outlive it.
+class Wheel {
+  public:
+    /// `Rotation` is in notches, positive away from the user.
+    using WheelScroll = std::function<void(Integer& Rotation, Integer& Keys, Single& X, Single& Y)>;
+
+    Wheel(Runtime& runtime, WheelScroll wheelScroll, ControlLife* life = nullptr);
+    /// Puts a hook of `world` into `parent`, which must outlive this object. `life` is that of the control
+    /// that it belongs to.
+    Wheel(World& world, Window& parent, WheelScroll wheelScroll, ControlLife* life = nullptr);
+    Wheel(const Wheel&) = delete;
+    Wheel& operator=(const Wheel&) = delete;
+    ~Wheel() { UserControl_Terminate(); }
+
+    /// The window to listen to. A new value takes effect at the next EnableWheel() that is called while no
+    /// window is hooked.
+    void lethWndCapture(WindowHandle window) { hWndCapture_ = window; }
+
+    /// Begins to listen; nothing without a window.
+    void EnableWheel();
+    /// Nothing unless enabled.
+    void DisableWheel();
+    bool isListeningTo(WindowHandle window) const { return window != 0 && window == listensTo_; }
+
+    /// A wheel message of `hWnd`: 120 a notch, high-resolution wheels less. True: the message was for this
+    /// receiver, and nobody else gets it.
+    bool WndProc(WindowHandle hWnd, Long delta, Integer Keys, Single X, Single Y);
+
+    void UserControl_Terminate() { DisableWheel(); }
+
+  private:
+    Runtime& runtime_;
+    ControlLife* life_;
+    WheelScroll wheelScroll_;
+    WindowHandle hWndCapture_ = 0;
+    WindowHandle listensTo_ = 0;
+    bool active_ = false;
+    std::unique_ptr<WheelHook> hook_; ///< none if the platform has no hooks
+};
+
+} // namespace lumtex

@@ -1,0 +1,31 @@
+/// \file
+/// Reading the attributes of a default font of the list.
+#pragma once
+
+#include "guards/held.h"
+#include "values/references/font.h"
+#include "values/runtime_error.h"
+
+namespace lumtex {
+
+/// Hands what `font` holds to `take`. Its six attributes are read by as many statements, each of which fails
+/// with 91 if there is no font. Host code at the report of one may set a font: the statement after it
+/// takes that.
+///
+/// `statement` runs one statement and says whether it succeeded.
+template <class Statement, class Take>
+void readFontAttributes(const Held<FontRef>& font, Statement statement, Take take) {
+    constexpr int attributes = 6;
+    for (int attribute = 0; attribute < attributes; ++attribute) {
+        // Nobody can look between the attributes of a font that is there, so they come at once.
+        const bool taken = statement([&] {
+            if (!font)
+                throw RuntimeError(objectVariableNotSet);
+            take(font->spec);
+        });
+        if (taken)
+            return;
+    }
+}
+
+} // namespace lumtex

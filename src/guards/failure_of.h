@@ -1,0 +1,32 @@
+/// \file
+/// Catching what a statement threw, as a run-time error with its number.
+#pragma once
+
+#include "values/runtime_error.h"
+
+#include <exception>
+#include <optional>
+
+namespace lumtex {
+
+/// The run-time error that a caught exception stands for: itself, or 7 where memory ran out or a text grew
+/// past its largest length. Anything else is no failure of a statement but a fault of the program, and goes
+/// on its way: call this only while handling `caught`.
+RuntimeError failureFrom(const std::exception& caught);
+
+/// The same for what a host's handler threw: any other exception of its is error 440 with the exception's
+/// text.
+RuntimeError failureOfHandler(const std::exception& caught);
+
+/// Runs `body`; its failure, or none.
+template <class Body>
+std::optional<RuntimeError> failureOf(Body&& body) {
+    try {
+        body();
+        return std::nullopt;
+    } catch (const std::exception& caught) {
+        return failureFrom(caught);
+    }
+}
+
+} // namespace lumtex

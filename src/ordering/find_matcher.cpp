@@ -1,0 +1,33 @@
+#include "ordering/find_matcher.h"
+
+#include "guards/ignoring_errors.h"
+#include "ordering/like_comp.h"
+
+namespace lumtex {
+
+FindMatcher::FindMatcher(Runtime& runtime, StringView pattern, cFindCompare compare)
+    : runtime_(runtime), pattern_(pattern), compare_(compare) {
+    if (compare == cFindBinary || compare == cFindText) {
+        ignoringErrors([&] {
+            ready_.emplace(pattern, compare == cFindText ? LikePattern::folded : LikePattern::byUnit);
+        });
+    }
+}
+
+bool FindMatcher::matches(const CompactText& text) const {
+    if (ready_)
+        return text.visit([&](auto units) { return ready_->matches(units); });
+    return callModule(text.toString());
+}
+
+bool FindMatcher::matches(StringView text) const {
+    return ready_ ? ready_->matches(text) : callModule(text);
+}
+
+bool FindMatcher::callModule(StringView text) const {
+    if (compare_ == cFindBinary)
+        return LikeCompBinary(runtime_, text, pattern_);
+    return compare_ == cFindText && LikeCompText(runtime_, text, pattern_);
+}
+
+} // namespace lumtex

@@ -1,0 +1,32 @@
+/// \file
+/// The test of one search, made once and asked for every cell.
+#pragma once
+
+#include "ordering/like_pattern.h"
+#include "platform/runtime.h"
+#include "records/compact_text.h"
+#include "records/enumerations.h"
+
+#include <optional>
+
+namespace lumtex {
+
+/// Answers as `LikeCompBinary` or `LikeCompText` does, a report for each call with a faulty pattern included.
+class FindMatcher {
+  public:
+    /// An unknown `compare` matches nothing. `pattern` must live as long as this object.
+    FindMatcher(Runtime& runtime, StringView pattern, cFindCompare compare);
+
+    bool matches(const CompactText& text) const;
+    bool matches(StringView text) const;
+
+  private:
+    bool callModule(StringView text) const;
+
+    Runtime& runtime_;
+    StringView pattern_;
+    cFindCompare compare_;
+    std::optional<LikePattern> ready_; ///< none for a faulty pattern
+};
+
+} // namespace lumtex

@@ -1,0 +1,131 @@
+#include "ordering/number_rows.h"
+
+#include "guards/ignoring_errors.h"
+#include "ordering/sort_keys.h"
+#include "values/locale.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+#include <span>
+
+namespace lumtex {
+
+namespace {
+
+/// Up to these, a number of that many digits and a power of ten are exact as Doubles, and so one division
+/// rounds as correctly as reading the text does.
+constexpr std::size_t mostExactDigits = 15;
+constexpr Double smallestInexact = 1e15;
+constexpr std::array<Double, mostExactDigits + 1> powersOfTen = {
+    1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+/// A number of digits alone, with a minus before it and a decimal mark inside. None for any other text, which
+/// may be a number still.
+std::optional<Double> plainDecimal(std::span<const unsigned char> text, unsigned char decimalMark) {
+    const bool negative = !text.empty() && text[0] == '-';
+    if (negative)
+        text = text.subspan(1);
+    if (text.empty() || text.size() > mostExactDigits)
+        return std::nullopt;
+    std::int64_t digits = 0;
+    std::size_t point = text.size() - 1;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] >= '0' && text[i] <= '9')
+            digits = digits * 10 + (text[i] - '0');
+        else if (text[i] == decimalMark && i > 0 && i + 1 < text.size() && point == text.size() - 1)
+            point = i;
+        else
+            return std::nullopt;
+    }
+    const Double value = static_cast<Double>(digits) / powersOfTen[text.size() - 1 - point];
+    return negative && digits != 0 ? -value : value;
+}
+
+/// Whether a number has a decimal form of at most 15 digits, six of them behind the point: such a number
+/// goes through 15 digits unchanged.
+bool isShortDecimal(Double value) {
+    for (std::size_t places = 0; places <= 6; places += 2) {
+        const Double scaled = value * powersOfTen[places];
+        if (std::fabs(scaled) >= smallestInexact)
+            return false;
+        if (std::trunc(scaled) == scaled && scaled / powersOfTen[places] == value)
+            return true;
+    }
+    return false;
+}
+
+/// The mark between the digits of 1.5, as far as it is a point or a comma.
+unsigned char decimalMark() {
+    for (const unsigned char mark : {'.', ','}) {
+        const String text{u'1', mark, u'5'};
+        if (numberIn(text) == 1.5)
+            return mark;
+    }
+    return 0;
+}
+
+/// Whether the current locale writes dates so that nothing is lost: some users have it leave out the century
+/// or the seconds.
+bool datesKeepTheirTexts() {
+    static constexpr Double probes[] = {
+        -36522.0, 2.25, 10958.999988, 36585.000012, 47483.5, 73050.75, 401768.0};
+    static constexpr Double halfSecond = 0.5 / (24 * 60 * 60);
+    const Locale& locale = currentLocale();
+    return std::ranges::all_of(probes, [&](Double days) {
+        const auto first = locale.readDate(locale.textOf(Date{days}));
+        return first && std::fabs(first->days - days) <= halfSecond &&
+               locale.readDate(locale.textOf(*first)) == first;
+    });
+}
+
+} // namespace
+
+NumberReader::NumberReader(cSortType type) : type_(type) {
+    if (type == cSortNumeric)
+        decimalMark_ = decimalMark();
+    else
+        ignoringErrors([&] { readsBack_ = datesKeepTheirTexts(); });
+}
+
+/// A date that was read has whole seconds; a number of days need not.
+Double NumberReader::readDate() {
+    if (const auto date = currentLocale().readDate(buffer_))
+        return date->days;
+    readsBack_ = false;
+    return numberKey(buffer_, type_);
+}
+
+Double NumberReader::read(const CompactText& text) {
+    if (type_ == cSortNumeric && !text.isWide()) {
+        const auto plain = text.visit([&]<class Units>(Units units) -> std::optional<Double> {
+            if constexpr (std::is_same_v<Units, StringView>)
+                return std::nullopt;
+            else
+                return plainDecimal(units, decimalMark_);
+        });
+        if (plain)
+            return *plain;
+    }
+    text.copyTo(buffer_);
+    Double key = unreadable;
+    ignoringErrors([&] { key = type_ == cSortDate ? readDate() : numberKey(buffer_, type_); });
+    return key;
+}
+
+Double throughPivotText(Double key, cSortType type) {
+    if (key != key)
+        return key;
+    if (type == cSortNumeric && isShortDecimal(key))
+        return key;
+    Double pivot = unreadable;
+    // All locales write the same fifteen digits, and the system's own ones take long for it.
+    if (type == cSortNumeric)
+        pivot = numberFromText(textFromNumber(key)).value_or(unreadable);
+    else
+        ignoringErrors([&] { pivot = numberKey(pivotText(key, type), type); });
+    return pivot;
+}
+
+} // namespace lumtex

@@ -1,0 +1,21 @@
+/// \file
+/// The sort over keys that were read once.
+#pragma once
+
+#include "records/enumerations.h"
+#include "records/row_record.h"
+
+#include <optional>
+#include <vector>
+
+namespace lumtex {
+
+/// Finds the order that `SortByStatements` leaves, without touching the rows: element k is the 0-based
+/// position from which row k comes. `cell` counts from 0, `type` is one of the three types.
+///
+/// None if that sort would report anything and `silent` is False: then the host's code may run in
+/// the middle, and only the statements themselves do what is due. Throws std::bad_alloc.
+std::optional<std::vector<std::uint32_t>> orderByKeys(
+    const std::vector<RowRecord>& rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
+
+} // namespace lumtex

@@ -1,0 +1,124 @@
+#include "raster/font_library.h"
+
+#include "raster/font_library_implementation.h"
+#include "raster/typeface_implementation.h"
+#include "values/rounding.h"
+#include "values/runtime_error.h"
+#include "values/text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace lumtex::raster {
+
+namespace {
+
+constexpr Double pixelsPerInch = 96;
+constexpr Double pointsPerInch = 72;
+constexpr Double smallest = 1;   // pixels
+constexpr Double largest = 1000; // pixels
+
+/// How many typefaces are kept before all are let go. Each holds a file open.
+constexpr std::size_t typefacesKept = 64;
+
+Long pixelsOf(Single points) {
+    const Double pixels = static_cast<Double>(points) * pixelsPerInch / pointsPerInch;
+    // Written so that what is not a number ends up smallest.
+    return pixels >= smallest ? roundToLong(std::min(pixels, largest)) : static_cast<Long>(smallest);
+}
+
+} // namespace
+
+std::size_t FaceRequestHash::operator()(const FaceRequest& request) const {
+    const std::size_t style =
+        static_cast<std::size_t>(request.pixels) * 4 + (request.bold ? 2 : 0) + (request.italic ? 1 : 0);
+    return std::hash<String>{}(request.name) ^ (style * 0x9E3779B97F4A7C15ULL);
+}
+
+FaceFile FontLibrary::Implementation::find(const FaceRequest& request, char32_t character) const {
+    const FcPatternHandle pattern(FcPatternCreate());
+    const std::string family = toUtf8(request.name);
+    FcPatternAddString(pattern.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(family.c_str()));
+    FcPatternAddInteger(pattern.get(), FC_WEIGHT, request.bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
+    FcPatternAddInteger(pattern.get(), FC_SLANT, request.italic ? FC_SLANT_ITALIC : FC_SLANT_ROMAN);
+    FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue);
+    if (character != 0) {
+        const FcCharSetHandle characters(FcCharSetCreate());
+        FcCharSetAddChar(characters.get(), character);
+        FcPatternAddCharSet(pattern.get(), FC_CHARSET, characters.get());
+    }
+    FcConfigSubstitute(configuration.get(), pattern.get(), FcMatchPattern);
+    FcDefaultSubstitute(pattern.get());
+    FcResult result = FcResultNoMatch;
+    const FcPatternHandle match(FcFontMatch(configuration.get(), pattern.get(), &result));
+    FcChar8* path = nullptr;
+    if (!match || FcPatternGetString(match.get(), FC_FILE, 0, &path) != FcResultMatch)
+        return {};
+    FaceFile file;
+    file.path = reinterpret_cast<const char*>(path);
+    int weight = FC_WEIGHT_REGULAR;
+    int slant = FC_SLANT_ROMAN;
+    FcPatternGetInteger(match.get(), FC_INDEX, 0, &file.index);
+    FcPatternGetInteger(match.get(), FC_WEIGHT, 0, &weight);
+    FcPatternGetInteger(match.get(), FC_SLANT, 0, &slant);
+    file.embolden = request.bold && weight < FC_WEIGHT_DEMIBOLD;
+    file.slant = request.italic && slant == FC_SLANT_ROMAN;
+    return file;
+}
+
+FtFaceHandle FontLibrary::Implementation::open(const FaceFile& file, Long pixels) const {
+    FT_Face face = nullptr;
+    if (FT_New_Face(freetype.get(), file.path.c_str(), file.index, &face) != 0)
+        throw RuntimeError(fileNotFound);
+    FtFaceHandle handle(face);
+    FT_Set_Pixel_Sizes(face, 0, static_cast<FT_UInt>(pixels));
+    return handle;
+}
+
+FontLibrary::FontLibrary(std::unique_ptr<Implementation> implementation)
+    : implementation_(std::move(implementation)) {}
+
+FontLibrary::~FontLibrary() = default;
+
+namespace {
+
+std::unique_ptr<FontLibrary::Implementation> implementationOf(FcConfigHandle configuration) {
+    auto implementation = std::make_unique<FontLibrary::Implementation>();
+    implementation->configuration = std::move(configuration);
+    FT_Library freetype = nullptr;
+    if (!implementation->configuration || FT_Init_FreeType(&freetype) != 0)
+        throw RuntimeError(outOfMemory);
+    implementation->freetype.reset(freetype);
+    return implementation;
+}
+
+} // namespace
+
+std::shared_ptr<FontLibrary> FontLibrary::ofSystem() {
+    static const std::shared_ptr<FontLibrary> library(
+        new FontLibrary(implementationOf(FcConfigHandle(FcInitLoadConfigAndFonts()))));
+    return library;
+}
+
+std::shared_ptr<FontLibrary> FontLibrary::fromConfiguration(const std::filesystem::path& file) {
+    FcConfigHandle configuration(FcConfigCreate());
+    const auto* path = reinterpret_cast<const FcChar8*>(file.c_str());
+    if (!configuration || FcConfigParseAndLoad(configuration.get(), path, FcTrue) == FcFalse ||
+        FcConfigBuildFonts(configuration.get()) == FcFalse)
+        throw RuntimeError(fileNotFound);
+    return std::shared_ptr<FontLibrary>(new FontLibrary(implementationOf(std::move(configuration))));
+}
+
+std::shared_ptr<Typeface> FontLibrary::typeface(const FontSpec& font) {
+    const FaceRequest request{font.Name, pixelsOf(font.Size), font.Bold, font.Italic};
+    auto& typefaces = implementation_->typefaces;
+    if (const auto found = typefaces.find(request); found != typefaces.end())
+        return found->second;
+    if (typefaces.size() >= typefacesKept)
+        typefaces.clear();
+    auto made = std::make_shared<Typeface>(Typeface::Implementation::make(shared_from_this(), request));
+    typefaces.emplace(request, made);
+    return made;
+}
+
+} // namespace lumtex::raster

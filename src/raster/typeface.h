@@ -1,0 +1,68 @@
+/// \file
+/// One font at one size: its measures and its glyphs as coverage masks.
+#pragma once
+
+#include "values/types.h"
+
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace lumtex::raster {
+
+/// A drawn glyph. Distances are whole pixels, so that equal text looks equal wherever it stands.
+struct Glyph {
+    Long advance = 0;
+    Long left = 0; ///< from the pen to the mask's left edge
+    Long top = 0;  ///< from the base line up to the mask's upper edge
+    Long width = 0;
+    std::vector<Byte> mask; ///< coverage, rows of `width`
+};
+
+struct PlacedGlyph {
+    const Glyph* glyph; ///< lives as long as the typeface
+    Long advance;
+    Long shiftX;
+    Long shiftY;           ///< downwards
+    std::uint32_t cluster; ///< code unit that it stands for
+};
+
+/// A piece of text as glyphs from left to right.
+struct GlyphRun {
+    std::vector<PlacedGlyph> glyphs;
+    Long width = 0;
+};
+
+class FontLibrary;
+
+/// Made by a FontLibrary, which it keeps alive.
+class Typeface {
+  public:
+    /// The longest piece that `run` takes; longer texts are handled piece by piece.
+    static constexpr std::size_t longestRun = 1024;
+
+    struct Implementation;
+    explicit Typeface(std::unique_ptr<Implementation> implementation);
+    Typeface(const Typeface&) = delete;
+    Typeface& operator=(const Typeface&) = delete;
+    ~Typeface();
+
+    Long ascent() const;       ///< pixels from a line's top to its base line
+    Long lineHeight() const;   ///< pixels
+    Long underlineTop() const; ///< pixels below a line's top
+    Long strikeTop() const;    ///< pixels below a line's top
+    Long rule() const;         ///< thickness of both, in pixels
+
+    /// The glyphs of at most `longestRun` code units. Valid until the next call.
+    const GlyphRun& run(StringView text);
+
+    /// Width of a text of any length in pixels. Stops counting once past `enough`.
+    Long width(StringView text, Long enough = maximum);
+
+    static constexpr Long maximum = 0x7FFFFFFF;
+
+  private:
+    std::unique_ptr<Implementation> implementation_;
+};
+
+} // namespace lumtex::raster

@@ -1,0 +1,65 @@
+/// \file
+/// Glyphs of one face at one size, with faces to fall back on.
+#pragma once
+
+#include "raster/font_library_implementation.h"
+
+#include <array>
+#include <string_view>
+#include <unordered_map>
+
+namespace lumtex::raster {
+
+/// An opened face whose glyphs are drawn once and kept.
+class LoadedFace {
+  public:
+    LoadedFace(FtFaceHandle face, FaceFile file);
+
+    bool has(char32_t character) const;
+    const Glyph& glyphOf(char32_t character);
+    const Glyph& glyphAt(std::uint32_t index);
+    FT_Face face() const { return face_.get(); }
+    hb_font_t* shaper();
+
+  private:
+    Glyph draw(std::uint32_t index);
+
+    FtFaceHandle face_;
+    FaceFile file_;
+    HbFontHandle shaper_;
+    std::unordered_map<std::uint32_t, std::unique_ptr<Glyph>> glyphs_;
+};
+
+struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(StringView text) const { return std::hash<StringView>{}(text); }
+};
+
+struct Typeface::Implementation {
+    static std::unique_ptr<Implementation> make(std::shared_ptr<FontLibrary> library, FaceRequest request);
+
+    /// Characters below this one stand alone: no shaping, no direction, no marks.
+    static constexpr char16_t simpleEnd = 0x300;
+
+    const Glyph& simpleGlyph(char16_t unit);
+    LoadedFace& faceFor(char32_t character);
+    void shapePiece(LoadedFace& face, StringView text, std::size_t offset, GlyphRun& run);
+    void shape(StringView text, GlyphRun& run);
+
+    std::shared_ptr<FontLibrary> library;
+    FaceRequest request;
+    /// The face itself, then those that were needed for characters it lacks.
+    std::vector<std::unique_ptr<LoadedFace>> faces;
+    std::unordered_map<char32_t, LoadedFace*> fallbacks;
+    std::array<const Glyph*, simpleEnd> simple{};
+    std::unordered_map<String, GlyphRun, TextHash, std::equal_to<>> shaped;
+    HbBufferHandle buffer;
+    GlyphRun scratch;
+    Long ascent = 0;
+    Long lineHeight = 0;
+    Long underlineTop = 0;
+    Long strikeTop = 0;
+    Long rule = 1;
+};
+
+} // namespace lumtex::raster

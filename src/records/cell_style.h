@@ -1,0 +1,97 @@
+/// \file
+/// What most cells have in common, kept once for all that look alike.
+#pragma once
+
+#include "guards/held.h"
+#include "records/enumerations.h"
+#include "values/color.h"
+#include "values/references/font.h"
+#include "values/variant.h"
+
+#include <deque>
+#include <unordered_set>
+#include <vector>
+
+namespace lumtex {
+
+/// The fields of a cell that rarely differ from cell to cell. "def" stands for a colour that painting
+/// decides.
+struct CellStyle {
+    OLE_COLOR ForeColor = 0;
+    Held<Variant> BackColor = u"def";
+    Held<Variant> ForeColorSelect = u"def";
+    Held<Variant> BackColorSelect = u"def";
+    OLE_COLOR ForeColorDis = grayText;
+    OLE_COLOR BackColorDis = buttonFace;
+    cItemAlign IconAlignment = cItemLeft;
+    cItemAlign Alignment = cItemLeft;
+    bool AllowEdit = false;
+    bool Enabled = true;
+    FontSpec font;
+
+    bool operator==(const CellStyle&) const = default;
+};
+
+/// Names one style of the thread's table.
+using StyleHandle = std::uint32_t;
+
+/// The table of styles in use, counted by the cells that share each. One per thread: a control lives on one
+/// thread, and all of that thread's controls may share a look.
+class CellStyles {
+  public:
+    static CellStyles& ofThread();
+
+    /// The handle of an equal style, or a new one. The caller owns one count and gives it back by `release`.
+    StyleHandle acquire(const CellStyle& style);
+    void addReference(StyleHandle handle) { ++slots_[handle].references; }
+    void release(StyleHandle handle) {
+        if (--slots_[handle].references == 0)
+            forget(handle);
+    }
+    /// Stays where it is until its last count is given back.
+    const CellStyle& operator[](StyleHandle handle) const { return slots_[handle].style; }
+
+  private:
+    struct Slot {
+        CellStyle style;
+        std::size_t hash = 0;
+        std::uint32_t references = 0;
+    };
+    struct Hash {
+        using is_transparent = void;
+        const CellStyles* table;
+        std::size_t operator()(StyleHandle handle) const;
+        std::size_t operator()(const CellStyle& style) const;
+    };
+    struct Equal {
+        using is_transparent = void;
+        const CellStyles* table;
+        bool operator()(StyleHandle a, StyleHandle b) const { return a == b; }
+        bool operator()(const CellStyle& a, StyleHandle b) const;
+        bool operator()(StyleHandle a, const CellStyle& b) const { return (*this)(b, a); }
+    };
+
+    CellStyles();
+    void forget(StyleHandle handle);
+
+    std::deque<Slot> slots_;
+    std::vector<StyleHandle> free_;
+    std::unordered_set<StyleHandle, Hash, Equal> index_;
+};
+
+/// Holds one count of a style while cells are made from it.
+class StyleLease {
+  public:
+    /// Takes over a count that `acquire` gave.
+    explicit StyleLease(StyleHandle handle) : handle_(handle) {}
+    StyleLease(const StyleLease&) = delete;
+    StyleLease& operator=(const StyleLease&) = delete;
+    ~StyleLease() { CellStyles::ofThread().release(handle_); }
+
+    StyleHandle handle() const { return handle_; }
+
+  private:
+    StyleHandle handle_;
+};
+
+} // namespace lumtex

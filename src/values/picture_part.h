@@ -1,0 +1,29 @@
+/// \file
+/// Which part of a picture a copy of a part of it takes, and where that lands.
+#pragma once
+
+#include "values/bitmap.h"
+#include "values/geometry.h"
+
+namespace lumtex {
+
+/// Both rectangles leave out their right and lower edges; both are empty where nothing is to be painted.
+struct PicturePart {
+    Rect source; ///< pixels of the picture, all inside it
+    Rect target; ///< pixels of the surface
+    bool isEmpty() const { return source.Left >= source.Right || source.Top >= source.Bottom; }
+};
+
+/// The arguments of `Surface::paintPicture`, rounded. What lies outside the picture is cut off on both sides
+/// of the copy. Throws RuntimeError 6 if a coordinate does not fit.
+PicturePart picturePart(const Bitmap& picture,
+                        Single x,
+                        Single y,
+                        Single width,
+                        Single height,
+                        Single sourceX,
+                        Single sourceY,
+                        Single sourceWidth,
+                        Single sourceHeight);
+
+} // namespace lumtex

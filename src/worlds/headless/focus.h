@@ -1,0 +1,41 @@
+/// \file
+/// Which pane the keyboard belongs to.
+#pragma once
+
+#include "worlds/headless/window_tree.h"
+
+namespace lumtex {
+
+/// Both sides of a change are told before the call returns: first the one that lost the focus, then, if it
+/// still has it by then, the one that got it.
+///
+/// While the user is in another program, no pane has it.
+class Focus {
+  public:
+    explicit Focus(WindowTree& tree) : tree_(tree) {}
+    Focus(const Focus&) = delete;
+    Focus& operator=(const Focus&) = delete;
+
+    /// The pane with the focus, or none.
+    Pane* holder() const { return tree_.find(holder_); }
+    /// No effect for a pane that takes no input.
+    void moveTo(const Pane& pane);
+    /// `pane` takes no input any more: if the focus is within it, the nearest pane around it that does gets
+    /// it.
+    void leave(const Pane& pane);
+    /// `pane` goes away: a focus within it goes too, and nobody is told.
+    void forget(const Pane& pane);
+    /// The user goes to another program.
+    void switchAway();
+    /// The user comes back: what had the focus then has it again, if it still takes input.
+    void switchBack();
+
+  private:
+    void change(WindowHandle handle);
+
+    WindowTree& tree_;
+    WindowHandle holder_ = 0;
+    WindowHandle before_ = 0; ///< who had it when the user went away
+};
+
+} // namespace lumtex

@@ -1,0 +1,36 @@
+#include "worlds/headless/headless_guide_line.h"
+
+#include "values/rounding.h"
+#include "values/runtime_error.h"
+
+namespace lumtex {
+
+namespace {
+
+Long wholePixel(Single coordinate) {
+    try {
+        return roundToLong(coordinate);
+    } catch (const RuntimeError&) {
+        return 0;
+    }
+}
+
+} // namespace
+
+HeadlessGuideLine::HeadlessGuideLine(HeadlessWindow& parent) : parent_(&parent) {
+    parent.addGuide(*this);
+}
+
+HeadlessGuideLine::~HeadlessGuideLine() {
+    if (parent_ != nullptr)
+        parent_->removeGuide(*this);
+}
+
+Point HeadlessGuideLine::from() const {
+    return {wholePixel(x1_), wholePixel(y1_)};
+}
+Point HeadlessGuideLine::to() const {
+    return {wholePixel(x2_), wholePixel(y2_)};
+}
+
+} // namespace lumtex

@@ -1,0 +1,84 @@
+/// \file
+/// The mouse of the simulated desktop: where it is, what it holds, and who hears of it.
+#pragma once
+
+#include "worlds/headless/focus.h"
+#include "worlds/headless/window_tree.h"
+
+#include <functional>
+
+namespace lumtex {
+
+/// Who gets an event is decided when it is delivered, from the place where the pointer was when it happened.
+///
+/// There is one capture. A press takes it for the window that was pressed, and the release of the last button
+/// gives it up, whoever took it; so a window that wants to keep it asks for it again. However a capture ends,
+/// a move is made up, so that the window that lies under the pointer by then does not miss it.
+class Pointer {
+  public:
+    /// Something that the mouse did, as it was at that time.
+    struct Event {
+        Point at;            ///< pixels of the desktop
+        Integer button = 0;  ///< the one that went down or up
+        Integer buttons = 0; ///< those that are down afterwards
+        Integer shift = 0;
+    };
+
+    Pointer(WindowTree& tree, Focus& focus) : tree_(tree), focus_(focus) {}
+    Pointer(const Pointer&) = delete;
+    Pointer& operator=(const Pointer&) = delete;
+
+    Point place() const { return place_; }
+    Integer buttons() const { return buttons_; }
+    /// Was `button` pressed since it was asked for the last time?
+    bool takePressed(Integer button);
+
+    // What happens is known at once; the event is what is to be delivered.
+
+    Event moveTo(Point place, Integer shift);
+    Event press(MouseButton button, Integer shift);
+    Event release(MouseButton button, Integer shift);
+    Event turnWheel(Integer shift) const;
+
+    void deliverMove(const Event& event);
+    /// The move that was made up when a capture ended; goes to where the pointer is now.
+    void deliverMadeUpMove(Event event);
+    void deliverPress(const Event& event);
+    /// In place of the second press of a double click. No click follows its release.
+    void deliverDoublePress(const Event& event);
+    void deliverRelease(const Event& event);
+    void deliverWheel(const Event& event, Long rotation);
+
+    WindowHandle captured() const { return captured_; }
+    /// No effect for a pane that takes no input.
+    void capture(const Pane& pane);
+    /// No effect unless the pane has the capture.
+    void releaseCapture(const Pane& pane);
+    /// `pane` takes no input any more: a capture or press within it ends.
+    void forget(const Pane& pane);
+
+    /// Takes the move that is made up when a capture ends, for `deliverMadeUpMove` when messages run next.
+    std::function<void(const Event&)> onMadeUpMove;
+
+  private:
+    /// While one lives, the keys of an event that is being delivered are held.
+    class Delivery;
+
+    Pane* targetOf(const Event& event) const;
+    void endCapture();
+    /// The target, captured, with the focus where keys belong; none if it took no input after all that.
+    Pane* pressTarget(const Event& event);
+
+    WindowTree& tree_;
+    Focus& focus_;
+    Point place_{-1, -1};
+    Integer buttons_ = noButton;
+    Integer pressedSince_ = noButton; ///< the last questions, one bit a button
+    Integer shift_ = 0;               ///< of the event that is being delivered
+    bool moveMadeUp_ = false;         ///< one waits
+    WindowHandle captured_ = 0;
+    WindowHandle pressed_ = 0; ///< the pane whose press waits for its release
+    Integer pressedButton_ = noButton;
+};
+
+} // namespace lumtex

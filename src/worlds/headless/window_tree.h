@@ -1,0 +1,48 @@
+/// \file
+/// All windows and text boxes of a simulated desktop, by number and by place.
+#pragma once
+
+#include "worlds/headless/pane.h"
+
+#include <functional>
+#include <unordered_map>
+#include <vector>
+
+namespace lumtex {
+
+/// Owns none of its panes; they enter and leave by themselves.
+class WindowTree {
+  public:
+    WindowTree() = default;
+    WindowTree(const WindowTree&) = delete;
+    WindowTree& operator=(const WindowTree&) = delete;
+
+    /// Unique, never 0, never given twice.
+    WindowHandle newHandle() { return nextHandle_++; }
+    /// Topmost among its siblings.
+    void insert(Pane& pane);
+    void remove(Pane& pane);
+
+    /// None for 0 and for a number that names nothing any more.
+    Pane* find(WindowHandle handle) const;
+
+    /// The topmost pane that takes input at a point of the desktop, or none. What is hidden or disabled lets
+    /// the point through to what lies below.
+    Pane* at(Point onDesktop) const;
+
+    /// Puts `child` on top of the children of `parent`. Refused where `parent` lies within it.
+    bool adopt(Pane& parent, Pane& child);
+
+    /// Runs when a pane is about to leave the tree. It may be half destroyed: only its place can be asked.
+    std::function<void(const Pane&)> onRemove;
+
+  private:
+    std::vector<Pane*>& siblingsOf(const Pane& pane);
+
+    /// A number that looks like none of the small ones that tests write by hand.
+    WindowHandle nextHandle_ = 0x10001;
+    std::unordered_map<WindowHandle, Pane*> panes_;
+    std::vector<Pane*> topLevel_; ///< lowest first
+};
+
+} // namespace lumtex

@@ -1,0 +1,66 @@
+/// Files of text, and the search for files.
+#include "values/runtime_error.h"
+#include "worlds/win32/ansi_text.h"
+#include "worlds/win32/file_handle.h"
+#include "worlds/win32/win32_runtime.h"
+
+#include <algorithm>
+
+namespace lumtex {
+
+String Win32Runtime::readFile(StringView path) const {
+    const FileHandle file(String(path), GENERIC_READ, OPEN_EXISTING);
+    std::string bytes;
+    constexpr std::size_t blockSize = 0x10000;
+    for (DWORD count = 1; count > 0;) {
+        const std::size_t known = bytes.size();
+        bytes.resize(known + blockSize);
+        if (!ReadFile(file.get(), bytes.data() + known, blockSize, &count, nullptr))
+            throw RuntimeError(deviceError);
+        bytes.resize(known + count);
+    }
+    return textFromAnsi(bytes);
+}
+
+void Win32Runtime::createFile(StringView path) {
+    const FileHandle file(String(path), GENERIC_WRITE, CREATE_ALWAYS);
+}
+
+void Win32Runtime::appendToFile(StringView path, StringView text) {
+    const std::string bytes = ansiFrom(text);
+    const FileHandle file(String(path), FILE_APPEND_DATA, OPEN_ALWAYS);
+    DWORD written = 0;
+    if (!WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) ||
+        written != bytes.size())
+        throw RuntimeError(deviceError);
+}
+
+String Win32Runtime::fullPathName(StringView file) const {
+    const String name(file);
+    const DWORD needed = GetFullPathNameW(wide(name), 0, nullptr, nullptr);
+    String path(needed, u'\0');
+    const DWORD length = GetFullPathNameW(wide(name), needed, wide(path.data()), nullptr);
+    path.resize(std::min(length, needed));
+    return path;
+}
+
+Long Win32Runtime::findFirstFile(StringView pattern) {
+    constexpr Long nothing = -1;
+    const String name(pattern);
+    WIN32_FIND_DATAW found{};
+    HANDLE search = FindFirstFileW(wide(name), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return nothing;
+    searches_.emplace(++lastSearch_, search);
+    return lastSearch_;
+}
+
+void Win32Runtime::findClose(Long handle) {
+    const auto search = searches_.find(handle);
+    if (search == searches_.end())
+        return;
+    FindClose(search->second);
+    searches_.erase(search);
+}
+
+} // namespace lumtex

@@ -1,0 +1,25 @@
+#include "worlds/win32/module_lock.h"
+
+#include <atomic>
+
+namespace lumtex {
+
+namespace {
+
+std::atomic<long> locks{0};
+
+} // namespace
+
+ModuleLock::ModuleLock() noexcept {
+    ++locks;
+}
+
+ModuleLock::~ModuleLock() {
+    --locks;
+}
+
+long moduleLocks() noexcept {
+    return locks;
+}
+
+} // namespace lumtex

@@ -1,0 +1,336 @@
+#include "worlds/win32/ole_picture.h"
+
+#include "values/image_check.h"
+#include "values/rounding.h"
+#include "values/runtime_error.h"
+#include "worlds/win32/memory_bitmap.h"
+#include "worlds/win32/object_pairs.h"
+#include "worlds/win32/property_sink.h"
+#include "worlds/win32/screen_density.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace lumtex {
+
+namespace {
+
+constexpr Double himetricPerInch = 2540;
+
+ObjectPairs<const Picture, IPictureDisp>& pairs() {
+    static ObjectPairs<const Picture, IPictureDisp> all;
+    return all;
+}
+
+/// Rows from the top.
+BITMAPINFO headerFor(const Bitmap& bitmap, WORD bits) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = bitmap.width;
+    info.bmiHeader.biHeight = -bitmap.height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = bits;
+    info.bmiHeader.biCompression = BI_RGB;
+    return info;
+}
+
+/// Rounds as the system does when it makes a picture's size from its pixels.
+Long pixelsOf(Long himetrics, int pixelsPerInch) {
+    return roundToLong(himetrics * static_cast<Double>(pixelsPerInch) / himetricPerInch);
+}
+
+/// Handles of drawing objects have 32 significant bits, extended by their sign.
+HGDIOBJ handleOf(OLE_HANDLE handle) {
+    return reinterpret_cast<HGDIOBJ>(static_cast<INT_PTR>(static_cast<int>(handle)));
+}
+
+/// The size of a bitmap is its own; that of others follows from the screen's pixels per inch.
+SIZE pixelSizeOf(IPicture* picture, short type) {
+    OLE_HANDLE handle = 0;
+    if (type == PICTYPE_BITMAP && SUCCEEDED(picture->get_Handle(&handle))) {
+        BITMAP bitmap{};
+        if (GetObjectW(handleOf(handle), sizeof bitmap, &bitmap) != 0)
+            return {bitmap.bmWidth, bitmap.bmHeight};
+    }
+    OLE_XSIZE_HIMETRIC width = 0;
+    OLE_YSIZE_HIMETRIC height = 0;
+    picture->get_Width(&width);
+    picture->get_Height(&height);
+    const PixelDensity density = screenDensity();
+    return {pixelsOf(width, density.x), pixelsOf(height, density.y)};
+}
+
+void renderOver(IPicture* picture, const MemoryBitmap& sheet, DWORD ground) {
+    PatBlt(sheet.dc(), 0, 0, sheet.width(), sheet.height(), ground);
+    OLE_XSIZE_HIMETRIC width = 0;
+    OLE_YSIZE_HIMETRIC height = 0;
+    picture->get_Width(&width);
+    picture->get_Height(&height);
+    // Heights of pictures count upwards.
+    picture->Render(sheet.dc(), 0, 0, sheet.width(), sheet.height(), 0, height, width, -height, nullptr);
+    GdiFlush();
+}
+
+/// A pixel as it looks on black and on white: what shines through makes the difference. One that inverts what
+/// is below it is taken for an opaque one.
+std::uint32_t pixelFrom(std::uint32_t onBlack, std::uint32_t onWhite) {
+    const int through = static_cast<int>((onWhite >> 8U) & 0xFFU) - static_cast<int>((onBlack >> 8U) & 0xFFU);
+    const auto alpha = static_cast<std::uint32_t>(255 - std::clamp(through, 0, 255));
+    std::uint32_t pixel = alpha << 24U;
+    for (unsigned shift = 0; shift < 24; shift += 8)
+        pixel |= std::min((onBlack >> shift) & 0xFFU, alpha) << shift;
+    return pixel;
+}
+
+constexpr std::uint32_t premultiplied(std::uint32_t pixel, std::uint32_t alpha) {
+    std::uint32_t result = alpha << 24U;
+    for (unsigned shift = 0; shift < 24; shift += 8)
+        result |= (((pixel >> shift) & 0xFFU) * alpha + 127) / 255 << shift;
+    return result;
+}
+
+/// Pixels with 32 bits each, rows from the top; all zero where they cannot be read.
+Bitmap bitsOf(HBITMAP source, Long width, Long height) {
+    Bitmap bits(width, height);
+    BITMAPINFO info = headerFor(bits, 32);
+    const HDC screen = GetDC(nullptr);
+    GetDIBits(screen, source, 0, static_cast<UINT>(height), bits.pixels.data(), &info, DIB_RGB_COLORS);
+    ReleaseDC(nullptr, screen);
+    return bits;
+}
+
+/// The colours of an icon with its alpha, or with its mask where it has no alpha; without pixels where the
+/// icon has no colours.
+Bitmap pixelsOfIcon(HICON icon) {
+    ICONINFO parts{};
+    if (GetIconInfo(icon, &parts) == FALSE)
+        return {};
+    BITMAP size{};
+    Bitmap colors;
+    Bitmap mask;
+    if (parts.hbmColor != nullptr && GetObjectW(parts.hbmColor, sizeof size, &size) != 0) {
+        colors = bitsOf(parts.hbmColor, size.bmWidth, size.bmHeight);
+        mask = bitsOf(parts.hbmMask, size.bmWidth, size.bmHeight);
+    }
+    if (parts.hbmColor != nullptr)
+        DeleteObject(parts.hbmColor);
+    DeleteObject(parts.hbmMask);
+    const bool hasAlpha = std::any_of(
+        colors.pixels.begin(), colors.pixels.end(), [](std::uint32_t pixel) { return pixel >> 24U != 0; });
+    for (std::size_t i = 0; i < colors.pixels.size(); ++i) {
+        const bool hidden = (mask.pixels[i] & 0xFFFFFFU) != 0;
+        const std::uint32_t alpha = hasAlpha ? colors.pixels[i] >> 24U : (hidden ? 0U : 255U);
+        colors.pixels[i] = premultiplied(colors.pixels[i], alpha);
+    }
+    return colors;
+}
+
+Bitmap pixelsOfPicture(IPicture* picture, short type) {
+    constexpr Long largestSide = 32767;
+    OLE_HANDLE handle = 0;
+    if (type == PICTYPE_ICON && SUCCEEDED(picture->get_Handle(&handle))) {
+        Bitmap icon = pixelsOfIcon(static_cast<HICON>(handleOf(handle)));
+        if (!icon.pixels.empty())
+            return icon;
+    }
+    const SIZE size = pixelSizeOf(picture, type);
+    if (size.cx <= 0 || size.cy <= 0 || size.cx > largestSide || size.cy > largestSide)
+        return {};
+    const MemoryBitmap black(size.cx, size.cy);
+    const MemoryBitmap white(size.cx, size.cy);
+    renderOver(picture, black, BLACKNESS);
+    renderOver(picture, white, WHITENESS);
+    Bitmap bitmap(size.cx, size.cy);
+    for (Long y = 0; y < bitmap.height; ++y) {
+        for (Long x = 0; x < bitmap.width; ++x)
+            bitmap.at(x, y) = pixelFrom(black.row(y)[x], white.row(y)[x]);
+    }
+    return bitmap;
+}
+
+/// A host's picture object. Its pixels are taken when they are first asked for, so that a million cells may
+/// share a picture that is never shown.
+class OlePicture final : public Picture {
+  public:
+    explicit OlePicture(ComRef<IPicture> picture)
+        : picture_(std::move(picture)), identity_(queryFor<IUnknown>(picture_.get())) {
+        if (FAILED(picture_->get_Type(&type_)))
+            type_ = PICTYPE_NONE;
+    }
+    ~OlePicture() override { pairs().forget(identity_.get(), this); }
+    OlePicture(const OlePicture&) = delete;
+    OlePicture& operator=(const OlePicture&) = delete;
+
+    Long Width() const override {
+        OLE_XSIZE_HIMETRIC width = 0;
+        return SUCCEEDED(picture_->get_Width(&width)) ? width : 0;
+    }
+    Long Height() const override {
+        OLE_YSIZE_HIMETRIC height = 0;
+        return SUCCEEDED(picture_->get_Height(&height)) ? height : 0;
+    }
+    const Bitmap& bitmap() const override {
+        if (!bitmap_)
+            bitmap_ = pixelsOfPicture(picture_.get(), type_);
+        return *bitmap_;
+    }
+    PictureKind kind() const override { return type_ == PICTYPE_ICON ? PictureKind::icon : kindOf(bitmap()); }
+
+    IPicture* object() const { return picture_.get(); }
+    IUnknown* identity() const { return identity_.get(); }
+
+  private:
+    ComRef<IPicture> picture_;
+    ComRef<IUnknown> identity_;
+    short type_ = PICTYPE_NONE;
+    mutable std::optional<Bitmap> bitmap_;
+};
+
+PictureRef entered(ComRef<IPicture> picture) {
+    auto made = std::make_shared<OlePicture>(std::move(picture));
+    pairs().enterOurs(made->identity(), made);
+    return made;
+}
+
+/// A bitmap of the system with these bits; rows from the top, `bits` per pixel.
+HBITMAP sectionFor(const Bitmap& bitmap, WORD bits, void*& memory) {
+    const BITMAPINFO info = headerFor(bitmap, bits);
+    HBITMAP made = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &memory, nullptr, 0);
+    if (made == nullptr)
+        throw RuntimeError(outOfMemory);
+    return made;
+}
+
+/// 24 bits per pixel: a fourth byte would be taken for alpha by some.
+HBITMAP opaqueBitmap(const Bitmap& bitmap) {
+    void* memory = nullptr;
+    HBITMAP made = sectionFor(bitmap, 24, memory);
+    const std::size_t stride = (static_cast<std::size_t>(bitmap.width) * 3 + 3) / 4 * 4;
+    for (Long y = 0; y < bitmap.height; ++y) {
+        Byte* byte = static_cast<Byte*>(memory) + stride * static_cast<std::size_t>(y);
+        for (Long x = 0; x < bitmap.width; ++x) {
+            for (unsigned shift = 0; shift < 24; shift += 8)
+                *byte++ = static_cast<Byte>(bitmap.at(x, y) >> shift);
+        }
+    }
+    return made;
+}
+
+/// Colours as they are without their alpha, which stands beside them.
+std::uint32_t straight(std::uint32_t pixel) {
+    const std::uint32_t alpha = pixel >> 24U;
+    if (alpha == 0)
+        return 0;
+    std::uint32_t result = alpha << 24U;
+    for (unsigned shift = 0; shift < 24; shift += 8)
+        result |= std::min((((pixel >> shift) & 0xFFU) * 255 + alpha / 2) / alpha, 255U) << shift;
+    return result;
+}
+
+HICON iconFor(const Bitmap& bitmap) {
+    void* memory = nullptr;
+    HBITMAP color = sectionFor(bitmap, 32, memory);
+    std::transform(bitmap.pixels.begin(), bitmap.pixels.end(), static_cast<std::uint32_t*>(memory), straight);
+    // Rows of the mask are padded to 16 bits; a bit is set where nothing of the picture is to be seen.
+    const std::size_t stride = (static_cast<std::size_t>(bitmap.width) + 15) / 16 * 2;
+    std::vector<Byte> bits(stride * static_cast<std::size_t>(bitmap.height));
+    for (Long y = 0; y < bitmap.height; ++y) {
+        for (Long x = 0; x < bitmap.width; ++x) {
+            if (bitmap.at(x, y) >> 24U == 0)
+                bits[stride * static_cast<std::size_t>(y) + static_cast<std::size_t>(x) / 8] |=
+                    static_cast<Byte>(0x80U >> (x % 8));
+        }
+    }
+    HBITMAP mask = CreateBitmap(bitmap.width, bitmap.height, 1, 1, bits.data());
+    ICONINFO parts{TRUE, 0, 0, mask, color};
+    HICON icon = mask != nullptr ? CreateIconIndirect(&parts) : nullptr;
+    DeleteObject(color);
+    DeleteObject(mask);
+    if (icon == nullptr)
+        throw RuntimeError(outOfMemory);
+    return icon;
+}
+
+ComRef<IPictureDisp> makeObject(const Picture& picture) {
+    PICTDESC description{};
+    description.cbSizeofstruct = sizeof description;
+    if (picture.kind() == PictureKind::icon) {
+        description.picType = PICTYPE_ICON;
+        description.icon.hicon = iconFor(picture.bitmap());
+    } else {
+        description.picType = PICTYPE_BITMAP;
+        description.bmp.hbitmap = opaqueBitmap(picture.bitmap());
+    }
+    void* made = nullptr;
+    if (FAILED(OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE, &made))) {
+        if (description.picType == PICTYPE_ICON)
+            DestroyIcon(description.icon.hicon);
+        else
+            DeleteObject(description.bmp.hbitmap);
+        throw RuntimeError(outOfMemory);
+    }
+    return ComRef<IPictureDisp>::adopting(static_cast<IPictureDisp*>(made));
+}
+
+} // namespace
+
+PictureRef pictureFrom(IPictureDisp* picture) {
+    const ComRef<IUnknown> identity = queryFor<IUnknown>(picture);
+    if (!identity)
+        return nullptr;
+    if (PictureRef known = pairs().oursFor(identity.get()))
+        return known;
+    ComRef<IPicture> content = queryFor<IPicture>(picture);
+    return content ? entered(std::move(content)) : nullptr;
+}
+
+ComRef<IPictureDisp> toIPicture(const PictureRef& picture) {
+    if (!picture)
+        return {};
+    if (IPicture* hosts = hostsPicture(*picture))
+        return queryFor<IPictureDisp>(hosts);
+    if (picture->bitmap().pixels.empty())
+        return {};
+    if (ComRef<IPictureDisp> known = pairs().theirsFor(picture.get()))
+        return known;
+    ComRef<IPictureDisp> made = makeObject(*picture);
+    const ComRef<IUnknown> identity = made.as<IUnknown>();
+    // The sink belongs to the object and ends with it; it keeps the picture alive for the host.
+    const ComRef<PropertySink> sink =
+        PropertySink::make({}, [picture, object = identity.get()] { pairs().forget(object, picture.get()); });
+    DWORD cookie = 0;
+    if (sink->listenTo(made.get(), cookie)) {
+        pairs().enterOurs(identity.get(), picture);
+        pairs().enterTheirs(picture.get(), made.get());
+    }
+    return made;
+}
+
+IPicture* hostsPicture(const Picture& picture) {
+    const auto* hosts = dynamic_cast<const OlePicture*>(&picture);
+    return hosts != nullptr ? hosts->object() : nullptr;
+}
+
+PictureRef loadOlePicture(std::span<const Byte> image, std::uint64_t freePixels) {
+    if (image.size() > 0x7FFFFFFF)
+        throw RuntimeError(invalidPicture);
+    // The system's loader believes whatever an image says of itself.
+    checkImage(image, freePixels);
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, image.size());
+    ComRef<IStream> stream;
+    if (memory == nullptr || FAILED(CreateStreamOnHGlobal(memory, TRUE, stream.out()))) {
+        GlobalFree(memory);
+        throw RuntimeError(outOfMemory);
+    }
+    std::copy(image.begin(), image.end(), static_cast<Byte*>(GlobalLock(memory)));
+    GlobalUnlock(memory);
+    void* made = nullptr;
+    if (FAILED(OleLoadPicture(stream.get(), static_cast<LONG>(image.size()), FALSE, IID_IPicture, &made)))
+        throw RuntimeError(invalidPicture);
+    PictureRef picture = entered(ComRef<IPicture>::adopting(static_cast<IPicture*>(made)));
+    if (picture->bitmap().pixels.empty())
+        throw RuntimeError(invalidPicture);
+    return picture;
+}
+
+} // namespace lumtex

@@ -1,0 +1,71 @@
+#include "worlds/win32/timer_window.h"
+
+#include "values/runtime_error.h"
+#include "worlds/win32/win32_timer.h"
+
+namespace lumtex {
+
+namespace {
+
+constexpr UINT postedWork = WM_APP;
+
+} // namespace
+
+TimerWindow::TimerWindow(HINSTANCE instance, TickSource& ticks)
+    : ticks_(ticks), class_(instance, L"LumtexTimers", procedure, 0) {
+    window_ = CreateWindowExW(0, class_.name(), L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, instance, nullptr);
+    if (window_ == nullptr)
+        throw RuntimeError(outOfMemory);
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+TimerWindow::~TimerWindow() {
+    DestroyWindow(window_);
+}
+
+UINT_PTR TimerWindow::start(Win32Timer& timer, Long milliseconds) {
+    // Each run has a number of its own, so that a tick of an earlier run that is still on its way is told
+    // apart.
+    const UINT_PTR run = ++lastRun_;
+    if (!ticks_.start(window_, run, milliseconds))
+        return 0;
+    running_.emplace(run, &timer);
+    return run;
+}
+
+void TimerWindow::stop(UINT_PTR run) {
+    if (running_.erase(run) > 0)
+        ticks_.stop(window_, run);
+}
+
+void TimerWindow::tick(UINT_PTR run) {
+    const auto found = running_.find(run);
+    if (found != running_.end())
+        found->second->tick();
+}
+
+bool TimerWindow::post(void (*work)(void*), void* argument) const {
+    static_assert(sizeof(work) == sizeof(WPARAM) && sizeof(argument) == sizeof(LPARAM));
+    return PostMessageW(
+               window_, postedWork, reinterpret_cast<WPARAM>(work), reinterpret_cast<LPARAM>(argument)) !=
+           FALSE;
+}
+
+LRESULT CALLBACK TimerWindow::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    if (message == postedWork) {
+        reinterpret_cast<void (*)(void*)>(wParam)(reinterpret_cast<void*>(lParam));
+        return 0;
+    }
+    auto* timers = reinterpret_cast<TimerWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message != WM_TIMER || timers == nullptr)
+        return DefWindowProcW(window, message, wParam, lParam);
+    try {
+        timers->tick(wParam);
+    } catch (...) {
+        // The border of the system: no failure passes, and there is nobody to tell.
+        return 0;
+    }
+    return 0;
+}
+
+} // namespace lumtex

@@ -1,0 +1,364 @@
+#include "log_comparison.h"
+#include "recording_tips.h"
+#include "test_fonts.h"
+#include "test_object.h"
+#include "tips/qi.h"
+#include "tips/tool_tip.h"
+#include "values/color.h"
+#include "worlds/headless/desktop.h"
+
+#include <gtest/gtest.h>
+
+namespace lumtex::testing {
+namespace {
+
+class Plain final : public UserControl {};
+
+class ToolTip : public ::testing::Test, private TextBoxClient {
+  protected:
+    ToolTip() {
+        form->properties[u"hwnd"] = formWindow->hWnd();
+        first = control(101);
+        second = control(102);
+    }
+
+    /// On the form.
+    std::shared_ptr<TestObject> control(WindowHandle handle) const {
+        auto made = std::make_shared<TestObject>();
+        made->properties[u"hwnd"] = handle;
+        made->properties[u"Container"] = ObjectRef(form);
+        return made;
+    }
+    std::string number(Long value) const { return std::to_string(value); }
+    std::string owner() const { return number(formWindow->hWnd()); }
+    /// With its window, and nothing recorded yet.
+    lmToolTip& created() {
+        EXPECT_TRUE(tips.Create(form));
+        platform.log.clear();
+        return tips;
+    }
+
+    void textBoxKeyPress(Integer& /*KeyAscii*/) override {}
+    void textBoxLostFocus() override {}
+
+    Desktop desktop{testFonts()};
+    RecordingTips platform{desktop.tips()};
+    Plain client;
+    std::unique_ptr<Window> formWindow = desktop.createWindow(nullptr, client);
+    std::unique_ptr<TextBox> box = desktop.createTextBox(*formWindow, *this);
+    std::shared_ptr<TestObject> form = std::make_shared<TestObject>();
+    std::shared_ptr<TestObject> first;
+    std::shared_ptr<TestObject> second;
+    lmToolTip tips{desktop.runtime(), platform};
+};
+
+TEST_F(ToolTip, CreateMakesAWindowOfThePlatformsTipClassOwnedByTheParent) {
+    EXPECT_EQ(tips.hwnd(), 0);
+    EXPECT_TRUE(tips.Create(form));
+    EXPECT_NE(tips.hwnd(), 0);
+    EXPECT_TRUE(sameLog(platform.take(),
+                        {"InitCommonControls",
+                         "CreateWindow extendedStyle=0 class=tooltips_class32 style=1 owner=" + owner()}));
+}
+
+TEST_F(ToolTip, ASecondCreateReturnsTrueAndKeepsTheWindow) {
+    created();
+    const WindowHandle window = tips.hwnd();
+    EXPECT_TRUE(tips.Create(form));
+    EXPECT_EQ(tips.hwnd(), window);
+    EXPECT_TRUE(platform.log.empty());
+    EXPECT_EQ(desktop.tips().windowCount(), 1U);
+}
+
+TEST_F(ToolTip, CreateRefusesAParentThatIsNeitherFormNorControlSurface) {
+    const auto windowless = std::make_shared<TestObject>();
+    const auto textBox = std::make_shared<TestObject>();
+    textBox->properties[u"hwnd"] = box->hWnd();
+    const auto gone = std::make_shared<TestObject>();
+    gone->properties[u"hwnd"] = Long{12345};
+    const auto odd = std::make_shared<TestObject>();
+    odd->properties[u"hwnd"] = u"no number";
+    for (const ObjectRef& parent :
+         {ObjectRef(), ObjectRef(windowless), ObjectRef(textBox), ObjectRef(gone), ObjectRef(odd)})
+        EXPECT_FALSE(tips.Create(parent));
+    EXPECT_TRUE(platform.log.empty());
+    EXPECT_TRUE(desktop.runtime().boxes.empty());
+}
+
+TEST_F(ToolTip, CreateRefusesSuchAParentAlsoOnceThereIsAWindow) {
+    created();
+    EXPECT_FALSE(tips.Create(nullptr));
+    EXPECT_NE(tips.hwnd(), 0);
+}
+
+TEST_F(ToolTip, CreateIsFalseWhereThePlatformGivesNoWindow) {
+    platform.refusesWindows = true;
+    EXPECT_FALSE(tips.Create(form));
+    EXPECT_EQ(tips.hwnd(), 0);
+    platform.refusesWindows = false;
+    EXPECT_TRUE(tips.Create(form));
+}
+
+TEST_F(ToolTip, TheWindowGoesWithTheObject) {
+    {
+        lmToolTip other(desktop.runtime(), platform);
+        other.Create(form);
+        EXPECT_EQ(desktop.tips().windowCount(), 1U);
+    }
+    EXPECT_EQ(platform.log.back(), "DestroyWindow");
+    EXPECT_EQ(desktop.tips().windowCount(), 0U);
+    platform.log.clear();
+    { const lmToolTip never(desktop.runtime(), platform); }
+    EXPECT_TRUE(platform.log.empty());
+}
+
+TEST_F(ToolTip, AddToolLooksForTheControlAndSendsItsRecord) {
+    EXPECT_TRUE(created().AddTool(first, u"Größe"));
+    EXPECT_TRUE(
+        sameLog(platform.take(),
+                {"1037 wParam=0 lParam=0", "1028 size=40 flags=17 owner=" + owner() + " id=101 text=Größe"}));
+    EXPECT_EQ(desktop.tips().tipOf(101), u"Größe");
+}
+
+TEST_F(ToolTip, AddToolForAControlThatHasAToolReturnsFalse) {
+    created().AddTool(first, u"old");
+    tips.AddTool(second, u"other");
+    platform.log.clear();
+    EXPECT_FALSE(tips.AddTool(second, u"new"));
+    EXPECT_TRUE(sameLog(
+        platform.take(),
+        {"1037 wParam=0 lParam=0", "1038 index=0 size=40 buffer=none", "1038 index=1 size=40 buffer=none"}));
+    EXPECT_EQ(tips.ToolCount(), 2);
+    EXPECT_EQ(tips.ToolText(second), u"other");
+}
+
+TEST_F(ToolTip, AControlWithoutAContainerHasNoOwnerAndNoReport) {
+    const auto alone = std::make_shared<TestObject>();
+    alone->properties[u"hwnd"] = Long{7};
+    const auto strange = std::make_shared<TestObject>();
+    strange->properties[u"hwnd"] = Long{8};
+    strange->properties[u"Container"] = u"no object";
+    EXPECT_TRUE(created().AddTool(alone, u"a"));
+    EXPECT_TRUE(tips.AddTool(strange, u""));
+    EXPECT_EQ(platform.log[1], "1028 size=40 flags=17 owner=0 id=7 text=a");
+    EXPECT_EQ(platform.log.back(), "1028 size=40 flags=17 owner=0 id=8 text=");
+    EXPECT_TRUE(desktop.runtime().boxes.empty());
+}
+
+TEST_F(ToolTip, RemoveToolSendsTheRecordThatWasFound) {
+    created().AddTool(first, u"a");
+    tips.AddTool(second, u"b");
+    platform.log.clear();
+    EXPECT_TRUE(tips.RemoveTool(first));
+    EXPECT_TRUE(sameLog(platform.take(),
+                        {"1037 wParam=0 lParam=0",
+                         "1038 index=0 size=40 buffer=none",
+                         "1029 size=40 flags=17 owner=" + owner() + " id=101 text=none"}));
+    EXPECT_FALSE(tips.RemoveTool(first));
+    EXPECT_EQ(tips.ToolCount(), 1);
+    EXPECT_EQ(tips.ToolText(second), u"b");
+}
+
+TEST_F(ToolTip, ToolTextReadsThroughABufferThatGrowsWithTheLongestText) {
+    created().AddTool(first, u"four");
+    EXPECT_EQ(tips.ToolText(first), u"four");
+    EXPECT_EQ(platform.log.back(), "1038 index=0 size=40 buffer=5");
+    tips.letToolText(first, u"twelve units");
+    EXPECT_EQ(tips.ToolText(first), u"twelve units");
+    EXPECT_EQ(platform.log.back(), "1038 index=0 size=40 buffer=13");
+    tips.letToolText(first, u"six");
+    EXPECT_EQ(tips.ToolText(first), u"six");
+    EXPECT_EQ(platform.log.back(), "1038 index=0 size=40 buffer=13");
+    tips.AddTool(second, String(300, u'x'));
+    EXPECT_EQ(tips.ToolText(first), u"six");
+    EXPECT_EQ(tips.ToolText(second), String(300, u'x'));
+    EXPECT_EQ(platform.log.back(), "1038 index=1 size=40 buffer=301");
+}
+
+TEST_F(ToolTip, ToolTextEndsAtTheFirstZero) {
+    created().AddTool(first, StringView(u"ab\0cd", 5));
+    EXPECT_EQ(tips.ToolText(first), u"ab");
+}
+
+TEST_F(ToolTip, ToolTextIsTheWholeBufferWhereItHasNoZero) {
+    created().AddTool(first, u"ab");
+    // Someone else's text in the same window, longer than all that went through here.
+    ToolInfo tool{.size = 40, .flags = 17, .owner = formWindow->hWnd(), .id = 101, .text = u"abcdef"};
+    desktop.tips().send(tips.hwnd(), ttmUpdateTipText, 0, tool);
+    EXPECT_EQ(tips.ToolText(first), u"abc");
+}
+
+TEST_F(ToolTip, SettingToolTextSendsTheRecordWithTheNewText) {
+    created().AddTool(first, u"a");
+    platform.log.clear();
+    tips.letToolText(first, u"b");
+    EXPECT_TRUE(sameLog(platform.take(),
+                        {"1037 wParam=0 lParam=0",
+                         "1038 index=0 size=40 buffer=none",
+                         "1036 size=40 flags=17 owner=" + owner() + " id=101 text=b"}));
+}
+
+TEST_F(ToolTip, SettingToolTextOfAControlWithoutAToolMakesNone) {
+    created().letToolText(first, u"b");
+    EXPECT_EQ(tips.ToolCount(), 0);
+    EXPECT_EQ(tips.ToolText(first), u"");
+}
+
+TEST_F(ToolTip, ColoursGoThroughTheirMessages) {
+    created().letBackColor(0xFF8040U);
+    EXPECT_EQ(tips.BackColor(), 0xFF8040U);
+    tips.letForeColor(0x80000017U);
+    EXPECT_TRUE(sameLog(
+        platform.take(),
+        {"1043 wParam=16744512 lParam=0", "1046 wParam=0 lParam=0", "1044 wParam=-2147483625 lParam=0"}));
+}
+
+TEST_F(ToolTip, ReadingForeColorSetsTheTextToBlack) {
+    // Wanted: reading ForeColor sends the setter's message with a colour of 0, which turns the text black.
+    created().letForeColor(0x0000FFU);
+    platform.log.clear();
+    EXPECT_EQ(tips.ForeColor(), 0U);
+    EXPECT_TRUE(sameLog(platform.take(), {"1044 wParam=0 lParam=0"}));
+    EXPECT_EQ(desktop.tips().textColorOf(tips.hwnd()), black);
+}
+
+struct DelayRule {
+    const char* name;
+    Long which;
+    Long sent;
+};
+
+TEST_F(ToolTip, WhichDelayTimeIsMaskedWithThree) {
+    constexpr DelayRule rules[] = {
+        {"reshow", 1, 1},
+        {"auto pop", 2, 2},
+        {"initial", 3, 3},
+        {"five is one", 5, 1},
+        {"minus one is three", -1, 3},
+    };
+    created();
+    for (const DelayRule& rule : rules) {
+        SCOPED_TRACE(rule.name);
+        platform.log.clear();
+        tips.letDelayTime(rule.which, 1000 + rule.which);
+        EXPECT_EQ(tips.DelayTime(rule.which), 1000 + rule.which);
+        EXPECT_TRUE(sameLog(platform.take(),
+                            {"1027 wParam=" + number(rule.sent) + " lParam=" + number(1000 + rule.which),
+                             "1045 wParam=" + number(rule.sent) + " lParam=0"}));
+    }
+}
+
+TEST_F(ToolTip, MarginReadsAllFourAndReplacesOne) {
+    created();
+    for (Long side = 0; side < 4; ++side)
+        tips.letMargin(side, 10 + side);
+    EXPECT_TRUE(sameLog(platform.take(),
+                        {"1051 margins=0,0,0,0",
+                         "1050 margins=10,0,0,0",
+                         "1051 margins=10,0,0,0",
+                         "1050 margins=10,11,0,0",
+                         "1051 margins=10,11,0,0",
+                         "1050 margins=10,11,12,0",
+                         "1051 margins=10,11,12,0",
+                         "1050 margins=10,11,12,13"}));
+    for (Long side = 0; side < 4; ++side)
+        EXPECT_EQ(tips.Margin(side), 10 + side);
+    EXPECT_EQ(tips.Margin(4), 0);
+    EXPECT_EQ(tips.Margin(-1), 0);
+    platform.log.clear();
+    tips.letMargin(4, 1);
+    tips.letMargin(-1, 1);
+    EXPECT_TRUE(platform.log.empty());
+}
+
+TEST_F(ToolTip, MaxTipWidthBelowOneIsSentAsMinusOne) {
+    created();
+    for (const Integer width : {Integer{0}, Integer{-1}, Integer{-32768}}) {
+        tips.letMaxTipWidth(width);
+        EXPECT_EQ(platform.log.back(), "1048 wParam=0 lParam=-1");
+        EXPECT_EQ(tips.MaxTipWidth(), -1);
+    }
+    for (const Integer width : {Integer{1}, Integer{32767}}) {
+        tips.letMaxTipWidth(width);
+        EXPECT_EQ(platform.log.back(), "1048 wParam=0 lParam=" + number(width));
+        EXPECT_EQ(tips.MaxTipWidth(), width);
+    }
+    EXPECT_EQ(platform.log.back(), "1049 wParam=0 lParam=0");
+}
+
+TEST_F(ToolTip, EverythingWithoutAWindowIsAQuietNoOp) {
+    EXPECT_FALSE(tips.AddTool(first, u"a"));
+    EXPECT_FALSE(tips.RemoveTool(first));
+    tips.letToolText(first, u"a");
+    EXPECT_EQ(tips.ToolText(first), u"");
+    EXPECT_EQ(tips.ToolCount(), 0);
+    tips.letBackColor(white);
+    EXPECT_EQ(tips.BackColor(), 0U);
+    tips.letForeColor(white);
+    EXPECT_EQ(tips.ForeColor(), 0U);
+    tips.letDelayTime(tipDelayAutoPop, 1);
+    EXPECT_EQ(tips.DelayTime(tipDelayAutoPop), 0);
+    tips.letMargin(0, 1);
+    EXPECT_EQ(tips.Margin(0), 0);
+    tips.letMaxTipWidth(1);
+    EXPECT_EQ(tips.MaxTipWidth(), 0);
+    EXPECT_TRUE(platform.log.empty());
+    EXPECT_TRUE(desktop.runtime().boxes.empty());
+}
+
+TEST_F(ToolTip, AControlWithoutAWindowIsAQuietNoOp) {
+    created();
+    const auto windowless = std::make_shared<TestObject>();
+    for (const ObjectRef& odd : {ObjectRef(), ObjectRef(windowless)}) {
+        EXPECT_FALSE(tips.AddTool(odd, u"a"));
+        EXPECT_FALSE(tips.RemoveTool(odd));
+        tips.letToolText(odd, u"a");
+        EXPECT_EQ(tips.ToolText(odd), u"");
+    }
+    EXPECT_TRUE(platform.log.empty());
+    EXPECT_TRUE(desktop.runtime().boxes.empty());
+}
+
+class QiTest : public ToolTip {
+  protected:
+    QI qi{desktop};
+};
+
+TEST_F(QiTest, CreateMakesTheTipWithWidthDelayAndText) {
+    qi.Create(form, first, u"Hello", 2500, 0);
+    ASSERT_NE(qi.toolTip(), nullptr);
+    EXPECT_EQ(qi.toolTip()->MaxTipWidth(), -1);
+    EXPECT_EQ(qi.toolTip()->DelayTime(tipDelayAutoPop), 2500);
+    EXPECT_EQ(qi.toolTip()->ToolText(first), u"Hello");
+    EXPECT_EQ(desktop.tips().tipOf(101), u"Hello");
+}
+
+TEST_F(QiTest, ARepeatedCreateChangesTheTextAndKeepsOneTool) {
+    qi.Create(form, first, u"old", 1000, 100);
+    qi.Create(form, first, u"new and longer", 1000, 100);
+    EXPECT_EQ(qi.toolTip()->ToolCount(), 1);
+    EXPECT_EQ(qi.toolTip()->ToolText(first), u"new and longer");
+}
+
+TEST_F(QiTest, RemoveBeforeAnyCreateDoesNothing) {
+    qi.Remove(first);
+    ASSERT_NE(qi.toolTip(), nullptr);
+    EXPECT_EQ(qi.toolTip()->hwnd(), 0);
+    EXPECT_EQ(desktop.tips().windowCount(), 0U);
+    EXPECT_TRUE(desktop.runtime().boxes.empty());
+}
+
+TEST_F(QiTest, RemoveTakesTheTipAway) {
+    qi.Create(form, first, u"a", 1000, 0);
+    qi.Remove(first);
+    EXPECT_EQ(desktop.tips().tipOf(101), std::nullopt);
+}
+
+TEST_F(QiTest, AParentThatIsRefusedLeavesEverythingQuiet) {
+    qi.Create(nullptr, first, u"a", 1000, 0);
+    EXPECT_EQ(qi.toolTip()->hwnd(), 0);
+    EXPECT_TRUE(desktop.runtime().boxes.empty());
+}
+
+} // namespace
+} // namespace lumtex::testing

@@ -1,0 +1,199 @@
+#include "desktop_fixture.h"
+#include "error_number.h"
+#include "scratch_folder.h"
+#include "test_object.h"
+#include "values/fixed_locale.h"
+#include "values/text.h"
+#include "values/version.h"
+
+#include <array>
+#include <filesystem>
+
+namespace lumtex::testing {
+
+using MessageBoxes = DesktopFixture;
+using RuntimeRules = DesktopFixture;
+
+TEST_F(MessageBoxes, AreNotedWithTextStyleAndTitle) {
+    desktop.runtime().messageBox(u"Min darf nicht größer sein als Max!", boxCritical, u"");
+    desktop.runtime().messageBox(u"b", boxPlain, u"Error");
+    ASSERT_EQ(desktop.runtime().boxes.size(), 2U);
+    EXPECT_EQ(desktop.runtime().boxes[0].text, u"Min darf nicht größer sein als Max!");
+    EXPECT_EQ(desktop.runtime().boxes[0].style, boxCritical);
+    EXPECT_EQ(desktop.runtime().boxes[0].title, u"");
+    EXPECT_EQ(desktop.runtime().boxes[1].title, u"Error");
+}
+
+TEST_F(MessageBoxes, LetHostCodeAndWaitingEventsRunWhileTheyAreOpen) {
+    desktop.runtime().whileBoxIsOpen = [this] { events.record("host"); };
+    desktop.postMove({15, 25});
+    desktop.runtime().messageBox(u"", boxPlain, u"");
+    events.record("dismissed");
+    EXPECT_TRUE(sameLog(events.take(), {"  host", "  a.MouseMove Button=0 Shift=0 X=5 Y=5", "dismissed"}));
+}
+
+TEST_F(MessageBoxes, ASecondBoxComesOnTopOfTheFirst) {
+    events.on("a.MouseMove", [this] {
+        events.record("second");
+        desktop.runtime().messageBox(u"second", boxPlain, u"");
+    });
+    desktop.runtime().whileBoxIsOpen = [this] {
+        events.record("open", {{"boxes", static_cast<Long>(desktop.runtime().boxes.size())}});
+    };
+    desktop.postMove({15, 25});
+    desktop.runtime().messageBox(u"first", boxPlain, u"");
+    EXPECT_TRUE(sameLog(
+        events.take(),
+        {"  open boxes=1", "  a.MouseMove Button=0 Shift=0 X=5 Y=5", "  second", "    open boxes=2"}));
+}
+
+TEST_F(MessageBoxes, HostCodeMayTakeItselfBack) {
+    int opened = 0;
+    desktop.runtime().whileBoxIsOpen = [&] {
+        ++opened;
+        desktop.runtime().whileBoxIsOpen = nullptr;
+    };
+    desktop.runtime().messageBox(u"", boxPlain, u"");
+    desktop.runtime().messageBox(u"", boxPlain, u"");
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(MessageBoxes, BoxesThatOpenBoxesEndAtTheBound) {
+    desktop.runtime().whileBoxIsOpen = [this] {
+        desktop.post([] {});
+        desktop.runtime().messageBox(u"again", boxPlain, u"");
+    };
+    desktop.runtime().messageBox(u"first", boxPlain, u"");
+    EXPECT_EQ(desktop.runtime().boxes.size(), static_cast<std::size_t>(EventLoop::deepest) + 1);
+    EXPECT_EQ(desktop.yieldDepth(), 0);
+    EXPECT_TRUE(desktop.idle());
+}
+
+/// The text under a key of the current user, without its closing zero; "-" for none.
+std::string settingOf(const HeadlessRuntime& runtime, StringView key, StringView name) {
+    const std::optional<StoredSetting> stored = runtime.storedSetting(currentUserHive, key, name);
+    return stored ? std::string(stored->data.begin(), stored->data.end() - 1) : "-";
+}
+
+TEST_F(RuntimeRules, SettingsAreFoundInAnyCase) {
+    HeadlessRuntime& runtime = desktop.runtime();
+    EXPECT_EQ(settingOf(runtime, u"Software\\Lumtex", u"ErrorLog"), "-");
+    runtime.letSetting(u"Software\\Lumtex", u"ErrorLog", u"C:\\Log");
+    EXPECT_EQ(settingOf(runtime, u"software\\LUMTEX", u"errorLOG"), "C:\\Log");
+    EXPECT_EQ(settingOf(runtime, u"Software\\Lumtex", u"Other"), "-");
+    EXPECT_EQ(settingOf(runtime, u"Software", u"Lumtex\\ErrorLog"), "-");
+    runtime.letSetting(u"SOFTWARE\\LUMTEX", u"ERRORLOG", u"D:\\");
+    EXPECT_EQ(settingOf(runtime, u"Software\\Lumtex", u"ErrorLog"), "D:\\");
+}
+
+TEST_F(RuntimeRules, SettingsOfAnotherHiveAreOthers) {
+    HeadlessRuntime& runtime = desktop.runtime();
+    runtime.letSetting(currentUserHive + 1, u"Software", u"Name", {StoredSetting::number, {1, 0, 0, 0}});
+    EXPECT_EQ(settingOf(runtime, u"Software", u"Name"), "-");
+    EXPECT_EQ(runtime.storedSetting(currentUserHive + 1, u"software", u"name")->type, StoredSetting::number);
+}
+
+TEST_F(RuntimeRules, TheComponentIsTheProjectUntilATestSaysOtherwise) {
+    const ComponentInfo& info = desktop.runtime().component();
+    EXPECT_EQ(info.exeName, u"LumtexListView");
+    EXPECT_EQ(info.major, versionMajor);
+    EXPECT_EQ(info.minor, versionMinor);
+    EXPECT_EQ(info.revision, versionRevision);
+    EXPECT_TRUE(std::filesystem::is_directory(toUtf8(info.folder)));
+    desktop.runtime().componentInfo.exeName = u"Other";
+    EXPECT_EQ(info.exeName, u"Other");
+}
+
+TEST_F(RuntimeRules, TheRunningProgramIsTheOneProcess) {
+    const HeadlessRuntime& runtime = desktop.runtime();
+    const std::optional<std::vector<ProcessEntry>> processes = runtime.processes();
+    ASSERT_TRUE(processes.has_value());
+    ASSERT_EQ(processes->size(), 1U);
+    EXPECT_EQ(processes->front().id, runtime.currentProcessId());
+    const std::filesystem::path path = toUtf8(runtime.fullPathName(processes->front().fileName));
+    EXPECT_EQ(path.filename(), "lumtex_test_headless");
+    EXPECT_TRUE(std::filesystem::exists(path));
+}
+
+TEST_F(RuntimeRules, AFileNameIsCompletedFromTheCurrentFolder) {
+    const String current = fromUtf8(std::filesystem::current_path().string());
+    EXPECT_EQ(desktop.runtime().fullPathName(u"name.txt"), current + u"/name.txt");
+    EXPECT_EQ(desktop.runtime().fullPathName(u"/some/./name.txt"), u"/some/name.txt");
+}
+
+TEST_F(RuntimeRules, TheDateMovesWithTheVirtualClock) {
+    HeadlessRuntime& runtime = desktop.runtime();
+    EXPECT_EQ(currentLocale().dateText(runtime.now()), u"2000-01-01");
+    EXPECT_EQ(currentLocale().timeText(runtime.now()), u"12:00:00");
+    runtime.clock = Date{45000.25};
+    desktop.advance(std::chrono::hours(24) + std::chrono::seconds(61));
+    EXPECT_EQ(currentLocale().dateText(runtime.now()), u"2023-03-16");
+    EXPECT_EQ(currentLocale().timeText(runtime.now()), u"06:01:01");
+}
+
+TEST_F(RuntimeRules, TextConvertsByTheInvariantRulesUntilAnotherLocaleIsGiven) {
+    EXPECT_EQ(Variant(1.5).toText(), u"1.5");
+    EXPECT_EQ(Variant(Date{36526}).toText(), u"2000-01-01");
+    {
+        Desktop german;
+        german.runtime().letLocale(germanLocale());
+        EXPECT_EQ(Variant(1.5).toText(), u"1,5");
+        EXPECT_EQ(Variant(Date{36526}).toText(), u"01.01.2000");
+        EXPECT_EQ(Variant(u"1,5").toDouble(), 1.5);
+        german.runtime().letLocale(invariantLocale());
+        EXPECT_EQ(Variant(1.5).toText(), u"1.5");
+        german.runtime().letLocale(germanLocale());
+    }
+    EXPECT_EQ(Variant(1.5).toText(), u"1.5");
+}
+
+class AppendToFile : public DesktopFixture {
+  protected:
+    const ScratchFolder folder;
+};
+
+TEST_F(AppendToFile, GrowsTheFileAndKeepsLineEndsAsGiven) {
+    desktop.runtime().appendToFile(folder.pathTo("log.txt"), u"größer\r\n");
+    desktop.runtime().appendToFile(folder.pathTo("log.txt"), u"b\n");
+    EXPECT_EQ(folder.contentOf("log.txt"),
+              "gr\xC3\xB6\xC3\x9F"
+              "er\r\nb\n");
+}
+
+TEST_F(AppendToFile, BackslashesSeparateFolders) {
+    std::filesystem::create_directories(folder.path / "inner");
+    String path = folder.pathTo("inner");
+    path += u"\\log.txt";
+    desktop.runtime().appendToFile(path, u"a");
+    EXPECT_EQ(folder.contentOf("inner/log.txt"), "a");
+}
+
+TEST_F(AppendToFile, FailsWithThePathWhereTheFolderDoesNotExist) {
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(folder.pathTo("missing\\log.txt"), u"a"); }),
+              pathNotFound);
+    EXPECT_FALSE(std::filesystem::exists(folder.path / "missing"));
+}
+
+TEST_F(AppendToFile, FailsWithTheAccessWhereTheFileCannotBeOpened) {
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(fromUtf8(folder.path.string()), u"a"); }),
+              pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(u"", u"a"); }), pathFileAccess);
+}
+
+TEST_F(RuntimeRules, ObjectsComeFromTheirFactories) {
+    constexpr Long cannotCreateObject = 429;
+    HeadlessRuntime& runtime = desktop.runtime();
+    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), cannotCreateObject);
+    const auto object = std::make_shared<TestObject>();
+    runtime.factories[u"Some.Class"] = [&] { return object; };
+    EXPECT_EQ(runtime.createObject(u"some.CLASS"), object);
+    runtime.factories[u"Some.Class"] = nullptr;
+    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), cannotCreateObject);
+}
+
+TEST_F(RuntimeRules, APixelIsFifteenTwips) {
+    EXPECT_EQ(desktop.runtime().twipsPerPixelY(), 15);
+    EXPECT_EQ(desktop.runtime().applicationObject(), nullptr);
+}
+
+} // namespace lumtex::testing
