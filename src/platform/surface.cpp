@@ -1,5 +1,6 @@
 #include "platform/surface.h"
 
+#include "values/pixels.h"
 #include "values/rounding.h"
 
 namespace lumtex {
@@ -7,7 +8,6 @@ namespace lumtex {
 namespace {
 
 constexpr Double twipsPerInch = 1440;
-constexpr Double himetricPerInch = 2540;
 
 Double unitsPerInch(ScaleUnit unit, Double pixelsPerInch) {
     switch (unit) {

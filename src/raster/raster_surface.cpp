@@ -4,6 +4,7 @@
 #include "raster/text_painter.h"
 #include "values/picture_part.h"
 #include "values/picture_scale.h"
+#include "values/pixels.h"
 #include "values/rounding.h"
 #include "values/text.h"
 
@@ -172,7 +173,7 @@ void RasterSurface::paintPicture(const Picture& picture,
 void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) {
     if (width <= 0 || height <= 0 || source.width <= 0 || source.height <= 0)
         return;
-    const std::size_t stride = (static_cast<std::size_t>(source.width) * 3 + 3) / 4 * 4;
+    const std::uint64_t stride = dibStride(source.width, 24);
     if (source.bytes.size() < stride * static_cast<std::size_t>(source.height))
         return;
     const Canvas target = canvas();

@@ -1,8 +1,10 @@
 #include "values/picture_image.h"
 
+#include "values/pixels.h"
 #include "values/runtime_error.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <limits>
 
 namespace lumtex {
@@ -13,8 +15,7 @@ constexpr std::uint64_t fileHeaderSize = 14;
 constexpr std::uint64_t iconDirectorySize = 22; // with one entry
 constexpr std::uint64_t infoHeaderSize = 40;
 constexpr std::uint64_t alphaHeaderSize = 108;
-constexpr Long largestIcon = 256;     // pixels a side, as readers of icon files have it
-constexpr std::uint64_t lineUnit = 4; // bytes to whose multiples a line of pixels is filled up
+constexpr Long largestIcon = 256; // pixels a side, as readers of icon files have it
 
 using Image = std::vector<Byte>;
 
@@ -23,10 +24,6 @@ enum Compression : Byte { uncompressed = 0, bitFields = 3 };
 void append(Image& image, std::uint64_t value, unsigned bytes) {
     for (unsigned i = 0; i < bytes; ++i)
         image.push_back(static_cast<Byte>(value >> (8 * i)));
-}
-
-constexpr std::uint64_t lineSize(std::uint64_t width, unsigned bits) {
-    return (width * bits + 8 * lineUnit - 1) / (8 * lineUnit) * lineUnit;
 }
 
 /// All of the header but its own size.
@@ -64,7 +61,7 @@ void appendAlphaHeader(Image& image, const Bitmap& bitmap, std::uint64_t dataSiz
 
 /// From the lowest line up, blue first; with alpha as the fourth byte of 32 bits.
 void appendPixels(Image& image, const Bitmap& bitmap, unsigned bits) {
-    const std::uint64_t size = lineSize(static_cast<std::uint64_t>(bitmap.width), bits);
+    const std::uint64_t size = dibStride(bitmap.width, bits);
     for (Long y = bitmap.height - 1; y >= 0; --y) {
         const std::size_t start = image.size();
         for (Long x = 0; x < bitmap.width; ++x) {
@@ -78,16 +75,12 @@ void appendPixels(Image& image, const Bitmap& bitmap, unsigned bits) {
     }
 }
 
-/// A bit for each pixel, set where nothing of it is to be seen.
+/// From the lowest line up.
 void appendMask(Image& image, const Bitmap& bitmap) {
-    const std::uint64_t size = lineSize(static_cast<std::uint64_t>(bitmap.width), 1);
-    for (Long y = bitmap.height - 1; y >= 0; --y) {
-        const std::size_t start = image.size();
-        image.resize(start + size);
-        for (Long x = 0; x < bitmap.width; ++x)
-            if (bitmap.at(x, y) >> 24U == 0)
-                image[start + static_cast<std::size_t>(x) / 8] |= static_cast<Byte>(0x80U >> (x % 8));
-    }
+    const std::vector<Byte> rows = maskRows(bitmap, 32);
+    const auto size = static_cast<std::ptrdiff_t>(dibStride(bitmap.width, 1));
+    for (auto end = rows.end(); end != rows.begin(); end -= size)
+        image.insert(image.end(), end - size, end);
 }
 
 void refuseSize(std::uint64_t size) {
@@ -99,8 +92,7 @@ enum class Alpha : Byte { dropped, kept };
 
 Image bitmapFile(const Bitmap& bitmap, Alpha alpha) {
     const unsigned bits = alpha == Alpha::kept ? 32 : 24;
-    const std::uint64_t dataSize =
-        lineSize(static_cast<std::uint64_t>(bitmap.width), bits) * static_cast<std::uint64_t>(bitmap.height);
+    const std::uint64_t dataSize = dibStride(bitmap.width, bits) * static_cast<std::uint64_t>(bitmap.height);
     const std::uint64_t dataStart =
         fileHeaderSize + (alpha == Alpha::kept ? alphaHeaderSize : infoHeaderSize);
     refuseSize(dataStart + dataSize);
@@ -121,9 +113,8 @@ Image bitmapFile(const Bitmap& bitmap, Alpha alpha) {
 
 Image iconFile(const Bitmap& bitmap) {
     constexpr unsigned bits = 32;
-    const auto width = static_cast<std::uint64_t>(bitmap.width);
-    const std::uint64_t dataSize =
-        (lineSize(width, bits) + lineSize(width, 1)) * static_cast<std::uint64_t>(bitmap.height);
+    const std::uint64_t dataSize = (dibStride(bitmap.width, bits) + dibStride(bitmap.width, 1)) *
+                                   static_cast<std::uint64_t>(bitmap.height);
     refuseSize(iconDirectorySize + infoHeaderSize + dataSize);
     Image image;
     image.reserve(iconDirectorySize + infoHeaderSize + dataSize);

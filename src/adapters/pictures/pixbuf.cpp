@@ -1,14 +1,10 @@
 #include "adapters/pictures/pixbuf.h"
 
+#include "values/pixels.h"
+
+#include <cstddef>
+
 namespace lumtex {
-
-namespace {
-
-constexpr unsigned premultiplied(unsigned channel, unsigned alpha) {
-    return (channel * alpha + 127) / 255;
-}
-
-} // namespace
 
 Bitmap bitmapOf(const GdkPixbuf* pixbuf) {
     Bitmap bitmap(gdk_pixbuf_get_width(pixbuf), gdk_pixbuf_get_height(pixbuf));
@@ -20,8 +16,8 @@ Bitmap bitmapOf(const GdkPixbuf* pixbuf) {
             const guint8* pixel =
                 bytes + static_cast<std::ptrdiff_t>(y) * stride + static_cast<std::ptrdiff_t>(x) * channels;
             const unsigned alpha = channels == 4 ? pixel[3] : 255U;
-            bitmap.at(x, y) = (alpha << 24U) | (premultiplied(pixel[0], alpha) << 16U) |
-                              (premultiplied(pixel[1], alpha) << 8U) | premultiplied(pixel[2], alpha);
+            const std::uint32_t color = unsigned{pixel[0]} << 16U | unsigned{pixel[1]} << 8U | pixel[2];
+            bitmap.at(x, y) = premultiplied(color, alpha);
         }
     }
     return bitmap;

@@ -1,5 +1,6 @@
 #include "values/references/picture.h"
 
+#include "values/pixels.h"
 #include "values/rounding.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@ namespace lumtex {
 
 namespace {
 
-constexpr Double himetricPerInch = 2540;
 constexpr Double pixelsPerInch = 96;
 
 Long toHimetric(Long pixels) {
