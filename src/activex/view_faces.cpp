@@ -3,6 +3,7 @@
 
 #include "activex/snapshot_enum.h"
 #include "values/runtime_error.h"
+#include "worlds/win32/owned.h"
 
 #include <algorithm>
 
@@ -65,19 +66,14 @@ HMETAFILE drawPlain(ControlCore& core) {
 }
 
 HGLOBAL plainPicture(ControlCore& core) {
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(METAFILEPICT));
-    if (memory == nullptr)
+    OwnedMemory memory(GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(METAFILEPICT)));
+    if (!memory)
         throw RuntimeError(outOfMemory);
-    try {
-        const SIZEL extent = core.extent();
-        HMETAFILE file = drawPlain(core);
-        *static_cast<METAFILEPICT*>(GlobalLock(memory)) = {MM_ANISOTROPIC, extent.cx, extent.cy, file};
-        GlobalUnlock(memory);
-        return memory;
-    } catch (const RuntimeError&) {
-        GlobalFree(memory);
-        throw;
-    }
+    const SIZEL extent = core.extent();
+    HMETAFILE file = drawPlain(core);
+    *static_cast<METAFILEPICT*>(LockedMemory(memory.get()).bytes()) = {
+        MM_ANISOTROPIC, extent.cx, extent.cy, file};
+    return memory.detach();
 }
 
 struct FormatPolicy {

@@ -7,6 +7,7 @@
 #include "worlds/win32/ansi_text.h"
 #include "worlds/win32/com_error.h"
 #include "worlds/win32/ole_picture.h"
+#include "worlds/win32/owned.h"
 
 #include <vector>
 
@@ -45,36 +46,22 @@ class Medium {
     STGMEDIUM medium_{};
 };
 
-/// The bytes of a block of memory while it is locked.
-class Locked {
-  public:
-    explicit Locked(HGLOBAL memory) : memory_(memory), bytes_(GlobalLock(memory)) {
-        if (bytes_ == nullptr)
-            throw RuntimeError(invalidProcedureCall);
-    }
-    Locked(const Locked&) = delete;
-    Locked& operator=(const Locked&) = delete;
-    ~Locked() { GlobalUnlock(memory_); }
-
-    /// As many units as fit; the text in it may end before, at a zero.
-    template <class Unit>
-    std::basic_string_view<Unit> text() const {
-        const std::basic_string_view<Unit> all(static_cast<const Unit*>(bytes_),
-                                               GlobalSize(memory_) / sizeof(Unit));
-        return all.substr(0, all.find(Unit{}));
-    }
-
-  private:
-    HGLOBAL memory_;
-    const void* bytes_;
-};
+/// As many units as fit; the text in it may end before, at a zero.
+template <class Unit>
+std::basic_string_view<Unit> textOf(const LockedMemory& memory) {
+    if (memory.bytes() == nullptr)
+        throw RuntimeError(invalidProcedureCall);
+    const std::basic_string_view<Unit> all(static_cast<const Unit*>(memory.bytes()),
+                                           memory.size() / sizeof(Unit));
+    return all.substr(0, all.find(Unit{}));
+}
 
 Variant textIn(IDataObject& data, CLIPFORMAT format) {
     const Medium medium(data, format);
-    const Locked locked(medium.memory());
+    const LockedMemory locked(medium.memory());
     if (format == CF_UNICODETEXT)
-        return String(locked.text<char16_t>());
-    return textFromAnsi(locked.text<char>());
+        return String(textOf<char16_t>(locked));
+    return textFromAnsi(textOf<char>(locked));
 }
 
 Variant pictureIn(IDataObject& data) {
@@ -82,17 +69,17 @@ Variant pictureIn(IDataObject& data) {
     PICTDESC description{};
     description.cbSizeofstruct = sizeof(description);
     description.picType = PICTYPE_BITMAP;
-    description.bmp.hbitmap =
-        static_cast<HBITMAP>(CopyImage(medium.bitmap(), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
-    if (description.bmp.hbitmap == nullptr)
+    OwnedBitmap copy(
+        static_cast<HBITMAP>(CopyImage(medium.bitmap(), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+    if (!copy)
         throw RuntimeError(outOfMemory);
+    description.bmp.hbitmap = copy.get();
     ComRef<IPictureDisp> picture;
     const HRESULT made = OleCreatePictureIndirect(
         &description, IID_IPictureDisp, TRUE, reinterpret_cast<void**>(picture.out()));
-    if (FAILED(made)) {
-        DeleteObject(description.bmp.hbitmap);
+    if (FAILED(made))
         throw RuntimeError(invalidProcedureCall);
-    }
+    copy.detach(); // the object owns it now
     return Variant(pictureFrom(picture.get()));
 }
 

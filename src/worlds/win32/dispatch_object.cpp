@@ -3,6 +3,7 @@
 
 #include "values/runtime_error.h"
 #include "worlds/win32/com_error.h"
+#include "worlds/win32/owned.h"
 #include "worlds/win32/variant_bridge.h"
 
 #include <vector>
@@ -64,9 +65,8 @@ DISPID DispatchObject::idOf(StringView name) const {
     if (FAILED(result)) {
         // A class of a script answers only here.
         if (const auto extended = dispatch_.as<IDispatchEx>()) {
-            BSTR sought = newBSTR(name);
-            result = extended->GetDispID(sought, fdexNameCaseInsensitive, &id);
-            SysFreeString(sought);
+            const OwnedBSTR sought(newBSTR(name));
+            result = extended->GetDispID(sought.get(), fdexNameCaseInsensitive, &id);
         }
     }
     if (FAILED(result))

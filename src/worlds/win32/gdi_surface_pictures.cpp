@@ -1,7 +1,9 @@
 /// Pictures on the surface of Windows.
 #include "values/picture_part.h"
 #include "values/picture_scale.h"
+#include "values/pixels.h"
 #include "values/rounding.h"
+#include "worlds/win32/dib_info.h"
 #include "worlds/win32/gdi_surface.h"
 
 #include <algorithm>
@@ -105,9 +107,7 @@ namespace {
 /// shrinks differs between its versions.
 Dib24 shrunken(const Dib24& source, Long width, Long height, std::vector<Byte>& bytes) {
     const Dib24 smaller{std::min(source.width, width), std::min(source.height, height), {}};
-    const auto strideOf = [](const Dib24& dib) {
-        return (static_cast<std::size_t>(dib.width) * 3 + 3) / 4 * 4;
-    };
+    const auto strideOf = [](const Dib24& dib) { return dibStride(dib.width, 24); };
     bytes.assign(strideOf(smaller) * static_cast<std::size_t>(smaller.height), 0);
     for (Long y = 0; y < smaller.height; ++y) {
         // Rows are counted from the top and stored from below.
@@ -128,19 +128,13 @@ Dib24 shrunken(const Dib24& source, Long width, Long height, std::vector<Byte>& 
 void GdiSurface::stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) {
     if (width <= 0 || height <= 0 || source.width <= 0 || source.height <= 0)
         return;
-    const std::size_t stride = (static_cast<std::size_t>(source.width) * 3 + 3) / 4 * 4;
+    const std::uint64_t stride = dibStride(source.width, 24);
     if (source.bytes.size() < stride * static_cast<std::size_t>(source.height))
         return;
     std::vector<Byte> room;
     const bool shrinks = width < source.width || height < source.height;
     const Dib24 shown = shrinks ? shrunken(source, width, height, room) : source;
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = shown.width;
-    info.bmiHeader.biHeight = shown.height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 24;
-    info.bmiHeader.biCompression = BI_RGB;
+    const BITMAPINFO info = dibInfo(shown.width, shown.height, 24);
     StretchDIBits(memoryDc(),
                   x,
                   y,

@@ -2,6 +2,7 @@
 
 #include "worlds/win32/named_font.h"
 #include "worlds/win32/object_pairs.h"
+#include "worlds/win32/owned.h"
 #include "worlds/win32/property_sink.h"
 
 #include <algorithm>
@@ -21,11 +22,9 @@ ObjectPairs<Font, IFontDisp>& pairs() {
 }
 
 void readName(IFont* font, FontSpec& spec) {
-    BSTR name = nullptr;
-    if (FAILED(font->get_Name(&name)))
-        return;
-    spec.Name = textOf(name, SysStringLen(name));
-    SysFreeString(name);
+    OwnedBSTR name;
+    if (SUCCEEDED(font->get_Name(name.out())))
+        spec.Name = textOf(name.get(), SysStringLen(name.get()));
 }
 
 void readSize(IFont* font, FontSpec& spec) {

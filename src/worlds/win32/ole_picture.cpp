@@ -1,10 +1,13 @@
 #include "worlds/win32/ole_picture.h"
 
 #include "values/image_check.h"
+#include "values/pixels.h"
 #include "values/rounding.h"
 #include "values/runtime_error.h"
+#include "worlds/win32/dib_info.h"
 #include "worlds/win32/memory_bitmap.h"
 #include "worlds/win32/object_pairs.h"
+#include "worlds/win32/owned.h"
 #include "worlds/win32/property_sink.h"
 #include "worlds/win32/screen_density.h"
 
@@ -15,23 +18,9 @@ namespace lumtex {
 
 namespace {
 
-constexpr Double himetricPerInch = 2540;
-
 ObjectPairs<const Picture, IPictureDisp>& pairs() {
     static ObjectPairs<const Picture, IPictureDisp> all;
     return all;
-}
-
-/// Rows from the top.
-BITMAPINFO headerFor(const Bitmap& bitmap, WORD bits) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = bitmap.width;
-    info.bmiHeader.biHeight = -bitmap.height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = bits;
-    info.bmiHeader.biCompression = BI_RGB;
-    return info;
 }
 
 /// Rounds as the system does when it makes a picture's size from its pixels.
@@ -82,20 +71,12 @@ std::uint32_t pixelFrom(std::uint32_t onBlack, std::uint32_t onWhite) {
     return pixel;
 }
 
-constexpr std::uint32_t premultiplied(std::uint32_t pixel, std::uint32_t alpha) {
-    std::uint32_t result = alpha << 24U;
-    for (unsigned shift = 0; shift < 24; shift += 8)
-        result |= (((pixel >> shift) & 0xFFU) * alpha + 127) / 255 << shift;
-    return result;
-}
-
 /// Pixels with 32 bits each, rows from the top; all zero where they cannot be read.
 Bitmap bitsOf(HBITMAP source, Long width, Long height) {
     Bitmap bits(width, height);
-    BITMAPINFO info = headerFor(bits, 32);
-    const HDC screen = GetDC(nullptr);
-    GetDIBits(screen, source, 0, static_cast<UINT>(height), bits.pixels.data(), &info, DIB_RGB_COLORS);
-    ReleaseDC(nullptr, screen);
+    BITMAPINFO info = dibInfo(bits.width, -bits.height, 32);
+    const ScreenContext screen;
+    GetDIBits(screen.get(), source, 0, static_cast<UINT>(height), bits.pixels.data(), &info, DIB_RGB_COLORS);
     return bits;
 }
 
@@ -105,16 +86,15 @@ Bitmap pixelsOfIcon(HICON icon) {
     ICONINFO parts{};
     if (GetIconInfo(icon, &parts) == FALSE)
         return {};
+    const OwnedBitmap ownedColor(parts.hbmColor);
+    const OwnedBitmap ownedMask(parts.hbmMask);
     BITMAP size{};
     Bitmap colors;
     Bitmap mask;
-    if (parts.hbmColor != nullptr && GetObjectW(parts.hbmColor, sizeof size, &size) != 0) {
-        colors = bitsOf(parts.hbmColor, size.bmWidth, size.bmHeight);
-        mask = bitsOf(parts.hbmMask, size.bmWidth, size.bmHeight);
+    if (ownedColor && GetObjectW(ownedColor.get(), sizeof size, &size) != 0) {
+        colors = bitsOf(ownedColor.get(), size.bmWidth, size.bmHeight);
+        mask = bitsOf(ownedMask.get(), size.bmWidth, size.bmHeight);
     }
-    if (parts.hbmColor != nullptr)
-        DeleteObject(parts.hbmColor);
-    DeleteObject(parts.hbmMask);
     const bool hasAlpha = std::any_of(
         colors.pixels.begin(), colors.pixels.end(), [](std::uint32_t pixel) { return pixel >> 24U != 0; });
     for (std::size_t i = 0; i < colors.pixels.size(); ++i) {
@@ -193,19 +173,19 @@ PictureRef entered(ComRef<IPicture> picture) {
 }
 
 /// A bitmap of the system with these bits; rows from the top, `bits` per pixel.
-HBITMAP sectionFor(const Bitmap& bitmap, WORD bits, void*& memory) {
-    const BITMAPINFO info = headerFor(bitmap, bits);
-    HBITMAP made = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &memory, nullptr, 0);
-    if (made == nullptr)
+OwnedBitmap sectionFor(const Bitmap& bitmap, WORD bits, void*& memory) {
+    const BITMAPINFO info = dibInfo(bitmap.width, -bitmap.height, bits);
+    OwnedBitmap made(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &memory, nullptr, 0));
+    if (!made)
         throw RuntimeError(outOfMemory);
     return made;
 }
 
 /// 24 bits per pixel: a fourth byte would be taken for alpha by some.
-HBITMAP opaqueBitmap(const Bitmap& bitmap) {
+OwnedBitmap opaqueBitmap(const Bitmap& bitmap) {
     void* memory = nullptr;
-    HBITMAP made = sectionFor(bitmap, 24, memory);
-    const std::size_t stride = (static_cast<std::size_t>(bitmap.width) * 3 + 3) / 4 * 4;
+    OwnedBitmap made = sectionFor(bitmap, 24, memory);
+    const std::uint64_t stride = dibStride(bitmap.width, 24);
     for (Long y = 0; y < bitmap.height; ++y) {
         Byte* byte = static_cast<Byte*>(memory) + stride * static_cast<std::size_t>(y);
         for (Long x = 0; x < bitmap.width; ++x) {
@@ -216,37 +196,15 @@ HBITMAP opaqueBitmap(const Bitmap& bitmap) {
     return made;
 }
 
-/// Colours as they are without their alpha, which stands beside them.
-std::uint32_t straight(std::uint32_t pixel) {
-    const std::uint32_t alpha = pixel >> 24U;
-    if (alpha == 0)
-        return 0;
-    std::uint32_t result = alpha << 24U;
-    for (unsigned shift = 0; shift < 24; shift += 8)
-        result |= std::min((((pixel >> shift) & 0xFFU) * 255 + alpha / 2) / alpha, 255U) << shift;
-    return result;
-}
-
-HICON iconFor(const Bitmap& bitmap) {
+OwnedIcon iconFor(const Bitmap& bitmap) {
     void* memory = nullptr;
-    HBITMAP color = sectionFor(bitmap, 32, memory);
+    const OwnedBitmap color = sectionFor(bitmap, 32, memory);
     std::transform(bitmap.pixels.begin(), bitmap.pixels.end(), static_cast<std::uint32_t*>(memory), straight);
-    // Rows of the mask are padded to 16 bits; a bit is set where nothing of the picture is to be seen.
-    const std::size_t stride = (static_cast<std::size_t>(bitmap.width) + 15) / 16 * 2;
-    std::vector<Byte> bits(stride * static_cast<std::size_t>(bitmap.height));
-    for (Long y = 0; y < bitmap.height; ++y) {
-        for (Long x = 0; x < bitmap.width; ++x) {
-            if (bitmap.at(x, y) >> 24U == 0)
-                bits[stride * static_cast<std::size_t>(y) + static_cast<std::size_t>(x) / 8] |=
-                    static_cast<Byte>(0x80U >> (x % 8));
-        }
-    }
-    HBITMAP mask = CreateBitmap(bitmap.width, bitmap.height, 1, 1, bits.data());
-    ICONINFO parts{TRUE, 0, 0, mask, color};
-    HICON icon = mask != nullptr ? CreateIconIndirect(&parts) : nullptr;
-    DeleteObject(color);
-    DeleteObject(mask);
-    if (icon == nullptr)
+    const std::vector<Byte> hidden = maskRows(bitmap, 16);
+    const OwnedBitmap mask(CreateBitmap(bitmap.width, bitmap.height, 1, 1, hidden.data()));
+    ICONINFO parts{TRUE, 0, 0, mask.get(), color.get()};
+    OwnedIcon icon(mask ? CreateIconIndirect(&parts) : nullptr);
+    if (!icon)
         throw RuntimeError(outOfMemory);
     return icon;
 }
@@ -254,21 +212,23 @@ HICON iconFor(const Bitmap& bitmap) {
 ComRef<IPictureDisp> makeObject(const Picture& picture) {
     PICTDESC description{};
     description.cbSizeofstruct = sizeof description;
+    OwnedIcon icon;
+    OwnedBitmap bitmap;
     if (picture.kind() == PictureKind::icon) {
+        icon = iconFor(picture.bitmap());
         description.picType = PICTYPE_ICON;
-        description.icon.hicon = iconFor(picture.bitmap());
+        description.icon.hicon = icon.get();
     } else {
+        bitmap = opaqueBitmap(picture.bitmap());
         description.picType = PICTYPE_BITMAP;
-        description.bmp.hbitmap = opaqueBitmap(picture.bitmap());
+        description.bmp.hbitmap = bitmap.get();
     }
     void* made = nullptr;
-    if (FAILED(OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE, &made))) {
-        if (description.picType == PICTYPE_ICON)
-            DestroyIcon(description.icon.hicon);
-        else
-            DeleteObject(description.bmp.hbitmap);
+    if (FAILED(OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE, &made)))
         throw RuntimeError(outOfMemory);
-    }
+    // The object owns it now.
+    icon.detach();
+    bitmap.detach();
     return ComRef<IPictureDisp>::adopting(static_cast<IPictureDisp*>(made));
 }
 
@@ -316,14 +276,12 @@ PictureRef loadOlePicture(std::span<const Byte> image, std::uint64_t freePixels)
         throw RuntimeError(invalidPicture);
     // The system's loader believes whatever an image says of itself.
     checkImage(image, freePixels);
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, image.size());
+    OwnedMemory memory(GlobalAlloc(GMEM_MOVEABLE, image.size()));
     ComRef<IStream> stream;
-    if (memory == nullptr || FAILED(CreateStreamOnHGlobal(memory, TRUE, stream.out()))) {
-        GlobalFree(memory);
+    if (!memory || FAILED(CreateStreamOnHGlobal(memory.get(), TRUE, stream.out())))
         throw RuntimeError(outOfMemory);
-    }
-    std::copy(image.begin(), image.end(), static_cast<Byte*>(GlobalLock(memory)));
-    GlobalUnlock(memory);
+    const HGLOBAL streams = memory.detach();
+    std::copy(image.begin(), image.end(), static_cast<Byte*>(LockedMemory(streams).bytes()));
     void* made = nullptr;
     if (FAILED(OleLoadPicture(stream.get(), static_cast<LONG>(image.size()), FALSE, IID_IPicture, &made)))
         throw RuntimeError(invalidPicture);

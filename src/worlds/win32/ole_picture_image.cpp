@@ -2,6 +2,7 @@
 
 #include "values/image_check.h"
 #include "worlds/win32/ole_picture.h"
+#include "worlds/win32/owned.h"
 
 namespace lumtex {
 
@@ -16,18 +17,6 @@ struct HeaderWithColors {
     RGBQUAD colors[mostColors]{};
 
     BITMAPINFO& info() { return *reinterpret_cast<BITMAPINFO*>(&header); }
-};
-
-class ScreenContext {
-  public:
-    ScreenContext() = default;
-    ScreenContext(const ScreenContext&) = delete;
-    ScreenContext& operator=(const ScreenContext&) = delete;
-    ~ScreenContext() { ReleaseDC(nullptr, context_); }
-    HDC get() const { return context_; }
-
-  private:
-    HDC context_ = GetDC(nullptr);
 };
 
 template <class T>
@@ -106,12 +95,11 @@ std::vector<Byte> fileOfPicture(IPicture& picture) {
     HGLOBAL memory = nullptr;
     if (FAILED(stream->Stat(&told, STATFLAG_NONAME)) || FAILED(GetHGlobalFromStream(stream.get(), &memory)))
         return {};
-    const auto* const bytes = static_cast<const Byte*>(GlobalLock(memory));
+    const LockedMemory locked(memory);
+    const auto* const bytes = static_cast<const Byte*>(locked.bytes());
     if (bytes == nullptr)
         return {};
-    std::vector<Byte> image(bytes, bytes + static_cast<std::size_t>(told.cbSize.QuadPart));
-    GlobalUnlock(memory);
-    return image;
+    return {bytes, bytes + static_cast<std::size_t>(told.cbSize.QuadPart)};
 }
 
 std::vector<Byte> imageOfHostsPicture(const Picture& picture) {

@@ -1,7 +1,9 @@
 #include "worlds/win32/pointer_shape.h"
 
+#include "values/pixels.h"
+#include "worlds/win32/dib_info.h"
+
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 namespace lumtex {
@@ -35,61 +37,24 @@ const wchar_t* cursorName(Integer shape) {
     return found != std::end(cursors) ? found->cursor : IDC_ARROW;
 }
 
-constexpr unsigned opaque = 255;
-
-/// Cursors hold colours that are not yet multiplied by alpha.
-std::uint32_t straight(std::uint32_t premultiplied) {
-    const std::uint32_t alpha = premultiplied >> 24U;
-    if (alpha == 0 || alpha == opaque)
-        return premultiplied;
-    std::uint32_t pixel = alpha << 24U;
-    for (const unsigned shift : {0U, 8U, 16U})
-        pixel |= std::min(((premultiplied >> shift) & 0xFFU) * opaque / alpha, opaque) << shift;
-    return pixel;
-}
-
-/// One bit a pixel, the highest first, rows padded to 16 bits: set where the screen shows through.
-std::vector<Byte> maskOf(const Bitmap& picture) {
-    const auto rowBytes = static_cast<std::size_t>((picture.width + 15) / 16 * 2);
-    std::vector<Byte> mask(rowBytes * static_cast<std::size_t>(picture.height));
-    for (Long y = 0; y < picture.height; ++y) {
-        for (Long x = 0; x < picture.width; ++x) {
-            if (picture.at(x, y) >> 24U == 0)
-                mask[static_cast<std::size_t>(y) * rowBytes + static_cast<std::size_t>(x / 8)] |=
-                    static_cast<Byte>(0x80U >> (static_cast<unsigned>(x) % 8));
-        }
-    }
-    return mask;
-}
-
-HCURSOR cursorFrom(const Bitmap& picture) {
+OwnedIcon cursorFrom(const Bitmap& picture) {
     if (picture.width <= 0 || picture.height <= 0)
-        return nullptr;
-    BITMAPINFO form{};
-    form.bmiHeader.biSize = sizeof(form.bmiHeader);
-    form.bmiHeader.biWidth = picture.width;
-    form.bmiHeader.biHeight = -picture.height;
-    form.bmiHeader.biPlanes = 1;
-    form.bmiHeader.biBitCount = 32;
+        return {};
+    const BITMAPINFO form = dibInfo(picture.width, -picture.height, 32);
     void* bits = nullptr;
-    HBITMAP color = CreateDIBSection(nullptr, &form, DIB_RGB_COLORS, &bits, nullptr, 0);
-    const std::vector<Byte> screened = maskOf(picture);
-    HBITMAP mask = CreateBitmap(picture.width, picture.height, 1, 1, screened.data());
-    HCURSOR cursor = nullptr;
-    if (color != nullptr && mask != nullptr) {
-        std::transform(
-            picture.pixels.begin(), picture.pixels.end(), static_cast<std::uint32_t*>(bits), straight);
-        ICONINFO info{};
-        info.fIcon = FALSE;
-        info.xHotspot = static_cast<DWORD>(picture.width / 2);
-        info.yHotspot = static_cast<DWORD>(picture.height / 2);
-        info.hbmColor = color;
-        info.hbmMask = mask;
-        cursor = CreateIconIndirect(&info);
-    }
-    DeleteObject(color);
-    DeleteObject(mask);
-    return cursor;
+    const OwnedBitmap color(CreateDIBSection(nullptr, &form, DIB_RGB_COLORS, &bits, nullptr, 0));
+    const std::vector<Byte> hidden = maskRows(picture, 16);
+    const OwnedBitmap mask(CreateBitmap(picture.width, picture.height, 1, 1, hidden.data()));
+    if (!color || !mask)
+        return {};
+    std::transform(picture.pixels.begin(), picture.pixels.end(), static_cast<std::uint32_t*>(bits), straight);
+    ICONINFO info{};
+    info.fIcon = FALSE;
+    info.xHotspot = static_cast<DWORD>(picture.width / 2);
+    info.yHotspot = static_cast<DWORD>(picture.height / 2);
+    info.hbmColor = color.get();
+    info.hbmMask = mask.get();
+    return OwnedIcon(CreateIconIndirect(&info));
 }
 
 } // namespace
@@ -99,11 +64,9 @@ PointerShape::~PointerShape() {
 }
 
 void PointerShape::dropCursor() {
-    if (iconCursor_ == nullptr)
-        return;
-    if (GetCursor() == iconCursor_)
+    if (iconCursor_ && GetCursor() == iconCursor_.get())
         SetCursor(LoadCursorW(nullptr, IDC_ARROW));
-    DestroyCursor(std::exchange(iconCursor_, nullptr));
+    iconCursor_ = {};
 }
 
 void PointerShape::setIcon(PictureRef icon) {
@@ -114,8 +77,8 @@ void PointerShape::setIcon(PictureRef icon) {
 }
 
 HCURSOR PointerShape::cursor() const {
-    if (shape_ == pointerCustom && iconCursor_ != nullptr)
-        return iconCursor_;
+    if (shape_ == pointerCustom && iconCursor_)
+        return iconCursor_.get();
     return LoadCursorW(nullptr, cursorName(shape_));
 }
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "values/references/picture.h"
-#include "worlds/win32/windows_api.h"
+#include "worlds/win32/owned.h"
 
 namespace lumtex {
 
@@ -30,7 +30,7 @@ class PointerShape {
 
     Integer shape_ = pointerDefault;
     PictureRef icon_;
-    HCURSOR iconCursor_ = nullptr; ///< owned; none if the icon could not be made into one
+    OwnedIcon iconCursor_; ///< null if the icon could not be made into one
 };
 
 } // namespace lumtex

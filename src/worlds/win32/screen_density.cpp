@@ -1,13 +1,13 @@
 #include "worlds/win32/screen_density.h"
 
-#include "worlds/win32/windows_api.h"
+#include "worlds/win32/owned.h"
 
 namespace lumtex {
 
 PixelDensity screenDensity() {
-    const HDC screen = GetDC(nullptr);
-    const PixelDensity density{GetDeviceCaps(screen, LOGPIXELSX), GetDeviceCaps(screen, LOGPIXELSY)};
-    ReleaseDC(nullptr, screen);
+    const ScreenContext screen;
+    const PixelDensity density{GetDeviceCaps(screen.get(), LOGPIXELSX),
+                               GetDeviceCaps(screen.get(), LOGPIXELSY)};
     // There is no context where there is no screen.
     constexpr PixelDensity usual{96, 96};
     return density.x > 0 && density.y > 0 ? density : usual;
