@@ -1,7 +1,7 @@
 #include "list_on_desktop.h"
 
-#include "values/text.h"
 #include "sample_rows.h"
+#include "values/text.h"
 
 #include <map>
 
