@@ -138,6 +138,8 @@ def mutations(source):
         found.append(Mutation(one.kind, one.start, one.end, one.text.replace("\0", source[one.start + 1 : one.end - 1])))
     found += dropped_and_swapped(source, code)
     found += lost_answers(code)
+    # Room made in advance is nobody's behaviour.
+    found = [one for one in found if "reserve(" not in code[code.rfind("\n", 0, one.start) : one.end]]
     # The same text may come about in two ways.
     unique = {(one.start, one.end, one.text): one for one in reversed(found)}
     return sorted(unique.values(), key=lambda one: (one.start, one.end, one.kind, one.text))
