@@ -38,10 +38,12 @@ TEST_F(Release, OnTheSameCellIsUpUpClickAndThePlatformsClick) {
     EXPECT_EQ(list.ColumnIndex(), 2);
 }
 
-TEST_F(Release, TheButtonThatWentUpIsTheOneRemembered) {
+TEST_F(Release, PlaceAndButtonOfItAreRemembered) {
     fill(3);
     press(cell(2, 2));
     list.UserControl_MouseUp(rightButton, 0, 10, 50);
+    EXPECT_EQ(inside.mouse().lastMouseX, 10);
+    EXPECT_EQ(inside.mouse().lastMouseY, 50);
     EXPECT_EQ(inside.mouse().lastMouseButton, rightButton);
 }
 
