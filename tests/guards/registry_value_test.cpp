@@ -40,6 +40,7 @@ TEST_F(RegistryValueTest, TheTypeDecidesHowTheBytesAreRead) {
         {"text with variables", 2, {'%', 'a', '%', 0}, u"%a%"},
         {"a number", 4, {0x39, 0x30, 0, 0}, u"12345"},
         {"the largest number", 4, {0xFF, 0xFF, 0xFF, 0xFF}, u"4294967295"},
+        {"an even number", 4, {8, 0, 0, 0}, u"8"},
         {"a number of too few bytes", 4, {7}, u"7"},
         {"bytes", 3, {'a', 0}, u""},
         {"several texts", 7, {'a', 0, 0}, u""},

@@ -78,6 +78,21 @@ TEST_F(ListScroll, RowsThatFillTheSurfaceExactlyNeedNoBarAndOneMoreDoes) {
     EXPECT_TRUE(inside.scroll().lastRowHidden);
 }
 
+TEST_F(ListScroll, RowsThatFitAgainGoBackToTheTop) {
+    addColumns({50});
+    fixedRows(20);
+    addRows(50);
+    list.letTopIndex(20);
+    list.letAutoCheckScroll(false);
+    list.letAutoRedraw(false);
+    while (list.RowsCount() > 3)
+        list.RowsRemove(1);
+    EXPECT_EQ(inside.vertical().Value(), 20);
+    list.CheckScroll();
+    EXPECT_EQ(inside.vertical().Value(), 0);
+    EXPECT_EQ(inside.vertical().Max(), 0);
+}
+
 TEST_F(ListScroll, DynamicRowsThatFillTheSurfaceExactlyAllShow) {
     addColumns({50});
     addRows(10);

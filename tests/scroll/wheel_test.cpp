@@ -36,8 +36,9 @@ TEST_F(WheelReceiver, IsNotEnabledWithoutAWindow) {
     EXPECT_FALSE(turn(120, 0));
     wheel.lethWndCapture(7);
     EXPECT_FALSE(turn(120));
+    wheel.lethWndCapture(1);
     wheel.EnableWheel();
-    EXPECT_TRUE(turn(120)) << "nothing was enabled before";
+    EXPECT_TRUE(turn(120, 1)) << "any other number is a window";
 }
 
 TEST_F(WheelReceiver, EnabledTwiceStaysWithItsFirstWindow) {
