@@ -62,10 +62,8 @@ void lmListView::yield(Procedure& p) {
 
 /// The same for a walk that runs no code of the host between two of its yields.
 void lmListView::yield(Procedure& p, QueueWatch& watch) {
-    if (!watch.eventWaits())
-        return;
-    yield(p);
-    watch.hostRan();
+    if (watch.eventWaits())
+        yield(p);
 }
 
 /// A host that cannot tell is taken for a running program.

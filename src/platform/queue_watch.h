@@ -16,7 +16,7 @@ class QueueWatch {
   public:
     explicit QueueWatch(const Runtime& runtime) : runtime_(runtime) {}
 
-    /// Looks at its first call, and again at each call while something waits.
+    /// Looks at its first call, and at each one after a look that found something.
     bool eventWaits() {
         if (stepsLeft_ > 0) {
             --stepsLeft_;
@@ -31,7 +31,7 @@ class QueueWatch {
         return false;
     }
 
-    /// Host code ran and may have posted something: the next call looks.
+    /// Host code ran besides, in a report for one, and may have posted something: the next call looks.
     void hostRan() {
         stepsLeft_ = 0;
         nextLook_ = {};

@@ -4,23 +4,9 @@
 namespace lumtex::testing {
 namespace {
 
-class CallingBack : public ::testing::Test {
+class CallingBack : public SilentComponent {
   protected:
-    CallingBack() {
-        OleInitialize(nullptr);
-        silence(true);
-    }
-    ~CallingBack() override {
-        releases.code = {};
-        list.reset();
-        silence(false);
-        EXPECT_TRUE(component.canUnload());
-        OleUninitialize();
-    }
-    void silence(bool on) const {
-        const ComRef<IUnknown> error = component.make("Error");
-        invoke(error.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
-    }
+    ~CallingBack() override { releases.code = {}; }
 
     /// `code` as host code that does not run within itself.
     std::function<void()> once(const HostCode& code) {
@@ -32,8 +18,6 @@ class CallingBack : public ::testing::Test {
         };
     }
 
-    BoxWatch watch;
-    Component component;
     LastReleases releases;
     std::optional<CalledBackList> list{std::in_place};
 

@@ -4,25 +4,7 @@
 namespace lumtex::testing {
 namespace {
 
-class CallingInEvents : public ::testing::Test {
-  protected:
-    CallingInEvents() {
-        OleInitialize(nullptr);
-        silence(true);
-    }
-    ~CallingInEvents() override {
-        silence(false);
-        EXPECT_TRUE(component.canUnload());
-        OleUninitialize();
-    }
-    void silence(bool on) const {
-        const ComRef<IUnknown> error = component.make("Error");
-        invoke(error.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
-    }
-
-    BoxWatch watch;
-    Component component;
-};
+using CallingInEvents = SilentComponent;
 
 TEST_F(CallingInEvents, AnyEventMayBeAnsweredWithAnyCall) {
     for (const DISPID event : raisedByTheStory)

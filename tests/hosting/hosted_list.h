@@ -9,6 +9,27 @@
 
 namespace lumtex::testing {
 
+/// A component whose reports open no box, and which nobody holds at the end.
+class SilentComponent : public ::testing::Test {
+  protected:
+    SilentComponent() {
+        OleInitialize(nullptr);
+        silence(true);
+    }
+    ~SilentComponent() override {
+        silence(false);
+        EXPECT_TRUE(component.canUnload());
+        OleUninitialize();
+    }
+    void silence(bool on) const {
+        const ComRef<IUnknown> error = component.make("Error");
+        invoke(error.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
+    }
+
+    BoxWatch watch;
+    Component component;
+};
+
 /// Calls do nothing once the control has ended; the one that ends it is the last that reaches it.
 class HostedList {
   public:
