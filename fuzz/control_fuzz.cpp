@@ -57,9 +57,9 @@ const std::vector<const Member*>& favourites() {
     return all;
 }
 
-class Program {
+class HostProgram {
   public:
-    Program(const unsigned char* data, std::size_t size) : input_(data, size) {
+    HostProgram(const unsigned char* data, std::size_t size) : input_(data, size) {
         for (const char* name :
              {"Click",       "DblClick",        "ItemCheck",    "ItemChecked", "MouseUp",  "MouseMove",
               "MouseDown",   "Scroll",          "ColumnClick",  "KeyDown",     "KeyPress", "KeyUp",
@@ -96,7 +96,7 @@ class Program {
     /// An object of the host whose end runs host code.
     class Releasing final : public Object {
       public:
-        explicit Releasing(Program& program) : program_(program) {}
+        explicit Releasing(HostProgram& program) : program_(program) {}
         ~Releasing() override { program_.hostCode(); }
 
         Variant get(StringView name, std::span<Variant> /*arguments*/) override {
@@ -112,11 +112,11 @@ class Program {
         }
 
       private:
-        Program& program_;
+        HostProgram& program_;
     };
     class ReleasingFont final : public Font {
       public:
-        ReleasingFont(Program& program, FontSpec attributes)
+        ReleasingFont(HostProgram& program, FontSpec attributes)
             : Font(std::move(attributes)), program_(program) {}
         ~ReleasingFont() override { program_.hostCode(); }
         std::shared_ptr<Font> Clone() const override {
@@ -124,7 +124,7 @@ class Program {
         }
 
       private:
-        Program& program_;
+        HostProgram& program_;
     };
 
     void hostCode() noexcept {
@@ -246,6 +246,6 @@ class Program {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-    Program(data, size).run();
+    HostProgram(data, size).run();
     return 0;
 }

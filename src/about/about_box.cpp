@@ -1,7 +1,6 @@
 #include "about/about_box.h"
 
 #include "guards/ignoring_errors.h"
-#include "guards/registry_value.h"
 #include "values/color.h"
 #include "values/date_text.h"
 #include "values/rounding.h"
@@ -12,10 +11,7 @@ namespace lumtex {
 namespace {
 
 constexpr Integer helpKey = 112; // F1
-constexpr Long showNormal = 1;
-constexpr Long showMaximised = 3;
 
-constexpr StringView openVerb = u"Open";
 constexpr StringView settingsKey = u"SOFTWARE\\Lumtex";
 constexpr StringView applicationsSetting = u"ApplicationsPath";
 constexpr StringView helpFolder = u"LumtexHelp\\";
@@ -66,8 +62,8 @@ String versionText(const ComponentInfo& component) {
            u"." + numberText(component.revision);
 }
 
-String creditText(const Runtime& runtime) {
-    return u"Copyright © Lumtex " + numberText(yearOf(runtime.now()));
+String creditText(const SystemLocale& locale) {
+    return u"Copyright © Lumtex " + numberText(yearOf(locale.now()));
 }
 
 bool isInside(const Rect& place, Single x, Single y) {
@@ -125,8 +121,8 @@ void LumtexAbout::load() {
                    static_cast<Single>(size.x),
                    static_cast<Single>(size.y));
     Runtime& runtime = world_.runtime();
-    captions_[lblKomponente] = versionText(runtime.component());
-    captions_[lblAutor] = creditText(runtime);
+    captions_[lblKomponente] = versionText(runtime.program().component());
+    captions_[lblAutor] = creditText(runtime.locale());
     captions_[lblLink] = makersLink;
     placeControls();
     paint();
@@ -235,29 +231,26 @@ void LumtexAbout::UserControl_KeyDown(Integer KeyCode, Integer /*Shift*/) {
 void LumtexAbout::openHelp() {
     Runtime& runtime = world_.runtime();
     // Reading a value that is not there fails, and there the click ends.
-    const auto stored = runtime.readOnlySetting(currentUserHive, settingsKey, applicationsSetting);
-    if (!stored)
+    std::optional<String> folder = runtime.settings().readOnlyText(settingsKey, applicationsSetting);
+    if (!folder)
         return;
-    String folder = textOfSetting(*stored);
-    if (!folder.ends_with(u'\\'))
-        folder += u'\\';
-    folder += helpFolder;
-    runtime.shellExecute({.window = window_->hWnd(),
-                          .verb = String(openVerb),
-                          .file = folder + String(helpProgram),
-                          .parameters = u"/" + String(componentName),
-                          .folder = folder,
-                          .show = showMaximised});
+    if (!folder->ends_with(u'\\'))
+        *folder += u'\\';
+    *folder += helpFolder;
+    runtime.desktop().open({.window = window_->hWnd(),
+                            .file = *folder + String(helpProgram),
+                            .parameters = u"/" + String(componentName),
+                            .folder = *folder,
+                            .maximised = true});
 }
 
 void LumtexAbout::openLink() {
     Runtime& runtime = world_.runtime();
-    runtime.shellExecute({.window = window_->hWnd(),
-                          .verb = String(openVerb),
-                          .file = captions_[lblLink],
-                          .parameters = {},
-                          .folder = runtime.component().folder,
-                          .show = showNormal});
+    runtime.desktop().open({.window = window_->hWnd(),
+                            .file = captions_[lblLink],
+                            .parameters = {},
+                            .folder = runtime.program().component().folder,
+                            .maximised = false});
 }
 
 } // namespace lumtex

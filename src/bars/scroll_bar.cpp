@@ -33,7 +33,10 @@ void ScrollBar::store(Procedure& p, T& field, T value, StringView name) {
 void ScrollBar::letMin(Long value) {
     Procedure p = procedure(u"Min");
     if (value > max_) {
-        p.step([&] { world_.runtime().messageBox(u"Min darf nicht größer sein als Max!", boxCritical, {}); });
+        p.step([&] {
+            world_.runtime().queue().messageBox(
+                u"Min darf nicht größer sein als Max!", BoxStyle::critical, {});
+        });
         return;
     }
     store(p, min_, value, u"Min");
@@ -44,8 +47,10 @@ void ScrollBar::letMin(Long value) {
 void ScrollBar::letMax(Long value) {
     Procedure p = procedure(u"Max");
     if (value < min_) {
-        p.step(
-            [&] { world_.runtime().messageBox(u"Max darf nicht kleiner sein als Min!", boxCritical, {}); });
+        p.step([&] {
+            world_.runtime().queue().messageBox(
+                u"Max darf nicht kleiner sein als Min!", BoxStyle::critical, {});
+        });
         return;
     }
     store(p, max_, value, u"Max");

@@ -7,7 +7,7 @@
 namespace lumtex {
 
 void ContentReader::open(StringView path) {
-    file_ = runtime_.openForBinaryReading(path);
+    file_ = runtime_.files().openForBinaryReading(path);
     behindBuffer_ = file_->size();
     buffer_.resize(bufferSize);
     failure_ = 0;
@@ -90,7 +90,7 @@ String ContentReader::getText(Long length) {
     String text(static_cast<std::size_t>(length), u'\0');
     std::size_t done = 0;
     inPieces(text.size(), [&](std::span<const Byte> bytes) {
-        runtime_.fromAnsi(bytes, std::span(text).subspan(done, bytes.size()));
+        runtime_.locale().fromAnsi(bytes, std::span(text).subspan(done, bytes.size()));
         done += bytes.size();
     });
     return text;

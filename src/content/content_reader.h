@@ -18,7 +18,7 @@ class ContentReader {
   public:
     explicit ContentReader(Runtime& runtime) : runtime_(runtime) {}
 
-    /// Throws as `Runtime::openForBinaryReading`.
+    /// Throws as `Files::openForBinaryReading`.
     void open(StringView path);
     void close();
 

@@ -8,7 +8,7 @@
 namespace lumtex {
 
 void ContentWriter::open(StringView path) {
-    file_ = runtime_.openForBinaryWriting(path);
+    file_ = runtime_.files().openForBinaryWriting(path);
     buffer_.resize(bufferSize);
     failure_ = 0;
 }
@@ -71,7 +71,7 @@ void ContentWriter::putText(StringView text) {
     while (!text.empty()) {
         Byte* const target = room(1);
         const std::size_t count = std::min(text.size(), buffer_.size() - used_);
-        runtime_.toAnsi(text.substr(0, count), {target, count});
+        runtime_.locale().toAnsi(text.substr(0, count), {target, count});
         used_ += count;
         text.remove_prefix(count);
     }

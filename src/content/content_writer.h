@@ -17,7 +17,7 @@ class ContentWriter {
   public:
     explicit ContentWriter(Runtime& runtime) : runtime_(runtime) {}
 
-    /// Throws as `Runtime::openForBinaryWriting`.
+    /// Throws as `Files::openForBinaryWriting`.
     void open(StringView path);
     /// Does nothing if no file is open. Throws as OutputFile does.
     void close();

@@ -2,7 +2,8 @@
 /// The component as an object, for whoever is handed it.
 #pragma once
 
-#include "platform/runtime.h"
+#include "platform/program.h"
+#include "values/variant.h"
 
 namespace lumtex {
 

@@ -2,7 +2,6 @@
 
 #include "guards/application_object.h"
 #include "guards/current_exe_path.h"
-#include "guards/registry_value.h"
 #include "values/locale.h"
 
 #include <array>
@@ -57,12 +56,12 @@ String numberText(Long number) {
 }
 
 /// Empty where no log is wanted.
-String logPath(const Runtime& runtime) {
-    const String setting = RegistryValue(runtime, currentUserHive, settingsKey, logSetting);
+String logPath(Runtime& runtime) {
+    const String setting = runtime.settings().text(settingsKey, logSetting).value_or(String());
     const StringView folder = withoutSpaces(setting);
     if (folder.empty())
         return {};
-    String path = folder == besideComponent ? runtime.component().folder : String(folder);
+    String path = folder == besideComponent ? runtime.program().component().folder : String(folder);
     if (!path.ends_with(u'\\'))
         path += u'\\';
     return path.append(logFileName);
@@ -72,18 +71,18 @@ void writeLogRecord(Runtime& runtime, StringView text) {
     const String path = logPath(runtime);
     if (path.empty())
         return;
-    const Date now = runtime.now();
+    const Date now = runtime.locale().now();
     String record = currentLocale().dateText(now) + u" " + currentLocale().timeText(now);
     record.append(lineEnd).append(text).append(lineEnd).append(ruleLength, u'-').append(lineEnd);
-    runtime.appendToFile(path, record);
+    runtime.files().appendToFile(path, record);
 }
 
 void callHandler(Runtime& runtime, Object& handler, const ErrorReport& report) {
-    ObjectRef application = runtime.applicationObject();
+    ObjectRef application = runtime.automation().applicationObject();
     if (!application)
-        application = std::make_shared<ApplicationObject>(runtime.component());
+        application = std::make_shared<ApplicationObject>(runtime.program().component());
     // The last six go by reference, but what a handler makes of them is not read back.
-    std::array<Variant, 8> arguments = {CurrentExePath(runtime),
+    std::array<Variant, 8> arguments = {CurrentExePath(runtime.program(), runtime.files()),
                                         application,
                                         report.number,
                                         report.description,
@@ -120,15 +119,15 @@ void reportError(Runtime& runtime, const ErrorReport& report) noexcept {
     const RunningReport running;
     ObjectRef handler;
     if (!tooDeep)
-        attempt([&] { handler = runtime.createObject(handlerProgramId); });
+        attempt([&] { handler = runtime.automation().createObject(handlerProgramId); });
     String text;
-    attempt([&] { text = reportText(report, runtime.component()); });
+    attempt([&] { text = reportText(report, runtime.program().component()); });
     attempt([&] { writeLogRecord(runtime, text); });
     if (tooDeep)
         return;
     if (handler && attempt([&] { callHandler(runtime, *handler, report); }))
         return;
-    attempt([&] { runtime.messageBox(text, boxCritical, boxTitle); });
+    attempt([&] { runtime.queue().messageBox(text, BoxStyle::critical, boxTitle); });
 }
 
 } // namespace lumtex

@@ -10,9 +10,9 @@ constexpr std::size_t bufferSize = 255; // code units, the closing zero among th
 
 } // namespace
 
-String CurrentExePath(const Runtime& runtime) {
-    const Long own = runtime.currentProcessId();
-    const std::optional<std::vector<ProcessEntry>> processes = runtime.processes();
+String CurrentExePath(const Program& program, const Files& files) {
+    const Long own = program.currentProcessId();
+    const std::optional<std::vector<ProcessEntry>> processes = program.processes();
     if (!processes)
         return {};
     const auto found = std::find_if(
@@ -21,7 +21,7 @@ String CurrentExePath(const Runtime& runtime) {
         return {};
     const StringView fileName = StringView(found->fileName).substr(0, found->fileName.find(u'\0'));
     // Wanted: the entry's file name is completed from the current folder, wherever the program lies.
-    String path = runtime.fullPathName(fileName);
+    String path = files.fullPathName(fileName);
     // One that does not fit leaves the buffer empty.
     return path.size() < bufferSize ? path : String();
 }

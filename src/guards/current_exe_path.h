@@ -2,12 +2,13 @@
 /// The program that the process runs.
 #pragma once
 
-#include "platform/runtime.h"
+#include "platform/files.h"
+#include "platform/program.h"
 
 namespace lumtex {
 
 /// Found by a walk over all processes; empty where these cannot be listed, or the own one is not among them,
 /// or its path is longer than 255 code units.
-String CurrentExePath(const Runtime& runtime);
+String CurrentExePath(const Program& program, const Files& files);
 
 } // namespace lumtex

@@ -1,6 +1,5 @@
 /// The look of the user's desktop, as the four that hosts know.
 #include "helpers/sp_ev.h"
-#include "platform/runtime.h"
 
 #include <algorithm>
 #include <iterator>
@@ -13,11 +12,6 @@ constexpr Long themedFamily = 2;
 constexpr Long firstMajor = 5;
 constexpr Long firstMinor = 1;
 
-// Code units.
-constexpr std::size_t themeFileLength = 260;
-constexpr std::size_t colorNameLength = 255;
-constexpr std::size_t sizeNameLength = 255;
-
 struct Look {
     StringView colorName;
     cActiveXPTheme theme;
@@ -28,15 +22,10 @@ constexpr Look looks[] = {
     {u"HomeStead", styleOlive},
 };
 
-/// What the platform wrote into a buffer of blanks: all up to its closing zero.
-StringView ConvUnicode(StringView buffer) {
-    return buffer.substr(0, buffer.find(u'\0'));
-}
-
 } // namespace
 
 bool SpEv::IsWinXP() const {
-    const SystemVersion version = runtime_.systemVersion();
+    const SystemVersion version = runtime_.desktop().systemVersion();
     // Wanted: major and minor are tested on their own, so a later system with a minor version of 0 fails.
     return version.platformId == themedFamily && version.major >= firstMajor && version.minor >= firstMinor;
 }
@@ -49,14 +38,9 @@ cActiveXPTheme SpEv::ActiveXPTheme() {
 cActiveXPTheme SpEv::activeTheme() const {
     if (!IsWinXP())
         return styleClassic;
-    String themeFile(themeFileLength, u' ');
-    String colorName(colorNameLength, u' ');
-    String sizeName(sizeNameLength, u' ');
-    if (runtime_.currentThemeName(themeFile, colorName, sizeName) != 0)
-        return styleClassic;
-    const StringView name = ConvUnicode(colorName);
+    const std::optional<String> scheme = runtime_.desktop().colorScheme();
     const auto* const found = std::find_if(
-        std::begin(looks), std::end(looks), [&](const Look& look) { return look.colorName == name; });
+        std::begin(looks), std::end(looks), [&](const Look& look) { return look.colorName == scheme; });
     return found != std::end(looks) ? found->theme : styleClassic;
 }
 

@@ -8,10 +8,10 @@ constexpr Long invalidHandle = -1;
 
 } // namespace
 
-bool FileExists(Runtime& runtime, StringView sFile) {
-    const Long handle = runtime.findFirstFile(sFile);
+bool FileExists(Files& files, StringView sFile) {
+    const Long handle = files.findFirstFile(sFile);
     // Wanted: the search is closed in every case, also the one that found nothing.
-    runtime.findClose(handle);
+    files.findClose(handle);
     return handle != invalidHandle;
 }
 

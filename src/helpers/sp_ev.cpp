@@ -40,7 +40,7 @@ Procedure SpEv::procedure(StringView name) const {
 
 String SpEv::TextRead(StringView Filename) {
     Procedure p = procedure(u"TextRead");
-    TextFile file(runtime_);
+    TextFile file(runtime_.files());
     p.step([&] { file.openForInput(Filename); });
     String text = p.value<String>([&] { return file.readAll(); });
     file.close();
@@ -49,7 +49,7 @@ String SpEv::TextRead(StringView Filename) {
 
 void SpEv::TextSave(StringView Filename, StringView Text) {
     Procedure p = procedure(u"TextSave");
-    TextFile file(runtime_);
+    TextFile file(runtime_.files());
     p.step([&] { file.openForOutput(Filename); });
     p.step([&] { file.print(Text); });
     p.step([&] { file.close(); });
@@ -57,7 +57,7 @@ void SpEv::TextSave(StringView Filename, StringView Text) {
 
 void SpEv::PlayMusic(StringView Filename) {
     Procedure p = procedure(u"PlayMusic");
-    p.step([&] { runtime_.playSound(Filename, soundAsync | soundNoDefault); });
+    p.step([&] { runtime_.desktop().playSound(Filename); });
 }
 
 void SpEv::ListSave(const ObjectRef& List,
@@ -65,7 +65,7 @@ void SpEv::ListSave(const ObjectRef& List,
                     StringView TextBeforeListText,
                     StringView TextAfterListText) {
     Procedure p = procedure(u"ListSave");
-    TextFile file(runtime_);
+    TextFile file(runtime_.files());
     p.step([&] { file.openForOutput(Filename); });
     const Long count = p.value<Long>([&] { return objectOf(List).get(u"ListCount").toLong(); });
     Integer index = 0;
@@ -84,7 +84,7 @@ void SpEv::ListSave(const ObjectRef& List,
 
 void SpEv::ListRead(const ObjectRef& List, StringView Filename) {
     Procedure p = procedure(u"ListRead");
-    TextFile file(runtime_);
+    TextFile file(runtime_.files());
     p.step([&] { file.openForInput(Filename); });
     while (!p.condition([&] { return file.atEnd(); }, true)) {
         std::array<Variant, 1> arguments = {p.value<String>([&] { return file.lineInput(); })};
@@ -95,7 +95,7 @@ void SpEv::ListRead(const ObjectRef& List, StringView Filename) {
 
 bool SpEv::FileExists(StringView sFile) {
     bool exists = false;
-    ignoringErrors([&] { exists = lumtex::FileExists(runtime_, sFile); });
+    ignoringErrors([&] { exists = lumtex::FileExists(runtime_.files(), sFile); });
     return exists;
 }
 

@@ -14,13 +14,13 @@ constexpr std::size_t mostWaiting = 65536; // code units
 } // namespace
 
 void TextFile::openForInput(StringView path) {
-    content_ = runtime_.readFile(path);
+    content_ = files_.readFile(path);
     place_ = 0;
     open_ = true;
 }
 
 void TextFile::openForOutput(StringView path) {
-    runtime_.createFile(path);
+    files_.createFile(path);
     path_ = path;
     open_ = true;
 }
@@ -32,7 +32,7 @@ void TextFile::demandOpen() const {
 
 void TextFile::writeOut() {
     if (!path_.empty() && !content_.empty())
-        runtime_.appendToFile(path_, std::exchange(content_, {}));
+        files_.appendToFile(path_, std::exchange(content_, {}));
 }
 
 void TextFile::close() {

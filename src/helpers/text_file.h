@@ -2,7 +2,7 @@
 /// A sequential file of text, used one statement after another.
 #pragma once
 
-#include "platform/runtime.h"
+#include "platform/files.h"
 
 namespace lumtex {
 
@@ -11,13 +11,13 @@ namespace lumtex {
 /// in the file at the latest after `close`.
 class TextFile {
   public:
-    explicit TextFile(Runtime& runtime) : runtime_(runtime) {}
+    explicit TextFile(Files& files) : files_(files) {}
 
-    /// Throws as `Runtime::readFile`.
+    /// Throws as `Files::readFile`.
     void openForInput(StringView path);
-    /// Empties the file. Throws as `Runtime::createFile`.
+    /// Empties the file. Throws as `Files::createFile`.
     void openForOutput(StringView path);
-    /// Does nothing if the file is not open. Throws as `Runtime::appendToFile`.
+    /// Does nothing if the file is not open. Throws as `Files::appendToFile`.
     void close();
 
     /// All that has not been read yet.
@@ -32,7 +32,7 @@ class TextFile {
     void demandOpen() const;
     void writeOut();
 
-    Runtime& runtime_;
+    Files& files_;
     bool open_ = false;
     String path_;
     String content_;        ///< what was read from the file, or waits to be written

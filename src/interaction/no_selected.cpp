@@ -22,7 +22,7 @@ void lmListView::NoSelected(std::optional<Long> index) {
 /// `index` counts from 0.
 void lmListView::SetNewSelected(Long index) {
     Procedure p = procedure(u"SetNewSelected");
-    QueueWatch watch(runtime());
+    QueueWatch watch(runtime().queue());
     countShared(paint_.scanIndex, 0, RowsCount() - 1, [&] {
         if (!p.step([&] { recordAt(paint_.scanIndex).Selected = false; }))
             watch.hostRan();

@@ -26,7 +26,7 @@ void lmListView::takeContainersFont() {
 }
 
 void lmListView::recogniseProgram() {
-    knownProgram_ = runsInKnownProgram(runtime().component());
+    knownProgram_ = runsInKnownProgram(runtime().program().component());
     topInset_ = knownProgram_ ? 3 : 0;
 }
 

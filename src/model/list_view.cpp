@@ -57,7 +57,7 @@ Procedure lmListView::procedure(StringView name) const {
 /// with it.
 void lmListView::yield(Procedure& p) {
     if (!life_.hasEnded())
-        p.raise([&] { runtime().DoEvents(); });
+        p.raise([&] { runtime().queue().DoEvents(); });
 }
 
 /// The same for a walk that runs no code of the host between two of its yields.

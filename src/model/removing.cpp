@@ -34,7 +34,7 @@ void lmListView::removeRow(Long Index, Procedure& p) {
     const Long last = upperBoundOfRows();
     // While nothing waits for the host, nobody sees whether a record is copied or, much faster, moved; the
     // last one moved leaves an empty record, which goes below.
-    QueueWatch watch(runtime());
+    QueueWatch watch(runtime().queue());
     RowRecord* const records = rows_.data();
     Long row = Index;
     for (; row <= last && !watch.eventWaits(); ++row)

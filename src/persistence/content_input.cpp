@@ -128,7 +128,7 @@ class CellLoading {
 
 bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfExists) {
     Procedure p = procedure(u"ContentInput");
-    const bool exists = p.condition([&] { return FileExists(runtime(), sFilename); }, false);
+    const bool exists = p.condition([&] { return FileExists(runtime().files(), sFilename); }, false);
     if (!exists)
         return false;
     const bool autoRedraw = properties_.AutoRedraw;
@@ -158,7 +158,7 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
                                 : header.hasItemProperties ? RecordForm::dropProperties
                                                            : RecordForm::textAlone;
         CellLoading loading(*this, runtime(), p, file);
-        WholeRecordLoading fast(*this, runtime(), file, form);
+        WholeRecordLoading fast(*this, runtime().locale(), file, form);
         for (Long column = 1; column <= header.columnCount; ++column) {
             for (Long row = 1; row <= header.rowCount; ++row) {
                 if (fast.read(row, column))

@@ -81,9 +81,9 @@ class CellSaving {
 
 bool lmListView::ContentSave(StringView sFilename, bool bSaveItemProperties) {
     Procedure p = procedure(u"ContentSave");
-    const bool exists = p.condition([&] { return FileExists(runtime(), sFilename); }, false);
+    const bool exists = p.condition([&] { return FileExists(runtime().files(), sFilename); }, false);
     if (exists)
-        p.step([&] { runtime().deleteFile(sFilename); });
+        p.step([&] { runtime().files().deleteFile(sFilename); });
     ContentWriter file(runtime());
     p.step([&] { file.open(sFilename); });
 
@@ -93,7 +93,7 @@ bool lmListView::ContentSave(StringView sFilename, bool bSaveItemProperties) {
     p.step([&] { file.put(booleanNumber(bSaveItemProperties)); });
     if (ColumnsCount() >= 1 && RowsCount() >= 1) {
         CellSaving saving(*this, runtime(), p, file);
-        WholeRecordSaving fast(*this, runtime(), file, bSaveItemProperties);
+        WholeRecordSaving fast(*this, runtime().locale(), file, bSaveItemProperties);
         const Long columns = ColumnsCount();
         const Long rows = RowsCount();
         for (content_.saveColumn = 1; content_.saveColumn <= columns; ++content_.saveColumn) {

@@ -139,7 +139,7 @@ const String& WholeRecordLoading::textOf(std::span<const Byte> bytes) {
         all |= bytes[i];
     }
     if (all >= 0x80)
-        runtime_.fromAnsi(bytes, scratch_);
+        locale_.fromAnsi(bytes, scratch_);
     return scratch_;
 }
 

@@ -17,8 +17,8 @@ enum class RecordForm : Byte { textAlone, dropProperties, readProperties };
 /// are silenced, a record behind the file's end is all zeros, and one for a missing cell is read over.
 class WholeRecordLoading {
   public:
-    WholeRecordLoading(lmListView& list, const Runtime& runtime, ContentReader& file, RecordForm form)
-        : cells_(list), runtime_(runtime), file_(file), form_(form) {}
+    WholeRecordLoading(lmListView& list, const SystemLocale& locale, ContentReader& file, RecordForm form)
+        : cells_(list), locale_(locale), file_(file), form_(form) {}
 
     /// False, with nothing read, for a record that has to be read value by value: one that is cut off or
     /// damaged, one with a picture to load, one longer than the reader's buffer, one for a cell that is shown
@@ -49,7 +49,7 @@ class WholeRecordLoading {
     const String& textOf(std::span<const Byte> bytes);
 
     ContentCells cells_;
-    const Runtime& runtime_;
+    const SystemLocale& locale_;
     ContentReader& file_;
     RecordForm form_;
     Look look_;

@@ -47,7 +47,7 @@ void WholeRecordSaving::encode(const CellStyle& style) {
     append(before, font.Size);
     append(before, static_cast<Long>(font.Name.size()));
     before.resize(before.size() + font.Name.size());
-    runtime_.toAnsi(font.Name, std::span(before).last(font.Name.size()));
+    locale_.toAnsi(font.Name, std::span(before).last(font.Name.size()));
     append(before, booleanNumber(style.AllowEdit));
     append(before, static_cast<Byte>(style.Alignment));
     const Variant colors[] = {style.ForeColor,
@@ -94,7 +94,7 @@ void WholeRecordSaving::encodeText(const CompactText& text, Byte* target) {
     if (copied)
         return;
     text.copyTo(scratch_);
-    runtime_.toAnsi(scratch_, {target, scratch_.size()});
+    locale_.toAnsi(scratch_, {target, scratch_.size()});
 }
 
 bool WholeRecordSaving::write(Long row, Long column) {
@@ -133,7 +133,7 @@ bool WholeRecordSaving::write(Long row, Long column) {
         encodeText(item.text(), place + lengthSize);
         place = std::copy(look.beforeTag.begin(), look.beforeTag.end(), place + lengthSize + textSize);
         storeNumber(place, static_cast<Long>(tag.size()));
-        runtime_.toAnsi(tag, {place + lengthSize, tag.size()});
+        locale_.toAnsi(tag, {place + lengthSize, tag.size()});
         place = std::copy(look.behindTag.begin(), look.behindTag.end(), place + lengthSize + tag.size());
         std::fill_n(place, noPictures, Byte{0});
         file_.taken(size);

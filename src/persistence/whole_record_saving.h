@@ -12,8 +12,8 @@ namespace lumtex {
 /// Writes what the accessors would give, for cells whose values all have a form in the file.
 class WholeRecordSaving {
   public:
-    WholeRecordSaving(lmListView& list, const Runtime& runtime, ContentWriter& file, bool withProperties)
-        : cells_(list), runtime_(runtime), file_(file), withProperties_(withProperties) {}
+    WholeRecordSaving(lmListView& list, const SystemLocale& locale, ContentWriter& file, bool withProperties)
+        : cells_(list), locale_(locale), file_(file), withProperties_(withProperties) {}
 
     /// False, with nothing written, for a cell that has to be written value by value: one that is missing,
     /// one with a picture or a value that could fail, and where the file has to be written or would fail.
@@ -33,7 +33,7 @@ class WholeRecordSaving {
     void encodeText(const CompactText& text, Byte* target);
 
     ContentCells cells_;
-    const Runtime& runtime_;
+    const SystemLocale& locale_;
     ContentWriter& file_;
     bool withProperties_;
     Look look_; ///< of the last cell

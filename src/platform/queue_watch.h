@@ -2,7 +2,7 @@
 /// When a long walk has to give the host its turn.
 #pragma once
 
-#include "platform/runtime.h"
+#include "platform/event_queue.h"
 
 #include <chrono>
 
@@ -14,7 +14,7 @@ namespace lumtex {
 /// later; so after a look that found nothing the next one waits for that moment.
 class QueueWatch {
   public:
-    explicit QueueWatch(const Runtime& runtime) : runtime_(runtime) {}
+    explicit QueueWatch(const EventQueue& queue) : queue_(queue) {}
 
     /// Looks at its first call, and at each one after a look that found something.
     bool eventWaits() {
@@ -23,7 +23,7 @@ class QueueWatch {
             return false;
         }
         if (Clock::now() >= nextLook_) {
-            if (runtime_.hasPendingEvents())
+            if (queue_.hasPendingEvents())
                 return true;
             nextLook_ = Clock::now() + pause;
         }
@@ -45,7 +45,7 @@ class QueueWatch {
     /// The clock, too, costs more than a step.
     static constexpr int stepsBetweenClocks = 63;
 
-    const Runtime& runtime_;
+    const EventQueue& queue_;
     Clock::time_point nextLook_;
     int stepsLeft_ = 0;
 };

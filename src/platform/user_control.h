@@ -21,8 +21,8 @@ using DragData = ObjectRef;
 /// Base of every own-drawn thing: the list, its bars, thumbs and buttons.
 ///
 /// A window calls these on the interface thread. Coordinates are pixels of the control's own surface and may
-/// lie outside it during a capture. An entry point may re-enter through `Runtime::DoEvents`. None may throw.
-/// What a control does not care for stays empty.
+/// lie outside it during a capture. An entry point may re-enter through `EventQueue::DoEvents`. None may
+/// throw. What a control does not care for stays empty.
 class UserControl {
   public:
     UserControl() = default;

@@ -17,7 +17,7 @@ void PaintPass::cellObject(const ObjectRef& shared) {
     statement([&] {
         targetHeight = properties.RowsDynamic
                            ? scaleY(surface, static_cast<Double>(cellHeight) - 1, pixels, twips)
-                           : properties.RowHeight - list.runtime().twipsPerPixelY();
+                           : properties.RowHeight - scaleY(surface, 1, pixels, twips);
     });
     statement([&] {
         const Double objectHeight = object->get(u"Height").toDouble();

@@ -68,7 +68,7 @@ void lmListView::wheelIndexDown(Procedure& p, Integer Rotation) {
         return;
     }
     Long i = ListIndex() + 1;
-    QueueWatch watch(runtime());
+    QueueWatch watch(runtime().queue());
     for (;; ++i) {
         if (i > last())
             return;
@@ -91,7 +91,7 @@ void lmListView::wheelIndexUp(Procedure& p, Integer Rotation) {
         letListIndex(0);
         return;
     }
-    QueueWatch watch(runtime());
+    QueueWatch watch(runtime().queue());
     for (Long i = ListIndex() - 1; i >= 0; --i) {
         if (stopsWheel(p, i)) {
             if (ListIndex() > 0) {

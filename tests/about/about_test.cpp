@@ -129,13 +129,12 @@ TEST_F(About, AClickOnTheLinkOpensItsCaption) {
     shown();
     click(Control::lblLink);
     ASSERT_EQ(runtime.opened.size(), 1U);
-    const ShellRequest& request = runtime.opened[0];
+    const OpenRequest& request = runtime.opened[0];
     EXPECT_EQ(request.window, form->window().hWnd());
-    EXPECT_EQ(request.verb, u"Open");
     EXPECT_EQ(request.file, form->Caption(Control::lblLink));
     EXPECT_EQ(request.parameters, u"");
     EXPECT_EQ(request.folder, u"C:\\Components");
-    EXPECT_EQ(request.show, 1);
+    EXPECT_FALSE(request.maximised);
     EXPECT_TRUE(form->Visible());
 }
 
@@ -144,13 +143,12 @@ TEST_F(About, AClickOnHelpOpensTheHelpProgramMaximised) {
     shown();
     click(Control::imgHelp);
     ASSERT_EQ(runtime.opened.size(), 1U);
-    const ShellRequest& request = runtime.opened[0];
+    const OpenRequest& request = runtime.opened[0];
     EXPECT_EQ(request.window, form->window().hWnd());
-    EXPECT_EQ(request.verb, u"Open");
     EXPECT_EQ(request.file, u"C:\\Apps\\LumtexHelp\\LumtexHelp.exe");
     EXPECT_EQ(request.parameters, u"/LumtexListView");
     EXPECT_EQ(request.folder, u"C:\\Apps\\LumtexHelp\\");
-    EXPECT_EQ(request.show, 3);
+    EXPECT_TRUE(request.maximised);
     EXPECT_TRUE(form->Visible());
 }
 

@@ -85,7 +85,7 @@ TEST(Classes, TheHelperCallsReachTheRuntime) {
     FakeRuntime runtime;
     SpEv helper(runtime);
     CallByName byName(helper);
-    runtime.files[u"a.txt"] = u"some text";
+    runtime.fileSystem.texts[u"a.txt"] = u"some text";
     std::vector<Variant> there{u"a.txt"};
     EXPECT_EQ(byName.call(u"FileExists", there), Variant(true));
     std::vector<Variant> notThere{u"b.txt"};

@@ -12,7 +12,7 @@ TEST_P(BarRange, AMinAboveMaxIsRefusedWithAMessage) {
     EXPECT_EQ(bar().Min(), 0);
     ASSERT_EQ(boxes(), 1U);
     EXPECT_EQ(desktop.runtime().boxes[0].text, u"Min darf nicht größer sein als Max!");
-    EXPECT_EQ(desktop.runtime().boxes[0].style, 16);
+    EXPECT_EQ(desktop.runtime().boxes[0].style, BoxStyle::critical);
     EXPECT_EQ(desktop.runtime().boxes[0].title, u"");
     EXPECT_TRUE(told.empty());
     bar().letMin(50);
@@ -26,7 +26,7 @@ TEST_P(BarRange, AMaxBelowMinIsRefusedWithAMessage) {
     EXPECT_EQ(bar().Max(), 50);
     ASSERT_EQ(boxes(), 1U);
     EXPECT_EQ(desktop.runtime().boxes[0].text, u"Max darf nicht kleiner sein als Min!");
-    EXPECT_EQ(desktop.runtime().boxes[0].style, 16);
+    EXPECT_EQ(desktop.runtime().boxes[0].style, BoxStyle::critical);
     EXPECT_EQ(desktop.runtime().boxes[0].title, u"");
     bar().letMax(10);
     EXPECT_EQ(bar().Max(), 10);

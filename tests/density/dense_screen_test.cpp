@@ -112,7 +112,8 @@ TEST_F(OnOneScreen, TheProgramIsToldItsDensity) {
 }
 
 TEST_F(OnOneScreen, ATwipIsA1440thOfAnInch) {
-    EXPECT_FLOAT_EQ(runtime.twipsPerPixelY() * static_cast<Single>(expected()), 1440);
+    const auto surface = world.createSurface(1, 1);
+    EXPECT_FLOAT_EQ(scaleY(*surface, 1, pixels, twips) * static_cast<Single>(expected()), 1440);
 }
 
 TEST_F(OnOneScreen, SurfacesOfAllKindsHaveTheDensityOfTheScreen) {

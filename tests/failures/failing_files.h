@@ -3,17 +3,15 @@
 #pragma once
 
 #include "failures/failure_point.h"
-#include "worlds/headless/headless_runtime.h"
-
-#include <algorithm>
+#include "platform/runtime.h"
 
 namespace lumtex::testing {
 
-/// Everything of another runtime's. Each operation on a file is a place of `operations`, each byte that is
-/// written one of `bytes`: those before the failing one are written.
-class FailingFiles final : public Runtime {
+/// Each operation on a file is a place of `operations`, each byte that is written one of `bytes`: those
+/// before the failing one are written.
+class FailingFiles final : public Files {
   public:
-    explicit FailingFiles(HeadlessRuntime& inner) : inner_(inner) {}
+    explicit FailingFiles(Files& inner) : inner_(inner) {}
 
     mutable FailurePoint operations;
     FailurePoint bytes;
@@ -35,43 +33,8 @@ class FailingFiles final : public Runtime {
     void deleteFile(StringView path) override { may().deleteFile(path); }
     Long findFirstFile(StringView pattern) override { return may().findFirstFile(pattern); }
 
-    void DoEvents() override { inner_.DoEvents(); }
-    bool hasPendingEvents() const override { return inner_.hasPendingEvents(); }
-    void messageBox(StringView text, Long style, StringView title) override {
-        inner_.messageBox(text, style, title);
-    }
-    const ComponentInfo& component() const override { return inner_.component(); }
-    Long currentProcessId() const override { return inner_.currentProcessId(); }
-    std::optional<std::vector<ProcessEntry>> processes() const override { return inner_.processes(); }
-    String fullPathName(StringView file) const override { return inner_.fullPathName(file); }
-    std::optional<StoredSetting>
-    storedSetting(std::uint32_t hive, StringView key, StringView name) const override {
-        return inner_.storedSetting(hive, key, name);
-    }
-    Date now() const override { return inner_.now(); }
-    void toAnsi(StringView text, std::span<Byte> target) const override { inner_.toAnsi(text, target); }
-    void fromAnsi(std::span<const Byte> source, std::span<char16_t> text) const override {
-        inner_.fromAnsi(source, text);
-    }
-    std::vector<Byte> imageOfPicture(const Picture& picture) const override {
-        return inner_.imageOfPicture(picture);
-    }
-    PictureRef pictureOfImage(std::span<const Byte> image) const override {
-        return inner_.pictureOfImage(image);
-    }
     void findClose(Long handle) override { inner_.findClose(handle); }
-    ObjectRef createObject(StringView programId) override { return inner_.createObject(programId); }
-    ObjectRef applicationObject() override { return inner_.applicationObject(); }
-    void playSound(StringView file, Long flags) override { inner_.playSound(file, flags); }
-    SystemVersion systemVersion() const override { return inner_.systemVersion(); }
-    Long currentThemeName(std::span<char16_t> themeFile,
-                          std::span<char16_t> colorName,
-                          std::span<char16_t> sizeName) const override {
-        return inner_.currentThemeName(themeFile, colorName, sizeName);
-    }
-    Integer asyncKeyState(Long virtualKey) override { return inner_.asyncKeyState(virtualKey); }
-    void shellExecute(const ShellRequest& request) override { inner_.shellExecute(request); }
-    Single twipsPerPixelY() const override { return inner_.twipsPerPixelY(); }
+    String fullPathName(StringView file) const override { return inner_.fullPathName(file); }
 
   private:
     class Output final : public OutputFile {
@@ -112,7 +75,7 @@ class FailingFiles final : public Runtime {
         std::unique_ptr<InputFile> inner_;
     };
 
-    HeadlessRuntime& may() const {
+    Files& may() const {
         operations.pass(deviceError);
         return inner_;
     }
@@ -124,7 +87,27 @@ class FailingFiles final : public Runtime {
         return size;
     }
 
-    HeadlessRuntime& inner_;
+    Files& inner_;
+};
+
+/// Everything of another runtime's but its files.
+class RuntimeWithFailingFiles final : public Runtime {
+  public:
+    explicit RuntimeWithFailingFiles(Runtime& inner) : failing(inner.files()), inner_(inner) {}
+
+    FailingFiles failing;
+
+    EventQueue& queue() override { return inner_.queue(); }
+    Files& files() override { return failing; }
+    Settings& settings() override { return inner_.settings(); }
+    SystemLocale& locale() override { return inner_.locale(); }
+    PictureImages& pictures() override { return inner_.pictures(); }
+    Automation& automation() override { return inner_.automation(); }
+    UserDesktop& desktop() override { return inner_.desktop(); }
+    Program& program() override { return inner_.program(); }
+
+  private:
+    Runtime& inner_;
 };
 
 } // namespace lumtex::testing

@@ -25,11 +25,12 @@ class FileWalk : public FailureWalk {
         return boxes.empty() ? "" : toUtf8(boxes.front().text.substr(0, boxes.front().text.find(u'\r')));
     }
 
-    FailingFiles files{desktop.runtime()};
+    RuntimeWithFailingFiles runtime{desktop.runtime()};
+    FailingFiles& files = runtime.failing;
 
   private:
     FailurePoint surfaces_;
-    FailingWorld world_{desktop, surfaces_, &files};
+    FailingWorld world_{desktop, surfaces_, &runtime};
 };
 
 TEST_F(FileWalk, AContentFileHoldsWhatWasWrittenBeforeTheFailure) {
@@ -110,7 +111,7 @@ class Entries final : public Object {
 
 TEST_F(FileWalk, SavedEntriesStandUpToTheByteThatFailed) {
     Error().letSilentError(false);
-    SpEv helper(files);
+    SpEv helper(runtime);
     const auto entries = std::make_shared<Entries>();
     entries->entries = {u"one", u"two", u"three"};
     const std::string whole = "one\r\ntwo\r\nthree\r\n";
@@ -128,7 +129,7 @@ TEST_F(FileWalk, SavedEntriesStandUpToTheByteThatFailed) {
 
 TEST_F(FileWalk, AnEntryThatCannotBeHadLeavesItsLineOut) {
     Error().letSilentError(false);
-    SpEv helper(files);
+    SpEv helper(runtime);
     const auto entries = std::make_shared<Entries>();
     entries->entries = {u"one", u"two", u"three"};
     // The count comes first: without one there are no lines.
@@ -145,7 +146,7 @@ TEST_F(FileWalk, AnEntryThatCannotBeHadLeavesItsLineOut) {
 
 TEST_F(FileWalk, SettingsThatCannotBeWrittenLeaveTheOldOnesAndNothingElse) {
     const String file = folder.pathTo("settings.json");
-    JsonPropertyBag bag(files);
+    JsonPropertyBag bag(runtime);
     bag.WriteProperty(u"Enabled", false, true);
     bag.save(file);
     const std::string before = folder.contentOf("settings.json");
@@ -175,7 +176,7 @@ TEST_F(FileWalk, ALogThatCannotBeWrittenIsNoFailure) {
     const auto report = [&] {
         desktop.runtime().boxes.clear();
         reportError(
-            files,
+            runtime,
             {.number = 9, .description = u"text", .procedure = u"ItemText", .moduleName = u"lmListView"});
     };
     report();

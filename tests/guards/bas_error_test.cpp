@@ -31,7 +31,7 @@ const String record = u"2024-02-29 12:00:00\r\n" + String(text) + u"\r\n--------
 
 class Report : public ::testing::Test {
   protected:
-    void logInto(StringView folder) { runtime.settings[u"Software\\Lumtex\\ErrorLog"] = folder; }
+    void logInto(StringView folder) { runtime.storedTexts[u"Software\\Lumtex\\ErrorLog"] = folder; }
 
     ReportCatcher& installHandler() {
         const auto catcher = std::make_shared<ReportCatcher>();
@@ -50,7 +50,7 @@ class Report : public ::testing::Test {
 };
 
 TEST(ReportText, HasSixLinesToTheLetter) {
-    EXPECT_EQ(reportText(report, FakeRuntime().info), text);
+    EXPECT_EQ(reportText(report, FakeProgram().info), text);
 }
 
 TEST(ReportText, NumbersAndLinesMayBeAnyLong) {
@@ -87,52 +87,54 @@ TEST_F(Report, WithoutLogAndHandlerShowsTheCriticalBox) {
     reportError(runtime, report);
     ASSERT_EQ(runtime.boxes.size(), 1U);
     EXPECT_EQ(runtime.boxes[0].text, text);
-    EXPECT_EQ(runtime.boxes[0].style, 16);
+    EXPECT_EQ(runtime.boxes[0].style, BoxStyle::critical);
     EXPECT_EQ(runtime.boxes[0].title, u"Error");
-    EXPECT_TRUE(runtime.files.empty());
+    EXPECT_TRUE(runtime.fileSystem.texts.empty());
 }
 
 TEST_F(Report, ErrorLogHoldingAFolderWithoutAClosingBackslashGetsOne) {
-    runtime.folders = {u"C:\\Logs"};
+    runtime.fileSystem.folders = {u"C:\\Logs"};
     logInto(u"C:\\Logs");
     reportError(runtime, report);
-    EXPECT_EQ(runtime.files, (std::map<String, String>{{u"C:\\Logs\\LumtexError.txt", record}}));
+    EXPECT_EQ(runtime.fileSystem.texts, (std::map<String, String>{{u"C:\\Logs\\LumtexError.txt", record}}));
 }
 
 TEST_F(Report, ErrorLogHoldingAFolderWithAClosingBackslashGetsNoSecond) {
-    runtime.folders = {u"C:\\Logs"};
+    runtime.fileSystem.folders = {u"C:\\Logs"};
     logInto(u"C:\\Logs\\");
     reportError(runtime, report);
-    EXPECT_EQ(runtime.files, (std::map<String, String>{{u"C:\\Logs\\LumtexError.txt", record}}));
+    EXPECT_EQ(runtime.fileSystem.texts, (std::map<String, String>{{u"C:\\Logs\\LumtexError.txt", record}}));
 }
 
 TEST_F(Report, ErrorLogHoldingAppWritesBesideTheComponent) {
-    runtime.folders = {u"C:\\Components"};
+    runtime.fileSystem.folders = {u"C:\\Components"};
     logInto(u"*app*");
     reportError(runtime, report);
-    EXPECT_EQ(runtime.files, (std::map<String, String>{{u"C:\\Components\\LumtexError.txt", record}}));
+    EXPECT_EQ(runtime.fileSystem.texts,
+              (std::map<String, String>{{u"C:\\Components\\LumtexError.txt", record}}));
 }
 
 TEST_F(Report, ErrorLogHoldingAppBesideAComponentAtTheRoot) {
-    runtime.info.folder = u"C:\\";
-    runtime.folders = {u"C:"};
+    runtime.process.info.folder = u"C:\\";
+    runtime.fileSystem.folders = {u"C:"};
     logInto(u"*app*");
     reportError(runtime, report);
-    EXPECT_EQ(runtime.files, (std::map<String, String>{{u"C:\\LumtexError.txt", record}}));
+    EXPECT_EQ(runtime.fileSystem.texts, (std::map<String, String>{{u"C:\\LumtexError.txt", record}}));
 }
 
 TEST_F(Report, ErrorLogAppInOtherCaseIsAFolder) {
-    runtime.folders = {u"*APP*"};
+    runtime.fileSystem.folders = {u"*APP*"};
     logInto(u"*APP*");
     reportError(runtime, report);
-    EXPECT_EQ(runtime.files, (std::map<String, String>{{u"*APP*\\LumtexError.txt", record}}));
+    EXPECT_EQ(runtime.fileSystem.texts, (std::map<String, String>{{u"*APP*\\LumtexError.txt", record}}));
 }
 
 TEST_F(Report, BlanksAroundErrorLogDoNotCount) {
-    runtime.folders = {u"C:\\Components"};
+    runtime.fileSystem.folders = {u"C:\\Components"};
     logInto(u"  *app* ");
     reportError(runtime, report);
-    EXPECT_EQ(runtime.files, (std::map<String, String>{{u"C:\\Components\\LumtexError.txt", record}}));
+    EXPECT_EQ(runtime.fileSystem.texts,
+              (std::map<String, String>{{u"C:\\Components\\LumtexError.txt", record}}));
 }
 
 TEST_F(Report, ErrorLogOfOnlyBlanksMeansNoLog) {
@@ -144,7 +146,7 @@ TEST_F(Report, ErrorLogOfOnlyBlanksMeansNoLog) {
 TEST_F(Report, ErrorLogNamingAFolderThatDoesNotExistIsNoComplaint) {
     logInto(u"C:\\Nowhere");
     reportError(runtime, report);
-    EXPECT_TRUE(runtime.files.empty());
+    EXPECT_TRUE(runtime.fileSystem.texts.empty());
     EXPECT_THAT(runtime.journal,
                 ElementsAre(u"create LumtexErrorHandler.ErrorHandler",
                             u"append C:\\Nowhere\\LumtexError.txt",
@@ -153,26 +155,27 @@ TEST_F(Report, ErrorLogNamingAFolderThatDoesNotExistIsNoComplaint) {
 }
 
 TEST_F(Report, MemoryRunningOutWhileLoggingIsNoComplaint) {
-    runtime.folders = {u"C:\\Logs"};
+    runtime.fileSystem.folders = {u"C:\\Logs"};
     logInto(u"C:\\Logs");
     runtime.onAppend = [] { throw std::bad_alloc(); };
     const ReportCatcher& handler = installHandler();
     reportError(runtime, report);
-    EXPECT_TRUE(runtime.files.empty());
+    EXPECT_TRUE(runtime.fileSystem.texts.empty());
     EXPECT_EQ(handler.calls.size(), 1U);
 }
 
 TEST_F(Report, ARepeatedFailureAddsOneRecordPerReport) {
-    runtime.folders = {u"C:\\Logs"};
-    runtime.files[u"C:\\Logs\\LumtexError.txt"] = u"what was there\r\n";
+    runtime.fileSystem.folders = {u"C:\\Logs"};
+    runtime.fileSystem.texts[u"C:\\Logs\\LumtexError.txt"] = u"what was there\r\n";
     logInto(u"C:\\Logs");
     for (int i = 0; i < 3; ++i)
         reportError(runtime, report);
-    EXPECT_EQ(runtime.files[u"C:\\Logs\\LumtexError.txt"], u"what was there\r\n" + record + record + record);
+    EXPECT_EQ(runtime.fileSystem.texts[u"C:\\Logs\\LumtexError.txt"],
+              u"what was there\r\n" + record + record + record);
 }
 
 TEST_F(Report, TheHandlerIsCreatedBeforeTheLogAndCalledAfterIt) {
-    runtime.folders = {u"C:\\Logs"};
+    runtime.fileSystem.folders = {u"C:\\Logs"};
     logInto(u"C:\\Logs");
     installHandler();
     reportError(runtime, report);
@@ -186,7 +189,7 @@ TEST_F(Report, TheHandlerIsCreatedAndTheSettingReadAnewForEachReport) {
     installHandler();
     reportError(runtime, report);
     runtime.factories.clear();
-    runtime.folders = {u"C:\\Logs"};
+    runtime.fileSystem.folders = {u"C:\\Logs"};
     logInto(u"C:\\Logs");
     reportError(runtime, report);
     EXPECT_THAT(runtime.journal,
@@ -218,14 +221,14 @@ TEST_F(Report, AHandlerGetsTheComponentWhereTheWorldHasNoApplicationObject) {
     const ReportCatcher& handler = installHandler();
     reportError(runtime, report);
     const ObjectRef application = handler.calls.at(0)[1].toObject();
-    EXPECT_EQ(application->get(u"EXEName"), Variant(runtime.component().exeName));
-    EXPECT_EQ(application->get(u"Path"), Variant(runtime.component().folder));
-    EXPECT_EQ(application->get(u"Major").toLong(), runtime.component().major);
-    EXPECT_EQ(application->get(u"Minor").toLong(), runtime.component().minor);
-    EXPECT_EQ(application->get(u"Revision").toLong(), runtime.component().revision);
+    EXPECT_EQ(application->get(u"EXEName"), Variant(runtime.process.info.exeName));
+    EXPECT_EQ(application->get(u"Path"), Variant(runtime.process.info.folder));
+    EXPECT_EQ(application->get(u"Major").toLong(), runtime.process.info.major);
+    EXPECT_EQ(application->get(u"Minor").toLong(), runtime.process.info.minor);
+    EXPECT_EQ(application->get(u"Revision").toLong(), runtime.process.info.revision);
     EXPECT_THROW(application->get(u"Title"), RuntimeError);
     EXPECT_THROW(application->put(u"Path", u"elsewhere"), RuntimeError);
-    EXPECT_EQ(application->call(u"EXEName"), Variant(runtime.component().exeName)) << "as some hosts read";
+    EXPECT_EQ(application->call(u"EXEName"), Variant(runtime.process.info.exeName)) << "as some hosts read";
     Variant index(Long{1});
     EXPECT_THROW(application->get(u"Path", {&index, 1}), RuntimeError);
 }
@@ -302,11 +305,11 @@ TEST_F(Report, AFailureDuringTheBoxBringsASecondBoxOnTop) {
                             u"box",
                             u"second is open",
                             u"second is gone"));
-    EXPECT_EQ(runtime.boxes[1].text, reportText(second, runtime.info));
+    EXPECT_EQ(runtime.boxes[1].text, reportText(second, runtime.process.info));
 }
 
 TEST_F(Report, AHandlerThatFailsInItselfComesToAnEndWithOnlyTheLogOnTop) {
-    runtime.folders = {u"C:\\Logs"};
+    runtime.fileSystem.folders = {u"C:\\Logs"};
     logInto(u"C:\\Logs");
     onRaiseError = [this](std::span<Variant> /*arguments*/) { reportError(runtime, report); };
     const ReportCatcher& handler = installHandler();
@@ -314,7 +317,7 @@ TEST_F(Report, AHandlerThatFailsInItselfComesToAnEndWithOnlyTheLogOnTop) {
     EXPECT_EQ(handler.calls.size(), static_cast<std::size_t>(mostNestedReports));
     EXPECT_TRUE(runtime.boxes.empty());
     const auto records = static_cast<std::size_t>(mostNestedReports) + 1;
-    EXPECT_EQ(runtime.files[u"C:\\Logs\\LumtexError.txt"].size(), records * record.size());
+    EXPECT_EQ(runtime.fileSystem.texts[u"C:\\Logs\\LumtexError.txt"].size(), records * record.size());
 
     onRaiseError = [](std::span<Variant> /*arguments*/) {};
     reportError(runtime, report);

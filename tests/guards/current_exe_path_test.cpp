@@ -8,38 +8,41 @@ namespace {
 
 class CurrentExePathTest : public ::testing::Test {
   protected:
-    FakeRuntime runtime;
+    String path() const { return CurrentExePath(program, files); }
+
+    FakeProgram program;
+    FakeFiles files;
 };
 
 TEST_F(CurrentExePathTest, IsTheFileOfTheOwnProcessInTheCurrentFolder) {
     // Wanted: the entry's file name is completed from the current folder, wherever the program lies.
-    EXPECT_EQ(CurrentExePath(runtime), u"C:\\Programs\\Host.exe");
-    runtime.currentFolder = u"D:";
-    EXPECT_EQ(CurrentExePath(runtime), u"D:\\Host.exe");
+    EXPECT_EQ(path(), u"C:\\Programs\\Host.exe");
+    files.currentFolder = u"D:";
+    EXPECT_EQ(path(), u"D:\\Host.exe");
 }
 
 TEST_F(CurrentExePathTest, TheFileNameEndsAtTheFirstZero) {
-    runtime.processList = {{77, String(u"Host.exe\0rest", 13)}};
-    EXPECT_EQ(CurrentExePath(runtime), u"C:\\Programs\\Host.exe");
+    program.processList = {{77, String(u"Host.exe\0rest", 13)}};
+    EXPECT_EQ(path(), u"C:\\Programs\\Host.exe");
 }
 
 TEST_F(CurrentExePathTest, IsEmptyWhereProcessesCannotBeListed) {
-    runtime.processList = std::nullopt;
-    EXPECT_EQ(CurrentExePath(runtime), u"");
+    program.processList = std::nullopt;
+    EXPECT_EQ(path(), u"");
 }
 
 TEST_F(CurrentExePathTest, IsEmptyWhereTheWalkEndsFirst) {
-    runtime.processList = {{4, u"System"}};
-    EXPECT_EQ(CurrentExePath(runtime), u"");
-    runtime.processList->clear();
-    EXPECT_EQ(CurrentExePath(runtime), u"");
+    program.processList = {{4, u"System"}};
+    EXPECT_EQ(path(), u"");
+    program.processList->clear();
+    EXPECT_EQ(path(), u"");
 }
 
 TEST_F(CurrentExePathTest, APathThatFitsTheBufferIsWholeAndALongerOneEmpty) {
-    runtime.currentFolder = String(254 - 9, u'x');
-    EXPECT_EQ(CurrentExePath(runtime).size(), 254U) << "the buffer of 255 has a closing zero";
-    runtime.currentFolder += u'x';
-    EXPECT_EQ(CurrentExePath(runtime), u"");
+    files.currentFolder = String(254 - 9, u'x');
+    EXPECT_EQ(path().size(), 254U) << "the buffer of 255 has a closing zero";
+    files.currentFolder += u'x';
+    EXPECT_EQ(path(), u"");
 }
 
 } // namespace

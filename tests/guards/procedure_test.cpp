@@ -143,8 +143,8 @@ TEST_F(ProcedureTest, WhatFailsInANestedProcedureIsReportedThereAndDoesNotReachT
 }
 
 TEST_F(ProcedureTest, SilentErrorTrueMeansNeitherFileNorHandlerNorBox) {
-    runtime.folders = {u"C:\\Logs"};
-    runtime.settings[u"Software\\Lumtex\\ErrorLog"] = u"C:\\Logs";
+    runtime.fileSystem.folders = {u"C:\\Logs"};
+    runtime.storedTexts[u"Software\\Lumtex\\ErrorLog"] = u"C:\\Logs";
     Error().letSilentError(true);
     bool nextRan = false;
     EXPECT_FALSE(p.step([] { fail(); }));
@@ -154,7 +154,7 @@ TEST_F(ProcedureTest, SilentErrorTrueMeansNeitherFileNorHandlerNorBox) {
     EXPECT_TRUE(p.condition([]() -> bool { throw RuntimeError(overflow); }, true));
     p.report(RuntimeError(overflow));
     EXPECT_TRUE(runtime.journal.empty());
-    EXPECT_TRUE(runtime.files.empty());
+    EXPECT_TRUE(runtime.fileSystem.texts.empty());
     EXPECT_TRUE(runtime.boxes.empty());
     EXPECT_TRUE(handler->calls.empty());
 

@@ -268,7 +268,7 @@ TEST_F(ListRead, IntoNoListFailsForEachLine) {
 
 TEST_F(ListRead, AListThatWritesTheFileMeanwhileDoesNotKeepItGoing) {
     folder.write("list.txt", "a\r\nb\r\n");
-    list->onAddItem = [&] { runtime.appendToFile(folder.pathTo("list.txt"), u"more\r\n"); };
+    list->onAddItem = [&] { runtime.files().appendToFile(folder.pathTo("list.txt"), u"more\r\n"); };
     spEv.ListRead(list, folder.pathTo("list.txt"));
     EXPECT_EQ(linesOf(*list), "a|b|");
 }
@@ -306,16 +306,15 @@ TEST_F(FileExists, AnySearchIsClosedAlsoOneThatFoundNothing) {
     // Wanted: the search is closed in every case, also the one that found nothing.
     spEv.FileExists(folder.pathTo("missing"));
     spEv.FileExists(fromUtf8(folder.path.string()));
-    EXPECT_EQ(runtime.closedSearches.size(), 2U);
-    EXPECT_EQ(runtime.closedSearches[0], -1);
-    EXPECT_NE(runtime.closedSearches[1], -1);
+    EXPECT_EQ(runtime.files().closedSearches.size(), 2U);
+    EXPECT_EQ(runtime.files().closedSearches[0], -1);
+    EXPECT_NE(runtime.files().closedSearches[1], -1);
 }
 
 TEST_F(PlayMusic, PlaysAtOnceAndWithoutTheDefaultSound) {
     spEv.PlayMusic(u"C:\\Media\\ding.wav");
     ASSERT_EQ(runtime.sounds.size(), 1U);
-    EXPECT_EQ(runtime.sounds[0].file, u"C:\\Media\\ding.wav");
-    EXPECT_EQ(runtime.sounds[0].flags, 3);
+    EXPECT_EQ(runtime.sounds[0], u"C:\\Media\\ding.wav");
     EXPECT_EQ(reports(), "");
 }
 
@@ -335,18 +334,18 @@ TEST_F(ActiveXPTheme, TheColourNameDecides) {
         {u"NormalColor ", styleClassic},
     };
     for (const Row& row : rows) {
-        runtime.theme = HeadlessRuntime::Theme{u"luna.msstyles", String(row.colorName), u"NormalSize"};
+        runtime.scheme = row.colorName;
         EXPECT_EQ(spEv.ActiveXPTheme(), row.theme) << toUtf8(row.colorName);
     }
 }
 
 TEST_F(ActiveXPTheme, NamesLongerThanTheBuffersAreCut) {
-    runtime.theme = HeadlessRuntime::Theme{String(1000, u'a'), String(1000, u'b'), String(1000, u'c')};
+    runtime.scheme = String(1000, u'b');
     EXPECT_EQ(spEv.ActiveXPTheme(), styleClassic);
 }
 
 TEST_F(ActiveXPTheme, TheClassicLookOnAThemedSystemIsClassic) {
-    runtime.theme = std::nullopt;
+    runtime.scheme = std::nullopt;
     EXPECT_EQ(spEv.ActiveXPTheme(), styleClassic);
 }
 
@@ -369,7 +368,7 @@ TEST_F(ActiveXPTheme, TheVersionTestLooksAtMajorAndMinorOnTheirOwn) {
         {{3, 6, 1}, styleClassic},
         {{0, 0, 0}, styleClassic},
     };
-    runtime.theme = HeadlessRuntime::Theme{u"luna.msstyles", u"NormalColor", u"NormalSize"};
+    runtime.scheme = u"NormalColor";
     for (const Row& row : rows) {
         runtime.version = row.version;
         EXPECT_EQ(spEv.ActiveXPTheme(), row.theme)

@@ -49,7 +49,7 @@ TEST_F(ReportOfAList, TheRecordIsInTheFolderThatTheSettingNamesToTheByte) {
     ASSERT_EQ(runtime.boxes.size(), 1U);
     const std::string box = toUtf8(runtime.boxes[0].text);
     EXPECT_EQ(box, std::string(record).substr(21, box.size()));
-    EXPECT_EQ(runtime.boxes[0].style, 16);
+    EXPECT_EQ(runtime.boxes[0].style, BoxStyle::critical);
     EXPECT_EQ(runtime.boxes[0].title, u"Error");
 }
 

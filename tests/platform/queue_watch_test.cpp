@@ -1,4 +1,3 @@
-#include "fake_runtime.h"
 #include "platform/queue_watch.h"
 
 #include <gtest/gtest.h>
@@ -6,8 +5,10 @@
 namespace lumtex {
 namespace {
 
-class CountingRuntime final : public FakeRuntime {
+class CountingQueue final : public EventQueue {
   public:
+    void DoEvents() override {}
+    void messageBox(StringView /*text*/, BoxStyle /*style*/, StringView /*title*/) override {}
     bool hasPendingEvents() const override {
         ++looks;
         return waits;
@@ -18,35 +19,35 @@ class CountingRuntime final : public FakeRuntime {
 
 class QueueWatching : public ::testing::Test {
   protected:
-    CountingRuntime runtime;
-    QueueWatch watch{runtime};
+    CountingQueue queue;
+    QueueWatch watch{queue};
 };
 
 TEST_F(QueueWatching, TheFirstStepLooks) {
     EXPECT_FALSE(watch.eventWaits());
-    EXPECT_EQ(runtime.looks, 1);
+    EXPECT_EQ(queue.looks, 1);
 }
 
 TEST_F(QueueWatching, AQuietQueueIsSeldomLookedAt) {
     for (int step = 0; step < 100000; ++step)
         EXPECT_FALSE(watch.eventWaits());
-    EXPECT_GE(runtime.looks, 1);
-    EXPECT_LT(runtime.looks, 100000 / 60);
+    EXPECT_GE(queue.looks, 1);
+    EXPECT_LT(queue.looks, 100000 / 60);
 }
 
 TEST_F(QueueWatching, AnEventThatComesFromOutsideIsSeen) {
     EXPECT_FALSE(watch.eventWaits());
-    runtime.waits = true;
+    queue.waits = true;
     while (!watch.eventWaits())
-        EXPECT_EQ(runtime.looks, 1);
-    EXPECT_EQ(runtime.looks, 2);
+        EXPECT_EQ(queue.looks, 1);
+    EXPECT_EQ(queue.looks, 2);
 }
 
 TEST_F(QueueWatching, WhileSomethingWaitsEachStepLooks) {
-    runtime.waits = true;
+    queue.waits = true;
     for (int step = 1; step <= 5; ++step) {
         EXPECT_TRUE(watch.eventWaits());
-        EXPECT_EQ(runtime.looks, step);
+        EXPECT_EQ(queue.looks, step);
     }
 }
 
@@ -54,7 +55,7 @@ TEST_F(QueueWatching, AfterHostCodeTheNextStepLooks) {
     EXPECT_FALSE(watch.eventWaits());
     watch.hostRan();
     EXPECT_FALSE(watch.eventWaits());
-    EXPECT_EQ(runtime.looks, 2);
+    EXPECT_EQ(queue.looks, 2);
 }
 
 } // namespace

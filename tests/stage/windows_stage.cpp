@@ -36,7 +36,7 @@ class StageRuntime final : public Win32Runtime {
         deliver();
     }
     bool hasPendingEvents() const override { return !yields.empty() || Win32Runtime::hasPendingEvents(); }
-    void messageBox(StringView text, Long /*style*/, StringView /*title*/) override {
+    void messageBox(StringView text, BoxStyle /*style*/, StringView /*title*/) override {
         const NestingLevel level(depth);
         onBox(text);
         deliver();

@@ -63,21 +63,21 @@ Variant fontOfJson(const Json& json) {
     return std::make_shared<Font>(std::move(font));
 }
 
-Json jsonOfPicture(const Runtime& runtime, const Picture& picture) {
-    const std::vector<Byte> image = runtime.imageOfPicture(picture);
+Json jsonOfPicture(const PictureImages& pictures, const Picture& picture) {
+    const std::vector<Byte> image = pictures.imageOfPicture(picture);
     const std::unique_ptr<char, GFree> base64(g_base64_encode(image.data(), image.size()));
     return {{"Picture", base64.get()}};
 }
 
-Variant pictureOfJson(const Runtime& runtime, const Json& json) {
+Variant pictureOfJson(const PictureImages& pictures, const Json& json) {
     const auto& base64 = json.at("Picture").get_ref<const std::string&>();
     gsize size = 0;
     const std::unique_ptr<guchar, GFree> image(g_base64_decode(base64.c_str(), &size));
-    return runtime.pictureOfImage({image.get(), size});
+    return pictures.pictureOfImage({image.get(), size});
 }
 
 /// Throws 13 where there is nothing that JSON could say.
-Json jsonOf(const Runtime& runtime, const Variant& value) {
+Json jsonOf(const PictureImages& pictures, const Variant& value) {
     return value.visit([&]<class T>(const T& held) -> Json {
         if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, Byte> || std::is_same_v<T, Integer> ||
                       std::is_same_v<T, Long>)
@@ -95,14 +95,14 @@ Json jsonOf(const Runtime& runtime, const Variant& value) {
         else if constexpr (std::is_same_v<T, FontRef>)
             return held != nullptr ? jsonOfFont(held->spec) : Json();
         else if constexpr (std::is_same_v<T, PictureRef>)
-            return held != nullptr ? jsonOfPicture(runtime, *held) : Json();
+            return held != nullptr ? jsonOfPicture(pictures, *held) : Json();
         else
             throw RuntimeError(typeMismatch);
     });
 }
 
 /// Throws 13 for what no value looks like.
-Variant valueOf(const Runtime& runtime, const Json& json) {
+Variant valueOf(const PictureImages& pictures, const Json& json) {
     switch (json.type()) {
     case Json::value_t::null:
         return PictureRef{};
@@ -120,7 +120,7 @@ Variant valueOf(const Runtime& runtime, const Json& json) {
         return fromUtf8(json.get_ref<const std::string&>());
     case Json::value_t::object:
         try {
-            return json.contains("Picture") ? pictureOfJson(runtime, json) : fontOfJson(json);
+            return json.contains("Picture") ? pictureOfJson(pictures, json) : fontOfJson(json);
         } catch (const Json::exception&) {
             throw RuntimeError(typeMismatch);
         }
@@ -189,7 +189,7 @@ std::string JsonPropertyBag::text() const {
 }
 
 void JsonPropertyBag::load(StringView path) {
-    const std::unique_ptr<InputFile> file = runtime_.openForBinaryReading(path);
+    const std::unique_ptr<InputFile> file = runtime_.files().openForBinaryReading(path);
     std::vector<Byte> bytes(static_cast<std::size_t>(file->size()));
     bytes.resize(file->read(bytes));
     parse({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
@@ -197,7 +197,7 @@ void JsonPropertyBag::load(StringView path) {
 
 void JsonPropertyBag::save(StringView path) const {
     const std::string json = text();
-    const std::unique_ptr<OutputFile> file = runtime_.openForBinaryWriting(path);
+    const std::unique_ptr<OutputFile> file = runtime_.files().openForBinaryWriting(path);
     file->write({reinterpret_cast<const Byte*>(json.data()), json.size()});
     file->close();
 }
@@ -207,13 +207,13 @@ Variant JsonPropertyBag::ReadProperty(StringView name, const Variant& defaultVal
     if (found == nullptr)
         return defaultValue;
     found->known = true;
-    return valueOf(runtime_, found->json);
+    return valueOf(runtime_.pictures(), found->json);
 }
 
 void JsonPropertyBag::WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) {
     if (sameValue(value, defaultValue))
         return members_->remove(name);
-    Json json = jsonOf(runtime_, value);
+    Json json = jsonOf(runtime_.pictures(), value);
     Members::Member* const found = members_->find(name);
     if (found == nullptr)
         return members_->add(toUtf8(name), std::move(json), true);

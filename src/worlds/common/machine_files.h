@@ -2,15 +2,14 @@
 /// The files of the machine, for worlds that reach them through the standard library.
 #pragma once
 
-#include "platform/runtime.h"
+#include "platform/files.h"
 
 #include <memory>
 
 namespace lumtex {
 
-/// The part of a runtime that deals with files: texts are UTF-8 with line ends as given, "\" in a path
-/// separates folders, and names differ by case where the machine's do.
-class MachineFiles : public Runtime {
+/// Texts are UTF-8 with line ends as given, and names differ by case where the machine's do.
+class MachineFiles : public Files {
   public:
     String readFile(StringView path) const override;
     void createFile(StringView path) override;
@@ -19,8 +18,10 @@ class MachineFiles : public Runtime {
     std::unique_ptr<OutputFile> openForBinaryWriting(StringView path) override;
     std::unique_ptr<InputFile> openForBinaryReading(StringView path) override;
     void deleteFile(StringView path) override;
-    String fullPathName(StringView file) const override;
     Long findFirstFile(StringView pattern) override;
+    /// A search keeps nothing, so there is nothing to close.
+    void findClose(Long /*handle*/) override {}
+    String fullPathName(StringView file) const override;
 
   private:
     Long lastSearch_ = 0;

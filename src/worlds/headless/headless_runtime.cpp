@@ -38,15 +38,6 @@ String textOf(const std::filesystem::path& path) {
     return fromUtf8(path.string());
 }
 
-/// As much as the buffer holds with a closing zero.
-void fill(std::span<char16_t> buffer, StringView text) {
-    if (buffer.empty())
-        return;
-    const std::size_t count = std::min(buffer.size() - 1, text.size());
-    std::copy_n(text.begin(), count, buffer.begin());
-    buffer[count] = u'\0';
-}
-
 } // namespace
 
 bool HeadlessRuntime::NameOrder::operator()(StringView a, StringView b) const {
@@ -54,12 +45,8 @@ bool HeadlessRuntime::NameOrder::operator()(StringView a, StringView b) const {
 }
 
 bool HeadlessRuntime::SettingOrder::operator()(const Key& a, const Key& b) const {
-    const auto& [hiveA, keyA, nameA] = a;
-    const auto& [hiveB, keyB, nameB] = b;
-    if (hiveA != hiveB)
-        return hiveA < hiveB;
-    const int keys = compareNames(keyA, keyB);
-    return keys != 0 ? keys < 0 : compareNames(nameA, nameB) < 0;
+    const int keys = compareNames(a.first, b.first);
+    return keys != 0 ? keys < 0 : compareNames(a.second, b.second) < 0;
 }
 
 HeadlessRuntime::HeadlessRuntime(Desktop& desktop)
@@ -78,7 +65,7 @@ bool HeadlessRuntime::hasPendingEvents() const {
     return desktop_.hasPendingEvents();
 }
 
-void HeadlessRuntime::messageBox(StringView text, Long style, StringView title) {
+void HeadlessRuntime::messageBox(StringView text, BoxStyle style, StringView title) {
     boxes.push_back({String(text), style, String(title)});
     // A copy, since the host may replace it while it runs.
     desktop_.loop().yield([answer = whileBoxIsOpen] {
@@ -87,21 +74,13 @@ void HeadlessRuntime::messageBox(StringView text, Long style, StringView title) 
     });
 }
 
-std::optional<StoredSetting>
-HeadlessRuntime::storedSetting(std::uint32_t hive, StringView key, StringView name) const {
-    const auto found = settings_.find({hive, String(key), String(name)});
+std::optional<String> HeadlessRuntime::text(StringView key, StringView name) const {
+    const auto found = settings_.find({String(key), String(name)});
     return found != settings_.end() ? std::optional(found->second) : std::nullopt;
 }
 
 void HeadlessRuntime::letSetting(StringView key, StringView name, StringView text) {
-    const std::string utf8 = toUtf8(text);
-    StoredSetting value{StoredSetting::text, {utf8.begin(), utf8.end()}};
-    value.data.push_back(0);
-    letSetting(currentUserHive, key, name, std::move(value));
-}
-
-void HeadlessRuntime::letSetting(std::uint32_t hive, StringView key, StringView name, StoredSetting value) {
-    settings_[{hive, String(key), String(name)}] = std::move(value);
+    settings_[{String(key), String(name)}] = text;
 }
 
 Date HeadlessRuntime::now() const {
@@ -122,28 +101,10 @@ PictureRef HeadlessRuntime::pictureOfImage(std::span<const Byte> image) const {
     return lumtex::pictureOfImage(image);
 }
 
-Long HeadlessRuntime::currentThemeName(std::span<char16_t> themeFile,
-                                       std::span<char16_t> colorName,
-                                       std::span<char16_t> sizeName) const {
-    constexpr Long noTheme = -2147023728; // "element not found", as a result code
-    if (!theme)
-        return noTheme;
-    fill(themeFile, theme->file);
-    fill(colorName, theme->colorName);
-    fill(sizeName, theme->sizeName);
-    return 0;
-}
-
-Integer HeadlessRuntime::asyncKeyState(Long virtualKey) {
-    constexpr Integer isDown = -0x8000;
-    constexpr Integer wasPressed = 1;
-    // The mouse buttons have the same numbers as keys and as bits.
-    if (virtualKey != leftButton && virtualKey != rightButton && virtualKey != middleButton)
-        return 0;
+bool HeadlessRuntime::wasPressed(MouseButton button) {
     Pointer& mouse = desktop_.mouse();
-    const auto button = static_cast<Integer>(virtualKey);
-    const Integer down = (mouse.buttons() & button) != 0 ? isDown : Integer{0};
-    return static_cast<Integer>(mouse.takePressed(button) ? down | wasPressed : down);
+    const bool isDown = (mouse.buttons() & button) != 0;
+    return mouse.takePressed(button) || isDown;
 }
 
 ObjectRef HeadlessRuntime::createObject(StringView programId) {

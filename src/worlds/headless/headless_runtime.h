@@ -2,37 +2,42 @@
 /// The system around a simulated desktop: everything but files is kept in memory and can be looked at.
 #pragma once
 
+#include "platform/runtime.h"
 #include "values/locale.h"
 #include "worlds/common/machine_files.h"
 
 #include <functional>
 #include <map>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace lumtex {
 
 class Desktop;
 
-/// What would depend on machine, user or day is fixed here, or set by a test.
-class HeadlessRuntime final : public MachineFiles {
+/// Files that note which searches were closed.
+class HeadlessFiles final : public MachineFiles {
+  public:
+    void findClose(Long handle) override { closedSearches.push_back(handle); }
+
+    std::vector<Long> closedSearches; ///< the handles that `findClose` got, in order
+};
+
+/// Plays every part itself but the files. What would depend on machine, user or day is fixed here, or set by
+/// a test.
+class HeadlessRuntime final : public Runtime,
+                              public EventQueue,
+                              public Settings,
+                              public SystemLocale,
+                              public PictureImages,
+                              public Automation,
+                              public UserDesktop,
+                              public Program {
   public:
     struct Box {
         String text;
-        Long style = boxPlain;
+        BoxStyle style = BoxStyle::plain;
         String title;
-    };
-
-    struct Sound {
-        String file;
-        Long flags = 0;
-    };
-
-    /// What `currentThemeName` tells.
-    struct Theme {
-        String file;
-        String colorName;
-        String sizeName;
     };
 
     /// Names without regard to case.
@@ -42,47 +47,54 @@ class HeadlessRuntime final : public MachineFiles {
 
     explicit HeadlessRuntime(Desktop& desktop);
 
+    HeadlessRuntime& queue() override { return *this; }
+    HeadlessFiles& files() override { return files_; }
+    HeadlessRuntime& settings() override { return *this; }
+    HeadlessRuntime& locale() override { return *this; }
+    HeadlessRuntime& pictures() override { return *this; }
+    HeadlessRuntime& automation() override { return *this; }
+    HeadlessRuntime& desktop() override { return *this; }
+    HeadlessRuntime& program() override { return *this; }
+
     void DoEvents() override;
     bool hasPendingEvents() const override;
     /// Notes the box and counts as a yield: runs `whileBoxIsOpen`, then the loop, then the box is dismissed.
     /// A box inside too many others is noted and does nothing else.
-    void messageBox(StringView text, Long style, StringView title) override;
-    const ComponentInfo& component() const override { return componentInfo; }
-    Long currentProcessId() const override { return processId; }
-    std::optional<std::vector<ProcessEntry>> processes() const override { return processList; }
-    std::optional<StoredSetting>
-    storedSetting(std::uint32_t hive, StringView key, StringView name) const override;
+    void messageBox(StringView text, BoxStyle style, StringView title) override;
+
+    /// Keys and names in any case.
+    std::optional<String> text(StringView key, StringView name) const override;
+
     /// `clock`, and the virtual time that has passed.
     Date now() const override;
     /// Code page 1252.
     void toAnsi(StringView text, std::span<Byte> bytes) const override;
     void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override;
+
     std::vector<Byte> imageOfPicture(const Picture& picture) const override;
     PictureRef pictureOfImage(std::span<const Byte> image) const override;
-    void findClose(Long handle) override { closedSearches.push_back(handle); }
 
     /// Made by one of `factories`.
     ObjectRef createObject(StringView programId) override;
     ObjectRef applicationObject() override { return application; }
+
     /// Noted, not heard.
-    void playSound(StringView file, Long flags) override { sounds.push_back({String(file), flags}); }
+    void playSound(StringView file) override { sounds.emplace_back(file); }
     SystemVersion systemVersion() const override { return version; }
-    Long currentThemeName(std::span<char16_t> themeFile,
-                          std::span<char16_t> colorName,
-                          std::span<char16_t> sizeName) const override;
-    /// The buttons of the desktop's mouse; no other key is ever down.
-    Integer asyncKeyState(Long virtualKey) override;
+    std::optional<String> colorScheme() const override { return scheme; }
+    /// The buttons of the desktop's mouse.
+    bool wasPressed(MouseButton button) override;
     /// Noted, not opened.
-    void shellExecute(const ShellRequest& request) override { opened.push_back(request); }
-    Single twipsPerPixelY() const override { return 15; }
+    void open(const OpenRequest& request) override { opened.push_back(request); }
+
+    const ComponentInfo& component() const override { return componentInfo; }
+    Long currentProcessId() const override { return processId; }
+    std::optional<std::vector<ProcessEntry>> processes() const override { return processList; }
 
     /// What conversions on this thread follow from now on, as long as the runtime lives; at first they are
     /// invariant. `locale` must outlive the runtime.
     void letLocale(const Locale& locale) { locale_.emplace(locale); }
-
-    /// Of the current user.
     void letSetting(StringView key, StringView name, StringView text);
-    void letSetting(std::uint32_t hive, StringView key, StringView name, StoredSetting value);
 
     std::vector<Box> boxes;               ///< all that were shown, in order
     std::function<void()> whileBoxIsOpen; ///< host code, with the box as the last of `boxes`
@@ -95,21 +107,21 @@ class HeadlessRuntime final : public MachineFiles {
     /// By program identifier.
     std::map<String, std::function<ObjectRef()>, NameOrder> factories;
     ObjectRef application;
-    std::vector<Sound> sounds;        ///< all that were to be played, in order
-    std::vector<ShellRequest> opened; ///< all that was to be opened, in order
+    std::vector<String> sounds;      ///< the files of all that were to be played, in order
+    std::vector<OpenRequest> opened; ///< all that was to be opened, in order
     SystemVersion version{2, 5, 1};
-    std::optional<Theme> theme;       ///< none: the classic look
-    std::vector<Long> closedSearches; ///< the handles that `findClose` got, in order
+    std::optional<String> scheme; ///< none: the classic look
 
   private:
     struct SettingOrder {
-        using Key = std::tuple<std::uint32_t, String, String>;
+        using Key = std::pair<String, String>;
         bool operator()(const Key& a, const Key& b) const;
     };
 
     Desktop& desktop_;
     std::optional<UsingLocale> locale_;
-    std::map<SettingOrder::Key, StoredSetting, SettingOrder> settings_; ///< by hive, key and name
+    HeadlessFiles files_;
+    std::map<SettingOrder::Key, String, SettingOrder> settings_; ///< by key and name
 };
 
 } // namespace lumtex

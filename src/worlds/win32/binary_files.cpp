@@ -1,6 +1,6 @@
 /// Files of bytes.
 #include "worlds/win32/file_handle.h"
-#include "worlds/win32/win32_runtime.h"
+#include "worlds/win32/win32_files.h"
 
 #include <algorithm>
 #include <string>
@@ -127,20 +127,20 @@ class PlainInput final : public InputFile {
 
 } // namespace
 
-std::unique_ptr<OutputFile> Win32Runtime::openForBinaryWriting(StringView path) {
+std::unique_ptr<OutputFile> Win32Files::openForBinaryWriting(StringView path) {
     String place(path);
     isPlainFile(place);
     return std::make_unique<HiddenOutput>(std::move(place));
 }
 
-std::unique_ptr<InputFile> Win32Runtime::openForBinaryReading(StringView path) {
+std::unique_ptr<InputFile> Win32Files::openForBinaryReading(StringView path) {
     const String name(path);
     if (!isPlainFile(name))
         throw RuntimeError(fileNotFound);
     return std::make_unique<PlainInput>(name);
 }
 
-void Win32Runtime::deleteFile(StringView path) {
+void Win32Files::deleteFile(StringView path) {
     const String name(path);
     if (!isPlainFile(name))
         throw RuntimeError(fileNotFound);

@@ -1,8 +1,12 @@
-/// The registry as the settings store.
-#include "values/text.h"
-#include "worlds/win32/win32_runtime.h"
+#include "worlds/win32/stored_settings.h"
 
+#include "values/text.h"
+#include "worlds/win32/windows_api.h"
+
+#include <algorithm>
 #include <cstring>
+#include <string>
+#include <vector>
 
 namespace lumtex {
 
@@ -29,18 +33,14 @@ class OpenKey {
     HKEY key_ = nullptr;
 };
 
-/// The store keeps text in UTF-16, mostly with its closing zero.
-std::vector<Byte> utf8From(const std::vector<Byte>& stored) {
-    String text(stored.size() / sizeof(char16_t), u'\0');
-    std::memcpy(text.data(), stored.data(), text.size() * sizeof(char16_t));
-    const std::string utf8 = toUtf8(text);
-    return {utf8.begin(), utf8.end()};
-}
+/// A value as it lies in the store.
+struct StoredValue {
+    DWORD type = 0;
+    std::vector<Byte> data;
+};
 
-std::optional<StoredSetting> settingOf(std::uint32_t hive, StringView key, StringView name, REGSAM access) {
-    // Hives are numbers of 32 bits, extended by their sign.
-    auto* root = reinterpret_cast<HKEY>(static_cast<INT_PTR>(static_cast<Long>(hive)));
-    const OpenKey opened(root, String(key), access);
+std::optional<StoredValue> storedValue(StringView key, StringView name, REGSAM access) {
+    const OpenKey opened(HKEY_CURRENT_USER, String(key), access);
     if (opened.get() == nullptr)
         return std::nullopt;
     const String valueName(name);
@@ -52,20 +52,53 @@ std::optional<StoredSetting> settingOf(std::uint32_t hive, StringView key, Strin
     if (RegQueryValueExW(opened.get(), wide(valueName), nullptr, &type, data.data(), &size) != ERROR_SUCCESS)
         return std::nullopt;
     data.resize(size);
-    const bool isText = type == StoredSetting::text || type == StoredSetting::textWithVariables;
-    return StoredSetting{static_cast<Long>(type), isText ? utf8From(data) : data};
+    return StoredValue{type, std::move(data)};
+}
+
+bool isText(const StoredValue& stored) {
+    return stored.type == REG_SZ || stored.type == REG_EXPAND_SZ;
+}
+
+/// The units of a text, mostly with a closing zero.
+String unitsOf(const std::vector<Byte>& data) {
+    String text(data.size() / sizeof(char16_t), u'\0');
+    std::memcpy(text.data(), data.data(), text.size() * sizeof(char16_t));
+    return text;
+}
+
+/// The bytes of a number, the lowest first.
+String digitsOf(const std::vector<Byte>& data) {
+    constexpr unsigned bitsPerByte = 8;
+    std::uint32_t number = 0;
+    for (std::size_t i = 0; i < std::min(data.size(), sizeof number); ++i)
+        number |= static_cast<std::uint32_t>(data[i]) << (bitsPerByte * i);
+    return fromUtf8(std::to_string(number));
+}
+
+String textOf(const StoredValue& stored) {
+    if (isText(stored)) {
+        const String units = unitsOf(stored.data);
+        return units.substr(0, units.find(u'\0'));
+    }
+    return stored.type == REG_DWORD ? digitsOf(stored.data) : String();
+}
+
+std::size_t lengthOf(const StoredValue& stored) {
+    return isText(stored) ? toUtf8(unitsOf(stored.data)).size() : stored.data.size();
 }
 
 } // namespace
 
-std::optional<StoredSetting>
-Win32Runtime::storedSetting(std::uint32_t hive, StringView key, StringView name) const {
-    return settingOf(hive, key, name, fullAccess);
+std::optional<String> StoredSettings::text(StringView key, StringView name) const {
+    const std::optional<StoredValue> stored = storedValue(key, name, fullAccess);
+    if (!stored || lengthOf(*stored) > longestText)
+        return std::nullopt;
+    return textOf(*stored);
 }
 
-std::optional<StoredSetting>
-Win32Runtime::readOnlySetting(std::uint32_t hive, StringView key, StringView name) const {
-    return settingOf(hive, key, name, KEY_READ);
+std::optional<String> StoredSettings::readOnlyText(StringView key, StringView name) const {
+    const std::optional<StoredValue> stored = storedValue(key, name, KEY_READ);
+    return stored ? std::optional(textOf(*stored)) : std::nullopt;
 }
 
 } // namespace lumtex

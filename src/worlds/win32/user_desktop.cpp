@@ -1,15 +1,17 @@
 /// What the user hears, sees and presses.
 #include "worlds/win32/win32_runtime.h"
 
+#include <array>
+
 #include <mmsystem.h>
 #include <shellapi.h>
 #include <uxtheme.h>
 
 namespace lumtex {
 
-void Win32Runtime::playSound(StringView file, Long flags) {
+void Win32Runtime::playSound(StringView file) {
     const String name(file);
-    sndPlaySoundW(wide(name), static_cast<UINT>(flags));
+    sndPlaySoundW(wide(name), SND_ASYNC | SND_NODEFAULT);
 }
 
 SystemVersion Win32Runtime::systemVersion() const {
@@ -22,29 +24,30 @@ SystemVersion Win32Runtime::systemVersion() const {
             static_cast<Long>(version.dwMinorVersion)};
 }
 
-Long Win32Runtime::currentThemeName(std::span<char16_t> themeFile,
-                                    std::span<char16_t> colorName,
-                                    std::span<char16_t> sizeName) const {
-    return GetCurrentThemeName(wide(themeFile.data()),
-                               static_cast<int>(themeFile.size()),
-                               wide(colorName.data()),
-                               static_cast<int>(colorName.size()),
-                               wide(sizeName.data()),
-                               static_cast<int>(sizeName.size()));
+std::optional<String> Win32Runtime::colorScheme() const {
+    constexpr std::size_t fileLength = 260; // code units
+    constexpr std::size_t nameLength = 255;
+    std::array<wchar_t, fileLength> file{};
+    std::array<wchar_t, nameLength> color{};
+    std::array<wchar_t, nameLength> size{};
+    if (GetCurrentThemeName(file.data(), fileLength, color.data(), nameLength, size.data(), nameLength) != 0)
+        return std::nullopt;
+    return String(textOf(color.data()));
 }
 
-Integer Win32Runtime::asyncKeyState(Long virtualKey) {
-    return GetAsyncKeyState(virtualKey);
+bool Win32Runtime::wasPressed(MouseButton button) {
+    // The buttons have the same numbers as keys and as bits.
+    return GetAsyncKeyState(button) != 0;
 }
 
-void Win32Runtime::shellExecute(const ShellRequest& request) {
+void Win32Runtime::open(const OpenRequest& request) {
     const auto optional = [](const String& text) { return text.empty() ? nullptr : wide(text); };
     ShellExecuteW(toHWND(request.window),
-                  optional(request.verb),
+                  L"Open",
                   wide(request.file),
                   optional(request.parameters),
                   optional(request.folder),
-                  request.show);
+                  request.maximised ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
 }
 
 } // namespace lumtex

@@ -16,8 +16,6 @@ namespace lumtex {
 
 namespace {
 
-constexpr Single twipsPerInch = 1440;
-
 thread_local int openBoxes = 0;
 
 /// The file of a module; empty where the system does not tell.
@@ -63,18 +61,8 @@ class KernelHandle {
 
 } // namespace
 
-Win32Runtime::Win32Runtime(HINSTANCE instance)
-    : component_(componentOf(instance)), density_(screenDensity()) {
+Win32Runtime::Win32Runtime(HINSTANCE instance) : component_(componentOf(instance)) {
     letUsersLocale(win32UsersLocale());
-}
-
-Single Win32Runtime::twipsPerPixelY() const {
-    return twipsPerInch / static_cast<Single>(density_.y);
-}
-
-Win32Runtime::~Win32Runtime() {
-    for (const auto& [number, search] : searches_)
-        FindClose(search);
 }
 
 Win32Runtime::ModalSpan::ModalSpan(Win32Runtime& runtime) : runtime_(runtime) {
@@ -87,16 +75,17 @@ Win32Runtime::ModalSpan::~ModalSpan() {
         runtime_.onModal(false);
 }
 
-void Win32Runtime::messageBox(StringView text, Long style, StringView title) {
+void Win32Runtime::messageBox(StringView text, BoxStyle style, StringView title) {
     const String message(text);
     const String caption(title);
+    const UINT icon = style == BoxStyle::critical ? MB_ICONERROR : 0U;
     HWND owner = GetActiveWindow();
     const UINT modal = owner == nullptr ? MB_TASKMODAL : 0U;
     HWND focus = GetFocus();
     const ModalSpan span(*this);
     {
         const NestingLevel level(openBoxes);
-        MessageBoxW(owner, wide(message), wide(caption), static_cast<UINT>(style) | MB_OK | modal);
+        MessageBoxW(owner, wide(message), wide(caption), MB_OK | icon | modal);
     }
     if (owner != nullptr && GetActiveWindow() == owner && IsChild(owner, focus))
         SetFocus(focus);

@@ -3,17 +3,23 @@
 #pragma once
 
 #include "platform/runtime.h"
-#include "worlds/win32/screen_density.h"
+#include "worlds/win32/stored_settings.h"
+#include "worlds/win32/win32_files.h"
 #include "worlds/win32/windows_api.h"
 
 #include <functional>
-#include <map>
 
 namespace lumtex {
 
-/// Belongs to one thread. From the first one on, conversions follow the user's settings; files hold text in
-/// the code page of the system.
-class Win32Runtime : public Runtime {
+/// Belongs to one thread. From the first one on, conversions follow the user's settings. Plays itself the
+/// parts that share the message loop or have no state.
+class Win32Runtime : public Runtime,
+                     public EventQueue,
+                     public SystemLocale,
+                     public PictureImages,
+                     public Automation,
+                     public UserDesktop,
+                     public Program {
   public:
     /// Messages that one `DoEvents` delivers at most. What a storm leaves over waits for the next.
     static constexpr int longestYield = 100000;
@@ -22,51 +28,44 @@ class Win32Runtime : public Runtime {
 
     /// `instance` is the module whose file is the component.
     explicit Win32Runtime(HINSTANCE instance);
-    /// Closes the searches that are left.
-    ~Win32Runtime() override;
+
+    Win32Runtime& queue() override { return *this; }
+    Win32Files& files() override { return files_; }
+    StoredSettings& settings() override { return settings_; }
+    Win32Runtime& locale() override { return *this; }
+    Win32Runtime& pictures() override { return *this; }
+    Win32Runtime& automation() override { return *this; }
+    Win32Runtime& desktop() override { return *this; }
+    Win32Runtime& program() override { return *this; }
 
     /// A timer that is faster than its handler ticks twice at most in one call.
     void DoEvents() override;
     bool hasPendingEvents() const override;
     /// Over the program's active window. What had the focus has it again when the box has closed.
-    void messageBox(StringView text, Long style, StringView title) override;
+    void messageBox(StringView text, BoxStyle style, StringView title) override;
     /// Is a box of `messageBox` open on this thread, whoever of the thread opened it?
     static bool isBoxOpen();
-    const ComponentInfo& component() const override { return component_; }
-    Long currentProcessId() const override;
-    std::optional<std::vector<ProcessEntry>> processes() const override;
-    String fullPathName(StringView file) const override;
-    std::optional<StoredSetting>
-    storedSetting(std::uint32_t hive, StringView key, StringView name) const override;
-    std::optional<StoredSetting>
-    readOnlySetting(std::uint32_t hive, StringView key, StringView name) const override;
-    Date now() const override;
 
-    String readFile(StringView path) const override;
-    void createFile(StringView path) override;
-    void appendToFile(StringView path, StringView text) override;
-    /// Writes a hidden file beside `path` and renames it at the end.
-    std::unique_ptr<OutputFile> openForBinaryWriting(StringView path) override;
-    std::unique_ptr<InputFile> openForBinaryReading(StringView path) override;
-    void deleteFile(StringView path) override;
+    Date now() const override;
     /// Characters of more than one byte count as none.
     void toAnsi(StringView text, std::span<Byte> bytes) const override;
     void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override;
+
     std::vector<Byte> imageOfPicture(const Picture& picture) const override;
     PictureRef pictureOfImage(std::span<const Byte> image) const override;
-    Long findFirstFile(StringView pattern) override;
-    void findClose(Long handle) override;
 
     ObjectRef createObject(StringView programId) override;
     ObjectRef applicationObject() override { return application; }
-    void playSound(StringView file, Long flags) override;
+
+    void playSound(StringView file) override;
     SystemVersion systemVersion() const override;
-    Long currentThemeName(std::span<char16_t> themeFile,
-                          std::span<char16_t> colorName,
-                          std::span<char16_t> sizeName) const override;
-    Integer asyncKeyState(Long virtualKey) override;
-    void shellExecute(const ShellRequest& request) override;
-    Single twipsPerPixelY() const override;
+    std::optional<String> colorScheme() const override;
+    bool wasPressed(MouseButton button) override;
+    void open(const OpenRequest& request) override;
+
+    const ComponentInfo& component() const override { return component_; }
+    Long currentProcessId() const override;
+    std::optional<std::vector<ProcessEntry>> processes() const override;
 
     /// Sees each message that `DoEvents` takes from the queue. True: it was dealt with. Must not throw.
     std::function<bool(MSG&)> onQueued;
@@ -89,10 +88,9 @@ class Win32Runtime : public Runtime {
 
   private:
     ComponentInfo component_;
-    PixelDensity density_;
+    Win32Files files_;
+    StoredSettings settings_;
     int yieldDepth_ = 0;
-    std::map<Long, HANDLE> searches_; ///< those under way, by the number that stands for the handle
-    Long lastSearch_ = 0;
 };
 
 } // namespace lumtex

@@ -50,13 +50,13 @@ class FullDisk {
 TEST_F(BinaryFiles, WhatIsWrittenIsReadAgain) {
     Bytes bytes(1000);
     std::iota(bytes.begin(), bytes.end(), Byte{0});
-    const auto output = runtime().openForBinaryWriting(folder.pathTo("list.dat"));
+    const auto output = runtime().files().openForBinaryWriting(folder.pathTo("list.dat"));
     output->write(bytes);
     output->write(Bytes{1, 0, 13, 10});
     output->close();
     bytes.insert(bytes.end(), {1, 0, 13, 10});
 
-    const auto input = runtime().openForBinaryReading(folder.pathTo("list.dat"));
+    const auto input = runtime().files().openForBinaryReading(folder.pathTo("list.dat"));
     EXPECT_EQ(input->size(), 1004);
     Bytes first(500);
     Bytes rest(900);
@@ -67,7 +67,7 @@ TEST_F(BinaryFiles, WhatIsWrittenIsReadAgain) {
 }
 
 TEST_F(BinaryFiles, NothingStandsUnderTheNameBeforeTheFileIsClosed) {
-    const auto output = runtime().openForBinaryWriting(folder.pathTo("list.dat"));
+    const auto output = runtime().files().openForBinaryWriting(folder.pathTo("list.dat"));
     output->write(Bytes{1, 2, 3});
     EXPECT_EQ(folder.contentOf("list.dat"), "missing");
     output->close();
@@ -76,7 +76,7 @@ TEST_F(BinaryFiles, NothingStandsUnderTheNameBeforeTheFileIsClosed) {
 }
 
 TEST_F(BinaryFiles, AFileThatTookTheNameMeanwhileIsReplaced) {
-    const auto output = runtime().openForBinaryWriting(folder.pathTo("list.dat"));
+    const auto output = runtime().files().openForBinaryWriting(folder.pathTo("list.dat"));
     folder.write("list.dat", "someone else's, and longer");
     output->write(Bytes{'o', 'u', 'r', 's'});
     output->close();
@@ -84,14 +84,14 @@ TEST_F(BinaryFiles, AFileThatTookTheNameMeanwhileIsReplaced) {
 }
 
 TEST_F(BinaryFiles, AFileThatIsNeverClosedLeavesNothing) {
-    runtime().openForBinaryWriting(folder.pathTo("list.dat"))->write(Bytes{1, 2, 3});
+    runtime().files().openForBinaryWriting(folder.pathTo("list.dat"))->write(Bytes{1, 2, 3});
     EXPECT_EQ(filesInFolder(), 0U);
 }
 
 TEST_F(BinaryFiles, SeveralAreWrittenSideBySide) {
-    const auto first = runtime().openForBinaryWriting(folder.pathTo("list.dat"));
-    const auto second = runtime().openForBinaryWriting(folder.pathTo("list.dat"));
-    const auto third = runtime().openForBinaryWriting(folder.pathTo("other.dat"));
+    const auto first = runtime().files().openForBinaryWriting(folder.pathTo("list.dat"));
+    const auto second = runtime().files().openForBinaryWriting(folder.pathTo("list.dat"));
+    const auto third = runtime().files().openForBinaryWriting(folder.pathTo("other.dat"));
     first->write(Bytes{'1'});
     second->write(Bytes{'2'});
     third->write(Bytes{'3'});
@@ -104,7 +104,7 @@ TEST_F(BinaryFiles, SeveralAreWrittenSideBySide) {
 }
 
 TEST_F(BinaryFiles, AFullDiskIsToldAndWhatItTookStandsUnderTheName) {
-    const auto output = runtime().openForBinaryWriting(folder.pathTo("list.dat"));
+    const auto output = runtime().files().openForBinaryWriting(folder.pathTo("list.dat"));
     output->write(Bytes(100, 'a'));
     {
         const FullDisk full(150);
@@ -115,7 +115,7 @@ TEST_F(BinaryFiles, AFullDiskIsToldAndWhatItTookStandsUnderTheName) {
 }
 
 TEST_F(BinaryFiles, ANameThatBecameAFolderIsToldAtTheEnd) {
-    const auto output = runtime().openForBinaryWriting(folder.pathTo("list.dat"));
+    const auto output = runtime().files().openForBinaryWriting(folder.pathTo("list.dat"));
     fs::create_directory(folder.path / "list.dat");
     EXPECT_EQ(errorNumberOf([&] { output->close(); }), pathFileAccess);
 }
@@ -146,30 +146,30 @@ TEST_F(BinaryFiles, WhatIsNoPlainFileIsRefused) {
     for (const Unusable& row : unusable) {
         SCOPED_TRACE(row.path);
         const String path = fromUtf8((folder.path / row.path).string());
-        EXPECT_EQ(errorNumberOf([&] { runtime().openForBinaryWriting(path); }), row.atWriting);
-        EXPECT_EQ(errorNumberOf([&] { runtime().openForBinaryReading(path); }), row.atReading);
-        EXPECT_EQ(errorNumberOf([&] { runtime().deleteFile(path); }), row.atDeleting);
+        EXPECT_EQ(errorNumberOf([&] { runtime().files().openForBinaryWriting(path); }), row.atWriting);
+        EXPECT_EQ(errorNumberOf([&] { runtime().files().openForBinaryReading(path); }), row.atReading);
+        EXPECT_EQ(errorNumberOf([&] { runtime().files().deleteFile(path); }), row.atDeleting);
     }
     EXPECT_TRUE(fs::exists("/dev/full"));
 }
 
 TEST_F(BinaryFiles, ANameAsLongAsTheMachineAllowsIsWritten) {
     const std::string name(255, 'n');
-    const auto output = runtime().openForBinaryWriting(folder.pathTo(name));
+    const auto output = runtime().files().openForBinaryWriting(folder.pathTo(name));
     output->write(Bytes{'x'});
     output->close();
     EXPECT_EQ(folder.contentOf(name), "x");
     const String tooLong = folder.pathTo(name + "n");
-    EXPECT_EQ(errorNumberOf([&] { runtime().deleteFile(tooLong); }), pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { runtime().files().deleteFile(tooLong); }), pathFileAccess);
 }
 
 TEST_F(BinaryFiles, DeletingALinkLeavesWhatItNames) {
     folder.write("file", "text");
     fs::create_symlink(folder.path / "file", folder.path / "link");
-    runtime().deleteFile(folder.pathTo("link"));
+    runtime().files().deleteFile(folder.pathTo("link"));
     EXPECT_EQ(folder.contentOf("file"), "text");
     EXPECT_EQ(filesInFolder(), 1U);
-    runtime().deleteFile(folder.pathTo("file"));
+    runtime().files().deleteFile(folder.pathTo("file"));
     EXPECT_EQ(filesInFolder(), 0U);
 }
 

@@ -19,7 +19,7 @@ TEST_F(Recorder, IndentsByTheYieldsThatAreUnderWay) {
     desktop.onYield([this] {
         events.record("One");
         desktop.runtime().whileBoxIsOpen = [this] { events.record("Two"); };
-        desktop.runtime().messageBox(u"", boxPlain, u"");
+        desktop.runtime().messageBox(u"", BoxStyle::plain, u"");
     });
     desktop.runtime().DoEvents();
     events.record("None");

@@ -15,11 +15,11 @@ using MessageBoxes = DesktopFixture;
 using RuntimeRules = DesktopFixture;
 
 TEST_F(MessageBoxes, AreNotedWithTextStyleAndTitle) {
-    desktop.runtime().messageBox(u"Min darf nicht größer sein als Max!", boxCritical, u"");
-    desktop.runtime().messageBox(u"b", boxPlain, u"Error");
+    desktop.runtime().messageBox(u"Min darf nicht größer sein als Max!", BoxStyle::critical, u"");
+    desktop.runtime().messageBox(u"b", BoxStyle::plain, u"Error");
     ASSERT_EQ(desktop.runtime().boxes.size(), 2U);
     EXPECT_EQ(desktop.runtime().boxes[0].text, u"Min darf nicht größer sein als Max!");
-    EXPECT_EQ(desktop.runtime().boxes[0].style, boxCritical);
+    EXPECT_EQ(desktop.runtime().boxes[0].style, BoxStyle::critical);
     EXPECT_EQ(desktop.runtime().boxes[0].title, u"");
     EXPECT_EQ(desktop.runtime().boxes[1].title, u"Error");
 }
@@ -27,7 +27,7 @@ TEST_F(MessageBoxes, AreNotedWithTextStyleAndTitle) {
 TEST_F(MessageBoxes, LetHostCodeAndWaitingEventsRunWhileTheyAreOpen) {
     desktop.runtime().whileBoxIsOpen = [this] { events.record("host"); };
     desktop.postMove({15, 25});
-    desktop.runtime().messageBox(u"", boxPlain, u"");
+    desktop.runtime().messageBox(u"", BoxStyle::plain, u"");
     events.record("dismissed");
     EXPECT_TRUE(sameLog(events.take(), {"  host", "  a.MouseMove Button=0 Shift=0 X=5 Y=5", "dismissed"}));
 }
@@ -35,13 +35,13 @@ TEST_F(MessageBoxes, LetHostCodeAndWaitingEventsRunWhileTheyAreOpen) {
 TEST_F(MessageBoxes, ASecondBoxComesOnTopOfTheFirst) {
     events.on("a.MouseMove", [this] {
         events.record("second");
-        desktop.runtime().messageBox(u"second", boxPlain, u"");
+        desktop.runtime().messageBox(u"second", BoxStyle::plain, u"");
     });
     desktop.runtime().whileBoxIsOpen = [this] {
         events.record("open", {{"boxes", static_cast<Long>(desktop.runtime().boxes.size())}});
     };
     desktop.postMove({15, 25});
-    desktop.runtime().messageBox(u"first", boxPlain, u"");
+    desktop.runtime().messageBox(u"first", BoxStyle::plain, u"");
     EXPECT_TRUE(sameLog(
         events.take(),
         {"  open boxes=1", "  a.MouseMove Button=0 Shift=0 X=5 Y=5", "  second", "    open boxes=2"}));
@@ -53,44 +53,31 @@ TEST_F(MessageBoxes, HostCodeMayTakeItselfBack) {
         ++opened;
         desktop.runtime().whileBoxIsOpen = nullptr;
     };
-    desktop.runtime().messageBox(u"", boxPlain, u"");
-    desktop.runtime().messageBox(u"", boxPlain, u"");
+    desktop.runtime().messageBox(u"", BoxStyle::plain, u"");
+    desktop.runtime().messageBox(u"", BoxStyle::plain, u"");
     EXPECT_EQ(opened, 1);
 }
 
 TEST_F(MessageBoxes, BoxesThatOpenBoxesEndAtTheBound) {
     desktop.runtime().whileBoxIsOpen = [this] {
         desktop.post([] {});
-        desktop.runtime().messageBox(u"again", boxPlain, u"");
+        desktop.runtime().messageBox(u"again", BoxStyle::plain, u"");
     };
-    desktop.runtime().messageBox(u"first", boxPlain, u"");
+    desktop.runtime().messageBox(u"first", BoxStyle::plain, u"");
     EXPECT_EQ(desktop.runtime().boxes.size(), static_cast<std::size_t>(EventLoop::deepest) + 1);
     EXPECT_EQ(desktop.yieldDepth(), 0);
     EXPECT_TRUE(desktop.idle());
 }
 
-/// The text under a key of the current user, without its closing zero; "-" for none.
-std::string settingOf(const HeadlessRuntime& runtime, StringView key, StringView name) {
-    const std::optional<StoredSetting> stored = runtime.storedSetting(currentUserHive, key, name);
-    return stored ? std::string(stored->data.begin(), stored->data.end() - 1) : "-";
-}
-
 TEST_F(RuntimeRules, SettingsAreFoundInAnyCase) {
     HeadlessRuntime& runtime = desktop.runtime();
-    EXPECT_EQ(settingOf(runtime, u"Software\\Lumtex", u"ErrorLog"), "-");
+    EXPECT_EQ(runtime.text(u"Software\\Lumtex", u"ErrorLog"), std::nullopt);
     runtime.letSetting(u"Software\\Lumtex", u"ErrorLog", u"C:\\Log");
-    EXPECT_EQ(settingOf(runtime, u"software\\LUMTEX", u"errorLOG"), "C:\\Log");
-    EXPECT_EQ(settingOf(runtime, u"Software\\Lumtex", u"Other"), "-");
-    EXPECT_EQ(settingOf(runtime, u"Software", u"Lumtex\\ErrorLog"), "-");
+    EXPECT_EQ(runtime.text(u"software\\LUMTEX", u"errorLOG"), u"C:\\Log");
+    EXPECT_EQ(runtime.text(u"Software\\Lumtex", u"Other"), std::nullopt);
+    EXPECT_EQ(runtime.text(u"Software", u"Lumtex\\ErrorLog"), std::nullopt);
     runtime.letSetting(u"SOFTWARE\\LUMTEX", u"ERRORLOG", u"D:\\");
-    EXPECT_EQ(settingOf(runtime, u"Software\\Lumtex", u"ErrorLog"), "D:\\");
-}
-
-TEST_F(RuntimeRules, SettingsOfAnotherHiveAreOthers) {
-    HeadlessRuntime& runtime = desktop.runtime();
-    runtime.letSetting(currentUserHive + 1, u"Software", u"Name", {StoredSetting::number, {1, 0, 0, 0}});
-    EXPECT_EQ(settingOf(runtime, u"Software", u"Name"), "-");
-    EXPECT_EQ(runtime.storedSetting(currentUserHive + 1, u"software", u"name")->type, StoredSetting::number);
+    EXPECT_EQ(runtime.text(u"Software\\Lumtex", u"ErrorLog"), u"D:\\");
 }
 
 TEST_F(RuntimeRules, TheComponentIsTheProjectUntilATestSaysOtherwise) {
@@ -105,20 +92,20 @@ TEST_F(RuntimeRules, TheComponentIsTheProjectUntilATestSaysOtherwise) {
 }
 
 TEST_F(RuntimeRules, TheRunningProgramIsTheOneProcess) {
-    const HeadlessRuntime& runtime = desktop.runtime();
+    HeadlessRuntime& runtime = desktop.runtime();
     const std::optional<std::vector<ProcessEntry>> processes = runtime.processes();
     ASSERT_TRUE(processes.has_value());
     ASSERT_EQ(processes->size(), 1U);
     EXPECT_EQ(processes->front().id, runtime.currentProcessId());
-    const std::filesystem::path path = toUtf8(runtime.fullPathName(processes->front().fileName));
+    const std::filesystem::path path = toUtf8(runtime.files().fullPathName(processes->front().fileName));
     EXPECT_EQ(path.filename(), "lumtex_test_headless");
     EXPECT_TRUE(std::filesystem::exists(path));
 }
 
 TEST_F(RuntimeRules, AFileNameIsCompletedFromTheCurrentFolder) {
     const String current = fromUtf8(std::filesystem::current_path().string());
-    EXPECT_EQ(desktop.runtime().fullPathName(u"name.txt"), current + u"/name.txt");
-    EXPECT_EQ(desktop.runtime().fullPathName(u"/some/./name.txt"), u"/some/name.txt");
+    EXPECT_EQ(desktop.runtime().files().fullPathName(u"name.txt"), current + u"/name.txt");
+    EXPECT_EQ(desktop.runtime().files().fullPathName(u"/some/./name.txt"), u"/some/name.txt");
 }
 
 TEST_F(RuntimeRules, TheDateMovesWithTheVirtualClock) {
@@ -153,8 +140,8 @@ class AppendToFile : public DesktopFixture {
 };
 
 TEST_F(AppendToFile, GrowsTheFileAndKeepsLineEndsAsGiven) {
-    desktop.runtime().appendToFile(folder.pathTo("log.txt"), u"größer\r\n");
-    desktop.runtime().appendToFile(folder.pathTo("log.txt"), u"b\n");
+    desktop.runtime().files().appendToFile(folder.pathTo("log.txt"), u"größer\r\n");
+    desktop.runtime().files().appendToFile(folder.pathTo("log.txt"), u"b\n");
     EXPECT_EQ(folder.contentOf("log.txt"),
               "gr\xC3\xB6\xC3\x9F"
               "er\r\nb\n");
@@ -164,20 +151,22 @@ TEST_F(AppendToFile, BackslashesSeparateFolders) {
     std::filesystem::create_directories(folder.path / "inner");
     String path = folder.pathTo("inner");
     path += u"\\log.txt";
-    desktop.runtime().appendToFile(path, u"a");
+    desktop.runtime().files().appendToFile(path, u"a");
     EXPECT_EQ(folder.contentOf("inner/log.txt"), "a");
 }
 
 TEST_F(AppendToFile, FailsWithThePathWhereTheFolderDoesNotExist) {
-    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(folder.pathTo("missing\\log.txt"), u"a"); }),
+    EXPECT_EQ(errorNumberOf(
+                  [&] { desktop.runtime().files().appendToFile(folder.pathTo("missing\\log.txt"), u"a"); }),
               pathNotFound);
     EXPECT_FALSE(std::filesystem::exists(folder.path / "missing"));
 }
 
 TEST_F(AppendToFile, FailsWithTheAccessWhereTheFileCannotBeOpened) {
-    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(fromUtf8(folder.path.string()), u"a"); }),
-              pathFileAccess);
-    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().appendToFile(u"", u"a"); }), pathFileAccess);
+    EXPECT_EQ(
+        errorNumberOf([&] { desktop.runtime().files().appendToFile(fromUtf8(folder.path.string()), u"a"); }),
+        pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().files().appendToFile(u"", u"a"); }), pathFileAccess);
 }
 
 TEST_F(RuntimeRules, ObjectsComeFromTheirFactories) {
@@ -191,8 +180,7 @@ TEST_F(RuntimeRules, ObjectsComeFromTheirFactories) {
     EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), cannotCreateObject);
 }
 
-TEST_F(RuntimeRules, APixelIsFifteenTwips) {
-    EXPECT_EQ(desktop.runtime().twipsPerPixelY(), 15);
+TEST_F(RuntimeRules, ThereIsNoApplicationUntilATestSaysOtherwise) {
     EXPECT_EQ(desktop.runtime().applicationObject(), nullptr);
 }
 

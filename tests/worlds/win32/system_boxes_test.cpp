@@ -38,7 +38,7 @@ TEST_F(SystemBoxes, LieOverTheActiveWindowAndHoldItUntilTheyAreDismissed) {
         for (HWND child = GetWindow(box, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
             hasIcon = hasIcon || (GetWindowLongPtrW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
     };
-    world.runtime().messageBox(u"Größe", boxCritical, u"a title");
+    world.runtime().queue().messageBox(u"Größe", BoxStyle::critical, u"a title");
     EXPECT_EQ(std::exchange(watch.boxes, {}), std::vector<String>{u"Größe"});
     EXPECT_EQ(title, u"a title");
     EXPECT_EQ(owner, program->get());

@@ -48,13 +48,13 @@ BOOL WINAPI noteSound(LPCWSTR file, UINT flags) {
 
 TEST_F(UserDesktop, ASoundIsTheSystemsAndItsFailureNobodys) {
     const ReplacedImport replaced(__imp_sndPlaySoundW, noteSound);
-    runtime.playSound(u"C:\\Klänge\\a.wav", soundAsync | soundNoDefault);
-    runtime.playSound(u"", 0);
-    EXPECT_EQ(asked, (std::vector<std::string>{"sound 'C:\\Klänge\\a.wav' 3", "sound '' 0"}));
+    runtime.playSound(u"C:\\Klänge\\a.wav");
+    runtime.playSound(u"");
+    EXPECT_EQ(asked, (std::vector<std::string>{"sound 'C:\\Klänge\\a.wav' 3", "sound '' 3"}));
 }
 
 TEST_F(UserDesktop, AMissingSoundFileIsSilence) {
-    runtime.playSound(u"Z:\\no\\such\\sound.wav", soundNoDefault);
+    runtime.playSound(u"Z:\\no\\such\\sound.wav");
     EXPECT_EQ(sndPlaySoundW(L"Z:\\no\\such\\sound.wav", SND_SYNC | SND_NODEFAULT), FALSE);
 }
 
@@ -66,8 +66,8 @@ noteShell(HWND window, LPCWSTR verb, LPCWSTR file, LPCWSTR parameters, LPCWSTR f
 }
 
 /// Everything that is not said here stays as it is by default.
-ShellRequest requestFor(const String& file, const String& parameters = {}, const String& folder = {}) {
-    ShellRequest request;
+OpenRequest requestFor(const String& file, const String& parameters = {}, const String& folder = {}) {
+    OpenRequest request;
     request.file = file;
     request.parameters = parameters;
     request.folder = folder;
@@ -76,15 +76,14 @@ ShellRequest requestFor(const String& file, const String& parameters = {}, const
 
 TEST_F(UserDesktop, WhatIsLeftEmptyIsLeftToTheSystem) {
     const ReplacedImport replaced(__imp_ShellExecuteW, noteShell);
-    ShellRequest whole = requestFor(u"a.txt", u"/p", u"C:\\");
+    OpenRequest whole = requestFor(u"a.txt", u"/p", u"C:\\");
     whole.window = 77;
-    whole.verb = u"open";
-    whole.show = 3;
-    runtime.shellExecute(whole);
-    runtime.shellExecute(requestFor(u"https://example.com"));
+    whole.maximised = true;
+    runtime.open(whole);
+    runtime.open(requestFor(u"https://example.com"));
     EXPECT_EQ(asked,
-              (std::vector<std::string>{"open 77 'open' 'a.txt' '/p' 'C:\\' 3",
-                                        "open 0 none 'https://example.com' none none 1"}));
+              (std::vector<std::string>{"open 77 'Open' 'a.txt' '/p' 'C:\\' 3",
+                                        "open 0 'Open' 'https://example.com' none none 1"}));
 }
 
 /// The program may hold for a moment what it made, and the folder that it stands in.
@@ -103,9 +102,7 @@ TEST_F(UserDesktop, AProgramIsStartedWithItsParametersInItsFolder) {
     const String folder = fromUtf8(scratch.path.string());
     const String made = folder + u"\\made";
     const HANDLE change = FindFirstChangeNotificationW(wide(folder), FALSE, FILE_NOTIFY_CHANGE_DIR_NAME);
-    ShellRequest request = requestFor(u"cmd.exe", u"/c mkdir made", folder);
-    request.show = SW_HIDE;
-    runtime.shellExecute(request);
+    runtime.open(requestFor(u"cmd.exe", u"/c mkdir made", folder));
     constexpr DWORD enough = 20000; // milliseconds
     EXPECT_EQ(WaitForSingleObject(change, enough), WAIT_OBJECT_0);
     FindCloseChangeNotification(change);
@@ -115,7 +112,7 @@ TEST_F(UserDesktop, AProgramIsStartedWithItsParametersInItsFolder) {
 
 TEST_F(UserDesktop, AProgramThatIsNotThereIsNoFailure) {
     SetLastError(ERROR_SUCCESS);
-    runtime.shellExecute(requestFor(u"Z:\\no\\such\\program.exe"));
+    runtime.open(requestFor(u"Z:\\no\\such\\program.exe"));
     EXPECT_NE(GetLastError(), static_cast<DWORD>(ERROR_SUCCESS)) << "the system refused";
 }
 
@@ -131,33 +128,19 @@ HRESULT WINAPI noteTheme(LPWSTR file, int fileRoom, LPWSTR color, int colorRoom,
     return S_OK;
 }
 
-TEST_F(UserDesktop, TheThemeIsToldInBuffersOfItsCaller) {
-    std::array<char16_t, 64> file{};
-    std::array<char16_t, 32> color{};
-    std::array<char16_t, 5> size{};
+TEST_F(UserDesktop, TheColorSchemeIsThatOfTheActiveTheme) {
     const ReplacedImport replaced(__imp_GetCurrentThemeName, noteTheme);
-    EXPECT_EQ(runtime.currentThemeName(file, color, size), 0);
-    EXPECT_EQ(asked, std::vector<std::string>{"64 32 5"});
-    EXPECT_EQ(String(file.data()), u"C:\\luna.msstyles");
-    EXPECT_EQ(String(color.data()), u"Metallic");
-    EXPECT_EQ(String(size.data()), u"Norm");
+    EXPECT_EQ(runtime.colorScheme(), u"Metallic");
+    EXPECT_EQ(asked, std::vector<std::string>{"260 255 255"});
 }
 
-TEST_F(UserDesktop, WithoutAThemeTheBuffersStayAsTheyWere) {
-    std::array<char16_t, 4> buffer{u'a', u'b', u'c', u'\0'};
+TEST_F(UserDesktop, WithoutAThemeThereIsNoColorScheme) {
     const ReplacedImport replaced(__imp_GetCurrentThemeName, noTheme);
-    EXPECT_NE(runtime.currentThemeName(buffer, buffer, buffer), 0);
-    EXPECT_EQ(String(buffer.data()), u"abc");
+    EXPECT_EQ(runtime.colorScheme(), std::nullopt);
 }
 
-TEST_F(UserDesktop, TheActiveThemeHasAFileOfStyles) {
-    std::array<char16_t, 260> file{};
-    std::array<char16_t, 260> color{};
-    std::array<char16_t, 260> size{};
-    if (runtime.currentThemeName(file, color, size) == 0)
-        EXPECT_TRUE(String(file.data()).ends_with(u".msstyles")) << toUtf8(file.data());
-    else
-        EXPECT_EQ(IsThemeActive(), FALSE);
+TEST_F(UserDesktop, ThereIsAColorSchemeWhileAThemeIsActive) {
+    EXPECT_EQ(runtime.colorScheme().has_value(), IsThemeActive() != FALSE);
 }
 
 } // namespace

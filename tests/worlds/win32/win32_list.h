@@ -15,7 +15,7 @@ namespace lumtex::testing {
 class NotedRuntime : public Win32Runtime {
   public:
     using Win32Runtime::Win32Runtime;
-    void messageBox(StringView text, Long /*style*/, StringView /*title*/) override {
+    void messageBox(StringView text, BoxStyle /*style*/, StringView /*title*/) override {
         boxes.emplace_back(text);
     }
     void DoEvents() override {
@@ -59,7 +59,7 @@ class ProgramWindow {
 /// The real mouse, moved and pressed by the system's own input.
 class Mouse {
   public:
-    explicit Mouse(Runtime& runtime) : runtime_(runtime) {}
+    explicit Mouse(EventQueue& queue) : queue_(queue) {}
 
     /// To a point of a window. What comes of it is on its way: see `Win32List::moveTo`.
     void moveTo(WindowHandle window, int x, int y) {
@@ -73,25 +73,25 @@ class Mouse {
         input.mi.dwFlags = what;
         input.mi.mouseData = static_cast<DWORD>(data);
         SendInput(1, &input, sizeof(input));
-        runtime_.DoEvents();
+        queue_.DoEvents();
     }
     void press() { send(MOUSEEVENTF_LEFTDOWN); }
     void release() { send(MOUSEEVENTF_LEFTUP); }
     void wheel(int rotation) { send(MOUSEEVENTF_WHEEL, rotation); }
 
   private:
-    Runtime& runtime_;
+    EventQueue& queue_;
 };
 
 /// A key of the real keyboard goes down and up.
-inline void strike(Runtime& runtime, WORD key) {
+inline void strike(EventQueue& queue, WORD key) {
     for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
         INPUT input{};
         input.type = INPUT_KEYBOARD;
         input.ki.wVk = key;
         input.ki.dwFlags = flags;
         SendInput(1, &input, sizeof(input));
-        runtime.DoEvents();
+        queue.DoEvents();
     }
 }
 

@@ -1,14 +1,20 @@
 /// Files of text, and the search for files.
+#include "worlds/win32/win32_files.h"
+
 #include "values/runtime_error.h"
 #include "worlds/win32/ansi_text.h"
 #include "worlds/win32/file_handle.h"
-#include "worlds/win32/win32_runtime.h"
 
 #include <algorithm>
 
 namespace lumtex {
 
-String Win32Runtime::readFile(StringView path) const {
+Win32Files::~Win32Files() {
+    for (const auto& [number, search] : searches_)
+        FindClose(search);
+}
+
+String Win32Files::readFile(StringView path) const {
     const FileHandle file(String(path), GENERIC_READ, OPEN_EXISTING);
     std::string bytes;
     constexpr std::size_t blockSize = 0x10000;
@@ -22,11 +28,11 @@ String Win32Runtime::readFile(StringView path) const {
     return textFromAnsi(bytes);
 }
 
-void Win32Runtime::createFile(StringView path) {
+void Win32Files::createFile(StringView path) {
     const FileHandle file(String(path), GENERIC_WRITE, CREATE_ALWAYS);
 }
 
-void Win32Runtime::appendToFile(StringView path, StringView text) {
+void Win32Files::appendToFile(StringView path, StringView text) {
     const std::string bytes = ansiFrom(text);
     const FileHandle file(String(path), FILE_APPEND_DATA, OPEN_ALWAYS);
     DWORD written = 0;
@@ -35,7 +41,7 @@ void Win32Runtime::appendToFile(StringView path, StringView text) {
         throw RuntimeError(deviceError);
 }
 
-String Win32Runtime::fullPathName(StringView file) const {
+String Win32Files::fullPathName(StringView file) const {
     const String name(file);
     const DWORD needed = GetFullPathNameW(wide(name), 0, nullptr, nullptr);
     String path(needed, u'\0');
@@ -44,7 +50,7 @@ String Win32Runtime::fullPathName(StringView file) const {
     return path;
 }
 
-Long Win32Runtime::findFirstFile(StringView pattern) {
+Long Win32Files::findFirstFile(StringView pattern) {
     constexpr Long nothing = -1;
     const String name(pattern);
     WIN32_FIND_DATAW found{};
@@ -55,7 +61,7 @@ Long Win32Runtime::findFirstFile(StringView pattern) {
     return lastSearch_;
 }
 
-void Win32Runtime::findClose(Long handle) {
+void Win32Files::findClose(Long handle) {
     const auto search = searches_.find(handle);
     if (search == searches_.end())
         return;
