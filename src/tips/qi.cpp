@@ -19,7 +19,7 @@ void QI::Create(
         lmToolTip& tips = needToolTip();
         tips.Create(Parent);
         tips.letMaxTipWidth(MaxWidth);
-        tips.letDelayTime(tipDelayAutoPop, Delay);
+        tips.letDelayTime(static_cast<Long>(TipDelay::autoPop), Delay);
         tips.AddTool(Control, Text);
         // A control that has a tool already gets no second one, and yet the new text.
         tips.letToolText(Control, Text);

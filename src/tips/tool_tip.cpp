@@ -5,25 +5,16 @@
 #include "values/runtime_error.h"
 #include "values/variant.h"
 
+#include <algorithm>
 #include <array>
 
 namespace lumtex {
 
 namespace {
 
-constexpr StringView tipClass = u"tooltips_class32";
-constexpr Long alwaysTip = 1;     // a tip also comes up while its form is not the active one
-constexpr Long toolInfoSize = 40; // bytes
-constexpr Long idIsWindow = 1;
-constexpr Long subclass = 16;
-constexpr Long delayMask = 3;
 constexpr Integer noWidthLimit = -1;
 
 constexpr std::array<Long Rect::*, 4> margins = {&Rect::Left, &Rect::Top, &Rect::Right, &Rect::Bottom};
-
-constexpr Long Max(Long a, Long b) {
-    return a > b ? a : b;
-}
 
 /// The low word as the signed number that it holds.
 constexpr Integer LoWord2(Long value) {
@@ -40,8 +31,9 @@ WindowHandle handleOf(const ObjectRef& object) {
     return windowHandleOf(object->get(u"hwnd"));
 }
 
-Long lengthWithZero(StringView text) {
-    return static_cast<Long>(text.size()) + 1;
+/// Any number names one of the four: its two lowest bits count.
+TipDelay delayOf(Long which) {
+    return static_cast<TipDelay>(which & 3);
 }
 
 } // namespace
@@ -50,17 +42,12 @@ Procedure lmToolTip::procedure(StringView name) const {
     return {runtime_, name, ModuleKind::classModule, u"lmToolTip"};
 }
 
-void lmToolTip::Class_Terminate() {
-    if (window_ != 0)
-        platform_.destroyWindow(window_);
-}
-
 bool lmToolTip::IsWindow(const ObjectRef& Obj) {
     return ignoringErrors([&] { handleOf(Obj); });
 }
 
-Long lmToolTip::send(TipMessage message, Long wParam, Long lParam) {
-    return platform_.send(window_, message, wParam, lParam);
+void lmToolTip::keepLongest(StringView text) {
+    longestText_ = std::max(longestText_, text.size() + 1);
 }
 
 bool lmToolTip::Create(const ObjectRef& Parent) {
@@ -70,135 +57,126 @@ bool lmToolTip::Create(const ObjectRef& Parent) {
     const auto parent = p.value<WindowHandle>([&] { return handleOf(Parent); });
     if (!platform_.isFormOrSurface(parent))
         return false;
-    if (window_ != 0)
-        return true;
-    platform_.initCommonControls();
-    window_ = platform_.createWindow(
-        {.extendedStyle = 0, .className = tipClass, .style = alwaysTip, .owner = parent});
-    return window_ != 0;
+    if (!window_)
+        p.step([&] { window_ = platform_.createTipWindow(parent); });
+    return window_ != nullptr;
 }
 
-bool lmToolTip::GetToolInfo(WindowHandle Id, ToolInfo& Record, bool WantText) {
-    Record.size = toolInfoSize;
-    if (WantText)
-        Record.text = String(static_cast<std::size_t>(longestText_), u'\0');
+std::optional<TipTool> lmToolTip::GetToolInfo(WindowHandle Id, std::size_t textRoom) const {
     const Integer count = ToolCount();
     for (Long i = 0; i < count; ++i) {
-        if (platform_.send(window_, ttmEnumTools, i, Record) != 0 && Record.id == Id)
-            return true;
+        std::optional<TipTool> tool = window_->tool(i, textRoom);
+        if (tool && tool->id == Id)
+            return tool;
     }
-    return false;
+    return std::nullopt;
 }
 
 bool lmToolTip::AddTool(const ObjectRef& Control, StringView Text) {
     Procedure p = procedure(u"AddTool");
-    if (window_ == 0 || !IsWindow(Control))
+    if (!window_ || !IsWindow(Control))
         return false;
     const auto id = p.value<WindowHandle>([&] { return handleOf(Control); });
-    if (ToolInfo known; GetToolInfo(id, known, false))
+    if (GetToolInfo(id))
         return false;
-    ToolInfo tool{.size = toolInfoSize, .flags = idIsWindow | subclass, .owner = 0, .id = id, .text = {}};
+    TipTool tool{.owner = 0, .id = id, .text = {}};
     // Not every control lies in a container.
     ignoringErrors([&] { tool.owner = handleOf(Control->get(u"Container").toObject()); });
     return p.value<bool>([&] {
         tool.text = Text;
-        longestText_ = Max(longestText_, lengthWithZero(Text));
-        return platform_.send(window_, ttmAddTool, 0, tool) != 0;
+        keepLongest(Text);
+        return window_->add(tool);
     });
 }
 
 bool lmToolTip::RemoveTool(const ObjectRef& Control) {
     Procedure p = procedure(u"RemoveTool");
-    if (window_ == 0 || !IsWindow(Control))
+    if (!window_ || !IsWindow(Control))
         return false;
     const auto id = p.value<WindowHandle>([&] { return handleOf(Control); });
-    ToolInfo tool;
-    if (!GetToolInfo(id, tool, false))
-        return false;
-    platform_.send(window_, ttmDelTool, 0, tool);
-    return true;
+    const std::optional<TipTool> tool = GetToolInfo(id);
+    if (tool)
+        window_->remove(*tool);
+    return tool.has_value();
 }
 
-Integer lmToolTip::ToolCount() {
-    return window_ != 0 ? LoWord2(send(ttmGetToolCount)) : Integer{0};
+Integer lmToolTip::ToolCount() const {
+    return window_ ? LoWord2(window_->toolCount()) : Integer{0};
 }
 
 String lmToolTip::ToolText(const ObjectRef& Control) {
     Procedure p = procedure(u"ToolText");
-    if (window_ == 0 || !IsWindow(Control))
+    if (!window_ || !IsWindow(Control))
         return {};
     return p.value<String>([&] {
-        ToolInfo tool;
-        return GetToolInfo(handleOf(Control), tool, true) ? String(GetStrFromBufferA(*tool.text)) : String();
+        const std::optional<TipTool> tool = GetToolInfo(handleOf(Control), longestText_);
+        return tool ? String(GetStrFromBufferA(tool->text)) : String();
     });
 }
 
 void lmToolTip::letToolText(const ObjectRef& Control, StringView text) {
     Procedure p = procedure(u"ToolText");
-    if (window_ == 0 || !IsWindow(Control))
+    if (!window_ || !IsWindow(Control))
         return;
     p.step([&] {
-        ToolInfo tool;
-        if (!GetToolInfo(handleOf(Control), tool, false))
+        std::optional<TipTool> tool = GetToolInfo(handleOf(Control));
+        if (!tool)
             return;
-        tool.text = text;
-        longestText_ = Max(longestText_, lengthWithZero(text));
-        platform_.send(window_, ttmUpdateTipText, 0, tool);
+        tool->text = text;
+        keepLongest(text);
+        window_->setText(*tool);
     });
 }
 
-OLE_COLOR lmToolTip::BackColor() {
-    return window_ != 0 ? static_cast<OLE_COLOR>(send(ttmGetTipBackColor)) : 0;
+OLE_COLOR lmToolTip::BackColor() const {
+    return window_ ? window_->backColor() : 0;
 }
 
 void lmToolTip::letBackColor(OLE_COLOR color) {
-    if (window_ != 0)
-        send(ttmSetTipBackColor, static_cast<Long>(color));
+    if (window_)
+        window_->setBackColor(color);
 }
 
 OLE_COLOR lmToolTip::ForeColor() {
     // Wanted: reading ForeColor sends the setter's message with a colour of 0, which turns the text black.
-    return window_ != 0 ? static_cast<OLE_COLOR>(send(ttmSetTipTextColor, 0)) : 0;
+    return window_ ? window_->setTextColor(0) : 0;
 }
 
 void lmToolTip::letForeColor(OLE_COLOR color) {
-    if (window_ != 0)
-        send(ttmSetTipTextColor, static_cast<Long>(color));
+    if (window_)
+        window_->setTextColor(color);
 }
 
-Long lmToolTip::DelayTime(Long Which) {
-    return window_ != 0 ? send(ttmGetDelayTime, Which & delayMask) : 0;
+Long lmToolTip::DelayTime(Long Which) const {
+    return window_ ? window_->delay(delayOf(Which)) : 0;
 }
 
 void lmToolTip::letDelayTime(Long Which, Long milliseconds) {
-    if (window_ != 0)
-        send(ttmSetDelayTime, Which & delayMask, milliseconds);
+    if (window_)
+        window_->setDelay(delayOf(Which), milliseconds);
 }
 
-Long lmToolTip::Margin(Long Side) {
-    if (window_ == 0 || Side < 0 || Side >= static_cast<Long>(margins.size()))
+Long lmToolTip::Margin(Long Side) const {
+    if (!window_ || Side < 0 || Side >= static_cast<Long>(margins.size()))
         return 0;
-    Rect current;
-    platform_.send(window_, ttmGetMargin, 0, current);
-    return current.*margins[static_cast<std::size_t>(Side)];
+    return window_->margins().*margins[static_cast<std::size_t>(Side)];
 }
 
 void lmToolTip::letMargin(Long Side, Long margin) {
-    if (window_ == 0 || Side < 0 || Side >= static_cast<Long>(margins.size()))
+    if (!window_ || Side < 0 || Side >= static_cast<Long>(margins.size()))
         return;
-    Rect current;
-    platform_.send(window_, ttmGetMargin, 0, current);
+    Rect current = window_->margins();
     current.*margins[static_cast<std::size_t>(Side)] = margin;
-    platform_.send(window_, ttmSetMargin, 0, current);
+    window_->setMargins(current);
 }
 
-Integer lmToolTip::MaxTipWidth() {
-    return window_ != 0 ? LoWord2(send(ttmGetMaxTipWidth)) : Integer{0};
+Integer lmToolTip::MaxTipWidth() const {
+    return window_ ? LoWord2(window_->maxWidth()) : Integer{0};
 }
 
 void lmToolTip::letMaxTipWidth(Integer width) {
-    if (window_ != 0)
-        send(ttmSetMaxTipWidth, 0, width < 1 ? noWidthLimit : width);
+    if (window_)
+        window_->setMaxWidth(width < 1 ? noWidthLimit : width);
 }
 
 } // namespace lumtex

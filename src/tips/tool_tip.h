@@ -7,6 +7,9 @@
 #include "platform/tip_platform.h"
 #include "values/references/object.h"
 
+#include <memory>
+#include <optional>
+
 namespace lumtex {
 
 /// Holds one tool per control. Controls are objects of the host: what has a `hwnd` can have a tip, and its
@@ -19,7 +22,6 @@ class lmToolTip {
     lmToolTip(Runtime& runtime, TipPlatform& platform) : runtime_(runtime), platform_(platform) {}
     lmToolTip(const lmToolTip&) = delete;
     lmToolTip& operator=(const lmToolTip&) = delete;
-    ~lmToolTip() { Class_Terminate(); }
 
     /// Makes the window, owned by that of `Parent`, unless there is one already. False if `Parent` is
     /// neither a form nor the surface of a control, or the platform gives no window.
@@ -28,39 +30,39 @@ class lmToolTip {
     /// False if the control has a tool already.
     bool AddTool(const ObjectRef& Control, StringView Text);
     bool RemoveTool(const ObjectRef& Control);
-    Integer ToolCount();
+    Integer ToolCount() const;
     /// Empty for a control without a tool. Setting it makes none.
     String ToolText(const ObjectRef& Control);
     void letToolText(const ObjectRef& Control, StringView text);
 
-    OLE_COLOR BackColor();
+    OLE_COLOR BackColor() const;
     void letBackColor(OLE_COLOR color);
     /// Gives no stored colour, and turns the text of the tips black.
     OLE_COLOR ForeColor();
     void letForeColor(OLE_COLOR color);
     /// Milliseconds. `Which` is one of `TipDelay`; only its two lowest bits count.
-    Long DelayTime(Long Which);
+    Long DelayTime(Long Which) const;
     void letDelayTime(Long Which, Long milliseconds);
     /// Pixels; `Side` is 0 left, 1 top, 2 right, 3 bottom.
-    Long Margin(Long Side);
+    Long Margin(Long Side) const;
     void letMargin(Long Side, Long margin);
     /// Pixels, -1 for no limit, which is also what a width below 1 means.
-    Integer MaxTipWidth();
+    Integer MaxTipWidth() const;
     void letMaxTipWidth(Integer width);
 
-    WindowHandle hwnd() const { return window_; }
+    WindowHandle hwnd() const { return window_ ? window_->hWnd() : 0; }
 
   private:
-    void Class_Terminate();
     Procedure procedure(StringView name) const;
-    bool GetToolInfo(WindowHandle Id, ToolInfo& Record, bool WantText);
+    /// The tool of a window, with up to `textRoom` code units of its text.
+    std::optional<TipTool> GetToolInfo(WindowHandle Id, std::size_t textRoom = 0) const;
     static bool IsWindow(const ObjectRef& Obj);
-    Long send(TipMessage message, Long wParam = 0, Long lParam = 0);
+    void keepLongest(StringView text);
 
     Runtime& runtime_;
     TipPlatform& platform_;
-    WindowHandle window_ = 0;
-    Long longestText_ = 0; ///< of all texts so far, with a closing zero; sizes the buffer for reading back
+    std::unique_ptr<TipWindow> window_;
+    std::size_t longestText_ = 0; ///< of all texts so far, with a closing zero; as much is read back
 };
 
 } // namespace lumtex

@@ -12,6 +12,8 @@
 namespace lumtex::testing {
 namespace {
 
+constexpr auto autoPop = static_cast<Long>(TipDelay::autoPop);
+
 class Plain final : public UserControl {};
 
 class ToolTip : public ::testing::Test, private TextBoxClient {
@@ -52,13 +54,11 @@ class ToolTip : public ::testing::Test, private TextBoxClient {
     lmToolTip tips{desktop.runtime(), platform};
 };
 
-TEST_F(ToolTip, CreateMakesAWindowOfThePlatformsTipClassOwnedByTheParent) {
+TEST_F(ToolTip, CreateMakesATipWindowOwnedByTheParent) {
     EXPECT_EQ(tips.hwnd(), 0);
     EXPECT_TRUE(tips.Create(form));
     EXPECT_NE(tips.hwnd(), 0);
-    EXPECT_TRUE(sameLog(platform.take(),
-                        {"InitCommonControls",
-                         "CreateWindow extendedStyle=0 class=tooltips_class32 style=1 owner=" + owner()}));
+    EXPECT_TRUE(sameLog(platform.take(), {"create owner=" + owner()}));
 }
 
 TEST_F(ToolTip, ASecondCreateReturnsTrueAndKeepsTheWindow) {
@@ -105,18 +105,16 @@ TEST_F(ToolTip, TheWindowGoesWithTheObject) {
         other.Create(form);
         EXPECT_EQ(desktop.tips().windowCount(), 1U);
     }
-    EXPECT_EQ(platform.log.back(), "DestroyWindow");
+    EXPECT_EQ(platform.log.back(), "destroy");
     EXPECT_EQ(desktop.tips().windowCount(), 0U);
     platform.log.clear();
     { const lmToolTip never(desktop.runtime(), platform); }
     EXPECT_TRUE(platform.log.empty());
 }
 
-TEST_F(ToolTip, AddToolLooksForTheControlAndSendsItsRecord) {
+TEST_F(ToolTip, AddToolLooksForTheControlAndAddsIt) {
     EXPECT_TRUE(created().AddTool(first, u"Größe"));
-    EXPECT_TRUE(
-        sameLog(platform.take(),
-                {"1037 wParam=0 lParam=0", "1028 size=40 flags=17 owner=" + owner() + " id=101 text=Größe"}));
+    EXPECT_TRUE(sameLog(platform.take(), {"toolCount", "add owner=" + owner() + " id=101 text=Größe"}));
     EXPECT_EQ(desktop.tips().tipOf(101), u"Größe");
 }
 
@@ -125,9 +123,7 @@ TEST_F(ToolTip, AddToolForAControlThatHasAToolReturnsFalse) {
     tips.AddTool(second, u"other");
     platform.log.clear();
     EXPECT_FALSE(tips.AddTool(second, u"new"));
-    EXPECT_TRUE(sameLog(
-        platform.take(),
-        {"1037 wParam=0 lParam=0", "1038 index=0 size=40 buffer=none", "1038 index=1 size=40 buffer=none"}));
+    EXPECT_TRUE(sameLog(platform.take(), {"toolCount", "tool 0 room=0", "tool 1 room=0"}));
     EXPECT_EQ(tips.ToolCount(), 2);
     EXPECT_EQ(tips.ToolText(second), u"other");
 }
@@ -140,39 +136,37 @@ TEST_F(ToolTip, AControlWithoutAContainerHasNoOwnerAndNoReport) {
     strange->properties[u"Container"] = u"no object";
     EXPECT_TRUE(created().AddTool(alone, u"a"));
     EXPECT_TRUE(tips.AddTool(strange, u""));
-    EXPECT_EQ(platform.log[1], "1028 size=40 flags=17 owner=0 id=7 text=a");
-    EXPECT_EQ(platform.log.back(), "1028 size=40 flags=17 owner=0 id=8 text=");
+    EXPECT_EQ(platform.log[1], "add owner=0 id=7 text=a");
+    EXPECT_EQ(platform.log.back(), "add owner=0 id=8 text=");
     EXPECT_TRUE(desktop.runtime().boxes.empty());
 }
 
-TEST_F(ToolTip, RemoveToolSendsTheRecordThatWasFound) {
+TEST_F(ToolTip, RemoveToolRemovesTheOneThatWasFound) {
     created().AddTool(first, u"a");
     tips.AddTool(second, u"b");
     platform.log.clear();
     EXPECT_TRUE(tips.RemoveTool(first));
     EXPECT_TRUE(sameLog(platform.take(),
-                        {"1037 wParam=0 lParam=0",
-                         "1038 index=0 size=40 buffer=none",
-                         "1029 size=40 flags=17 owner=" + owner() + " id=101 text=none"}));
+                        {"toolCount", "tool 0 room=0", "remove owner=" + owner() + " id=101 text="}));
     EXPECT_FALSE(tips.RemoveTool(first));
     EXPECT_EQ(tips.ToolCount(), 1);
     EXPECT_EQ(tips.ToolText(second), u"b");
 }
 
-TEST_F(ToolTip, ToolTextReadsThroughABufferThatGrowsWithTheLongestText) {
+TEST_F(ToolTip, ToolTextReadsAsMuchAsTheLongestTextWas) {
     created().AddTool(first, u"four");
     EXPECT_EQ(tips.ToolText(first), u"four");
-    EXPECT_EQ(platform.log.back(), "1038 index=0 size=40 buffer=5");
+    EXPECT_EQ(platform.log.back(), "tool 0 room=5");
     tips.letToolText(first, u"twelve units");
     EXPECT_EQ(tips.ToolText(first), u"twelve units");
-    EXPECT_EQ(platform.log.back(), "1038 index=0 size=40 buffer=13");
+    EXPECT_EQ(platform.log.back(), "tool 0 room=13");
     tips.letToolText(first, u"six");
     EXPECT_EQ(tips.ToolText(first), u"six");
-    EXPECT_EQ(platform.log.back(), "1038 index=0 size=40 buffer=13");
+    EXPECT_EQ(platform.log.back(), "tool 0 room=13");
     tips.AddTool(second, String(300, u'x'));
     EXPECT_EQ(tips.ToolText(first), u"six");
     EXPECT_EQ(tips.ToolText(second), String(300, u'x'));
-    EXPECT_EQ(platform.log.back(), "1038 index=1 size=40 buffer=301");
+    EXPECT_EQ(platform.log.back(), "tool 1 room=301");
 }
 
 TEST_F(ToolTip, ToolTextEndsAtTheFirstZero) {
@@ -180,22 +174,19 @@ TEST_F(ToolTip, ToolTextEndsAtTheFirstZero) {
     EXPECT_EQ(tips.ToolText(first), u"ab");
 }
 
-TEST_F(ToolTip, ToolTextIsTheWholeBufferWhereItHasNoZero) {
+TEST_F(ToolTip, ToolTextIsCutToTheLongestTextSoFar) {
     created().AddTool(first, u"ab");
     // Someone else's text in the same window, longer than all that went through here.
-    ToolInfo tool{.size = 40, .flags = 17, .owner = formWindow->hWnd(), .id = 101, .text = u"abcdef"};
-    desktop.tips().send(tips.hwnd(), ttmUpdateTipText, 0, tool);
+    platform.last->setText({.owner = formWindow->hWnd(), .id = 101, .text = u"abcdef"});
     EXPECT_EQ(tips.ToolText(first), u"abc");
 }
 
-TEST_F(ToolTip, SettingToolTextSendsTheRecordWithTheNewText) {
+TEST_F(ToolTip, SettingToolTextGivesTheToolTheNewText) {
     created().AddTool(first, u"a");
     platform.log.clear();
     tips.letToolText(first, u"b");
     EXPECT_TRUE(sameLog(platform.take(),
-                        {"1037 wParam=0 lParam=0",
-                         "1038 index=0 size=40 buffer=none",
-                         "1036 size=40 flags=17 owner=" + owner() + " id=101 text=b"}));
+                        {"toolCount", "tool 0 room=0", "setText owner=" + owner() + " id=101 text=b"}));
 }
 
 TEST_F(ToolTip, SettingToolTextOfAControlWithoutAToolMakesNone) {
@@ -204,13 +195,11 @@ TEST_F(ToolTip, SettingToolTextOfAControlWithoutAToolMakesNone) {
     EXPECT_EQ(tips.ToolText(first), u"");
 }
 
-TEST_F(ToolTip, ColoursGoThroughTheirMessages) {
+TEST_F(ToolTip, ColoursAreThoseOfTheWindow) {
     created().letBackColor(0xFF8040U);
     EXPECT_EQ(tips.BackColor(), 0xFF8040U);
     tips.letForeColor(0x80000017U);
-    EXPECT_TRUE(sameLog(
-        platform.take(),
-        {"1043 wParam=16744512 lParam=0", "1046 wParam=0 lParam=0", "1044 wParam=-2147483625 lParam=0"}));
+    EXPECT_TRUE(sameLog(platform.take(), {"setBackColor 16744512", "backColor", "setTextColor 2147483671"}));
 }
 
 TEST_F(ToolTip, ReadingForeColorSetsTheTextToBlack) {
@@ -218,7 +207,7 @@ TEST_F(ToolTip, ReadingForeColorSetsTheTextToBlack) {
     created().letForeColor(0x0000FFU);
     platform.log.clear();
     EXPECT_EQ(tips.ForeColor(), 0U);
-    EXPECT_TRUE(sameLog(platform.take(), {"1044 wParam=0 lParam=0"}));
+    EXPECT_TRUE(sameLog(platform.take(), {"setTextColor 0"}));
     EXPECT_EQ(desktop.tips().textColorOf(tips.hwnd()), black);
 }
 
@@ -243,8 +232,8 @@ TEST_F(ToolTip, WhichDelayTimeIsMaskedWithThree) {
         tips.letDelayTime(rule.which, 1000 + rule.which);
         EXPECT_EQ(tips.DelayTime(rule.which), 1000 + rule.which);
         EXPECT_TRUE(sameLog(platform.take(),
-                            {"1027 wParam=" + number(rule.sent) + " lParam=" + number(1000 + rule.which),
-                             "1045 wParam=" + number(rule.sent) + " lParam=0"}));
+                            {"setDelay " + number(rule.sent) + " " + number(1000 + rule.which),
+                             "delay " + number(rule.sent)}));
     }
 }
 
@@ -253,14 +242,14 @@ TEST_F(ToolTip, MarginReadsAllFourAndReplacesOne) {
     for (Long side = 0; side < 4; ++side)
         tips.letMargin(side, 10 + side);
     EXPECT_TRUE(sameLog(platform.take(),
-                        {"1051 margins=0,0,0,0",
-                         "1050 margins=10,0,0,0",
-                         "1051 margins=10,0,0,0",
-                         "1050 margins=10,11,0,0",
-                         "1051 margins=10,11,0,0",
-                         "1050 margins=10,11,12,0",
-                         "1051 margins=10,11,12,0",
-                         "1050 margins=10,11,12,13"}));
+                        {"margins 0,0,0,0",
+                         "setMargins 10,0,0,0",
+                         "margins 10,0,0,0",
+                         "setMargins 10,11,0,0",
+                         "margins 10,11,0,0",
+                         "setMargins 10,11,12,0",
+                         "margins 10,11,12,0",
+                         "setMargins 10,11,12,13"}));
     for (Long side = 0; side < 4; ++side)
         EXPECT_EQ(tips.Margin(side), 10 + side);
     EXPECT_EQ(tips.Margin(4), 0);
@@ -271,19 +260,19 @@ TEST_F(ToolTip, MarginReadsAllFourAndReplacesOne) {
     EXPECT_TRUE(platform.log.empty());
 }
 
-TEST_F(ToolTip, MaxTipWidthBelowOneIsSentAsMinusOne) {
+TEST_F(ToolTip, MaxTipWidthBelowOneIsNoLimit) {
     created();
     for (const Integer width : {Integer{0}, Integer{-1}, Integer{-32768}}) {
         tips.letMaxTipWidth(width);
-        EXPECT_EQ(platform.log.back(), "1048 wParam=0 lParam=-1");
+        EXPECT_EQ(platform.log.back(), "setMaxWidth -1");
         EXPECT_EQ(tips.MaxTipWidth(), -1);
     }
     for (const Integer width : {Integer{1}, Integer{32767}}) {
         tips.letMaxTipWidth(width);
-        EXPECT_EQ(platform.log.back(), "1048 wParam=0 lParam=" + number(width));
+        EXPECT_EQ(platform.log.back(), "setMaxWidth " + number(width));
         EXPECT_EQ(tips.MaxTipWidth(), width);
     }
-    EXPECT_EQ(platform.log.back(), "1049 wParam=0 lParam=0");
+    EXPECT_EQ(platform.log.back(), "maxWidth");
 }
 
 TEST_F(ToolTip, EverythingWithoutAWindowIsAQuietNoOp) {
@@ -296,8 +285,8 @@ TEST_F(ToolTip, EverythingWithoutAWindowIsAQuietNoOp) {
     EXPECT_EQ(tips.BackColor(), 0U);
     tips.letForeColor(white);
     EXPECT_EQ(tips.ForeColor(), 0U);
-    tips.letDelayTime(tipDelayAutoPop, 1);
-    EXPECT_EQ(tips.DelayTime(tipDelayAutoPop), 0);
+    tips.letDelayTime(autoPop, 1);
+    EXPECT_EQ(tips.DelayTime(autoPop), 0);
     tips.letMargin(0, 1);
     EXPECT_EQ(tips.Margin(0), 0);
     tips.letMaxTipWidth(1);
@@ -328,7 +317,7 @@ TEST_F(QiTest, CreateMakesTheTipWithWidthDelayAndText) {
     qi.Create(form, first, u"Hello", 2500, 0);
     ASSERT_NE(qi.toolTip(), nullptr);
     EXPECT_EQ(qi.toolTip()->MaxTipWidth(), -1);
-    EXPECT_EQ(qi.toolTip()->DelayTime(tipDelayAutoPop), 2500);
+    EXPECT_EQ(qi.toolTip()->DelayTime(autoPop), 2500);
     EXPECT_EQ(qi.toolTip()->ToolText(first), u"Hello");
     EXPECT_EQ(desktop.tips().tipOf(101), u"Hello");
 }

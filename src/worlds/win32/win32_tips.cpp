@@ -11,30 +11,92 @@ namespace lumtex {
 
 namespace {
 
-/// The tool record as the class knows it in this program's width; the oldest form, which every version takes.
-const UINT recordSize = TTTOOLINFOA_V1_SIZE;
-/// What callers put into the size field: the bytes of that form in a program of 32 bits.
-constexpr Long promisedSize = 40;
+/// A tool as the class knows it, in the oldest form, which every version takes.
+struct ToolRecord {
+    explicit ToolRecord(const TipTool& tool) : text(ansiFrom(tool.text)) {
+        info.cbSize = TTTOOLINFOA_V1_SIZE;
+        info.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+        info.hwnd = toHWND(tool.owner);
+        info.uId = static_cast<UINT_PTR>(static_cast<INT_PTR>(tool.id));
+        info.lpszText = text.data();
+    }
+    ToolRecord(const ToolRecord&) = delete;
+    ToolRecord& operator=(const ToolRecord&) = delete;
 
-TTTOOLINFOA recordOf(const ToolInfo& tool) {
-    TTTOOLINFOA record{};
-    record.cbSize = recordSize;
-    record.uFlags = static_cast<UINT>(tool.flags);
-    record.hwnd = toHWND(tool.owner);
-    record.uId = static_cast<UINT_PTR>(static_cast<INT_PTR>(tool.id));
-    return record;
-}
+    LPARAM parameter() { return reinterpret_cast<LPARAM>(&info); }
 
-LRESULT sendTo(HWND window, TipMessage message, Long wParam, LPARAM lParam) {
-    return SendMessageA(window, static_cast<UINT>(message), static_cast<WPARAM>(wParam), lParam);
+    std::string text;
+    TTTOOLINFOA info{};
+};
+
+class Win32TipWindow final : public TipWindow {
+  public:
+    explicit Win32TipWindow(HWND window) : window_(window) {}
+    ~Win32TipWindow() override { DestroyWindow(window_); }
+
+    WindowHandle hWnd() const override { return fromHWND(window_); }
+
+    bool add(const TipTool& tool) override {
+        ToolRecord record(tool);
+        return send(TTM_ADDTOOLA, 0, record.parameter()) != 0;
+    }
+    void remove(const TipTool& tool) override {
+        ToolRecord record(tool);
+        send(TTM_DELTOOLA, 0, record.parameter());
+    }
+    void setText(const TipTool& tool) override {
+        ToolRecord record(tool);
+        send(TTM_UPDATETIPTEXTA, 0, record.parameter());
+    }
+    Long toolCount() const override { return static_cast<Long>(send(TTM_GETTOOLCOUNT)); }
+    std::optional<TipTool> tool(Long index, std::size_t textRoom) const override;
+
+    OLE_COLOR backColor() const override { return static_cast<OLE_COLOR>(send(TTM_GETTIPBKCOLOR)); }
+    void setBackColor(OLE_COLOR color) override { send(TTM_SETTIPBKCOLOR, color); }
+    OLE_COLOR setTextColor(OLE_COLOR color) override {
+        return static_cast<OLE_COLOR>(send(TTM_SETTIPTEXTCOLOR, color));
+    }
+    Long delay(TipDelay which) const override {
+        return static_cast<Long>(send(TTM_GETDELAYTIME, static_cast<WPARAM>(which)));
+    }
+    void setDelay(TipDelay which, Long milliseconds) override {
+        send(TTM_SETDELAYTIME, static_cast<WPARAM>(which), MAKELPARAM(milliseconds, 0));
+    }
+    Rect margins() const override {
+        RECT record{};
+        send(TTM_GETMARGIN, 0, reinterpret_cast<LPARAM>(&record));
+        return {record.left, record.top, record.right, record.bottom};
+    }
+    void setMargins(const Rect& margins) override {
+        const RECT record{margins.Left, margins.Top, margins.Right, margins.Bottom};
+        send(TTM_SETMARGIN, 0, reinterpret_cast<LPARAM>(&record));
+    }
+    Long maxWidth() const override { return static_cast<Long>(send(TTM_GETMAXTIPWIDTH)); }
+    void setMaxWidth(Long width) override { send(TTM_SETMAXTIPWIDTH, 0, width); }
+
+  private:
+    LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendMessageA(window_, message, wParam, lParam);
+    }
+
+    HWND window_;
+};
+
+std::optional<TipTool> Win32TipWindow::tool(Long index, std::size_t textRoom) const {
+    ToolRecord record({});
+    // The class has no limit for what it writes, so it writes where there is room for all that it takes in.
+    constexpr std::size_t longestTip = 0x10000;
+    record.text.assign(textRoom > 0 ? std::max(longestTip, textRoom + 1) : 0, '\0');
+    record.info.lpszText = textRoom > 0 ? record.text.data() : nullptr;
+    if (send(TTM_ENUMTOOLSA, static_cast<WPARAM>(index), record.parameter()) == 0)
+        return std::nullopt;
+    const String whole = textFromAnsi(record.text.c_str());
+    return TipTool{.owner = fromHWND(record.info.hwnd),
+                   .id = static_cast<WindowHandle>(record.info.uId),
+                   .text = whole.substr(0, textRoom)};
 }
 
 } // namespace
-
-Win32Tips::~Win32Tips() {
-    for (const WindowHandle tips : windows_)
-        DestroyWindow(toHWND(tips));
-}
 
 bool Win32Tips::isFormOrSurface(WindowHandle handle) const {
     HWND window = toHWND(handle);
@@ -43,83 +105,23 @@ bool Win32Tips::isFormOrSurface(WindowHandle handle) const {
     return Win32Window::of(window) != nullptr || GetAncestor(window, GA_ROOT) == window;
 }
 
-void Win32Tips::initCommonControls() {
+std::unique_ptr<TipWindow> Win32Tips::createTipWindow(WindowHandle owner) {
     InitCommonControls();
-}
-
-WindowHandle Win32Tips::createWindow(const TipWindowForm& form) {
-    const String className(form.className);
-    HWND window = CreateWindowExW(static_cast<DWORD>(form.extendedStyle),
-                                  wide(className),
+    HWND window = CreateWindowExW(0,
+                                  TOOLTIPS_CLASSW,
                                   nullptr,
-                                  static_cast<DWORD>(form.style),
+                                  TTS_ALWAYSTIP,
                                   0,
                                   0,
                                   0,
                                   0,
-                                  toHWND(form.owner),
+                                  toHWND(owner),
                                   nullptr,
                                   world_.instance(),
                                   nullptr);
-    if (window != nullptr)
-        windows_.insert(fromHWND(window));
-    return fromHWND(window);
-}
-
-void Win32Tips::destroyWindow(WindowHandle tips) {
-    if (windows_.erase(tips) > 0)
-        DestroyWindow(toHWND(tips));
-}
-
-HWND Win32Tips::tipWindow(WindowHandle tips) const {
-    return windows_.contains(tips) ? toHWND(tips) : nullptr;
-}
-
-Long Win32Tips::send(WindowHandle tips, TipMessage message, Long wParam, Long lParam) {
-    HWND window = tipWindow(tips);
     if (window == nullptr)
-        return 0;
-    const LPARAM value = message == ttmSetDelayTime ? MAKELPARAM(lParam, 0) : static_cast<LPARAM>(lParam);
-    return static_cast<Long>(sendTo(window, message, wParam, value));
-}
-
-Long Win32Tips::send(WindowHandle tips, TipMessage message, Long wParam, ToolInfo& tool) {
-    HWND window = tipWindow(tips);
-    if (window == nullptr || tool.size != promisedSize)
-        return 0;
-    TTTOOLINFOA record = recordOf(tool);
-    std::string text = tool.text ? ansiFrom(*tool.text) : std::string();
-    if (message == ttmEnumTools) {
-        // The class has no limit for what it writes, so it writes where there is room for all that it takes
-        // in.
-        constexpr std::size_t longestTip = 0x10000;
-        text.assign(std::max(longestTip, text.size() + 1), '\0');
-    }
-    record.lpszText = tool.text ? text.data() : nullptr;
-    const LRESULT reply = sendTo(window, message, wParam, reinterpret_cast<LPARAM>(&record));
-    if (message != ttmEnumTools || reply == 0)
-        return static_cast<Long>(reply);
-    tool.flags = static_cast<Long>(record.uFlags);
-    tool.owner = fromHWND(record.hwnd);
-    tool.id = static_cast<WindowHandle>(record.uId);
-    if (tool.text) {
-        const String whole = textFromAnsi(text.c_str());
-        const std::size_t count = std::min(tool.text->size(), whole.size());
-        std::copy_n(whole.begin(), count, tool.text->begin());
-        if (count < tool.text->size())
-            (*tool.text)[count] = u'\0';
-    }
-    return static_cast<Long>(reply);
-}
-
-Long Win32Tips::send(WindowHandle tips, TipMessage message, Long wParam, Rect& margins) {
-    HWND window = tipWindow(tips);
-    if (window == nullptr)
-        return 0;
-    RECT record{margins.Left, margins.Top, margins.Right, margins.Bottom};
-    const LRESULT reply = sendTo(window, message, wParam, reinterpret_cast<LPARAM>(&record));
-    margins = {record.left, record.top, record.right, record.bottom};
-    return static_cast<Long>(reply);
+        return nullptr;
+    return std::make_unique<Win32TipWindow>(window);
 }
 
 } // namespace lumtex

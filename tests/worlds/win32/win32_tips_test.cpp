@@ -3,8 +3,12 @@
 #include "tips/tool_tip.h"
 #include "win32_list.h"
 
+#include <commctrl.h>
+
 namespace lumtex::testing {
 namespace {
+
+constexpr auto autoPop = static_cast<Long>(TipDelay::autoPop);
 
 class Win32TipWindows : public Win32List {
   protected:
@@ -50,8 +54,8 @@ TEST_F(Win32TipWindows, HoldOneToolForEachControl) {
 
 TEST_F(Win32TipWindows, KeepTimesMarginsWidthAndColours) {
     ASSERT_TRUE(tips.Create(objectOf(program->get())));
-    tips.letDelayTime(tipDelayAutoPop, 4321);
-    EXPECT_EQ(tips.DelayTime(tipDelayAutoPop), 4321);
+    tips.letDelayTime(autoPop, 4321);
+    EXPECT_EQ(tips.DelayTime(autoPop), 4321);
     tips.letMargin(2, 7);
     EXPECT_EQ(tips.Margin(2), 7);
     EXPECT_EQ(tips.Margin(0), 0);
@@ -73,12 +77,58 @@ TEST_F(Win32TipWindows, GoWithTheObjectThatMadeThem) {
     EXPECT_FALSE(IsWindow(window));
 }
 
-TEST_F(Win32TipWindows, AHandleThatNamesNoTipWindowIsAnsweredWithNothing) {
-    ToolInfo tool{.size = 40, .flags = 17, .owner = 0, .id = listWindow(), .text = u"x"};
-    EXPECT_EQ(world.tips().send(listWindow(), ttmAddTool, 0, tool), 0);
-    EXPECT_EQ(world.tips().send(listWindow(), ttmGetToolCount, 0, 0), 0);
-    world.tips().destroyWindow(listWindow());
-    EXPECT_TRUE(IsWindow(toHWND(listWindow())));
+/// The messages that reach a window, in the classes' own range.
+class MessageLog {
+  public:
+    explicit MessageLog(HWND window) : window_(window) {
+        heard.clear();
+        inner = reinterpret_cast<WNDPROC>(
+            SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(hear)));
+    }
+    MessageLog(const MessageLog&) = delete;
+    MessageLog& operator=(const MessageLog&) = delete;
+    ~MessageLog() { SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(inner)); }
+
+    static std::vector<std::string> take() { return std::exchange(heard, {}); }
+
+  private:
+    static LRESULT CALLBACK hear(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message >= WM_USER) {
+            std::string line = std::to_string(message) + " " + std::to_string(wParam);
+            if (message == TTM_ADDTOOLA || message == TTM_DELTOOLA || message == TTM_UPDATETIPTEXTA)
+                line += " flags " + std::to_string(reinterpret_cast<const TTTOOLINFOA*>(lParam)->uFlags);
+            heard.push_back(line);
+        }
+        return CallWindowProcA(inner, window, message, wParam, lParam);
+    }
+
+    static inline std::vector<std::string> heard;
+    static inline WNDPROC inner = nullptr;
+    HWND window_;
+};
+
+TEST_F(Win32TipWindows, SendTheMessagesOfTheSystemsClass) {
+    ASSERT_TRUE(tips.Create(objectOf(program->get())));
+    const MessageLog log(toHWND(tips.hwnd()));
+    const auto tool = control();
+    using Lines = std::vector<std::string>;
+    tips.AddTool(tool, u"a");
+    EXPECT_EQ(MessageLog::take(), (Lines{"1037 0", "1028 0 flags 17"}));
+    tips.letToolText(tool, u"b");
+    EXPECT_EQ(MessageLog::take(), (Lines{"1037 0", "1038 0", "1036 0 flags 17"}));
+    tips.RemoveTool(tool);
+    EXPECT_EQ(MessageLog::take(), (Lines{"1037 0", "1038 0", "1029 0 flags 17"}));
+    tips.letBackColor(5);
+    tips.BackColor();
+    tips.letForeColor(6);
+    tips.ForeColor();
+    EXPECT_EQ(MessageLog::take(), (Lines{"1043 5", "1046 0", "1044 6", "1044 0"}));
+    tips.letDelayTime(2, 100);
+    tips.DelayTime(2);
+    tips.letMargin(0, 1);
+    tips.letMaxTipWidth(10);
+    tips.MaxTipWidth();
+    EXPECT_EQ(MessageLog::take(), (Lines{"1027 2", "1045 2", "1051 0", "1050 0", "1048 0", "1049 0"}));
 }
 
 } // namespace
