@@ -2,7 +2,7 @@
 /// What a search found, for callers who cannot read a record.
 #pragma once
 
-#include "sortfind/find_state.h"
+#include "sortfind/find_results.h"
 #include "values/variant.h"
 
 namespace lumtex {

@@ -4,7 +4,7 @@
 
 #include "helpers/sp_ev.h"
 #include "records/enumerations.h"
-#include "sortfind/find_state.h"
+#include "sortfind/find_results.h"
 #include "values/references/font.h"
 #include "values/references/object.h"
 #include "values/references/picture.h"

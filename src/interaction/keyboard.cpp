@@ -1,5 +1,7 @@
 /// Keys: the arrows that move the current row, and the flags that presses ask for.
+#include "interaction/selection.h"
 #include "model/list_view.h"
+#include "scroll/scroller.h"
 #include "values/rounding.h"
 
 namespace lumtex {
@@ -14,15 +16,15 @@ constexpr Integer downKey = 40;
 
 } // namespace
 
-void lmListView::UserControl_KeyDown(Integer KeyCode, Integer Shift) {
+void Selection::keyDown(Integer KeyCode, Integer Shift) {
     Procedure p = procedure(u"UserControl_KeyDown");
     // The host may turn the key into another one.
-    p.raise([&] { events_->KeyDown(KeyCode, Shift); });
+    p.raise([&] { core_.events().KeyDown(KeyCode, Shift); });
     // Wanted: only the key pressed last counts, so Shift and Control are never held together.
-    selection_.shiftDown = KeyCode == shiftKey;
-    selection_.ctrlDown = KeyCode == controlKey;
-    const Long visible = VisibleItems();
-    if (RowsCount() == 0)
+    state_.shiftDown = KeyCode == shiftKey;
+    state_.ctrlDown = KeyCode == controlKey;
+    const Long visible = core_.scroller->VisibleItems();
+    if (records_.RowsCount() == 0)
         return;
     if (KeyCode == downKey)
         arrowDown(visible, p);
@@ -30,44 +32,39 @@ void lmListView::UserControl_KeyDown(Integer KeyCode, Integer Shift) {
         arrowUp(visible, p);
 }
 
-void lmListView::UserControl_KeyPress(Integer KeyAscii) {
-    Procedure p = procedure(u"UserControl_KeyPress");
-    p.raise([&] { events_->KeyPress(KeyAscii); });
-}
-
-void lmListView::UserControl_KeyUp(Integer KeyCode, Integer Shift) {
+void Selection::keyUp(Integer KeyCode, Integer Shift) {
     Procedure p = procedure(u"UserControl_KeyUp");
     // Wanted: letting go of any key clears both.
-    selection_.shiftDown = false;
-    selection_.ctrlDown = false;
-    p.raise([&] { events_->KeyUp(KeyCode, Shift); });
+    state_.shiftDown = false;
+    state_.ctrlDown = false;
+    p.raise([&] { core_.events().KeyUp(KeyCode, Shift); });
 }
 
-bool lmListView::rowCanBeCurrent(Long row, Procedure& p) {
-    return p.condition([&] { return recordAt(row).Enabled; }, false);
+bool Selection::rowCanBeCurrent(Long row, Procedure& p) {
+    return p.condition([&] { return records_.recordAt(row).Enabled; }, false);
 }
 
-void lmListView::arrowDown(Long visible, Procedure& p) {
+void Selection::arrowDown(Long visible, Procedure& p) {
     Long row = ListIndex() + 1;
-    while (row < RowsCount() && !rowCanBeCurrent(row, p))
+    while (row < records_.RowsCount() && !rowCanBeCurrent(row, p))
         ++row;
-    if (row >= RowsCount())
+    if (row >= records_.RowsCount())
         return;
-    if (ListIndex() < RowsCount() - 1) {
+    if (ListIndex() < records_.RowsCount() - 1) {
         SetNewSelected(row);
-        selection_.selectOnIndexSet = false;
-        selection_.indexScrollArmed = false;
+        state_.selectOnIndexSet = false;
+        state_.indexScrollArmed = false;
         letListIndex(row);
-        if (p.condition([&] { return differenceOf(ListIndex(), TopIndex()) >= visible; }, true))
-            p.step([&] { letTopIndex(sumOf(differenceOf(ListIndex(), visible), 1)); });
-        if (TopIndex() > ListIndex())
-            letTopIndex(ListIndex());
+        if (p.condition([&] { return differenceOf(ListIndex(), list_.TopIndex()) >= visible; }, true))
+            p.step([&] { list_.letTopIndex(sumOf(differenceOf(ListIndex(), visible), 1)); });
+        if (list_.TopIndex() > ListIndex())
+            list_.letTopIndex(ListIndex());
     }
-    selection_.selectOnIndexSet = true;
-    Redraw();
+    state_.selectOnIndexSet = true;
+    list_.Redraw();
 }
 
-void lmListView::arrowUp(Long visible, Procedure& p) {
+void Selection::arrowUp(Long visible, Procedure& p) {
     Long row = ListIndex() - 1;
     while (row >= 0 && !rowCanBeCurrent(row, p))
         --row;
@@ -76,15 +73,15 @@ void lmListView::arrowUp(Long visible, Procedure& p) {
     if (ListIndex() > 0) {
         SetNewSelected(row);
         // Wanted: unlike Down, it leaves the scrolling of the index as it is.
-        selection_.selectOnIndexSet = false;
+        state_.selectOnIndexSet = false;
         letListIndex(row);
-        if (p.condition([&] { return differenceOf(ListIndex(), TopIndex()) < 0; }, true))
-            letTopIndex(ListIndex());
-        if (p.condition([&] { return sumOf(TopIndex(), visible) < ListIndex(); }, true))
-            letTopIndex(ListIndex());
+        if (p.condition([&] { return differenceOf(ListIndex(), list_.TopIndex()) < 0; }, true))
+            list_.letTopIndex(ListIndex());
+        if (p.condition([&] { return sumOf(list_.TopIndex(), visible) < ListIndex(); }, true))
+            list_.letTopIndex(ListIndex());
     }
-    selection_.selectOnIndexSet = true;
-    Redraw();
+    state_.selectOnIndexSet = true;
+    list_.Redraw();
 }
 
 } // namespace lumtex

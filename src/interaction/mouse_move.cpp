@@ -1,30 +1,27 @@
-/// A move of the mouse: hover, the guide of a resize, and what a drag does.
+/// A move of the mouse: what it tells the headers, and what a drag does.
+#include "interaction/mouse.h"
+#include "interaction/row_drag.h"
 #include "interaction/surface_object.h"
 #include "model/list_view.h"
+#include "scroll/scroller.h"
 
 namespace lumtex {
 
-void lmListView::UserControl_MouseMove(Integer Button, Integer Shift, Single X, Single Y) {
+void Mouse::move(Integer Button, Integer Shift, Single X, Single Y) {
     Procedure p = procedure(u"UserControl_MouseMove");
-    yield(p);
-    mouse_.lastMouseX = X;
-    mouse_.lastMouseY = Y;
-    mouse_.lastMouseButton = Button;
+    core_.yield(p);
+    remember(Button, X, Y);
     p.step([&] {
-        if (!tmrMouseIn->Enabled())
-            tmrMouseIn->letEnabled(true);
+        if (!tmrMouseIn_->Enabled())
+            tmrMouseIn_->letEnabled(true);
     });
-    if (Button == noButton) {
-        headerPress_.pressedColumn = -1;
-        headerPress_.resizing = false;
-        headerPress_.resizeColumn = -1;
-        headerPress_.pressPending = false;
-    }
+    if (Button == noButton)
+        core_.headerGesture->moveWithoutButton();
     // What the host changes counts from here on.
-    p.raise([&] { events_->MouseMove(Button, Shift, X, Y); });
+    p.raise([&] { core_.events().MouseMove(Button, Shift, X, Y); });
     if (!properties_.HideColumnHeaders)
-        moveOverHeaders(X, Y, p);
-    if (RowsCount() < 1 || ColumnsCount() < 1)
+        core_.headerGesture->moveOverHeaders(X, Y, p);
+    if (records_.RowsCount() < 1 || records_.ColumnsCount() < 1)
         return;
 
     std::optional<Long> row;
@@ -34,58 +31,42 @@ void lmListView::UserControl_MouseMove(Integer Button, Integer Shift, Single X, 
         drag(Y, row, p);
     if (properties_.CheckMouseOver && !row)
         leaveItem(p);
-    yield(p);
-}
-
-void lmListView::moveOverHeaders(Single X, Single Y, Procedure& p) {
-    if (headerPress_.resizing) {
-        p.step([&] { Line1->letY1(0); });
-        p.step([&] { Line1->letY2(static_cast<Single>(window_->surface().scaleHeight())); });
-        p.step([&] { Line1->letX1(X); });
-        p.step([&] { Line1->letX2(X); });
-    }
-    const auto height = static_cast<Single>(ColumnHeight());
-    if (Y <= height)
-        Redraw();
-    // Wanted: a move on the exact line paints twice.
-    if (headerPress_.hoverColumn != -1 && Y >= height)
-        Redraw();
-    if (!properties_.HideColumnHeaders && Y > static_cast<Single>(ColumnHeight()))
-        p.step([&] { window_->letMousePointer(pointerDefault); });
+    core_.yield(p);
 }
 
 /// `row` is the one under the mouse, if any. Out of the rows the drag scrolls, one row a tick.
-void lmListView::drag(Single Y, std::optional<Long> row, Procedure& p) {
-    const Single barHeight = HS->Visible() ? HS->Height() : 0;
+void Mouse::drag(Single Y, std::optional<Long> row, Procedure& p) {
+    lmHScroll& bar = core_.scroller->horizontal();
+    const Single barHeight = bar.Visible() ? bar.Height() : 0;
     if (Y < 0) {
-        p.step([&] { tmrMouseAction->Tag = u"up"; });
-        p.step([&] { tmrMouseAction->letEnabled(true); });
-    } else if (Y > static_cast<Single>(window_->surface().scaleHeight()) - barHeight) {
-        p.step([&] { tmrMouseAction->Tag = u"down"; });
-        p.step([&] { tmrMouseAction->letEnabled(true); });
+        p.step([&] { tmrMouseAction_->Tag = u"up"; });
+        p.step([&] { tmrMouseAction_->letEnabled(true); });
+    } else if (Y > static_cast<Single>(window_.surface().scaleHeight()) - barHeight) {
+        p.step([&] { tmrMouseAction_->Tag = u"down"; });
+        p.step([&] { tmrMouseAction_->letEnabled(true); });
     } else {
-        tmrMouseAction->Tag.clear();
-        p.step([&] { tmrMouseAction->letEnabled(false); });
+        tmrMouseAction_->Tag.clear();
+        p.step([&] { tmrMouseAction_->letEnabled(false); });
         // Wanted: a drag that finds no row, on the headers or during a resize, goes to the first one.
         const Long rowHit = row.value_or(0);
         if (properties_.AllowItemMoving)
-            dragRow(rowHit);
+            core_.rowDrag->dragRow(rowHit);
         else
-            letRowIndex(rowHit + 1);
+            list_.letRowIndex(rowHit + 1);
     }
 }
 
 // Wanted: nothing stores a number in the two fields, so the event is never raised.
-void lmListView::leaveItem(Procedure& p) {
-    if (mouse_.hoverRow == 0 && mouse_.hoverCellColumn == 0)
+void Mouse::leaveItem(Procedure& p) {
+    if (state_.hoverRow == 0 && state_.hoverCellColumn == 0)
         return;
-    mouse_.hoverRow = 0;
-    mouse_.hoverCellColumn = 0;
-    p.raise([&] { events_->ItemOver(0, 0, false); });
+    state_.hoverRow = 0;
+    state_.hoverCellColumn = 0;
+    p.raise([&] { core_.events().ItemOver(0, 0, false); });
     p.step([&] {
         if (!tips_)
-            tips_ = std::make_unique<QI>(world_);
-        tips_->Remove(std::make_shared<SurfaceObject>(window_->hWnd()));
+            tips_ = std::make_unique<QI>(core_.world());
+        tips_->Remove(std::make_shared<SurfaceObject>(window_.hWnd()));
     });
 }
 

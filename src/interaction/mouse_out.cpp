@@ -1,24 +1,24 @@
 /// Another way to notice that the mouse has left, by holding the capture.
-#include "model/list_view.h"
+#include "interaction/mouse.h"
 
 namespace lumtex {
 
 // Wanted: nothing calls it.
-void lmListView::MouseOut(Single X, Single Y) {
-    const Surface& surface = window_->surface();
+void Mouse::MouseOut(Single X, Single Y) {
+    const Surface& surface = window_.surface();
     if (X < 0 || Y < 0 || X > static_cast<Single>(surface.scaleWidth()) ||
         Y > static_cast<Single>(surface.scaleHeight())) {
-        window_->releaseCapture();
-        mouse_.mouseInside = false;
-    } else if (!window_->underPointer()) {
-        window_->releaseCapture();
-        mouse_.mouseInside = false;
-        window_->letMousePointer(pointerDefault);
+        window_.releaseCapture();
+        state_.mouseInside = false;
+    } else if (!window_.underPointer()) {
+        window_.releaseCapture();
+        state_.mouseInside = false;
+        window_.letMousePointer(pointerDefault);
     } else {
-        window_->setCapture();
-        if (!mouse_.mouseInside)
-            window_->letMousePointer(pointerDefault);
-        mouse_.mouseInside = true;
+        window_.setCapture();
+        if (!state_.mouseInside)
+            window_.letMousePointer(pointerDefault);
+        state_.mouseInside = true;
     }
 }
 

@@ -1,45 +1,49 @@
 /// The two timers of the mouse: one notices that it has left, one scrolls while a drag is held outside.
+#include "interaction/mouse.h"
+#include "interaction/row_drag.h"
 #include "model/list_view.h"
+#include "scroll/scroller.h"
 #include "values/rounding.h"
 
 namespace lumtex {
 
-void lmListView::tmrMouseIn_Timer() {
+void Mouse::tmrMouseIn_Timer() {
     Procedure p = procedure(u"tmrMouseIn_Timer");
-    if (designMode()) {
-        p.step([&] { tmrMouseIn->letEnabled(false); });
+    if (core_.designMode()) {
+        p.step([&] { tmrMouseIn_->letEnabled(false); });
         return;
     }
     // A child over the surface, a bar for one, counts as outside.
-    if (p.condition([&] { return window_->pointerStrictlyInside(); }, true)) {
-        mouse_.mouseInside = true;
+    if (p.condition([&] { return window_.pointerStrictlyInside(); }, true)) {
+        state_.mouseInside = true;
         return;
     }
-    mouse_.mouseInside = false;
-    p.step([&] { window_->letMousePointer(pointerDefault); });
-    Redraw();
-    p.step([&] { tmrMouseIn->letEnabled(false); });
+    state_.mouseInside = false;
+    p.step([&] { window_.letMousePointer(pointerDefault); });
+    list_.Redraw();
+    p.step([&] { tmrMouseIn_->letEnabled(false); });
 }
 
-void lmListView::tmrMouseAction_Timer() {
+void Mouse::tmrMouseAction_Timer() {
     Procedure p = procedure(u"tmrMouseAction_Timer");
-    if (designMode() || mouse_.lastMouseButton == noButton) {
-        p.step([&] { tmrMouseAction->letEnabled(false); });
-        move_.moveTargetRow = -1;
-        tmrMouseAction->Tag.clear();
+    if (core_.designMode() || state_.lastMouseButton == noButton) {
+        p.step([&] { tmrMouseAction_->letEnabled(false); });
+        core_.rowDrag->forgetTarget();
+        tmrMouseAction_->Tag.clear();
         return;
     }
-    if (tmrMouseAction->Tag == u"up" && TopIndex() >= 1) {
+    if (tmrMouseAction_->Tag == u"up" && list_.TopIndex() >= 1) {
         if (properties_.AllowItemMoving)
-            move_.moveTargetRow = TopIndex() - 1;
-        letTopIndex(TopIndex() - 1);
-    } else if (tmrMouseAction->Tag == u"down") {
+            core_.rowDrag->letTarget(list_.TopIndex() - 1);
+        list_.letTopIndex(list_.TopIndex() - 1);
+    } else if (tmrMouseAction_->Tag == u"down") {
         if (properties_.AllowItemMoving)
-            p.step([&] { move_.moveTargetRow = sumOf(TopIndex(), VisibleItems()); });
+            p.step(
+                [&] { core_.rowDrag->letTarget(sumOf(list_.TopIndex(), core_.scroller->VisibleItems())); });
         // Wanted: at the last row it keeps ticking.
-        p.step([&] { letTopIndex(sumOf(TopIndex(), 1)); });
+        p.step([&] { list_.letTopIndex(sumOf(list_.TopIndex(), 1)); });
     } else {
-        p.step([&] { tmrMouseAction->letEnabled(false); });
+        p.step([&] { tmrMouseAction_->letEnabled(false); });
     }
 }
 

@@ -1,25 +1,25 @@
 /// What a press does to the current row and to the selected rows.
-#include "model/list_view.h"
+#include "interaction/selection.h"
 
 #include <algorithm>
 
 namespace lumtex {
 
 /// `row` counts from 0. Setting the index rewrites no selection here, since a press holds that off.
-void lmListView::pressSelection(Long row, Procedure& p) {
-    if (!properties_.MultiSelect || (!selection_.ctrlDown && !selection_.shiftDown)) {
+void Selection::pressSelection(Long row, Procedure& p) {
+    if (!properties_.MultiSelect || (!state_.ctrlDown && !state_.shiftDown)) {
         NoSelected();
-        selection_.selectionAnchor = row;
+        state_.selectionAnchor = row;
         letListIndex(row);
-    } else if (selection_.ctrlDown) {
-        selection_.selectionAnchor = row;
+    } else if (state_.ctrlDown) {
+        state_.selectionAnchor = row;
         letListIndex(row);
-    } else if (selection_.selectionAnchor != -1) {
+    } else if (state_.selectionAnchor != -1) {
         NoSelected();
-        const auto [first, last] = std::minmax({selection_.selectionAnchor, row});
+        const auto [first, last] = std::minmax({state_.selectionAnchor, row});
         for (Long each = first; each <= last; ++each) {
             p.step([&] {
-                RowRecord& record = recordAt(each);
+                RowRecord& record = records_.recordAt(each);
                 if (record.Enabled)
                     record.Selected = true;
             });

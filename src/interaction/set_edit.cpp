@@ -1,10 +1,13 @@
 /// Opening the in-place editor over a cell.
+#include "interaction/cell_editor.h"
 #include "model/list_view.h"
+#include "render/painting.h"
+#include "scroll/scroller.h"
 #include "values/rounding.h"
 
 namespace lumtex {
 
-void lmListView::SetEdit(const Variant& Row, const Variant& Column) {
+void CellEditor::SetEdit(const Variant& Row, const Variant& Column) {
     Procedure p = procedure(u"SetEdit");
     edit_.editActive = true;
     p.step([&] { edit_.lastClickRow = zeroBased(Row); });
@@ -13,51 +16,53 @@ void lmListView::SetEdit(const Variant& Row, const Variant& Column) {
     dressEditor(Row, Column, p);
 
     // The scrolling above is not painted yet, so this is where the row was painted last.
-    p.step([&] { txtEdit->letTop(rowAt(Row).Top); });
-    p.step([&] { txtEdit->letHeight(rowAt(Row).Height); });
-    p.step([&] { txtEdit->letWidth(columnWidthInPixels(zeroBased(Column)) - 1); });
+    p.step([&] { txtEdit_->letTop(records_.rowAt(Row).Top); });
+    p.step([&] { txtEdit_->letHeight(records_.rowAt(Row).Height); });
+    p.step([&] { txtEdit_->letWidth(core_.painting->columnWidthInPixels(zeroBased(Column)) - 1); });
     p.step([&] {
-        const Single left = scaleX(window_->surface(), columnAt(zeroBased(Column)).Left, twips, pixels);
-        txtEdit->letLeft(static_cast<Single>(static_cast<Double>(left) - HS->Value() + 1));
+        const Single left =
+            scaleX(window_.surface(), records_.columnAt(zeroBased(Column)).Left, twips, pixels);
+        txtEdit_->letLeft(
+            static_cast<Single>(static_cast<Double>(left) - core_.scroller->horizontal().Value() + 1));
     });
 
-    if (life_.hasEnded())
+    if (core_.hasEnded())
         return;
-    p.step([&] { txtEdit->letVisible(true); });
-    p.step([&] { txtEdit->letTabStop(txtEdit->Visible()); });
-    p.step([&] { txtEdit->setFocus(); });
-    p.step([&] { txtEdit->letSelStart(0); });
-    p.step([&] { txtEdit->letSelLength(static_cast<Long>(txtEdit->Text().size())); });
+    p.step([&] { txtEdit_->letVisible(true); });
+    p.step([&] { txtEdit_->letTabStop(txtEdit_->Visible()); });
+    p.step([&] { txtEdit_->setFocus(); });
+    p.step([&] { txtEdit_->letSelStart(0); });
+    p.step([&] { txtEdit_->letSelLength(static_cast<Long>(txtEdit_->Text().size())); });
 }
 
 // Wanted: a number counted from 1 against a top row counted from 0, and the way down goes past the row.
-void lmListView::editedRowIntoView(const Variant& Row, Procedure& p) {
+void CellEditor::editedRowIntoView(const Variant& Row, Procedure& p) {
     Double row = 0;
     if (!p.step([&] { row = Row.toDouble(); }))
         return;
-    if (row < TopIndex())
-        p.step([&] { letTopIndex(roundToLong(row)); });
-    else if (row > static_cast<Double>(TopIndex()) + VisibleItems())
-        p.step([&] { letTopIndex(roundToLong(row + VisibleItems())); });
+    if (row < list_.TopIndex())
+        p.step([&] { list_.letTopIndex(roundToLong(row)); });
+    else if (row > static_cast<Double>(list_.TopIndex()) + core_.scroller->VisibleItems())
+        p.step([&] { list_.letTopIndex(roundToLong(row + core_.scroller->VisibleItems())); });
 }
 
 // Wanted: the background is not copied.
-void lmListView::dressEditor(const Variant& Row, const Variant& Column, Procedure& p) {
+void CellEditor::dressEditor(const Variant& Row, const Variant& Column, Procedure& p) {
     const auto dress = [&](auto change) {
         p.step([&] {
-            FontSpec font = txtEdit->font();
+            FontSpec font = txtEdit_->font();
             change(font);
-            txtEdit->setFont(font);
+            txtEdit_->setFont(font);
         });
     };
-    dress([&](FontSpec& font) { font.Bold = ItemFontBold(Row, Column); });
-    dress([&](FontSpec& font) { font.Italic = ItemFontItalic(Row, Column); });
-    dress([&](FontSpec& font) { font.Underline = ItemFontUnderline(Row, Column); });
-    dress([&](FontSpec& font) { font.Name = ItemFontName(Row, Column); });
-    dress([&](FontSpec& font) { font.Size = ItemFontSize(Row, Column); });
-    dress([&](FontSpec& font) { font.Strikethrough = ItemFontStrikethrough(Row, Column); });
-    p.step([&] { txtEdit->letForeColor(ItemForeColor(Row, Column)); });
-    p.step([&] { txtEdit->letText(ItemText(Row, Column)); });
+    dress([&](FontSpec& font) { font.Bold = list_.ItemFontBold(Row, Column); });
+    dress([&](FontSpec& font) { font.Italic = list_.ItemFontItalic(Row, Column); });
+    dress([&](FontSpec& font) { font.Underline = list_.ItemFontUnderline(Row, Column); });
+    dress([&](FontSpec& font) { font.Name = list_.ItemFontName(Row, Column); });
+    dress([&](FontSpec& font) { font.Size = list_.ItemFontSize(Row, Column); });
+    dress([&](FontSpec& font) { font.Strikethrough = list_.ItemFontStrikethrough(Row, Column); });
+    p.step([&] { txtEdit_->letForeColor(list_.ItemForeColor(Row, Column)); });
+    p.step([&] { txtEdit_->letText(list_.ItemText(Row, Column)); });
 }
 
 } // namespace lumtex

@@ -13,7 +13,7 @@ namespace lumtex {
 void lmListView::About() {
     Procedure p = procedure(u"About");
     p.step([&] {
-        const auto form = LumtexAbout::of(world_);
+        const auto form = LumtexAbout::of(world());
         about_ = form;
         form->Show(LumtexAbout::Mode::modal);
     });

@@ -6,31 +6,23 @@ namespace lumtex {
 void lmListView::RowsClear() {
     Procedure p = procedure(u"RowsClear");
     // Wanted: the array keeps one blank element; the flag alone tells that there are no rows.
-    p.step([&] {
-        rows_.clear();
-        rows_.emplace_back();
-        rowsAllocated_ = false;
-    });
+    p.step([&] { records.clearRows(); });
     if (ColumnsCount() >= 1) {
         p.step([&] {
             for (Long column = 0; column < ColumnsCount(); ++column)
-                columnAt(column).ItemsChecked = 0;
+                records.columnAt(column).ItemsChecked = 0;
         });
     }
     CheckForRedraw();
-    if (properties_.AutoCheckScroll)
+    if (properties.AutoCheckScroll)
         CheckScroll();
 }
 
 void lmListView::ColumnsClear() {
     Procedure p = procedure(u"ColumnsClear");
     // Wanted: rows and their cells stay as they are, with their old count of cells.
-    p.step([&] {
-        columns_.clear();
-        columns_.emplace_back();
-        columnsAllocated_ = false;
-    });
-    if (properties_.AutoCheckScroll)
+    p.step([&] { records.clearColumns(); });
+    if (properties.AutoCheckScroll)
         CheckScroll();
     CheckForRedraw();
 }

@@ -15,7 +15,7 @@ constexpr Single numberOf(bool value) {
 template <class T>
 ValueOf<T> ListViewRecords::columnGet(StringView name, const Variant& Index, T ColumnHeader::*field) {
     Procedure p = procedure(name);
-    return p.value<ValueOf<T>>([&]() -> ValueOf<T> { return columnAt(zeroBased(Index)).*field; });
+    return p.value<ValueOf<T>>([&]() -> ValueOf<T> { return records.columnAt(zeroBased(Index)).*field; });
 }
 
 template <class T, class Value>
@@ -24,7 +24,7 @@ void ListViewRecords::columnLet(StringView name,
                                 T ColumnHeader::*field,
                                 Value&& value) {
     Procedure p = procedure(name);
-    p.step([&] { columnAt(zeroBased(Index)).*field = std::forward<Value>(value); });
+    p.step([&] { records.columnAt(zeroBased(Index)).*field = std::forward<Value>(value); });
     CheckForRedraw();
 }
 

@@ -16,16 +16,7 @@ void lmListView::ColumnsAdd(const Variant& aText,
                             OLE_COLOR aForeColorHover,
                             OLE_COLOR aForeColorDown) {
     Procedure p = procedure(u"ColumnsAdd");
-    const bool grown = p.step([&] {
-        if (columnsAllocated_) {
-            columns_.emplace_back();
-        } else {
-            columns_.clear();
-            columns_.emplace_back();
-            columnsAllocated_ = true;
-        }
-        newColumnSlot_ = static_cast<Long>(columns_.size()) - 1;
-    });
+    const bool grown = p.step([&] { counters.newColumn = records.growColumns(); });
     // The statements below would go to the column before.
     if (!grown)
         return;
@@ -34,17 +25,17 @@ void lmListView::ColumnsAdd(const Variant& aText,
         p.step([&] {
             std::optional<StyleLease> style;
             // The control's own counter, not a local one, as in every walk over the rows.
-            for (paint_.scanIndex = 0; paint_.scanIndex < RowsCount(); ++paint_.scanIndex) {
+            for (counters.scanIndex = 0; counters.scanIndex < RowsCount(); ++counters.scanIndex) {
                 freshenItemStyle(style);
-                appendCell(recordAt(paint_.scanIndex).items, {}, style->handle());
+                appendCell(records.recordAt(counters.scanIndex).items, {}, style->handle());
             }
         });
     }
 
-    const Long slot = newColumnSlot_;
-    p.step([&] { columnAt(slot).Text = aText.toText(); });
+    const Long slot = counters.newColumn;
+    p.step([&] { records.columnAt(slot).Text = aText.toText(); });
     p.step([&] {
-        ColumnHeader& column = columnAt(slot);
+        ColumnHeader& column = records.columnAt(slot);
         column.Icon = std::move(aIcon);
         column.IconHover = std::move(aIconHover);
         column.IconDown = std::move(aIconDown);
@@ -59,22 +50,22 @@ void lmListView::ColumnsAdd(const Variant& aText,
     });
     p.step([&] {
         if (slot == 0) {
-            columnAt(slot).Left = 0;
+            records.columnAt(slot).Left = 0;
         } else {
-            const ColumnHeader& left = columnAt(slot - 1);
-            columnAt(slot).Left = static_cast<Single>(static_cast<Double>(left.Left) + left.Width);
+            const ColumnHeader& left = records.columnAt(slot - 1);
+            records.columnAt(slot).Left = static_cast<Single>(static_cast<Double>(left.Left) + left.Width);
         }
     });
     p.step([&] {
-        ColumnHeader& column = columnAt(slot);
+        ColumnHeader& column = records.columnAt(slot);
         column.CheckBoxes = false;
         column.ItemsChecked = 0;
         column.AdjustItemIcons = true;
-        column.ItemIconH = properties_.IconH;
-        column.ItemIconW = properties_.IconW;
+        column.ItemIconH = properties.IconH;
+        column.ItemIconW = properties.IconW;
     });
 
-    if (properties_.AutoCheckScroll)
+    if (properties.AutoCheckScroll)
         CheckScroll();
     CheckForRedraw();
 }

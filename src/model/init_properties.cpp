@@ -1,5 +1,7 @@
 /// The values of a new instance.
+#include "guards/ignoring_errors.h"
 #include "model/list_view.h"
+#include "render/painting.h"
 
 namespace lumtex {
 
@@ -20,18 +22,17 @@ bool runsInKnownProgram(const ComponentInfo& component) {
 /// A container without a font leaves that of the design.
 void lmListView::takeContainersFont() {
     ignoringErrors([&] {
-        if (const FontRef font = host_->parentFont())
+        if (const FontRef font = host().parentFont())
             lblFont->spec = font->spec;
     });
 }
 
 void lmListView::recogniseProgram() {
-    knownProgram_ = runsInKnownProgram(runtime().program().component());
-    topInset_ = knownProgram_ ? 3 : 0;
+    knownProgram = runsInKnownProgram(runtime().program().component());
 }
 
 Long lmListView::defaultJumpLines() const {
-    return knownProgram_ ? 4 : 1;
+    return knownProgram ? 4 : 1;
 }
 
 void lmListView::UserControl_InitProperties() {
@@ -39,7 +40,7 @@ void lmListView::UserControl_InitProperties() {
     takeContainersFont();
     recogniseProgram();
 
-    p.step([&] { paint_.paintBusy = true; });
+    p.step([&] { painting->hold(); });
     setDefaultItemFont(lblFont);
     letDefaultItemForeColor(0);
     letBackColor(0xFFFFFF);
@@ -80,7 +81,7 @@ void lmListView::UserControl_InitProperties() {
     letColumnDownColor(buttonFace);
     letColumnHoverColor(buttonFace);
     letRowsDynamic(true);
-    letRowHeight(scaleY(window_->surface(), defaultRowHeight, pixels, twips));
+    letRowHeight(scaleY(listWindow->surface(), defaultRowHeight, pixels, twips));
     letAutoRedraw(true);
     letScrollBackColor(buttonFace);
     letScrollArrows(0);
@@ -105,7 +106,7 @@ void lmListView::UserControl_InitProperties() {
     letOLEDragMode(0);
     letHideSelection(false);
     letAllowItemMoving(false);
-    p.step([&] { paint_.paintBusy = false; });
+    p.step([&] { painting->release(); });
 }
 
 } // namespace lumtex

@@ -121,7 +121,9 @@ bool ListViewRecords::ItemEnabled(const Variant& Row, const Variant& Column) {
 // Wanted: no repaint, so that a whole row can be switched and painted once.
 void ListViewRecords::letItemEnabled(const Variant& Row, const Variant& Column, bool enabled) {
     Procedure p = procedure(u"ItemEnabled");
-    p.step([&] { cellAt(Row, Column).item().restyle([&](CellStyle& style) { style.Enabled = enabled; }); });
+    p.step([&] {
+        records.cellAt(Row, Column).item().restyle([&](CellStyle& style) { style.Enabled = enabled; });
+    });
 }
 
 Variant ListViewRecords::ItemTag(const Variant& Row, const Variant& Column) {
@@ -133,7 +135,7 @@ Variant ListViewRecords::ItemTag(const Variant& Row, const Variant& Column) {
 void ListViewRecords::letItemTag(const Variant& Row, const Variant& Column, const Variant& tag) {
     Procedure p = procedure(u"ItemTag");
     p.step([&] {
-        const Cell cell = cellAt(Row, Column);
+        const Cell cell = records.cellAt(Row, Column);
         if (tag.isUnsupported())
             throw RuntimeError(typeMismatch);
         cell.items.letTag(cell.index, tag);

@@ -10,11 +10,12 @@ bool ListViewRecords::ItemChecked(const Variant& Row, const Variant& Column) {
 void ListViewRecords::letItemChecked(const Variant& Row, const Variant& Column, bool checked) {
     Procedure p = procedure(u"ItemChecked");
     // A cell that cannot be read counts as unchanged, so that the count stays true.
-    const bool unchanged = p.condition([&] { return cellAt(Row, Column).item().Checked() == checked; }, true);
+    const bool unchanged =
+        p.condition([&] { return records.cellAt(Row, Column).item().Checked() == checked; }, true);
     if (unchanged)
         return;
-    p.step([&] { cellAt(Row, Column).item().letChecked(checked); });
-    p.step([&] { columnAt(zeroBased(Column)).ItemsChecked += checked ? 1 : -1; });
+    p.step([&] { records.cellAt(Row, Column).item().letChecked(checked); });
+    p.step([&] { records.columnAt(zeroBased(Column)).ItemsChecked += checked ? 1 : -1; });
     CheckForRedraw();
 }
 
@@ -22,11 +23,11 @@ Long ListViewRecords::ItemsCheckedCount(Long Column) {
     Procedure p = procedure(u"ItemsCheckedCount");
     return p.value<Long>([&] {
         if (Column >= 1 && Column <= ColumnsCount())
-            return columnAt(Column - 1).ItemsChecked;
-        const Long last = upperBoundOfColumns();
+            return records.columnAt(Column - 1).ItemsChecked;
+        const Long last = records.upperBoundOfColumns();
         Long sum = 0;
         for (Long column = 0; column <= last; ++column)
-            sum += columnAt(column).ItemsChecked;
+            sum += records.columnAt(column).ItemsChecked;
         return sum;
     });
 }

@@ -1,4 +1,5 @@
 /// Controls of the host that live in cells.
+#include "guards/ignoring_errors.h"
 #include "model/item_access.h"
 #include "model/list_view.h"
 #include "platform/window_handle.h"
@@ -28,14 +29,14 @@ void lmListView::setItemObject(const Variant& Row, const Variant& Column, Object
         const std::optional<RuntimeError> failure = failureOf(body);
         if (!failure)
             return;
-        p.raise([&] { events_->ListViewError(u"ItemObject", failure->number(), failure->description()); });
+        p.raise([&] { events().ListViewError(u"ItemObject", failure->number(), failure->description()); });
         p.step([&] { throw *failure; });
     };
     if (object) {
         Long handle = 0;
         const bool hasWindow = ignoringErrors([&] { handle = windowHandleOf(object->get(u"hwnd")); });
         if (hasWindow) {
-            statement([&] { window_->adopt(handle); });
+            statement([&] { listWindow->adopt(handle); });
             statement([&] {
                 std::array<Variant, 1> position{zOrderToBack};
                 object->call(u"ZOrder", position);
@@ -43,7 +44,7 @@ void lmListView::setItemObject(const Variant& Row, const Variant& Column, Object
         }
     }
     statement([&] {
-        const Cell cell = cellAt(Row, Column);
+        const Cell cell = records.cellAt(Row, Column);
         cell.items.needExtras(cell.index).setObject(std::move(object));
     });
     CheckForRedraw();

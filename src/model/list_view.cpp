@@ -1,7 +1,15 @@
-/// Birth of the control, and what all its rooms stand on.
+/// Birth of the control, and the way from its public members to its parts.
 #include "model/list_view.h"
 
-#include "platform/queue_watch.h"
+#include "interaction/cell_editor.h"
+#include "interaction/header_gesture.h"
+#include "interaction/mouse.h"
+#include "interaction/row_drag.h"
+#include "interaction/selection.h"
+#include "render/painting.h"
+#include "scroll/scroller.h"
+#include "sortfind/finder.h"
+#include "sortfind/sorter.h"
 
 namespace lumtex {
 
@@ -11,71 +19,83 @@ namespace {
 constexpr Single designWidth = 4635;
 constexpr Single designHeight = 3900;
 
-/// Timers tick as fast as the platform lets them.
-constexpr Long timerInterval = 1; // milliseconds
-
 const FontSpec designFont{.Name = u"Verdana", .Size = 9.75F};
+
+/// Column 0 counted from 1, and no column as it is.
+constexpr Long fromOne(Long column) {
+    return column == -1 ? -1 : column + 1;
+}
 
 } // namespace
 
 lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Window* parent)
-    : ListViewLife(this, destroy), world_(world), host_(&host), events_(&events),
-      window_(world.createWindow(parent, *this)),
-      VS(std::make_unique<lmVScroll>(
-          world, *window_, ScrollBar::Events{[this] { VS_Change(); }, [this] { VS_Scroll(); }}, &life_)),
-      HS(std::make_unique<lmHScroll>(
-          world, *window_, ScrollBar::Events{[this] { HS_Change(); }, [this] { HS_Scroll(); }}, &life_)),
-      Wheel1(std::make_unique<Wheel>(
-          world,
-          *window_,
-          [this](Integer& Rotation, Integer& Keys, Single& X, Single& Y) {
-              Wheel1_WheelScroll(Rotation, Keys, X, Y);
-          },
-          &life_)),
-      txtEdit(world.createTextBox(*window_, *this)), Line1(world.createGuideLine(*window_)),
-      tmrMouseIn(world.createTimer([this] { tmrMouseIn_Timer(); })),
-      tmrMouseAction(world.createTimer([this] { tmrMouseAction_Timer(); })),
-      Picture1(world.createSurface(1, 1)) {
+    : ListViewRecords(*this, destroy, world, host, events) {
     lblFont = std::make_shared<Font>(designFont);
-    VS->UserControl_InitProperties();
-    HS->UserControl_InitProperties();
-    tmrMouseIn->letInterval(timerInterval);
-    tmrMouseAction->letInterval(timerInterval);
+    ListViewCore& core = *this;
+    core.listWindow = world.createWindow(parent, *this);
+    scroller = std::make_unique<Scroller>(core);
+    editor = std::make_unique<CellEditor>(core);
+    headerGesture = std::make_unique<HeaderGesture>(core);
+    mouse = std::make_unique<Mouse>(core);
+    rowDrag = std::make_unique<RowDrag>(core);
+    selection = std::make_unique<Selection>(core);
+    painting = std::make_unique<Painting>(core);
+    sorter = std::make_unique<Sorter>(core);
+    finder = std::make_unique<Finder>(core);
+
     // The size of the design comes before the properties, so it must not paint.
-    paint_.paintBusy = true;
-    const Surface& surface = window_->surface();
-    window_->place(
+    painting->hold();
+    const Surface& surface = core.listWindow->surface();
+    core.listWindow->place(
         0, 0, scaleX(surface, designWidth, twips, pixels), scaleY(surface, designHeight, twips, pixels));
-    paint_.paintBusy = false;
+    painting->release();
 }
 
-Procedure lmListView::procedure(StringView name) const {
-    return {runtime(), name, ModuleKind::control, u"lmListView", &life_};
+// clang-format off
+void lmListView::Redraw() { painting->Redraw(); }
+void lmListView::ClearListView() { painting->ClearListView(); }
+void lmListView::AutoColumnSize(std::span<const Variant> lColumns) { painting->AutoColumnSize(lColumns); }
+
+void lmListView::SetEdit(const Variant& Row, const Variant& Column) { editor->SetEdit(Row, Column); }
+void lmListView::StopEdit() { editor->StopEdit(); }
+WindowHandle lmListView::hwndEdit() const { return editor->hWnd(); }
+
+void lmListView::Sort(Long Column, cSortMode SortMode, cSortType SortType) { sorter->Sort(Column, SortMode, SortType); }
+Long lmListView::SortColumnIndex() const { return fromOne(sorter->sortColumn()); }
+
+void lmListView::CheckScroll() { scroller->CheckScroll(); }
+Long lmListView::TopIndex() const { return scroller->TopIndex(); }
+void lmListView::letTopIndex(Long topIndex) { scroller->letTopIndex(topIndex); }
+void lmListView::UserControl_Resize() { scroller->resize(); }
+bool lmListView::UserControl_Wheel(Long Rotation, Integer Shift, Single X, Single Y) { return scroller->wheel(Rotation, Shift, X, Y); }
+
+Long lmListView::ListIndex() { return selection->ListIndex(); }
+void lmListView::letListIndex(Long index) { selection->letListIndex(index); }
+Long lmListView::RowIndex() { return selection->RowIndex(); }
+void lmListView::letRowIndex(Long index) { selection->letRowIndex(index); }
+void lmListView::UserControl_KeyDown(Integer KeyCode, Integer Shift) { selection->keyDown(KeyCode, Shift); }
+void lmListView::UserControl_KeyUp(Integer KeyCode, Integer Shift) { selection->keyUp(KeyCode, Shift); }
+
+Long lmListView::ColumnIndex() const { return fromOne(headerGesture->currentColumn()); }
+void lmListView::UserControl_MouseDown(Integer Button, Integer Shift, Single X, Single Y) { mouse->down(Button, Shift, X, Y); }
+void lmListView::UserControl_MouseMove(Integer Button, Integer Shift, Single X, Single Y) { mouse->move(Button, Shift, X, Y); }
+void lmListView::UserControl_MouseUp(Integer Button, Integer Shift, Single X, Single Y) { mouse->up(Button, Shift, X, Y); }
+void lmListView::UserControl_DblClick() { mouse->doubleClick(); }
+// clang-format on
+
+FindResults lmListView::FindItem(
+    StringView sFind, cFindBegin cBegin, cFindCompare cCompare, StringView sColumns, StringView sRows) {
+    Procedure p = procedure(u"FindItem");
+    return p.value<FindResults>([&] {
+        String columns(sColumns);
+        String rows(sRows);
+        return FindItem(sFind, cBegin, cCompare, columns, rows);
+    });
 }
 
-/// The host's turn, in which its code may throw as in an event. A control that has ended has no more business
-/// with it.
-void lmListView::yield(Procedure& p) {
-    if (!life_.hasEnded())
-        p.raise([&] { runtime().queue().DoEvents(); });
-}
-
-/// The same for a walk that runs no code of the host between two of its yields.
-void lmListView::yield(Procedure& p, QueueWatch& watch) {
-    if (watch.eventWaits())
-        yield(p);
-}
-
-/// A host that cannot tell is taken for a running program.
-bool lmListView::designMode() const {
-    bool running = true;
-    ignoringErrors([&] { running = host_->UserMode(); });
-    return !running;
-}
-
-void lmListView::CheckForRedraw() {
-    if (properties_.AutoRedraw || designMode())
-        Redraw();
+FindResults lmListView::FindItem(
+    StringView sFind, cFindBegin cBegin, cFindCompare cCompare, String& sColumns, String& sRows) {
+    return finder->FindItem(sFind, cBegin, cCompare, sColumns, sRows);
 }
 
 } // namespace lumtex

@@ -1,20 +1,12 @@
 /// \file
-/// The control: its public members as hosts know them. The plain properties, and the accessors of columns,
-/// rows and cells, stand in its bases; `ListViewState` holds what it keeps between calls.
+/// The control: its public members as hosts know them. The properties, and the accessors of columns, rows and
+/// cells, stand in its bases; what it does stands in its parts, which `ListViewCore` names.
 #pragma once
 
-#include "bars/scroll_bar.h"
-#include "bars/wheel.h"
-#include "guards/ignoring_errors.h"
-#include "model/list_view_events.h"
-#include "model/list_view_life.h"
-#include "model/list_view_properties.h"
 #include "model/list_view_records.h"
-#include "platform/host.h"
 #include "platform/property_bag.h"
-#include "platform/world.h"
-#include "records/enumerations.h"
-#include "tips/qi.h"
+#include "platform/user_control.h"
+#include "sortfind/find_results.h"
 
 #include <initializer_list>
 #include <new>
@@ -24,7 +16,7 @@
 namespace lumtex {
 
 struct PropertyKey;
-class QueueWatch;
+class LumtexAbout;
 
 /// An owner-drawn list of rows and columns.
 ///
@@ -36,11 +28,7 @@ class QueueWatch;
 /// The world must outlive the control and its last call, the host and the event receiver the control alone.
 /// After construction the host calls exactly one of the two `UserControl_...Properties` entry points. A
 /// control that host code may end from within its calls is made by `new`.
-class lmListView final : private ListViewLife,
-                         public UserControl,
-                         public ListViewProperties,
-                         public ListViewRecords,
-                         private TextBoxClient {
+class lmListView final : public ListViewRecords, public UserControl {
   public:
     lmListView(World& world, Host& host, lmListViewEvents& events, Window* parent = nullptr);
     ~lmListView() override;
@@ -115,11 +103,9 @@ class lmListView final : private ListViewLife,
     // Counts
 
     /// The row last added by `RowsAdd`; not corrected when rows move or go.
-    Long NewIndex() const { return properties_.NewIndex; }
+    Long NewIndex() const { return properties.NewIndex; }
     /// The column under the last press or release, counted from 1; -1 for none.
-    Long ColumnIndex() const {
-        return headerPress_.currentColumn == -1 ? -1 : headerPress_.currentColumn + 1;
-    }
+    Long ColumnIndex() const;
 
     /// Makes columns as wide as the widest text that the last paint measured in them, or as their header, and
     /// 10 pixels more. Without an argument all of them; yields to the host before each.
@@ -151,7 +137,7 @@ class lmListView final : private ListViewLife,
     /// past the last does nothing, both without the event.
     void Sort(Long Column, cSortMode SortMode = {}, cSortType SortType = cSortText);
     /// The column of the last sort, from 1; -1 for none.
-    Long SortColumnIndex() const { return sort_.sortColumn == -1 ? -1 : sort_.sortColumn + 1; }
+    Long SortColumnIndex() const;
 
     // Searching
 
@@ -183,7 +169,7 @@ class lmListView final : private ListViewLife,
     // Scrolling
 
     void CheckScroll();
-    Long TopIndex() const { return VS->Value(); }
+    Long TopIndex() const;
     void letTopIndex(Long topIndex);
 
     // Rows
@@ -202,30 +188,16 @@ class lmListView final : private ListViewLife,
     /// A control of the host that is shown over the cell. One with a window becomes a child of this control.
     ObjectRef ItemObject(const Variant& Row, const Variant& Column);
     void setItemObject(const Variant& Row, const Variant& Column, ObjectRef object);
-    // Properties whose setters do more than `setterTable` can say
-
-    void setDefaultItemFont(const FontRef& font) override;
-    void letEnabled(bool value) override;
-    void letColorStyle(cColorStyle value) override;
-    void letAutoCheckScroll(bool value) override;
-    void letAutoRedraw(bool value) override;
-    void letScrollColorStyle(cScrollColorStyle value) override;
-    void setDefaultColumnFont(const FontRef& font) override;
-    void letRowsDynamic(bool value) override;
-    void letScrollButtonJumpLines(Long value) override;
-    void letTextPositionDefault(cTextPosition value) override;
-    void setSkin(PictureRef picture) override;
-    void letOLEDropMode(Long value) override;
 
     /// Shows the about box and returns once it was closed.
     void About();
 
     /// The window's number, and that of the in-place editor.
-    WindowHandle hwnd() const { return window_->hWnd(); }
-    WindowHandle hwndEdit() const { return txtEdit->hWnd(); }
+    WindowHandle hwnd() const { return ListViewCore::listWindow->hWnd(); }
+    WindowHandle hwndEdit() const;
 
     /// Where the host places and shows the control.
-    Window& window() { return *window_; }
+    Window& window() { return *listWindow; }
 
     // Platform events
 
@@ -255,13 +227,9 @@ class lmListView final : private ListViewLife,
     void UserControl_OLEStartDrag(const DragData& Data, Long& AllowedEffects) override;
 
   private:
-    friend class PaintPass;
-    friend class SortByStatements;
-    friend class CellSearch;
-    friend class ContentCells;
     friend class ListViewInspector; ///< how tests look inside
 
-    // Lifecycle (model/)
+    // Lifecycle
 
     void takeContainersFont();
     void recogniseProgram();
@@ -273,125 +241,16 @@ class lmListView final : private ListViewLife,
     void dropContent();
     static void destroy(void* list);
 
-    // Failure path
-
-    Procedure procedure(StringView name) const override;
-    Runtime& runtime() const { return world_.runtime(); }
-    void yield(Procedure& p);
-    void yield(Procedure& p, QueueWatch& watch);
-
-    // Model (model/)
+    // Records
 
     StyleHandle emptyItemStyle();
     void freshenItemStyle(std::optional<StyleLease>& style);
     void appendCell(Items& items, StringView text, StyleHandle style);
-    void growRows();
     Long placeOfNewRow(Variant& aIndex, Procedure& p);
     void removeRow(Long Index, Procedure& p);
-    void CheckForRedraw() override;
-    void CheckProperty();
-    bool designMode() const;
 
-    void propertyStored(Property property, Procedure& p) override;
-    void storeFont(Property property, Held<FontRef>& field, const FontRef& font);
-
-    // Painting (render/)
-
-    Long ColumnHeight();
-    OLE_COLOR aktValueColor() const;
-    void DrawBorder();
-    void SplitSkin();
-    void paintDesignView();
-    void fitColumn(Long column, Procedure& p);
-    Single columnWidthInPixels(Long index);
-
-    // Sorting (sortfind/)
-
-    bool anyTextInColumn(Long Column);
-    void quickSort(Long Column, cSortType SortType, cSortMode order);
-    bool sortByKeys(Long Column, cSortType SortType, cSortMode order);
-
-    // Interaction (interaction/)
-
-    struct ColumnHit {
-        Long index;   ///< 0-based
-        Single left;  ///< pixels of the surface
-        Single width; ///< pixels
-    };
-    /// Does a row's top edge belong to it?
-    enum class RowEdge : Byte { excluded, included };
-
-    std::optional<ColumnHit> columnUnder(Single X);
-    std::optional<Long> rowUnder(Single Y, RowEdge topEdge, Procedure& p);
-    std::optional<Long> rowPressed(Single Y, Procedure& p);
-    Long lastRowToScan() const;
-
-    void press(Single X, Single Y, Procedure& p);
-    void pressColumn(Single X, Single Y);
-    void pressRow(Long row, Single X, Single Y, Procedure& p);
-    void pressSelection(Long row, Procedure& p);
-    bool inCheckBoxZone(Single X, Single Y, Procedure& p);
-    void toggleCheckBox(Procedure& p);
-
-    void moveOverHeaders(Single X, Single Y, Procedure& p);
-    void drag(Single Y, std::optional<Long> row, Procedure& p);
-    void leaveItem(Procedure& p);
-
-    void endResize(Single X, Procedure& p);
-    void clickColumn(Procedure& p);
-    void endHeaderPress(Procedure& p);
-    void releaseOnRow(Long row, Procedure& p);
-
-    void tmrMouseIn_Timer();
-    void tmrMouseAction_Timer();
-    void MouseOut(Single X, Single Y);
-
-    void NoSelected(std::optional<Long> index = std::nullopt);
-    void SetNewSelected(Long index);
-    bool rowCanBeCurrent(Long row, Procedure& p);
-    void arrowDown(Long visible, Procedure& p);
-    void arrowUp(Long visible, Procedure& p);
-
-    void dragRow(Long row);
-    void dropRow();
-    void MoveItemUp(Long Row, Long Count);
-    void MoveItemDown(Long Row, Long Count);
-
-    void editedRowIntoView(const Variant& Row, Procedure& p);
-    void dressEditor(const Variant& Row, const Variant& Column, Procedure& p);
-    void textBoxKeyPress(Integer& KeyAscii) override;
-    void textBoxLostFocus() override;
-
-    // Scrolling (scroll/)
-
-    Long VisibleItems();
-    void CheckScrollPlacement();
-    void VS_Change();
-    void VS_Scroll();
-    void HS_Change();
-    void HS_Scroll();
-    void Wheel1_WheelScroll(Integer& Rotation, Integer& Keys, Single& X, Single& Y);
-    void wheelLinesDown(Procedure& p, Integer Rotation);
-    void wheelLinesUp(Procedure& p);
-    void wheelIndexDown(Procedure& p, Integer Rotation);
-    void wheelIndexUp(Procedure& p, Integer Rotation);
-    bool stopsWheel(Procedure& p, Long index);
-
-    World& world_;
-    Host* host_;
-    lmListViewEvents* events_;
-    std::unique_ptr<Window> window_;
-
-    // Children, under the names of their event handlers.
-    std::unique_ptr<lmVScroll> VS;
-    std::unique_ptr<lmHScroll> HS;
-    std::unique_ptr<Wheel> Wheel1;
-    std::unique_ptr<TextBox> txtEdit;
-    std::unique_ptr<GuideLine> Line1;
-    std::unique_ptr<Timer> tmrMouseIn;
-    std::unique_ptr<Timer> tmrMouseAction;
-    std::unique_ptr<QI> tips_;         ///< made on first need
-    std::unique_ptr<Surface> Picture1; ///< measures, so that the list's own surface keeps its font
+    Held<ObjectRef> recordset_;          ///< as it was assigned; the list has taken its records already
+    std::shared_ptr<LumtexAbout> about_; ///< the form of the world, from the first `About` on
 };
 
 } // namespace lumtex

@@ -1,5 +1,7 @@
 /// The end of the control: of what the host knows of it, and of its memory.
+#include "interaction/mouse.h"
 #include "model/list_view.h"
+#include "scroll/scroller.h"
 
 namespace lumtex {
 
@@ -8,16 +10,6 @@ namespace {
 /// So often an ending list lets go of what host code gives it while it lets go; what comes after that goes
 /// behind its members.
 constexpr int mostRounds = 16;
-
-/// Whom a list talks to that has ended.
-Host& noHost() {
-    static Host none;
-    return none;
-}
-lmListViewEvents& noEvents() {
-    static lmListViewEvents none;
-    return none;
-}
 
 } // namespace
 
@@ -34,7 +26,7 @@ void lmListView::operator delete(lmListView* list, std::destroying_delete_t /*ta
     list->end();
     // Whoever waits for the last call must not see the list meanwhile.
     if (calledFromItself)
-        list->window_->letVisible(false);
+        list->listWindow->letVisible(false);
     life.letGo();
     life.leave();
 }
@@ -46,7 +38,7 @@ void lmListView::destroy(void* list) {
 
 void lmListView::UserControl_Terminate() {
     if (!designMode())
-        Wheel1->DisableWheel();
+        scroller->stopListening();
 }
 
 /// Everything that reaches the host ends, and what is held of its goes while all members still serve. The
@@ -54,11 +46,8 @@ void lmListView::UserControl_Terminate() {
 void lmListView::end() {
     if (!life_.hasEnded()) {
         UserControl_Terminate();
-        life_.end();
-        host_ = &noHost();
-        events_ = &noEvents();
-        tmrMouseIn->letEnabled(false);
-        tmrMouseAction->letEnabled(false);
+        endForHost();
+        mouse->stopTimers();
     }
     for (int round = 0; round < mostRounds && holdsAnything(); ++round) {
         Procedure p = procedure(u"UserControl_Terminate");
@@ -67,20 +56,17 @@ void lmListView::end() {
 }
 
 bool lmListView::holdsAnything() const {
-    return !rows_.empty() || !columns_.empty() || recordset_ || properties_.BackgroundPicture ||
-           properties_.Skin || properties_.DefaultItemFont || properties_.DefaultColumnFont;
+    return records.holdsAnything() || recordset_ || properties.BackgroundPicture || properties.Skin ||
+           properties.DefaultItemFont || properties.DefaultColumnFont;
 }
 
 void lmListView::dropContent() {
-    rowsAllocated_ = false;
-    columnsAllocated_ = false;
-    std::vector<RowRecord>().swap(rows_);
-    std::vector<std::unique_ptr<ColumnHeader>>().swap(columns_);
+    records.release();
     recordset_ = nullptr;
-    properties_.BackgroundPicture = nullptr;
-    properties_.Skin = nullptr;
-    properties_.DefaultItemFont = nullptr;
-    properties_.DefaultColumnFont = nullptr;
+    properties.BackgroundPicture = nullptr;
+    properties.Skin = nullptr;
+    properties.DefaultItemFont = nullptr;
+    properties.DefaultColumnFont = nullptr;
 }
 
 } // namespace lumtex

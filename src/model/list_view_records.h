@@ -2,27 +2,20 @@
 /// The list's records, and the accessors of their fields: columns, rows, cells.
 #pragma once
 
-#include "guards/procedure.h"
-#include "model/list_view_state.h"
+#include "model/list_view_properties.h"
 #include "records/enumerations.h"
-#include "values/references/object.h"
 
 namespace lumtex {
 
-/// Reads and writes one field at a time; what follows from it is the control's business. `Row`, `Column` and
-/// `Index` count from 1. A record that is not there is reported, and a get returns its type's zero.
-class ListViewRecords : protected ListViewState {
+/// Reads and writes one field at a time. `Row`, `Column` and `Index` count from 1. A record that is not there
+/// is reported, and a get returns its type's zero.
+class ListViewRecords : public ListViewProperties {
   public:
-    ListViewRecords() = default;
-    ListViewRecords(const ListViewRecords&) = delete;
-    ListViewRecords& operator=(const ListViewRecords&) = delete;
-    virtual ~ListViewRecords() = default;
-
     // Counts
 
     Long RowSelectedCount();
-    Long RowsCount() const { return rowsAllocated_ ? static_cast<Long>(rows_.size()) : 0; }
-    Long ColumnsCount() const { return columnsAllocated_ ? static_cast<Long>(columns_.size()) : 0; }
+    Long RowsCount() const { return records.RowsCount(); }
+    Long ColumnsCount() const { return records.ColumnsCount(); }
     /// Checked cells of a column; of all columns where `Column` is out of range.
     Long ItemsCheckedCount(Long Column = 0);
 
@@ -129,21 +122,10 @@ class ListViewRecords : protected ListViewState {
     Single ItemTextWidth(const Variant& Row, const Variant& Column);
 
   protected:
-    virtual Procedure procedure(StringView name) const = 0;
-    virtual void CheckForRedraw() = 0;
+    using ListViewProperties::ListViewProperties;
+    using Cell = ListRecords::Cell;
 
     bool ArrDim(const Variant& which) const;
-    ColumnHeader& columnAt(Long index);
-    RowRecord& recordAt(Long position);
-    RowRecord& rowAt(const Variant& Index);
-    Long upperBoundOfRows() const;
-    Long upperBoundOfColumns() const;
-    struct Cell {
-        Items& items;
-        std::size_t index;
-        ListViewItem& item() const { return items[index]; }
-    };
-    Cell cellAt(const Variant& Row, const Variant& Column);
 
     template <class T>
     ValueOf<T> columnGet(StringView name, const Variant& Index, T ColumnHeader::*field);

@@ -1,16 +1,17 @@
 /// Removing rows, and the entry for columns.
 #include "model/list_view.h"
 #include "platform/queue_watch.h"
+#include "render/painting.h"
 
 namespace lumtex {
 
 void lmListView::RowsRemove(Variant& Index) {
-    if (!rowsAllocated_)
+    if (!records.hasRows())
         return;
     Procedure p = procedure(u"RowsRemove");
     // A place that cannot be understood counts as out of range, which is neither reported nor told.
     const bool outOfRange = p.condition(
-        [&] { return Index.toDouble() < 1 || Index.toDouble() > upperBoundOfRows() + 1.0; }, true);
+        [&] { return Index.toDouble() < 1 || Index.toDouble() > records.upperBoundOfRows() + 1.0; }, true);
     if (!outOfRange) {
         Long row = 0;
         if (p.step([&] { row = Index.toLong(); })) {
@@ -20,27 +21,27 @@ void lmListView::RowsRemove(Variant& Index) {
         }
     }
     // Wanted: the scroll check comes after the repaint, and for a place out of range too.
-    if (properties_.AutoCheckScroll)
+    if (properties.AutoCheckScroll)
         CheckScroll();
 }
 
 /// `Index` counts from 1 and is in range.
 void lmListView::removeRow(Long Index, Procedure& p) {
-    for (std::size_t column = 0; column < columns_.size(); ++column) {
+    for (std::size_t column = 0; column < records.columnSlots(); ++column) {
         const Long slot = static_cast<Long>(column);
         if (ItemChecked(Index, slot + 1))
-            p.step([&] { --columnAt(slot).ItemsChecked; });
+            p.step([&] { --records.columnAt(slot).ItemsChecked; });
     }
-    const Long last = upperBoundOfRows();
+    const Long last = records.upperBoundOfRows();
     // While nothing waits for the host, nobody sees whether a record is copied or, much faster, moved; the
     // last one moved leaves an empty record, which goes below.
     QueueWatch watch(runtime().queue());
-    RowRecord* const records = rows_.data();
+    const std::span<RowRecord> rows = records.rows();
     Long row = Index;
     for (; row <= last && !watch.eventWaits(); ++row)
-        records[row - 1] = std::move(records[row]);
+        rows[static_cast<std::size_t>(row) - 1] = std::move(rows[static_cast<std::size_t>(row)]);
     for (; row <= last; ++row) {
-        if (!p.step([&] { recordAt(row - 1) = recordAt(row); }))
+        if (!p.step([&] { records.recordAt(row - 1) = records.recordAt(row); }))
             watch.hostRan();
         // Wanted: the host gets its turn after each row, and sees the row behind the gap twice.
         yield(p, watch);
@@ -49,16 +50,16 @@ void lmListView::removeRow(Long Index, Procedure& p) {
     if (RowsCount() < 2)
         RowsClear();
     else
-        rows_.pop_back();
+        records.dropLastRow();
 }
 
 void lmListView::RowsSelectedRemove() {
     Procedure p = procedure(u"RowsSelectedRemove");
-    const bool autoCheckScroll = properties_.AutoCheckScroll;
-    const bool autoRedraw = properties_.AutoRedraw;
-    properties_.AutoCheckScroll = false;
-    properties_.AutoRedraw = false;
-    paint_.paintBusy = true;
+    const bool autoCheckScroll = properties.AutoCheckScroll;
+    const bool autoRedraw = properties.AutoRedraw;
+    properties.AutoCheckScroll = false;
+    properties.AutoRedraw = false;
+    painting->hold();
     Long row = 1;
     // Wanted: the first row is looked at before the count, so a list that never had rows reports its absence.
     do {
@@ -67,19 +68,19 @@ void lmListView::RowsSelectedRemove() {
         else
             ++row;
     } while (row <= RowsCount());
-    properties_.AutoCheckScroll = autoCheckScroll;
-    properties_.AutoRedraw = autoRedraw;
-    paint_.paintBusy = false;
+    properties.AutoCheckScroll = autoCheckScroll;
+    properties.AutoRedraw = autoRedraw;
+    painting->release();
     CheckScroll();
     Redraw();
 }
 
 void lmListView::ColumnsRemove(const Variant& /*Index*/) {
-    if (!columnsAllocated_)
+    if (!records.hasColumns())
         return;
     Procedure p = procedure(u"ColumnsRemove");
     // Wanted: every index is a wrong one once there are columns, so no column ever goes.
-    if (properties_.AutoCheckScroll)
+    if (properties.AutoCheckScroll)
         CheckScroll();
     CheckForRedraw();
 }

@@ -1,18 +1,19 @@
 /// Reading and writing one field of one row.
 #include "model/list_view.h"
+#include "scroll/scroller.h"
 
 namespace lumtex {
 
 template <class T>
 T ListViewRecords::rowGet(StringView name, const Variant& Index, T RowRecord::*field) {
     Procedure p = procedure(name);
-    return p.value<T>([&] { return rowAt(Index).*field; });
+    return p.value<T>([&] { return records.rowAt(Index).*field; });
 }
 
 template <class T>
 void ListViewRecords::rowLet(StringView name, const Variant& Index, T RowRecord::*field, T value) {
     Procedure p = procedure(name);
-    p.step([&] { rowAt(Index).*field = value; });
+    p.step([&] { records.rowAt(Index).*field = value; });
     CheckForRedraw();
 }
 
@@ -22,7 +23,7 @@ bool ListViewRecords::RowEnabled(const Variant& Index) {
 
 void ListViewRecords::letRowEnabled(const Variant& Index, bool enabled) {
     Procedure p = procedure(u"RowEnabled");
-    p.step([&] { rowAt(Index).Enabled = enabled; });
+    p.step([&] { records.rowAt(Index).Enabled = enabled; });
     for (Long column = 1; column <= ColumnsCount(); ++column)
         letItemEnabled(Index, column, enabled);
     CheckForRedraw();
@@ -50,17 +51,17 @@ bool lmListView::RowSelected(const Variant& Index) {
 
 void lmListView::letRowSelected(const Variant& Index, bool selected) {
     Procedure p = procedure(u"RowSelected");
-    if (!properties_.MultiSelect) {
+    if (!properties.MultiSelect) {
         p.step([&] {
-            const Long last = upperBoundOfRows();
+            const Long last = records.upperBoundOfRows();
             for (Long row = 0; row <= last; ++row)
-                recordAt(row).Selected = false;
+                records.recordAt(row).Selected = false;
         });
     }
-    p.step([&] { rowAt(Index).Selected = selected; });
+    p.step([&] { records.rowAt(Index).Selected = selected; });
     if (selected) {
-        const Long top = VS->Value();
-        const Long visible = VisibleItems();
+        const Long top = scroller->vertical().Value();
+        const Long visible = scroller->VisibleItems();
         const bool outOfView = p.condition(
             [&] {
                 const Double row = Index.toDouble();
@@ -77,10 +78,10 @@ void lmListView::letRowSelected(const Variant& Index, bool selected) {
 Long ListViewRecords::RowSelectedCount() {
     Procedure p = procedure(u"RowSelectedCount");
     return p.value<Long>([&] {
-        const Long last = upperBoundOfRows();
+        const Long last = records.upperBoundOfRows();
         Long count = 0;
         for (Long row = 0; row <= last; ++row)
-            count += recordAt(row).Selected ? 1 : 0;
+            count += records.recordAt(row).Selected ? 1 : 0;
         return count;
     });
 }

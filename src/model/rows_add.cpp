@@ -2,8 +2,6 @@
 #include "drawing/font_attributes.h"
 #include "model/list_view.h"
 
-#include <algorithm>
-
 namespace lumtex {
 
 namespace {
@@ -38,9 +36,9 @@ class Pieces {
 StyleHandle lmListView::emptyItemStyle() {
     Procedure p = procedure(u"EmptyItem");
     CellStyle style;
-    style.ForeColor = properties_.DefaultItemForeColor;
+    style.ForeColor = properties.DefaultItemForeColor;
     readFontAttributes(
-        properties_.DefaultItemFont,
+        properties.DefaultItemFont,
         [&](auto attribute) { return p.step(attribute); },
         [&](const FontSpec& font) { style.font = font; });
     return CellStyles::ofThread().acquire(style);
@@ -49,7 +47,7 @@ StyleHandle lmListView::emptyItemStyle() {
 /// Readies `style` for the next new cell. As long as nothing fails all cells of a walk share one.
 void lmListView::freshenItemStyle(std::optional<StyleLease>& style) {
     // Without a font every cell has its own failures, and the host may change the defaults at each.
-    if (!style || !properties_.DefaultItemFont)
+    if (!style || !properties.DefaultItemFont)
         style.emplace(emptyItemStyle());
 }
 
@@ -58,24 +56,17 @@ void lmListView::appendCell(Items& items, StringView text, StyleHandle style) {
     items.append(std::move(compact), style);
 }
 
-void lmListView::growRows() {
-    if (!rowsAllocated_)
-        rows_.clear();
-    rows_.emplace_back();
-    rowsAllocated_ = true;
-}
-
 /// Where the row goes that stands last now; a place out of range becomes that of the last row, for the caller
 /// too.
 Long lmListView::placeOfNewRow(Variant& aIndex, Procedure& p) {
     // A place that cannot be understood counts as out of range.
-    const bool outOfRange =
-        p.condition([&] { return aIndex.toDouble() < 0 || aIndex.toDouble() > upperBoundOfRows(); }, true);
+    const bool outOfRange = p.condition(
+        [&] { return aIndex.toDouble() < 0 || aIndex.toDouble() > records.upperBoundOfRows(); }, true);
     if (outOfRange)
-        p.step([&] { writeBack(aIndex, upperBoundOfRows()); });
+        p.step([&] { writeBack(aIndex, records.upperBoundOfRows()); });
     Long place = 0;
     if (!p.step([&] { place = aIndex.toLong(); }))
-        p.step([&] { place = upperBoundOfRows(); });
+        p.step([&] { place = records.upperBoundOfRows(); });
     return place;
 }
 
@@ -83,17 +74,17 @@ void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<Strin
     if (ColumnsCount() == 0)
         return;
     Procedure p = procedure(u"RowsAdd");
-    const bool grown = p.step([&] { growRows(); });
+    const bool grown = p.step([&] { records.growRows(); });
     if (!grown)
         return;
 
     p.step([&] {
         const Long columns = ColumnsCount();
         Items cells = Items::create(static_cast<std::size_t>(columns));
-        rows_.back().items = cells;
+        records.rows().back().items = cells;
         std::optional<StyleLease> style;
         Pieces pieces(aItemTexts.value_or(StringView{}), aSplit);
-        for (paint_.scanIndex = 1; paint_.scanIndex <= columns; ++paint_.scanIndex) {
+        for (counters.scanIndex = 1; counters.scanIndex <= columns; ++counters.scanIndex) {
             freshenItemStyle(style);
             appendCell(cells, pieces.next(), style->handle());
         }
@@ -102,22 +93,19 @@ void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<Strin
     const Long place = placeOfNewRow(aIndex, p);
     // A report above may have let host code take rows away, the new one among them.
     const bool placed = p.step([&] {
-        RowRecord row = std::move(recordAt(upperBoundOfRows()));
-        if (place < 0 || place > upperBoundOfRows()) {
-            rows_.back() = std::move(row);
+        if (place < 0 || place > records.upperBoundOfRows())
             throw RuntimeError(subscriptOutOfRange);
-        }
-        std::move_backward(rows_.begin() + place, rows_.end() - 1, rows_.end());
+        records.placeLastRow(place);
+        RowRecord& row = records.recordAt(place);
         row.Enabled = true;
         row.Selected = false;
         row.Checked = false;
-        row.TextPosition = properties_.TextPositionDefault;
-        rows_[static_cast<std::size_t>(place)] = std::move(row);
+        row.TextPosition = properties.TextPositionDefault;
     });
     if (placed)
-        properties_.NewIndex = place;
+        properties.NewIndex = place;
 
-    if (properties_.AutoCheckScroll)
+    if (properties.AutoCheckScroll)
         CheckScroll();
     CheckForRedraw();
 }

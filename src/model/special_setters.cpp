@@ -1,106 +1,108 @@
 /// The setters with more to them than `setterTable` can say.
 #include "drawing/clone_font.h"
-#include "model/list_view.h"
+#include "model/list_view_properties.h"
+#include "render/painting.h"
+#include "scroll/scroller.h"
 
 namespace lumtex {
 
-void lmListView::letEnabled(bool value) {
+void ListViewProperties::letEnabled(bool value) {
     Procedure p = procedure(u"Enabled");
-    p.step([&] { properties_.Enabled = value; });
-    p.step([&] { window_->letEnabled(value); });
-    p.step([&] { VS->letEnabled(value); });
-    p.step([&] { HS->letEnabled(value); });
-    p.step([&] { host_->PropertyChanged(u"Enabled"); });
-    Redraw();
+    p.step([&] { properties.Enabled = value; });
+    p.step([&] { listWindow->letEnabled(value); });
+    p.step([&] { scroller->vertical().letEnabled(value); });
+    p.step([&] { scroller->horizontal().letEnabled(value); });
+    p.step([&] { host().PropertyChanged(u"Enabled"); });
+    painting->Redraw();
 }
 
-void lmListView::letColorStyle(cColorStyle value) {
+void ListViewProperties::letColorStyle(cColorStyle value) {
     Procedure p = procedure(u"ColorStyle");
-    p.step([&] { properties_.ColorStyle = value; });
+    p.step([&] { properties.ColorStyle = value; });
     // A scheme carries the bars along; the custom style leaves them as they are.
     if (value != cCustom)
         letScrollColorStyle(static_cast<cScrollColorStyle>(value));
-    p.step([&] { host_->PropertyChanged(u"ColorStyle"); });
+    p.step([&] { host().PropertyChanged(u"ColorStyle"); });
     CheckForRedraw();
 }
 
-void lmListView::letScrollColorStyle(cScrollColorStyle value) {
+void ListViewProperties::letScrollColorStyle(cScrollColorStyle value) {
     Procedure p = procedure(u"ScrollColorStyle");
-    p.step([&] { properties_.ScrollColorStyle = value; });
-    p.step([&] { VS->letColorStyle(value); });
-    p.step([&] { HS->letColorStyle(value); });
-    p.step([&] { host_->PropertyChanged(u"ScrollColorStyle"); });
+    p.step([&] { properties.ScrollColorStyle = value; });
+    p.step([&] { scroller->vertical().letColorStyle(value); });
+    p.step([&] { scroller->horizontal().letColorStyle(value); });
+    p.step([&] { host().PropertyChanged(u"ScrollColorStyle"); });
 }
 
-void lmListView::letScrollButtonJumpLines(Long value) {
+void ListViewProperties::letScrollButtonJumpLines(Long value) {
     // Wanted: a value below 1 is dropped silently.
     if (value < 1)
         return;
     Procedure p = procedure(u"ScrollButtonJumpLines");
-    p.step([&] { properties_.ScrollButtonJumpLines = value; });
-    p.step([&] { VS->letScrollButtonJumpLines(value); });
-    p.step([&] { host_->PropertyChanged(u"ScrollButtonJumpLines"); });
+    p.step([&] { properties.ScrollButtonJumpLines = value; });
+    p.step([&] { scroller->vertical().letScrollButtonJumpLines(value); });
+    p.step([&] { host().PropertyChanged(u"ScrollButtonJumpLines"); });
 }
 
-void lmListView::letAutoCheckScroll(bool value) {
+void ListViewProperties::letAutoCheckScroll(bool value) {
     Procedure p = procedure(u"AutoCheckScroll");
-    p.step([&] { properties_.AutoCheckScroll = value; });
+    p.step([&] { properties.AutoCheckScroll = value; });
     if (value)
-        CheckScroll();
-    p.step([&] { host_->PropertyChanged(u"AutoCheckScroll"); });
+        scroller->CheckScroll();
+    p.step([&] { host().PropertyChanged(u"AutoCheckScroll"); });
 }
 
-void lmListView::letAutoRedraw(bool value) {
+void ListViewProperties::letAutoRedraw(bool value) {
     Procedure p = procedure(u"AutoRedraw");
-    p.step([&] { properties_.AutoRedraw = value; });
+    p.step([&] { properties.AutoRedraw = value; });
     if (value)
-        Redraw();
-    p.step([&] { host_->PropertyChanged(u"AutoRedraw"); });
+        painting->Redraw();
+    p.step([&] { host().PropertyChanged(u"AutoRedraw"); });
 }
 
-void lmListView::letRowsDynamic(bool value) {
+void ListViewProperties::letRowsDynamic(bool value) {
     Procedure p = procedure(u"RowsDynamic");
-    p.step([&] { properties_.RowsDynamic = value; });
-    p.step([&] { host_->PropertyChanged(u"RowsDynamic"); });
-    if (properties_.AutoCheckScroll)
-        CheckScroll();
+    p.step([&] { properties.RowsDynamic = value; });
+    p.step([&] { host().PropertyChanged(u"RowsDynamic"); });
+    if (properties.AutoCheckScroll)
+        scroller->CheckScroll();
     CheckForRedraw();
 }
 
-void lmListView::storeFont(Property property, Held<FontRef>& field, const FontRef& font) {
+void ListViewProperties::storeFont(Property property, Held<FontRef>& field, const FontRef& font) {
     const StringView name = setterOf(property).name;
     Procedure p = procedure(name);
     p.step([&] { field = CloneFont(font); });
-    p.step([&] { host_->PropertyChanged(name); });
+    p.step([&] { host().PropertyChanged(name); });
     CheckForRedraw();
 }
 
-void lmListView::setDefaultItemFont(const FontRef& font) {
-    storeFont(Property::DefaultItemFont, properties_.DefaultItemFont, font);
+void ListViewProperties::setDefaultItemFont(const FontRef& font) {
+    storeFont(Property::DefaultItemFont, properties.DefaultItemFont, font);
 }
 
-void lmListView::setDefaultColumnFont(const FontRef& font) {
-    storeFont(Property::DefaultColumnFont, properties_.DefaultColumnFont, font);
+void ListViewProperties::setDefaultColumnFont(const FontRef& font) {
+    storeFont(Property::DefaultColumnFont, properties.DefaultColumnFont, font);
 }
 
-void lmListView::setSkin(PictureRef picture) {
+void ListViewProperties::setSkin(PictureRef picture) {
     Procedure p = procedure(u"Skin");
-    p.step([&] { properties_.Skin = std::move(picture); });
-    SplitSkin();
-    Redraw();
-    p.step([&] { host_->PropertyChanged(u"Skin"); });
+    p.step([&] { properties.Skin = std::move(picture); });
+    painting->SplitSkin();
+    painting->Redraw();
+    p.step([&] { host().PropertyChanged(u"Skin"); });
 }
 
-void lmListView::letOLEDropMode(Long value) {
+void ListViewProperties::letOLEDropMode(Long value) {
     Procedure p = procedure(u"OLEDropMode");
-    p.step([&] { properties_.OLEDropMode = value; });
-    p.step([&] { window_->letOLEDropMode(value); });
-    p.step([&] { host_->PropertyChanged(u"OLEDropMode"); });
+    p.step([&] { properties.OLEDropMode = value; });
+    p.step([&] { listWindow->letOLEDropMode(value); });
+    p.step([&] { host().PropertyChanged(u"OLEDropMode"); });
 }
 
-void lmListView::letTextPositionDefault(cTextPosition value) {
+void ListViewProperties::letTextPositionDefault(cTextPosition value) {
     Procedure p = procedure(u"TextPositionDefault");
-    p.step([&] { properties_.TextPositionDefault = value; });
+    p.step([&] { properties.TextPositionDefault = value; });
     // Wanted: the one setter that does not tell the host.
     CheckForRedraw();
 }

@@ -1,20 +1,18 @@
-/// The two public tests of an index, and the bounds they ask for.
+/// The two public tests of an index, and the one of an array that they ask for.
 #include "model/list_view.h"
-#include "values/runtime_error.h"
 
 namespace lumtex {
 
-/// Throws 9 while the array does not exist.
-Long ListViewRecords::upperBoundOfRows() const {
-    if (rows_.empty())
-        throw RuntimeError(subscriptOutOfRange);
-    return static_cast<Long>(rows_.size()) - 1;
-}
-
-Long ListViewRecords::upperBoundOfColumns() const {
-    if (columns_.empty())
-        throw RuntimeError(subscriptOutOfRange);
-    return static_cast<Long>(columns_.size()) - 1;
+bool ListViewRecords::ArrDim(const Variant& which) const {
+    Procedure p = procedure(u"ArrDim");
+    return p.value<bool>([&] {
+        const Double array = which.toDouble();
+        if (array == 0)
+            return records.rowsExist();
+        if (array == 1)
+            return records.columnsExist();
+        return false;
+    });
 }
 
 // Wanted: every index is wrong as soon as the array exists, and without one the test itself fails.
@@ -23,7 +21,7 @@ bool lmListView::WrongIndex(const Variant& Index) {
     return p.value<bool>([&] {
         if (!Index.isNumeric() || ArrDim(Long{0}))
             return true;
-        const Long last = upperBoundOfRows();
+        const Long last = records.upperBoundOfRows();
         return Index.toDouble() < 0 || Index.toDouble() > last;
     });
 }
@@ -34,7 +32,7 @@ bool lmListView::WrongColumnIndex(const Variant& Index) {
     return p.value<bool>([&] {
         if (!Index.isNumeric() || ArrDim(Long{1}))
             return true;
-        const Long last = upperBoundOfColumns();
+        const Long last = records.upperBoundOfColumns();
         return Index.toDouble() < 1 || Index.toDouble() > last + 1.0;
     });
 }

@@ -5,7 +5,9 @@
 #include "records/enumerations.h"
 #include "records/row_record.h"
 
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace lumtex {
@@ -15,7 +17,7 @@ namespace lumtex {
 ///
 /// None if that sort would report anything and `silent` is False: then the host's code may run in
 /// the middle, and only the statements themselves do what is due. Throws std::bad_alloc.
-std::optional<std::vector<std::uint32_t>> orderByKeys(
-    const std::vector<RowRecord>& rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
+std::optional<std::vector<std::uint32_t>>
+orderByKeys(std::span<const RowRecord> rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
 
 } // namespace lumtex

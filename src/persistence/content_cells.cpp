@@ -3,12 +3,12 @@
 namespace lumtex {
 
 std::optional<CellStyle> ContentCells::plainStyle() const {
-    const FontRef font = list_.DefaultItemFont();
+    const FontRef font = core_.properties.DefaultItemFont;
     if (!font)
         return std::nullopt;
     CellStyle style;
     style.ForeColor = black;
-    style.AllowEdit = list_.AllowEdit();
+    style.AllowEdit = core_.properties.AllowEdit;
     style.font = font->spec;
     return style;
 }

@@ -131,10 +131,10 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
     const bool exists = p.condition([&] { return FileExists(runtime().files(), sFilename); }, false);
     if (!exists)
         return false;
-    const bool autoRedraw = properties_.AutoRedraw;
-    const bool autoCheckScroll = properties_.AutoCheckScroll;
-    properties_.AutoRedraw = false;
-    properties_.AutoCheckScroll = false;
+    const bool autoRedraw = properties.AutoRedraw;
+    const bool autoCheckScroll = properties.AutoCheckScroll;
+    properties.AutoRedraw = false;
+    properties.AutoCheckScroll = false;
 
     ContentReader file(runtime());
     p.step([&] { file.open(sFilename); });
@@ -176,8 +176,8 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
         }
     }
     file.close();
-    properties_.AutoRedraw = autoRedraw;
-    properties_.AutoCheckScroll = autoCheckScroll;
+    properties.AutoRedraw = autoRedraw;
+    properties.AutoCheckScroll = autoCheckScroll;
     CheckScroll();
     Redraw();
     return true;

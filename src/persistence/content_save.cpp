@@ -96,13 +96,13 @@ bool lmListView::ContentSave(StringView sFilename, bool bSaveItemProperties) {
         WholeRecordSaving fast(*this, runtime().locale(), file, bSaveItemProperties);
         const Long columns = ColumnsCount();
         const Long rows = RowsCount();
-        for (content_.saveColumn = 1; content_.saveColumn <= columns; ++content_.saveColumn) {
-            for (content_.saveRow = 1; content_.saveRow <= rows; ++content_.saveRow) {
-                if (fast.write(content_.saveRow, content_.saveColumn))
+        for (counters.saveColumn = 1; counters.saveColumn <= columns; ++counters.saveColumn) {
+            for (counters.saveRow = 1; counters.saveRow <= rows; ++counters.saveRow) {
+                if (fast.write(counters.saveRow, counters.saveColumn))
                     continue;
-                saving.writeText(content_.saveRow, content_.saveColumn);
+                saving.writeText(counters.saveRow, counters.saveColumn);
                 if (bSaveItemProperties)
-                    saving.writeProperties(content_.saveRow, content_.saveColumn);
+                    saving.writeProperties(counters.saveRow, counters.saveColumn);
             }
         }
     }

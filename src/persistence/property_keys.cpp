@@ -17,7 +17,7 @@ PropertyKey bagKey(StringView name, Variant byDefault) {
 } // namespace
 
 std::vector<PropertyKey> lmListView::propertyKeys() const {
-    const Single rowHeight = scaleY(window_->surface(), defaultRowHeight, pixels, twips);
+    const Single rowHeight = scaleY(listWindow->surface(), defaultRowHeight, pixels, twips);
     // clang-format off
     return {
         bagKey<&lmListView::DefaultItemFont, &lmListView::setDefaultItemFont>(u"DefaultItemFont", lblFont),

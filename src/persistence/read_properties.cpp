@@ -1,5 +1,12 @@
 /// Bringing saved settings back.
+#include "interaction/cell_editor.h"
+#include "interaction/mouse.h"
+#include "interaction/row_drag.h"
+#include "interaction/selection.h"
 #include "persistence/property_keys.h"
+#include "render/painting.h"
+#include "scroll/scroller.h"
+#include "sortfind/sorter.h"
 
 namespace lumtex {
 
@@ -9,29 +16,24 @@ void lmListView::UserControl_ReadProperties(const PropertyBag& bag) {
     recogniseProgram();
     std::vector<PropertyKey> keys;
     p.step([&] { keys = propertyKeys(); });
-    p.step([&] { paint_.paintBusy = true; });
+    p.step([&] { painting->hold(); });
     // A value that cannot be used is reported, and reading goes on with the next key.
     for (const PropertyKey& key : keys)
         p.step([&] { key.let(*this, bag.ReadProperty(key.name, key.byDefault)); });
-    p.step([&] { paint_.paintBusy = false; });
+    p.step([&] { painting->release(); });
 
     RowsClear();
     ColumnsClear();
     letListIndex(-1);
-    selection_.selectionAnchor = -1;
-    headerPress_.pressedColumn = -1;
-    headerPress_.hoverColumn = -1;
-    sort_.sortColumn = -1;
-    sort_.sortAscending = 1;
-    selection_.selectOnIndexSet = true;
-    edit_.lastClickColumn = -1;
-    move_.moveTargetRow = -1;
-    p.step([&] { tmrMouseIn->letEnabled(false); });
-    p.step([&] { tmrMouseAction->letEnabled(false); });
-    if (!designMode()) {
-        p.step([&] { Wheel1->lethWndCapture(hwnd()); });
-        p.step([&] { Wheel1->EnableWheel(); });
-    }
+    selection->forgetAnchor();
+    headerGesture->forgetColumns();
+    sorter->forgetSort();
+    selection->endPress();
+    editor->letLastClickColumn(-1);
+    rowDrag->forgetTarget();
+    mouse->stopTimers(p);
+    if (!designMode())
+        scroller->listen(p);
     Redraw();
 }
 

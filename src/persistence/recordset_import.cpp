@@ -49,22 +49,22 @@ void lmListView::setRecordset(ObjectRef recordset) {
 
     const Long columns = p.value<Long>([&] { return members.fieldCount(); });
     // By the counter that all long loops share.
-    countShared(paint_.scanIndex, 0, columns - 1, [&] {
-        p.step([&] { ColumnsAdd(members.fieldName(paint_.scanIndex)); });
+    countShared(counters.scanIndex, 0, columns - 1, [&] {
+        p.step([&] { ColumnsAdd(members.fieldName(counters.scanIndex)); });
         return true;
     });
 
     p.step([&] { members.moveFirst(); });
-    RecordSource& records = members.records();
+    RecordSource& source = members.records();
     String line;
     int refusals = 0;
     // Wanted: the end is asked for after the move alone, so that the first record is always taken.
     do {
-        joinFields(records, line, p, paint_.scanIndex);
+        joinFields(source, line, p, counters.scanIndex);
         RowsAdd(Long{-1}, u",", line);
-        refusals = p.step([&] { records.moveNext(); }) ? 0 : refusals + 1;
+        refusals = p.step([&] { source.moveNext(); }) ? 0 : refusals + 1;
         // An end that cannot be asked for has come.
-    } while (!p.condition([&] { return records.atEnd(); }, true) && refusals < mostRefusals);
+    } while (!p.condition([&] { return source.atEnd(); }, true) && refusals < mostRefusals);
 
     letAutoRedraw(redraws);
     letAutoCheckScroll(checksScroll);

@@ -17,8 +17,8 @@ enum class RecordForm : Byte { textAlone, dropProperties, readProperties };
 /// are silenced, a record behind the file's end is all zeros, and one for a missing cell is read over.
 class WholeRecordLoading {
   public:
-    WholeRecordLoading(lmListView& list, const SystemLocale& locale, ContentReader& file, RecordForm form)
-        : cells_(list), locale_(locale), file_(file), form_(form) {}
+    WholeRecordLoading(ListViewCore& core, const SystemLocale& locale, ContentReader& file, RecordForm form)
+        : cells_(core), locale_(locale), file_(file), form_(form) {}
 
     /// False, with nothing read, for a record that has to be read value by value: one that is cut off or
     /// damaged, one with a picture to load, one longer than the reader's buffer, one for a cell that is shown

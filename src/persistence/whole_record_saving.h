@@ -12,8 +12,8 @@ namespace lumtex {
 /// Writes what the accessors would give, for cells whose values all have a form in the file.
 class WholeRecordSaving {
   public:
-    WholeRecordSaving(lmListView& list, const SystemLocale& locale, ContentWriter& file, bool withProperties)
-        : cells_(list), locale_(locale), file_(file), withProperties_(withProperties) {}
+    WholeRecordSaving(ListViewCore& core, const SystemLocale& locale, ContentWriter& file, bool withProperties)
+        : cells_(core), locale_(locale), file_(file), withProperties_(withProperties) {}
 
     /// False, with nothing written, for a cell that has to be written value by value: one that is missing,
     /// one with a picture or a value that could fail, and where the file has to be written or would fail.

@@ -1,6 +1,7 @@
 /// Fitting columns to their texts.
 #include "guards/ignoring_errors.h"
 #include "model/list_view.h"
+#include "render/painting.h"
 
 #include <algorithm>
 
@@ -21,14 +22,14 @@ String columnSpec(std::span<const Variant> lColumns) {
 
 } // namespace
 
-void lmListView::AutoColumnSize(std::span<const Variant> lColumns) {
-    if (ColumnsCount() == 0)
+void Painting::AutoColumnSize(std::span<const Variant> lColumns) {
+    if (records_.ColumnsCount() == 0)
         return;
     Procedure p = procedure(u"AutoColumnSize");
     const String spec = columnSpec(lColumns);
-    const Long columns = ColumnsCount();
+    const Long columns = records_.ColumnsCount();
     for (Long column = 0; column < columns; ++column) {
-        yield(p);
+        core_.yield(p);
         // Wanted: the number is looked for as a text, so that 12 fits column 2 too.
         const bool meant = p.condition(
             [&] { return spec.empty() || spec.find(Variant(column + 1).toText() + u",") != String::npos; },
@@ -40,17 +41,17 @@ void lmListView::AutoColumnSize(std::span<const Variant> lColumns) {
     Redraw();
 }
 
-void lmListView::fitColumn(Long column, Procedure& p) {
+void Painting::fitColumn(Long column, Procedure& p) {
     Single widest = 0;
-    for (Long row = 1; row <= RowsCount(); ++row)
-        widest = std::max(widest, ItemTextWidth(row, column + 1));
+    for (Long row = 1; row <= records_.RowsCount(); ++row)
+        widest = std::max(widest, list_.ItemTextWidth(row, column + 1));
     Single header = 0;
-    p.step([&] { header = window_->surface().textWidth(columnAt(column).Text); });
+    p.step([&] { header = window_.surface().textWidth(records_.columnAt(column).Text); });
     // Wanted: the header wins already where its text is less than the margin narrower.
     if (header + margin > widest)
         widest = header;
     widest += margin;
-    p.step([&] { columnAt(column).Width = scaleX(window_->surface(), widest, pixels, twips); });
+    p.step([&] { records_.columnAt(column).Width = scaleX(window_.surface(), widest, pixels, twips); });
 }
 
 } // namespace lumtex

@@ -1,16 +1,17 @@
 /// The frame, and the selection colour that goes with it.
 #include "drawing/palette.h"
-#include "model/list_view.h"
+#include "guards/ignoring_errors.h"
+#include "render/painting.h"
 
 namespace lumtex {
 
-OLE_COLOR lmListView::aktValueColor() const {
+OLE_COLOR Painting::aktValueColor() const {
     return colorOf(ColorRole::selection, properties_);
 }
 
-void lmListView::DrawBorder() {
+void Painting::DrawBorder() {
     const OLE_COLOR color = colorOf(ColorRole::border, properties_);
-    Surface& surface = window_->surface();
+    Surface& surface = window_.surface();
     ignoringErrors([&] {
         surface.box(0,
                     0,

@@ -1,16 +1,19 @@
 /// The icon or check box of a cell.
 #include "drawing/picture_size.h"
+#include "model/list_view.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
+#include "render/painting.h"
 #include "values/rounding.h"
 
 namespace lumtex {
 
 void PaintPass::chooseCheckBox() {
-    checkBoxCell = properties.Style == cCheckBoxes && list.ColumnCheckBoxes(state.scanColumn);
+    checkBoxCell = properties.Style == cCheckBoxes && list.ColumnCheckBoxes(counters.scanColumn);
     if (checkBoxCell) {
         statement([&] {
-            const auto& boxes = style().Enabled ? list.artwork_.img : list.artwork_.imgd;
+            const auto& boxes =
+                style().Enabled ? core.painting->artwork().img : core.painting->artwork().imgd;
             cellIcon = boxes[item().Checked() ? 2 : 1];
         });
     } else if (!properties.DrawItemIcons) {
@@ -19,7 +22,7 @@ void PaintPass::chooseCheckBox() {
 }
 
 void PaintPass::cellIconPicture() {
-    const Picture& box = *list.artwork_.img[1];
+    const Picture& box = *core.painting->artwork().img[1];
     Single iconBoxWidth = properties.IconW;
     statement([&] {
         if (checkBoxCell)
@@ -47,7 +50,7 @@ void PaintPass::cellIconPicture() {
 
     // The text lies below the picture.
     statement([&] {
-        const ColumnHeader& column = list.columnAt(state.scanColumn - 1);
+        const ColumnHeader& column = core.records.columnAt(counters.scanColumn - 1);
         if (checkBoxCell || !column.AdjustItemIcons)
             surface.paintPicture(*cellIcon, iconX, iconY);
         else

@@ -1,4 +1,5 @@
 /// A control of the host, shown over its cell in place of text and icon.
+#include "guards/ignoring_errors.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
 #include "values/rounding.h"

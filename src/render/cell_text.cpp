@@ -28,9 +28,9 @@ Long PaintPass::textFormatForCell() {
     Rect& rect = state.textRect;
     Rect measured = rect;
     const Long textHeight = surface.drawText(state.cellText, measured, format + dtCalcRect);
-    switch (list.rowAt(Variant(state.scanIndex + 1)).TextPosition) {
+    switch (core.records.rowAt(Variant(counters.scanIndex + 1)).TextPosition) {
     case cTextPosTop:
-        rect.Top = roundToLong(rowY + list.topInset_);
+        rect.Top = roundToLong(rowY + core.topInset());
         break;
     case cTextPosCenter:
         rect.Top = roundToLong(

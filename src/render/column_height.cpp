@@ -1,6 +1,6 @@
 /// Measures of the header band.
 #include "drawing/font_attributes.h"
-#include "model/list_view.h"
+#include "render/painting.h"
 #include "values/rounding.h"
 
 namespace lumtex {
@@ -13,23 +13,22 @@ constexpr Single bandMargin = 6; // pixels above and below a header's text, foot
 
 /// The band's height in pixels, 0 while headers are hidden. Measures on a surface of its own, so that it may
 /// be called in the middle of a pass.
-Long lmListView::ColumnHeight() {
+Long Painting::ColumnHeight() {
     if (properties_.HideColumnHeaders)
         return 0;
     Procedure p = procedure(u"ColumnHeight");
     readFontAttributes(
         properties_.DefaultColumnFont,
         [&](auto attribute) { return p.step(attribute); },
-        [&](const FontSpec& font) { Picture1->setFont(font); });
+        [&](const FontSpec& font) { Picture1_->setFont(font); });
     return p.value<Long>([&] {
-        return roundToLong(Picture1->textHeight(u"A") + static_cast<Double>(properties_.ColumnTextY) +
+        return roundToLong(Picture1_->textHeight(u"A") + static_cast<Double>(properties_.ColumnTextY) +
                            bandMargin);
     });
 }
 
-/// Unrounded, as all working coordinates are.
-Single lmListView::columnWidthInPixels(Long index) {
-    return scaleX(window_->surface(), columnAt(index).Width, twips, pixels);
+Single Painting::columnWidthInPixels(Long index) {
+    return scaleX(window_.surface(), records_.columnAt(index).Width, twips, pixels);
 }
 
 } // namespace lumtex

@@ -1,6 +1,6 @@
 /// What a designer shows in place of the list.
 #include "drawing/picture_size.h"
-#include "model/list_view.h"
+#include "render/painting.h"
 
 namespace lumtex {
 
@@ -10,9 +10,9 @@ constexpr Single margin = 3; // pixels
 
 } // namespace
 
-void lmListView::paintDesignView() {
+void Painting::paintDesignView() {
     Procedure p = procedure(u"Redraw");
-    Surface& surface = window_->surface();
+    Surface& surface = window_.surface();
     p.step([&] { surface.Cls(); });
     p.step([&] {
         surface.letBackColor(properties_.Enabled ? properties_.BackColor : properties_.BackColorDisabled);
@@ -38,10 +38,10 @@ void lmListView::paintDesignView() {
         p.step([&] { surface.letCurrentX(margin); });
     }
     p.step([&] { surface.letCurrentY(margin); });
-    p.step([&] { surface.print(host_->extenderName()); });
+    p.step([&] { surface.print(core_.host().extenderName()); });
     if (properties_.BorderVisible)
         DrawBorder();
-    p.step([&] { window_->present(); });
+    p.step([&] { window_.present(); });
 }
 
 } // namespace lumtex

@@ -3,6 +3,8 @@
 #include "drawing/header_strokes.h"
 #include "drawing/picture_size.h"
 #include "render/paint_pass.h"
+#include "render/painting.h"
+#include "sortfind/sorter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,7 +30,7 @@ constexpr Long alignmentBits(cColumnHeaderAlign alignment) {
 void PaintPass::headerCell(HeaderLook look) {
     const Single width = columnWidthPx;
     const StrokeFrame frame{penX, penX + width, static_cast<Single>(borderWidth), footOfHeader()};
-    const ColumnHeader& column = list.columnAt(state.scanIndex);
+    const ColumnHeader& column = core.records.columnAt(counters.scanIndex);
     headerBackground(look, frame);
     OLE_COLOR color = column.ForeColor;
     cellIcon = column.Icon;
@@ -43,7 +45,7 @@ void PaintPass::headerCell(HeaderLook look) {
         cellIcon = nullptr;
     checkpoint();
     headerText(column, color);
-    if (list.sort_.sortColumn == state.scanIndex)
+    if (core.sorter->sortColumn() == counters.scanIndex)
         sortArrow(column);
 }
 
@@ -70,7 +72,7 @@ void PaintPass::hoverBar(const StrokeFrame& frame) {
     }
     if (style != cXPBlue && style != cXPSilver)
         return;
-    const auto& pieces = list.artwork_.imgCol;
+    const auto& pieces = core.painting->artwork().imgCol;
     const Single top = frame.at({Edge::bar, 0});
     surface.paintPicture(*pieces[0], frame.left, top);
     const Single stampsLeft = frame.left + static_cast<Single>(GetPictureWidth(surface, *pieces[0]));
@@ -96,12 +98,8 @@ void PaintPass::hoverBar(const StrokeFrame& frame) {
 
 void PaintPass::headerText(const ColumnHeader& column, OLE_COLOR color) {
     surface.letForeColor(color);
-    const HeaderPressState& press = list.headerPress_;
-    // Wanted: the mouse button does not decide here, unlike for the look.
-    downOffset = properties.MoveColumnTextAtDown && press.pressedColumn == state.scanIndex &&
-                         press.hoverColumn == state.scanIndex
-                     ? 1
-                     : 0;
+    downOffset =
+        properties.MoveColumnTextAtDown && core.headerGesture->isHeldDown(counters.scanIndex) ? 1 : 0;
     const Single d = downOffset;
     const Single x = penX;
     const Single w = columnWidthPx;
@@ -142,8 +140,8 @@ void PaintPass::sortArrow(const ColumnHeader& column) {
         x = (penX + columnWidthPx - inset - textWidth) + d - inset - arrowWidth;
     else if (column.Alignment == cColumnCenter)
         x = (penX + inset + d) + (columnWidthPx + textWidth) / 2;
-    const Single y = (static_cast<Single>(list.ColumnHeight()) - 5) / 2;
-    DrawArrow(surface, list.sort_.sortAscending, x, y);
+    const Single y = (static_cast<Single>(core.painting->ColumnHeight()) - 5) / 2;
+    DrawArrow(surface, core.sorter->sortAscending(), x, y);
 }
 
 void PaintPass::emptyColumnField() {

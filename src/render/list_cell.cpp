@@ -1,6 +1,8 @@
 /// One cell of the list: its height, its background, and the order of all that stands in it.
+#include "interaction/cell_editor.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
+#include "render/painting.h"
 #include "values/rounding.h"
 
 namespace lumtex {
@@ -18,14 +20,14 @@ bool isDefault(const Variant& color) {
 
 void PaintPass::listCell() {
     statement([&] { measureCellHeight(); });
-    const auto index = static_cast<std::size_t>(state.scanColumn - 1);
+    const auto index = static_cast<std::size_t>(counters.scanColumn - 1);
     if (index >= items.count()) {
         // Under the silent flag a cell that is not there leaves its place as it is.
         statement([] { throw RuntimeError(subscriptOutOfRange); });
         return;
     }
     bool rowSelected = false;
-    statement([&] { rowSelected = list.rowAt(Variant(state.scanIndex + 1)).Selected; });
+    statement([&] { rowSelected = core.records.rowAt(Variant(counters.scanIndex + 1)).Selected; });
 
     cellBackground(rowSelected);
     if (const CellExtras* rare = extras(); rare != nullptr && rare->object()) {
@@ -48,7 +50,7 @@ void PaintPass::listCell() {
 
 /// Throws 9 where host code at a report moved the pass to a column without a cell.
 ListViewItem& PaintPass::item() {
-    const auto index = static_cast<std::size_t>(state.scanColumn - 1);
+    const auto index = static_cast<std::size_t>(counters.scanColumn - 1);
     if (index >= items.count())
         throw RuntimeError(subscriptOutOfRange);
     return items[index];
@@ -56,7 +58,7 @@ ListViewItem& PaintPass::item() {
 
 /// Null while the cell has nothing rare.
 const CellExtras* PaintPass::extras() const {
-    return items.extras(static_cast<std::size_t>(state.scanColumn - 1));
+    return items.extras(static_cast<std::size_t>(counters.scanColumn - 1));
 }
 
 /// Wanted: with dynamic rows the font in force is that of the cell painted before.
@@ -76,11 +78,12 @@ void PaintPass::cellBackground(bool rowSelected) {
             const CellStyle& look = style();
             if (!look.Enabled)
                 fillColor = static_cast<Long>(look.BackColorDis);
-            else if (rowSelected && (properties.FullRowSelect || state.scanColumn == 1))
-                fillColor = static_cast<Long>(selectionColor(look.BackColorSelect, list.aktValueColor()));
+            else if (rowSelected && (properties.FullRowSelect || counters.scanColumn == 1))
+                fillColor =
+                    static_cast<Long>(selectionColor(look.BackColorSelect, core.painting->aktValueColor()));
             else if (properties.AutoRowColor)
-                fillColor = static_cast<Long>(state.scanIndex % 2 != 0 ? properties.RowColorSecond
-                                                                       : properties.RowColorFirst);
+                fillColor = static_cast<Long>(counters.scanIndex % 2 != 0 ? properties.RowColorSecond
+                                                                          : properties.RowColorFirst);
             else
                 fillColor =
                     isDefault(look.BackColor) ? noFill : static_cast<Long>(look.BackColor.get().toColor());
@@ -126,10 +129,10 @@ void PaintPass::cellColorsAndIcon(bool rowSelected) {
         return;
     }
     // The open editor follows its row.
-    if (list.txtEdit->Visible())
-        statement([&] { list.txtEdit->letTop(rowY + 1); });
+    if (core.editor->isOpen())
+        statement([&] { core.editor->letTop(rowY + 1); });
     statement([&] {
-        textColor = properties.FullRowSelect || state.scanColumn == 1
+        textColor = properties.FullRowSelect || counters.scanColumn == 1
                         ? selectionColor(style().ForeColorSelect, white)
                         : style().ForeColor;
     });

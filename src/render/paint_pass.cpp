@@ -3,12 +3,15 @@
 
 #include "drawing/picture_size.h"
 #include "guards/failure_of.h"
+#include "guards/ignoring_errors.h"
 #include "render/paint_pass_statement.h"
+#include "render/painting.h"
+#include "scroll/scroller.h"
 
 namespace lumtex {
 
-PaintPass::PaintPass(lmListView& owner, Procedure& p)
-    : PaintPassValues(owner, p, owner.properties_, owner.paint_, owner.window_->surface()) {}
+PaintPass::PaintPass(ListViewCore& owner, PaintState& kept, Procedure& p)
+    : PaintPassValues(owner, kept, p, owner.listWindow->surface()) {}
 
 void PaintPass::run() {
     if (state.paintBusy)
@@ -16,15 +19,15 @@ void PaintPass::run() {
     state.paintBusy = true;
     try {
         runSteps();
-        statement([&] { list.window_->present(); });
+        statement([&] { core.listWindow->present(); });
     } catch (const PassEnds&) {
         // Wanted: a pass that gave up leaves `paintBusy` set.
-        ignoringErrors([&] { list.window_->present(); });
+        ignoringErrors([&] { core.listWindow->present(); });
         return;
     }
     // The flag goes first, so that a paint queued meanwhile can run at once.
     state.paintBusy = false;
-    list.yield(procedure);
+    core.yield(procedure);
 }
 
 void PaintPass::runSteps() {
@@ -35,16 +38,16 @@ void PaintPass::runSteps() {
     const std::optional<RuntimeError> failure = failureOf([&] { backgroundAndHeaders(); });
     if (failure) {
         procedure.raise(
-            [&] { list.events_->ListViewError(u"Redraw", failure->number(), failure->description()); });
+            [&] { core.events().ListViewError(u"Redraw", failure->number(), failure->description()); });
         state.paintBusy = false;
         throw PassEnds{};
     }
 
-    if (list.ColumnsCount() != 0 && list.RowsCount() != 0)
+    if (core.records.ColumnsCount() != 0 && core.records.RowsCount() != 0)
         rowPass();
     statement([&] { scrollCorner(); });
     if (properties.BorderVisible)
-        list.DrawBorder();
+        core.painting->DrawBorder();
 }
 
 void PaintPass::clear() {
@@ -55,7 +58,7 @@ void PaintPass::clear() {
 void PaintPass::backgroundAndHeaders() {
     if (properties.BackgroundPicture)
         paintBackgroundPicture();
-    if (list.ColumnsCount() == 0)
+    if (core.records.ColumnsCount() == 0)
         return;
     checkpoint();
     findFirstColumn();
@@ -67,34 +70,37 @@ void PaintPass::backgroundAndHeaders() {
         emptyColumnField();
     resizeCursor();
     checkpoint();
-    if (list.RowsCount() != 0)
-        hideObjects(1, list.VS->Value());
+    if (core.records.RowsCount() != 0)
+        hideObjects(1, core.scroller->vertical().Value());
 }
 
 void PaintPass::paintBackgroundPicture() {
     const Picture& picture = *properties.BackgroundPicture;
     const Single right = static_cast<Single>(surface.scaleWidth()) - static_cast<Single>(borderWidth);
     const Single bottom = static_cast<Single>(surface.scaleHeight()) - static_cast<Single>(borderWidth);
-    const Single barRight = list.VS->Visible() ? list.VS->Width() : 0;
+    const Single barRight = core.scroller->vertical().Visible() ? core.scroller->vertical().Width() : 0;
     // Wanted: the bar's Width, not its Height.
-    const Single barBottom = list.HS->Visible() ? list.HS->Width() : 0;
+    const Single barBottom = core.scroller->horizontal().Visible() ? core.scroller->horizontal().Width() : 0;
     surface.paintPicture(picture,
                          right - barRight - static_cast<Single>(GetPictureWidth(surface, picture)),
                          bottom - barBottom - static_cast<Single>(GetPictureHeight(surface, picture)));
 }
 
 void PaintPass::scrollCorner() {
-    if (!list.HS->Visible() || !list.VS->Visible())
+    if (!core.scroller->horizontal().Visible() || !core.scroller->vertical().Visible())
         return;
     const auto width = static_cast<Single>(surface.scaleWidth());
     const auto height = static_cast<Single>(surface.scaleHeight());
     // Wanted: one pixel more, to the left and above, than the square between the bars.
-    surface.fillBox(
-        width - list.VS->Width() - 1, height - list.HS->Height() - 1, width, height, surface.BackColor());
+    surface.fillBox(width - core.scroller->vertical().Width() - 1,
+                    height - core.scroller->horizontal().Height() - 1,
+                    width,
+                    height,
+                    surface.BackColor());
 }
 
 void PaintPass::checkpoint() const {
-    if (list.scroll_.scrollPending)
+    if (core.scroller->isPending())
         throw PassEnds{};
 }
 

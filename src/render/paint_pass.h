@@ -3,18 +3,22 @@
 #pragma once
 
 #include "drawing/strokes.h"
-#include "model/list_view.h"
+#include "interaction/header_gesture.h"
+#include "model/list_view_core.h"
+#include "render/paint_state.h"
 
 namespace lumtex {
 
 /// What a pass works on, and the working values that its steps hand to one another. What must outlive the
 /// pass lies in `PaintState`.
 struct PaintPassValues {
-    PaintPassValues(
-        lmListView& owner, Procedure& guard, Properties& values, PaintState& kept, Surface& target)
-        : list(owner), procedure(guard), properties(values), state(kept), surface(target) {}
+    PaintPassValues(ListViewCore& owner, PaintState& kept, Procedure& guard, Surface& target)
+        : core(owner), list(owner.list()), counters(owner.counters), procedure(guard),
+          properties(owner.properties), state(kept), surface(target) {}
 
+    ListViewCore& core;
     lmListView& list;
+    WalkCounters& counters;
     Procedure& procedure; ///< of `Redraw`; outlives the pass
     Properties& properties;
     PaintState& state;
@@ -45,15 +49,13 @@ struct PaintPassValues {
 /// list_cell.cpp, cell_text.cpp, cell_icon.cpp, cell_object.cpp.
 class PaintPass : private PaintPassValues {
   public:
-    PaintPass(lmListView& owner, Procedure& p);
+    PaintPass(ListViewCore& owner, PaintState& kept, Procedure& p);
 
     void run();
 
   private:
     /// Ends the pass at once, from however deep.
     struct PassEnds {};
-
-    enum class HeaderLook : Byte { normal, hover, down };
 
     // Running and ending (paint_pass.cpp)
 
@@ -74,8 +76,6 @@ class PaintPass : private PaintPassValues {
     void findFirstColumn();
     void beginHeaders();
     void headerPass();
-    void trackMouse();
-    HeaderLook headerLook() const;
     void headerCell(HeaderLook look);
     void headerBackground(HeaderLook look, const StrokeFrame& frame);
     void hoverBar(const StrokeFrame& frame);

@@ -15,11 +15,6 @@ struct PaintState {
     Rect textRect;           ///< handed to `drawText`; shared by header and cells
 
     String cellText; ///< room for the text of a cell, kept so that painting allocates nothing
-
-    /// Counters shared by all passes on purpose: a host that re-enters during a pass changes them.
-    Long scanIndex = 0;
-    Long scanColumn = 0;
-    Long scanObjectColumn = 0;
 };
 
 } // namespace lumtex

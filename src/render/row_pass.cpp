@@ -1,7 +1,11 @@
 /// The rows: how tall each is, where it lies, and its grid lines.
 #include "drawing/font_attributes.h"
+#include "guards/ignoring_errors.h"
+#include "interaction/row_drag.h"
 #include "render/paint_pass.h"
 #include "render/paint_pass_statement.h"
+#include "render/painting.h"
+#include "scroll/scroller.h"
 #include "values/rounding.h"
 
 #include <algorithm>
@@ -14,12 +18,13 @@ void PaintPass::hideObjects(Long firstRow, Long lastRow) {
     if (CellExtras::objectsInCells() == 0)
         return;
     // The bar may stand anywhere, but no object is in a row that is not there.
-    const Long last = std::min(lastRow, list.RowsCount());
-    for (state.scanColumn = std::max(firstRow, Long{1}); state.scanColumn <= last; ++state.scanColumn) {
-        for (state.scanObjectColumn = 1; state.scanObjectColumn <= list.ColumnsCount();
-             ++state.scanObjectColumn) {
+    const Long last = std::min(lastRow, core.records.RowsCount());
+    for (counters.scanColumn = std::max(firstRow, Long{1}); counters.scanColumn <= last;
+         ++counters.scanColumn) {
+        for (counters.scanObjectColumn = 1; counters.scanObjectColumn <= core.records.ColumnsCount();
+             ++counters.scanObjectColumn) {
             ignoringErrors([&] {
-                const auto cell = list.cellAt(state.scanColumn, state.scanObjectColumn);
+                const auto cell = core.records.cellAt(counters.scanColumn, counters.scanObjectColumn);
                 const CellExtras* extras = cell.items.extras(cell.index);
                 if (extras == nullptr || !extras->object())
                     return;
@@ -31,9 +36,9 @@ void PaintPass::hideObjects(Long firstRow, Long lastRow) {
 }
 
 void PaintPass::beginRows() {
-    state.scanIndex = list.VS->Value();
-    state.scanColumn = state.firstColumn + 1;
-    rowY = properties.HideColumnHeaders ? 0 : static_cast<Single>(list.ColumnHeight());
+    counters.scanIndex = core.scroller->vertical().Value();
+    counters.scanColumn = state.firstColumn + 1;
+    rowY = properties.HideColumnHeaders ? 0 : static_cast<Single>(core.painting->ColumnHeight());
     penX = state.firstColumnX;
     rowBandHeight = 0;
 }
@@ -41,27 +46,27 @@ void PaintPass::beginRows() {
 void PaintPass::rowPass() {
     // Rows without a height from far above the first one on would take billions of turns.
     constexpr std::int64_t spareTurns = 4096;
-    std::int64_t turnsLeft = std::int64_t{list.RowsCount()} + surface.scaleHeight() + spareTurns;
+    std::int64_t turnsLeft = std::int64_t{core.records.RowsCount()} + surface.scaleHeight() + spareTurns;
     statement([&] { beginRows(); });
     do {
         checkpoint();
         items = Items{};
-        statement([&] { items = list.rowAt(Variant(sumOf(state.scanIndex, 1))).items; });
+        statement([&] { items = core.records.rowAt(Variant(sumOf(counters.scanIndex, 1))).items; });
         rowCells();
         finishRow();
         checkpoint();
-    } while (state.scanIndex <= list.RowsCount() - 1 && rowY <= static_cast<Single>(surface.scaleHeight()) &&
-             --turnsLeft > 0);
-    if (state.scanIndex < list.RowsCount())
-        hideObjects(state.scanIndex + 1, list.RowsCount());
+    } while (counters.scanIndex <= core.records.RowsCount() - 1 &&
+             rowY <= static_cast<Single>(surface.scaleHeight()) && --turnsLeft > 0);
+    if (counters.scanIndex < core.records.RowsCount())
+        hideObjects(counters.scanIndex + 1, core.records.RowsCount());
 }
 
 /// All columns from the first visible one on: nothing stops at the surface's right edge.
 void PaintPass::rowCells() {
     // A host called in here may have taken columns away, hence no test for the exact end.
-    while (state.scanColumn <= list.ColumnsCount()) {
+    while (counters.scanColumn <= core.records.ColumnsCount()) {
         checkpoint();
-        statement([&] { columnWidthPx = list.columnWidthInPixels(state.scanColumn - 1); });
+        statement([&] { columnWidthPx = core.painting->columnWidthInPixels(counters.scanColumn - 1); });
         if (penX + columnWidthPx >= 0 && columnWidthPx != 0)
             listCell();
         // Wanted: the height of the cell counts, where its font is taller than the band so far.
@@ -74,17 +79,17 @@ void PaintPass::rowCells() {
             statement([&] { surface.line(x, rowY, x, rowY + rowBandHeight, properties.GridLineColor); });
         }
         penX += columnWidthPx;
-        ++state.scanColumn;
+        ++counters.scanColumn;
         checkpoint();
     }
 }
 
 void PaintPass::finishRow() {
     const auto surfaceWidth = static_cast<Single>(surface.scaleWidth());
-    if (properties.AllowItemMoving && list.move_.moveTargetRow == state.scanIndex)
+    if (properties.AllowItemMoving && core.rowDrag->drawsMarkAt(counters.scanIndex))
         statement([&] { surface.box(0, rowY, surfaceWidth, rowY + 1, black); });
     penX = state.firstColumnX;
-    state.scanColumn = state.firstColumn + 1;
+    counters.scanColumn = state.firstColumn + 1;
     if (lastIconHeight == 0) {
         // Wanted: until the first icon of a pass, every row has the height of the default font, however tall
         // the fonts of its cells are.
@@ -108,14 +113,15 @@ void PaintPass::finishRow() {
         const Single y = rowY + rowBandHeight;
         statement([&] { surface.line(border, y, surfaceWidth - border, y, properties.GridLineColor); });
     }
-    if (state.scanIndex >= 0 && static_cast<std::size_t>(state.scanIndex) < list.rows_.size()) {
-        RowRecord& row = list.rows_[static_cast<std::size_t>(state.scanIndex)];
+    const std::span<RowRecord> rows = core.records.rows();
+    if (counters.scanIndex >= 0 && static_cast<std::size_t>(counters.scanIndex) < rows.size()) {
+        RowRecord& row = rows[static_cast<std::size_t>(counters.scanIndex)];
         row.Height = rowBandHeight;
         row.Top = rowY;
     }
     rowY += rowBandHeight;
     rowBandHeight = 0;
-    statement([&] { state.scanIndex = sumOf(state.scanIndex, 1); });
+    statement([&] { counters.scanIndex = sumOf(counters.scanIndex, 1); });
 }
 
 } // namespace lumtex

@@ -1,5 +1,5 @@
 /// Cutting the pieces of the hover bar from a strip.
-#include "model/list_view.h"
+#include "render/painting.h"
 
 namespace lumtex {
 
@@ -17,13 +17,13 @@ constexpr OLE_COLOR boardColor = white;
 
 } // namespace
 
-void lmListView::SplitSkin() {
+void Painting::SplitSkin() {
     Procedure p = procedure(u"SplitSkin");
     const PictureRef source = properties_.Skin ? properties_.Skin.get() : artwork_.imgDefault;
     std::unique_ptr<Surface> pSkin;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         p.step([&] {
-            pSkin = world_.createSurface(pieces[i].width, stripHeight);
+            pSkin = core_.world().createSurface(pieces[i].width, stripHeight);
             pSkin->letBackColor(boardColor);
         });
         if (!pSkin)

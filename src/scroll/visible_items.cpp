@@ -1,5 +1,6 @@
 /// How many rows fit entirely under the headers.
-#include "model/list_view.h"
+#include "render/painting.h"
+#include "scroll/scroller.h"
 #include "values/rounding.h"
 
 #include <cmath>
@@ -16,41 +17,41 @@ Double turnsOf(Double first, Double last, Double step) {
 
 } // namespace
 
-Long lmListView::VisibleItems() {
+Long Scroller::VisibleItems() {
     Procedure p = procedure(u"VisibleItems");
     return p.value<Long>([&] {
-        scroll_.lastRowHidden = true;
-        scroll_.visibleRowCount = -1;
-        if (RowsCount() == 0)
+        state_.lastRowHidden = true;
+        state_.visibleRowCount = -1;
+        if (records_.RowsCount() == 0)
             return Long{0};
 
-        const Surface& surface = window_->surface();
-        const Single barHeight = HS->Tag == u"True" ? HS->Height() : 0;
+        const Surface& surface = window_.surface();
+        const Single barHeight = HS_->Tag == u"True" ? HS_->Height() : 0;
         const Single available = static_cast<Single>(surface.scaleHeight()) - barHeight;
         if (properties_.RowsDynamic) {
             // Wanted: the walk starts at row 0 whatever the top row is, and a row never painted has no
             // height.
-            auto y = static_cast<Single>(ColumnHeight());
+            auto y = static_cast<Single>(core_.painting->ColumnHeight());
             while (y <= available) {
-                ++scroll_.visibleRowCount;
-                if (scroll_.visibleRowCount > static_cast<Long>(rows_.size()) - 1)
+                ++state_.visibleRowCount;
+                if (state_.visibleRowCount > records_.upperBoundOfRows())
                     break;
-                y += rows_[static_cast<std::size_t>(scroll_.visibleRowCount)].Height;
+                y += records_.recordAt(state_.visibleRowCount).Height;
             }
-            return scroll_.visibleRowCount;
+            return state_.visibleRowCount;
         }
 
         const Long height = roundToLong(scaleY(surface, properties_.RowHeight, twips, pixels));
-        Double y = ColumnHeight();
+        Double y = core_.painting->ColumnHeight();
         if (height > 0) {
             const Double turns = turnsOf(y, available, height);
-            scroll_.visibleRowCount = roundToLong(scroll_.visibleRowCount + turns);
+            state_.visibleRowCount = roundToLong(state_.visibleRowCount + turns);
             y += turns * height;
         }
         // Wanted: with a positive height this test cannot be met.
         if (y + barHeight + height / 2.0 < surface.scaleHeight())
-            scroll_.lastRowHidden = false;
-        return scroll_.visibleRowCount;
+            state_.lastRowHidden = false;
+        return state_.visibleRowCount;
     });
 }
 

@@ -1,18 +1,24 @@
 /// What the mouse wheel does to the list.
 #include "model/list_view.h"
 #include "platform/queue_watch.h"
+#include "scroll/scroller.h"
 #include "values/rounding.h"
 
 namespace lumtex {
 
-bool lmListView::UserControl_Wheel(Long Rotation, Integer Shift, Single X, Single Y) {
-    Procedure p = procedure(u"UserControl_Wheel");
-    return Wheel1->WndProc(hwnd(), Rotation, Shift, X, Y);
+void Scroller::listen(Procedure& p) {
+    p.step([&] { Wheel1_->lethWndCapture(window_.hWnd()); });
+    p.step([&] { Wheel1_->EnableWheel(); });
 }
 
-void lmListView::Wheel1_WheelScroll(Integer& Rotation, Integer& /*Keys*/, Single& /*X*/, Single& /*Y*/) {
+bool Scroller::wheel(Long Rotation, Integer Shift, Single X, Single Y) {
+    Procedure p = procedure(u"UserControl_Wheel");
+    return Wheel1_->WndProc(window_.hWnd(), Rotation, Shift, X, Y);
+}
+
+void Scroller::Wheel1_WheelScroll(Integer& Rotation, Integer& /*Keys*/, Single& /*X*/, Single& /*Y*/) {
     Procedure p = procedure(u"Wheel1_WheelScroll");
-    if (RowsCount() == 0 || ColumnsCount() == 0)
+    if (records_.RowsCount() == 0 || records_.ColumnsCount() == 0)
         return;
     const bool down = Rotation < 1;
     switch (properties_.WheelFunction) {
@@ -31,81 +37,82 @@ void lmListView::Wheel1_WheelScroll(Integer& Rotation, Integer& /*Keys*/, Single
     case cWheelOff:
         break;
     }
-    Wheel1->lethWndCapture(hwnd());
-    Redraw();
-    yield(p);
+    Wheel1_->lethWndCapture(window_.hWnd());
+    list_.Redraw();
+    core_.yield(p);
 }
 
 // Wanted: the size of a turn does not matter, and a turn by 0 goes to the end of the range, as does a turn
 // down with a hidden bar.
-void lmListView::wheelLinesDown(Procedure& p, Integer Rotation) {
-    const Double next = static_cast<Double>(VS->Value()) + properties_.WheelScrollLines;
-    if (Rotation < 0 && VS->Visible() && next < VS->Max())
-        p.step([&] { VS->letValue(roundToLong(next)); });
+void Scroller::wheelLinesDown(Procedure& p, Integer Rotation) {
+    const Double next = static_cast<Double>(VS_->Value()) + properties_.WheelScrollLines;
+    if (Rotation < 0 && VS_->Visible() && next < VS_->Max())
+        p.step([&] { VS_->letValue(roundToLong(next)); });
     else
-        VS->letValue(VS->Max());
-    p.raise([&] { events_->Scroll(); });
+        VS_->letValue(VS_->Max());
+    p.raise([&] { core_.events().Scroll(); });
 }
 
-void lmListView::wheelLinesUp(Procedure& p) {
-    const Double next = static_cast<Double>(VS->Value()) - properties_.WheelScrollLines;
-    if (VS->Visible() && next >= 1)
-        p.step([&] { VS->letValue(roundToLong(next)); });
+void Scroller::wheelLinesUp(Procedure& p) {
+    const Double next = static_cast<Double>(VS_->Value()) - properties_.WheelScrollLines;
+    if (VS_->Visible() && next >= 1)
+        p.step([&] { VS_->letValue(roundToLong(next)); });
     else
-        VS->letValue(0);
-    p.raise([&] { events_->Scroll(); });
+        VS_->letValue(0);
+    p.raise([&] { core_.events().Scroll(); });
 }
 
 /// Is the row enabled? A row that went away in a yield is reported and ends the walk, as an enabled one does.
-bool lmListView::stopsWheel(Procedure& p, Long index) {
-    return p.condition([&] { return rowAt(Variant(index + 1)).Enabled; }, true);
+bool Scroller::stopsWheel(Procedure& p, Long index) {
+    return p.condition([&] { return records_.rowAt(Variant(index + 1)).Enabled; }, true);
 }
 
-void lmListView::wheelIndexDown(Procedure& p, Integer Rotation) {
-    const auto last = [&] { return RowsCount() - 1; };
-    if (Rotation >= 0 || static_cast<Double>(ListIndex()) - Rotation >= last() || ListIndex() >= last()) {
-        letListIndex(last());
+void Scroller::wheelIndexDown(Procedure& p, Integer Rotation) {
+    const auto last = [&] { return records_.RowsCount() - 1; };
+    if (Rotation >= 0 || static_cast<Double>(list_.ListIndex()) - Rotation >= last() ||
+        list_.ListIndex() >= last()) {
+        list_.letListIndex(last());
         return;
     }
-    Long i = ListIndex() + 1;
-    QueueWatch watch(runtime().queue());
+    Long i = list_.ListIndex() + 1;
+    QueueWatch watch(core_.runtime().queue());
     for (;; ++i) {
         if (i > last())
             return;
         if (stopsWheel(p, i))
             break;
-        yield(p, watch);
+        core_.yield(p, watch);
         if (i == last())
             return;
     }
-    if (ListIndex() < last()) {
-        yield(p);
-        letListIndex(i);
-        yield(p);
+    if (list_.ListIndex() < last()) {
+        core_.yield(p);
+        list_.letListIndex(i);
+        core_.yield(p);
     }
 }
 
-void lmListView::wheelIndexUp(Procedure& p, Integer Rotation) {
+void Scroller::wheelIndexUp(Procedure& p, Integer Rotation) {
     // Wanted: the turn is added, so that only row 0 or no row at all takes the short way.
-    if (static_cast<Double>(ListIndex()) + Rotation <= 0 || ListIndex() <= 0) {
-        letListIndex(0);
+    if (static_cast<Double>(list_.ListIndex()) + Rotation <= 0 || list_.ListIndex() <= 0) {
+        list_.letListIndex(0);
         return;
     }
-    QueueWatch watch(runtime().queue());
-    for (Long i = ListIndex() - 1; i >= 0; --i) {
+    QueueWatch watch(core_.runtime().queue());
+    for (Long i = list_.ListIndex() - 1; i >= 0; --i) {
         if (stopsWheel(p, i)) {
-            if (ListIndex() > 0) {
-                yield(p);
-                letListIndex(i);
-                yield(p);
+            if (list_.ListIndex() > 0) {
+                core_.yield(p);
+                list_.letListIndex(i);
+                core_.yield(p);
             }
             break;
         }
-        yield(p, watch);
+        core_.yield(p, watch);
     }
-    if (ListIndex() < VS->Value()) {
-        VS->letValue(ListIndex());
-        p.raise([&] { events_->Scroll(); });
+    if (list_.ListIndex() < VS_->Value()) {
+        VS_->letValue(list_.ListIndex());
+        p.raise([&] { core_.events().Scroll(); });
     }
 }
 

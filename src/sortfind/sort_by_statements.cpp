@@ -4,9 +4,13 @@
 
 namespace lumtex {
 
-SortByStatements::SortByStatements(
-    lmListView& list, Procedure& procedure, Long Column, cSortType SortType, cSortMode order)
-    : list_(list), procedure_(procedure), Column_(Column), type_(SortType),
+SortByStatements::SortByStatements(lmListView& list,
+                                   ListRecords& records,
+                                   Procedure& procedure,
+                                   Long Column,
+                                   cSortType SortType,
+                                   cSortMode order)
+    : list_(list), records_(records), procedure_(procedure), Column_(Column), type_(SortType),
       descending_(order == cDescending) {}
 
 String SortByStatements::ItemText(Long index) {
@@ -32,7 +36,7 @@ bool SortByStatements::compare(Long index, bool greater) {
     if (type_ == cSortText) {
         const String key = textKey(ItemText(index));
         // Behind the array there is nothing left to scan, though no text lies before most others.
-        const bool inside = index >= 0 && index < static_cast<Long>(list_.rows_.size());
+        const bool inside = index >= 0 && static_cast<std::size_t>(index) < records_.rows().size();
         return inside && (greater ? key > pivot_ : key < pivot_);
     }
     // Wanted: of any other type there is no key, so that each partition swaps all the way inwards.
@@ -45,8 +49,8 @@ bool SortByStatements::compare(Long index, bool greater) {
 
 void SortByStatements::swap(Long i, Long j) {
     procedure_.step([&] {
-        RowRecord& first = list_.recordAt(i);
-        RowRecord& second = list_.recordAt(j);
+        RowRecord& first = records_.recordAt(i);
+        RowRecord& second = records_.recordAt(j);
         std::swap(first, second);
     });
 }

@@ -11,8 +11,12 @@ namespace lumtex {
 class SortByStatements {
   public:
     /// `procedure` is that of the sort and outlives this object. `Column` counts from 1.
-    SortByStatements(
-        lmListView& list, Procedure& procedure, Long Column, cSortType SortType, cSortMode order);
+    SortByStatements(lmListView& list,
+                     ListRecords& records,
+                     Procedure& procedure,
+                     Long Column,
+                     cSortType SortType,
+                     cSortMode order);
 
     void choosePivot(Long index);
     bool before(Long i) { return test(i, descending_); }
@@ -26,6 +30,7 @@ class SortByStatements {
     bool compare(Long index, bool greater);
 
     lmListView& list_;
+    ListRecords& records_;
     Procedure& procedure_;
     String pivot_;
     Long Column_;

@@ -260,7 +260,7 @@ TEST_F(SetNewSelected, EndsThoughEachYieldSendsItBack) {
     desktop.onYield(
         [&] {
             ++turns;
-            inside.paint().scanIndex = -1;
+            inside.counters().scanIndex = -1;
         },
         1000000);
     inside.SetNewSelected(0);

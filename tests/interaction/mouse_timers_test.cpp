@@ -66,12 +66,12 @@ TEST_F(MouseTimers, InADesignerNeitherStaysOnAndTheMouseIsNeverInside) {
     move(cell(1, 1));
     inside.mouseActionTimer().letEnabled(true);
     inside.mouseActionTimer().Tag = u"up";
-    inside.itemMove().moveTargetRow = 1;
+    inside.moveTargetRow() = 1;
     desktop.advance(milliseconds(1));
     EXPECT_FALSE(inside.mouseInTimer().Enabled());
     EXPECT_FALSE(inside.mouseActionTimer().Enabled());
     EXPECT_EQ(inside.mouseActionTimer().Tag, u"");
-    EXPECT_EQ(inside.itemMove().moveTargetRow, -1);
+    EXPECT_EQ(inside.moveTargetRow(), -1);
     EXPECT_FALSE(inside.mouse().mouseInside);
 }
 
@@ -94,12 +94,12 @@ TEST_F(MouseTimers, ScrollingStopsWithTheLastButton) {
     fill(30);
     press(cell(2, 1));
     move({30, 230});
-    inside.itemMove().moveTargetRow = 7;
+    inside.moveTargetRow() = 7;
     inside.mouse().lastMouseButton = 0;
     desktop.advance(milliseconds(1));
     EXPECT_FALSE(inside.mouseActionTimer().Enabled());
     EXPECT_EQ(inside.mouseActionTimer().Tag, u"");
-    EXPECT_EQ(inside.itemMove().moveTargetRow, -1);
+    EXPECT_EQ(inside.moveTargetRow(), -1);
     EXPECT_EQ(list.TopIndex(), 0);
 }
 
@@ -134,11 +134,11 @@ TEST_F(MouseTimers, ScrollingWhileRowsAreMovedTakesTheTargetAlong) {
     move({30, 230});
     desktop.advance(milliseconds(1));
     EXPECT_EQ(list.TopIndex(), 1);
-    EXPECT_EQ(inside.itemMove().moveTargetRow, inside.VisibleItems()) << "by the top row before the step";
+    EXPECT_EQ(inside.moveTargetRow(), inside.VisibleItems()) << "by the top row before the step";
     move({30, -5});
     desktop.advance(milliseconds(1));
     EXPECT_EQ(list.TopIndex(), 0);
-    EXPECT_EQ(inside.itemMove().moveTargetRow, 0);
+    EXPECT_EQ(inside.moveTargetRow(), 0);
 }
 
 class MouseOut : public PlayedList {};

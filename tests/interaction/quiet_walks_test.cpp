@@ -31,7 +31,7 @@ class WalkedList : public ListFixture {
         for (const RowRecord& row : inside.rows())
             out << (row.items.count() > 1 ? toUtf8(row.items[1].text().toString()) : "-")
                 << (row.Selected ? "s" : "") << ' ';
-        out << "; index " << list.ListIndex() << ", scan " << inside.paint().scanIndex << ", checked "
+        out << "; index " << list.ListIndex() << ", scan " << inside.counters().scanIndex << ", checked "
             << list.ItemsCheckedCount() << ", top " << list.TopIndex() << '\n';
         for (const std::string& line : events.log)
             out << line << '\n';

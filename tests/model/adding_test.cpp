@@ -183,7 +183,7 @@ TEST_F(Adding, TheSharedCounterWalksTheCells) {
     list.letAutoRedraw(false);
     list.letAutoCheckScroll(false); // which counts in the same one
     addRows(1);
-    EXPECT_EQ(inside.paint().scanIndex, 4) << "one past the last column";
+    EXPECT_EQ(inside.counters().scanIndex, 4) << "one past the last column";
 }
 
 TEST_F(Adding, EachAddRefreshesOnceWithBarsCheckedBefore) {

@@ -246,12 +246,12 @@ TEST_F(ContentSave, TheTwoCountersAreMembersOfTheControl) {
     list.letItemTag(2, 1, Null{});
     std::pair<Long, Long> atReport;
     desktop.runtime().whileBoxIsOpen = [&] {
-        atReport = {inside.content().saveRow, inside.content().saveColumn};
+        atReport = {inside.counters().saveRow, inside.counters().saveColumn};
     };
     save(true);
     EXPECT_EQ(atReport, std::pair(Long{2}, Long{1}));
-    EXPECT_EQ(inside.content().saveRow, 4);
-    EXPECT_EQ(inside.content().saveColumn, 3);
+    EXPECT_EQ(inside.counters().saveRow, 4);
+    EXPECT_EQ(inside.counters().saveColumn, 3);
 }
 
 TEST_F(ContentSave, AMissingCellIsReportedByItsAccessorAndSavedAsNothing) {

@@ -185,7 +185,7 @@ TEST_F(PaintPassOrder, TheDropMarkerIsABarOfTwoPixelsAcrossTheSurface) {
     addColumns({60});
     addRows(3, u"a");
     inside.letAllowItemMoving(true);
-    inside.itemMove().moveTargetRow = 1;
+    inside.moveTargetRow() = 1;
     EXPECT_EQ(repainted("Box"), Lines{"Box 0,45-200,46 0"});
     inside.letAllowItemMoving(false);
     EXPECT_TRUE(repainted("Box").empty());

@@ -162,7 +162,7 @@ class Player {
     }
 
     void headers(const Words&) {
-        const HeaderPressState& state = inside_.header();
+        const auto& state = inside_.header();
         const auto column = [](Long index) { return index < 0 ? "none" : std::to_string(index + 1); };
         note("hover=" + column(state.hoverColumn) + " pressed=" + column(state.pressedColumn) +
              " divider=" + column(state.resizeColumn) + (state.resizing ? " resizing" : "") +

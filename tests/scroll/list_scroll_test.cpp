@@ -28,9 +28,9 @@ TEST_F(ListScroll, WithoutColumnsBothBarsAreHiddenAndAtZero) {
 TEST_F(ListScroll, TheCheckCountsTheColumnsInTheSharedCounter) {
     addColumns({50, 50, 50});
     list.letAutoRedraw(false);
-    inside.paint().scanIndex = -7;
+    inside.counters().scanIndex = -7;
     list.CheckScroll();
-    EXPECT_EQ(inside.paint().scanIndex, 3) << "one past the last column";
+    EXPECT_EQ(inside.counters().scanIndex, 3) << "one past the last column";
 }
 
 // Wanted: the whole width counts, although the vertical bar takes some of it away.

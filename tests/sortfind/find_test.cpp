@@ -101,7 +101,7 @@ TEST_F(Finding, ALoneNumberLosesItsLastDigit) {
 
 TEST_F(Finding, ALoneTextThatIsNoNumberEndsWithoutAWord) {
     list.FindItem(u"*", cFindStart, cFindBinary, u"1,", u"2,");
-    const FindState before = inside.find();
+    const auto before = inside.find();
     EXPECT_EQ(find(u"*", u"x"), "none");
     EXPECT_EQ(find(u"*", u"1,", u"two"), "none");
     EXPECT_EQ(reportCount(), 0U);

@@ -2,8 +2,17 @@
 /// A list on a simulated desktop, and the means to look inside it.
 #pragma once
 
+#include "interaction/cell_editor.h"
+#include "interaction/header_gesture.h"
+#include "interaction/mouse.h"
+#include "interaction/row_drag.h"
+#include "interaction/selection.h"
 #include "model/list_view.h"
 #include "recording_events.h"
+#include "render/painting.h"
+#include "scroll/scroller.h"
+#include "sortfind/finder.h"
+#include "sortfind/sorter.h"
 #include "test_fonts.h"
 #include "test_host.h"
 #include "worlds/headless/desktop.h"
@@ -18,61 +27,54 @@ class ListViewInspector {
   public:
     explicit ListViewInspector(lmListView& list) : list_(list) {}
 
-    PaintState& paint() { return list_.paint_; }
-    MouseState& mouse() { return list_.mouse_; }
-    HeaderPressState& header() { return list_.headerPress_; }
-    EditState& edit() { return list_.edit_; }
-    SelectionState& selection() { return list_.selection_; }
-    ItemMoveState& itemMove() { return list_.move_; }
-    ScrollState& scroll() { return list_.scroll_; }
-    SortState& sort() { return list_.sort_; }
-    FindState& find() { return list_.find_; }
-    ContentState& content() { return list_.content_; }
-    Properties& properties() { return list_.properties_; }
-    std::vector<RowRecord>& rows() { return list_.rows_; }
-    std::vector<std::unique_ptr<ColumnHeader>>& columns() { return list_.columns_; }
-    lmVScroll& vertical() { return *list_.VS; }
-    lmHScroll& horizontal() { return *list_.HS; }
-    TextBox& editor() { return *list_.txtEdit; }
-    GuideLine& guide() { return *list_.Line1; }
-    Timer& mouseInTimer() { return *list_.tmrMouseIn; }
-    Timer& mouseActionTimer() { return *list_.tmrMouseAction; }
-    const ListViewArtwork& artwork() { return list_.artwork_; }
+    ListViewCore& core() { return list_; }
+    PaintState& paint() { return core().painting->state_; }
+    WalkCounters& counters() { return core().counters; }
+    Mouse::State& mouse() { return core().mouse->state_; }
+    HeaderGesture::State& header() { return core().headerGesture->state_; }
+    CellEditor::State& edit() { return core().editor->edit_; }
+    Selection::State& selection() { return core().selection->state_; }
+    Long& moveTargetRow() { return core().rowDrag->moveTargetRow_; }
+    Scroller::State& scroll() { return core().scroller->state_; }
+    Sorter::State& sort() { return core().sorter->state_; }
+    Finder::State& find() { return core().finder->state_; }
+    Properties& properties() { return core().properties; }
+    std::vector<RowRecord>& rows() { return core().records.rows_; }
+    std::vector<std::unique_ptr<ColumnHeader>>& columns() { return core().records.columns_; }
+    lmVScroll& vertical() { return core().scroller->vertical(); }
+    lmHScroll& horizontal() { return core().scroller->horizontal(); }
+    TextBox& editor() { return *core().editor->txtEdit_; }
+    GuideLine& guide() { return *core().headerGesture->Line1_; }
+    Timer& mouseInTimer() { return *core().mouse->tmrMouseIn_; }
+    Timer& mouseActionTimer() { return *core().mouse->tmrMouseAction_; }
+    const ListViewArtwork& artwork() { return core().painting->artwork(); }
     bool ArrDim(const Variant& which) { return list_.ArrDim(which); }
-    Long ColumnHeight() { return list_.ColumnHeight(); }
-    Long VisibleItems() { return list_.VisibleItems(); }
-    OLE_COLOR aktValueColor() { return list_.aktValueColor(); }
-    void CheckForRedraw() { list_.CheckForRedraw(); }
-    void verticalChange() { list_.VS_Change(); }
-    void verticalScroll() { list_.VS_Scroll(); }
-    void horizontalScroll() { list_.HS_Scroll(); }
-    Single topInset() const { return list_.topInset_; }
-    void MouseOut(Single x, Single y) { list_.MouseOut(x, y); }
-    void SetNewSelected(Long index) { list_.SetNewSelected(index); }
+    Long ColumnHeight() { return core().painting->ColumnHeight(); }
+    Long VisibleItems() { return core().scroller->VisibleItems(); }
+    OLE_COLOR aktValueColor() { return core().painting->aktValueColor(); }
+    void CheckForRedraw() { core().CheckForRedraw(); }
+    void verticalChange() { core().scroller->VS_Change(); }
+    void verticalScroll() { core().scroller->VS_Scroll(); }
+    void horizontalScroll() { core().scroller->HS_Scroll(); }
+    Single topInset() { return core().topInset(); }
+    void MouseOut(Single x, Single y) { core().mouse->MouseOut(x, y); }
+    void SetNewSelected(Long index) { core().selection->SetNewSelected(index); }
     /// In notches, up above 0.
     void turnWheel(Integer rotation) {
         Integer keys = 0;
         Single x = 0;
         Single y = 0;
-        list_.Wheel1_WheelScroll(rotation, keys, x, y);
+        core().scroller->Wheel1_WheelScroll(rotation, keys, x, y);
     }
-    void MoveItemUp(Long row, Long count) { list_.MoveItemUp(row, count); }
-    void MoveItemDown(Long row, Long count) { list_.MoveItemDown(row, count); }
-    QI* tips() { return list_.tips_.get(); }
-    const ControlLife& life() const { return list_.life_; }
+    void MoveItemUp(Long row, Long count) { core().rowDrag->MoveItemUp(row, count); }
+    void MoveItemDown(Long row, Long count) { core().rowDrag->MoveItemDown(row, count); }
+    QI* tips() { return core().mouse->tips_.get(); }
+    const ControlLife& life() { return core().life(); }
     void letAllowItemMoving(bool value) { list_.letAllowItemMoving(value); }
 
-    /// What `RowsClear` and `ColumnsClear` leave behind: one blank element and the flag False.
-    void clearRows() {
-        list_.rows_.clear();
-        list_.rows_.emplace_back();
-        list_.rowsAllocated_ = false;
-    }
-    void clearColumns() {
-        list_.columns_.clear();
-        list_.columns_.emplace_back();
-        list_.columnsAllocated_ = false;
-    }
+    /// What `RowsClear` and `ColumnsClear` leave behind.
+    void clearRows() { core().records.clearRows(); }
+    void clearColumns() { core().records.clearColumns(); }
 
   private:
     lmListView& list_;

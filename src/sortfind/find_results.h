@@ -1,8 +1,7 @@
 /// \file
-/// What a search leaves behind for the next.
+/// What a search says.
 #pragma once
 
-#include "ordering/number_list.h"
 #include "values/types.h"
 
 namespace lumtex {
@@ -14,15 +13,6 @@ struct FindResults {
     Long FindRow = 0;
     Long FindColumn = 0;
     bool operator==(const FindResults&) const = default;
-};
-
-struct FindState {
-    String findColumnSpec; ///< what `findColumnList` was read from
-    String findRowSpec;
-    NumberList findColumnList; ///< numbers from 1
-    NumberList findRowList;
-    Long findRowPos = 0; ///< where a continued search starts: positions in the lists, from 0
-    Long findColumnPos = 0;
 };
 
 } // namespace lumtex

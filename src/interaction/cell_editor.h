@@ -1,0 +1,53 @@
+/// \file
+/// The in-place editor, and the cell that it belongs to.
+#pragma once
+
+#include "model/list_view_core.h"
+#include "platform/text_box.h"
+
+namespace lumtex {
+
+/// Rows and columns of the last click count from 0, -1 for none.
+class CellEditor : private ListPart, private TextBoxClient {
+  public:
+    explicit CellEditor(ListViewCore& core);
+
+    /// See `lmListView`. `Row` and `Column` count from 1.
+    void SetEdit(const Variant& Row, const Variant& Column);
+    void StopEdit();
+    /// Takes the text over, as Enter does, if the editor is open.
+    void acceptIfOpen();
+
+    bool isOpen() const { return txtEdit_->Visible(); }
+    WindowHandle hWnd() const { return txtEdit_->hWnd(); }
+    /// The open editor follows its row; pixels of the surface.
+    void letTop(Single top) { txtEdit_->letTop(top); }
+
+    /// The cell of the last press or release on an item, or that of the editor.
+    Long lastClickRow() const { return edit_.lastClickRow; }
+    Long lastClickColumn() const { return edit_.lastClickColumn; }
+    bool isLastClick(Long row, Long column) const {
+        return edit_.lastClickColumn == column && edit_.lastClickRow == row;
+    }
+    void letLastClickRow(Long row) { edit_.lastClickRow = row; }
+    void letLastClickColumn(Long column) { edit_.lastClickColumn = column; }
+
+  private:
+    friend class ListViewInspector; ///< how tests look inside
+
+    struct State {
+        bool editActive = false;
+        Long lastClickColumn = 0;
+        Long lastClickRow = 0;
+    };
+
+    void editedRowIntoView(const Variant& Row, Procedure& p);
+    void dressEditor(const Variant& Row, const Variant& Column, Procedure& p);
+    void textBoxKeyPress(Integer& KeyAscii) override;
+    void textBoxLostFocus() override;
+
+    State edit_;
+    std::unique_ptr<TextBox> txtEdit_;
+};
+
+} // namespace lumtex

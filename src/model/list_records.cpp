@@ -1,0 +1,99 @@
+#include "model/list_records.h"
+
+#include "values/runtime_error.h"
+
+#include <utility>
+
+namespace lumtex {
+
+Long ListRecords::upperBoundOfRows() const {
+    if (rows_.empty())
+        throw RuntimeError(subscriptOutOfRange);
+    return static_cast<Long>(rows_.size()) - 1;
+}
+
+Long ListRecords::upperBoundOfColumns() const {
+    if (columns_.empty())
+        throw RuntimeError(subscriptOutOfRange);
+    return static_cast<Long>(columns_.size()) - 1;
+}
+
+RowRecord& ListRecords::recordAt(Long position) {
+    if (position < 0 || static_cast<std::size_t>(position) >= rows_.size())
+        throw RuntimeError(subscriptOutOfRange);
+    return rows_[static_cast<std::size_t>(position)];
+}
+
+RowRecord& ListRecords::rowAt(const Variant& Index) {
+    return recordAt(zeroBased(Index));
+}
+
+ColumnHeader& ListRecords::columnAt(Long position) {
+    if (position < 0 || static_cast<std::size_t>(position) >= columns_.size())
+        throw RuntimeError(subscriptOutOfRange);
+    std::unique_ptr<ColumnHeader>& slot = columns_[static_cast<std::size_t>(position)];
+    if (!slot)
+        slot = std::make_unique<ColumnHeader>();
+    return *slot;
+}
+
+ListRecords::Cell ListRecords::cellAt(const Variant& Row, const Variant& Column) {
+    Items& items = rowAt(Row).items;
+    // Wanted: a text is a key, and no cell has a key, so that a numeric text fails too.
+    if (Column.isString())
+        throw RuntimeError(invalidProcedureCall);
+    const Long number = Column.toLong();
+    if (number < 1 || static_cast<std::size_t>(number) > items.count())
+        throw RuntimeError(subscriptOutOfRange);
+    return {items, static_cast<std::size_t>(number) - 1};
+}
+
+void ListRecords::growRows() {
+    if (!rowsAllocated_)
+        rows_.clear();
+    rows_.emplace_back();
+    rowsAllocated_ = true;
+}
+
+void ListRecords::placeLastRow(Long position) {
+    RowRecord row = std::move(rows_.back());
+    std::move_backward(rows_.begin() + position, rows_.end() - 1, rows_.end());
+    rows_[static_cast<std::size_t>(position)] = std::move(row);
+}
+
+void ListRecords::reorderRows(std::span<const std::uint32_t> sources) {
+    std::vector<RowRecord> moved;
+    moved.reserve(sources.size());
+    for (const std::uint32_t source : sources)
+        moved.push_back(std::move(rows_[source]));
+    rows_ = std::move(moved);
+}
+
+Long ListRecords::growColumns() {
+    if (!columnsAllocated_)
+        columns_.clear();
+    columns_.emplace_back();
+    columnsAllocated_ = true;
+    return static_cast<Long>(columns_.size()) - 1;
+}
+
+void ListRecords::clearRows() {
+    rows_.clear();
+    rows_.emplace_back();
+    rowsAllocated_ = false;
+}
+
+void ListRecords::clearColumns() {
+    columns_.clear();
+    columns_.emplace_back();
+    columnsAllocated_ = false;
+}
+
+void ListRecords::release() {
+    rowsAllocated_ = false;
+    columnsAllocated_ = false;
+    std::vector<RowRecord>().swap(rows_);
+    std::vector<std::unique_ptr<ColumnHeader>>().swap(columns_);
+}
+
+} // namespace lumtex

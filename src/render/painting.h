@@ -1,0 +1,52 @@
+/// \file
+/// Painting the list, and what a pass leaves behind for the hit tests.
+#pragma once
+
+#include "drawing/artwork.h"
+#include "model/list_view_core.h"
+#include "render/paint_state.h"
+
+#include <span>
+
+namespace lumtex {
+
+class Painting : private ListPart {
+  public:
+    explicit Painting(ListViewCore& core);
+
+    /// See `lmListView`.
+    void Redraw();
+    void ClearListView();
+    void AutoColumnSize(std::span<const Variant> lColumns);
+
+    /// Until `release` no pass runs.
+    void hold() { state_.paintBusy = true; }
+    void release() { state_.paintBusy = false; }
+
+    Long ColumnHeight();
+    /// Unrounded, as all working coordinates are. `index` counts from 0.
+    Single columnWidthInPixels(Long index);
+    OLE_COLOR aktValueColor() const;
+    void DrawBorder();
+    /// Cuts the pieces of the hover bar from the strip that `Skin` holds.
+    void SplitSkin();
+    const ListViewArtwork& artwork() const { return artwork_; }
+
+    // Where the last pass put the columns; pixels of the surface
+
+    Long firstColumn() const { return state_.firstColumn; }
+    Single firstColumnX() const { return state_.firstColumnX; }
+    Single columnsRight() const { return state_.columnsRight; }
+
+  private:
+    friend class ListViewInspector; ///< how tests look inside
+
+    void paintDesignView();
+    void fitColumn(Long column, Procedure& p);
+
+    PaintState state_;
+    ListViewArtwork artwork_ = ListViewArtwork::standard();
+    std::unique_ptr<Surface> Picture1_; ///< measures, so that the list's own surface keeps its font
+};
+
+} // namespace lumtex

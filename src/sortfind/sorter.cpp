@@ -1,0 +1,101 @@
+#include "sortfind/sorter.h"
+
+#include "guards/error.h"
+#include "guards/ignoring_errors.h"
+#include "model/list_view.h"
+#include "ordering/quick_sort.h"
+#include "ordering/sort_by_keys.h"
+#include "sortfind/sort_by_statements.h"
+
+#include <algorithm>
+
+namespace lumtex {
+
+namespace {
+
+/// Whether anything is left of a text whose outer blanks are cut.
+bool holdsMoreThanBlanks(const CompactText& text) {
+    return text.visit([](auto units) {
+        return std::any_of(units.begin(), units.end(), [](char16_t unit) { return unit != u' '; });
+    });
+}
+
+} // namespace
+
+void Sorter::Sort(Long Column, cSortMode SortMode, cSortType SortType) {
+    if (records_.ColumnsCount() == 0 || records_.RowsCount() == 0 || Column > records_.ColumnsCount())
+        return;
+    Procedure p = procedure(u"Sort");
+    // Wanted: dropping the mark repaints and raises no SortDone.
+    if (Column == -1) {
+        state_.sortAscending = 0;
+        state_.sortColumn = -1;
+        core_.CheckForRedraw();
+        return;
+    }
+    state_.hasSortableText = anyTextInColumn(Column);
+    if (state_.hasSortableText && (SortMode == cAscending || SortMode == cDescending)) {
+        quickSort(Column, SortType, SortMode);
+        state_.sortAscending = SortMode == cAscending ? 1 : 0;
+        state_.sortColumn = Column - 1;
+    }
+    // Wanted: SortDone comes also where nothing was sorted, and the sort itself does not repaint.
+    p.raise([&] { core_.events().SortDone(); });
+}
+
+void Sorter::sortByClick(Long column) {
+    state_.sortColumn = column;
+    // Wanted: each click turns the direction, whichever column it falls on.
+    state_.sortAscending = state_.sortAscending == 0 ? 1 : 0;
+    // Wanted: a click on a header sorts as text, whatever the column holds.
+    Sort(state_.sortColumn + 1, state_.sortAscending == 0 ? cDescending : cAscending, cSortText);
+}
+
+void Sorter::forgetSort() {
+    state_.sortColumn = -1;
+    state_.sortAscending = 1;
+}
+
+/// Looks at every row, so that each cell that cannot be read is reported.
+bool Sorter::anyTextInColumn(Long Column) {
+    bool any = false;
+    const Long count = records_.RowsCount();
+    for (Long row = 1; row <= count; ++row) {
+        Items* const cells = row <= records_.RowsCount() ? records_.cellsOf(row, Column) : nullptr;
+        if (cells != nullptr)
+            any = holdsMoreThanBlanks((*cells)[static_cast<std::size_t>(Column) - 1].text()) || any;
+        else
+            list_.ItemText(row, Column);
+    }
+    return any;
+}
+
+void Sorter::quickSort(Long Column, cSortType SortType, cSortMode order) {
+    // Wanted: ListIndex, NewIndex, the top row and the anchors of the selection keep their numbers.
+    if (sortByKeys(Column, SortType, order))
+        return;
+    Procedure p = procedure(order == cDescending ? u"QuickSortDesc" : u"QuickSortAsc");
+    p.step([&] {
+        SortByStatements rows(list_, records_, p, Column, SortType, order);
+        lumtex::quickSort(rows, 0, records_.upperBoundOfRows());
+    });
+}
+
+/// False, with nothing done, where the statements must run one by one: they report something, or there is no
+/// memory for the keys.
+bool Sorter::sortByKeys(Long Column, cSortType SortType, cSortMode order) {
+    if (Column < 1 || (SortType != cSortText && SortType != cSortNumeric && SortType != cSortDate))
+        return false;
+    bool sorted = false;
+    ignoringErrors([&] {
+        const auto cell = static_cast<std::size_t>(Column) - 1;
+        const auto sources = orderByKeys(records_.rows(), cell, SortType, order, silentError());
+        if (!sources)
+            return;
+        records_.reorderRows(*sources);
+        sorted = true;
+    });
+    return sorted;
+}
+
+} // namespace lumtex
