@@ -23,16 +23,13 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         surface.textHeight(text);
         fuzz::require(surface.image() == before);
         surface.drawText(text, place, format);
-        if (input.flag()) {
-            surface.letCurrentX(input.single());
-            surface.letCurrentY(input.single());
-        }
+        const bool anywhere = input.flag();
+        const Single x = anywhere ? input.single() : 0;
+        const Single y = anywhere ? input.single() : 0;
         try {
-            surface.print(text);
+            surface.print(x, y, text);
         } catch (const RuntimeError& error) { // a place that no pixel has
             fuzz::require(error.number() == overflow);
-            surface.letCurrentX(0);
-            surface.letCurrentY(0);
         }
         fuzz::require(surface.textWidth({}) == 0);
     }

@@ -141,9 +141,7 @@ Bitmap contactSheet(Desktop& desktop, const std::vector<Scene>& scenes) {
         const std::size_t row = i / looks().size();
         const Single x = margin + static_cast<Single>(i % looks().size()) * (width + margin);
         const Single y = margin + static_cast<Single>(row) * (height + caption + margin);
-        sheet->letCurrentX(x);
-        sheet->letCurrentY(y);
-        sheet->print(fromUtf8(scenes[i].name));
+        sheet->print(x, y, fromUtf8(scenes[i].name));
         sheet->paintPicture(BitmapPicture(scenes[i].picture), x, y + caption, width, height);
     }
     return sheet->image();

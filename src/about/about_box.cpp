@@ -174,9 +174,9 @@ void LumtexAbout::paint() {
     for (const LabelForm& entry : labels) {
         surface.setFont(fontOf(entry));
         surface.letForeColor(entry.color);
-        surface.letCurrentX(static_cast<Single>(places_[entry.label].Left));
-        surface.letCurrentY(static_cast<Single>(places_[entry.label].Top));
-        surface.print(captions_[entry.label]);
+        surface.print(static_cast<Single>(places_[entry.label].Left),
+                      static_cast<Single>(places_[entry.label].Top),
+                      captions_[entry.label]);
     }
     window_->present();
 }

@@ -22,11 +22,8 @@ void DrawArrow(Surface& surface, Byte direction, Single x, Single y) {
         points = {rounded(x, y), rounded(x + 8, y), rounded(x + 4, y + 4)};
     else if (direction == 1)
         points = {rounded(x, y + 5), rounded(x + 8, y + 5), rounded(x + 4, y)};
-    surface.letFillStyle(FillStyle::solid);
     surface.letForeColor(arrowColor);
-    surface.letFillColor(arrowColor);
-    surface.polygon(points);
-    surface.letFillStyle(FillStyle::transparent);
+    surface.polygon(points, arrowColor);
 }
 
 } // namespace lumtex

@@ -11,12 +11,6 @@
 
 namespace lumtex {
 
-/// How `polygon` fills: the inside is painted in FillColor, or left as it is.
-enum class FillStyle : Integer {
-    solid = 0,
-    transparent = 1,
-};
-
 /// Format bits of `drawText`; left, centre and right are 0, 1 and 2.
 enum TextFormat : Long {
     dtLeft = 0x0,
@@ -26,6 +20,14 @@ enum TextFormat : Long {
     dtSingleLine = 0x20,
     dtCalcRect = 0x400,
     dtWordEllipsis = 0x40000,
+};
+
+/// A rectangle in whole or broken pixels.
+struct Area {
+    Single x = 0;
+    Single y = 0;
+    Single width = 0;
+    Single height = 0;
 };
 
 /// A device-independent bitmap of 24 bits per pixel: blue, green, red; the first row is the lowest; each row
@@ -41,6 +43,8 @@ struct Dib24 {
 /// Coordinates are floating point and are rounded to whole pixels, ties to even; one that is not finite or
 /// does not fit throws RuntimeError 6. Everything is clipped to the surface. Colours may name system colours.
 /// Never null, owned by whoever made it; nothing keeps a picture or font beyond the call.
+///
+/// What can be said by other operations is, once for all backends; a backend leaves these as they are.
 class Surface {
   public:
     Surface() = default;
@@ -54,7 +58,7 @@ class Surface {
     virtual Double pixelsPerInchX() const = 0;
     virtual Double pixelsPerInchY() const = 0;
 
-    /// Clears to BackColor and moves the text cursor to (0, 0).
+    /// Clears to BackColor.
     virtual void Cls() = 0;
 
     virtual OLE_COLOR BackColor() const = 0;
@@ -63,52 +67,48 @@ class Surface {
     /// Colour of text and of a polygon's outline.
     virtual OLE_COLOR ForeColor() const = 0;
     virtual void letForeColor(OLE_COLOR color) = 0;
-    virtual OLE_COLOR FillColor() const = 0;
-    virtual void letFillColor(OLE_COLOR color) = 0;
-    virtual FillStyle fillStyle() const = 0;
-    virtual void letFillStyle(FillStyle style) = 0;
     virtual const FontSpec& font() const = 0;
     virtual void setFont(const FontSpec& font) = 0;
 
+    // Shapes
+
     /// One pixel wide; the last pixel is not set, so a line of no length sets none.
-    virtual void line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) = 0;
+    virtual void line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color);
     /// Outlined rectangle, both corners included.
-    virtual void box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) = 0;
+    virtual void box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color);
     /// Filled rectangle, both corners included, in whatever order they are given.
-    virtual void fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) = 0;
-    virtual void pset(Single x, Single y, OLE_COLOR color) = 0;
-    /// Filled in FillColor when `fillStyle` is solid, outlined in ForeColor. Alternate winding; the fill
-    /// leaves out right and lower edges, the outline covers them.
-    virtual void polygon(std::span<const Point> points) = 0;
+    virtual void fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color);
+    virtual void pset(Single x, Single y, OLE_COLOR color);
+    /// Filled in `fill`, outlined in ForeColor. Alternate winding; the fill leaves out right and lower edges,
+    /// the outline covers them.
+    virtual void polygon(std::span<const Point> points, OLE_COLOR fill) = 0;
+
+    /// As `line`.
+    virtual void drawLine(Point from, Point to, OLE_COLOR color) = 0;
+    /// `area` with its right and lower edges left out.
+    virtual void fillArea(const Rect& area, OLE_COLOR color) = 0;
+
+    // Pictures
 
     /// At its own size, from HIMETRIC units.
-    virtual void paintPicture(const Picture& picture, Single x, Single y) = 0;
+    virtual void paintPicture(const Picture& picture, Single x, Single y);
     /// Stretched to `width` x `height` pixels; nothing for a size of zero or less.
-    virtual void paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) = 0;
-    /// A part of the picture, in pixels of the picture, copied to a rectangle. What lies outside the picture
-    /// is not painted.
-    virtual void paintPicture(const Picture& picture,
-                              Single x,
-                              Single y,
-                              Single width,
-                              Single height,
-                              Single sourceX,
-                              Single sourceY,
-                              Single sourceWidth,
-                              Single sourceHeight) = 0;
+    virtual void paintPicture(const Picture& picture, Single x, Single y, Single width, Single height);
+    /// A part of the picture, in pixels of the picture, copied to `target`. What lies outside the picture is
+    /// not painted.
+    virtual void paintPicture(const Picture& picture, const Area& target, const Area& part);
+
+    /// Lays `part` of `source` over `target`, blended, both without their right and lower edges; `part` lies
+    /// inside `source`. Enlarging repeats the nearest pixel, reducing takes the average.
+    virtual void blendPicture(const Bitmap& source, const Rect& part, const Rect& target) = 0;
     /// Stretches `source` over the target by plain copy; a target without extent paints nothing.
     virtual void stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) = 0;
 
-    /// Text cursor, used by `print` alone.
-    virtual Single CurrentX() const = 0;
-    virtual Single CurrentY() const = 0;
-    virtual void letCurrentX(Single x) = 0;
-    virtual void letCurrentY(Single y) = 0;
     // A text ends at its first zero character when it is drawn or measured for drawing; `textWidth` and
     // `textHeight` count all of it.
 
-    /// Writes at the text cursor in ForeColor, then moves the cursor to the start of the next line.
-    virtual void print(StringView text) = 0;
+    /// Writes one line in ForeColor, from its left upper corner.
+    virtual void print(Single x, Single y, StringView text) = 0;
 
     /// Extent in the current font, in whole pixels. The height of a text is its lines times the line height.
     virtual Single textWidth(StringView text) = 0;

@@ -2,7 +2,6 @@
 
 #include "raster/system_colors.h"
 #include "raster/text_painter.h"
-#include "values/picture_part.h"
 #include "values/picture_scale.h"
 #include "values/pixels.h"
 #include "values/rounding.h"
@@ -32,11 +31,6 @@ Pixel pixelOf(OLE_COLOR color) {
 
 Point rounded(Single x, Single y) {
     return {roundToLong(x), roundToLong(y)};
-}
-
-/// Just past a pixel, without leaving 32 bits.
-constexpr Long past(Long coordinate) {
-    return coordinate == 0x7FFFFFFF ? coordinate : coordinate + 1;
 }
 
 } // namespace
@@ -83,8 +77,6 @@ std::span<const std::uint32_t> RasterSurface::pixels() {
 
 void RasterSurface::Cls() {
     clearing_ = pixelOf(backColor_);
-    currentX_ = 0;
-    currentY_ = 0;
 }
 
 void RasterSurface::letBackColor(OLE_COLOR color) {
@@ -105,69 +97,23 @@ raster::Typeface& RasterSurface::typeface() {
     return *typeface_;
 }
 
-void RasterSurface::line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) {
-    raster::drawLine(canvas(), rounded(x1, y1), rounded(x2, y2), pixelOf(color));
+void RasterSurface::drawLine(Point from, Point to, OLE_COLOR color) {
+    raster::drawLine(canvas(), from, to, pixelOf(color));
 }
 
-void RasterSurface::box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) {
-    const Point a = rounded(x1, y1);
-    const Point b = rounded(x2, y2);
-    const auto [left, right] = std::minmax(a.x, b.x);
-    const auto [top, bottom] = std::minmax(a.y, b.y);
+void RasterSurface::fillArea(const Rect& area, OLE_COLOR color) {
+    raster::fillArea(canvas(), area, pixelOf(color));
+}
+
+void RasterSurface::polygon(std::span<const Point> points, OLE_COLOR fill) {
     const Canvas target = canvas();
-    const Pixel pixel = pixelOf(color);
-    raster::fillArea(target, {left, top, past(right), past(top)}, pixel);
-    raster::fillArea(target, {left, bottom, past(right), past(bottom)}, pixel);
-    raster::fillArea(target, {left, top, past(left), past(bottom)}, pixel);
-    raster::fillArea(target, {right, top, past(right), past(bottom)}, pixel);
-}
-
-void RasterSurface::fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) {
-    const Point a = rounded(x1, y1);
-    const Point b = rounded(x2, y2);
-    const auto [left, right] = std::minmax(a.x, b.x);
-    const auto [top, bottom] = std::minmax(a.y, b.y);
-    raster::fillArea(canvas(), {left, top, past(right), past(bottom)}, pixelOf(color));
-}
-
-void RasterSurface::pset(Single x, Single y, OLE_COLOR color) {
-    fillBox(x, y, x, y, color);
-}
-
-void RasterSurface::polygon(std::span<const Point> points) {
-    const Canvas target = canvas();
-    if (fillStyle_ == FillStyle::solid)
-        raster::fillPolygon(target, points, pixelOf(fillColor_));
+    raster::fillPolygon(target, points, pixelOf(fill));
     for (std::size_t i = 0; i < points.size(); ++i)
         raster::drawLine(target, points[i], points[(i + 1) % points.size()], pixelOf(foreColor_));
 }
 
-void RasterSurface::paintPicture(const Picture& picture, Single x, Single y) {
-    const Point size = pictureSize(*this, picture);
-    paintPicture(picture, x, y, static_cast<Single>(size.x), static_cast<Single>(size.y));
-}
-
-void RasterSurface::paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) {
-    const Bitmap& source = picture.bitmap();
-    const Point at = rounded(x, y);
-    const Point end = {roundToLong(static_cast<Double>(at.x) + roundToLong(width)),
-                       roundToLong(static_cast<Double>(at.y) + roundToLong(height))};
-    raster::blendPicture(canvas(), source, {0, 0, source.width, source.height}, {at.x, at.y, end.x, end.y});
-}
-
-void RasterSurface::paintPicture(const Picture& picture,
-                                 Single x,
-                                 Single y,
-                                 Single width,
-                                 Single height,
-                                 Single sourceX,
-                                 Single sourceY,
-                                 Single sourceWidth,
-                                 Single sourceHeight) {
-    const Bitmap& source = picture.bitmap();
-    const PicturePart part =
-        picturePart(source, x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight);
-    raster::blendPicture(canvas(), source, part.source, part.target);
+void RasterSurface::blendPicture(const Bitmap& source, const Rect& part, const Rect& target) {
+    raster::blendPicture(canvas(), source, part, target);
 }
 
 void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) {
@@ -191,15 +137,13 @@ void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const
     }
 }
 
-void RasterSurface::print(StringView text) {
+void RasterSurface::print(Single x, Single y, StringView text) {
     const StringView drawn = drawnPart(text);
     const Canvas target = canvas();
     raster::TextPainter painter(
         target, typeface(), pixelOf(foreColor_), font_.Underline, font_.Strikethrough);
-    const Point at = rounded(currentX_, currentY_);
+    const Point at = rounded(x, y);
     painter.drawLine(drawn, at.x, at.y, target.bounds());
-    currentX_ = 0;
-    currentY_ += textHeight(text);
 }
 
 Single RasterSurface::textWidth(StringView text) {

@@ -34,37 +34,16 @@ class RasterSurface final : public Surface {
     void letBackColor(OLE_COLOR color) override;
     OLE_COLOR ForeColor() const override { return foreColor_; }
     void letForeColor(OLE_COLOR color) override { foreColor_ = color; }
-    OLE_COLOR FillColor() const override { return fillColor_; }
-    void letFillColor(OLE_COLOR color) override { fillColor_ = color; }
-    FillStyle fillStyle() const override { return fillStyle_; }
-    void letFillStyle(FillStyle style) override { fillStyle_ = style; }
     const FontSpec& font() const override { return font_; }
     void setFont(const FontSpec& font) override;
 
-    void line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override;
-    void box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override;
-    void fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override;
-    void pset(Single x, Single y, OLE_COLOR color) override;
-    void polygon(std::span<const Point> points) override;
-
-    void paintPicture(const Picture& picture, Single x, Single y) override;
-    void paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) override;
-    void paintPicture(const Picture& picture,
-                      Single x,
-                      Single y,
-                      Single width,
-                      Single height,
-                      Single sourceX,
-                      Single sourceY,
-                      Single sourceWidth,
-                      Single sourceHeight) override;
+    void polygon(std::span<const Point> points, OLE_COLOR fill) override;
+    void drawLine(Point from, Point to, OLE_COLOR color) override;
+    void fillArea(const Rect& area, OLE_COLOR color) override;
+    void blendPicture(const Bitmap& source, const Rect& part, const Rect& target) override;
     void stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) override;
 
-    Single CurrentX() const override { return currentX_; }
-    Single CurrentY() const override { return currentY_; }
-    void letCurrentX(Single x) override { currentX_ = x; }
-    void letCurrentY(Single y) override { currentY_ = y; }
-    void print(StringView text) override;
+    void print(Single x, Single y, StringView text) override;
     Single textWidth(StringView text) override;
     Single textHeight(StringView text) override;
     Long drawText(StringView text, Rect& rect, Long format) override;
@@ -84,13 +63,9 @@ class RasterSurface final : public Surface {
     std::optional<raster::Pixel> clearing_;
     OLE_COLOR backColor_ = white;
     OLE_COLOR foreColor_ = black;
-    OLE_COLOR fillColor_ = black;
-    FillStyle fillStyle_ = FillStyle::transparent;
     FontSpec font_{.Name = u"Verdana", .Size = 9.75F};
     std::shared_ptr<raster::FontLibrary> fonts_;
     std::shared_ptr<raster::Typeface> typeface_; ///< of `font_`; found when first needed
-    Single currentX_ = 0;
-    Single currentY_ = 0;
     String scratch_;
 };
 

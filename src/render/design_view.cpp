@@ -24,6 +24,7 @@ void Painting::paintDesignView() {
         surface.setFont(properties_.DefaultItemFont->spec);
     });
     p.step([&] { surface.letForeColor(properties_.DefaultColumnForeColor); });
+    Single left = 0;
     if (properties_.Style == cCheckBoxes) {
         p.step([&] {
             const Picture& box = *artwork_.img[1];
@@ -32,13 +33,12 @@ void Painting::paintDesignView() {
         });
         p.step([&] {
             const auto boxWidth = static_cast<Single>(GetPictureWidth(surface, *artwork_.img[2]));
-            surface.letCurrentX(margin + boxWidth + margin);
+            left = margin + boxWidth + margin;
         });
     } else {
-        p.step([&] { surface.letCurrentX(margin); });
+        left = margin;
     }
-    p.step([&] { surface.letCurrentY(margin); });
-    p.step([&] { surface.print(core_.host().extenderName()); });
+    p.step([&] { surface.print(left, margin, core_.host().extenderName()); });
     if (properties_.BorderVisible)
         DrawBorder();
     p.step([&] { window_.present(); });

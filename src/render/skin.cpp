@@ -32,14 +32,8 @@ void Painting::SplitSkin() {
         p.step([&] {
             const auto width = static_cast<Single>(pieces[i].width);
             pSkin->paintPicture(*source,
-                                0,
-                                0,
-                                width,
-                                stripHeight,
-                                static_cast<Single>(pieces[i].sourceX),
-                                0,
-                                width,
-                                stripHeight);
+                                {0, 0, width, stripHeight},
+                                {static_cast<Single>(pieces[i].sourceX), 0, width, stripHeight});
         });
         p.step([&] { artwork_.imgCol[i] = std::make_shared<PixelArt>(pSkin->image()); });
     }

@@ -29,19 +29,7 @@ Cut cut(Long start, Long extent, Long limit, Long target, Long targetExtent) {
 
 } // namespace
 
-PicturePart picturePart(const Bitmap& picture,
-                        Single x,
-                        Single y,
-                        Single width,
-                        Single height,
-                        Single sourceX,
-                        Single sourceY,
-                        Single sourceWidth,
-                        Single sourceHeight) {
-    const Point at{roundToLong(x), roundToLong(y)};
-    const Point size{roundToLong(width), roundToLong(height)};
-    const Point from{roundToLong(sourceX), roundToLong(sourceY)};
-    const Point part{roundToLong(sourceWidth), roundToLong(sourceHeight)};
+PicturePart picturePart(const Bitmap& picture, Point at, Point size, Point from, Point part) {
     if (size.x <= 0 || size.y <= 0 || part.x <= 0 || part.y <= 0)
         return {};
     const Cut columns = cut(from.x, part.x, picture.width, at.x, size.x);

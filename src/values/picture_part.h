@@ -14,16 +14,8 @@ struct PicturePart {
     bool isEmpty() const { return source.Left >= source.Right || source.Top >= source.Bottom; }
 };
 
-/// The arguments of `Surface::paintPicture`, rounded. What lies outside the picture is cut off on both sides
-/// of the copy. Throws RuntimeError 6 if a coordinate does not fit.
-PicturePart picturePart(const Bitmap& picture,
-                        Single x,
-                        Single y,
-                        Single width,
-                        Single height,
-                        Single sourceX,
-                        Single sourceY,
-                        Single sourceWidth,
-                        Single sourceHeight);
+/// The copy of `part` pixels of the picture, from `from` on, to `size` pixels at `at`. What lies outside the
+/// picture is cut off on both sides of the copy. Throws RuntimeError 6 if a coordinate does not fit.
+PicturePart picturePart(const Bitmap& picture, Point at, Point size, Point from, Point part);
 
 } // namespace lumtex

@@ -25,48 +25,18 @@ class FailingSurface final : public Surface {
     void letBackColor(OLE_COLOR color) override { may().letBackColor(color); }
     OLE_COLOR ForeColor() const override { return inner_.ForeColor(); }
     void letForeColor(OLE_COLOR color) override { may().letForeColor(color); }
-    OLE_COLOR FillColor() const override { return inner_.FillColor(); }
-    void letFillColor(OLE_COLOR color) override { may().letFillColor(color); }
-    FillStyle fillStyle() const override { return inner_.fillStyle(); }
-    void letFillStyle(FillStyle style) override { may().letFillStyle(style); }
     const FontSpec& font() const override { return inner_.font(); }
     void setFont(const FontSpec& font) override { may().setFont(font); }
-    void line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override {
-        may().line(x1, y1, x2, y2, color);
-    }
-    void box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override {
-        may().box(x1, y1, x2, y2, color);
-    }
-    void fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override {
-        may().fillBox(x1, y1, x2, y2, color);
-    }
-    void pset(Single x, Single y, OLE_COLOR color) override { may().pset(x, y, color); }
-    void polygon(std::span<const Point> points) override { may().polygon(points); }
-    void paintPicture(const Picture& picture, Single x, Single y) override {
-        may().paintPicture(picture, x, y);
-    }
-    void paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) override {
-        may().paintPicture(picture, x, y, width, height);
-    }
-    void paintPicture(const Picture& picture,
-                      Single x,
-                      Single y,
-                      Single width,
-                      Single height,
-                      Single sourceX,
-                      Single sourceY,
-                      Single sourceWidth,
-                      Single sourceHeight) override {
-        may().paintPicture(picture, x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight);
+    void polygon(std::span<const Point> points, OLE_COLOR fill) override { may().polygon(points, fill); }
+    void drawLine(Point from, Point to, OLE_COLOR color) override { may().drawLine(from, to, color); }
+    void fillArea(const Rect& area, OLE_COLOR color) override { may().fillArea(area, color); }
+    void blendPicture(const Bitmap& source, const Rect& part, const Rect& target) override {
+        may().blendPicture(source, part, target);
     }
     void stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) override {
         may().stretchDIBits(x, y, width, height, source);
     }
-    Single CurrentX() const override { return inner_.CurrentX(); }
-    Single CurrentY() const override { return inner_.CurrentY(); }
-    void letCurrentX(Single x) override { may().letCurrentX(x); }
-    void letCurrentY(Single y) override { may().letCurrentY(y); }
-    void print(StringView text) override { may().print(text); }
+    void print(Single x, Single y, StringView text) override { may().print(x, y, text); }
     Single textWidth(StringView text) override { return may().textWidth(text); }
     Single textHeight(StringView text) override { return may().textHeight(text); }
     Long drawText(StringView text, Rect& rect, Long format) override {

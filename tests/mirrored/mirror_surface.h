@@ -48,67 +48,26 @@ class MirrorSurface final : public Surface {
     void letForeColor(OLE_COLOR color) override {
         both([&](Surface& surface) { surface.letForeColor(color); });
     }
-    OLE_COLOR FillColor() const override { return software_.FillColor(); }
-    void letFillColor(OLE_COLOR color) override {
-        both([&](Surface& surface) { surface.letFillColor(color); });
-    }
-    FillStyle fillStyle() const override { return software_.fillStyle(); }
-    void letFillStyle(FillStyle style) override {
-        both([&](Surface& surface) { surface.letFillStyle(style); });
-    }
     const FontSpec& font() const override { return software_.font(); }
     void setFont(const FontSpec& font) override {
         both([&](Surface& surface) { surface.setFont(font); });
     }
-    void line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override {
-        both([&](Surface& surface) { surface.line(x1, y1, x2, y2, color); });
+    void polygon(std::span<const Point> points, OLE_COLOR fill) override {
+        both([&](Surface& surface) { surface.polygon(points, fill); });
     }
-    void box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override {
-        both([&](Surface& surface) { surface.box(x1, y1, x2, y2, color); });
+    void drawLine(Point from, Point to, OLE_COLOR color) override {
+        both([&](Surface& surface) { surface.drawLine(from, to, color); });
     }
-    void fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override {
-        both([&](Surface& surface) { surface.fillBox(x1, y1, x2, y2, color); });
+    void fillArea(const Rect& area, OLE_COLOR color) override {
+        both([&](Surface& surface) { surface.fillArea(area, color); });
     }
-    void pset(Single x, Single y, OLE_COLOR color) override {
-        both([&](Surface& surface) { surface.pset(x, y, color); });
-    }
-    void polygon(std::span<const Point> points) override {
-        both([&](Surface& surface) { surface.polygon(points); });
-    }
-    void paintPicture(const Picture& picture, Single x, Single y) override {
-        both([&](Surface& surface) { surface.paintPicture(picture, x, y); });
-    }
-    void paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) override {
-        both([&](Surface& surface) { surface.paintPicture(picture, x, y, width, height); });
-    }
-    void paintPicture(const Picture& picture,
-                      Single x,
-                      Single y,
-                      Single width,
-                      Single height,
-                      Single sourceX,
-                      Single sourceY,
-                      Single sourceWidth,
-                      Single sourceHeight) override {
-        both([&](Surface& surface) {
-            surface.paintPicture(picture, x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight);
-        });
+    void blendPicture(const Bitmap& source, const Rect& part, const Rect& target) override {
+        both([&](Surface& surface) { surface.blendPicture(source, part, target); });
     }
     void stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) override {
         both([&](Surface& surface) { surface.stretchDIBits(x, y, width, height, source); });
     }
-    Single CurrentX() const override { return software_.CurrentX(); }
-    Single CurrentY() const override { return software_.CurrentY(); }
-    void letCurrentX(Single x) override {
-        both([&](Surface& surface) { surface.letCurrentX(x); });
-    }
-    void letCurrentY(Single y) override {
-        both([&](Surface& surface) { surface.letCurrentY(y); });
-    }
-    void print(StringView text) override {
-        letCurrentX(0);
-        letCurrentY(CurrentY() + textHeight(text));
-    }
+    void print(Single /*x*/, Single /*y*/, StringView text) override { textHeight(text); }
     Single textWidth(StringView text) override {
         return measured(software_.textWidth(text), windows_.textWidth(text));
     }

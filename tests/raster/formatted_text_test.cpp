@@ -86,9 +86,7 @@ TEST_F(FormattedText, EndsAtItsFirstZeroCharacter) {
         surface.Cls();
         Rect rect{10, 10, 190, 50};
         surface.drawText(each, rect, dtLeft);
-        surface.letCurrentX(100);
-        surface.letCurrentY(30);
-        surface.print(each);
+        surface.print(100, 30, each);
         return surface.image().pixels;
     };
     EXPECT_EQ(painted(text), painted(u"HH"));

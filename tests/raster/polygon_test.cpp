@@ -12,10 +12,8 @@ constexpr Long smallest = std::numeric_limits<Long>::min();
 class Polygon : public SurfaceTest {
   protected:
     void solid(std::span<const Point> points, OLE_COLOR fill, OLE_COLOR outline) {
-        surface.letFillStyle(FillStyle::solid);
-        surface.letFillColor(fill);
         surface.letForeColor(outline);
-        surface.polygon(points);
+        surface.polygon(points, fill);
     }
 };
 
@@ -53,21 +51,6 @@ TEST_F(Polygon, FillLeavesOutRightAndLowerEdgesWhichTheOutlineCovers) {
               ".......\n");
 }
 
-TEST_F(Polygon, TransparentFillLeavesTheInsideAsItIs) {
-    surface.fillBox(0, 0, 11, 5, yellow);
-    surface.letFillStyle(FillStyle::transparent);
-    surface.letFillColor(green);
-    surface.letForeColor(black);
-    surface.polygon(std::array<Point, 4>{{{2, 1}, {6, 1}, {6, 4}, {2, 4}}});
-    EXPECT_EQ(shown({1, 0, 8, 6}),
-              "yyyyyyy\n"
-              "y#####y\n"
-              "y#yyy#y\n"
-              "y#yyy#y\n"
-              "y#####y\n"
-              "yyyyyyy\n");
-}
-
 TEST_F(Polygon, WindsAlternately) {
     // One square in another, walked in the same direction and joined by a line that is walked twice.
     const std::array<Point, 10> frame{{{0, 0},
@@ -86,15 +69,14 @@ TEST_F(Polygon, WindsAlternately) {
 }
 
 TEST_F(Polygon, OfFewOrEqualPointsIsSafe) {
-    surface.letFillStyle(FillStyle::solid);
-    surface.polygon({});
-    surface.polygon(std::array<Point, 1>{{{3, 3}}});
-    surface.polygon(std::array<Point, 3>{{{3, 3}, {3, 3}, {3, 3}}});
+    surface.polygon({}, black);
+    surface.polygon(std::array<Point, 1>{{{3, 3}}}, black);
+    surface.polygon(std::array<Point, 3>{{{3, 3}, {3, 3}, {3, 3}}}, black);
     EXPECT_EQ(inkOf(surface.image()), Rect{});
 }
 
 TEST_F(Polygon, OfTwoPointsIsALineThereAndBack) {
-    surface.polygon(std::array<Point, 2>{{{2, 2}, {5, 2}}});
+    surface.polygon(std::array<Point, 2>{{{2, 2}, {5, 2}}}, green);
     EXPECT_EQ(inkOf(surface.image()), (Rect{2, 2, 6, 3}));
 }
 
@@ -124,17 +106,6 @@ TEST_F(Polygon, FromEndToEndOf32BitsIsExact) {
     // The slanting side runs through (0, 0) with a slope of one.
     solid(std::array<Point, 3>{{{-largest, -largest}, {largest, largest}, {-largest, largest}}}, green, red);
     EXPECT_EQ(shown({0, 0, 6, 3}), "r.....\ngr....\nggr...\n");
-}
-
-TEST_F(Polygon, KeepsItsFillStateForTheNextOne) {
-    surface.letFillStyle(FillStyle::solid);
-    surface.letFillColor(green);
-    surface.letForeColor(red);
-    EXPECT_EQ(surface.fillStyle(), FillStyle::solid);
-    EXPECT_EQ(surface.FillColor(), green);
-    EXPECT_EQ(surface.ForeColor(), red);
-    surface.letFillStyle(FillStyle::transparent);
-    EXPECT_EQ(surface.fillStyle(), FillStyle::transparent);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "surface_fixture.h"
+#include "values/runtime_error.h"
 
 namespace lumtex::testing {
 namespace {
@@ -7,15 +8,11 @@ class Clearing : public SurfaceTest {};
 class Resize : public SurfaceTest {};
 class SurfaceState : public SurfaceTest {};
 
-TEST_F(Clearing, ClsClearsToBackColorAndMovesTheTextCursor) {
+TEST_F(Clearing, ClsClearsToBackColor) {
     surface.letBackColor(yellow);
     surface.fillBox(0, 0, 3, 3, black);
-    surface.letCurrentX(5);
-    surface.letCurrentY(7);
     surface.Cls();
     EXPECT_EQ(shown({0, 0, 4, 2}), "yyyy\nyyyy\n");
-    EXPECT_EQ(surface.CurrentX(), 0);
-    EXPECT_EQ(surface.CurrentY(), 0);
 }
 
 TEST_F(Clearing, AssigningBackColorFillsTheWholeSurface) {
@@ -30,12 +27,6 @@ TEST_F(Clearing, AssigningTheSameBackColorErasesAsWell) {
     surface.fillBox(0, 0, 11, 5, black);
     surface.letBackColor(surface.BackColor());
     EXPECT_EQ(inkOf(surface.image()), Rect{});
-}
-
-TEST_F(Clearing, AssigningBackColorLeavesTheTextCursor) {
-    surface.letCurrentX(5);
-    surface.letBackColor(blue);
-    EXPECT_EQ(surface.CurrentX(), 5);
 }
 
 TEST_F(Clearing, BackColorMayBeASystemColour) {
@@ -55,15 +46,17 @@ TEST_F(Clearing, HoldsUnderEveryOperationThatFollows) {
         [&] { surface.fillBox(0, 0, 2, 2, black); },
         [&] { surface.pset(0, 0, black); },
         [&] {
-            surface.polygon(std::array<Point, 2>{{{0, 0}, {3, 0}}});
+            surface.polygon(std::array<Point, 2>{{{0, 0}, {3, 0}}}, black);
         },
         [&] { surface.paintPicture(picture, 0, 0); },
         [&] { surface.paintPicture(picture, 0, 0, 3, 3); },
-        [&] { surface.paintPicture(picture, 0, 0, 1, 1, 0, 0, 1, 1); },
+        [&] {
+            surface.paintPicture(picture, {0, 0, 1, 1}, {0, 0, 1, 1});
+        },
         [&] {
             surface.stretchDIBits(0, 0, 2, 2, {1, 1, dib});
         },
-        [&] { surface.print(u"I"); },
+        [&] { surface.print(0, 0, u"I"); },
         [&] { surface.drawText(u"I", rect, dtLeft); },
     };
     for (const auto& operation : operations) {
@@ -115,19 +108,14 @@ TEST_F(Resize, ToNothingAndBackIsSafe) {
 
 TEST_F(Resize, LeavesStateAlone) {
     surface.letForeColor(red);
-    surface.letCurrentX(3);
     surface.resize(4, 4);
     EXPECT_EQ(surface.ForeColor(), red);
-    EXPECT_EQ(surface.CurrentX(), 3);
 }
 
-TEST_F(SurfaceState, ANewSurfaceIsWhiteWithBlackInkAndNoFill) {
+TEST_F(SurfaceState, ANewSurfaceIsWhiteWithBlackInk) {
     EXPECT_EQ(inkOf(surface.image()), Rect{});
     EXPECT_EQ(surface.BackColor(), white);
     EXPECT_EQ(surface.ForeColor(), black);
-    EXPECT_EQ(surface.fillStyle(), FillStyle::transparent);
-    EXPECT_EQ(surface.CurrentX(), 0);
-    EXPECT_EQ(surface.CurrentY(), 0);
 }
 
 TEST_F(SurfaceState, MeasuresNinetySixPixelsAnInch) {
@@ -148,6 +136,12 @@ TEST_F(SurfaceState, ImageIsOpaqueAndDoesNotFollowTheSurface) {
     EXPECT_EQ(before.at(0, 0), 0xFFFF0000U);
     for (const std::uint32_t pixel : before.pixels)
         EXPECT_EQ(pixel >> 24U, 0xFFU);
+}
+
+TEST_F(SurfaceState, APartOfAPictureWhosePlaceDoesNotFitThrows) {
+    const BitmapPicture picture(Bitmap(1, 1));
+    EXPECT_THROW(surface.paintPicture(picture, {infinite, 0, 1, 1}, {0, 0, 1, 1}), RuntimeError);
+    EXPECT_THROW(surface.paintPicture(picture, {0, 0, 1, 1}, {0, 3e9F, 1, 1}), RuntimeError);
 }
 
 } // namespace

@@ -40,10 +40,6 @@ class RecordingSurface final : public Surface {
         note("ForeColor " + hex(color));
         inner_.letForeColor(color);
     }
-    OLE_COLOR FillColor() const override { return inner_.FillColor(); }
-    void letFillColor(OLE_COLOR color) override { inner_.letFillColor(color); }
-    FillStyle fillStyle() const override { return inner_.fillStyle(); }
-    void letFillStyle(FillStyle style) override { inner_.letFillStyle(style); }
     const FontSpec& font() const override { return inner_.font(); }
     void setFont(const FontSpec& font) override {
         note("Font " + toUtf8(font.Name) + " " + number(font.Size));
@@ -65,12 +61,12 @@ class RecordingSurface final : public Surface {
         note("PSet " + number(x) + "," + number(y) + " " + hex(color));
         inner_.pset(x, y, color);
     }
-    void polygon(std::span<const Point> points) override {
+    void polygon(std::span<const Point> points, OLE_COLOR fill) override {
         std::string line = "Polygon";
         for (const Point point : points)
             line += " " + std::to_string(point.x) + "," + std::to_string(point.y);
         note(line);
-        inner_.polygon(points);
+        inner_.polygon(points, fill);
     }
     void paintPicture(const Picture& picture, Single x, Single y) override {
         note("Picture " + number(x) + "," + number(y));
@@ -80,17 +76,15 @@ class RecordingSurface final : public Surface {
         note("Picture " + number(x) + "," + number(y) + " " + number(width) + "x" + number(height));
         inner_.paintPicture(picture, x, y, width, height);
     }
-    void paintPicture(const Picture& picture,
-                      Single x,
-                      Single y,
-                      Single width,
-                      Single height,
-                      Single sourceX,
-                      Single sourceY,
-                      Single sourceWidth,
-                      Single sourceHeight) override {
+    void paintPicture(const Picture& picture, const Area& target, const Area& part) override {
         note("PicturePart");
-        inner_.paintPicture(picture, x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight);
+        inner_.paintPicture(picture, target, part);
+    }
+    // The operations above come here only on the surface inside.
+    void drawLine(Point from, Point to, OLE_COLOR color) override { inner_.drawLine(from, to, color); }
+    void fillArea(const Rect& area, OLE_COLOR color) override { inner_.fillArea(area, color); }
+    void blendPicture(const Bitmap& source, const Rect& part, const Rect& target) override {
+        inner_.blendPicture(source, part, target);
     }
     void stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) override {
         note("Stretch " + std::to_string(x) + "," + std::to_string(y) + " " + std::to_string(width) + "x" +
@@ -98,13 +92,9 @@ class RecordingSurface final : public Surface {
              std::to_string(source.height));
         inner_.stretchDIBits(x, y, width, height, source);
     }
-    Single CurrentX() const override { return inner_.CurrentX(); }
-    Single CurrentY() const override { return inner_.CurrentY(); }
-    void letCurrentX(Single x) override { inner_.letCurrentX(x); }
-    void letCurrentY(Single y) override { inner_.letCurrentY(y); }
-    void print(StringView text) override {
-        note("Print " + number(inner_.CurrentX()) + "," + number(inner_.CurrentY()) + " " + toUtf8(text));
-        inner_.print(text);
+    void print(Single x, Single y, StringView text) override {
+        note("Print " + number(x) + "," + number(y) + " " + toUtf8(text));
+        inner_.print(x, y, text);
     }
     Single textWidth(StringView text) override { return inner_.textWidth(text); }
     Single textHeight(StringView text) override { return inner_.textHeight(text); }

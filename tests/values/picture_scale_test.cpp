@@ -65,23 +65,17 @@ TEST(PictureScale, ABlockIsAveragedChannelByChannel) {
 }
 
 TEST(PicturePart, WhatLiesOutsideThePictureIsCutOffOnBothSides) {
-    const PicturePart part = picturePart(Bitmap(10, 10), 100, 200, 20, 40, -5, 8, 10, 4);
+    const PicturePart part = picturePart(Bitmap(10, 10), {100, 200}, {20, 40}, {-5, 8}, {10, 4});
     EXPECT_EQ(part.source, (Rect{0, 8, 5, 10}));
     EXPECT_EQ(part.target, (Rect{110, 200, 120, 220}));
 }
 
 TEST(PicturePart, NothingIsLeftOfAPartBesideThePictureOrWithoutExtent) {
-    EXPECT_TRUE(picturePart(Bitmap(10, 10), 0, 0, 5, 5, 10, 0, 5, 5).isEmpty());
-    EXPECT_TRUE(picturePart(Bitmap(10, 10), 0, 0, 5, 5, 0, -5, 5, 5).isEmpty());
-    EXPECT_TRUE(picturePart(Bitmap(10, 10), 0, 0, 0, 5, 0, 0, 5, 5).isEmpty());
-    EXPECT_TRUE(picturePart(Bitmap(10, 10), 0, 0, 5, 5, 0, 0, 5, -1).isEmpty());
-    EXPECT_TRUE(picturePart(Bitmap(), 0, 0, 5, 5, 0, 0, 5, 5).isEmpty());
-}
-
-TEST(PicturePart, CoordinatesThatDoNotFitThrow) {
-    const Single infinite = std::numeric_limits<Single>::infinity();
-    EXPECT_THROW(picturePart(Bitmap(1, 1), infinite, 0, 1, 1, 0, 0, 1, 1), RuntimeError);
-    EXPECT_THROW(picturePart(Bitmap(1, 1), 0, 0, 1, 1, 0, 3e9F, 1, 1), RuntimeError);
+    EXPECT_TRUE(picturePart(Bitmap(10, 10), {0, 0}, {5, 5}, {10, 0}, {5, 5}).isEmpty());
+    EXPECT_TRUE(picturePart(Bitmap(10, 10), {0, 0}, {5, 5}, {0, -5}, {5, 5}).isEmpty());
+    EXPECT_TRUE(picturePart(Bitmap(10, 10), {0, 0}, {0, 5}, {0, 0}, {5, 5}).isEmpty());
+    EXPECT_TRUE(picturePart(Bitmap(10, 10), {0, 0}, {5, 5}, {0, 0}, {5, -1}).isEmpty());
+    EXPECT_TRUE(picturePart(Bitmap(), {0, 0}, {5, 5}, {0, 0}, {5, 5}).isEmpty());
 }
 
 } // namespace

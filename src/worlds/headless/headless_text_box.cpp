@@ -166,9 +166,7 @@ Bitmap HeadlessTextBox::picture() const {
     const Single top = std::floor((static_cast<Single>(height_) - field->textHeight(u"X")) / 2);
     const auto printAt = [&](Single left, StringView part, OLE_COLOR color) {
         field->letForeColor(color);
-        field->letCurrentX(left);
-        field->letCurrentY(top);
-        field->print(part);
+        field->print(left, top, part);
     };
     printAt(textInset, text, foreColor_);
     if (anchor_ == caret_)

@@ -1,6 +1,5 @@
 #include "worlds/win32/gdi_surface.h"
 
-#include "values/rounding.h"
 #include "worlds/win32/gdi_color.h"
 #include "worlds/win32/screen_density.h"
 
@@ -21,15 +20,6 @@ constexpr Long farthestCorner = 0x7FFF;
 
 constexpr Long within(Long coordinate, Long limit) {
     return std::clamp(coordinate, -limit, limit);
-}
-
-Point rounded(Single x, Single y) {
-    return {roundToLong(x), roundToLong(y)};
-}
-
-/// Just past a pixel, without leaving 32 bits.
-constexpr Long past(Long coordinate) {
-    return coordinate == 0x7FFFFFFF ? coordinate : coordinate + 1;
 }
 
 } // namespace
@@ -78,8 +68,6 @@ void GdiSurface::present(HDC target) const {
 
 void GdiSurface::Cls() {
     fillArea({0, 0, width_, height_}, backColor_);
-    currentX_ = 0;
-    currentY_ = 0;
 }
 
 void GdiSurface::letBackColor(OLE_COLOR color) {
@@ -98,51 +86,21 @@ void GdiSurface::fillArea(const Rect& area, OLE_COLOR color) {
     PatBlt(memoryDc(), left, top, right - left, bottom - top, PATCOPY);
 }
 
-void GdiSurface::line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) {
-    const Point from = rounded(x1, y1);
-    const Point to = rounded(x2, y2);
+void GdiSurface::drawLine(Point from, Point to, OLE_COLOR color) {
     SetDCPenColor(memoryDc(), colorRef(color));
     MoveToEx(memoryDc(), within(from.x, farthest), within(from.y, farthest), nullptr);
     LineTo(memoryDc(), within(to.x, farthest), within(to.y, farthest));
 }
 
-void GdiSurface::box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) {
-    const Point a = rounded(x1, y1);
-    const Point b = rounded(x2, y2);
-    const auto [left, right] = std::minmax(a.x, b.x);
-    const auto [top, bottom] = std::minmax(a.y, b.y);
-    fillArea({left, top, past(right), past(top)}, color);
-    fillArea({left, bottom, past(right), past(bottom)}, color);
-    fillArea({left, top, past(left), past(bottom)}, color);
-    fillArea({right, top, past(right), past(bottom)}, color);
-}
-
-void GdiSurface::fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) {
-    const Point a = rounded(x1, y1);
-    const Point b = rounded(x2, y2);
-    const auto [left, right] = std::minmax(a.x, b.x);
-    const auto [top, bottom] = std::minmax(a.y, b.y);
-    fillArea({left, top, past(right), past(bottom)}, color);
-}
-
-void GdiSurface::pset(Single x, Single y, OLE_COLOR color) {
-    fillBox(x, y, x, y, color);
-}
-
-void GdiSurface::polygon(std::span<const Point> points) {
+void GdiSurface::polygon(std::span<const Point> points, OLE_COLOR fill) {
     std::vector<POINT> corners;
     corners.reserve(points.size());
     for (const Point point : points)
         corners.push_back({within(point.x, farthestCorner), within(point.y, farthestCorner)});
     const HDC dc = memoryDc();
     SetDCPenColor(dc, colorRef(foreColor_));
-    SetDCBrushColor(dc, colorRef(fillColor_));
-    const bool solid = fillStyle_ == FillStyle::solid;
-    if (!solid)
-        SelectObject(dc, GetStockObject(NULL_BRUSH));
+    SetDCBrushColor(dc, colorRef(fill));
     Polygon(dc, corners.data(), static_cast<int>(corners.size()));
-    if (!solid)
-        SelectObject(dc, GetStockObject(DC_BRUSH));
 }
 
 Bitmap GdiSurface::image() const {

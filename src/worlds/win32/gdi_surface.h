@@ -40,37 +40,16 @@ class GdiSurface final : public Surface {
     void letBackColor(OLE_COLOR color) override;
     OLE_COLOR ForeColor() const override { return foreColor_; }
     void letForeColor(OLE_COLOR color) override { foreColor_ = color; }
-    OLE_COLOR FillColor() const override { return fillColor_; }
-    void letFillColor(OLE_COLOR color) override { fillColor_ = color; }
-    FillStyle fillStyle() const override { return fillStyle_; }
-    void letFillStyle(FillStyle style) override { fillStyle_ = style; }
     const FontSpec& font() const override { return font_; }
     void setFont(const FontSpec& font) override;
 
-    void line(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override;
-    void box(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override;
-    void fillBox(Single x1, Single y1, Single x2, Single y2, OLE_COLOR color) override;
-    void pset(Single x, Single y, OLE_COLOR color) override;
-    void polygon(std::span<const Point> points) override;
-
-    void paintPicture(const Picture& picture, Single x, Single y) override;
-    void paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) override;
-    void paintPicture(const Picture& picture,
-                      Single x,
-                      Single y,
-                      Single width,
-                      Single height,
-                      Single sourceX,
-                      Single sourceY,
-                      Single sourceWidth,
-                      Single sourceHeight) override;
+    void polygon(std::span<const Point> points, OLE_COLOR fill) override;
+    void drawLine(Point from, Point to, OLE_COLOR color) override;
+    void fillArea(const Rect& area, OLE_COLOR color) override;
+    void blendPicture(const Bitmap& source, const Rect& part, const Rect& target) override;
     void stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) override;
 
-    Single CurrentX() const override { return currentX_; }
-    Single CurrentY() const override { return currentY_; }
-    void letCurrentX(Single x) override { currentX_ = x; }
-    void letCurrentY(Single y) override { currentY_ = y; }
-    void print(StringView text) override;
+    void print(Single x, Single y, StringView text) override;
     Single textWidth(StringView text) override;
     Single textHeight(StringView text) override;
     Long drawText(StringView text, Rect& rect, Long format) override;
@@ -78,10 +57,6 @@ class GdiSurface final : public Surface {
     Bitmap image() const override;
 
   private:
-    /// `area` with its right and lower edges left out, in so far as it lies on the surface.
-    void fillArea(const Rect& area, OLE_COLOR color);
-    /// Lays `part` of `source` over `target`, both without their right and lower edges.
-    void blendPicture(const Bitmap& source, const Rect& part, const Rect& target);
     /// Sets up a fresh context: modes, stock pen and brush.
     void prepare();
     /// The context with the current font and text colour.
@@ -95,11 +70,7 @@ class GdiSurface final : public Surface {
     Long pixelsPerInchY_;
     OLE_COLOR backColor_ = white;
     OLE_COLOR foreColor_ = black;
-    OLE_COLOR fillColor_ = black;
-    FillStyle fillStyle_ = FillStyle::transparent;
     FontSpec font_{.Name = u"Verdana", .Size = 9.75F};
-    Single currentX_ = 0;
-    Single currentY_ = 0;
     bool fontSelected_ =
         false; ///< the context holds the font that `font_` names; it is found when first needed
     /// The font that was selected last. Outlives the bitmap, whose context may hold it.

@@ -1,8 +1,6 @@
 /// Pictures on the surface of Windows.
-#include "values/picture_part.h"
 #include "values/picture_scale.h"
 #include "values/pixels.h"
-#include "values/rounding.h"
 #include "worlds/win32/dib_info.h"
 #include "worlds/win32/gdi_surface.h"
 
@@ -45,34 +43,6 @@ bool layOut(const Bitmap& source,
 }
 
 } // namespace
-
-void GdiSurface::paintPicture(const Picture& picture, Single x, Single y) {
-    const Point size = pictureSize(*this, picture);
-    paintPicture(picture, x, y, static_cast<Single>(size.x), static_cast<Single>(size.y));
-}
-
-void GdiSurface::paintPicture(const Picture& picture, Single x, Single y, Single width, Single height) {
-    const Bitmap& source = picture.bitmap();
-    const Point at{roundToLong(x), roundToLong(y)};
-    const Point end{roundToLong(static_cast<Double>(at.x) + roundToLong(width)),
-                    roundToLong(static_cast<Double>(at.y) + roundToLong(height))};
-    blendPicture(source, {0, 0, source.width, source.height}, {at.x, at.y, end.x, end.y});
-}
-
-void GdiSurface::paintPicture(const Picture& picture,
-                              Single x,
-                              Single y,
-                              Single width,
-                              Single height,
-                              Single sourceX,
-                              Single sourceY,
-                              Single sourceWidth,
-                              Single sourceHeight) {
-    const Bitmap& source = picture.bitmap();
-    const PicturePart part =
-        picturePart(source, x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight);
-    blendPicture(source, part.source, part.target);
-}
 
 // Stretched here and not by the system, whose versions differ in which pixels a shrunken picture keeps.
 void GdiSurface::blendPicture(const Bitmap& source, const Rect& part, const Rect& target) {

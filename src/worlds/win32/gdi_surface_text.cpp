@@ -53,13 +53,11 @@ HDC GdiSurface::textDc() {
     return dc;
 }
 
-void GdiSurface::print(StringView whole) {
+void GdiSurface::print(Single left, Single top, StringView whole) {
     const StringView text = drawnPart(whole);
-    const Long x = roundToLong(currentX_);
-    const Long y = roundToLong(currentY_);
+    const Long x = roundToLong(left);
+    const Long y = roundToLong(top);
     TextOutW(textDc(), within(x), within(y), start(text), static_cast<int>(text.size()));
-    currentX_ = 0;
-    currentY_ += textHeight(text);
 }
 
 Single GdiSurface::textWidth(StringView text) {

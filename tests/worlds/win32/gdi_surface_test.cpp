@@ -68,10 +68,10 @@ TEST(GdiSurface, ASurfaceWithoutExtentTakesEveryOperation) {
     surface.letBackColor(red);
     surface.line(0, 0, 5, 5, black);
     surface.box(0, 0, 5, 5, black);
-    surface.polygon(triangle);
+    surface.polygon(triangle, black);
     surface.paintPicture(picture, 0, 0);
     surface.drawText(u"text", rect, dtLeft);
-    surface.print(u"text");
+    surface.print(0, 0, u"text");
     surface.Cls();
     EXPECT_EQ(surface.scaleWidth(), 0);
     EXPECT_EQ(surface.scaleHeight(), 0);
@@ -139,12 +139,12 @@ TEST(GdiSurface, ManySurfacesLeaveNoDrawingObjectsBehind) {
     const auto use = [](int round) {
         GdiSurface surface(20, 20, 96, 96);
         surface.setFont({.Name = u"Courier New", .Size = static_cast<Single>(8 + round % 5)});
-        surface.print(u"text");
+        surface.print(0, 0, u"text");
         surface.paintPicture(BitmapPicture(Bitmap(3, 3, 0x80008000U)), 1, 1);
         surface.resize(30, 10);
-        surface.print(u"text");
+        surface.print(0, 0, u"text");
         const Point triangle[] = {{0, 0}, {5, 0}, {0, 5}};
-        surface.polygon(triangle);
+        surface.polygon(triangle, black);
     };
     for (int round = 0; round < 5; ++round)
         use(round);
@@ -160,7 +160,7 @@ TEST(GdiSurface, FontsThatAreNoLongerUsedAreLetGo) {
     const auto useSizes = [&](int first, int count) {
         for (int size = first; size < first + count; ++size) {
             surface.setFont({.Name = u"Courier New", .Size = static_cast<Single>(size)});
-            surface.print(u"x");
+            surface.print(0, 0, u"x");
         }
     };
     useSizes(10, 200);

@@ -98,12 +98,9 @@ TEST_F(SurfaceAgreement, Polygons) {
         for (Point& point : points)
             point = {dice.from(20 - reach, 20 + reach), dice.from(15 - reach, 15 + reach)};
         const bool outlined = dice.coin();
-        const FillStyle style = dice.from(0, 9) == 0 ? FillStyle::transparent : FillStyle::solid;
         both([&](Surface& surface) {
-            surface.letFillColor(green);
             surface.letForeColor(outlined ? red : green);
-            surface.letFillStyle(style);
-            surface.polygon(points);
+            surface.polygon(points, green);
         });
         ASSERT_TRUE(agree()) << "round " << round;
     }
@@ -113,10 +110,8 @@ TEST_F(SurfaceAgreement, PolygonsFarOutsideTakeNoTime) {
     const Point points[] = {
         {-2'000'000'000, -2'000'000'000}, {2'000'000'000, -2'000'000'000}, {5, 2'000'000'000}};
     both([&](Surface& surface) {
-        surface.letFillColor(green);
         surface.letForeColor(red);
-        surface.letFillStyle(FillStyle::solid);
-        surface.polygon(points);
+        surface.polygon(points, green);
     });
     EXPECT_TRUE(agree());
 }
@@ -154,14 +149,8 @@ TEST_F(SurfaceAgreement, PartsOfPictures) {
             place = static_cast<Single>(dice.from(-4, 20));
         both([&](Surface& surface) {
             surface.paintPicture(picture,
-                                 places[0],
-                                 places[1],
-                                 places[2],
-                                 places[3],
-                                 places[4],
-                                 places[5],
-                                 places[6],
-                                 places[7]);
+                                 {places[0], places[1], places[2], places[3]},
+                                 {places[4], places[5], places[6], places[7]});
         });
         ASSERT_TRUE(agree()) << "round " << round;
     }
@@ -241,9 +230,7 @@ TEST_F(SurfaceAgreement, LongRowsOfMixedOperations) {
             case 4:
                 return surface.paintPicture(picture, x1, y1, x2, y2);
             case 5:
-                surface.letFillStyle(FillStyle::solid);
-                surface.letFillColor(color);
-                return surface.polygon(points);
+                return surface.polygon(points, color);
             default:
                 return surface.letForeColor(color);
             }

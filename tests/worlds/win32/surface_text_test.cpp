@@ -159,12 +159,8 @@ TEST_F(SurfaceText, HugeTextsAndRectanglesAreDrawnAndMeasured) {
     EXPECT_EQ(windows.textWidth(text), 300'000 * windows.textWidth(u"x"));
 }
 
-TEST_F(SurfaceText, PrintStartsAtTheTextCursorAndMovesItToTheNextLine) {
-    windows.letCurrentX(7);
-    windows.letCurrentY(11);
-    windows.print(u"H");
-    EXPECT_EQ(windows.CurrentX(), 0);
-    EXPECT_EQ(windows.CurrentY(), 11 + windows.textHeight(u"H"));
+TEST_F(SurfaceText, PrintStartsAtItsPlace) {
+    windows.print(7, 11, u"H");
     const Rect ink = inkOf(windows.image());
     EXPECT_GE(ink.Left, 7);
     EXPECT_GE(ink.Top, 11);
@@ -202,9 +198,7 @@ TEST_F(SurfaceText, EndsAtItsFirstZeroCharacterWhenItIsDrawn) {
         windows.letBackColor(white);
         Rect rect{10, 2, 100, 50};
         windows.drawText(each, rect, dtLeft);
-        windows.letCurrentX(10);
-        windows.letCurrentY(30);
-        windows.print(each);
+        windows.print(10, 30, each);
         return windows.image().pixels;
     };
     EXPECT_EQ(painted(text), painted(u"HH"));
