@@ -45,10 +45,7 @@ void HeaderGesture::moveWithoutButton() {
 
 void HeaderGesture::moveOverHeaders(Single X, Single Y, Procedure& p) {
     if (state_.resizing) {
-        p.step([&] { Line1_->letY1(0); });
-        p.step([&] { Line1_->letY2(static_cast<Single>(window_.surface().scaleHeight())); });
-        p.step([&] { Line1_->letX1(X); });
-        p.step([&] { Line1_->letX2(X); });
+        p.step([&] { Line1_->place(X, static_cast<Single>(window_.surface().scaleHeight())); });
     }
     const auto height = static_cast<Single>(core_.painting->ColumnHeight());
     if (Y <= height)
@@ -78,10 +75,7 @@ void HeaderGesture::trackMouse(const ColumnSpan& span, Single headerHeight) {
     if (!properties_.FixColumns && mouse.lastButton() == leftButton && state_.resizeColumn != -1 &&
         state_.pressedColumn == -1 && !state_.resizing) {
         state_.resizing = true;
-        Line1_->letY1(0);
-        Line1_->letY2(static_cast<Single>(window_.surface().scaleHeight()));
-        Line1_->letX1(mouse.lastX());
-        Line1_->letX2(mouse.lastX());
+        Line1_->place(mouse.lastX(), static_cast<Single>(window_.surface().scaleHeight()));
         Line1_->letVisible(true);
         state_.pressPending = false;
     } else if (state_.pressPending && mouse.lastButton() == leftButton && !state_.resizing) {

@@ -14,15 +14,8 @@ class GuideLine {
     GuideLine& operator=(const GuideLine&) = delete;
     virtual ~GuideLine() = default;
 
-    virtual Single X1() const = 0;
-    virtual Single Y1() const = 0;
-    virtual Single X2() const = 0;
-    virtual Single Y2() const = 0;
-    /// Pixels of the parent's surface.
-    virtual void letX1(Single x) = 0;
-    virtual void letY1(Single y) = 0;
-    virtual void letX2(Single x) = 0;
-    virtual void letY2(Single y) = 0;
+    /// From the top of the parent's surface down, in its pixels.
+    virtual void place(Single x, Single height) = 0;
     virtual bool Visible() const = 0;
     virtual void letVisible(bool visible) = 0;
 };

@@ -306,10 +306,8 @@ TEST_F(PaintPassOrder, APressOnTheGripStartsAResize) {
     EXPECT_FALSE(inside.header().pressPending);
     EXPECT_EQ(inside.header().pressedColumn, -1);
     EXPECT_TRUE(inside.guide().Visible());
-    EXPECT_EQ(inside.guide().X1(), 57);
-    EXPECT_EQ(inside.guide().X2(), 57);
-    EXPECT_EQ(inside.guide().Y1(), 0);
-    EXPECT_EQ(inside.guide().Y2(), 100);
+    EXPECT_EQ(inside.drawnGuide().from(), (Point{57, 0}));
+    EXPECT_EQ(inside.drawnGuide().to(), (Point{57, 100}));
 }
 
 TEST_F(PaintPassOrder, WithFixedColumnsAPressOnTheGripPressesTheHeader) {

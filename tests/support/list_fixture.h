@@ -16,6 +16,7 @@
 #include "test_fonts.h"
 #include "test_host.h"
 #include "worlds/headless/desktop.h"
+#include "worlds/headless/headless_guide_line.h"
 #include "worlds/headless/headless_window.h"
 
 #include <gtest/gtest.h>
@@ -45,6 +46,8 @@ class ListViewInspector {
     lmHScroll& horizontal() { return core().scroller->horizontal(); }
     TextBox& editor() { return *core().editor->txtEdit_; }
     GuideLine& guide() { return *core().headerGesture->Line1_; }
+    /// Of a list on a Desktop.
+    HeadlessGuideLine& drawnGuide() { return static_cast<HeadlessGuideLine&>(guide()); }
     Timer& mouseInTimer() { return *core().mouse->tmrMouseIn_; }
     Timer& mouseActionTimer() { return *core().mouse->tmrMouseAction_; }
     const ListViewArtwork& artwork() { return core().painting->artwork(); }

@@ -27,10 +27,10 @@ HeadlessGuideLine::~HeadlessGuideLine() {
 }
 
 Point HeadlessGuideLine::from() const {
-    return {wholePixel(x1_), wholePixel(y1_)};
+    return {wholePixel(x_), 0};
 }
 Point HeadlessGuideLine::to() const {
-    return {wholePixel(x2_), wholePixel(y2_)};
+    return {wholePixel(x_), wholePixel(height_)};
 }
 
 } // namespace lumtex

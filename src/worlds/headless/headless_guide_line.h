@@ -12,14 +12,10 @@ class HeadlessGuideLine final : public GuideLine {
     explicit HeadlessGuideLine(HeadlessWindow& parent);
     ~HeadlessGuideLine() override;
 
-    Single X1() const override { return x1_; }
-    Single Y1() const override { return y1_; }
-    Single X2() const override { return x2_; }
-    Single Y2() const override { return y2_; }
-    void letX1(Single x) override { x1_ = x; }
-    void letY1(Single y) override { y1_ = y; }
-    void letX2(Single x) override { x2_ = x; }
-    void letY2(Single y) override { y2_ = y; }
+    void place(Single x, Single height) override {
+        x_ = x;
+        height_ = height;
+    }
     bool Visible() const override { return visible_; }
     void letVisible(bool visible) override { visible_ = visible; }
 
@@ -30,10 +26,8 @@ class HeadlessGuideLine final : public GuideLine {
 
   private:
     HeadlessWindow* parent_;
-    Single x1_ = 0;
-    Single y1_ = 0;
-    Single x2_ = 0;
-    Single y2_ = 0;
+    Single x_ = 0;
+    Single height_ = 0;
     bool visible_ = false;
 };
 

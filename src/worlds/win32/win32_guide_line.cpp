@@ -34,16 +34,17 @@ void Win32GuideLine::letVisible(bool visible) {
         parent_->present();
 }
 
-void Win32GuideLine::change(Single& coordinate, Single value) {
-    coordinate = value;
+void Win32GuideLine::place(Single x, Single height) {
+    x_ = x;
+    height_ = height;
     if (visible_ && parent_ != nullptr)
         parent_->present();
 }
 
 void Win32GuideLine::paintOn(HDC target) const {
     HGDIOBJ old = SelectObject(target, GetStockObject(BLACK_PEN));
-    MoveToEx(target, wholePixel(x1_), wholePixel(y1_), nullptr);
-    LineTo(target, wholePixel(x2_), wholePixel(y2_));
+    MoveToEx(target, wholePixel(x_), 0, nullptr);
+    LineTo(target, wholePixel(x_), wholePixel(height_));
     SelectObject(target, old);
 }
 

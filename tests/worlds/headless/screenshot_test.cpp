@@ -80,10 +80,7 @@ TEST_F(Screenshots, ShowTheGuideLineOnePixelWideUnderTheChildrenAndNotOnTheSurfa
     const auto b = child("b", *a, 0, 0, 100, 10);
     b->window().surface().letBackColor(asGreen);
     const auto line = desktop.createGuideLine(a->window());
-    line->letX1(30.5F);
-    line->letX2(30.5F);
-    line->letY1(0);
-    line->letY2(80);
+    line->place(30.5F, 80);
     EXPECT_EQ(desktop.screenshot(a->window()).at(30, 40), white);
     line->letVisible(true);
     const Bitmap picture = desktop.screenshot(a->window());
@@ -96,8 +93,7 @@ TEST_F(Screenshots, ShowTheGuideLineOnePixelWideUnderTheChildrenAndNotOnTheSurfa
 
 TEST_F(Screenshots, AGuideLineAtNoPlaceAtAllHarmsNothing) {
     const auto line = desktop.createGuideLine(a->window());
-    line->letX1(3e9F);
-    line->letY2(-2e9F);
+    line->place(3e9F, -2e9F);
     line->letVisible(true);
     EXPECT_EQ(desktop.screenshot(a->window()).width, 100);
 }

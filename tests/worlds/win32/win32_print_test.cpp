@@ -25,10 +25,7 @@ class Printing : public Win32List {
 TEST_F(Printing, ShowsWhatTheScreenShowsWithAllThatLiesInTheWindow) {
     fill(60);
     GuideLine& guide = ListViewInspector(*list).guide();
-    guide.letX1(40);
-    guide.letX2(40);
-    guide.letY1(0);
-    guide.letY2(150);
+    guide.place(40, 150);
     guide.letVisible(true);
     list->SetEdit(Long{2}, Long{1});
     runtime.DoEvents();
