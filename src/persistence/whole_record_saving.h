@@ -12,7 +12,10 @@ namespace lumtex {
 /// Writes what the accessors would give, for cells whose values all have a form in the file.
 class WholeRecordSaving {
   public:
-    WholeRecordSaving(ListViewCore& core, const SystemLocale& locale, ContentWriter& file, bool withProperties)
+    WholeRecordSaving(ListViewCore& core,
+                      const SystemLocale& locale,
+                      ContentWriter& file,
+                      bool withProperties)
         : cells_(core), locale_(locale), file_(file), withProperties_(withProperties) {}
 
     /// False, with nothing written, for a cell that has to be written value by value: one that is missing,

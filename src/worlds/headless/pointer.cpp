@@ -3,6 +3,7 @@
 #include "worlds/headless/headless_window.h"
 
 #include <new>
+#include <optional>
 #include <utility>
 
 namespace lumtex {
@@ -18,6 +19,39 @@ class Pointer::Delivery {
   private:
     Integer& shift_;
     Integer outer_;
+};
+
+class Pointer::Target final : public MousePress::Target {
+  public:
+    Target(Pointer& pointer, const Pane& pane) : pointer_(pointer), handle_(pane.handle()) {}
+
+    WindowHandle handle() const override { return handle_; }
+    void capture() override { pointer_.captured_ = handle_; }
+    bool ownBoxHasKeys() const override {
+        const Pane* held = pointer_.focus_.holder();
+        return held != nullptr && held->parent() == &pane()->keyWindow() &&
+               dynamic_cast<const HeadlessWindow*>(held) == nullptr;
+    }
+    void takeKeys() override { pointer_.focus_.moveTo(pane()->keyWindow()); }
+
+    bool isThere() const override { return pane() != nullptr; }
+    bool takesInput() const override { return isThere() && pane()->takesInput(); }
+    bool covers(Point at) const override { return isThere() && pane()->covers(at); }
+
+    void mouseDown(const Event& event) override {
+        pane()->mouseDown(event.button, event.shift, pane()->fromDesktop(event.at));
+    }
+    void doubleClick(const Event& event) override { pane()->doubleClick(pane()->fromDesktop(event.at)); }
+    void mouseUp(const Event& event) override {
+        pane()->mouseUp(event.button, event.shift, pane()->fromDesktop(event.at));
+    }
+    void click() override { pane()->click(); }
+
+  private:
+    Pane* pane() const { return pointer_.tree_.find(handle_); }
+
+    Pointer& pointer_;
+    WindowHandle handle_;
 };
 
 Pointer::Event Pointer::moveTo(Point place, Integer shift) {
@@ -73,55 +107,26 @@ void Pointer::endCapture() {
     }
 }
 
-Pane* Pointer::pressTarget(const Event& event) {
-    Pane* target = targetOf(event);
-    if (target == nullptr)
-        return nullptr;
-    const WindowHandle handle = target->handle();
-    captured_ = handle;
-    // A window does not take the focus away from its own text box: an open editor stays open until the window
-    // has decided what to do with it. A host's control in it is not its own.
-    const Pane& keyWindow = target->keyWindow();
-    const Pane* held = focus_.holder();
-    const bool isOwnBox = held != nullptr && held->parent() == &keyWindow &&
-                          dynamic_cast<const HeadlessWindow*>(held) == nullptr;
-    if (!isOwnBox)
-        focus_.moveTo(keyWindow);
-    target = tree_.find(handle);
-    return target != nullptr && target->takesInput() ? target : nullptr;
-}
-
 void Pointer::deliverPress(const Event& event) {
     const Delivery delivery(*this, event);
-    Pane* target = pressTarget(event);
-    if (target == nullptr)
-        return;
-    pressed_ = target->handle();
-    pressedButton_ = event.button;
-    target->mouseDown(event.button, event.shift, target->fromDesktop(event.at));
+    const Pane* pane = targetOf(event);
+    std::optional<Target> target;
+    press_.press(pane != nullptr ? &target.emplace(*this, *pane) : nullptr, event);
 }
 
 void Pointer::deliverDoublePress(const Event& event) {
     const Delivery delivery(*this, event);
-    pressed_ = 0;
-    if (Pane* target = pressTarget(event))
-        target->doubleClick(target->fromDesktop(event.at));
+    const Pane* pane = targetOf(event);
+    std::optional<Target> target;
+    press_.pressAgain(pane != nullptr ? &target.emplace(*this, *pane) : nullptr, event);
 }
 
 void Pointer::deliverRelease(const Event& event) {
     const Delivery delivery(*this, event);
-    Pane* target = targetOf(event);
-    const bool endsPress = event.button == pressedButton_;
-    const WindowHandle pressed = endsPress ? std::exchange(pressed_, 0) : 0;
-    if (event.buttons == noButton)
-        endCapture();
-    if (target == nullptr)
-        return;
-    const WindowHandle handle = target->handle();
-    target->mouseUp(event.button, event.shift, target->fromDesktop(event.at));
-    target = tree_.find(handle);
-    if (target != nullptr && handle == pressed && target->takesInput() && target->covers(event.at))
-        target->click();
+    const Pane* pane = targetOf(event);
+    std::optional<Target> target;
+    press_.release(
+        pane != nullptr ? &target.emplace(*this, *pane) : nullptr, event, [this] { endCapture(); });
 }
 
 void Pointer::deliverWheel(const Event& event, Long rotation) {
@@ -148,9 +153,9 @@ void Pointer::forget(const Pane& pane) {
     const Pane* captured = tree_.find(captured_);
     if (captured != nullptr && captured->isWithin(pane))
         endCapture();
-    const Pane* pressed = tree_.find(pressed_);
+    const Pane* pressed = tree_.find(press_.window());
     if (pressed != nullptr && pressed->isWithin(pane))
-        pressed_ = 0;
+        press_.forget();
 }
 
 } // namespace lumtex

@@ -2,6 +2,7 @@
 /// The mouse of the simulated desktop: where it is, what it holds, and who hears of it.
 #pragma once
 
+#include "worlds/common/mouse_press.h"
 #include "worlds/headless/focus.h"
 #include "worlds/headless/window_tree.h"
 
@@ -11,18 +12,12 @@ namespace lumtex {
 
 /// Who gets an event is decided when it is delivered, from the place where the pointer was when it happened.
 ///
-/// There is one capture. A press takes it for the window that was pressed, and the release of the last button
-/// gives it up, whoever took it; so a window that wants to keep it asks for it again. However a capture ends,
-/// a move is made up, so that the window that lies under the pointer by then does not miss it.
+/// There is one capture; `MousePress` says when it comes and goes. However a capture ends, a move is made up,
+/// so that the window that lies under the pointer by then does not miss it.
 class Pointer {
   public:
-    /// Something that the mouse did, as it was at that time.
-    struct Event {
-        Point at;            ///< pixels of the desktop
-        Integer button = 0;  ///< the one that went down or up
-        Integer buttons = 0; ///< those that are down afterwards
-        Integer shift = 0;
-    };
+    /// Something that the mouse did, as it was at that time, in pixels of the desktop.
+    using Event = MousePress::Event;
 
     Pointer(WindowTree& tree, Focus& focus) : tree_(tree), focus_(focus) {}
     Pointer(const Pointer&) = delete;
@@ -63,11 +58,11 @@ class Pointer {
   private:
     /// While one lives, the keys of an event that is being delivered are held.
     class Delivery;
+    /// The pane that a press or release is for.
+    class Target;
 
     Pane* targetOf(const Event& event) const;
     void endCapture();
-    /// The target, captured, with the focus where keys belong; none if it took no input after all that.
-    Pane* pressTarget(const Event& event);
 
     WindowTree& tree_;
     Focus& focus_;
@@ -77,8 +72,7 @@ class Pointer {
     Integer shift_ = 0;               ///< of the event that is being delivered
     bool moveMadeUp_ = false;         ///< one waits
     WindowHandle captured_ = 0;
-    WindowHandle pressed_ = 0; ///< the pane whose press waits for its release
-    Integer pressedButton_ = noButton;
+    MousePress press_;
 };
 
 } // namespace lumtex

@@ -84,8 +84,8 @@ Win32Window::~Win32Window() {
 
 /// Handle and object know each other no more.
 void Win32Window::detach() {
-    if (world_.press.window == hwnd_)
-        world_.press = {};
+    if (world_.press.window() == hWnd())
+        world_.press.forget();
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, 0);
     hwnd_ = nullptr;
 }
@@ -157,9 +157,9 @@ void Win32Window::loseInput() {
     HWND window = hwnd_;
     if (window == nullptr)
         return;
-    HWND pressedOn = world_.press.window;
+    HWND pressedOn = toHWND(world_.press.window());
     if (pressedOn == window || IsChild(window, pressedOn))
-        world_.press = {};
+        world_.press.forget();
     HWND captured = GetCapture();
     if (captured != nullptr && (captured == window || IsChild(window, captured)))
         Win32World::giveUpCapture();

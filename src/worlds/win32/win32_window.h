@@ -90,6 +90,9 @@ class Win32Window final : public Window {
     Answer answerPaint(const WindowMessage& message);
     Answer answerPlace(const WindowMessage& message);
 
+    /// This window, to the rules of the press.
+    class PressTarget;
+
     Answer pressed(MouseButton button, bool isSecond, const WindowMessage& message);
     Answer released(MouseButton button, const WindowMessage& message);
     Answer wheelTurned(const WindowMessage& message);

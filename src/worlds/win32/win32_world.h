@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/world.h"
+#include "worlds/common/mouse_press.h"
 #include "worlds/win32/timer_window.h"
 #include "worlds/win32/win32_runtime.h"
 #include "worlds/win32/win32_tips.h"
@@ -22,9 +23,7 @@ struct WindowMessage {
 
 /// Belongs to the thread that makes it, as do all things made by it.
 ///
-/// Press, focus, capture and click follow one another as on the simulated desktop: a press takes the capture,
-/// then the focus for the list that was pressed on, or whose bar or button it was, unless the list's own box
-/// has it; the release of the last button gives up the capture before it is told.
+/// Press, focus, capture and click follow one another as `MousePress` has it.
 class Win32World final : public World {
   public:
     /// Pixels that one surface may have at most.
@@ -82,12 +81,7 @@ class Win32World final : public World {
     /// Throws RuntimeError 7 for more than `mostPixels`.
     static void refuseHugeSize(Long width, Long height);
 
-    /// The press that waits for its release to become a click.
-    struct Press {
-        HWND window = nullptr;
-        Integer button = noButton;
-    };
-    Press press;
+    MousePress press;
 
     /// Gives up the capture, whoever of the thread has it. The system makes up a move then, for the window
     /// that is under the mouse when messages run next.

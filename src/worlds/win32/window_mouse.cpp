@@ -2,8 +2,6 @@
 #include "worlds/win32/shift_keys.h"
 #include "worlds/win32/win32_window.h"
 
-#include <utility>
-
 namespace lumtex {
 
 namespace {
@@ -15,6 +13,11 @@ POINT placeOf(const WindowMessage& message) {
 
 Integer shiftOf(const WindowMessage& message) {
     return shiftKeysIn(message.wParam, isKeyDown(VK_MENU));
+}
+
+MousePress::Event pressEvent(MouseButton button, const WindowMessage& message) {
+    const POINT at = placeOf(message);
+    return {{at.x, at.y}, button, buttonsIn(message.wParam), shiftOf(message)};
 }
 
 } // namespace
@@ -51,44 +54,48 @@ Win32Window::Answer Win32Window::answerMouse(const WindowMessage& message) {
     }
 }
 
-Win32Window::Answer Win32Window::pressed(MouseButton button, bool isSecond, const WindowMessage& message) {
-    HWND window = message.window;
-    Win32World& world = world_;
-    if (isSecond)
-        world.press = {};
-    ::SetCapture(window);
-    // A window does not take the focus away from its own text box: an open editor stays open until the
-    // control has decided what to do with it. A host's control in it is not its own.
-    Win32Window& keys = keyWindow();
-    if (!keys.hasBox(GetFocus()))
-        keys.setFocus();
-    if (of(window) != this || !takesInput())
-        return 0;
-    if (isSecond) {
-        client_.UserControl_DblClick();
-        return 0;
+class Win32Window::PressTarget final : public MousePress::Target {
+  public:
+    explicit PressTarget(Win32Window& window) : window_(window), hwnd_(window.hwnd_) {}
+
+    WindowHandle handle() const override { return fromHWND(hwnd_); }
+    void capture() override { ::SetCapture(hwnd_); }
+    bool ownBoxHasKeys() const override { return window_.keyWindow().hasBox(GetFocus()); }
+    void takeKeys() override { window_.keyWindow().setFocus(); }
+
+    bool isThere() const override { return of(hwnd_) == &window_; }
+    bool takesInput() const override { return isThere() && window_.takesInput(); }
+    bool covers(Point at) const override { return isThere() && window_.covers({at.x, at.y}); }
+
+    void mouseDown(const MousePress::Event& event) override {
+        window_.client_.UserControl_MouseDown(
+            event.button, event.shift, static_cast<Single>(event.at.x), static_cast<Single>(event.at.y));
     }
-    world.press = {window, button};
-    const POINT at = placeOf(message);
-    client_.UserControl_MouseDown(
-        button, shiftOf(message), static_cast<Single>(at.x), static_cast<Single>(at.y));
+    void doubleClick(const MousePress::Event& /*event*/) override { window_.client_.UserControl_DblClick(); }
+    void mouseUp(const MousePress::Event& event) override {
+        window_.client_.UserControl_MouseUp(
+            event.button, event.shift, static_cast<Single>(event.at.x), static_cast<Single>(event.at.y));
+    }
+    void click() override { window_.client_.UserControl_Click(); }
+
+  private:
+    Win32Window& window_;
+    HWND hwnd_;
+};
+
+Win32Window::Answer Win32Window::pressed(MouseButton button, bool isSecond, const WindowMessage& message) {
+    PressTarget target(*this);
+    const MousePress::Event event = pressEvent(button, message);
+    if (isSecond)
+        world_.press.pressAgain(&target, event);
+    else
+        world_.press.press(&target, event);
     return 0;
 }
 
 Win32Window::Answer Win32Window::released(MouseButton button, const WindowMessage& message) {
-    HWND window = message.window;
-    const bool endsPress = button == world_.press.button;
-    HWND pressedOn = endsPress ? std::exchange(world_.press.window, nullptr) : nullptr;
-    // Before the control hears of it, so that one that wants to keep the capture asks for it again.
-    if (buttonsIn(message.wParam) == noButton)
-        Win32World::giveUpCapture();
-    if (of(window) != this)
-        return 0;
-    const POINT at = placeOf(message);
-    client_.UserControl_MouseUp(
-        button, shiftOf(message), static_cast<Single>(at.x), static_cast<Single>(at.y));
-    if (window == pressedOn && of(window) == this && takesInput() && covers(at))
-        client_.UserControl_Click();
+    PressTarget target(*this);
+    world_.press.release(&target, pressEvent(button, message), Win32World::giveUpCapture);
     return 0;
 }
 

@@ -68,8 +68,8 @@ Win32Window::Answer Win32Window::answerPlace(const WindowMessage& message) {
         SetCursor(pointerShape_.cursor());
         return TRUE;
     case WM_CANCELMODE:
-        if (world_.press.window == message.window)
-            world_.press = {};
+        if (world_.press.window() == hWnd())
+            world_.press.forget();
         return {};
     case WM_CLOSE:
         letVisible(false);
