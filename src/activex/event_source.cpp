@@ -28,11 +28,16 @@ void tell(IDispatch* sink,
     constexpr std::size_t count = sizeof...(Arguments);
     std::array<VARIANT, count + 1> reversed{std::get<count - 1 - places>(slots).asArgument()...};
     DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(count), 0};
-    EXCEPINFO details{};
+    CallDetails details;
     OwnedVARIANT result;
-    sink->Invoke(
-        number, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, result.out(), &details, nullptr);
-    freeTexts(details);
+    sink->Invoke(number,
+                 IID_NULL,
+                 LOCALE_USER_DEFAULT,
+                 DISPATCH_METHOD,
+                 &parameters,
+                 result.out(),
+                 details.out(),
+                 nullptr);
     (std::get<places>(slots).takeBack(), ...);
 }
 

@@ -38,15 +38,14 @@ HENHMETAFILE drawEnhanced(ControlCore& core) {
         core.draw(dc, {0, 0, size.cx, size.cy});
         return S_OK;
     });
-    HENHMETAFILE file = CloseEnhMetaFile(dc);
-    if (SUCCEEDED(drawn) && file != nullptr)
-        return file;
-    DeleteEnhMetaFile(file);
-    throw RuntimeError(outOfMemory);
+    OwnedPicture file(CloseEnhMetaFile(dc));
+    if (FAILED(drawn) || !file)
+        throw RuntimeError(outOfMemory);
+    return file.detach();
 }
 
 /// The old form, scaled by whoever plays it.
-HMETAFILE drawPlain(ControlCore& core) {
+OwnedPlainPicture drawPlain(ControlCore& core) {
     const SIZE size = core.size();
     const HDC dc = CreateMetaFileW(nullptr);
     if (dc == nullptr)
@@ -58,11 +57,10 @@ HMETAFILE drawPlain(ControlCore& core) {
         core.draw(dc, {0, 0, size.cx, size.cy});
         return S_OK;
     });
-    HMETAFILE file = CloseMetaFile(dc);
-    if (SUCCEEDED(drawn) && file != nullptr)
-        return file;
-    DeleteMetaFile(file);
-    throw RuntimeError(outOfMemory);
+    OwnedPlainPicture file(CloseMetaFile(dc));
+    if (FAILED(drawn) || !file)
+        throw RuntimeError(outOfMemory);
+    return file;
 }
 
 HGLOBAL plainPicture(ControlCore& core) {
@@ -70,9 +68,9 @@ HGLOBAL plainPicture(ControlCore& core) {
     if (!memory)
         throw RuntimeError(outOfMemory);
     const SIZEL extent = core.extent();
-    HMETAFILE file = drawPlain(core);
+    OwnedPlainPicture file = drawPlain(core);
     *static_cast<METAFILEPICT*>(LockedMemory(memory.get()).bytes()) = {
-        MM_ANISOTROPIC, extent.cx, extent.cy, file};
+        MM_ANISOTROPIC, extent.cx, extent.cy, file.detach()};
     return memory.detach();
 }
 

@@ -85,10 +85,15 @@ inline Called invoke(IDispatch* object, DISPID id, WORD kind, std::vector<VARIAN
     }
     Called called;
     OwnedVARIANT value;
-    EXCEPINFO details{};
-    called.result = object->Invoke(
-        id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, value.out(), &details, &called.wrongArgument);
-    freeTexts(details);
+    CallDetails details;
+    called.result = object->Invoke(id,
+                                   IID_NULL,
+                                   LOCALE_USER_DEFAULT,
+                                   kind,
+                                   &parameters,
+                                   value.out(),
+                                   details.out(),
+                                   &called.wrongArgument);
     called.value = fromVARIANT(value.get());
     return called;
 }

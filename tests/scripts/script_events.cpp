@@ -156,11 +156,10 @@ HRESULT ScriptEvents::Invoke(DISPID number,
     for (UINT i = 0; i < parameters->cArgs; ++i)
         passed.push_back(arguments.emplace_back(parameters->rgvarg[i]).passed());
     DISPPARAMS forScript{passed.data(), nullptr, static_cast<UINT>(passed.size()), 0};
-    EXCEPINFO details{};
+    CallDetails details;
     OwnedVARIANT result;
     // The host has noted a failure already.
-    script_->Invoke(id, IID_NULL, locale, DISPATCH_METHOD, &forScript, result.out(), &details, nullptr);
-    freeTexts(details);
+    script_->Invoke(id, IID_NULL, locale, DISPATCH_METHOD, &forScript, result.out(), details.out(), nullptr);
     for (ScriptArgument& argument : arguments)
         argument.takeBack();
     return S_OK;

@@ -20,15 +20,14 @@ const wchar_t* programIdOf(ScriptLanguage language) {
 }
 
 ScriptFailure failureFrom(IActiveScriptError& error) {
-    EXCEPINFO details{};
+    CallDetails details;
     DWORD context = 0;
     ULONG line = 0;
     LONG column = 0;
-    error.GetExceptionInfo(&details);
+    error.GetExceptionInfo(details.out());
     error.GetSourcePosition(&context, &line, &column);
-    const Long number = numberOfResult(details.scode);
-    String text(viewBSTR(details.bstrDescription));
-    freeTexts(details);
+    const Long number = numberOfResult(details.get().scode);
+    String text(viewBSTR(details.get().bstrDescription));
     // Engines leave the text out where a call was refused.
     if (text.empty())
         text = errorDescription(number);
@@ -119,11 +118,10 @@ void ScriptHost::add(StringView name, ComRef<IDispatch> object) {
 
 void ScriptHost::run(StringView source) {
     site_->failures.clear();
-    EXCEPINFO details{};
+    CallDetails details;
     const String text(source);
     const HRESULT result = parse_->ParseScriptText(
-        wide(text), nullptr, nullptr, nullptr, 0, 0, SCRIPTTEXT_ISVISIBLE, nullptr, &details);
-    freeTexts(details);
+        wide(text), nullptr, nullptr, nullptr, 0, 0, SCRIPTTEXT_ISVISIBLE, nullptr, details.out());
     if (FAILED(result) && !site_->failures.empty())
         throw ScriptFailure(site_->failures.back());
     demand(result);

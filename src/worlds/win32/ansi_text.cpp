@@ -55,6 +55,15 @@ const SingleBytes& singleBytes() {
 
 } // namespace
 
+Date Win32Runtime::now() const {
+    SYSTEMTIME local{};
+    GetLocalTime(&local);
+    Date now;
+    if (SystemTimeToVariantTime(&local, &now.days) == FALSE)
+        throw RuntimeError(invalidProcedureCall);
+    return now;
+}
+
 void Win32Runtime::toAnsi(StringView text, std::span<Byte> bytes) const {
     const SingleBytes& table = singleBytes();
     std::transform(text.begin(), text.end(), bytes.begin(), [&](char16_t unit) { return table.bytes[unit]; });

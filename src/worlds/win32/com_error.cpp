@@ -1,7 +1,5 @@
 #include "worlds/win32/com_error.h"
 
-#include <utility>
-
 namespace lumtex {
 
 namespace {
@@ -34,12 +32,6 @@ constexpr NumberOfResult numbers[] = {
 /// The last of the numbers that the facility of controls carries.
 constexpr Long lastNumber = 0xFFFF;
 
-String taken(BSTR& text) {
-    String copy(textOf(text, SysStringLen(text)));
-    SysFreeString(std::exchange(text, nullptr));
-    return copy;
-}
-
 } // namespace
 
 Long numberOfResult(HRESULT result) {
@@ -58,20 +50,21 @@ HRESULT resultOf(Long errorNumber) {
     return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, errorNumber);
 }
 
-void throwCallFailure(HRESULT result, EXCEPINFO& details) {
-    if (result != DISP_E_EXCEPTION)
-        throw RuntimeError(numberOfResult(result));
-    if (details.pfnDeferredFillIn != nullptr)
-        details.pfnDeferredFillIn(&details);
-    const String description = taken(details.bstrDescription);
-    freeTexts(details);
-    const Long number = details.wCode != 0 ? Long{details.wCode} : numberOfResult(details.scode);
-    throw description.empty() ? RuntimeError(number) : RuntimeError(number, description);
+void CallDetails::clear() {
+    for (BSTR text : {info_.bstrDescription, info_.bstrSource, info_.bstrHelpFile})
+        SysFreeString(text);
+    info_ = {};
 }
 
-void freeTexts(EXCEPINFO& details) {
-    for (BSTR* text : {&details.bstrDescription, &details.bstrSource, &details.bstrHelpFile})
-        SysFreeString(std::exchange(*text, nullptr));
+void throwCallFailure(HRESULT result, CallDetails& details) {
+    if (result != DISP_E_EXCEPTION)
+        throw RuntimeError(numberOfResult(result));
+    EXCEPINFO& info = details.get();
+    if (info.pfnDeferredFillIn != nullptr)
+        info.pfnDeferredFillIn(&info);
+    const StringView description = textOf(info.bstrDescription, SysStringLen(info.bstrDescription));
+    const Long number = info.wCode != 0 ? Long{info.wCode} : numberOfResult(info.scode);
+    throw description.empty() ? RuntimeError(number) : RuntimeError(number, String(description));
 }
 
 void demand(HRESULT result) {

@@ -14,12 +14,29 @@ Long numberOfResult(HRESULT result);
 /// The result that carries a number from 1 to 65535; other numbers are results already.
 HRESULT resultOf(Long errorNumber);
 
-/// Throws the RuntimeError for a call that failed. `details` is what the object told with DISP_E_EXCEPTION;
-/// its texts are freed.
-[[noreturn]] void throwCallFailure(HRESULT result, EXCEPINFO& details);
+/// What a failed call says about itself. Owns the texts.
+class CallDetails {
+  public:
+    CallDetails() = default;
+    CallDetails(const CallDetails&) = delete;
+    CallDetails& operator=(const CallDetails&) = delete;
+    ~CallDetails() { clear(); }
 
-/// Frees what a failed call told about itself.
-void freeTexts(EXCEPINFO& details);
+    /// Where a call stores its own, in place of those that were here.
+    EXCEPINFO* out() {
+        clear();
+        return &info_;
+    }
+    EXCEPINFO& get() { return info_; }
+
+  private:
+    void clear();
+
+    EXCEPINFO info_{};
+};
+
+/// Throws the RuntimeError for a call that failed. `details` is what the object said with DISP_E_EXCEPTION.
+[[noreturn]] void throwCallFailure(HRESULT result, CallDetails& details);
 
 /// Throws for a result that is a failure.
 void demand(HRESULT result);

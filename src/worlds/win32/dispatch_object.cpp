@@ -75,8 +75,7 @@ DISPID DispatchObject::idOf(StringView name) const {
 }
 
 HRESULT DispatchObject::invoke(
-    DISPID id, WORD kind, DISPPARAMS parameters, OwnedVARIANT* result, EXCEPINFO& details) const {
-    details = {};
+    DISPID id, WORD kind, DISPPARAMS parameters, OwnedVARIANT* result, CallDetails& details) const {
     UINT wrongArgument = 0;
     return dispatch_->Invoke(id,
                              IID_NULL,
@@ -84,7 +83,7 @@ HRESULT DispatchObject::invoke(
                              kind,
                              &parameters,
                              result != nullptr ? result->out() : nullptr,
-                             &details,
+                             details.out(),
                              &wrongArgument);
 }
 
@@ -94,13 +93,12 @@ Variant DispatchObject::get(StringView name, std::span<Variant> arguments) {
     const DISPID id = idOf(name);
     PassedArguments passed(arguments);
     OwnedVARIANT value;
-    EXCEPINFO details{};
+    CallDetails details;
     HRESULT result = invoke(id, DISPATCH_METHOD | DISPATCH_PROPERTYGET, passed.byValue(), &value, details);
     // A plain property of a script object refuses to be called.
     if (FAILED(result) && arguments.empty()) {
-        EXCEPINFO again{};
+        CallDetails again;
         const HRESULT second = invoke(id, DISPATCH_PROPERTYGET, passed.byValue(), &value, again);
-        freeTexts(SUCCEEDED(second) ? details : again);
         if (SUCCEEDED(second))
             result = second;
     }
@@ -115,13 +113,12 @@ void DispatchObject::put(StringView name, const Variant& value) {
     OwnedVARIANT argument = toVARIANT(value);
     DISPID put = DISPID_PROPERTYPUT;
     DISPPARAMS parameters{&argument.get(), &put, 1, 1};
-    EXCEPINFO details{};
+    CallDetails details;
     HRESULT result = DISP_E_MEMBERNOTFOUND;
     if (value.isObject())
         result = invoke(id, DISPATCH_PROPERTYPUTREF, parameters, nullptr, details);
     // Many objects know but one way of assigning.
     if (result == DISP_E_MEMBERNOTFOUND || result == E_NOTIMPL) {
-        freeTexts(details);
         result = invoke(id, DISPATCH_PROPERTYPUT, parameters, nullptr, details);
     }
     if (FAILED(result))
@@ -133,16 +130,14 @@ Variant DispatchObject::call(StringView name, std::span<Variant> arguments) {
     const DISPID id = idOf(name);
     PassedArguments passed(arguments);
     OwnedVARIANT value;
-    EXCEPINFO details{};
+    CallDetails details;
     HRESULT result = invoke(id, DISPATCH_METHOD, passed.byReference(), &value, details);
     // Refused before anything was done: a function that is only known as a property, or one that takes no
     // references.
     if (result == DISP_E_MEMBERNOTFOUND) {
-        freeTexts(details);
         result = invoke(id, DISPATCH_METHOD | DISPATCH_PROPERTYGET, passed.byReference(), &value, details);
     }
     if (result == DISP_E_TYPEMISMATCH || result == DISP_E_BADVARTYPE) {
-        freeTexts(details);
         result = invoke(id, DISPATCH_METHOD, passed.byValue(), &value, details);
     }
     if (FAILED(result))

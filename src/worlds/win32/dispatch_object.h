@@ -10,6 +10,7 @@
 
 namespace lumtex {
 
+class CallDetails;
 class OwnedVARIANT;
 
 /// Made by `objectFrom`.
@@ -28,7 +29,7 @@ class DispatchObject final : public Object, public std::enable_shared_from_this<
   private:
     DISPID idOf(StringView name) const;
     HRESULT
-    invoke(DISPID id, WORD kind, DISPPARAMS parameters, OwnedVARIANT* result, EXCEPINFO& details) const;
+    invoke(DISPID id, WORD kind, DISPPARAMS parameters, OwnedVARIANT* result, CallDetails& details) const;
 
     ComRef<IDispatch> dispatch_;
 };

@@ -51,6 +51,12 @@ inline void dropContext(HDC context) {
 inline void dropMemory(HGLOBAL memory) {
     GlobalFree(memory);
 }
+inline void dropPicture(HENHMETAFILE picture) {
+    DeleteEnhMetaFile(picture);
+}
+inline void dropPlainPicture(HMETAFILE picture) {
+    DeleteMetaFile(picture);
+}
 inline void dropText(BSTR text) {
     SysFreeString(text);
 }
@@ -62,6 +68,8 @@ using OwnedIcon = Owned<HICON, detail::dropIcon>;
 /// A memory context. What was selected into it before must go back first.
 using OwnedContext = Owned<HDC, detail::dropContext>;
 using OwnedMemory = Owned<HGLOBAL, detail::dropMemory>;
+using OwnedPicture = Owned<HENHMETAFILE, detail::dropPicture>;
+using OwnedPlainPicture = Owned<HMETAFILE, detail::dropPlainPicture>;
 using OwnedBSTR = Owned<BSTR, detail::dropText>;
 
 /// The context of the whole screen while this lives; null where there is no screen.
