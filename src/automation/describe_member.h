@@ -4,7 +4,6 @@
 
 #include "automation/argument.h"
 #include "automation/found_record.h"
-#include "automation/identifiers.h"
 #include "automation/member.h"
 #include "model/list_view.h"
 
@@ -128,11 +127,13 @@ constexpr void sameCount(std::size_t names, std::size_t parameters) {
         throw "every parameter has a name";
 }
 
+// A new member takes a number that its class has not used yet.
+
 template <auto get>
-constexpr Member readOnly(StringView name, Help help, std::initializer_list<Named> names = {}) {
+constexpr Member readOnly(Long number, StringView name, Help help, std::initializer_list<Named> names = {}) {
     using Get = Function<get>;
     sameCount(names.size(), Get::count);
-    Member member{numberOf(name),
+    Member member{number,
                   name,
                   help,
                   typeOf<typename Get::Result>(),
@@ -148,10 +149,10 @@ constexpr Member readOnly(StringView name, Help help, std::initializer_list<Name
 
 template <auto get, auto let>
 constexpr Member
-property(StringView name, Repaint repaint, Help help, std::initializer_list<Named> names = {}) {
+property(Long number, StringView name, Repaint repaint, Help help, std::initializer_list<Named> names = {}) {
     using Let = Function<let>;
     sameCount(names.size() + 1, Let::count);
-    Member member = readOnly<get>(name, help, names);
+    Member member = readOnly<get>(number, name, help, names);
     if (member.type != Let::types.back())
         throw "what is read has the type of what is assigned";
     member.repaint = repaint;
@@ -167,19 +168,11 @@ constexpr Member hidden(Member member) {
 
 template <auto function>
 constexpr Member
-method(StringView name, Repaint repaint, Help help, std::initializer_list<Named> names = {}) {
+method(Long number, StringView name, Repaint repaint, Help help, std::initializer_list<Named> names = {}) {
     using Call = Function<function>;
     sameCount(names.size(), Call::count);
-    Member member{numberOf(name),
-                  name,
-                  help,
-                  typeOf<typename Call::Result>(),
-                  repaint,
-                  {},
-                  0,
-                  nullptr,
-                  nullptr,
-                  &Call::invoke};
+    Member member{
+        number, name, help, typeOf<typename Call::Result>(), repaint, {}, 0, nullptr, nullptr, &Call::invoke};
     nameParameters<Call>(member, names);
     return member;
 }

@@ -2,8 +2,8 @@
 /// The public enumerations as data.
 #pragma once
 
-#include "automation/help.h"
 #include "helpers/sp_ev.h"
+#include "model/help.h"
 #include "records/enumerations.h"
 
 #include <array>

@@ -2,8 +2,8 @@
 /// The control's events as data: names, arguments, and how each argument travels.
 #pragma once
 
-#include "automation/help.h"
 #include "automation/type_info.h"
+#include "model/help.h"
 #include "model/list_view_events.h"
 
 #include <array>

@@ -20,6 +20,7 @@ constexpr auto autoColumnSize =
 
 constexpr auto members = std::to_array<Member>({
     method<&lmListView::ColumnsAdd>(
+        1,
         u"ColumnsAdd",
         Repaint::asAutoRedraw,
         {u"Appends a column, and an empty cell to every row. The width is in twips; a colour of 0 is black.",
@@ -38,20 +39,24 @@ constexpr auto members = std::to_array<Member>({
          orNumber(u"aForeColorHover", 0),
          orNumber(u"aForeColorDown", 0)}),
     method<&lmListView::ColumnsClear>(
+        2,
         u"ColumnsClear",
         Repaint::asAutoRedraw,
         {u"Removes all columns. Rows keep their cells, so clear the rows first for an empty list.",
          u"Entfernt alle Spalten. Die Zeilen behalten ihre Zellen; für eine leere Liste sind daher zuerst "
          u"die Zeilen zu entfernen."}),
     method<&lmListView::ColumnsRemove>(
+        3,
         u"ColumnsRemove",
         Repaint::asAutoRedraw,
         {u"Checks the scroll bars and repaints. The columns stay: a single column cannot be removed.",
          u"Prüft die Bildlaufleisten und zeichnet neu. Die Spalten bleiben: Eine einzelne Spalte lässt sich "
          u"nicht entfernen."},
         {u"Index"}),
-    readOnly<&lmListView::ColumnsCount>(u"ColumnsCount", {u"The number of columns.", u"Anzahl der Spalten."}),
+    readOnly<&lmListView::ColumnsCount>(
+        4, u"ColumnsCount", {u"The number of columns.", u"Anzahl der Spalten."}),
     method<rowsAdd>(
+        5,
         u"RowsAdd",
         Repaint::asAutoRedraw,
         {u"Inserts a row before the 0-based place, or appends it where that is out of range, and writes back "
@@ -62,6 +67,7 @@ constexpr auto members = std::to_array<Member>({
          u"Anführungszeichen schützen nicht davor. Eine Liste ohne Spalten nimmt keine Zeilen auf."},
         {orNumber(u"aIndex", -1), orText(u"aSplit", u","), orMissing(u"aItemTexts")}),
     method<rowsRemove>(
+        6,
         u"RowsRemove",
         Repaint::asAutoRedraw,
         {u"Removes the row with the 1-based number. A number out of range removes nothing and is not "
@@ -70,20 +76,24 @@ constexpr auto members = std::to_array<Member>({
          u"und wird nicht gemeldet. Nach jeder Zeile, die aufrückt, kommt das Programm an die Reihe."},
         {u"Index"}),
     method<&lmListView::RowsSelectedRemove>(
+        7,
         u"RowsSelectedRemove",
         Repaint::always,
         {u"Removes all selected rows and paints once at the end.",
          u"Entfernt alle ausgewählten Zeilen und zeichnet am Ende einmal neu."}),
-    method<&lmListView::RowsClear>(u"RowsClear",
+    method<&lmListView::RowsClear>(8,
+                                   u"RowsClear",
                                    Repaint::asAutoRedraw,
                                    {u"Removes all rows. ListIndex and NewIndex keep their numbers.",
                                     u"Entfernt alle Zeilen. ListIndex und NewIndex behalten ihre Werte."}),
-    readOnly<&lmListView::RowsCount>(u"RowsCount", {u"The number of rows.", u"Anzahl der Zeilen."}),
-    method<&lmListView::RowSelectedCount>(u"RowSelectedCount",
+    readOnly<&lmListView::RowsCount>(9, u"RowsCount", {u"The number of rows.", u"Anzahl der Zeilen."}),
+    method<&lmListView::RowSelectedCount>(10,
+                                          u"RowSelectedCount",
                                           Repaint::never,
                                           {u"The number of selected rows, counted anew.",
                                            u"Anzahl der ausgewählten Zeilen; bei jedem Aufruf neu gezählt."}),
     method<&lmListView::WrongIndex>(
+        11,
         u"WrongIndex",
         Repaint::never,
         {u"True for whatever is no number, and for every index once the list has had a row.",
@@ -91,6 +101,7 @@ constexpr auto members = std::to_array<Member>({
          u"hatte."},
         {u"Index"}),
     method<&lmListView::WrongColumnIndex>(
+        12,
         u"WrongColumnIndex",
         Repaint::never,
         {u"True for whatever is no number, and for every index once the list has had a column.",
@@ -98,11 +109,13 @@ constexpr auto members = std::to_array<Member>({
          u"hatte."},
         {u"Index"}),
     readOnly<&lmListView::NewIndex>(
+        13,
         u"NewIndex",
         {u"The 0-based place of the row last added. It is not corrected when rows move or go.",
          u"Ab 0 gezählte Stelle der zuletzt hinzugefügten Zeile. Sie wird nicht berichtigt, wenn Zeilen "
          u"wandern oder entfernt werden."}),
     property<&lmListView::ListIndex, &lmListView::letListIndex>(
+        14,
         u"ListIndex",
         Repaint::asAutoRedraw,
         {u"The current row, 0-based; -1 for none. A number that no enabled row has is refused with "
@@ -110,39 +123,47 @@ constexpr auto members = std::to_array<Member>({
          u"Die aktuelle Zeile, ab 0 gezählt; -1 für keine. Eine Nummer, die keine aktivierte Zeile hat, wird "
          u"mit ErrorWrongIndex abgelehnt. Beim Lesen kommt das Programm einmal an die Reihe."}),
     property<&lmListView::RowIndex, &lmListView::letRowIndex>(
+        15,
         u"RowIndex",
         Repaint::asAutoRedraw,
         {u"The current row, 1-based; 0 for none. Assigning also scrolls to the row.",
          u"Die aktuelle Zeile, ab 1 gezählt; 0 für keine. Eine Zuweisung rollt die Liste auch zu dieser "
          u"Zeile."}),
     property<&lmListView::TopIndex, &lmListView::letTopIndex>(
+        16,
         u"TopIndex",
         Repaint::asAutoRedraw,
         {u"The first row shown, 0-based.", u"Die oberste sichtbare Zeile, ab 0 gezählt."}),
     method<&lmListView::CheckScroll>(
+        17,
         u"CheckScroll",
         Repaint::never,
         {u"Decides anew which scroll bars are needed, and how far they reach.",
          u"Ermittelt neu, welche Bildlaufleisten nötig sind und wie weit sie reichen."}),
-    method<&lmListView::Redraw>(u"Redraw",
+    method<&lmListView::Redraw>(18,
+                                u"Redraw",
                                 Repaint::always,
                                 {u"Paints the whole control, whatever AutoRedraw says.",
                                  u"Zeichnet das ganze Steuerelement neu, unabhängig von AutoRedraw."}),
     method<&lmListView::ClearListView>(
+        19,
         u"ClearListView",
         Repaint::never,
         {u"Erases the picture, not the content, which comes back with the next paint.",
          u"Löscht das Bild, nicht den Inhalt; dieser erscheint beim nächsten Zeichnen wieder."}),
-    method<&lmListView::StopEdit>(u"StopEdit",
+    method<&lmListView::StopEdit>(20,
+                                  u"StopEdit",
                                   Repaint::never,
                                   {u"Closes the in-place editor and drops what was typed.",
                                    u"Schließt das Eingabefeld und verwirft die Eingabe."}),
     readOnly<&lmListView::hwnd>(
-        u"hwnd", {u"The number of the control's window.", u"Fensternummer (Handle) des Steuerelements."}),
+        21, u"hwnd", {u"The number of the control's window.", u"Fensternummer (Handle) des Steuerelements."}),
     readOnly<&lmListView::hwndEdit>(
+        22,
         u"hwndEdit",
         {u"The number of the in-place editor's window.", u"Fensternummer (Handle) des Eingabefelds."}),
     method<&lmListView::SetEdit>(
+        23,
         u"SetEdit",
         Repaint::never,
         {u"Opens the in-place editor where the cell was painted last, with its whole text selected. Scrolls "
@@ -152,10 +173,12 @@ constexpr auto members = std::to_array<Member>({
          u"ItemAllowEdit werden nicht beachtet."},
         {u"Row", u"Column"}),
     readOnly<&lmListView::ColumnIndex>(
+        24,
         u"ColumnIndex",
         {u"The 1-based column under the last press or release; -1 for none.",
          u"Ab 1 gezählte Spalte unter dem letzten Drücken oder Loslassen einer Maustaste; -1 für keine."}),
     method<&lmListView::Sort>(
+        25,
         u"Sort",
         Repaint::never,
         {u"Orders the rows by the texts of a column and raises SortDone. -1 drops the sort mark, which "
@@ -165,10 +188,12 @@ constexpr auto members = std::to_array<Member>({
         {byReference(u"Column"),
          byReference(orNumber(u"SortMode", 0)),
          byReference(orNumber(u"SortType", cSortText))}),
-    readOnly<&lmListView::SortColumnIndex>(u"SortColumnIndex",
+    readOnly<&lmListView::SortColumnIndex>(26,
+                                           u"SortColumnIndex",
                                            {u"The 1-based column of the last sort; -1 for none.",
                                             u"Ab 1 gezählte Spalte der letzten Sortierung; -1 für keine."}),
-    method<findItem>(u"FindItem",
+    method<findItem>(27,
+                     u"FindItem",
                      Repaint::never,
                      {u"Looks for the first cell whose text, or tag behind \"<itemtag>\", matches a pattern. "
                       u"Columns and rows are \"*\" or a list such as \"1,3-5,\"; a lone number needs its "
@@ -181,7 +206,8 @@ constexpr auto members = std::to_array<Member>({
                       byReference(orNumber(u"cCompare", cFindBinary)),
                       orText(u"sColumns", u"*"),
                       orText(u"sRows", u"*")}),
-    method<autoColumnSize>(u"AutoColumnSize",
+    method<autoColumnSize>(28,
+                           u"AutoColumnSize",
                            Repaint::always,
                            {u"Makes the columns with these numbers as wide as the widest text painted in "
                             u"them, or as their header; without a number all of them.",
@@ -189,6 +215,7 @@ constexpr auto members = std::to_array<Member>({
                             u"gezeichneten Text oder ihre Überschrift; ohne Nummer alle Spalten."},
                            {anyNumberOf(u"lColumns")}),
     method<&lmListView::ContentSave>(
+        29,
         u"ContentSave",
         Repaint::never,
         {u"Writes the texts of all cells, and on demand their looks, tags and icons, to a file. A file of "
@@ -198,6 +225,7 @@ constexpr auto members = std::to_array<Member>({
          u"dann True."},
         {u"sFilename", orFalse(u"bSaveItemProperties")}),
     method<&lmListView::ContentInput>(
+        30,
         u"ContentInput",
         Repaint::always,
         {u"Clears the rows and fills the list from such a file; the columns stay. Where there is no file the "
@@ -206,7 +234,8 @@ constexpr auto members = std::to_array<Member>({
          u"Datei, ist das Ergebnis False, und nichts ändert sich. Jeder andere Fehler wird gemeldet, und das "
          u"Ergebnis ist True."},
         {u"sFilename", orFalse(u"bReadItemPropertiesIfExists")}),
-    method<&lmListView::About>(u"About",
+    method<&lmListView::About>(-552,
+                               u"About",
                                Repaint::never,
                                {u"Shows the about box and returns once it was closed.",
                                 u"Zeigt das Infofenster und kehrt zurück, sobald es geschlossen wurde."}),

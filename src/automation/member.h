@@ -2,8 +2,8 @@
 /// What the table of the public interface says of each member.
 #pragma once
 
-#include "automation/help.h"
 #include "automation/type_info.h"
+#include "model/help.h"
 #include "values/locale.h"
 
 #include <array>

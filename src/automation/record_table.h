@@ -2,8 +2,8 @@
 /// The public record as data.
 #pragma once
 
-#include "automation/help.h"
 #include "automation/type_info.h"
+#include "model/help.h"
 
 #include <array>
 

@@ -10,6 +10,7 @@ using namespace detail;
 
 constexpr auto members = std::to_array<Member>({
     property<&lmListView::RowEnabled, &lmListView::letRowEnabled>(
+        300,
         u"RowEnabled",
         Repaint::asAutoRedraw,
         {u"Whether the row can be chosen. Assigning enables or disables its cells too.",
@@ -17,6 +18,7 @@ constexpr auto members = std::to_array<Member>({
          u"Zellen."},
         {u"Index"}),
     property<&lmListView::RowSelected, &lmListView::letRowSelected>(
+        301,
         u"RowSelected",
         Repaint::asAutoRedraw,
         {u"Whether the row is selected. Selecting scrolls to a row out of view, and without MultiSelect "
@@ -25,6 +27,7 @@ constexpr auto members = std::to_array<Member>({
          u"Bereichs und hebt ohne MultiSelect die Auswahl der anderen auf. ListIndex folgt nicht."},
         {u"Index"}),
     property<&lmListView::RowChecked, &lmListView::letRowChecked>(
+        302,
         u"RowChecked",
         Repaint::asAutoRedraw,
         {u"Check mark that the control keeps for the host. Nothing shows it: what check boxes show is "
@@ -33,6 +36,7 @@ constexpr auto members = std::to_array<Member>({
          u"zeigen ItemChecked."},
         {u"Index"}),
     property<&lmListView::TextPosition, &lmListView::letTextPosition>(
+        303,
         u"TextPosition",
         Repaint::asAutoRedraw,
         {u"Vertical place of the text in the row. Without effect while RowsDynamic is True.",

@@ -1,6 +1,7 @@
 /// The values of a new instance.
 #include "guards/ignoring_errors.h"
 #include "model/list_view.h"
+#include "persistence/property_values.h"
 #include "render/painting.h"
 
 namespace lumtex {
@@ -17,6 +18,9 @@ bool runsInKnownProgram(const ComponentInfo& component) {
            });
 }
 
+/// The settings of a new list come in the order in which saved ones are read, but for one.
+constexpr auto firstOrder = propertyOrder(readingMovesAnd({u"EmptyColumnFieldColor", u"GridLineColor"}));
+
 } // namespace
 
 /// A container without a font leaves that of the design.
@@ -31,81 +35,19 @@ void lmListView::recogniseProgram() {
     knownProgram = runsInKnownProgram(runtime().program().component());
 }
 
-Long lmListView::defaultJumpLines() const {
-    return knownProgram ? 4 : 1;
-}
-
 void lmListView::UserControl_InitProperties() {
     Procedure p = procedure(u"UserControl_InitProperties");
     takeContainersFont();
     recogniseProgram();
 
     p.step([&] { painting->hold(); });
-    setDefaultItemFont(lblFont);
-    letDefaultItemForeColor(0);
-    letBackColor(0xFFFFFF);
-    letBackColorDisabled(0xFFFFFF);
-    letEnabled(true);
-    letClickOnIndexChange(false);
-    letColorStyle(cXPBlue);
-    letBorderColor(0);
-    letStyle(cDefault);
-    letFullRowSelect(true);
-    letAllowEdit(false);
-    letValueColor(0xFF0000);
-    letBorderVisible(true);
-    letIndentTop(3);
-    letIndentLeft(3);
-    letIndentRight(3);
-    letIndentBottom(3);
-    letDistPicText(2);
-    letAutoCheckScroll(true);
-    letIconSelect(true);
-    letIconW(16);
-    letIconH(16);
-    letColumnIconW(16);
-    letColumnIconH(16);
-    letListIndex(-1);
-    letScrollColorStyle(cXPScrollBlue);
-    letGridLines(false);
-    letGridLineColor(0xC0C0C0);
-    letEmptyColumnFieldColor(buttonFace);
-    letMultiSelect(false);
-    letHideColumnHeaders(false);
-    letColumnTextY(2);
-    letMoveColumnTextAtDown(false);
-    setDefaultColumnFont(lblFont);
-    letDefaultColumnForeColor(0);
-    letEmptyColumnFieldWidth(0);
-    letColumnBackColor(buttonFace);
-    letColumnDownColor(buttonFace);
-    letColumnHoverColor(buttonFace);
-    letRowsDynamic(true);
-    letRowHeight(scaleY(listWindow->surface(), defaultRowHeight, pixels, twips));
-    letAutoRedraw(true);
-    letScrollBackColor(buttonFace);
-    letScrollArrows(0);
-    letScrollButtons(buttonFace);
-    letScrollBar(buttonFace);
-    letScrollArrowsDown(0);
-    letScrollButtonsDown(buttonFace);
-    letScrollBarDown(buttonFace);
-    letScrollArrowsHover(0);
-    letScrollButtonsHover(buttonFace);
-    letScrollBarHover(buttonFace);
-    letWheelFunction(cWheelScroll);
-    letDefaultIconSelectedIsIcon(true);
-    letWheelScrollLines(1);
-    letScrollButtonJumpLines(defaultJumpLines());
-    letTextPositionDefault(cTextPosCenter);
-    letDrawItemIcons(true);
-    letDrawColumnIcons(true);
-    letFixColumns(false);
-    letCheckMouseOver(false);
-    letOLEDropMode(0);
-    letOLEDragMode(0);
-    letHideSelection(false);
-    letAllowItemMoving(false);
+    forEachProperty<firstOrder>([&](const auto& row) {
+        // The current row is no setting, and has no row of the table; it begins between two that are.
+        if (row.name == u"ScrollColorStyle")
+            letListIndex(-1);
+        if (row.start.inNewList)
+            p.step([&] { assign(row, startOf(row)); });
+    });
     p.step([&] { painting->release(); });
 }
 

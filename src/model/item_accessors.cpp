@@ -33,7 +33,7 @@ T ListViewRecords::fontGet(StringView name, const Variant& Row, const Variant& C
 
 template <class T>
 void ListViewRecords::fontLet(
-    StringView name, const Variant& Row, const Variant& Column, T FontSpec::*field, const T& value) {
+    StringView name, const Variant& Row, const Variant& Column, T FontSpec::*field, Passed<T> value) {
     itemLet(name, Row, Column, [&](const Cell& cell) {
         cell.item().restyle([&](CellStyle& style) { style.font.*field = value; });
     });
@@ -48,34 +48,31 @@ ListViewRecords::extraGet(StringView name, const Variant& Row, const Variant& Co
     });
 }
 
-// clang-format off
-bool ListViewRecords::ItemFontBold(const Variant& Row, const Variant& Column) { return fontGet(u"ItemFontBold", Row, Column, &FontSpec::Bold); }
-void ListViewRecords::letItemFontBold(const Variant& Row, const Variant& Column, bool bold) { fontLet(u"ItemFontBold", Row, Column, &FontSpec::Bold, bold); }
-bool ListViewRecords::ItemFontItalic(const Variant& Row, const Variant& Column) { return fontGet(u"ItemFontItalic", Row, Column, &FontSpec::Italic); }
-void ListViewRecords::letItemFontItalic(const Variant& Row, const Variant& Column, bool italic) { fontLet(u"ItemFontItalic", Row, Column, &FontSpec::Italic, italic); }
-bool ListViewRecords::ItemFontUnderline(const Variant& Row, const Variant& Column) { return fontGet(u"ItemFontUnderline", Row, Column, &FontSpec::Underline); }
-void ListViewRecords::letItemFontUnderline(const Variant& Row, const Variant& Column, bool underline) { fontLet(u"ItemFontUnderline", Row, Column, &FontSpec::Underline, underline); }
-bool ListViewRecords::ItemFontStrikethrough(const Variant& Row, const Variant& Column) { return fontGet(u"ItemFontStrikethrough", Row, Column, &FontSpec::Strikethrough); }
-void ListViewRecords::letItemFontStrikethrough(const Variant& Row, const Variant& Column, bool strikethrough) { fontLet(u"ItemFontStrikethrough", Row, Column, &FontSpec::Strikethrough, strikethrough); }
-Single ListViewRecords::ItemFontSize(const Variant& Row, const Variant& Column) { return fontGet(u"ItemFontSize", Row, Column, &FontSpec::Size); }
-void ListViewRecords::letItemFontSize(const Variant& Row, const Variant& Column, Single points) { fontLet(u"ItemFontSize", Row, Column, &FontSpec::Size, points); }
-String ListViewRecords::ItemFontName(const Variant& Row, const Variant& Column) { return fontGet(u"ItemFontName", Row, Column, &FontSpec::Name); }
-void ListViewRecords::letItemFontName(const Variant& Row, const Variant& Column, StringView name) { fontLet(u"ItemFontName", Row, Column, &FontSpec::Name, String(name)); }
-OLE_COLOR ListViewRecords::ItemForeColor(const Variant& Row, const Variant& Column) { return styleGet(u"ItemForeColor", Row, Column, &CellStyle::ForeColor); }
-void ListViewRecords::letItemForeColor(const Variant& Row, const Variant& Column, OLE_COLOR color) { styleLet(u"ItemForeColor", Row, Column, &CellStyle::ForeColor, color); }
-bool ListViewRecords::ItemAllowEdit(const Variant& Row, const Variant& Column) { return styleGet(u"ItemAllowEdit", Row, Column, &CellStyle::AllowEdit); }
-void ListViewRecords::letItemAllowEdit(const Variant& Row, const Variant& Column, bool allow) { styleLet(u"ItemAllowEdit", Row, Column, &CellStyle::AllowEdit, allow); }
-cItemAlign ListViewRecords::ItemAlignment(const Variant& Row, const Variant& Column) { return styleGet(u"ItemAlignment", Row, Column, &CellStyle::Alignment); }
-void ListViewRecords::letItemAlignment(const Variant& Row, const Variant& Column, cItemAlign alignment) { styleLet(u"ItemAlignment", Row, Column, &CellStyle::Alignment, alignment); }
-cItemAlign ListViewRecords::ItemIconAlignment(const Variant& Row, const Variant& Column) { return styleGet(u"ItemIconAlignment", Row, Column, &CellStyle::IconAlignment); }
-void ListViewRecords::letItemIconAlignment(const Variant& Row, const Variant& Column, cItemAlign alignment) { styleLet(u"ItemIconAlignment", Row, Column, &CellStyle::IconAlignment, alignment); }
-Variant ListViewRecords::ItemBackColor(const Variant& Row, const Variant& Column) { return styleGet(u"ItemBackColor", Row, Column, &CellStyle::BackColor); }
-void ListViewRecords::letItemBackColor(const Variant& Row, const Variant& Column, const Variant& color) { styleLet(u"ItemBackColor", Row, Column, &CellStyle::BackColor, color); }
-Variant ListViewRecords::ItemForeColorSelect(const Variant& Row, const Variant& Column) { return styleGet(u"ItemForeColorSelect", Row, Column, &CellStyle::ForeColorSelect); }
-void ListViewRecords::letItemForeColorSelect(const Variant& Row, const Variant& Column, const Variant& color) { styleLet(u"ItemForeColorSelect", Row, Column, &CellStyle::ForeColorSelect, color); }
-Variant ListViewRecords::ItemBackColorSelect(const Variant& Row, const Variant& Column) { return styleGet(u"ItemBackColorSelect", Row, Column, &CellStyle::BackColorSelect); }
-void ListViewRecords::letItemBackColorSelect(const Variant& Row, const Variant& Column, const Variant& color) { styleLet(u"ItemBackColorSelect", Row, Column, &CellStyle::BackColorSelect, color); }
-// clang-format on
+// The types of the fields that one-line accessors read and write.
+
+template bool ListViewRecords::fontGet(StringView, const Variant&, const Variant&, bool FontSpec::*);
+template Single ListViewRecords::fontGet(StringView, const Variant&, const Variant&, Single FontSpec::*);
+template String ListViewRecords::fontGet(StringView, const Variant&, const Variant&, String FontSpec::*);
+template void ListViewRecords::fontLet(StringView, const Variant&, const Variant&, bool FontSpec::*, bool);
+template void
+ListViewRecords::fontLet(StringView, const Variant&, const Variant&, Single FontSpec::*, Single);
+template void
+ListViewRecords::fontLet(StringView, const Variant&, const Variant&, String FontSpec::*, StringView);
+template bool ListViewRecords::styleGet(StringView, const Variant&, const Variant&, bool CellStyle::*);
+template OLE_COLOR
+ListViewRecords::styleGet(StringView, const Variant&, const Variant&, OLE_COLOR CellStyle::*);
+template cItemAlign
+ListViewRecords::styleGet(StringView, const Variant&, const Variant&, cItemAlign CellStyle::*);
+template Variant
+ListViewRecords::styleGet(StringView, const Variant&, const Variant&, Held<Variant> CellStyle::*);
+template void
+ListViewRecords::styleLet(StringView, const Variant&, const Variant&, bool CellStyle::*, const bool&);
+template void ListViewRecords::styleLet(
+    StringView, const Variant&, const Variant&, OLE_COLOR CellStyle::*, const OLE_COLOR&);
+template void ListViewRecords::styleLet(
+    StringView, const Variant&, const Variant&, cItemAlign CellStyle::*, const cItemAlign&);
+template void ListViewRecords::styleLet(
+    StringView, const Variant&, const Variant&, Held<Variant> CellStyle::*, const Variant&);
 
 Variant ListViewRecords::ItemForeColorDis(const Variant& Row, const Variant& Column) {
     return itemGet<Variant>(

@@ -15,7 +15,6 @@
 
 namespace lumtex {
 
-struct PropertyKey;
 class LumtexAbout;
 
 /// An owner-drawn list of rows and columns.
@@ -233,8 +232,10 @@ class lmListView final : public ListViewRecords, public UserControl {
 
     void takeContainersFont();
     void recogniseProgram();
-    Long defaultJumpLines() const;
-    std::vector<PropertyKey> propertyKeys() const;
+    template <class Row>
+    Variant startOf(const Row& row) const;
+    template <class Row>
+    void assign(const Row& row, const Variant& value);
     void UserControl_Terminate();
     void end();
     bool holdsAnything() const;

@@ -1,4 +1,4 @@
-/// The setters with more to them than `setterTable` can say.
+/// The setters with more to them than the property table can say.
 #include "drawing/clone_font.h"
 #include "model/list_view_properties.h"
 #include "render/painting.h"
@@ -69,20 +69,19 @@ void ListViewProperties::letRowsDynamic(bool value) {
     CheckForRedraw();
 }
 
-void ListViewProperties::storeFont(Property property, Held<FontRef>& field, const FontRef& font) {
-    const StringView name = setterOf(property).name;
+void ListViewProperties::storeFont(StringView name, Held<FontRef> Properties::*field, const FontRef& font) {
     Procedure p = procedure(name);
-    p.step([&] { field = CloneFont(font); });
+    p.step([&] { properties.*field = CloneFont(font); });
     p.step([&] { host().PropertyChanged(name); });
     CheckForRedraw();
 }
 
 void ListViewProperties::setDefaultItemFont(const FontRef& font) {
-    storeFont(Property::DefaultItemFont, properties.DefaultItemFont, font);
+    storeFont(u"DefaultItemFont", &Properties::DefaultItemFont, font);
 }
 
 void ListViewProperties::setDefaultColumnFont(const FontRef& font) {
-    storeFont(Property::DefaultColumnFont, properties.DefaultColumnFont, font);
+    storeFont(u"DefaultColumnFont", &Properties::DefaultColumnFont, font);
 }
 
 void ListViewProperties::setSkin(PictureRef picture) {

@@ -4,9 +4,8 @@
 #include "content/content_pictures.h"
 #include "content/content_reader.h"
 #include "helpers/file_exists.h"
-#include "model/list_view.h"
+#include "persistence/content_fields.h"
 #include "persistence/whole_record_loading.h"
-#include "values/color.h"
 
 namespace lumtex {
 
@@ -22,68 +21,58 @@ class CellLoading {
     void readText(Long row, Long column) { list_.letItemText(row, column, text()); }
 
     void readProperties(Long row, Long column) {
-        list_.letItemEnabled(row, column, boolean());
-        list_.letItemFontBold(row, column, boolean());
-        list_.letItemFontItalic(row, column, boolean());
-        list_.letItemFontUnderline(row, column, boolean());
-        list_.letItemFontStrikethrough(row, column, boolean());
-        list_.letItemFontSize(row, column, number<Single>());
-        list_.letItemFontName(row, column, text());
-        list_.letItemAllowEdit(row, column, boolean());
-        list_.letItemAlignment(row, column, alignment());
-        list_.letItemTag(row, column, text());
-        // This accessor alone takes nothing but a number, so "def" does not even reach it.
-        const Variant foreColor = color();
-        p_.step([&] { list_.letItemForeColor(row, column, foreColor.toColor()); });
-        list_.letItemForeColorSelect(row, column, color());
-        list_.letItemForeColorDis(row, column, color());
-        list_.letItemBackColor(row, column, color());
-        list_.letItemBackColorSelect(row, column, color());
-        list_.letItemBackColorDis(row, column, color());
-        list_.letItemIconAlignment(row, column, alignment());
-        list_.setItemIcon(row, column, picture());
-        list_.setItemIconSelected(row, column, picture());
+        forEachContentField([&]<class Field>(Field /*field*/) {
+            using Value = typename Field::Value;
+            if constexpr (Field::isTag) {
+                (list_.*Field::let)(row, column, text());
+            } else if constexpr (Field::isColor) {
+                const Variant read = color();
+                // The accessor that takes nothing but a number is not even reached by "def".
+                if constexpr (std::is_same_v<Value, OLE_COLOR>)
+                    p_.step([&] { (list_.*Field::let)(row, column, read.toColor()); });
+                else
+                    (list_.*Field::let)(row, column, read);
+            } else {
+                (list_.*Field::let)(row, column, value<Value>());
+            }
+        });
     }
 
     void discardProperties() {
-        for (int flag = 0; flag < 5; ++flag)
-            boolean(); // enabled, and four of the font
-        number<Single>();
-        discardBytes();
-        boolean();
-        number<Byte>();
-        discardBytes();
-        for (int i = 0; i < 6; ++i)
-            color();
-        number<Byte>();
-        for (int i = 0; i < 2; ++i)
-            if (number<Byte>() == 1)
-                discardBytes();
+        forEachContentField([&]<class Field>(Field /*field*/) {
+            if constexpr (Field::isColor) {
+                color();
+            } else if constexpr (Field::isText || Field::isIcon) {
+                if (Field::isText || number<Byte>() == 1)
+                    discardBytes();
+            } else {
+                value<typename Field::Value>();
+            }
+        });
     }
 
+    // Wanted: black text, whatever DefaultItemForeColor says.
     void giveDefaults(Long row, Long column) {
-        list_.letItemEnabled(row, column, true);
-        p_.step([&] { list_.letItemFontBold(row, column, defaultFont().Bold); });
-        p_.step([&] { list_.letItemFontItalic(row, column, defaultFont().Italic); });
-        p_.step([&] { list_.letItemFontUnderline(row, column, defaultFont().Underline); });
-        p_.step([&] { list_.letItemFontStrikethrough(row, column, defaultFont().Strikethrough); });
-        p_.step([&] { list_.letItemFontSize(row, column, defaultFont().Size); });
-        p_.step([&] { list_.letItemFontName(row, column, defaultFont().Name); });
-        // Wanted: cells are editable where the list is, though new cells are not.
-        list_.letItemAllowEdit(row, column, list_.AllowEdit());
-        list_.letItemAlignment(row, column, cItemLeft);
-        // Wanted: the tag is the empty text, though that of a new cell is Empty.
-        list_.letItemTag(row, column, u"");
-        // Wanted: black text, whatever DefaultItemForeColor says.
-        list_.letItemForeColor(row, column, black);
-        list_.letItemForeColorSelect(row, column, u"def");
-        list_.letItemForeColorDis(row, column, grayText);
-        list_.letItemBackColor(row, column, u"def");
-        list_.letItemBackColorSelect(row, column, u"def");
-        list_.letItemBackColorDis(row, column, buttonFace);
-        list_.letItemIconAlignment(row, column, cItemLeft);
-        list_.setItemIcon(row, column, nullptr);
-        list_.setItemIconSelected(row, column, nullptr);
+        const CellStyle plain;
+        forEachContentField([&]<class Field>(Field /*field*/) {
+            using Place = typename Field::Place;
+            const auto give = [&](const auto& value) { (list_.*Field::let)(row, column, value); };
+            // Wanted: the tag is the empty text, though that of a new cell is Empty.
+            // Wanted: cells are editable where the list is, though new cells are not.
+            if constexpr (Field::isTag)
+                give(u"");
+            else if constexpr (Field::isIcon)
+                give(nullptr);
+            else if constexpr (Field::isOfFont)
+                p_.step([&] {
+                    const CellStyle look = lookOfDefaultFont();
+                    give(Place::of(look));
+                });
+            else if constexpr (std::is_same_v<Place, InStyle<&CellStyle::AllowEdit>>)
+                give(list_.AllowEdit());
+            else
+                give(Place::of(plain));
+        });
     }
 
   private:
@@ -91,15 +80,24 @@ class CellLoading {
     T number() {
         return p_.value<T>([&] { return file_.get<T>(); });
     }
-    bool boolean() {
-        return p_.value<bool>([&] { return file_.getBoolean(); });
+    template <class Value>
+    Value value() {
+        if constexpr (std::is_same_v<Value, bool>)
+            return p_.value<bool>([&] { return file_.getBoolean(); });
+        else if constexpr (std::is_same_v<Value, Single>)
+            return number<Single>();
+        else if constexpr (std::is_same_v<Value, String>)
+            return text();
+        else if constexpr (std::is_same_v<Value, PictureRef>)
+            return picture();
+        else
+            return static_cast<Value>(number<Byte>());
     }
     String text() {
         const Long length = number<Long>();
         return p_.value<String>([&] { return file_.getText(length); });
     }
     Variant color() { return HTML2VBColor(number<Long>()); }
-    cItemAlign alignment() { return static_cast<cItemAlign>(number<Byte>()); }
     PictureRef picture() {
         if (number<Byte>() != 1)
             return nullptr;
@@ -111,11 +109,13 @@ class CellLoading {
         const Long length = number<Long>();
         p_.step([&] { file_.skip(length); });
     }
-    FontSpec defaultFont() const {
+    CellStyle lookOfDefaultFont() const {
         const FontRef font = list_.DefaultItemFont();
         if (!font)
             throw RuntimeError(objectVariableNotSet);
-        return font->spec;
+        CellStyle look;
+        look.font = font->spec;
+        return look;
     }
 
     lmListView& list_;

@@ -4,7 +4,7 @@
 #include "content/content_pictures.h"
 #include "content/content_writer.h"
 #include "helpers/file_exists.h"
-#include "model/list_view.h"
+#include "persistence/content_fields.h"
 #include "persistence/whole_record_saving.h"
 
 namespace lumtex {
@@ -21,26 +21,15 @@ class CellSaving {
     void writeText(Long row, Long column) { putText(list_.ItemText(row, column)); }
 
     void writeProperties(Long row, Long column) {
-        putBoolean(list_.ItemEnabled(row, column));
-        putBoolean(list_.ItemFontBold(row, column));
-        putBoolean(list_.ItemFontItalic(row, column));
-        putBoolean(list_.ItemFontUnderline(row, column));
-        putBoolean(list_.ItemFontStrikethrough(row, column));
-        put(list_.ItemFontSize(row, column));
-        putText(list_.ItemFontName(row, column));
-        putBoolean(list_.ItemAllowEdit(row, column));
-        putByte(list_.ItemAlignment(row, column));
-        const Variant tag = list_.ItemTag(row, column);
-        putText(p_.value<String>([&] { return tag.toText(); }));
-        putColor(list_.ItemForeColor(row, column));
-        putColor(list_.ItemForeColorSelect(row, column));
-        putColor(list_.ItemForeColorDis(row, column));
-        putColor(list_.ItemBackColor(row, column));
-        putColor(list_.ItemBackColorSelect(row, column));
-        putColor(list_.ItemBackColorDis(row, column));
-        putByte(list_.ItemIconAlignment(row, column));
-        putPicture(list_.ItemIcon(row, column));
-        putPicture(list_.ItemIconSelected(row, column));
+        forEachContentField([&]<class Field>(Field /*field*/) {
+            const auto value = (list_.*Field::get)(row, column);
+            if constexpr (Field::isTag)
+                putText(p_.value<String>([&] { return value.toText(); }));
+            else if constexpr (Field::isColor)
+                putColor(value);
+            else
+                putValue(value);
+        });
     }
 
   private:
@@ -48,8 +37,10 @@ class CellSaving {
     void put(T value) {
         p_.step([&] { file_.put(value); });
     }
-    void putBoolean(bool value) { put(booleanNumber(value)); }
-    void putByte(cItemAlign value) {
+    void putValue(bool value) { put(booleanNumber(value)); }
+    void putValue(Single value) { put(value); }
+    void putValue(const String& value) { putText(value); }
+    void putValue(cItemAlign value) {
         put(p_.value<Byte>([&] { return Variant(static_cast<Long>(value)).toByte(); }));
     }
     void putText(const String& text) {
@@ -59,7 +50,7 @@ class CellSaving {
     void putColor(const Variant& color) {
         put(p_.value<Long>([&] { return GetCorrectColor(runtime_, color.toText()); }));
     }
-    void putPicture(const PictureRef& picture) {
+    void putValue(const PictureRef& picture) {
         if (!picture) {
             put(Byte{0});
             return;

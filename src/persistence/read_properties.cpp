@@ -3,7 +3,7 @@
 #include "interaction/mouse.h"
 #include "interaction/row_drag.h"
 #include "interaction/selection.h"
-#include "persistence/property_keys.h"
+#include "persistence/property_values.h"
 #include "render/painting.h"
 #include "scroll/scroller.h"
 #include "sortfind/sorter.h"
@@ -14,12 +14,10 @@ void lmListView::UserControl_ReadProperties(const PropertyBag& bag) {
     Procedure p = procedure(u"UserControl_ReadProperties");
     takeContainersFont();
     recogniseProgram();
-    std::vector<PropertyKey> keys;
-    p.step([&] { keys = propertyKeys(); });
     p.step([&] { painting->hold(); });
     // A value that cannot be used is reported, and reading goes on with the next key.
-    for (const PropertyKey& key : keys)
-        p.step([&] { key.let(*this, bag.ReadProperty(key.name, key.byDefault)); });
+    forEachProperty<readingOrder>(
+        [&](const auto& row) { p.step([&] { assign(row, bag.ReadProperty(row.name, startOf(row))); }); });
     p.step([&] { painting->release(); });
 
     RowsClear();

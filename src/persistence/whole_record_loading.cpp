@@ -3,6 +3,7 @@
 #include "content/content_colors.h"
 #include "guards/error.h"
 #include "guards/failure_of.h"
+#include "persistence/content_fields.h"
 
 #include <algorithm>
 
@@ -10,8 +11,6 @@ namespace lumtex {
 
 namespace {
 
-constexpr std::size_t flagsSize = 5 * sizeof(Integer);
-constexpr std::size_t colorsSize = 6 * sizeof(Long);
 /// What a record behind the file's end reads as.
 constexpr std::array<Byte, 56> nothingButZeros{};
 
@@ -39,6 +38,16 @@ class Fields {
         const Long length = number<Long>();
         complete_ = complete_ && length >= 0;
         return take(static_cast<std::size_t>(std::max(length, Long{0})));
+    }
+    /// A value of the style, as it lies.
+    template <class Value>
+    void pass() {
+        if constexpr (std::is_same_v<Value, String>)
+            withLength();
+        else
+            take(std::is_same_v<Value, bool>         ? sizeof(Integer)
+                 : std::is_same_v<Value, cItemAlign> ? sizeof(Byte)
+                                                     : sizeof(Long));
     }
     const Byte* place() const { return rest_.data(); }
 
@@ -68,23 +77,26 @@ std::optional<WholeRecordLoading::Record> WholeRecordLoading::split(std::span<co
     Fields fields(bytes);
     Record record;
     record.text = fields.withLength();
+    bool hasPicture = false;
     if (form_ != RecordForm::textAlone) {
-        const Byte* const look = fields.place();
-        fields.take(flagsSize + sizeof(Single));
-        fields.withLength(); // the font's name
-        fields.take(sizeof(Integer) + sizeof(Byte));
-        record.beforeTag = between(look, fields.place());
-        record.tag = fields.withLength();
-        record.behindTag = fields.take(colorsSize + sizeof(Byte));
-        for (int picture = 0; picture < 2; ++picture) {
-            if (fields.number<Byte>() != 1)
-                continue;
-            if (form_ == RecordForm::readProperties)
-                return std::nullopt;
-            fields.withLength();
-        }
+        const Byte* look = fields.place();
+        forEachContentField([&]<class Field>(Field /*field*/) {
+            if constexpr (Field::isTag) {
+                record.beforeTag = between(look, fields.place());
+                record.tag = fields.withLength();
+                look = fields.place();
+            } else if constexpr (Field::isIcon) {
+                if (fields.number<Byte>() != 1)
+                    return;
+                hasPicture = true;
+                fields.withLength();
+            } else {
+                fields.pass<typename Field::Value>();
+                record.behindTag = between(look, fields.place());
+            }
+        });
     }
-    if (!fields.complete())
+    if (!fields.complete() || (hasPicture && form_ == RecordForm::readProperties))
         return std::nullopt;
     record.size = static_cast<std::size_t>(fields.place() - bytes.data());
     return record;
@@ -105,21 +117,29 @@ bool WholeRecordLoading::lookOf(const Record& record) {
         return true;
     CellStyle style;
     Fields before(record.beforeTag);
-    FontSpec& font = style.font;
-    for (bool* flag : {&style.Enabled, &font.Bold, &font.Italic, &font.Underline, &font.Strikethrough})
-        *flag = before.number<Integer>() != 0;
-    font.Size = before.number<Single>();
-    font.Name = textOf(before.withLength());
-    style.AllowEdit = before.number<Integer>() != 0;
-    style.Alignment = static_cast<cItemAlign>(before.number<Byte>());
     Fields behind(record.behindTag);
-    bool hasNumbers = takeColor(behind, style.ForeColor);
-    style.ForeColorSelect = HTML2VBColor(behind.number<Long>());
-    hasNumbers = takeColor(behind, style.ForeColorDis) && hasNumbers;
-    style.BackColor = HTML2VBColor(behind.number<Long>());
-    style.BackColorSelect = HTML2VBColor(behind.number<Long>());
-    hasNumbers = takeColor(behind, style.BackColorDis) && hasNumbers;
-    style.IconAlignment = static_cast<cItemAlign>(behind.number<Byte>());
+    Fields* fields = &before;
+    bool hasNumbers = true;
+    forEachContentField([&]<class Field>(Field /*field*/) {
+        if constexpr (Field::isTag) {
+            fields = &behind;
+        } else if constexpr (Field::isInStyle) {
+            auto& kept = Field::Place::of(style);
+            using Kept = std::remove_cvref_t<decltype(kept)>;
+            if constexpr (std::is_same_v<Kept, OLE_COLOR>)
+                hasNumbers = takeColor(*fields, kept) && hasNumbers;
+            else if constexpr (Field::isColor)
+                kept = HTML2VBColor(fields->number<Long>());
+            else if constexpr (std::is_same_v<Kept, bool>)
+                kept = fields->number<Integer>() != 0;
+            else if constexpr (std::is_same_v<Kept, Single>)
+                kept = fields->number<Single>();
+            else if constexpr (std::is_same_v<Kept, String>)
+                kept = textOf(fields->withLength());
+            else
+                kept = static_cast<Kept>(fields->number<Byte>());
+        }
+    });
     if (!hasNumbers)
         return false;
     look_.style.reset();

@@ -2,6 +2,7 @@
 
 #include "content/content_colors.h"
 #include "guards/failure_of.h"
+#include "persistence/content_fields.h"
 
 #include <algorithm>
 
@@ -27,43 +28,47 @@ std::optional<Long> codeOf(const Variant& color) {
     return std::nullopt;
 }
 
-bool fitsByte(cItemAlign alignment) {
-    return static_cast<Long>(alignment) >= 0 && static_cast<Long>(alignment) <= 0xFF;
-}
-
 } // namespace
 
 void WholeRecordSaving::encode(const CellStyle& style) {
-    std::vector<Byte>& before = look_.beforeTag;
-    std::vector<Byte>& behind = look_.behindTag;
-    before.clear();
-    behind.clear();
-    look_.hasForm = false;
-    if (!fitsByte(style.Alignment) || !fitsByte(style.IconAlignment))
-        return;
-    const FontSpec& font = style.font;
-    for (const bool flag : {style.Enabled, font.Bold, font.Italic, font.Underline, font.Strikethrough})
-        append(before, booleanNumber(flag));
-    append(before, font.Size);
-    append(before, static_cast<Long>(font.Name.size()));
-    before.resize(before.size() + font.Name.size());
-    locale_.toAnsi(font.Name, std::span(before).last(font.Name.size()));
-    append(before, booleanNumber(style.AllowEdit));
-    append(before, static_cast<Byte>(style.Alignment));
-    const Variant colors[] = {style.ForeColor,
-                              style.ForeColorSelect,
-                              style.ForeColorDis,
-                              style.BackColor,
-                              style.BackColorSelect,
-                              style.BackColorDis};
-    for (const Variant& color : colors) {
-        const std::optional<Long> code = codeOf(color);
-        if (!code)
-            return;
-        append(behind, *code);
-    }
-    append(behind, static_cast<Byte>(style.IconAlignment));
+    look_.beforeTag.clear();
+    look_.behindTag.clear();
     look_.hasForm = true;
+    std::vector<Byte>* bytes = &look_.beforeTag;
+    forEachContentField([&]<class Field>(Field /*field*/) {
+        if constexpr (Field::isTag)
+            bytes = &look_.behindTag;
+        else if constexpr (Field::isColor)
+            appendColor(*bytes, Field::Place::of(style));
+        else if constexpr (Field::isInStyle)
+            appendValue(*bytes, Field::Place::of(style));
+    });
+}
+
+void WholeRecordSaving::appendValue(std::vector<Byte>& bytes, bool value) {
+    append(bytes, booleanNumber(value));
+}
+
+void WholeRecordSaving::appendValue(std::vector<Byte>& bytes, Single value) {
+    append(bytes, value);
+}
+
+void WholeRecordSaving::appendValue(std::vector<Byte>& bytes, const String& value) {
+    append(bytes, static_cast<Long>(value.size()));
+    bytes.resize(bytes.size() + value.size());
+    locale_.toAnsi(value, std::span(bytes).last(value.size()));
+}
+
+void WholeRecordSaving::appendValue(std::vector<Byte>& bytes, cItemAlign value) {
+    const Long number = value;
+    look_.hasForm = look_.hasForm && number >= 0 && number <= 0xFF;
+    append(bytes, static_cast<Byte>(number));
+}
+
+void WholeRecordSaving::appendColor(std::vector<Byte>& bytes, const Variant& color) {
+    const std::optional<Long> code = codeOf(color);
+    look_.hasForm = look_.hasForm && code;
+    append(bytes, code.value_or(0));
 }
 
 const WholeRecordSaving::Look& WholeRecordSaving::lookOf(StyleHandle style) {

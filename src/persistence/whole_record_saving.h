@@ -33,6 +33,11 @@ class WholeRecordSaving {
 
     const Look& lookOf(StyleHandle style);
     void encode(const CellStyle& style);
+    void appendValue(std::vector<Byte>& bytes, bool value);
+    void appendValue(std::vector<Byte>& bytes, Single value);
+    void appendValue(std::vector<Byte>& bytes, const String& value);
+    void appendValue(std::vector<Byte>& bytes, cItemAlign value);
+    void appendColor(std::vector<Byte>& bytes, const Variant& color);
     void encodeText(const CompactText& text, Byte* target);
 
     ContentCells cells_;

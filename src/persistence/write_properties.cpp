@@ -1,27 +1,22 @@
 /// Saving the settings.
-#include "persistence/property_keys.h"
-
-#include <algorithm>
+#include "persistence/property_values.h"
 
 namespace lumtex {
 
+namespace {
+
+/// Wanted: one key is written earlier than it is read.
+constexpr auto writingOrder = propertyOrder(readingMovesAnd({u"AutoRedraw", u"EmptyColumnFieldWidth"}));
+
+} // namespace
+
 void lmListView::UserControl_WriteProperties(PropertyBag& bag) {
     Procedure p = procedure(u"UserControl_WriteProperties");
-    std::vector<PropertyKey> keys;
-    if (!p.step([&] { keys = propertyKeys(); }))
-        return;
-    const auto write = [&](const PropertyKey& key) {
-        p.step([&] { bag.WriteProperty(key.name, key.get(*this), key.byDefault); });
-    };
-    const auto late = std::ranges::find(keys, StringView(u"AutoRedraw"), &PropertyKey::name);
-    for (const PropertyKey& key : keys) {
-        if (&key == &*late)
-            continue;
-        write(key);
-        // Wanted: one key is written earlier than it is read.
-        if (key.name == u"EmptyColumnFieldWidth")
-            write(*late);
-    }
+    forEachProperty<writingOrder>([&](const auto& row) {
+        using Value = ValueOf<std::remove_cvref_t<decltype(properties.*row.field)>>;
+        const Value value = properties.*row.field;
+        p.step([&] { bag.WriteProperty(row.name, toVariant(value), startOf(row)); });
+    });
 }
 
 } // namespace lumtex

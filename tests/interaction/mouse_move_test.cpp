@@ -43,7 +43,12 @@ TEST_F(MouseMove, YieldsBeforeItRemembersThePlace) {
 
 TEST_F(MouseMove, WithoutAButtonEndsWhatAPressBegan) {
     fill(2);
-    inside.header() = {true, 0, 0, -1, 0, true};
+    inside.header() = {.pressPending = true,
+                       .currentColumn = 0,
+                       .pressedColumn = 0,
+                       .hoverColumn = -1,
+                       .resizeColumn = 0,
+                       .resizing = true};
     list.UserControl_MouseMove(rightButton, 0, 30, 150);
     EXPECT_TRUE(inside.header().pressPending);
     EXPECT_TRUE(inside.header().resizing);

@@ -178,7 +178,7 @@ class MisbehavingHost : public PlayedList {
         list.letRowHeight(rowHeight * 15);
         list.letClickOnIndexChange(false);
         list.letMultiSelect(false);
-        inside.header() = {false, -1, -1, -1, -1, false};
+        inside.makeIdle();
         fill(3);
         click(cell(2, 1));
         EXPECT_TRUE(

@@ -1,5 +1,8 @@
 #include "bars/scroll_colors.h"
 #include "list_fixture.h"
+#include "model/property_table.h"
+
+#include <map>
 
 namespace lumtex::testing {
 
@@ -188,17 +191,17 @@ namespace {
 
 /// Assigns something else to a property.
 struct Change {
-    Property property;
+    StringView name;
     std::function<void(lmListView&)> assign;
 };
 
 #define FLIP(name)                                                                                           \
     {                                                                                                        \
-        Property::name, [](lmListView& list) { list.let##name(!list.name()); }                               \
+        u## #name, [](lmListView& list) { list.let##name(!list.name()); }                                    \
     }
 #define RAISE(name)                                                                                          \
     {                                                                                                        \
-        Property::name, [](lmListView& list) {                                                               \
+        u## #name, [](lmListView& list) {                                                                    \
             using Type = decltype(list.name());                                                              \
             list.let##name(static_cast<Type>(list.name() + 1));                                              \
         }                                                                                                    \
@@ -240,8 +243,7 @@ const std::vector<Change>& plainChanges() {
         FLIP(MoveColumnTextAtDown),
         FLIP(ClickOnIndexChange),
         FLIP(AllowEdit),
-        {Property::AllowItemMoving,
-         [](lmListView& list) { ListViewInspector(list).letAllowItemMoving(true); }},
+        {u"AllowItemMoving", [](lmListView& list) { ListViewInspector(list).letAllowItemMoving(true); }},
         FLIP(CheckMouseOver),
         FLIP(FixColumns),
         RAISE(OLEDragMode),
@@ -253,7 +255,7 @@ const std::vector<Change>& plainChanges() {
         RAISE(BorderColor),
         FLIP(DrawItemIcons),
         FLIP(DrawColumnIcons),
-        {Property::BackgroundPicture,
+        {u"BackgroundPicture",
          [](lmListView& list) { list.setBackgroundPicture(std::make_shared<BitmapPicture>(Bitmap(2, 2))); }},
         RAISE(ScrollBackColor),
         RAISE(ScrollArrows),
@@ -272,31 +274,42 @@ const std::vector<Change>& plainChanges() {
 #undef FLIP
 #undef RAISE
 
+After afterOf(StringView name) {
+    std::optional<After> after;
+    forEachProperty<readingOrder>([&](const auto& row) {
+        if (row.name == name)
+            after = row.after;
+    });
+    return after.value();
+}
+
 } // namespace
 
 TEST(SetterTable, EveryPlainSetterIsTested) {
-    std::size_t plain = 0;
-    for (const PropertySetter& setter : setterTable)
-        plain += setter.setterClass != SetterClass::special ? 1 : 0;
-    EXPECT_EQ(plainChanges().size(), plain);
-    EXPECT_EQ(plain, 30U + 10U + 6U + 10U + 1U) << "the four classes";
+    std::map<After, std::size_t> rows;
+    forEachProperty<readingOrder>([&](const auto& row) { ++rows[row.after]; });
+    EXPECT_EQ(rows[After::checkForRedraw], 31U);
+    EXPECT_EQ(rows[After::store], 10U);
+    EXPECT_EQ(rows[After::redraw], 6U);
+    EXPECT_EQ(rows[After::toScrollBars], 10U);
+    EXPECT_EQ(plainChanges().size(), 31U + 10U + 6U + 10U);
 }
 
 TEST_F(Setters, StoreTellTheHostAndRepaintByTheirClass) {
     addColumns({50});
     for (const Change& change : plainChanges()) {
-        const auto& [name, setterClass] = setterOf(change.property);
+        const After after = afterOf(change.name);
         for (const bool autoRedraw : {true, false}) {
             list.letAutoRedraw(autoRedraw);
             host.changed.clear();
             const int paints = paintsOf([&] { change.assign(list); });
             int expected = 0;
-            if (setterClass == SetterClass::redraw)
+            if (after == After::redraw)
                 expected = 1;
-            else if (setterClass != SetterClass::storeOnly)
+            else if (after != After::store)
                 expected = autoRedraw ? 1 : 0;
-            EXPECT_EQ(paints, expected) << toUtf8(name) << " with AutoRedraw " << autoRedraw;
-            EXPECT_EQ(host.changed, std::vector<String>{name});
+            EXPECT_EQ(paints, expected) << toUtf8(change.name) << " with AutoRedraw " << autoRedraw;
+            EXPECT_EQ(host.changed, std::vector<String>{String(change.name)});
         }
     }
 }

@@ -75,6 +75,18 @@ class ListViewInspector {
     const ControlLife& life() { return core().life(); }
     void letAllowItemMoving(bool value) { list_.letAllowItemMoving(value); }
 
+    /// No column is pressed, hovered over, resized or sorted: as saved settings leave it, where a new list
+    /// starts with zeros.
+    void makeIdle() {
+        header() = {.pressPending = false,
+                    .currentColumn = -1,
+                    .pressedColumn = -1,
+                    .hoverColumn = -1,
+                    .resizeColumn = -1,
+                    .resizing = false};
+        sort().sortColumn = -1;
+    }
+
     /// What `RowsClear` and `ColumnsClear` leave behind.
     void clearRows() { core().records.clearRows(); }
     void clearColumns() { core().records.clearColumns(); }
@@ -94,8 +106,7 @@ class ListFixture : public ::testing::Test {
         events.depth = [this] { return desktop.yieldDepth(); };
         list.UserControl_InitProperties();
         list.window().place(100, 100, 300, 200);
-        inside.sort().sortColumn = -1;
-        inside.header() = {false, -1, -1, -1, -1, false};
+        inside.makeIdle();
     }
 
     HeadlessWindow& window() { return static_cast<HeadlessWindow&>(list.window()); }

@@ -21,8 +21,7 @@ class PaintedList : public ::testing::Test {
         list.letRowsDynamic(false);
         list.letRowHeight(300);
         window().place(0, 0, 200, 100);
-        inside.sort().sortColumn = -1;
-        inside.header() = {false, -1, -1, -1, -1, false};
+        inside.makeIdle();
     }
     ~PaintedList() override { Error().letSilentError(false); }
 
