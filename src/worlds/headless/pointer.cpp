@@ -21,7 +21,7 @@ class Pointer::Delivery {
     Integer outer_;
 };
 
-class Pointer::Target final : public MousePress::Target {
+class Pointer::Target final : public ClickSequence::Target {
   public:
     Target(Pointer& pointer, const Pane& pane) : pointer_(pointer), handle_(pane.handle()) {}
 

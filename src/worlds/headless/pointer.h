@@ -2,7 +2,7 @@
 /// The mouse of the simulated desktop: where it is, what it holds, and who hears of it.
 #pragma once
 
-#include "worlds/common/mouse_press.h"
+#include "worlds/common/click_sequence.h"
 #include "worlds/headless/focus.h"
 #include "worlds/headless/window_tree.h"
 
@@ -12,12 +12,12 @@ namespace lumtex {
 
 /// Who gets an event is decided when it is delivered, from the place where the pointer was when it happened.
 ///
-/// There is one capture; `MousePress` says when it comes and goes. However a capture ends, a move is made up,
-/// so that the window that lies under the pointer by then does not miss it.
+/// There is one capture; `ClickSequence` says when it comes and goes. However a capture ends, a move is made
+/// up, so that the window that lies under the pointer by then does not miss it.
 class Pointer {
   public:
     /// Something that the mouse did, as it was at that time, in pixels of the desktop.
-    using Event = MousePress::Event;
+    using Event = ClickSequence::Event;
 
     Pointer(WindowTree& tree, Focus& focus) : tree_(tree), focus_(focus) {}
     Pointer(const Pointer&) = delete;
@@ -72,7 +72,7 @@ class Pointer {
     Integer shift_ = 0;               ///< of the event that is being delivered
     bool moveMadeUp_ = false;         ///< one waits
     WindowHandle captured_ = 0;
-    MousePress press_;
+    ClickSequence press_;
 };
 
 } // namespace lumtex

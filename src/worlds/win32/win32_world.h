@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/world.h"
-#include "worlds/common/mouse_press.h"
+#include "worlds/common/click_sequence.h"
 #include "worlds/win32/timer_window.h"
 #include "worlds/win32/win32_runtime.h"
 #include "worlds/win32/win32_tips.h"
@@ -23,7 +23,7 @@ struct WindowMessage {
 
 /// Belongs to the thread that makes it, as do all things made by it.
 ///
-/// Press, focus, capture and click follow one another as `MousePress` has it.
+/// Press, focus, capture and click follow one another as `ClickSequence` has it.
 class Win32World final : public World {
   public:
     /// Pixels that one surface may have at most.
@@ -81,7 +81,7 @@ class Win32World final : public World {
     /// Throws RuntimeError 7 for more than `mostPixels`.
     static void refuseHugeSize(Long width, Long height);
 
-    MousePress press;
+    ClickSequence press;
 
     /// Gives up the capture, whoever of the thread has it. The system makes up a move then, for the window
     /// that is under the mouse when messages run next.

@@ -1,11 +1,11 @@
-#include "worlds/common/mouse_press.h"
+#include "worlds/common/click_sequence.h"
 
 #include <utility>
 
 namespace lumtex {
 
 /// Capture and keyboard; does the window take input after that?
-bool MousePress::begin(Target* target) {
+bool ClickSequence::begin(Target* target) {
     if (target == nullptr)
         return false;
     target->capture();
@@ -16,7 +16,7 @@ bool MousePress::begin(Target* target) {
     return target->takesInput();
 }
 
-void MousePress::press(Target* target, const Event& event) {
+void ClickSequence::press(Target* target, const Event& event) {
     if (!begin(target))
         return;
     window_ = target->handle();
@@ -24,13 +24,13 @@ void MousePress::press(Target* target, const Event& event) {
     target->mouseDown(event);
 }
 
-void MousePress::pressAgain(Target* target, const Event& event) {
+void ClickSequence::pressAgain(Target* target, const Event& event) {
     forget();
     if (begin(target))
         target->doubleClick(event);
 }
 
-void MousePress::release(Target* target, const Event& event, const std::function<void()>& endCapture) {
+void ClickSequence::release(Target* target, const Event& event, const std::function<void()>& endCapture) {
     const WindowHandle pressed = event.button == button_ ? std::exchange(window_, 0) : 0;
     if (event.buttons == noButton)
         endCapture();

@@ -16,7 +16,7 @@ namespace lumtex {
 /// release were of one button, on one window, which still takes input and lies under the pointer.
 ///
 /// Each step may run host code, after which the window may have gone.
-class MousePress {
+class ClickSequence {
   public:
     struct Event {
         Point at;                   ///< as `Target` understands it

@@ -1,5 +1,5 @@
 #include "log_comparison.h"
-#include "worlds/common/mouse_press.h"
+#include "worlds/common/click_sequence.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace {
 using Log = std::vector<std::string>;
 
 /// A window that notes what is asked of it. Any step may be the one in which it goes, or takes input no more.
-class NotedWindow final : public MousePress::Target {
+class NotedWindow final : public ClickSequence::Target {
   public:
     NotedWindow(Log& log, WindowHandle handle) : log_(log), handle_(handle) {}
 
@@ -25,9 +25,11 @@ class NotedWindow final : public MousePress::Target {
     bool isThere() const override { return there_; }
     bool takesInput() const override { return there_ && enabled_; }
     bool covers(Point /*at*/) const override { return there_ && underPointer; }
-    void mouseDown(const MousePress::Event& event) override { note("down " + std::to_string(event.button)); }
-    void doubleClick(const MousePress::Event& /*event*/) override { note("double"); }
-    void mouseUp(const MousePress::Event& event) override { note("up " + std::to_string(event.button)); }
+    void mouseDown(const ClickSequence::Event& event) override {
+        note("down " + std::to_string(event.button));
+    }
+    void doubleClick(const ClickSequence::Event& /*event*/) override { note("double"); }
+    void mouseUp(const ClickSequence::Event& event) override { note("up " + std::to_string(event.button)); }
     void click() override { note("click"); }
 
     void note(const std::string& step) {
@@ -53,7 +55,7 @@ class Pressing : public ::testing::Test {
         });
     }
 
-    MousePress press;
+    ClickSequence press;
     Log log;
     NotedWindow a{log, 1};
     NotedWindow b{log, 2};
