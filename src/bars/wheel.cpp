@@ -23,24 +23,18 @@ Wheel::Wheel(World& world, Window& parent, WheelScroll wheelScroll, ControlLife*
                                   });
 }
 
-void Wheel::EnableWheel() {
-    if (hWndCapture_ == 0)
-        return;
-    active_ = true;
+void Wheel::EnableWheel(WindowHandle window) {
     if (listensTo_ != 0)
         return;
-    listensTo_ = hWndCapture_;
-    if (hook_)
-        hook_->Subclass(listensTo_);
+    listensTo_ = window;
+    if (hook_ && window != 0)
+        hook_->Subclass(window);
 }
 
 void Wheel::DisableWheel() {
-    if (hWndCapture_ == 0 || !active_)
-        return;
-    if (hook_)
+    if (hook_ && listensTo_ != 0)
         hook_->UnSubclass(listensTo_);
     listensTo_ = 0;
-    active_ = false;
 }
 
 bool Wheel::WndProc(WindowHandle hWnd, Long delta, Integer Keys, Single X, Single Y) {

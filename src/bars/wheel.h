@@ -29,12 +29,8 @@ class Wheel {
     Wheel& operator=(const Wheel&) = delete;
     ~Wheel() { UserControl_Terminate(); }
 
-    /// The window to listen to. A new value takes effect at the next EnableWheel() that is called while no
-    /// window is hooked.
-    void lethWndCapture(WindowHandle window) { hWndCapture_ = window; }
-
-    /// Begins to listen; nothing without a window.
-    void EnableWheel();
+    /// Begins to listen to `window`; nothing while it listens to one, or without a window.
+    void EnableWheel(WindowHandle window);
     /// Nothing unless enabled.
     void DisableWheel();
     bool isListeningTo(WindowHandle window) const { return window != 0 && window == listensTo_; }
@@ -49,9 +45,7 @@ class Wheel {
     Runtime& runtime_;
     ControlLife* life_;
     WheelScroll wheelScroll_;
-    WindowHandle hWndCapture_ = 0;
     WindowHandle listensTo_ = 0;
-    bool active_ = false;
     std::unique_ptr<WheelHook> hook_; ///< none if the platform has no hooks
 };
 

@@ -7,8 +7,7 @@
 namespace lumtex {
 
 void Scroller::listen(Procedure& p) {
-    p.step([&] { Wheel1_->lethWndCapture(window_.hWnd()); });
-    p.step([&] { Wheel1_->EnableWheel(); });
+    p.step([&] { Wheel1_->EnableWheel(window_.hWnd()); });
 }
 
 bool Scroller::wheel(Long Rotation, Integer Shift, Single X, Single Y) {
@@ -37,7 +36,6 @@ void Scroller::Wheel1_WheelScroll(Integer& Rotation, Integer& /*Keys*/, Single& 
     case cWheelOff:
         break;
     }
-    Wheel1_->lethWndCapture(window_.hWnd());
     list_.Redraw();
     core_.yield(p);
 }

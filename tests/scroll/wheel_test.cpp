@@ -20,9 +20,8 @@ class WheelReceiver : public ::testing::Test {
 };
 
 TEST_F(WheelReceiver, TakesTheMessagesOfItsWindowAloneOnceEnabled) {
-    wheel.lethWndCapture(7);
-    EXPECT_FALSE(turn(120)) << "the setter only stores";
-    wheel.EnableWheel();
+    EXPECT_FALSE(turn(120));
+    wheel.EnableWheel(7);
     EXPECT_TRUE(turn(120));
     EXPECT_FALSE(turn(120, 8));
     EXPECT_EQ(take(), Lines{"1 3 40,50"});
@@ -32,29 +31,22 @@ TEST_F(WheelReceiver, TakesTheMessagesOfItsWindowAloneOnceEnabled) {
 }
 
 TEST_F(WheelReceiver, IsNotEnabledWithoutAWindow) {
-    wheel.EnableWheel();
+    wheel.EnableWheel(0);
     EXPECT_FALSE(turn(120, 0));
-    wheel.lethWndCapture(7);
-    EXPECT_FALSE(turn(120));
-    wheel.lethWndCapture(1);
-    wheel.EnableWheel();
+    wheel.EnableWheel(1);
     EXPECT_TRUE(turn(120, 1)) << "any other number is a window";
 }
 
 TEST_F(WheelReceiver, EnabledTwiceStaysWithItsFirstWindow) {
-    wheel.lethWndCapture(7);
-    wheel.EnableWheel();
-    wheel.lethWndCapture(8);
-    wheel.EnableWheel();
+    wheel.EnableWheel(7);
+    wheel.EnableWheel(8);
     EXPECT_TRUE(turn(120, 7));
     EXPECT_FALSE(turn(120, 8));
 }
 
 TEST_F(WheelReceiver, DisabledWithoutHavingBeenEnabledDoesNothing) {
     wheel.DisableWheel();
-    wheel.lethWndCapture(7);
-    wheel.DisableWheel();
-    wheel.EnableWheel();
+    wheel.EnableWheel(7);
     EXPECT_TRUE(turn(120));
 }
 
@@ -64,8 +56,7 @@ TEST_F(WheelReceiver, CountsInNotchesRoundedToEven) {
         Long delta;
         int rotation;
     };
-    wheel.lethWndCapture(7);
-    wheel.EnableWheel();
+    wheel.EnableWheel(7);
     for (const Row row : {Row{120, 1},
                           Row{-120, -1},
                           Row{360, 3},
@@ -84,8 +75,7 @@ TEST_F(WheelReceiver, CountsInNotchesRoundedToEven) {
 }
 
 TEST_F(WheelReceiver, ReportsATurnThatNoNumberOfNotchesHolds) {
-    wheel.lethWndCapture(7);
-    wheel.EnableWheel();
+    wheel.EnableWheel(7);
     EXPECT_TRUE(turn(120 * 32768)) << "swallowed all the same";
     EXPECT_EQ(take(), Lines{});
     ASSERT_EQ(desktop.runtime().boxes.size(), 1U);
