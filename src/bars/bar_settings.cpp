@@ -1,7 +1,8 @@
 /// What a bar keeps between two runs, and the colours that its owner hands it.
 #include "bars/scroll_bar.h"
-#include "values/color.h"
+#include "bars/scroll_colors.h"
 
+#include <algorithm>
 #include <array>
 
 namespace lumtex {
@@ -54,34 +55,34 @@ void ScrollBar::UserControl_WriteProperties(PropertyBag& bag) const {
 namespace {
 
 struct ButtonColor {
-    const char16_t* key;
-    OLE_COLOR byDefault;
+    OLE_COLOR Properties::*ofList;
     OLE_COLOR ArrowColors::*role;
 };
 
 constexpr auto buttonColors = std::to_array<ButtonColor>({
-    {u"ScrollArrows", black, &ArrowColors::Arrow},
-    {u"ScrollArrowsDown", black, &ArrowColors::ArrowDown},
-    {u"ScrollArrowsHover", black, &ArrowColors::ArrowHover},
-    {u"ScrollButtons", buttonFace, &ArrowColors::Button},
-    {u"ScrollButtonsDown", buttonFace, &ArrowColors::ButtonDown},
-    {u"ScrollButtonsHover", buttonFace, &ArrowColors::ButtonHover},
+    {&Properties::ScrollArrows, &ArrowColors::Arrow},
+    {&Properties::ScrollArrowsDown, &ArrowColors::ArrowDown},
+    {&Properties::ScrollArrowsHover, &ArrowColors::ArrowHover},
+    {&Properties::ScrollButtons, &ArrowColors::Button},
+    {&Properties::ScrollButtonsDown, &ArrowColors::ButtonDown},
+    {&Properties::ScrollButtonsHover, &ArrowColors::ButtonHover},
 });
 
 } // namespace
 
 void ScrollBar::SetNewProperty(const PropertyBag& bag) {
     Procedure p = procedure(u"SetNewProperty");
-    const auto color = [&](const char16_t* key, OLE_COLOR byDefault) {
-        return bag.ReadProperty(key, byDefault).toColor();
+    const auto color = [&](OLE_COLOR Properties::*ofList) {
+        const ScrollColor& row = *std::ranges::find(scrollColors, ofList, &ScrollColor::field);
+        return bag.ReadProperty(row.name, row.bagDefault).toColor();
     };
-    p.step([&] { letBackColor(color(u"ScrollBackColor", white)); });
-    p.step([&] { thumb_.letBar(color(u"ScrollBar", buttonFace)); });
-    p.step([&] { thumb_.letBarDown(color(u"ScrollBarDown", buttonFace)); });
-    p.step([&] { thumb_.letBarHover(color(u"ScrollBarHover", buttonFace)); });
+    p.step([&] { letBackColor(color(&Properties::ScrollBackColor)); });
+    p.step([&] { thumb_.letBar(color(&Properties::ScrollBar)); });
+    p.step([&] { thumb_.letBarDown(color(&Properties::ScrollBarDown)); });
+    p.step([&] { thumb_.letBarHover(color(&Properties::ScrollBarHover)); });
     for (ArrowButton* button : {&low_, &high_}) {
         for (const ButtonColor& each : buttonColors)
-            p.step([&] { button->letColor(each.role, color(each.key, each.byDefault)); });
+            p.step([&] { button->letColor(each.role, color(each.ofList)); });
     }
 }
 
