@@ -24,13 +24,13 @@ BACKENDS = ["values", "values/references", "platform", "raster", "adapters/pictu
 COMPONENT = ["activex", "worlds/win32"]
 # What runs after the programs of the mutant's own room, in this order.
 GENERAL = ["scenarios", "interaction", "model", "scroll", "bars", "render", "sortfind", "persistence", "guards", "about", "tips",
-           "helpers", "automation", "hostcode", "failures"]
+           "helpers", "pairs", "automation", "hostcode", "failures"]
 NEAREST = {"values": ["values", "platform", "headless"], "values/references": ["values", "platform"],
            "platform": ["platform", "headless"], "raster": ["raster", "gallery"], "adapters/pictures": ["pictures", "gallery"],
            "adapters/json": ["json"], "adapters/database": ["database"], "worlds/common": ["headless"],
            "worlds/headless": ["headless"], "worlds/win32": ["win32"], "records": ["records", "model"],
-           "drawing": ["drawing", "render"], "bars": ["bars", "scroll"], "ordering": ["ordering", "sortfind"],
-           "content": ["persistence"], "persistence": ["persistence", "json"]}
+           "drawing": ["drawing", "render"], "bars": ["bars", "scroll"], "ordering": ["ordering", "sortfind", "pairs"],
+           "content": ["content", "persistence"], "persistence": ["persistence", "pairs", "json"]}
 BUILD = Path("build/mutants")
 WORK = BUILD / f"work-{os.getpid()}"  # gone with the run
 PATIENCE = 5  # times what the tests take on the code as it is

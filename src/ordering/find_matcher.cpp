@@ -9,22 +9,22 @@ FindMatcher::FindMatcher(Runtime& runtime, StringView pattern, cFindCompare comp
     : runtime_(runtime), pattern_(pattern), compare_(compare) {
     if (compare == cFindBinary || compare == cFindText) {
         ignoringErrors([&] {
-            ready_.emplace(pattern, compare == cFindText ? LikePattern::folded : LikePattern::byUnit);
+            atOnce_.emplace(pattern, compare == cFindText ? LikePattern::folded : LikePattern::byUnit);
         });
     }
 }
 
 bool FindMatcher::matches(const CompactText& text) const {
-    if (ready_)
-        return text.visit([&](auto units) { return ready_->matches(units); });
-    return callModule(text.toString());
+    if (atOnce_)
+        return text.visit([&](auto units) { return atOnce_->matches(units); });
+    return matchesStepwise(text.toString());
 }
 
 bool FindMatcher::matches(StringView text) const {
-    return ready_ ? ready_->matches(text) : callModule(text);
+    return atOnce_ ? atOnce_->matches(text) : matchesStepwise(text);
 }
 
-bool FindMatcher::callModule(StringView text) const {
+bool FindMatcher::matchesStepwise(StringView text) const {
     if (compare_ == cFindBinary)
         return LikeCompBinary(runtime_, text, pattern_);
     return compare_ == cFindText && LikeCompText(runtime_, text, pattern_);

@@ -21,12 +21,12 @@ class FindMatcher {
     bool matches(StringView text) const;
 
   private:
-    bool callModule(StringView text) const;
+    bool matchesStepwise(StringView text) const;
 
     Runtime& runtime_;
     StringView pattern_;
     cFindCompare compare_;
-    std::optional<LikePattern> ready_; ///< none for a faulty pattern
+    std::optional<LikePattern> atOnce_; ///< none for a faulty pattern
 };
 
 } // namespace lumtex

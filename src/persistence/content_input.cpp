@@ -5,7 +5,7 @@
 #include "content/content_reader.h"
 #include "helpers/file_exists.h"
 #include "persistence/content_fields.h"
-#include "persistence/whole_record_loading.h"
+#include "persistence/load_at_once.h"
 
 namespace lumtex {
 
@@ -13,13 +13,23 @@ namespace {
 
 /// Reads one record and assigns it through the public accessors of the cell. A value that cannot be read is
 /// its type's zero.
-class CellLoading {
+class LoadStepwise {
   public:
-    CellLoading(lmListView& list, Runtime& runtime, Procedure& procedure, ContentReader& file)
+    LoadStepwise(lmListView& list, Runtime& runtime, Procedure& procedure, ContentReader& file)
         : list_(list), runtime_(runtime), p_(procedure), file_(file) {}
 
-    void readText(Long row, Long column) { list_.letItemText(row, column, text()); }
+    void read(Long row, Long column, RecordForm form) {
+        list_.letItemText(row, column, text());
+        if (form == RecordForm::readProperties) {
+            readProperties(row, column);
+            return;
+        }
+        if (form == RecordForm::dropProperties)
+            discardProperties();
+        giveDefaults(row, column);
+    }
 
+  private:
     void readProperties(Long row, Long column) {
         forEachContentField([&]<class Field>(Field /*field*/) {
             using Value = typename Field::Value;
@@ -75,7 +85,6 @@ class CellLoading {
         });
     }
 
-  private:
     template <class T>
     T number() {
         return p_.value<T>([&] { return file_.get<T>(); });
@@ -157,21 +166,14 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
         const RecordForm form = readsProperties            ? RecordForm::readProperties
                                 : header.hasItemProperties ? RecordForm::dropProperties
                                                            : RecordForm::textAlone;
-        CellLoading loading(*this, runtime(), p, file);
-        WholeRecordLoading fast(*this, runtime().locale(), file, form);
+        LoadStepwise stepwise(*this, runtime(), p, file);
+        LoadAtOnce atOnce(*this, runtime().locale(), file, form);
         for (Long column = 1; column <= header.columnCount; ++column) {
             for (Long row = 1; row <= header.rowCount; ++row) {
-                if (fast.read(row, column))
+                if (atOnce.read(row, column))
                     continue;
-                loading.readText(row, column);
-                if (form == RecordForm::readProperties) {
-                    loading.readProperties(row, column);
-                } else {
-                    if (form == RecordForm::dropProperties)
-                        loading.discardProperties();
-                    loading.giveDefaults(row, column);
-                }
-                fast.forget();
+                stepwise.read(row, column, form);
+                atOnce.forget();
             }
         }
     }

@@ -5,7 +5,7 @@
 #include "content/content_writer.h"
 #include "helpers/file_exists.h"
 #include "persistence/content_fields.h"
-#include "persistence/whole_record_saving.h"
+#include "persistence/save_at_once.h"
 
 namespace lumtex {
 
@@ -13,13 +13,19 @@ namespace {
 
 /// Writes one record, each value as the public accessor of the cell gives it. A value that cannot be had goes
 /// into the file as its type's zero, so that readers stay in step.
-class CellSaving {
+class SaveStepwise {
   public:
-    CellSaving(lmListView& list, Runtime& runtime, Procedure& procedure, ContentWriter& file)
-        : list_(list), runtime_(runtime), p_(procedure), file_(file) {}
+    SaveStepwise(
+        lmListView& list, Runtime& runtime, Procedure& procedure, ContentWriter& file, bool withProperties)
+        : list_(list), runtime_(runtime), p_(procedure), file_(file), withProperties_(withProperties) {}
 
-    void writeText(Long row, Long column) { putText(list_.ItemText(row, column)); }
+    void write(Long row, Long column) {
+        putText(list_.ItemText(row, column));
+        if (withProperties_)
+            writeProperties(row, column);
+    }
 
+  private:
     void writeProperties(Long row, Long column) {
         forEachContentField([&]<class Field>(Field /*field*/) {
             const auto value = (list_.*Field::get)(row, column);
@@ -32,7 +38,6 @@ class CellSaving {
         });
     }
 
-  private:
     template <class T>
     void put(T value) {
         p_.step([&] { file_.put(value); });
@@ -66,6 +71,7 @@ class CellSaving {
     Runtime& runtime_;
     Procedure& p_;
     ContentWriter& file_;
+    bool withProperties_;
 };
 
 } // namespace
@@ -83,17 +89,14 @@ bool lmListView::ContentSave(StringView sFilename, bool bSaveItemProperties) {
     p.step([&] { file.put(ColumnsCount()); });
     p.step([&] { file.put(booleanNumber(bSaveItemProperties)); });
     if (ColumnsCount() >= 1 && RowsCount() >= 1) {
-        CellSaving saving(*this, runtime(), p, file);
-        WholeRecordSaving fast(*this, runtime().locale(), file, bSaveItemProperties);
+        SaveStepwise stepwise(*this, runtime(), p, file, bSaveItemProperties);
+        SaveAtOnce atOnce(*this, runtime().locale(), file, bSaveItemProperties);
         const Long columns = ColumnsCount();
         const Long rows = RowsCount();
         for (counters.saveColumn = 1; counters.saveColumn <= columns; ++counters.saveColumn) {
             for (counters.saveRow = 1; counters.saveRow <= rows; ++counters.saveRow) {
-                if (fast.write(counters.saveRow, counters.saveColumn))
-                    continue;
-                saving.writeText(counters.saveRow, counters.saveColumn);
-                if (bSaveItemProperties)
-                    saving.writeProperties(counters.saveRow, counters.saveColumn);
+                if (!atOnce.write(counters.saveRow, counters.saveColumn))
+                    stepwise.write(counters.saveRow, counters.saveColumn);
             }
         }
     }

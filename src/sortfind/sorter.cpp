@@ -4,8 +4,8 @@
 #include "guards/ignoring_errors.h"
 #include "model/list_view.h"
 #include "ordering/quick_sort.h"
-#include "ordering/sort_by_keys.h"
-#include "sortfind/sort_by_statements.h"
+#include "ordering/sort_at_once.h"
+#include "sortfind/sort_stepwise.h"
 
 #include <algorithm>
 
@@ -72,24 +72,24 @@ bool Sorter::anyTextInColumn(Long Column) {
 
 void Sorter::quickSort(Long Column, cSortType SortType, cSortMode order) {
     // Wanted: ListIndex, NewIndex, the top row and the anchors of the selection keep their numbers.
-    if (sortByKeys(Column, SortType, order))
+    if (sortAtOnce(Column, SortType, order))
         return;
     Procedure p = procedure(order == cDescending ? u"QuickSortDesc" : u"QuickSortAsc");
     p.step([&] {
-        SortByStatements rows(list_, records_, p, Column, SortType, order);
+        SortStepwise rows(list_, records_, p, Column, SortType, order);
         lumtex::quickSort(rows, 0, records_.upperBoundOfRows());
     });
 }
 
 /// False, with nothing done, where the statements must run one by one: they report something, or there is no
 /// memory for the keys.
-bool Sorter::sortByKeys(Long Column, cSortType SortType, cSortMode order) {
+bool Sorter::sortAtOnce(Long Column, cSortType SortType, cSortMode order) {
     if (Column < 1 || (SortType != cSortText && SortType != cSortNumeric && SortType != cSortDate))
         return false;
     bool sorted = false;
     ignoringErrors([&] {
         const auto cell = static_cast<std::size_t>(Column) - 1;
-        const auto sources = orderByKeys(records_.rows(), cell, SortType, order, silentError());
+        const auto sources = orderAtOnce(records_.rows(), cell, SortType, order, silentError());
         if (!sources)
             return;
         records_.reorderRows(*sources);

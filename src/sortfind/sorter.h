@@ -34,7 +34,7 @@ class Sorter : private ListPart {
 
     bool anyTextInColumn(Long Column);
     void quickSort(Long Column, cSortType SortType, cSortMode order);
-    bool sortByKeys(Long Column, cSortType SortType, cSortMode order);
+    bool sortAtOnce(Long Column, cSortType SortType, cSortMode order);
 
     State state_;
 };

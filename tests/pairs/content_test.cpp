@@ -1,5 +1,6 @@
-/// Lists at random, saved and loaded again.
-#include "content_fixture.h"
+/// A record is saved and loaded at once where nothing can fail, else value by value. Lists at random make the
+/// same file and come back the same either way.
+#include "persistence/content_fixture.h"
 #include "values/variant_conversion.h"
 #include "values/windows_1252.h"
 

@@ -1,23 +1,23 @@
-#include "sortfind/sort_by_statements.h"
+#include "sortfind/sort_stepwise.h"
 
 #include "ordering/sort_keys.h"
 
 namespace lumtex {
 
-SortByStatements::SortByStatements(lmListView& list,
-                                   ListRecords& records,
-                                   Procedure& procedure,
-                                   Long Column,
-                                   cSortType SortType,
-                                   cSortMode order)
+SortStepwise::SortStepwise(lmListView& list,
+                           ListRecords& records,
+                           Procedure& procedure,
+                           Long Column,
+                           cSortType SortType,
+                           cSortMode order)
     : list_(list), records_(records), procedure_(procedure), Column_(Column), type_(SortType),
       descending_(order == cDescending) {}
 
-String SortByStatements::ItemText(Long index) {
+String SortStepwise::ItemText(Long index) {
     return list_.ItemText(static_cast<Double>(index) + 1, Column_);
 }
 
-void SortByStatements::choosePivot(Long index) {
+void SortStepwise::choosePivot(Long index) {
     pivot_.clear();
     procedure_.step([&] {
         if (type_ == cSortText)
@@ -28,11 +28,11 @@ void SortByStatements::choosePivot(Long index) {
 }
 
 /// A test that fails ends its scan, or a pivot that does not convert would let the scans run for ever.
-bool SortByStatements::test(Long index, bool greater) {
+bool SortStepwise::test(Long index, bool greater) {
     return procedure_.condition([&] { return compare(index, greater); }, false);
 }
 
-bool SortByStatements::compare(Long index, bool greater) {
+bool SortStepwise::compare(Long index, bool greater) {
     if (type_ == cSortText) {
         const String key = textKey(ItemText(index));
         // Behind the array there is nothing left to scan, though no text lies before most others.
@@ -47,7 +47,7 @@ bool SortByStatements::compare(Long index, bool greater) {
     return greater ? key > pivot : key < pivot;
 }
 
-void SortByStatements::swap(Long i, Long j) {
+void SortStepwise::swap(Long i, Long j) {
     procedure_.step([&] {
         RowRecord& first = records_.recordAt(i);
         RowRecord& second = records_.recordAt(j);

@@ -1,5 +1,6 @@
-/// A walk passes by yields that would find nothing. Each test runs twice, once with a host that takes part in
-/// every yield and does nothing there, so that none is passed by; nobody can tell the two apart.
+/// A walk over rows goes on at once while nothing waits for the host, else step by step. Each test runs
+/// twice, once with a host that takes part in every yield and does nothing there, so that none is passed by;
+/// nobody can tell the two apart.
 #include "list_fixture.h"
 
 #include <random>

@@ -1,4 +1,4 @@
-#include "ordering/sort_by_keys.h"
+#include "ordering/sort_at_once.h"
 
 #include "ordering/number_rows.h"
 #include "ordering/quick_sort.h"
@@ -61,7 +61,7 @@ Order orderOfNumbers(std::span<const RowRecord> rows, std::size_t cell, cSortTyp
 
 } // namespace
 
-Order orderByKeys(
+Order orderAtOnce(
     std::span<const RowRecord> rows, std::size_t cell, cSortType type, cSortMode order, bool silent) {
     const bool descending = order == cDescending;
     if (type == cSortText)

@@ -1,5 +1,5 @@
 /// \file
-/// The sort as one statement after another, with a report for each that fails.
+/// Sorting step by step: one statement after another, with a report for each that fails.
 #pragma once
 
 #include "model/list_view.h"
@@ -8,15 +8,15 @@ namespace lumtex {
 
 /// The rows of a list for `quickSort`: each comparison reads the cell anew, and what fails is reported under
 /// the name of the sort. The host's code may run in a report and change the list.
-class SortByStatements {
+class SortStepwise {
   public:
     /// `procedure` is that of the sort and outlives this object. `Column` counts from 1.
-    SortByStatements(lmListView& list,
-                     ListRecords& records,
-                     Procedure& procedure,
-                     Long Column,
-                     cSortType SortType,
-                     cSortMode order);
+    SortStepwise(lmListView& list,
+                 ListRecords& records,
+                 Procedure& procedure,
+                 Long Column,
+                 cSortType SortType,
+                 cSortMode order);
 
     void choosePivot(Long index);
     bool before(Long i) { return test(i, descending_); }

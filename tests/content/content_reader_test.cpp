@@ -1,17 +1,21 @@
 #include "content/content_reader.h"
-#include "content_fixture.h"
 #include "error_number.h"
+#include "scratch_folder.h"
+#include "test_fonts.h"
+#include "worlds/headless/desktop.h"
 
 namespace lumtex::testing {
 namespace {
 
-class Reading : public ListFixture {
+/// A file of three numbers: 1, 2 and 3.
+class Reading : public ::testing::Test {
   protected:
     Reading() {
-        folder.write("list.cnt", ContentBytes().number(1).number(2).number(3));
+        folder.write("list.cnt", {"\1\0\0\0\2\0\0\0\3\0\0\0", 12});
         reader.open(folder.pathTo("list.cnt"));
     }
 
+    Desktop desktop{testFonts()};
     ScratchFolder folder;
     ContentReader reader{desktop.runtime()};
 };

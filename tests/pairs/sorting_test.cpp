@@ -1,7 +1,11 @@
+/// Rows are sorted at once where nothing is to be reported, else step by step. Both, and the sort written
+/// down word for word, leave the same order.
 #include "guards/error.h"
 #include "list_fixture.h"
 #include "ordering/quick_sort.h"
-#include "plain_quick_sort.h"
+#include "ordering/sort_at_once.h"
+#include "pairs/plain_quick_sort.h"
+#include "sortfind/sort_stepwise.h"
 #include "values/fixed_locale.h"
 
 #include <random>
@@ -28,7 +32,7 @@ class SortOracle : public ListFixture {
             list.RowsAdd(Long{-1}, u"", text);
         for (std::size_t i = 0; i < texts.size(); ++i) {
             inside.rows()[i].Height = static_cast<Single>(i);
-            inside.rows()[i].Selected = below(3) == 0;
+            inside.rows()[i].Selected = i % 3 == 0;
         }
         desktop.runtime().boxes.clear();
         events.log.clear();
@@ -49,11 +53,21 @@ class SortOracle : public ListFixture {
         return numbers;
     }
 
+    void sortStepwise(cSortType type, cSortMode mode) {
+        Procedure p = inside.core().procedure(u"Stepwise");
+        SortStepwise rows(list, inside.core().records, p, 1, type, mode);
+        quickSort(rows, 0, list.RowsCount() - 1);
+    }
+
     void expectSameOrder(const std::vector<String>& texts, cSortType type, cSortMode mode, bool silent) {
         fill(texts);
         std::vector<PlainRow> expected = rowsOfList();
         PlainQuickSort oracle(expected, type, mode == cDescending);
         oracle.run(0, static_cast<Long>(expected.size()) - 1);
+        sortStepwise(type, mode);
+        EXPECT_EQ(rowsOfList(), expected);
+        EXPECT_EQ(reports(), oracle.reports);
+        fill(texts);
         Error().letSilentError(silent);
         list.Sort(1, mode, type);
         Error().letSilentError(false);

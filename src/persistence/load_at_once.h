@@ -1,5 +1,5 @@
 /// \file
-/// The fast way of loading: a record at once, into the cell as it lies.
+/// Loading a record at once, into the cell as it lies.
 #pragma once
 
 #include "content/content_reader.h"
@@ -15,9 +15,9 @@ enum class RecordForm : Byte { textAlone, dropProperties, readProperties };
 
 /// Assigns what the accessors would, for records in which nothing can fail, or fails unheard: where reports
 /// are silenced, a record behind the file's end is all zeros, and one for a missing cell is read over.
-class WholeRecordLoading {
+class LoadAtOnce {
   public:
-    WholeRecordLoading(ListViewCore& core, const SystemLocale& locale, ContentReader& file, RecordForm form)
+    LoadAtOnce(ListViewCore& core, const SystemLocale& locale, ContentReader& file, RecordForm form)
         : cells_(core), locale_(locale), file_(file), form_(form) {}
 
     /// False, with nothing read, for a record that has to be read value by value: one that is cut off or

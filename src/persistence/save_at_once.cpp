@@ -1,4 +1,4 @@
-#include "persistence/whole_record_saving.h"
+#include "persistence/save_at_once.h"
 
 #include "content/content_colors.h"
 #include "guards/failure_of.h"
@@ -30,7 +30,7 @@ std::optional<Long> codeOf(const Variant& color) {
 
 } // namespace
 
-void WholeRecordSaving::encode(const CellStyle& style) {
+void SaveAtOnce::encode(const CellStyle& style) {
     look_.beforeTag.clear();
     look_.behindTag.clear();
     look_.hasForm = true;
@@ -45,33 +45,33 @@ void WholeRecordSaving::encode(const CellStyle& style) {
     });
 }
 
-void WholeRecordSaving::appendValue(std::vector<Byte>& bytes, bool value) {
+void SaveAtOnce::appendValue(std::vector<Byte>& bytes, bool value) {
     append(bytes, booleanNumber(value));
 }
 
-void WholeRecordSaving::appendValue(std::vector<Byte>& bytes, Single value) {
+void SaveAtOnce::appendValue(std::vector<Byte>& bytes, Single value) {
     append(bytes, value);
 }
 
-void WholeRecordSaving::appendValue(std::vector<Byte>& bytes, const String& value) {
+void SaveAtOnce::appendValue(std::vector<Byte>& bytes, const String& value) {
     append(bytes, static_cast<Long>(value.size()));
     bytes.resize(bytes.size() + value.size());
     locale_.toAnsi(value, std::span(bytes).last(value.size()));
 }
 
-void WholeRecordSaving::appendValue(std::vector<Byte>& bytes, cItemAlign value) {
+void SaveAtOnce::appendValue(std::vector<Byte>& bytes, cItemAlign value) {
     const Long number = value;
     look_.hasForm = look_.hasForm && number >= 0 && number <= 0xFF;
     append(bytes, static_cast<Byte>(number));
 }
 
-void WholeRecordSaving::appendColor(std::vector<Byte>& bytes, const Variant& color) {
+void SaveAtOnce::appendColor(std::vector<Byte>& bytes, const Variant& color) {
     const std::optional<Long> code = codeOf(color);
     look_.hasForm = look_.hasForm && code;
     append(bytes, code.value_or(0));
 }
 
-const WholeRecordSaving::Look& WholeRecordSaving::lookOf(StyleHandle style) {
+const SaveAtOnce::Look& SaveAtOnce::lookOf(StyleHandle style) {
     if (!look_.style || look_.style->handle() != style) {
         CellStyles& styles = CellStyles::ofThread();
         look_.style.reset();
@@ -82,7 +82,7 @@ const WholeRecordSaving::Look& WholeRecordSaving::lookOf(StyleHandle style) {
     return look_;
 }
 
-void WholeRecordSaving::encodeText(const CompactText& text, Byte* target) {
+void SaveAtOnce::encodeText(const CompactText& text, Byte* target) {
     const bool copied = text.visit([&]<class Units>(const Units& units) {
         if constexpr (std::is_same_v<Units, StringView>) {
             return false;
@@ -102,7 +102,7 @@ void WholeRecordSaving::encodeText(const CompactText& text, Byte* target) {
     locale_.toAnsi(scratch_, {target, scratch_.size()});
 }
 
-bool WholeRecordSaving::write(Long row, Long column) {
+bool SaveAtOnce::write(Long row, Long column) {
     bool written = false;
     // Where memory runs out, the other way tells.
     static_cast<void>(failureOf([&] {

@@ -1,4 +1,4 @@
-#include "persistence/whole_record_loading.h"
+#include "persistence/load_at_once.h"
 
 #include "content/content_colors.h"
 #include "guards/error.h"
@@ -73,7 +73,7 @@ bool takeColor(Fields& fields, OLE_COLOR& color) {
 
 } // namespace
 
-std::optional<WholeRecordLoading::Record> WholeRecordLoading::split(std::span<const Byte> bytes) const {
+std::optional<LoadAtOnce::Record> LoadAtOnce::split(std::span<const Byte> bytes) const {
     Fields fields(bytes);
     Record record;
     record.text = fields.withLength();
@@ -102,7 +102,7 @@ std::optional<WholeRecordLoading::Record> WholeRecordLoading::split(std::span<co
     return record;
 }
 
-bool WholeRecordLoading::plainLook() {
+bool LoadAtOnce::plainLook() {
     if (look_.style)
         return true;
     const std::optional<CellStyle> style = cells_.plainStyle();
@@ -111,7 +111,7 @@ bool WholeRecordLoading::plainLook() {
     return style.has_value();
 }
 
-bool WholeRecordLoading::lookOf(const Record& record) {
+bool LoadAtOnce::lookOf(const Record& record) {
     if (look_.style && sameBytes(record.beforeTag, look_.beforeTag) &&
         sameBytes(record.behindTag, look_.behindTag))
         return true;
@@ -150,7 +150,7 @@ bool WholeRecordLoading::lookOf(const Record& record) {
 }
 
 /// Valid until the next call.
-const String& WholeRecordLoading::textOf(std::span<const Byte> bytes) {
+const String& LoadAtOnce::textOf(std::span<const Byte> bytes) {
     scratch_.resize(bytes.size());
     // The lower half of a byte's values is the same in every ANSI code page.
     Byte all = 0;
@@ -163,7 +163,7 @@ const String& WholeRecordLoading::textOf(std::span<const Byte> bytes) {
     return scratch_;
 }
 
-bool WholeRecordLoading::read(Long row, Long column) {
+bool LoadAtOnce::read(Long row, Long column) {
     bool done = false;
     // Where memory runs out, the other way tells.
     static_cast<void>(failureOf([&] {

@@ -1,5 +1,5 @@
 /// \file
-/// The fast way of saving: a record at once, out of the cell as it lies.
+/// Saving a record at once, out of the cell as it lies.
 #pragma once
 
 #include "content/content_writer.h"
@@ -10,12 +10,9 @@
 namespace lumtex {
 
 /// Writes what the accessors would give, for cells whose values all have a form in the file.
-class WholeRecordSaving {
+class SaveAtOnce {
   public:
-    WholeRecordSaving(ListViewCore& core,
-                      const SystemLocale& locale,
-                      ContentWriter& file,
-                      bool withProperties)
+    SaveAtOnce(ListViewCore& core, const SystemLocale& locale, ContentWriter& file, bool withProperties)
         : cells_(core), locale_(locale), file_(file), withProperties_(withProperties) {}
 
     /// False, with nothing written, for a cell that has to be written value by value: one that is missing,

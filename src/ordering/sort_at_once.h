@@ -1,5 +1,5 @@
 /// \file
-/// The sort over keys that were read once.
+/// Sorting at once: over keys that were read beforehand.
 #pragma once
 
 #include "records/enumerations.h"
@@ -12,12 +12,12 @@
 
 namespace lumtex {
 
-/// Finds the order that `SortByStatements` leaves, without touching the rows: element k is the 0-based
+/// Finds the order that `SortStepwise` leaves, without touching the rows: element k is the 0-based
 /// position from which row k comes. `cell` counts from 0, `type` is one of the three types.
 ///
 /// None if that sort would report anything and `silent` is False: then the host's code may run in
 /// the middle, and only the statements themselves do what is due. Throws std::bad_alloc.
 std::optional<std::vector<std::uint32_t>>
-orderByKeys(std::span<const RowRecord> rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
+orderAtOnce(std::span<const RowRecord> rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
 
 } // namespace lumtex
