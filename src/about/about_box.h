@@ -1,5 +1,5 @@
 /// \file
-/// The form that tells name, version and maker of the component.
+/// The form with name, version and maker of the component.
 #pragma once
 
 #include "about/about_artwork.h"

@@ -27,7 +27,7 @@ struct RoundBox {
     float radius;
 };
 
-/// A line with round ends: straight where `quadrants` is 0, otherwise those quarters of the circle around
+/// A line with round ends: straight if `quadrants` is 0, otherwise those quarters of the circle around
 /// (`x1`, `y1`) with the radius `x2`, as bits: 1 right above, 2 left above, 4 left below, 8 right below the
 /// centre. Units of a letter: y counts upwards from the base line.
 struct PenStroke {

@@ -9,10 +9,10 @@
 
 namespace lumtex {
 
-/// A pointer where a value should be, that leads nowhere.
+/// A null pointer in place of a value.
 class NullArgument : public std::exception {};
 
-/// As `fromVARIANT`; throws NullArgument where `value` points to nothing.
+/// As `fromVARIANT`; throws NullArgument if `value` points to nothing.
 Variant argumentFrom(const VARIANT& value);
 
 } // namespace lumtex

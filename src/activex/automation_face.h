@@ -13,7 +13,7 @@
 namespace lumtex {
 
 /// A derived class includes its generated entries and adds no other virtual function: its table of functions
-/// is that of the type library.
+/// is the one in the type library.
 class AutomationFace : public Face<IDispatch> {
   public:
     AutomationFace(IUnknown& outer, AutomationTarget& target, const GUID& interfaceId)

@@ -30,7 +30,7 @@ class ConnectionsFace final : public Face<IConnectionPointContainer> {
     ListControl& control_;
 };
 
-/// The dual interfaces alone tell failures by error objects.
+/// Only the dual interfaces report failures by error objects.
 class ErrorInfoFace final : public Face<ISupportErrorInfo> {
   public:
     ErrorInfoFace(IUnknown& outer, const GUID& interfaceId) : Face(outer), interfaceId_(interfaceId) {}

@@ -10,12 +10,12 @@
 
 namespace lumtex {
 
-/// Reads mode and name from the client site once, and again when told that they changed. Without a site, or
-/// where the site does not know, the control runs, has the name of its class with a 1, and no font of its
+/// Reads mode and name from the client site once, and again when the site reports a change. Without a site,
+/// or if the site does not know, the control runs, has the name of its class with a 1, and no font of its
 /// container.
 class ContainerHost final : public Host {
   public:
-    /// None to let the container go.
+    /// Null to let the container go.
     void setSite(IOleClientSite* site);
     IOleClientSite* site() const { return site_.get(); }
     /// `ambient` is the number of one property, or DISPID_UNKNOWN for any.
@@ -32,7 +32,7 @@ class ContainerHost final : public Host {
 
   private:
     Variant ambient(DISPID number) const;
-    /// The host's own object around the control; none if it has none.
+    /// The host's own object around the control; null if there is none.
     ObjectRef extender() const;
     String nameByExtender() const;
     void readUserMode();

@@ -36,7 +36,7 @@ class ControlCore final : public AutomationTarget {
     /// Null once the container has destroyed it.
     HWND window() { return toHWND(list_->hwnd()); }
     ContainerHost& host() { return host_; }
-    /// Leaves the container's window before it lets the container go. None for no container.
+    /// Leaves the container's window before it lets the container go. Null for no container.
     void setSite(IOleClientSite* site);
     /// `ambient` is the number of one property, or DISPID_UNKNOWN for any.
     void ambientChanged(DISPID ambient);
@@ -80,7 +80,7 @@ class ControlCore final : public AutomationTarget {
 
     /// Paints what the control shows into `bounds`.
     void draw(HDC target, const RECT& bounds);
-    /// Told of each new picture while the control has no place in the container's window. None for none.
+    /// Gets each new picture while the control has no place in the container's window. Null for nobody.
     std::function<void()> onViewChange;
 
     IUnknown& outer() const { return outer_; }

@@ -6,7 +6,7 @@
 
 namespace lumtex {
 
-/// The numbers of a member and, behind it, of its parameters by name. DISP_E_UNKNOWNNAME where one is not
+/// The numbers of a member and, behind it, of its parameters by name. DISP_E_UNKNOWNNAME if one is not
 /// known, whose number is DISPID_UNKNOWN then.
 HRESULT idsOfNames(const ClassDescription& description, std::span<LPOLESTR> names, std::span<DISPID> ids);
 

@@ -51,7 +51,7 @@ Variant dualArgument(T* place) {
     return dualArgument(*place);
 }
 
-/// Appends one argument, or each item of an array. A null array has none.
+/// Appends one argument, or each item of an array. A null array has no items.
 template <class T>
 void appendArgument(std::vector<Variant>& arguments, T value) {
     arguments.push_back(dualArgument(value));

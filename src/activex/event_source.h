@@ -1,5 +1,5 @@
 /// \file
-/// The control's events, told to the sinks of the host.
+/// Hands the control's events to the sinks of the host.
 #pragma once
 
 #include "activex/connection_point.h"
@@ -9,7 +9,7 @@
 namespace lumtex {
 
 /// Events are numbered from 1 in the order of their table. Sinks that fail are not heard of; a sink that went
-/// away meanwhile is still told. While frozen nothing is told.
+/// away meanwhile is still called. While frozen no sink is called.
 class EventSource final : public lmListViewEvents {
   public:
     explicit EventSource(ConnectionPoint& point) : point_(point) {}

@@ -6,7 +6,7 @@
 
 namespace lumtex {
 
-/// Identity and lifetime are those of the object as a whole, or of the host's object around it. `outer` must
+/// Shares identity and lifetime with the object as a whole, or with the host's object around it. `outer` must
 /// outlive the face and is not counted.
 template <class Interface>
 class Face : public Interface {

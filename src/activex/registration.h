@@ -6,12 +6,12 @@
 
 namespace lumtex {
 
-/// Whose registry: that of all users needs their rights.
+/// Whose registry; the one of all users needs the rights to write there.
 enum class Registry { machine, user };
 
-/// Writes all entries; takes back what it wrote where one fails.
+/// Writes all entries; takes back what it wrote if one fails.
 HRESULT registerComponent(Registry registry) noexcept;
-/// Takes all entries back. One that is missing already is none that fails.
+/// Takes all entries back. A missing one is not a failure.
 HRESULT unregisterComponent(Registry registry) noexcept;
 
 } // namespace lumtex

@@ -17,12 +17,12 @@ enum class SettingsKind : Byte { plain, font, picture };
 /// By the keys that the control knows; any other one is `plain`.
 SettingsKind settingsKindOf(StringView key);
 
-/// None for a value without an object, and for a picture without pixels: those are not saved.
+/// Null for a value without an object, and for a picture without pixels: those are not saved.
 bool isSavedObject(const Variant& value);
 /// A font or a picture.
 void saveSettingsObject(SettingsWriter& to, const Variant& value);
 
-/// Reads an object. It becomes a value if it is what `kind` asks for; where that is `plain`, its bytes are
+/// Reads an object. It becomes a value if it is what `kind` asks for; for `plain`, its bytes are
 /// read over, nothing is made, and there is no value. Throws RuntimeError 321 for an object of any other
 /// class, and for one that is damaged.
 Variant loadSettingsObject(SettingsReader& from, SettingsKind kind);

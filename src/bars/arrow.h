@@ -20,7 +20,7 @@ struct ArrowColors {
     OLE_COLOR ButtonHover = 0;
 };
 
-/// A line from the first point to the second, or a pixel where both are the same. Pixels of the button.
+/// A line from the first point to the second, or a pixel if both are the same. Pixels of the button.
 struct ArrowStroke {
     Single x1;
     Single y1;

@@ -22,7 +22,7 @@ class ArrowButton final : public UserControl {
 
     /// `step` is the one event, `ValueUp` or `ValueDown`: at once with the press, again after both intervals,
     /// then at each repeat for as long as the pointer is over the button.
-    /// `life` is that of the control that it belongs to.
+    /// `life` belongs to the control around it.
     ArrowButton(
         World& world, Window& parent, Arrow arrow, std::function<void()> step, ControlLife* life = nullptr);
 

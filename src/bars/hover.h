@@ -11,9 +11,9 @@ struct Hover {
     bool over = false; ///< the pointer was inside at the last look
     bool down = false; ///< between a press and its release
 
-    /// Decides from a position in pixels of the control whether the pointer is inside, where right and lower
-    /// bound still count. The mouse is held from the entry on, which brings the move that tells of the
-    /// leaving; during a press it is the platform's, and is neither taken nor given back.
+    /// Decides from a position in pixels of the control whether the pointer is inside; the right and lower
+    /// bounds still count. From the entry on the mouse is held, so that the move out of the control arrives
+    /// here too; during a press it is the platform's, and is neither taken nor given back.
     void MouseOut(Window& Obj, Single X, Single Y);
 };
 

@@ -19,9 +19,9 @@ class LumtexAbout;
 /// Both bars are one class over an axis; `lmVScroll` and `lmHScroll` name the two, and BarTraits tells them
 /// apart. "Low" is the end at the top or the left.
 ///
-/// Positions and sizes are pixels of the parent's surface. The breadth is that of an arrow button, whatever
-/// is asked for. A bar is created hidden; its owner calls one of the two `UserControl_...Properties` entry
-/// points before it is shown, and listens to two events.
+/// Positions and sizes are pixels of the parent's surface. The breadth is the breadth of an arrow button,
+/// whatever is asked for. A bar is created hidden; its owner calls one of the two `UserControl_...Properties`
+/// entry points before it is shown, and listens to two events.
 class ScrollBar : public UserControl {
   public:
     struct Events {
@@ -30,11 +30,11 @@ class ScrollBar : public UserControl {
         std::function<void(StringView name)> propertyChanged = [](StringView /*name*/) {};
     };
 
-    /// `life` is that of the control that it belongs to.
+    /// `life` belongs to the control around it.
     ScrollBar(
         World& world, Window& parent, const BarTraits& traits, Events events, ControlLife* life = nullptr);
 
-    // Each setter tells `propertyChanged`; all but those of the three step widths repaint.
+    // Each setter calls `propertyChanged`; all but the three step widths repaint.
 
     Long Min() const { return min_; }
     /// A value above `Max` is refused with a message box. `Value` stays, in the new range or not.
@@ -64,7 +64,7 @@ class ScrollBar : public UserControl {
     bool Enabled() const { return enabled_; }
     void letEnabled(bool enabled);
 
-    /// Takes over the ten scroll colours, each with its default where the bag has none.
+    /// Takes over the ten scroll colours, each with its default if the bag has none.
     void SetNewProperty(const PropertyBag& bag);
 
     /// A new bar without saved state.

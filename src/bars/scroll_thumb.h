@@ -1,5 +1,6 @@
 /// \file
-/// The thumb of a bar: follows the pointer's hover and press, paints itself, and tells its bar of the mouse.
+/// The thumb of a bar: follows the pointer's hover and press, paints itself, and reports the mouse to its
+/// bar.
 #pragma once
 
 #include "bars/axis.h"
@@ -23,7 +24,7 @@ class ScrollThumb final : public UserControl {
         std::function<void()> mouseUp;
     };
 
-    /// `life` is that of the control that it belongs to.
+    /// `life` belongs to the control around it.
     ScrollThumb(World& world, Window& parent, Axis axis, Events events, ControlLife* life = nullptr);
 
     // Each repaints.

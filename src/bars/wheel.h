@@ -14,16 +14,16 @@ namespace lumtex {
 
 class World;
 
-/// Turns the wheel messages of one window into `WheelScroll`. They come through a hook where the platform has
-/// such, else through the window's control. The runtime must outlive it.
+/// Turns the wheel messages of one window into `WheelScroll`. They come through a hook if the platform has
+/// hooks, otherwise through the window's control. The runtime must outlive it.
 class Wheel {
   public:
     /// `Rotation` is in notches, positive away from the user.
     using WheelScroll = std::function<void(Integer& Rotation, Integer& Keys, Single& X, Single& Y)>;
 
     Wheel(Runtime& runtime, WheelScroll wheelScroll, ControlLife* life = nullptr);
-    /// Puts a hook of `world` into `parent`, which must outlive this object. `life` is that of the control
-    /// that it belongs to.
+    /// Puts a hook of `world` into `parent`, which must outlive this object. `life` belongs to the
+    /// control around it.
     Wheel(World& world, Window& parent, WheelScroll wheelScroll, ControlLife* life = nullptr);
     Wheel(const Wheel&) = delete;
     Wheel& operator=(const Wheel&) = delete;
@@ -46,7 +46,7 @@ class Wheel {
     ControlLife* life_;
     WheelScroll wheelScroll_;
     WindowHandle listensTo_ = 0;
-    std::unique_ptr<WheelHook> hook_; ///< none if the platform has no hooks
+    std::unique_ptr<WheelHook> hook_; ///< null if the platform has no hooks
 };
 
 } // namespace lumtex

@@ -20,8 +20,8 @@ struct ContentHeader {
 /// Cells that a file may announce and not hold.
 constexpr std::int64_t mostMissingCells = 4'000'000;
 /// Rows of a file without columns, as a list leaves it that has lost its own, and the cells of the loading
-/// list that they become: no byte stands for them, so that nothing tells a damaged count from a true one but
-/// its size.
+/// list that they become: no byte stands for them, so that nothing distinguishes a damaged count from a true
+/// one but its size.
 constexpr std::int64_t mostRowsWithoutRecords = 4'000'000;
 constexpr std::int64_t mostCellsWithoutRecords = std::int64_t{1} << 24U;
 

@@ -12,7 +12,7 @@ namespace lumtex {
 /// and gives no bytes.
 std::vector<Byte> GetPictureString(Runtime& runtime, const Picture& picture, Long& length);
 
-/// The picture of a file image; none, and a report, where the bytes are no picture.
+/// The picture of a file image; null, and a report, if the bytes are not a picture.
 PictureRef GetStringPicture(Runtime& runtime, std::span<const Byte> bytes);
 
 } // namespace lumtex

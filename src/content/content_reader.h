@@ -42,7 +42,7 @@ class ContentReader {
     /// What lies ready behind the reading place; after `lookAhead` as much as the buffer holds, or all there
     /// is.
     std::span<const Byte> ahead() const { return {buffer_.data() + place_, end_ - place_}; }
-    /// False where nothing more could be made ready, or reading failed.
+    /// False if nothing more could be made ready, or reading failed.
     bool lookAhead();
     void taken(std::size_t size) { place_ += size; }
 

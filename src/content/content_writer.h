@@ -31,7 +31,7 @@ class ContentWriter {
     void putText(StringView text);
     void putBytes(std::span<const Byte> bytes);
 
-    /// Free room for a record of `size` bytes, to be filled and then `taken`; null where putting it piece by
+    /// Free room for a record of `size` bytes, to be filled and then `taken`; null if putting it piece by
     /// piece would have to go to the file, or fail.
     Byte* roomAtHand(std::size_t size) {
         return size <= buffer_.size() - used_ ? buffer_.data() + used_ : nullptr;

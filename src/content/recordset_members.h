@@ -27,7 +27,7 @@ class RecordsetMembers final : public RecordSource {
     void moveNext() override;
     bool atEnd() override;
 
-    /// The quicker way through the records: the object's own where it has one, else this.
+    /// The quicker way through the records: the object's own if it has one, otherwise this.
     RecordSource& records();
 
   private:

@@ -6,7 +6,7 @@
 
 namespace lumtex {
 
-/// None for none, else a new object with the font's attributes.
+/// Null for null, otherwise a new object with the font's attributes.
 inline FontRef CloneFont(const FontRef& font) {
     return font ? font->Clone() : nullptr;
 }

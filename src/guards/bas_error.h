@@ -25,8 +25,8 @@ struct ErrorReport {
 /// The report's six lines, separated by CR LF, without a line end after the last.
 String reportText(const ErrorReport& report, const ComponentInfo& component);
 
-/// Hands a report to its outlets: to the log file where the settings name a folder, then to the external
-/// handler; and to the message box where there is no handler, or its call failed. Looks at settings and
+/// Hands a report to its outlets: to the log file if the settings name a folder, then to the external
+/// handler; and to the message box if there is no handler, or its call failed. Looks at settings and
 /// handler anew each time, and not at the silent flag. Nothing escapes.
 ///
 /// The host's code runs in the handler and during the box, and may fail again: then a second report comes on

@@ -7,7 +7,7 @@
 
 namespace lumtex {
 
-/// Found by a walk over all processes; empty where these cannot be listed, or the own one is not among them,
+/// Found by a walk over all processes; empty if they cannot be listed, or our own is not among them,
 /// or its path is longer than 255 code units.
 String CurrentExePath(const Program& program, const Files& files);
 

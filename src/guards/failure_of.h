@@ -9,7 +9,7 @@
 
 namespace lumtex {
 
-/// The run-time error that a caught exception stands for: itself, or 7 where memory ran out or a text grew
+/// The run-time error that a caught exception stands for: itself, or 7 if memory ran out or a text grew
 /// past its largest length. Anything else is no failure of a statement but a fault of the program, and goes
 /// on its way: call this only while handling `caught`.
 RuntimeError failureFrom(const std::exception& caught);
@@ -18,7 +18,7 @@ RuntimeError failureFrom(const std::exception& caught);
 /// text.
 RuntimeError failureOfHandler(const std::exception& caught);
 
-/// Runs `body`; its failure, or none.
+/// Runs `body`; returns its failure, if there was one.
 template <class Body>
 std::optional<RuntimeError> failureOf(Body&& body) {
     try {

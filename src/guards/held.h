@@ -12,7 +12,7 @@ namespace lumtex {
 
 namespace detail {
 
-/// The reference inside, or none if the value holds none.
+/// The reference inside, or null if the value holds no object.
 template <class T>
 ReleaseBin::Reference referenceIn(T&& reference) noexcept {
     return std::forward<T>(reference);

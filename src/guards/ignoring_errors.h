@@ -8,7 +8,7 @@
 
 namespace lumtex {
 
-/// Runs `body` up to its first failure, which nobody is told of. Says whether it ran through.
+/// Runs `body` up to its first failure, which is not reported. Returns whether it ran through.
 template <class Body>
 bool ignoringErrors(Body&& body) {
     return !failureOf(std::forward<Body>(body)).has_value();

@@ -23,7 +23,7 @@ namespace lumtex {
 /// Costs next to nothing while nothing fails. The runtime and the names must outlive the guard.
 class [[nodiscard]] Procedure {
   public:
-    /// `life` is that of the control whose procedure this is; null for one that no host code can end.
+    /// `life` belongs to the control whose procedure this is; null for one that no host code can end.
     Procedure(Runtime& runtime,
               StringView name,
               ModuleKind moduleKind,
@@ -54,7 +54,7 @@ class [[nodiscard]] Procedure {
         }
     }
 
-    /// The value of an expression, or its type's zero where it failed.
+    /// The value of an expression, or its type's zero if it failed.
     template <class T, class Expression>
     T value(Expression&& expression) & {
         try {

@@ -22,12 +22,12 @@ class SpEv {
   public:
     explicit SpEv(Runtime& runtime) : runtime_(runtime) {}
 
-    /// The whole file; empty where it cannot be read.
+    /// The whole file; empty if it cannot be read.
     String TextRead(StringView Filename);
     /// Replaces the file by exactly `Text`.
     void TextSave(StringView Filename, StringView Text);
 
-    /// Starts a sound file and returns at once; silent where it cannot be played.
+    /// Starts a sound file and returns at once; silent if it cannot be played.
     void PlayMusic(StringView Filename);
 
     /// Replaces the file by one line for each entry, ended by CR LF.
@@ -42,7 +42,7 @@ class SpEv {
     bool FileExists(StringView sFile);
 
     cActiveXPTheme ActiveXPTheme();
-    /// 1 left, 2 right, 4 middle, in this order where several are down; 0 for none. A button also counts that
+    /// 1 left, 2 right, 4 middle, in this order if several are down; 0 for none. A button also counts that
     /// went down and up again since the last call.
     cMouseButton MouseButtonPressed();
 

@@ -20,8 +20,8 @@ class OutputFile {
     /// Appends `bytes`. Throws RuntimeError 61 if the disk is full, 57 for any other reason; an unknown
     /// part of the bytes is in the file then. Not buffered: callers hand over large pieces.
     virtual void write(std::span<const Byte> bytes) = 0;
-    /// Called at most once, and nothing after it. From here on the file stands under its name with all that
-    /// was written, also where a `write` failed. Throws as `write`, or 75 if the name cannot be given.
+    /// Called at most once, as the last call. From here on the file stands under its name with all that
+    /// was written, even if a `write` failed. Throws as `write`, or 75 if the name cannot be given.
     virtual void close() = 0;
 };
 

@@ -19,7 +19,7 @@ class Host {
     virtual bool UserMode() const { return true; }
     /// The name that the host gave the control.
     virtual String extenderName() const { return u"lmListView1"; }
-    /// The font of the container; none for a container without one.
+    /// The font of the container; null for a container without one.
     virtual FontRef parentFont() const { return nullptr; }
     /// A property changed; the host may mark its document as dirty.
     virtual void PropertyChanged(StringView /*name*/) {}

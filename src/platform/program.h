@@ -34,7 +34,7 @@ class Program {
 
     virtual const ComponentInfo& component() const = 0;
     virtual Long currentProcessId() const = 0;
-    /// All processes, or as many as the world knows, its own among them; none if they cannot be listed.
+    /// All processes, or as many as the world knows, its own among them; empty if they cannot be listed.
     virtual std::optional<std::vector<ProcessEntry>> processes() const = 0;
 };
 

@@ -14,7 +14,7 @@ class PropertyBag {
     PropertyBag& operator=(const PropertyBag&) = delete;
     virtual ~PropertyBag() = default;
 
-    /// The value stored under `name`, or `defaultValue` where there is none.
+    /// The value stored under `name`, or `defaultValue` if there is none.
     virtual Variant ReadProperty(StringView name, const Variant& defaultValue) const = 0;
     /// Stores `value`, or removes the name if the value equals the default (see `sameValue`).
     virtual void WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) = 0;

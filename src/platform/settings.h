@@ -16,8 +16,9 @@ class Settings {
     Settings& operator=(const Settings&) = delete;
     virtual ~Settings() = default;
 
-    /// The text of a value, or the digits of a number; empty for a value of another kind. None if there is no
-    /// such value, if the user may not write under `key`, or if it is longer than the store hands out.
+    /// The text of a value, or the digits of a number; empty text for a value of another kind. Nothing if
+    /// there is no such value, if the user may not write under `key`, or if it is longer than the store hands
+    /// out.
     virtual std::optional<String> text(StringView key, StringView name) const = 0;
     /// The same for a value of any length, under a key that the user may read and perhaps not write.
     virtual std::optional<String> readOnlyText(StringView key, StringView name) const {

@@ -44,7 +44,7 @@ struct Dib24 {
 /// does not fit throws RuntimeError 6. Everything is clipped to the surface. Colours may name system colours.
 /// Never null, owned by whoever made it; nothing keeps a picture or font beyond the call.
 ///
-/// What can be said by other operations is, once for all backends; a backend leaves these as they are.
+/// Operations that can be made of others are, once for all backends; a backend does not override them.
 class Surface {
   public:
     Surface() = default;

@@ -7,7 +7,7 @@
 
 namespace lumtex {
 
-/// What the box tells its owner. Neither may throw.
+/// What the box reports to its owner. Neither may throw.
 class TextBoxClient {
   public:
     virtual ~TextBoxClient() = default;

@@ -19,7 +19,7 @@ enum class TipDelay : Long {
     initial = 3,   ///< until a tip comes up
 };
 
-/// What has a tip: a window, known by its handle and by that of the window in which it lies.
+/// What has a tip: a window, known by its own handle and the handle of the window in which it lies.
 struct TipTool {
     WindowHandle owner = 0;
     WindowHandle id = 0;
@@ -38,11 +38,11 @@ class TipWindow {
 
     /// False if the platform refuses.
     virtual bool add(const TipTool& tool) = 0;
-    /// Of the tool with this owner and id; nothing happens if there is none. So do the other functions.
+    /// Acts on the tool with this owner and id, as the other functions do; without one nothing happens.
     virtual void remove(const TipTool& tool) = 0;
     virtual void setText(const TipTool& tool) = 0;
     virtual Long toolCount() const = 0;
-    /// By index from 0, with up to `textRoom` code units of its text; none if there is no such tool.
+    /// By index from 0, with up to `textRoom` code units of its text; empty if there is no such tool.
     virtual std::optional<TipTool> tool(Long index, std::size_t textRoom) const = 0;
 
     virtual OLE_COLOR backColor() const = 0;

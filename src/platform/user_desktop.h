@@ -25,7 +25,7 @@ struct OpenRequest {
     bool maximised = false;
 };
 
-/// None of these throws, and what the desktop cannot do it leaves undone.
+/// No member throws. What the desktop cannot do is left undone.
 class UserDesktop {
   public:
     UserDesktop() = default;
@@ -36,7 +36,7 @@ class UserDesktop {
     /// Starts a sound file and returns at once; silent if it cannot be played.
     virtual void playSound(StringView file) = 0;
     virtual SystemVersion systemVersion() const = 0;
-    /// The name of the colour scheme of the active theme; none while no theme is active.
+    /// The name of the colour scheme of the active theme; empty while no theme is active.
     virtual std::optional<String> colorScheme() const = 0;
     /// Whether a mouse button is down now, or was pressed since the last call.
     virtual bool wasPressed(MouseButton button) = 0;

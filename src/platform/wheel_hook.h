@@ -9,7 +9,7 @@
 
 namespace lumtex {
 
-/// Where a platform can put something in front of a window; see `World::createWheelHook`.
+/// For platforms that can put something in front of a window; see `World::createWheelHook`.
 class WheelHook {
   public:
     /// The window, the rotation (120 a notch, positive away from the user), the keys and the place as the
@@ -24,7 +24,7 @@ class WheelHook {
     /// From here on no wheel message reaches `hWnd`: it goes to `OnWheel` alone. Nothing while a hook is in
     /// force.
     virtual void Subclass(WindowHandle hWnd) = 0;
-    /// Undoes it; nothing while none is in force.
+    /// Undoes it; does nothing while no hook is in force.
     virtual void UnSubclass(WindowHandle hWnd) = 0;
 };
 

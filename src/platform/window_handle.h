@@ -1,5 +1,5 @@
 /// \file
-/// The number of a window, as a host's object tells it.
+/// The number of a window, as a host's object gives it.
 #pragma once
 
 #include "platform/window.h"

@@ -40,7 +40,7 @@ class World {
     virtual std::unique_ptr<GuideLine> createGuideLine(Window& parent) = 0;
     virtual std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) = 0;
     /// A way to take the wheel messages of a window before it sees them; the hook lies in `parent` and must
-    /// go before it. None if the platform hands turns of the wheel to `UserControl_Wheel` by itself.
+    /// go before it. Null if the platform hands turns of the wheel to `UserControl_Wheel` by itself.
     virtual std::unique_ptr<WheelHook> createWheelHook(Window& /*parent*/,
                                                        const WheelHook::OnWheel& /*onWheel*/) {
         return nullptr;

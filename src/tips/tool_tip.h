@@ -13,7 +13,7 @@
 namespace lumtex {
 
 /// Holds one tool per control. Controls are objects of the host: what has a `hwnd` can have a tip, and its
-/// `Container`, where it has one, is the window in which the tip lies.
+/// `Container`, if it has one, is the window in which the tip lies.
 ///
 /// Before `Create` has succeeded, and for a control without a window, every operation does nothing and
 /// returns False, 0 or the empty text. Runtime and platform must outlive it.
@@ -23,7 +23,7 @@ class lmToolTip {
     lmToolTip(const lmToolTip&) = delete;
     lmToolTip& operator=(const lmToolTip&) = delete;
 
-    /// Makes the window, owned by that of `Parent`, unless there is one already. False if `Parent` is
+    /// Makes the window, owned by the window of `Parent`, unless there is one already. False if `Parent` is
     /// neither a form nor the surface of a control, or the platform gives no window.
     bool Create(const ObjectRef& Parent);
 
@@ -31,7 +31,7 @@ class lmToolTip {
     bool AddTool(const ObjectRef& Control, StringView Text);
     bool RemoveTool(const ObjectRef& Control);
     Integer ToolCount() const;
-    /// Empty for a control without a tool. Setting it makes none.
+    /// Empty for a control without a tool. Setting it makes no tool.
     String ToolText(const ObjectRef& Control);
     void letToolText(const ObjectRef& Control, StringView text);
 

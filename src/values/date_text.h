@@ -9,7 +9,7 @@ namespace lumtex {
 /// From the start of 100-01-01 to the end of 9999-12-31, which is the span that date texts can show.
 bool isDateInRange(Double days);
 
-/// The year that a moment lies in. Throws RuntimeError 6 for one out of range.
+/// The year of a moment. Throws RuntimeError 6 for one out of range.
 int yearOf(Date date);
 
 /// How a date is written, and which number of "3/4/2024" is the day.

@@ -13,7 +13,7 @@ namespace lumtex {
 /// not images, and no size follows from theirs.
 enum class ImageFormat : Byte { bitmap, icon, cursor, png, gif, jpeg };
 
-/// More than any image has that holds its pixels one by one, were they of one bit each.
+/// No image that holds its pixels one by one has more, even at one bit each.
 constexpr std::uint64_t mostPixelsToAByte = 8;
 /// Of any image, however long it is.
 constexpr std::uint64_t mostPixels = std::uint64_t{1} << 28U;

@@ -16,7 +16,7 @@ class Locale {
     virtual ~Locale() = default;
 
     virtual NumberFromText readNumber(StringView text) const = 0;
-    /// None if the text is no date; a number of days is none.
+    /// Empty if the text is not a date; a number of days is not one.
     virtual std::optional<Date> readDate(StringView text) const = 0;
 
     virtual String textOf(LongLong value) const = 0;
@@ -34,8 +34,8 @@ class Locale {
     virtual String timeText(Date date) const = 0;
 };
 
-/// By which values and texts turn into one another on this thread: the innermost `UsingLocale`, without one
-/// the user's, and before a world has told of a user the invariant one.
+/// Converts between values and texts on this thread: the innermost `UsingLocale`, without one
+/// the user's, and before a world has given one, the invariant one.
 const Locale& currentLocale();
 
 /// For a world that knows the user's settings, as it comes up. `locale` must live as long as the program.
@@ -64,7 +64,7 @@ class UsingLocale {
 Double numberFrom(StringView text);
 /// A date, or a number of days.
 Date dateFrom(StringView text);
-/// None if `numberFrom` throws.
+/// Empty if `numberFrom` throws.
 std::optional<Double> numberIn(StringView text);
 
 } // namespace lumtex

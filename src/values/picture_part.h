@@ -1,5 +1,5 @@
 /// \file
-/// Which part of a picture a copy of a part of it takes, and where that lands.
+/// Cuts a copy of part of a picture to what the picture holds.
 #pragma once
 
 #include "values/bitmap.h"
@@ -7,7 +7,7 @@
 
 namespace lumtex {
 
-/// Both rectangles leave out their right and lower edges; both are empty where nothing is to be painted.
+/// Both rectangles leave out their right and lower edges; both are empty if nothing is to be painted.
 struct PicturePart {
     Rect source; ///< pixels of the picture, all inside it
     Rect target; ///< pixels of the surface

@@ -16,8 +16,8 @@ struct PixelSpan {
     Long last; ///< just past the end, and above `first`
 };
 
-/// The source pixels that target pixel `index` of `targetCount` stands for: the nearest one where the copy is
-/// as large or larger, all those that fall on it where it is smaller. `start` is the first source pixel.
+/// The source pixels that target pixel `index` of `targetCount` stands for: the nearest one if the copy is
+/// as large or larger, all those that fall on it if it is smaller. `start` is the first source pixel.
 PixelSpan sourceSpan(std::int64_t index, std::int64_t targetCount, Long start, std::int64_t sourceCount);
 
 /// Average of a block, premultiplied as its pixels are.

@@ -1,6 +1,6 @@
 /// \file
-/// A tagged value with the classic conversions. All conversion rules but those between texts and numbers or
-/// dates stand in this one place; a Locale has those.
+/// A tagged value with the classic conversions. All of their rules stand here, except those between texts and
+/// numbers or dates, which a Locale has.
 #pragma once
 
 #include "values/decimal.h"
@@ -86,7 +86,7 @@ class Variant {
         else
             copyHeld(other);
     }
-    /// Leaves `other` with its kind, and with the empty text or reference where it held one.
+    /// Leaves `other` with its kind, and with an empty text or reference if it held one.
     Variant(Variant&& other) noexcept {
         if (other.isPlain())
             copyPlain(other);
@@ -139,9 +139,9 @@ class Variant {
     String toText() const;
     /// A number's 32 bits; a value up to 0xFFFFFFFF and a negative Long both keep their bits.
     OLE_COLOR toColor() const;
-    /// Never none: throws 91 for Empty and for an empty reference, 13 for a value, a picture or a font.
+    /// Never null: throws 91 for Empty and for an empty reference, 13 for a value, a picture or a font.
     ObjectRef toObject() const;
-    /// None for Empty or an empty reference; throws 13 for anything but that kind of object.
+    /// Null for Empty or an empty reference; throws 13 for anything but that kind of object.
     PictureRef toPicture() const;
     FontRef toFont() const;
 
@@ -315,11 +315,11 @@ inline Long zeroBased(const Variant& index) {
 }
 
 /// Text to number by the invariant rules: surrounding blanks, a sign, digits with "." as the decimal mark, an
-/// exponent with E or D, "&H" and "&O" integers. No group marks. None if the text is not a number, or one
+/// exponent with E or D, "&H" and "&O" integers. No group marks. Empty if the text is not a number, or one
 /// that a Double cannot hold.
 std::optional<Double> numberFromText(StringView text);
 
-/// Text to a date by the invariant rules (documented in docs/conversions.md). None if it is not a date.
+/// Text to a date by the invariant rules (documented in docs/conversions.md). Empty if it is not a date.
 std::optional<Date> dateFromText(StringView text);
 
 /// 15 significant digits for a Double, 7 for a Single, trailing zeros left out; "1E+15" where that many

@@ -19,7 +19,7 @@ constexpr Long noSuchField = 3265;
 ///   Counting runs the query a second time, and both see the same data, unless the query itself says
 ///   something else each time. On PostgreSQL -1 if it is first asked for between two records.
 /// - `fields`: an object with `Count`, and for an index from 0 an element with `Name` and the default member
-///   `Value`: Null, a Boolean, a Long or a Double where the database says so and they hold the value in full,
+///   `Value`: Null, a Boolean, a Long or a Double if the database says so and they hold the value in full,
 ///   else text. Bytes read as "\x" and hexadecimal digits, dates as the database writes them.
 /// - `MoveFirst`: runs the query anew; `MoveNext`, `EOF`. The cursor begins at the first record.
 ///

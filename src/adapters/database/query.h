@@ -36,8 +36,8 @@ class Query {
 
     // Of the record fetched last.
 
-    /// Null, Boolean, Long or Double where the database says so and they hold the value in full; else text:
-    /// that of the database, or for bytes "\x" and two hexadecimal digits each.
+    /// Null, Boolean, Long or Double if the database says so and they hold the value in full; otherwise text:
+    /// as the database writes it, or for bytes "\x" and two hexadecimal digits each.
     virtual Variant value(Long column) const = 0;
     /// Appends the text form of the same value; nothing for Null.
     virtual void appendText(Long column, String& text) const = 0;
@@ -54,7 +54,7 @@ std::string_view withoutEnd(std::string_view sql);
 /// The statement that counts another's records. Some, such as explanations, cannot be wrapped so.
 std::string countingStatement(std::string_view sql);
 
-/// A file of SQLite; it must exist. Throws where it cannot be opened or the statement is not one that yields
+/// A file of SQLite; it must exist. Throws if it cannot be opened or the statement is not one that yields
 /// records.
 std::unique_ptr<Query> openSqliteQuery(const std::string& file, const std::string& sql);
 /// A server of PostgreSQL, by an address such as "postgresql://user@host/name". The same.

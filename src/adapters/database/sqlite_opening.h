@@ -18,7 +18,7 @@ struct SqliteCloser {
 using SqliteConnection = std::unique_ptr<sqlite3, SqliteCloser>;
 
 /// Opens a file, or ":memory:", so that nothing is written, neither into the file nor beside it, however its
-/// last writer left it. Throws RuntimeError with the database's own message where that fails.
+/// last writer left it. Throws RuntimeError with the database's own message if that fails.
 SqliteConnection openSqliteForReading(const std::string& file);
 
 /// What the last call failed with.

@@ -15,7 +15,7 @@ namespace lumtex {
 /// Booleans and numbers stand as JSON has them, and so do texts. A font is an object with the members "Name",
 /// "Size" (points), "Bold", "Italic", "Underline" and "Strikethrough", of which those that say nothing
 /// special are left out; a picture is an object whose member "Picture" holds the bytes of its file as base64.
-/// A number that is none (infinite, say) cannot be stored, and an object cannot either.
+/// A number that is not finite cannot be stored, and an object cannot either.
 ///
 /// Members are kept in the order in which they were first written. One that was read from a text, and that
 /// nobody has asked for since, is none of ours and is not written again.

@@ -45,7 +45,7 @@ using PictureRef = std::shared_ptr<const Picture>;
 /// A picture made of pixels, at 96 pixels per inch.
 class BitmapPicture final : public Picture {
   public:
-    /// Becomes an icon, whatever `kind` says, where a pixel is not opaque.
+    /// Becomes an icon, whatever `kind` says, if a pixel is not opaque.
     explicit BitmapPicture(Bitmap bitmap, PictureKind kind = PictureKind::bitmap);
 
     Long Width() const override;

@@ -10,9 +10,9 @@ namespace lumtex {
 
 /// The press that waits for its release to become a click.
 ///
-/// A press takes the capture, then the keyboard, then tells the window; the second press of a double click
-/// tells it of that alone, and no click follows. The release of the last button gives up the capture before
-/// the window is told, so that one that wants to keep it asks for it again; a click follows if press and
+/// A press takes the capture, then the keyboard, then goes to the window; the second press of a double click
+/// is its only event, and no click follows. The release of the last button gives up the capture before the
+/// window hears of it, so that one that wants to keep it asks for it again; a click follows if press and
 /// release were of one button, on one window, which still takes input and lies under the pointer.
 ///
 /// Each step may run host code, after which the window may have gone.
@@ -51,7 +51,7 @@ class ClickSequence {
         virtual void click() = 0;
     };
 
-    // `target` is null where no window takes input.
+    // `target` is null if no window takes input.
 
     void press(Target* target, const Event& event);
     void pressAgain(Target* target, const Event& event);

@@ -8,7 +8,7 @@
 
 namespace lumtex {
 
-/// Texts are UTF-8 with line ends as given, and names differ by case where the machine's do.
+/// Texts are UTF-8 with line ends as given, and names differ by case if the machine's do.
 class MachineFiles : public Files {
   public:
     String readFile(StringView path) const override;

@@ -4,7 +4,7 @@
 
 namespace lumtex {
 
-/// Counts one level for as long as it lives, also where an exception leaves it. `depth` must outlive it.
+/// Counts one level for as long as it lives, even if an exception ends it. `depth` must outlive it.
 class NestingLevel {
   public:
     explicit NestingLevel(int& depth) : depth_(depth) { ++depth_; }

@@ -23,7 +23,7 @@ class HeadlessWindow;
 
 /// The world that tests, benchmarks and pictures run in. Nothing happens by itself: input comes through the
 /// verbs below, and time passes through `advance`. Points are pixels of the desktop, or of a window's surface
-/// where one is named.
+/// if one is named.
 ///
 /// A verb with `post` only changes state: the input has happened, the pointer is where it was moved to, and
 /// the event waits until the loop runs. A plain verb also runs the loop, so that everything is delivered when
@@ -129,7 +129,7 @@ class Desktop final : public World {
 
     /// The window as a user sees it, with all that lies in it, the pointer left out.
     Bitmap screenshot(const Window& window) const;
-    /// The window that has the focus; none also where a text box has it.
+    /// The window that has the focus; null if a text box has it, or nothing.
     Window* focus() const;
     /// The window or text box that has the focus, or the mouse; 0 for none.
     WindowHandle focused() const;

@@ -6,7 +6,7 @@
 
 namespace lumtex {
 
-/// Both sides of a change are told before the call returns: first the one that lost the focus, then, if it
+/// Both sides of a change hear of it before the call returns: first the one that lost the focus, then, if it
 /// still has it by then, the one that got it.
 ///
 /// While the user is in another program, no pane has it.
@@ -16,14 +16,14 @@ class Focus {
     Focus(const Focus&) = delete;
     Focus& operator=(const Focus&) = delete;
 
-    /// The pane with the focus, or none.
+    /// The pane with the focus, or null.
     Pane* holder() const { return tree_.find(holder_); }
     /// No effect for a pane that takes no input.
     void moveTo(const Pane& pane);
     /// `pane` takes no input any more: if the focus is within it, the nearest pane around it that does gets
     /// it.
     void leave(const Pane& pane);
-    /// `pane` goes away: a focus within it goes too, and nobody is told.
+    /// `pane` goes away: a focus within it goes too, without any event.
     void forget(const Pane& pane);
     /// The user goes to another program.
     void switchAway();

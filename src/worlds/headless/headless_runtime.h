@@ -110,7 +110,7 @@ class HeadlessRuntime final : public Runtime,
     std::vector<String> sounds;      ///< the files of all that were to be played, in order
     std::vector<OpenRequest> opened; ///< all that was to be opened, in order
     SystemVersion version{2, 5, 1};
-    std::optional<String> scheme; ///< none: the classic look
+    std::optional<String> scheme; ///< empty: the classic look
 
   private:
     struct SettingOrder {

@@ -22,7 +22,7 @@ class HeadlessTips final : public TipPlatform {
     std::size_t windowCount() const { return windows_.size(); }
     /// 0xBBGGRR or a system colour; the usual one if there is no such window.
     OLE_COLOR textColorOf(WindowHandle tips) const;
-    /// The tip that would come up over a window; none if it has none.
+    /// The tip that would come up over a window; empty if it has no tip.
     std::optional<String> tipOf(WindowHandle window) const;
 
   private:

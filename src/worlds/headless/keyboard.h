@@ -70,7 +70,7 @@ struct KeyStroke {
     Integer shift = 0;
 };
 
-/// `keys::packet` where no key of the basic block enters it.
+/// `keys::packet` if no key of the basic block enters it.
 KeyStroke keyStrokeOf(char16_t unit);
 
 } // namespace lumtex

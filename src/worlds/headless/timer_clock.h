@@ -28,7 +28,7 @@ class TimerClock {
     /// The moment `span` from now; a negative span counts as none.
     Span after(Span span) const;
 
-    /// The moment of the next tick, which may be past; none if no timer runs.
+    /// The moment of the next tick, which may be past; empty if no timer runs.
     std::optional<Span> nextDue() const;
     /// Asked at each yield, mostly while no timer runs.
     bool isDue() const { return !timers_.empty() && nextDue() <= now_; }

@@ -10,7 +10,7 @@
 
 namespace lumtex {
 
-/// Owns none of its panes; they enter and leave by themselves.
+/// Does not own its panes; they enter and leave by themselves.
 class WindowTree {
   public:
     WindowTree() = default;
@@ -23,14 +23,14 @@ class WindowTree {
     void insert(Pane& pane);
     void remove(Pane& pane);
 
-    /// None for 0 and for a number that names nothing any more.
+    /// Null for 0 and for a number that names nothing any more.
     Pane* find(WindowHandle handle) const;
 
-    /// The topmost pane that takes input at a point of the desktop, or none. What is hidden or disabled lets
+    /// The topmost pane that takes input at a point of the desktop, or null. What is hidden or disabled lets
     /// the point through to what lies below.
     Pane* at(Point onDesktop) const;
 
-    /// Puts `child` on top of the children of `parent`. Refused where `parent` lies within it.
+    /// Puts `child` on top of the children of `parent`. Refused if `parent` lies within it.
     bool adopt(Pane& parent, Pane& child);
 
     /// Runs when a pane is about to leave the tree. It may be half destroyed: only its place can be asked.
@@ -39,7 +39,7 @@ class WindowTree {
   private:
     std::vector<Pane*>& siblingsOf(const Pane& pane);
 
-    /// A number that looks like none of the small ones that tests write by hand.
+    /// A number unlike the small ones that tests write by hand.
     WindowHandle nextHandle_ = 0x10001;
     std::unordered_map<WindowHandle, Pane*> panes_;
     std::vector<Pane*> topLevel_; ///< lowest first

@@ -11,11 +11,11 @@ namespace lumtex {
 template <class T>
 class ComRef;
 
-/// None for null, and for an object without that interface.
+/// Null for null, and for an object without that interface.
 template <class U, class V>
 ComRef<U> queryFor(V* object);
 
-/// Owns one reference, or none.
+/// Owns one reference, or null.
 template <class T>
 class ComRef {
   public:
@@ -55,7 +55,7 @@ class ComRef {
     /// The reference, now the caller's.
     T* detach() { return std::exchange(object_, nullptr); }
 
-    /// The same object under another interface; none if it has no such one.
+    /// The same object under another interface; null if it does not have it.
     template <class U>
     ComRef<U> as() const {
         return queryFor<U>(object_);

@@ -9,7 +9,7 @@ namespace lumtex {
 class DropTarget;
 class UserControl;
 
-/// Has the system tell `client` what is dragged over `window` and dropped there, as long as this lives.
+/// Has the system report to `client` what is dragged over `window` and dropped there, as long as this lives.
 /// Without effect if the system refuses: on a thread of many-threaded objects, or where somebody else
 /// takes the window's drops already. Both must outlive this.
 ///
@@ -26,7 +26,7 @@ class DropPlace {
   private:
     HWND window_;
     bool hasOle_;
-    ComRef<DropTarget> target_; ///< none if the system refused
+    ComRef<DropTarget> target_; ///< null if the system refused
 };
 
 /// The last argument of UserControl_OLEDragOver.

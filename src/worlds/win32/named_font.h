@@ -14,9 +14,9 @@ struct NamedFontClient {
     std::function<void(IUnknown* identity)> onGone; ///< as the object ends; nothing comes after it
 };
 
-/// A font object of `description`. The system's own tells another name where that face is not installed; this
-/// one tells the name it was made with, until somebody names another face. Throws RuntimeError 7 if it
-/// cannot be made.
+/// A font object of `description`. The system's own gives another name if that face is not installed; this
+/// one gives the name it was made with, until somebody names another face. Throws RuntimeError 7 if it cannot
+/// be made.
 ComRef<IFontDisp> makeNamedFont(FONTDESC description, NamedFontClient client);
 
 } // namespace lumtex

@@ -7,14 +7,14 @@
 
 namespace lumtex {
 
-/// An object of the host. Keeps a reference to `dispatch`; none for null.
+/// An object of the host. Keeps a reference to `dispatch`; null for null.
 ///
 /// Members are found by name without regard to case, also in objects of script languages. `call` passes its
 /// arguments by reference and reads them back; `get` and `put` pass values.
 ObjectRef objectFrom(IDispatch* dispatch);
 
-/// The very object of the host, where `object` came from one; else one that answers late-bound calls with
-/// `object`'s members. None for none.
+/// The very object of the host if `object` came from one, otherwise one that answers late-bound calls with
+/// `object`'s members. Null for null.
 ComRef<IDispatch> toIDispatch(const ObjectRef& object);
 
 } // namespace lumtex

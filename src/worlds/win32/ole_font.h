@@ -8,12 +8,12 @@
 namespace lumtex {
 
 /// The font object of a host as one of ours: follows every change that the host makes to it. The same object
-/// gives the same font each time, and one that `toIFont` made gives the font that it was made for. None for
+/// gives the same font each time, and one that `toIFont` made gives the font that it was made for. Null for
 /// null and for an object that is no font.
 FontRef fontFrom(IFontDisp* font);
 
 /// What a host gets to see of a font: the object that it came from, or one made for it, whose changes show in
-/// `font`. As long as somebody holds that, the same font gives it each time. Null for none. Throws
+/// `font`. As long as somebody holds that, the same font gives it each time. Null for null. Throws
 /// RuntimeError 7 if it cannot be made.
 ComRef<IFontDisp> toIFont(const FontRef& font);
 

@@ -11,12 +11,12 @@
 namespace lumtex {
 
 /// The picture object of a host as one of ours, which keeps it alive. The same object gives the same picture
-/// each time, and one that `toIPicture` made gives the picture that it was made for. None for null and for an
+/// each time, and one that `toIPicture` made gives the picture that it was made for. Null for null and for an
 /// object that is no picture.
 PictureRef pictureFrom(IPictureDisp* picture);
 
 /// What a host gets to see of a picture: the object that it came from, or one made for it. As long as
-/// somebody holds that, the same picture gives it each time. Null for none and for a picture without pixels.
+/// somebody holds that, the same picture gives it each time. Null for null and for a picture without pixels.
 /// Throws RuntimeError 7 if it cannot be made.
 ComRef<IPictureDisp> toIPicture(const PictureRef& picture);
 

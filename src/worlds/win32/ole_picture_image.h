@@ -15,7 +15,7 @@ namespace lumtex {
 /// that no bitmap or icon file holds as its kind is.
 std::vector<Byte> imageOfHostsPicture(const Picture& picture);
 
-/// Whatever the system writes for a picture, in any format; no bytes where it writes none.
+/// Whatever the system writes for a picture, in any format; no bytes if it writes none.
 std::vector<Byte> fileOfPicture(IPicture& picture);
 
 } // namespace lumtex

@@ -28,7 +28,7 @@ class Owned {
 
     Handle get() const { return handle_; }
     explicit operator bool() const { return handle_ != Handle{}; }
-    /// Where a call stores a handle that it gives away. Only while it owns none.
+    /// Where a call stores a handle that it gives away. Only while it owns no handle.
     Handle* out() { return &handle_; }
     /// The handle, now the caller's.
     Handle detach() { return std::exchange(handle_, Handle{}); }
@@ -72,7 +72,7 @@ using OwnedPicture = Owned<HENHMETAFILE, detail::dropPicture>;
 using OwnedPlainPicture = Owned<HMETAFILE, detail::dropPlainPicture>;
 using OwnedBSTR = Owned<BSTR, detail::dropText>;
 
-/// The context of the whole screen while this lives; null where there is no screen.
+/// The context of the whole screen while this lives; null if there is no screen.
 class ScreenContext {
   public:
     ScreenContext() = default;

@@ -9,7 +9,7 @@
 
 namespace lumtex {
 
-/// Calls back at each change that an object tells of, with the property's number, and once when nobody holds
+/// Calls back at each change that an object reports, with the property's number, and once when nobody holds
 /// the sink any longer: an object lets go of its sinks when it ends. The callbacks must not throw.
 class PropertySink final : public CountedObject<IPropertyNotifySink> {
   public:
@@ -18,7 +18,7 @@ class PropertySink final : public CountedObject<IPropertyNotifySink> {
     /// Calls back no more.
     void silence();
 
-    /// Has `source` tell its changes to this sink. False if it has no way to.
+    /// Has `source` report its changes to this sink. False if it has no way to.
     bool listenTo(IUnknown* source, DWORD& cookie);
     /// Ends that again.
     static void stopListening(IUnknown* source, DWORD cookie);

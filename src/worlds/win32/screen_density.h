@@ -12,7 +12,7 @@ struct PixelDensity {
     Long y;
 };
 
-/// As the system tells this program: a program that says nothing about dense screens is told 96, and shown
+/// As this program sees it: one that says nothing about dense screens gets 96 from the system, and is shown
 /// enlarged. The same for as long as the program runs.
 PixelDensity screenDensity();
 

@@ -1,5 +1,5 @@
 /// \file
-/// The state of keys and mouse buttons as events tell it.
+/// The state of keys and mouse buttons as events carry it.
 #pragma once
 
 #include "platform/user_control.h"
@@ -34,7 +34,7 @@ inline Integer buttonsIn(WPARAM keys) {
     return static_cast<Integer>(buttons);
 }
 
-/// Shift and Control by the same bits; `alt` they do not tell.
+/// Shift and Control by the same bits; `alt` is not among them.
 inline Integer shiftKeysIn(WPARAM keys, bool alt) {
     const int shift = ((keys & MK_SHIFT) != 0 ? shiftMask : 0) |
                       ((keys & MK_CONTROL) != 0 ? controlMask : 0) | (alt ? altMask : 0);

@@ -47,7 +47,7 @@ class Win32Runtime : public Runtime,
     static bool isBoxOpen();
 
     Date now() const override;
-    /// Characters of more than one byte count as none.
+    /// A character of more than one byte counts as no character.
     void toAnsi(StringView text, std::span<Byte> bytes) const override;
     void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override;
 
@@ -72,7 +72,7 @@ class Win32Runtime : public Runtime,
     /// Told when a box or form opens that the rest of the program waits for, and when it has closed. Must not
     /// throw.
     std::function<void(bool open)> onModal;
-    ObjectRef application; ///< handed to an error handler; none until the component sets it
+    ObjectRef application; ///< handed to an error handler; null until the component sets it
 
     /// As long as one lives, a box or form of the program is open.
     class ModalSpan {

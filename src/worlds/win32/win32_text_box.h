@@ -10,8 +10,8 @@
 
 namespace lumtex {
 
-/// Places are rounded to whole pixels as those of windows are. Its system window may go before it, as that of
-/// a Win32Window may.
+/// Places are rounded to whole pixels as those of windows are. Its system window may go before it, as with a
+/// Win32Window.
 class Win32TextBox final : public TextBox {
   public:
     /// Throws RuntimeError 7 if the system gives no window.
@@ -50,7 +50,7 @@ class Win32TextBox final : public TextBox {
 
   private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
-    /// None: the system's box deals with the message. Afterwards the box may be gone.
+    /// Empty: the system's box deals with the message. Afterwards the box may be gone.
     std::optional<LRESULT> answer(const WindowMessage& message);
     std::optional<LRESULT> character(const WindowMessage& message);
     void place();

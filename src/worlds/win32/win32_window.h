@@ -1,5 +1,5 @@
 /// \file
-/// A window of the system that shows a surface and tells its control what happens to it.
+/// A window of the system that shows a surface and reports what happens to it to its control.
 #pragma once
 
 #include "worlds/win32/drop_target.h"
@@ -40,7 +40,7 @@ class Win32Window final : public Window {
     void letEnabled(bool enabled) override;
     Long OLEDropMode() const override { return oleDropMode_; }
     /// 1 takes what is dragged over the window and its children, unless a child takes it itself; any other
-    /// number does not. Where the thread may not have drag and drop, nothing comes.
+    /// number does not. On a thread without drag and drop nothing comes.
     void letOLEDropMode(Long mode) override;
     Integer MousePointer() const override { return pointerShape_.shape(); }
     void letMousePointer(Integer shape) override;
@@ -58,7 +58,7 @@ class Win32Window final : public Window {
 
     /// Above its siblings: the system puts a new child below them.
     static void raise(HWND child);
-    /// The window behind a handle; none for one that is not of this class of windows.
+    /// The window behind a handle; null for one that is not of this class of windows.
     static Win32Window* of(HWND window);
     Win32World& world() const { return world_; }
     /// Visible and enabled, and so is every window of ours that it lies in.
@@ -79,7 +79,7 @@ class Win32Window final : public Window {
     static void passOnFocus(HWND window);
 
   private:
-    /// What a message is worth to the system; none: the system deals with it.
+    /// The answer to a message; empty: the system deals with it.
     using Answer = std::optional<LRESULT>;
 
     // Each of these looks at one family of messages. Afterwards the window may be gone.
@@ -104,7 +104,7 @@ class Win32Window final : public Window {
     void printChildren(HDC target, LPARAM flags) const;
     /// No input comes any more: a capture or press in the window ends, a focus is passed on.
     void loseInput();
-    /// Shows the pointer's shape at once where the pointer is over this window.
+    /// Shows the pointer's shape at once if the pointer is over this window.
     void showPointer() const;
     /// Visible, and so is every window of ours that it lies in.
     bool isShown() const;

@@ -62,7 +62,8 @@ class Win32World final : public World {
     /// Told when one of our windows has a new picture for the screen. Must not throw.
     std::function<void()> onPresent;
 
-    /// The world of the nearest window of ours around a window, or of that itself; none if there is none.
+    /// The world of the nearest window of ours around a window, or of that window itself; null if there is
+    /// none.
     static Win32World* of(HWND window);
 
     /// The object that the world belongs to; may be null. It is counted while a message, a tick or a turn of
@@ -87,7 +88,7 @@ class Win32World final : public World {
     /// that is under the mouse when messages run next.
     static void giveUpCapture();
 
-    /// While one lives, nothing that happens to windows is told: their owners are going.
+    /// While one lives, nothing that happens to windows is reported: their owners are going.
     class Quiet {
       public:
         explicit Quiet(Win32World& world) : depth_(world.quietDepth_) { ++depth_; }

@@ -7,7 +7,7 @@
 namespace lumtex {
 
 /// A share in a class; all shares of the same name and module hold one. The first share registers it, the
-/// last one takes it back, so that a module leaves none behind when it is unloaded. May be made on any
+/// last one takes it back, so that a module leaves no class behind when it is unloaded. May be made on any
 /// thread.
 class WindowClass {
   public:
