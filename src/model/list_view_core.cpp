@@ -34,6 +34,20 @@ ListViewCore::ListViewCore(
 
 ListViewCore::~ListViewCore() = default;
 
+/// Each goes before those that were there when it was made; children of the window go before it.
+void ListViewCore::dropParts() {
+    finder.reset();
+    sorter.reset();
+    painting.reset();
+    selection.reset();
+    rowDrag.reset();
+    mouse.reset();
+    headerGesture.reset();
+    editor.reset();
+    scroller.reset();
+    listWindow.reset();
+}
+
 void ListViewCore::endForHost() {
     life_.end();
     host_ = &noHost();

@@ -89,6 +89,8 @@ class ListViewCore : protected ListViewLife {
     ~ListViewCore();
     /// From now on nothing more reaches the host.
     void endForHost();
+    /// The parts go, then the window. To be called while the list is whole: each part has a reference to it.
+    void dropParts();
 
   private:
     lmListView& list_;

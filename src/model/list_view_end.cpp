@@ -17,6 +17,7 @@ lmListView::~lmListView() {
     life_.enter();
     end();
     releaseBehindMembers();
+    dropParts();
 }
 
 void lmListView::operator delete(lmListView* list, std::destroying_delete_t /*tag*/) {

@@ -270,6 +270,13 @@ TEST_F(AboutEntries, AListMayGoWhileItsFormIsOpen) {
     EXPECT_EQ(doomed, nullptr);
 }
 
+TEST_F(AboutEntries, TheWindowsOfAListGoBeforeTheFormThatItHolds) {
+    auto doomed = std::make_unique<lmListView>(world, host, events);
+    doomed->About();
+    doomed.reset();
+    EXPECT_TRUE(sameLog(world.ends, {"child", "window", "form"}));
+}
+
 TEST_F(AboutEntries, AFormThatCannotBeLoadedIsReportedByTheEntry) {
     desktop.runtime().clock = Date{1e9};
     list.About();

@@ -17,10 +17,15 @@ namespace lumtex::testing {
 class RecordingWindow final : public ForwardingWindow {
   public:
     using ForwardingWindow::ForwardingWindow;
+    ~RecordingWindow() override {
+        if (onEnd)
+            onEnd();
+    }
 
     RecordingSurface& recorder() { return surface_; }
 
     std::function<void(bool)> onVisible; ///< before the window is shown or hidden
+    std::function<void()> onEnd;         ///< before the window goes
 
     Surface& surface() override { return surface_; }
     void letVisible(bool visible) override {
@@ -40,11 +45,14 @@ class RecordingWorld final : public World {
     Runtime& runtime() override { return desktop_.runtime(); }
     TipPlatform& tips() override { return desktop_.tips(); }
     std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) override {
-        return std::make_unique<RecordingWindow>(desktop_.createWindow(innerOf(parent), client));
+        auto window = std::make_unique<RecordingWindow>(desktop_.createWindow(innerOf(parent), client));
+        window->onEnd = [this, name = parent != nullptr ? "child" : "window"] { noteEnd(name); };
+        return window;
     }
     std::unique_ptr<Window> createForm(UserControl& client) override {
         auto form = std::make_unique<RecordingWindow>(desktop_.createForm(client));
         form->onVisible = [this](bool visible) { forms.emplace_back(visible ? "show" : "hide"); };
+        form->onEnd = [this] { noteEnd("form"); };
         return form;
     }
     void showModal(Window& form) override {
@@ -67,8 +75,13 @@ class RecordingWorld final : public World {
     }
 
     std::vector<std::string> forms; ///< how forms came and went: show, hide, modal, modal end
+    std::vector<std::string> ends;  ///< what was destroyed, in order: window, child, form; neighbours once
 
   private:
+    void noteEnd(const char* name) {
+        if (ends.empty() || ends.back() != name)
+            ends.emplace_back(name);
+    }
     static Window* innerOf(Window* window) {
         return window != nullptr ? &static_cast<RecordingWindow*>(window)->inner() : nullptr;
     }
