@@ -3,6 +3,7 @@
 #include "guards/application_object.h"
 #include "guards/current_exe_path.h"
 #include "values/locale.h"
+#include "values/thread_state.h"
 
 #include <array>
 
@@ -22,15 +23,12 @@ constexpr std::size_t ruleLength = 30;
 
 constexpr std::array<StringView, 3> moduleKindTexts = {u"Benutzersteuerelement", u"Klassenmodul", u"Modul"};
 
-/// Of this thread: boxes of other threads do not silence it.
-thread_local int runningReports = 0;
-
 class RunningReport {
   public:
-    RunningReport() { ++runningReports; }
+    RunningReport() { ++ThreadState::ofThread().runningReports; }
     RunningReport(const RunningReport&) = delete;
     RunningReport& operator=(const RunningReport&) = delete;
-    ~RunningReport() { --runningReports; }
+    ~RunningReport() { --ThreadState::ofThread().runningReports; }
 };
 
 /// Ignores even what no statement may throw: this is where a failure ends, and the outlets are not ours.
@@ -115,7 +113,7 @@ String reportText(const ErrorReport& report, const ComponentInfo& component) {
 }
 
 void reportError(Runtime& runtime, const ErrorReport& report) noexcept {
-    const bool tooDeep = runningReports >= mostNestedReports;
+    const bool tooDeep = ThreadState::ofThread().runningReports >= mostNestedReports;
     const RunningReport running;
     ObjectRef handler;
     if (!tooDeep)

@@ -1,13 +1,16 @@
 #include "guards/release_bin.h"
 
+#include "values/thread_state.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace lumtex {
 
 ReleaseBin& ReleaseBin::ofThread() {
-    // Never destroyed: a control that outlives its thread's end still lets go of what it holds.
-    static thread_local ReleaseBin* const bin = new ReleaseBin;
+    ReleaseBin*& bin = ThreadState::ofThread().releaseBin;
+    if (bin == nullptr)
+        bin = new ReleaseBin;
     return *bin;
 }
 

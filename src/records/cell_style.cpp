@@ -1,5 +1,7 @@
 #include "records/cell_style.h"
 
+#include "values/thread_state.h"
+
 #include <functional>
 
 namespace lumtex {
@@ -65,8 +67,9 @@ bool CellStyles::Equal::operator()(const CellStyle& a, StyleHandle b) const {
 CellStyles::CellStyles() : index_(16, Hash{this}, Equal{this}) {}
 
 CellStyles& CellStyles::ofThread() {
-    // Never destroyed: a control that outlives its thread's end still gives its counts back.
-    static thread_local CellStyles* const table = new CellStyles;
+    CellStyles*& table = ThreadState::ofThread().cellStyles;
+    if (table == nullptr)
+        table = new CellStyles;
     return *table;
 }
 

@@ -1,22 +1,21 @@
 #include "records/list_view_item.h"
 
+#include "values/thread_state.h"
+
 #include <utility>
 
 namespace lumtex {
 
-namespace {
-thread_local std::size_t objectCount = 0;
-} // namespace
-
 void CellExtras::setObject(ObjectRef object) {
     Held<ObjectRef> fresh(std::move(object));
-    objectCount += fresh ? 1 : 0;
-    objectCount -= object_ ? 1 : 0;
+    std::size_t& count = ThreadState::ofThread().objectsInCells;
+    count += fresh ? 1 : 0;
+    count -= object_ ? 1 : 0;
     object_ = std::move(fresh);
 }
 
 std::size_t CellExtras::objectsInCells() {
-    return objectCount;
+    return ThreadState::ofThread().objectsInCells;
 }
 
 ListViewItem::ListViewItem(ListViewItem&& other) noexcept

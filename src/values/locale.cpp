@@ -3,20 +3,21 @@
 #include "values/date_text.h"
 #include "values/fixed_locale.h"
 #include "values/runtime_error.h"
+#include "values/thread_state.h"
 
 #include <atomic>
+#include <utility>
 
 namespace lumtex {
 
 namespace {
 
 std::atomic<const Locale*> usersLocale = nullptr;
-thread_local UsingLocale* innermost = nullptr;
 
 } // namespace
 
 const Locale& currentLocale() {
-    if (innermost != nullptr)
+    if (const UsingLocale* innermost = ThreadState::ofThread().innermostLocale)
         return innermost->locale();
     const Locale* const users = usersLocale.load(std::memory_order_acquire);
     return users != nullptr ? *users : invariantLocale();
@@ -26,12 +27,11 @@ void letUsersLocale(const Locale& locale) {
     usersLocale.store(&locale, std::memory_order_release);
 }
 
-UsingLocale::UsingLocale(const Locale& locale) : locale_(locale), outer_(innermost) {
-    innermost = this;
-}
+UsingLocale::UsingLocale(const Locale& locale)
+    : locale_(locale), outer_(std::exchange(ThreadState::ofThread().innermostLocale, this)) {}
 
 UsingLocale::~UsingLocale() {
-    UsingLocale** place = &innermost;
+    UsingLocale** place = &ThreadState::ofThread().innermostLocale;
     while (*place != this)
         place = &(*place)->outer_;
     *place = outer_;

@@ -16,6 +16,8 @@ namespace lumtex {
 
 namespace {
 
+/// Of this thread. Not with the rest of what a thread shares (`ThreadState`): only this world has boxes of
+/// the system's.
 thread_local int openBoxes = 0;
 
 /// The file of a module; empty where the system does not tell.

@@ -1,0 +1,7 @@
+#include "values/thread_state.h"
+
+namespace lumtex {
+
+constinit thread_local ThreadState ThreadState::own;
+
+} // namespace lumtex
