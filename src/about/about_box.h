@@ -34,8 +34,6 @@ class LumtexAbout final : public UserControl {
 
     bool Visible() const { return window_->Visible(); }
     Window& window() { return *window_; }
-    /// What is written on one of the labels; empty before the form was loaded.
-    const String& Caption(Control label) const { return captions_[label]; }
     /// Where a child lies, in pixels of the form.
     const Rect& place(Control control) const { return places_[control]; }
 

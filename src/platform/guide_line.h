@@ -16,7 +16,6 @@ class GuideLine {
 
     /// From the top of the parent's surface down, in its pixels.
     virtual void place(Single x, Single height) = 0;
-    virtual bool Visible() const = 0;
     virtual void letVisible(bool visible) = 0;
 };
 

@@ -25,27 +25,19 @@ class TextBox {
     virtual ~TextBox() = default;
 
     virtual WindowHandle hWnd() const = 0;
-    virtual Single Left() const = 0;
-    virtual Single Top() const = 0;
-    virtual Single Width() const = 0;
-    virtual Single Height() const = 0;
     virtual void letLeft(Single left) = 0;
     virtual void letTop(Single top) = 0;
     virtual void letWidth(Single width) = 0;
     virtual void letHeight(Single height) = 0;
     virtual bool Visible() const = 0;
     virtual void letVisible(bool visible) = 0;
-    virtual bool TabStop() const = 0;
     virtual void letTabStop(bool tabStop) = 0;
     virtual const FontSpec& font() const = 0;
     virtual void setFont(const FontSpec& font) = 0;
-    virtual OLE_COLOR ForeColor() const = 0;
     virtual void letForeColor(OLE_COLOR color) = 0;
     virtual String Text() const = 0;
     virtual void letText(StringView text) = 0;
-    /// Code units; the caret where the length is 0.
-    virtual Long SelStart() const = 0;
-    virtual Long SelLength() const = 0;
+    /// Code units. A selection of length 0 is the caret.
     virtual void letSelStart(Long start) = 0;
     virtual void letSelLength(Long length) = 0;
     virtual void setFocus() = 0;

@@ -39,15 +39,11 @@ class Window {
     virtual bool Visible() const = 0;
     /// Each showing of a hidden window delivers UserControl_Show.
     virtual void letVisible(bool visible) = 0;
-    virtual bool Enabled() const = 0;
     /// A disabled window gets no mouse and no keys.
     virtual void letEnabled(bool enabled) = 0;
-    virtual Long OLEDropMode() const = 0;
     virtual void letOLEDropMode(Long mode) = 0;
 
-    virtual Integer MousePointer() const = 0;
     virtual void letMousePointer(Integer shape) = 0;
-    virtual PictureRef MouseIcon() const = 0;
     virtual void setMouseIcon(PictureRef icon) = 0;
 
     virtual void setFocus() = 0;

@@ -26,9 +26,6 @@ class QI {
     /// Shows the about box, hides it, then shows it modally.
     void About();
 
-    /// The tip window; none before the first call.
-    lmToolTip* toolTip() { return toolTip_.get(); }
-
   private:
     Procedure procedure(StringView name) const;
     lmToolTip& needToolTip();

@@ -131,7 +131,7 @@ TEST_P(BarRange, ADisabledBarHidesItsThumbAndIsFlatAndWhite) {
         const Lines lines = drawnBy(bar().window(), [&] { bar().letEnabled(false); });
         EXPECT_EQ(lines, (Lines{"Cls", "BackColor FFFFFF"})) << style;
         EXPECT_FALSE(thumb().window().Visible());
-        EXPECT_FALSE(bar().window().Enabled());
+        EXPECT_FALSE(static_cast<RecordingWindow&>(bar().window()).inner().Enabled());
         EXPECT_FALSE(low().En() || high().En() || thumb().En());
     }
 }

@@ -107,11 +107,11 @@ TEST_F(MouseMove, CarriesTheGuideLineAlong) {
     ASSERT_TRUE(inside.header().resizing);
     move({95, 50});
     EXPECT_TRUE(inside.guide().Visible());
-    EXPECT_EQ(inside.drawnGuide().from(), (Point{95, 0}));
-    EXPECT_EQ(inside.drawnGuide().to(), (Point{95, 200}));
+    EXPECT_EQ(inside.guide().from(), (Point{95, 0}));
+    EXPECT_EQ(inside.guide().to(), (Point{95, 200}));
     list.window().place(100, 100, 300, 260);
     move({96, 50});
-    EXPECT_EQ(inside.drawnGuide().to().y, 260) << "as tall as the list is now";
+    EXPECT_EQ(inside.guide().to().y, 260) << "as tall as the list is now";
 }
 
 TEST_F(MouseMove, GoesOnWithThePlaceThatTheHostMadeOfIt) {

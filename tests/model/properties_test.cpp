@@ -367,7 +367,7 @@ TEST_F(Setters, AJumpBelowOneIsDroppedSilently) {
 TEST_F(Setters, EnabledReachesTheWindowAndBothBarsAndRepaints) {
     list.letAutoRedraw(false);
     EXPECT_EQ(paintsOf([&] { list.letEnabled(false); }), 1);
-    EXPECT_FALSE(list.window().Enabled());
+    EXPECT_FALSE(window().Enabled());
     EXPECT_FALSE(inside.vertical().Enabled());
     EXPECT_FALSE(inside.horizontal().Enabled());
 }
@@ -457,7 +457,7 @@ TEST_F(Setters, SkinRepaintsWhateverAutoRedrawSays) {
 
 TEST_F(Setters, OLEDropModeReachesTheWindow) {
     list.letOLEDropMode(1);
-    EXPECT_EQ(list.window().OLEDropMode(), 1);
+    EXPECT_EQ(window().OLEDropMode(), 1);
 }
 
 TEST_F(Setters, AnyNumberIsStoredInAnEnumeration) {

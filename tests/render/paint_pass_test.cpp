@@ -306,8 +306,8 @@ TEST_F(PaintPassOrder, APressOnTheGripStartsAResize) {
     EXPECT_FALSE(inside.header().pressPending);
     EXPECT_EQ(inside.header().pressedColumn, -1);
     EXPECT_TRUE(inside.guide().Visible());
-    EXPECT_EQ(inside.drawnGuide().from(), (Point{57, 0}));
-    EXPECT_EQ(inside.drawnGuide().to(), (Point{57, 100}));
+    EXPECT_EQ(inside.guide().from(), (Point{57, 0}));
+    EXPECT_EQ(inside.guide().to(), (Point{57, 100}));
 }
 
 TEST_F(PaintPassOrder, WithFixedColumnsAPressOnTheGripPressesTheHeader) {
@@ -343,16 +343,16 @@ TEST_F(PaintPassOrder, ThePointerChangesOverADivider) {
     addColumns({60});
     mouseAt(57, 5);
     repaint();
-    EXPECT_EQ(window().MousePointer(), pointerCustom);
-    EXPECT_EQ(window().MouseIcon(), inside.artwork().imgResize);
+    EXPECT_EQ(window().inner().MousePointer(), pointerCustom);
+    EXPECT_EQ(window().inner().MouseIcon(), inside.artwork().imgResize);
     inside.header().resizeColumn = -1;
     mouseAt(30, 5);
     repaint();
-    EXPECT_EQ(window().MousePointer(), pointerDefault);
+    EXPECT_EQ(window().inner().MousePointer(), pointerDefault);
     list.letFixColumns(true);
     mouseAt(57, 5);
     repaint();
-    EXPECT_EQ(window().MousePointer(), pointerDefault);
+    EXPECT_EQ(window().inner().MousePointer(), pointerDefault);
 }
 
 TEST_F(PaintPassOrder, AFailureBeforeTheRowsRaisesAnEventAndFreesThePass) {

@@ -1,5 +1,6 @@
 #include "headless_stage.h"
 
+#include "list_fixture.h"
 #include "recording_events.h"
 #include "report_line.h"
 #include "test_fonts.h"
@@ -64,6 +65,8 @@ class HeadlessStage final : public Stage {
         desktop_.run();
     }
     void advance(std::chrono::milliseconds span) override { desktop_.advance(span); }
+    Rect editorPlace() override { return areaOf(inside_.editor()); }
+    bool showsGuide() override { return inside_.guide().Visible(); }
     Bitmap picture() override { return desktop_.screenshot(list_.window()); }
 
   private:
@@ -72,6 +75,7 @@ class HeadlessStage final : public Stage {
     TestHost host_;
     RecordingEvents events_;
     lmListView list_{around_ ? *around_ : static_cast<World&>(desktop_), host_, events_};
+    ListViewInspector inside_{list_};
     Neighbour neighbourClient_;
     std::unique_ptr<Window> neighbour_;
 };

@@ -158,7 +158,7 @@ class Player {
         }
         note("index=" + std::to_string(inside_.properties().ListIndex) +
              " top=" + std::to_string(list_.TopIndex()) + " selected=" + selected + " checked=" + checked +
-             (inside_.editor().Visible() ? " editing=" + wordFor(inside_.editor().Text()) : ""));
+             (inside_.anyEditor().Visible() ? " editing=" + wordFor(inside_.anyEditor().Text()) : ""));
     }
 
     void headers(const Words&) {
@@ -166,14 +166,15 @@ class Player {
         const auto column = [](Long index) { return index < 0 ? "none" : std::to_string(index + 1); };
         note("hover=" + column(state.hoverColumn) + " pressed=" + column(state.pressedColumn) +
              " divider=" + column(state.resizeColumn) + (state.resizing ? " resizing" : "") +
-             (inside_.guide().Visible() ? " guide" : ""));
+             (stage_.showsGuide() ? " guide" : ""));
     }
 
     void editor(const Words&) {
-        TextBox& box = inside_.editor();
-        const auto whole = [](Single pixels) { return std::to_string(static_cast<Long>(pixels)); };
-        note(box.Visible() ? "editor " + whole(box.Left()) + " " + whole(box.Top()) + " " +
-                                 whole(box.Width()) + " x " + whole(box.Height()) + " " + wordFor(box.Text())
+        const TextBox& box = inside_.anyEditor();
+        const Rect at = box.Visible() ? stage_.editorPlace() : Rect{};
+        note(box.Visible() ? "editor " + std::to_string(at.Left) + " " + std::to_string(at.Top) + " " +
+                                 std::to_string(at.Right - at.Left) + " x " +
+                                 std::to_string(at.Bottom - at.Top) + " " + wordFor(box.Text())
                            : "no editor");
     }
 

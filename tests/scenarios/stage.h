@@ -5,6 +5,7 @@
 #include "automation/call_by_name.h"
 #include "model/list_view.h"
 #include "values/bitmap.h"
+#include "values/geometry.h"
 
 #include <chrono>
 #include <functional>
@@ -44,6 +45,9 @@ class Stage {
     virtual void switchProgram(bool away) = 0;
     virtual void advance(std::chrono::milliseconds span) = 0;
     virtual Bitmap picture() = 0;
+    /// Pixels of the list; only while the editor is open.
+    virtual Rect editorPlace() = 0;
+    virtual bool showsGuide() = 0;
 };
 
 } // namespace lumtex::testing

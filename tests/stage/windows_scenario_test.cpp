@@ -17,15 +17,11 @@ class WindowsScenario : public ::testing::TestWithParam<std::filesystem::path> {
 /// The open editor is a box of the system, of which only the place is ours: it is left black.
 Bitmap pictureOf(Stage& stage) {
     Bitmap picture = stage.picture();
-    const TextBox& editor = ListViewInspector(stage.list()).editor();
-    if (!editor.Visible())
+    if (!ListViewInspector(stage.list()).anyEditor().Visible())
         return picture;
-    const auto left = static_cast<Long>(editor.Left());
-    const auto top = static_cast<Long>(editor.Top());
-    const auto right = static_cast<Long>(editor.Left() + editor.Width());
-    const auto bottom = static_cast<Long>(editor.Top() + editor.Height());
-    for (Long y = std::max(top, 0); y < std::min(bottom, picture.height); ++y)
-        for (Long x = std::max(left, 0); x < std::min(right, picture.width); ++x)
+    const Rect box = stage.editorPlace();
+    for (Long y = std::max(box.Top, 0); y < std::min(box.Bottom, picture.height); ++y)
+        for (Long x = std::max(box.Left, 0); x < std::min(box.Right, picture.width); ++x)
             picture.at(x, y) = 0;
     return picture;
 }

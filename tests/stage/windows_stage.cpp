@@ -1,12 +1,15 @@
 #include "windows_stage.h"
 
+#include "list_fixture.h"
 #include "manual_ticks.h"
 #include "recording_events.h"
 #include "scenarios/report_line.h"
 #include "user_input.h"
 #include "values/rounding.h"
 #include "worlds/common/nesting_level.h"
+#include "worlds/win32/win32_guide_line.h"
 #include "worlds/win32/win32_list.h"
+#include "worlds/win32/win32_text_box.h"
 #include "worlds/win32/window_pictures.h"
 
 #include <deque>
@@ -113,6 +116,8 @@ class WindowsStage final : public Stage {
     void advance(std::chrono::milliseconds span) override {
         ticks_.advance(span, [this] { runtime_.deliver(); });
     }
+    Rect editorPlace() override { return areaOf(static_cast<Win32TextBox&>(inside_.anyEditor())); }
+    bool showsGuide() override { return static_cast<Win32GuideLine&>(inside_.anyGuide()).Visible(); }
     Bitmap picture() override { return screenPicture(toHWND(list_.window().hWnd())); }
 
   private:
@@ -131,6 +136,7 @@ class WindowsStage final : public Stage {
     TestHost host_;
     RecordingEvents events_;
     lmListView list_{world_, host_, events_};
+    ListViewInspector inside_{list_};
     HWND focusBefore_ = nullptr;
     Neighbour neighbourClient_;
     std::unique_ptr<Window> neighbour_;

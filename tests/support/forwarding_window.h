@@ -27,13 +27,9 @@ class ForwardingWindow : public Window {
     }
     bool Visible() const override { return inner_->Visible(); }
     void letVisible(bool visible) override { inner_->letVisible(visible); }
-    bool Enabled() const override { return inner_->Enabled(); }
     void letEnabled(bool enabled) override { inner_->letEnabled(enabled); }
-    Long OLEDropMode() const override { return inner_->OLEDropMode(); }
     void letOLEDropMode(Long mode) override { inner_->letOLEDropMode(mode); }
-    Integer MousePointer() const override { return inner_->MousePointer(); }
     void letMousePointer(Integer shape) override { inner_->letMousePointer(shape); }
-    PictureRef MouseIcon() const override { return inner_->MouseIcon(); }
     void setMouseIcon(PictureRef icon) override { inner_->setMouseIcon(std::move(icon)); }
     void letTakesKeys(bool takesKeys) override { inner_->letTakesKeys(takesKeys); }
     void setFocus() override { inner_->setFocus(); }

@@ -17,6 +17,7 @@
 #include "test_host.h"
 #include "worlds/headless/desktop.h"
 #include "worlds/headless/headless_guide_line.h"
+#include "worlds/headless/headless_text_box.h"
 #include "worlds/headless/headless_window.h"
 
 #include <gtest/gtest.h>
@@ -44,10 +45,11 @@ class ListViewInspector {
     std::vector<std::unique_ptr<ColumnHeader>>& columns() { return core().records.columns_; }
     lmVScroll& vertical() { return core().scroller->vertical(); }
     lmHScroll& horizontal() { return core().scroller->horizontal(); }
-    TextBox& editor() { return *core().editor->txtEdit_; }
-    GuideLine& guide() { return *core().headerGesture->Line1_; }
+    TextBox& anyEditor() { return *core().editor->txtEdit_; }
+    GuideLine& anyGuide() { return *core().headerGesture->Line1_; }
     /// Of a list on a Desktop.
-    HeadlessGuideLine& drawnGuide() { return static_cast<HeadlessGuideLine&>(guide()); }
+    HeadlessTextBox& editor() { return static_cast<HeadlessTextBox&>(anyEditor()); }
+    HeadlessGuideLine& guide() { return static_cast<HeadlessGuideLine&>(anyGuide()); }
     Timer& mouseInTimer() { return *core().mouse->tmrMouseIn_; }
     Timer& mouseActionTimer() { return *core().mouse->tmrMouseAction_; }
     const ListViewArtwork& artwork() { return core().painting->artwork(); }
@@ -150,6 +152,15 @@ class ListFixture : public ::testing::Test {
     lmListView list{desktop, host, events};
     ListViewInspector inside{list};
 };
+
+/// Where a text box lies, in whole pixels of its parent.
+template <class Box>
+Rect areaOf(const Box& box) {
+    return {static_cast<Long>(box.Left()),
+            static_cast<Long>(box.Top()),
+            static_cast<Long>(box.Left() + box.Width()),
+            static_cast<Long>(box.Top() + box.Height())};
+}
 
 /// 0xRRGGBB of a colour that is written 0xBBGGRR.
 constexpr std::uint32_t rgbOf(OLE_COLOR color) {

@@ -6,6 +6,7 @@
 #include "tips/tool_tip.h"
 #include "values/color.h"
 #include "worlds/headless/desktop.h"
+#include "worlds/headless/headless_tip_window.h"
 
 #include <gtest/gtest.h>
 
@@ -67,7 +68,7 @@ TEST_F(ToolTip, ASecondCreateReturnsTrueAndKeepsTheWindow) {
     EXPECT_TRUE(tips.Create(form));
     EXPECT_EQ(tips.hwnd(), window);
     EXPECT_TRUE(platform.log.empty());
-    EXPECT_EQ(desktop.tips().windowCount(), 1U);
+    EXPECT_EQ(desktop.tips().windows().size(), 1U);
 }
 
 TEST_F(ToolTip, CreateRefusesAParentThatIsNeitherFormNorControlSurface) {
@@ -103,10 +104,10 @@ TEST_F(ToolTip, TheWindowGoesWithTheObject) {
     {
         lmToolTip other(desktop.runtime(), platform);
         other.Create(form);
-        EXPECT_EQ(desktop.tips().windowCount(), 1U);
+        EXPECT_EQ(desktop.tips().windows().size(), 1U);
     }
     EXPECT_EQ(platform.log.back(), "destroy");
-    EXPECT_EQ(desktop.tips().windowCount(), 0U);
+    EXPECT_EQ(desktop.tips().windows().size(), 0U);
     platform.log.clear();
     { const lmToolTip never(desktop.runtime(), platform); }
     EXPECT_TRUE(platform.log.empty());
@@ -310,30 +311,29 @@ TEST_F(ToolTip, AControlWithoutAWindowIsAQuietNoOp) {
 
 class QiTest : public ToolTip {
   protected:
+    /// The one tip window that there is.
+    const HeadlessTipWindow& tipWindow() { return *desktop.tips().windows().at(0); }
+
     QI qi{desktop};
 };
 
 TEST_F(QiTest, CreateMakesTheTipWithWidthDelayAndText) {
     qi.Create(form, first, u"Hello", 2500, 0);
-    ASSERT_NE(qi.toolTip(), nullptr);
-    EXPECT_EQ(qi.toolTip()->MaxTipWidth(), -1);
-    EXPECT_EQ(qi.toolTip()->DelayTime(autoPop), 2500);
-    EXPECT_EQ(qi.toolTip()->ToolText(first), u"Hello");
+    EXPECT_EQ(tipWindow().maxWidth(), -1);
+    EXPECT_EQ(tipWindow().delay(TipDelay::autoPop), 2500);
     EXPECT_EQ(desktop.tips().tipOf(101), u"Hello");
 }
 
 TEST_F(QiTest, ARepeatedCreateChangesTheTextAndKeepsOneTool) {
     qi.Create(form, first, u"old", 1000, 100);
     qi.Create(form, first, u"new and longer", 1000, 100);
-    EXPECT_EQ(qi.toolTip()->ToolCount(), 1);
-    EXPECT_EQ(qi.toolTip()->ToolText(first), u"new and longer");
+    EXPECT_EQ(tipWindow().toolCount(), 1);
+    EXPECT_EQ(desktop.tips().tipOf(101), u"new and longer");
 }
 
 TEST_F(QiTest, RemoveBeforeAnyCreateDoesNothing) {
     qi.Remove(first);
-    ASSERT_NE(qi.toolTip(), nullptr);
-    EXPECT_EQ(qi.toolTip()->hwnd(), 0);
-    EXPECT_EQ(desktop.tips().windowCount(), 0U);
+    EXPECT_EQ(desktop.tips().windows().size(), 0U);
     EXPECT_TRUE(desktop.runtime().boxes.empty());
 }
 
@@ -345,7 +345,7 @@ TEST_F(QiTest, RemoveTakesTheTipAway) {
 
 TEST_F(QiTest, AParentThatIsRefusedLeavesEverythingQuiet) {
     qi.Create(nullptr, first, u"a", 1000, 0);
-    EXPECT_EQ(qi.toolTip()->hwnd(), 0);
+    EXPECT_TRUE(desktop.tips().windows().empty());
     EXPECT_TRUE(desktop.runtime().boxes.empty());
 }
 

@@ -16,7 +16,7 @@ class HeadlessGuideLine final : public GuideLine {
         x_ = x;
         height_ = height;
     }
-    bool Visible() const override { return visible_; }
+    bool Visible() const { return visible_; }
     void letVisible(bool visible) override { visible_ = visible; }
 
     /// Whole pixels; a coordinate that is no 32-bit number counts as 0.

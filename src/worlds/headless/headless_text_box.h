@@ -16,10 +16,10 @@ class HeadlessTextBox final : public TextBox, public Pane {
     HeadlessTextBox(Desktop& desktop, Pane& parent, TextBoxClient& client);
 
     WindowHandle hWnd() const override { return handle(); }
-    Single Left() const override { return static_cast<Single>(area().Left); }
-    Single Top() const override { return static_cast<Single>(area().Top); }
-    Single Width() const override { return static_cast<Single>(width_); }
-    Single Height() const override { return static_cast<Single>(height_); }
+    Single Left() const { return static_cast<Single>(area().Left); }
+    Single Top() const { return static_cast<Single>(area().Top); }
+    Single Width() const { return static_cast<Single>(width_); }
+    Single Height() const { return static_cast<Single>(height_); }
     void letLeft(Single left) override;
     void letTop(Single top) override;
     void letWidth(Single width) override;
@@ -27,17 +27,17 @@ class HeadlessTextBox final : public TextBox, public Pane {
     bool Visible() const override { return isVisible(); }
     /// Hiding it passes on its focus.
     void letVisible(bool visible) override;
-    bool TabStop() const override { return tabStop_; }
+    bool TabStop() const { return tabStop_; }
     void letTabStop(bool tabStop) override { tabStop_ = tabStop; }
     const FontSpec& font() const override { return font_; }
     void setFont(const FontSpec& font) override { font_ = font; }
-    OLE_COLOR ForeColor() const override { return foreColor_; }
+    OLE_COLOR ForeColor() const { return foreColor_; }
     void letForeColor(OLE_COLOR color) override { foreColor_ = color; }
     String Text() const override { return text_; }
     /// The caret goes to the start.
     void letText(StringView text) override;
-    Long SelStart() const override;
-    Long SelLength() const override;
+    Long SelStart() const;
+    Long SelLength() const;
     /// Both keep within the text. A new start selects nothing.
     void letSelStart(Long start) override;
     void letSelLength(Long length) override;

@@ -19,7 +19,7 @@ class HeadlessTips final : public TipPlatform {
     bool isFormOrSurface(WindowHandle window) const override;
     std::unique_ptr<TipWindow> createTipWindow(WindowHandle owner) override;
 
-    std::size_t windowCount() const { return windows_.size(); }
+    const std::vector<HeadlessTipWindow*>& windows() const { return windows_; }
     /// 0xBBGGRR or a system colour; the usual one if there is no such window.
     OLE_COLOR textColorOf(WindowHandle tips) const;
     /// The tip that would come up over a window; empty if it has no tip.

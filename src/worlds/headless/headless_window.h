@@ -28,13 +28,13 @@ class HeadlessWindow final : public Window, public Pane {
     bool Visible() const override { return isVisible(); }
     /// Hiding it, or disabling it, passes on a focus and ends a capture in it.
     void letVisible(bool visible) override;
-    bool Enabled() const override { return isEnabled(); }
+    bool Enabled() const { return isEnabled(); }
     void letEnabled(bool enabled) override;
-    Long OLEDropMode() const override { return oleDropMode_; }
+    Long OLEDropMode() const { return oleDropMode_; }
     void letOLEDropMode(Long mode) override { oleDropMode_ = mode; }
-    Integer MousePointer() const override { return mousePointer_; }
+    Integer MousePointer() const { return mousePointer_; }
     void letMousePointer(Integer shape) override { mousePointer_ = shape; }
-    PictureRef MouseIcon() const override { return mouseIcon_; }
+    PictureRef MouseIcon() const { return mouseIcon_; }
     void setMouseIcon(PictureRef icon) override { mouseIcon_ = std::move(icon); }
     void setFocus() override;
     void letTakesKeys(bool takesKeys) override { takesKeys_ = takesKeys; }

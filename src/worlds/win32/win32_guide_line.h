@@ -13,7 +13,7 @@ class Win32GuideLine final : public GuideLine {
     ~Win32GuideLine() override;
 
     void place(Single x, Single height) override;
-    bool Visible() const override { return visible_; }
+    bool Visible() const { return visible_; }
     void letVisible(bool visible) override;
 
     /// A coordinate that is no 32-bit number counts as 0.

@@ -19,10 +19,10 @@ class Win32TextBox final : public TextBox {
     ~Win32TextBox() override;
 
     WindowHandle hWnd() const override { return fromHWND(hwnd_); }
-    Single Left() const override { return static_cast<Single>(left_); }
-    Single Top() const override { return static_cast<Single>(top_); }
-    Single Width() const override { return static_cast<Single>(width_); }
-    Single Height() const override { return static_cast<Single>(height_); }
+    Single Left() const { return static_cast<Single>(left_); }
+    Single Top() const { return static_cast<Single>(top_); }
+    Single Width() const { return static_cast<Single>(width_); }
+    Single Height() const { return static_cast<Single>(height_); }
     void letLeft(Single left) override;
     void letTop(Single top) override;
     void letWidth(Single width) override;
@@ -30,17 +30,15 @@ class Win32TextBox final : public TextBox {
     bool Visible() const override { return visible_; }
     /// Hiding it passes on its focus.
     void letVisible(bool visible) override;
-    bool TabStop() const override { return tabStop_; }
     void letTabStop(bool tabStop) override;
     const FontSpec& font() const override { return font_; }
     void setFont(const FontSpec& font) override;
-    OLE_COLOR ForeColor() const override { return foreColor_; }
     void letForeColor(OLE_COLOR color) override;
     String Text() const override;
     /// The caret goes to the start.
     void letText(StringView text) override;
-    Long SelStart() const override;
-    Long SelLength() const override;
+    Long SelStart() const;
+    Long SelLength() const;
     /// Both keep within the text. A new start selects nothing.
     void letSelStart(Long start) override;
     void letSelLength(Long length) override;

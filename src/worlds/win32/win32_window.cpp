@@ -196,7 +196,6 @@ bool Win32Window::hasBox(HWND window) const {
 
 void Win32Window::letOLEDropMode(Long mode) {
     constexpr Integer manual = 1;
-    oleDropMode_ = mode;
     if (mode != manual || hwnd_ == nullptr)
         dropPlace_.reset();
     else if (!dropPlace_)

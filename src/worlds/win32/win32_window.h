@@ -36,15 +36,11 @@ class Win32Window final : public Window {
     bool Visible() const override { return visible_; }
     /// Hiding it, or disabling it, passes on a focus and ends a capture in it.
     void letVisible(bool visible) override;
-    bool Enabled() const override { return enabled_; }
     void letEnabled(bool enabled) override;
-    Long OLEDropMode() const override { return oleDropMode_; }
     /// 1 takes what is dragged over the window and its children, unless a child takes it itself; any other
     /// number does not. On a thread without drag and drop nothing comes.
     void letOLEDropMode(Long mode) override;
-    Integer MousePointer() const override { return pointerShape_.shape(); }
     void letMousePointer(Integer shape) override;
-    PictureRef MouseIcon() const override { return pointerShape_.icon(); }
     void setMouseIcon(PictureRef icon) override;
     void setFocus() override;
     void letTakesKeys(bool takesKeys) override { takesKeys_ = takesKeys; }
@@ -123,7 +119,6 @@ class Win32Window final : public Window {
     bool takesKeys_ = true; ///< off: the parent has the keys for both
     bool visible_;
     bool enabled_ = true;
-    Long oleDropMode_ = 0;
     std::unique_ptr<DropPlace> dropPlace_; ///< while drops are taken
     PointerShape pointerShape_;
     std::vector<Win32GuideLine*> guides_;

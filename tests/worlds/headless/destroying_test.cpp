@@ -1,5 +1,6 @@
 /// Windows that go away at the worst of times.
 #include "desktop_fixture.h"
+#include "worlds/headless/headless_guide_line.h"
 
 #include <array>
 
@@ -177,7 +178,7 @@ TEST_F(DesktopDestroying, AWindowBeforeItsGuideLineIsSafe) {
     const auto line = desktop.createGuideLine(b->window());
     line->letVisible(true);
     b.reset();
-    EXPECT_TRUE(line->Visible());
+    EXPECT_TRUE(static_cast<HeadlessGuideLine&>(*line).Visible());
     EXPECT_EQ(desktop.screenshot(a->window()).at(0, 0), 0xFFFFFFFFU);
 }
 

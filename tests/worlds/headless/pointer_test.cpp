@@ -56,7 +56,7 @@ TEST_F(PointerRules, ADisabledWindowLetsThePressThrough) {
 TEST_F(PointerRules, AWindowUnderADisabledParentGetsNothing) {
     const auto b = child("b", *a, 0, 0, 50, 50);
     a->window().letEnabled(false);
-    EXPECT_TRUE(b->window().Enabled());
+    EXPECT_TRUE(b->headless().Enabled());
     desktop.click(b->window(), 10, 10);
     desktop.wheel(120);
     EXPECT_TRUE(sameLog(events.take(), {}));

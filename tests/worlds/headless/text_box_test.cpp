@@ -1,6 +1,7 @@
 #include "desktop_fixture.h"
 #include "error_number.h"
 #include "values/text.h"
+#include "worlds/headless/headless_text_box.h"
 
 #include <limits>
 
@@ -17,13 +18,16 @@ class TextBoxRules : public DesktopFixture, private TextBoxClient {
         box->letVisible(true);
     }
 
+    static std::unique_ptr<HeadlessTextBox> headless(std::unique_ptr<TextBox> made) {
+        return std::unique_ptr<HeadlessTextBox>(static_cast<HeadlessTextBox*>(made.release()));
+    }
     /// "text|start,length"
     std::string state() const {
         return toUtf8(box->Text()) + "|" + std::to_string(box->SelStart()) + "," +
                std::to_string(box->SelLength());
     }
 
-    std::unique_ptr<TextBox> box = desktop.createTextBox(a->window(), *this);
+    std::unique_ptr<HeadlessTextBox> box = headless(desktop.createTextBox(a->window(), *this));
     Integer swallowed = -1;
 
   private:
@@ -40,7 +44,7 @@ TEST_F(TextBoxRules, StartsHiddenEmptyAndWithoutSize) {
         void textBoxKeyPress(Integer& /*KeyAscii*/) override {}
         void textBoxLostFocus() override {}
     } deaf;
-    const auto fresh = desktop.createTextBox(a->window(), deaf);
+    const auto fresh = headless(desktop.createTextBox(a->window(), deaf));
     EXPECT_FALSE(fresh->Visible());
     EXPECT_EQ(fresh->Text(), u"");
     EXPECT_EQ(fresh->Width(), 0);

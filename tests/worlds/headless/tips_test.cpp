@@ -49,10 +49,10 @@ TEST_F(TipWindows, OneNumberSetsAllThreeTimes) {
 TEST_F(TipWindows, TakeTheirTipsWithThem) {
     window->add(tool(7, u"a"));
     EXPECT_EQ(tips.tipOf(7), u"a");
-    EXPECT_EQ(tips.windowCount(), 1U);
+    EXPECT_EQ(tips.windows().size(), 1U);
     window.reset();
     EXPECT_EQ(tips.tipOf(7), std::nullopt);
-    EXPECT_EQ(tips.windowCount(), 0U);
+    EXPECT_EQ(tips.windows().size(), 0U);
 }
 
 } // namespace lumtex::testing

@@ -87,7 +87,7 @@ TEST_F(WindowShowing, AChildStartsHiddenAndWithoutSize) {
     EXPECT_FALSE(b->window().Visible());
     EXPECT_EQ(b->window().Width(), 0);
     EXPECT_EQ(b->window().Height(), 0);
-    EXPECT_TRUE(b->window().Enabled());
+    EXPECT_TRUE(b->headless().Enabled());
 }
 
 TEST_F(WindowShowing, AWindowWithoutParentIsShownFromTheStart) {

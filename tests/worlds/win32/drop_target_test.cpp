@@ -83,7 +83,6 @@ class DropTarget : public ::testing::Test {
 TEST_F(DropTarget, OnlyModeOneTakesDrops) {
     for (const Integer mode : {0, 1, 2, 1, 0, -1}) {
         window->letOLEDropMode(mode);
-        EXPECT_EQ(window->OLEDropMode(), mode);
         EXPECT_EQ(static_cast<bool>(dropTargetOf(hwnd())), mode == 1) << mode;
     }
 }
@@ -176,7 +175,7 @@ TEST_F(DropTarget, TheSystemWindowMayEndFirst) {
     EXPECT_TRUE(catcher.log.empty());
     window->letOLEDropMode(0);
     window->letOLEDropMode(1);
-    EXPECT_EQ(window->OLEDropMode(), 1);
+    EXPECT_FALSE(static_cast<bool>(dropTargetOf(hwnd())));
 }
 
 } // namespace

@@ -24,7 +24,7 @@ class Printing : public Win32List {
 
 TEST_F(Printing, ShowsWhatTheScreenShowsWithAllThatLiesInTheWindow) {
     fill(60);
-    GuideLine& guide = ListViewInspector(*list).guide();
+    GuideLine& guide = ListViewInspector(*list).anyGuide();
     guide.place(40, 150);
     guide.letVisible(true);
     list->SetEdit(Long{2}, Long{1});

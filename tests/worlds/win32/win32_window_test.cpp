@@ -264,7 +264,8 @@ TEST_F(Win32Windows, TheBoxAsksAboutEachCharacter) {
 
 TEST_F(Win32Windows, TheSelectionOfABoxKeepsWithinItsText) {
     NotedBox client;
-    const std::unique_ptr<TextBox> box = world.createTextBox(*outer, client);
+    const std::unique_ptr<TextBox> made = world.createTextBox(*outer, client);
+    auto* box = static_cast<Win32TextBox*>(made.get());
     box->letText(u"hello");
     EXPECT_EQ(box->SelStart(), 0);
     box->letSelStart(2);
