@@ -148,7 +148,7 @@ TEST_F(OnOneScreen, ColumnsAndRowsAreAsLargeAsTheirTwips) {
         list.RowsAdd(Long{-1}, u",", u"x,y");
     list.Redraw();
     ListViewInspector inside(list);
-    EXPECT_EQ(inside.paint().columnsRight, static_cast<Single>(2 * expected()));
+    EXPECT_TRUE(says(inside.painting(), "right=" + numberText(static_cast<Single>(2 * expected()))));
     EXPECT_EQ(inside.rows().at(1).Top - inside.rows().at(0).Top, static_cast<Single>(expected()) / 2);
 }
 

@@ -138,8 +138,8 @@ class FailureWalk : public OddMoments {
         bool mayHold = false;
         for (const HeadlessRuntime::Box& box : desktop.runtime().boxes)
             mayHold = mayHold || box.text.find(u"/Redraw") != String::npos;
-        EXPECT_FALSE(inspector.paint().paintBusy && !mayHold) << "painting is held off";
-        EXPECT_FALSE(inspector.scroll().scrollPending);
+        EXPECT_TRUE(mayHold || says(inspector.painting(), "held=no")) << "painting is held off";
+        EXPECT_TRUE(says(inspector.scroll(), "pending=no"));
         if (!scene.changesSettings) {
             EXPECT_TRUE(kept() == before) << "AutoRedraw or AutoCheckScroll changed";
         }
@@ -202,7 +202,7 @@ class FailureWalk : public OddMoments {
         desktop.advance(std::chrono::milliseconds(3));
         list->window().place(0, 0, static_cast<Single>(width), static_cast<Single>(height));
         list->window().letVisible(true);
-        makeSceneAnew(settingsChanged_ || ListViewInspector(*list).paint().paintBusy);
+        makeSceneAnew(settingsChanged_ || says(ListViewInspector(*list).painting(), "held=yes"));
         settingsChanged_ = scene.changesSettings;
         desktop.runtime().boxes.clear();
     }

@@ -80,7 +80,7 @@ TEST_F(Drag, OfADividerGoesToTheFirstRowToo) {
     list.letListIndex(2);
     press(divider(1));
     move({80, 5});
-    EXPECT_TRUE(inside.header().resizing);
+    EXPECT_TRUE(says(inside.header(), "resizing=yes"));
     EXPECT_EQ(selection(), "index=1 selected=1");
 }
 

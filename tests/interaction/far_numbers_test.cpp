@@ -51,7 +51,7 @@ TEST_F(FarNumbers, AHeaderOfAnyWidthGetsTheStampsThatCanBeSeen) {
     inside.horizontal().letVisible(true);
     inside.horizontal().letValue(1500000000);
     hover({30, 12});
-    EXPECT_EQ(inside.header().hoverColumn, 0);
+    EXPECT_TRUE(says(inside.header(), "hover=1"));
 }
 
 TEST_F(FarNumbers, ABarFarAboveTheFirstRowIsLookedThroughOnce) {
@@ -72,7 +72,7 @@ TEST_F(FarNumbers, RowsWithoutAHeightArePassedOverOnceFromFarAbove) {
     inside.properties().RowHeight = 0;
     letBar(-2000000000);
     list.Redraw();
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
 }
 
 TEST_F(FarNumbers, ABarAtTheEndOfAllNumbersHidesTheObjectsThatAreThere) {
@@ -82,7 +82,7 @@ TEST_F(FarNumbers, ABarAtTheEndOfAllNumbersHidesTheObjectsThatAreThere) {
     letBar(most);
     Error().letSilentError(true);
     list.Redraw();
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
     Error().letSilentError(false);
     list.Redraw();
     EXPECT_EQ(lastReport(), "6 Redraw") << "there is no row behind the last number";
@@ -122,7 +122,7 @@ TEST_F(FarNumbers, AnIndexBelowATopAtTheEndOfAllNumbersIsReported) {
     list.letListIndex(4);
     EXPECT_EQ(inside.properties().ListIndex, 4);
     letBar(most);
-    inside.mouse().lastMouseButton = leftButton;
+    inside.letButton(leftButton);
     inside.mouseActionTimer().Tag = u"down";
     desktop.runtime().boxes.clear();
     inside.letAllowItemMoving(true);

@@ -44,8 +44,7 @@ TEST_F(Forwards, ADoubleClickBeforeAnyCellWasPressedTellsNoCell) {
     fill(3);
     list.UserControl_DblClick();
     EXPECT_EQ(taken(), Lines{"DblClick"});
-    inside.edit().lastClickColumn = 0;
-    inside.edit().lastClickRow = -1;
+    inside.letLastClick(-1, 0);
     list.UserControl_DblClick();
     EXPECT_EQ(taken(), Lines{"DblClick"});
 }

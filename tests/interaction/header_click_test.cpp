@@ -21,14 +21,14 @@ TEST_F(HeaderClick, TurnsTheDirectionOnWhateverColumn) {
     const Long columns[] = {1, 1, 2, 1};
     for (int i = 0; i < 4; ++i) {
         click(header(columns[i]));
-        EXPECT_EQ(inside.sort().sortColumn, columns[i] - 1) << i;
-        EXPECT_EQ(inside.sort().sortAscending, directions[i]) << i;
+        EXPECT_TRUE(says(inside.sort(), "column=" + fromOne(columns[i] - 1))) << i;
+        EXPECT_TRUE(says(inside.sort(), "up=" + numberText(directions[i]))) << i;
     }
 }
 
 TEST_F(HeaderClick, SortsDownwardsFirstThenUpwardsAlsoAcrossColumns) {
     fillUnsorted();
-    ASSERT_EQ(inside.sort().sortAscending, 1);
+    ASSERT_TRUE(says(inside.sort(), "up=1"));
     click(header(1));
     EXPECT_EQ(columnTexts(1), "c b a");
     click(header(2));
@@ -67,7 +67,7 @@ TEST_F(HeaderClick, WhoseColumnsTheHostClearedSortsNothing) {
     events.on("ColumnClick", [&] { list.ColumnsClear(); });
     click(header(1));
     EXPECT_EQ(takenNames(), (Lines{"MouseDown", "ColumnClick", "MouseUp", "Click"}));
-    EXPECT_EQ(inside.sort().sortAscending, 1);
+    EXPECT_TRUE(says(inside.sort(), "up=1"));
 }
 
 } // namespace lumtex::testing

@@ -13,7 +13,7 @@ TEST_F(ItemMoving, ADragMarksTheRowUnderTheMouseAndLeavesTheIndex) {
     fill(6);
     press(cell(2, 1));
     EXPECT_EQ(paintsOf([&] { move(cell(5, 1)); }), 1);
-    EXPECT_EQ(inside.moveTargetRow(), 4);
+    EXPECT_TRUE(says(inside.drag(), "target=5"));
     EXPECT_EQ(selection(), "index=2 selected=2");
     EXPECT_EQ(pixel(5, static_cast<Long>(rowTop(5))), 0U) << "the mark, black";
     EXPECT_EQ(paintsOf([&] { move({31, cell(5, 1).y}); }), 0) << "the same row again";
@@ -25,7 +25,7 @@ TEST_F(ItemMoving, TheRowBehindTheCurrentOneIsNoTarget) {
     fill(6);
     press(cell(2, 1));
     EXPECT_EQ(paintsOf([&] { move(cell(3, 1)); }), 0);
-    EXPECT_EQ(inside.moveTargetRow(), -1);
+    EXPECT_TRUE(says(inside.drag(), "target=none"));
 }
 
 // Wanted: the first row is no target, and a drag that finds no row leaves the target as it is.
@@ -33,11 +33,11 @@ TEST_F(ItemMoving, TheFirstRowIsNoTargetAndNoRowLeavesTheTarget) {
     fill(6);
     press(cell(3, 1));
     move(cell(6, 1));
-    ASSERT_EQ(inside.moveTargetRow(), 5);
+    ASSERT_TRUE(says(inside.drag(), "target=6"));
     EXPECT_EQ(paintsOf([&] { move(cell(1, 1)); }), 1);
-    EXPECT_EQ(inside.moveTargetRow(), 5);
+    EXPECT_TRUE(says(inside.drag(), "target=6"));
     move({250, 100});
-    EXPECT_EQ(inside.moveTargetRow(), 5);
+    EXPECT_TRUE(says(inside.drag(), "target=6"));
 }
 
 // Wanted: nothing asks whether a drag took place, and the row behind the current one is meant: each click
@@ -48,7 +48,7 @@ TEST_F(ItemMoving, APlainClickSwapsTheNextRowWithTheFirstAndLosesTheIndex) {
     EXPECT_EQ(columnTexts(1), "3a 2a 1a 4a 5a");
     EXPECT_EQ(columnTexts(2), "3b 2b 1b 4b 5b");
     EXPECT_EQ(index(), -1);
-    EXPECT_EQ(inside.moveTargetRow(), -1);
+    EXPECT_TRUE(says(inside.drag(), "target=none"));
 }
 
 TEST_F(ItemMoving, AClickOnTheLastRowIsABoundsFailureAndStillLosesTheIndex) {
@@ -74,10 +74,10 @@ TEST_F(ItemMoving, WithoutACurrentRowMovesNothing) {
 TEST_F(ItemMoving, NotAllowedLeavesTheRowsAlone) {
     inside.letAllowItemMoving(false);
     fill(5);
-    inside.moveTargetRow() = 4;
+    inside.letDropTarget(4);
     click(cell(2, 1));
     EXPECT_EQ(columnTexts(1), "1a 2a 3a 4a 5a");
-    EXPECT_EQ(inside.moveTargetRow(), 4);
+    EXPECT_TRUE(says(inside.drag(), "target=5"));
     EXPECT_EQ(index(), 1);
 }
 
@@ -85,7 +85,7 @@ TEST_F(ItemMoving, ADropFurtherDownSwapsCellsWithTheRowBeforeTheTarget) {
     fill(6);
     press(cell(2, 1));
     move(cell(6, 1));
-    ASSERT_EQ(inside.moveTargetRow(), 5);
+    ASSERT_TRUE(says(inside.drag(), "target=6"));
     desktop.release();
     // Row 3, the one behind the current one, and 5 - 2 - 1 rows further down.
     EXPECT_EQ(columnTexts(1), "1a 2a 5a 4a 3a 6a");
@@ -96,7 +96,7 @@ TEST_F(ItemMoving, ADropFurtherUpSwapsTheRowBehindTheCurrentOneWithTheTarget) {
     fill(6);
     press(cell(4, 1));
     move(cell(2, 1));
-    ASSERT_EQ(inside.moveTargetRow(), 1);
+    ASSERT_TRUE(says(inside.drag(), "target=2"));
     desktop.release();
     EXPECT_EQ(columnTexts(1), "1a 5a 3a 4a 2a 6a");
     EXPECT_EQ(index(), 0);
@@ -105,7 +105,7 @@ TEST_F(ItemMoving, ADropFurtherUpSwapsTheRowBehindTheCurrentOneWithTheTarget) {
 TEST_F(ItemMoving, ADropFarBelowTheLastRowTakesTheLastRow) {
     fill(5);
     press(cell(2, 1));
-    inside.moveTargetRow() = 100;
+    inside.letDropTarget(100);
     desktop.release();
     EXPECT_EQ(columnTexts(1), "1a 2a 5a 4a 3a");
     EXPECT_EQ(index(), 3);
@@ -114,9 +114,9 @@ TEST_F(ItemMoving, ADropFarBelowTheLastRowTakesTheLastRow) {
 TEST_F(ItemMoving, ADropWithoutColumnsPaints) {
     fill(3);
     list.ColumnsClear();
-    inside.moveTargetRow() = 2;
+    inside.letDropTarget(2);
     EXPECT_EQ(paintsOf([&] { list.UserControl_MouseUp(leftButton, 0, 30, 50); }), 1);
-    EXPECT_EQ(inside.moveTargetRow(), -1);
+    EXPECT_TRUE(says(inside.drag(), "target=none"));
 }
 
 class MoveItem : public PlayedList {

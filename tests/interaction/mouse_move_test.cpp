@@ -9,9 +9,7 @@ TEST_F(MouseMove, IsRememberedAndToldAndStartsTheHoverTimer) {
     EXPECT_FALSE(inside.mouseInTimer().Enabled());
     move({33, 44});
     EXPECT_EQ(events.log, Lines{"MouseMove Button=0 Shift=0 X=33 Y=44"});
-    EXPECT_EQ(inside.mouse().lastMouseX, 33);
-    EXPECT_EQ(inside.mouse().lastMouseY, 44);
-    EXPECT_EQ(inside.mouse().lastMouseButton, 0);
+    EXPECT_TRUE(says(inside.mouse(), "x=33 y=44 button=0"));
     EXPECT_TRUE(inside.mouseInTimer().Enabled());
 }
 
@@ -25,38 +23,31 @@ TEST_F(MouseMove, YieldsAtBothEndsAndWithoutRowsAtTheStartAlone) {
 TEST_F(MouseMove, IsToldBeforeTheHeadersFollow) {
     fill(2);
     hover({30, 150});
-    Long hoveredWhenTold = 0;
-    events.on("MouseMove", [&] { hoveredWhenTold = inside.header().hoverColumn; });
+    std::string headerWhenTold;
+    events.on("MouseMove", [&] { headerWhenTold = inside.header(); });
     move({30, 10});
-    EXPECT_EQ(hoveredWhenTold, -1);
-    EXPECT_EQ(inside.header().hoverColumn, 0);
+    EXPECT_TRUE(says(headerWhenTold, "hover=none"));
+    EXPECT_TRUE(says(inside.header(), "hover=1"));
 }
 
 TEST_F(MouseMove, YieldsBeforeItRemembersThePlace) {
     fill(2);
     move({10, 150});
-    Single seen = 0;
-    desktop.onYield([&] { seen = inside.mouse().lastMouseX; });
+    std::string seen;
+    desktop.onYield([&] { seen = inside.mouse(); });
     list.UserControl_MouseMove(0, 0, 20, 150);
-    EXPECT_EQ(seen, 10);
+    EXPECT_TRUE(says(seen, "x=10"));
 }
 
 TEST_F(MouseMove, WithoutAButtonEndsWhatAPressBegan) {
     fill(2);
-    inside.header() = {.pressPending = true,
-                       .currentColumn = 0,
-                       .pressedColumn = 0,
-                       .hoverColumn = -1,
-                       .resizeColumn = 0,
-                       .resizing = true};
+    inside.beginPress();
+    inside.letPressedColumn(0);
+    inside.beginResize(0);
     list.UserControl_MouseMove(rightButton, 0, 30, 150);
-    EXPECT_TRUE(inside.header().pressPending);
-    EXPECT_TRUE(inside.header().resizing);
+    EXPECT_TRUE(says(inside.header(), "pending=yes resizing=yes"));
     list.UserControl_MouseMove(0, 0, 30, 150);
-    EXPECT_FALSE(inside.header().pressPending);
-    EXPECT_FALSE(inside.header().resizing);
-    EXPECT_EQ(inside.header().pressedColumn, -1);
-    EXPECT_EQ(inside.header().resizeColumn, -1);
+    EXPECT_TRUE(says(inside.header(), "pending=no resizing=no pressed=none divider=none"));
 }
 
 // Wanted: a move on the exact line paints twice.
@@ -74,10 +65,10 @@ TEST_F(MouseMove, PaintsOverTheHeadersAndOnceMoreWhenTheHoverLeaves) {
                            Row{"under it, nothing hovered", 1, -1, 0},
                            Row{"under it, the hover leaves", 1, 0, 1}}) {
         hover(cell(2, 1));
-        inside.header().hoverColumn = row.hover;
+        inside.letHoverColumn(row.hover);
         const Single y = headerHeight() + row.beyond;
         EXPECT_EQ(paintsOf([&] { list.UserControl_MouseMove(0, 0, 30, y); }), row.paints) << row.name;
-        EXPECT_EQ(inside.header().hoverColumn, row.beyond > 0 ? -1 : 0) << row.name;
+        EXPECT_TRUE(says(inside.header(), "hover=" + fromOne(row.beyond > 0 ? -1 : 0))) << row.name;
     }
 }
 
@@ -85,7 +76,7 @@ TEST_F(MouseMove, WithHiddenHeadersPaintsNothing) {
     fill(2);
     list.letHideColumnHeaders(true);
     hover(cell(2, 1));
-    inside.header().hoverColumn = 0;
+    inside.letHoverColumn(0);
     window().letMousePointer(pointerCustom);
     EXPECT_EQ(paintsOf([&] { list.UserControl_MouseMove(0, 0, 30, 0); }), 0);
     EXPECT_EQ(window().MousePointer(), pointerCustom);
@@ -104,7 +95,7 @@ TEST_F(MouseMove, CarriesTheGuideLineAlong) {
     fill(2);
     press(divider(1));
     move({80, 5});
-    ASSERT_TRUE(inside.header().resizing);
+    ASSERT_TRUE(says(inside.header(), "resizing=yes"));
     move({95, 50});
     EXPECT_TRUE(inside.guide().Visible());
     EXPECT_EQ(inside.guide().from(), (Point{95, 0}));
@@ -120,7 +111,7 @@ TEST_F(MouseMove, GoesOnWithThePlaceThatTheHostMadeOfIt) {
     events.otherY = rowTop(3) + 5;
     list.UserControl_MouseMove(leftButton, 0, 30, rowTop(2) + 5);
     EXPECT_EQ(selection(), "index=3 selected=3");
-    EXPECT_EQ(inside.mouse().lastMouseY, rowTop(2) + 5);
+    EXPECT_TRUE(says(inside.mouse(), "y=" + numberText(rowTop(2) + 5)));
 }
 
 // Wanted: a press on a row's top edge hits nothing, a move there hits the row.
@@ -144,25 +135,24 @@ TEST_F(MouseMove, NeverRaisesItemOver) {
         move(at);
     }
     EXPECT_EQ(takenNames(), Lines{});
-    EXPECT_EQ(inside.mouse().hoverRow, 0);
-    EXPECT_EQ(inside.mouse().hoverCellColumn, 0);
-    EXPECT_EQ(inside.tips(), nullptr);
+    EXPECT_TRUE(says(inside.mouse(), "row=0 column=0"));
+    EXPECT_FALSE(inside.hasTips());
 }
 
 TEST_F(MouseMove, WouldRaiseItemOverWithZerosForAnItemThatWasStored) {
     fill(3);
     list.letCheckMouseOver(true);
-    inside.mouse().hoverRow = 2;
+    inside.letHoverRow(2);
     move(cell(3, 1));
     desktop.advance(std::chrono::milliseconds(1));
     events.log.clear();
-    inside.mouse().hoverRow = 2;
+    inside.letHoverRow(2);
     move(cell(2, 1));
     EXPECT_EQ(takenNames(), Lines{}) << "over an item";
     move({200, 100});
     EXPECT_EQ(taken(), Lines{"ItemOver Row=0 Column=0 bOverItem=False"});
-    EXPECT_EQ(inside.mouse().hoverRow, 0);
-    EXPECT_NE(inside.tips(), nullptr);
+    EXPECT_TRUE(says(inside.mouse(), "row=0"));
+    EXPECT_TRUE(inside.hasTips());
     EXPECT_EQ(reportCount(), 0U);
 }
 

@@ -16,9 +16,9 @@ TEST_F(MouseTimers, BothAreOffAtTheStartAndTickEachMillisecond) {
 TEST_F(MouseTimers, TheMouseIsInsideFromTheFirstTickOn) {
     fill(2);
     move(cell(1, 1));
-    EXPECT_FALSE(inside.mouse().mouseInside);
+    EXPECT_TRUE(says(inside.mouse(), "inside=no"));
     desktop.advance(milliseconds(1));
-    EXPECT_TRUE(inside.mouse().mouseInside);
+    EXPECT_TRUE(says(inside.mouse(), "inside=yes"));
     EXPECT_TRUE(inside.mouseInTimer().Enabled());
 }
 
@@ -27,24 +27,24 @@ TEST_F(MouseTimers, TheOutermostPixelCountsAsOutside) {
     for (const At at : {At{0, 50}, At{50, 0}}) {
         move(at);
         desktop.advance(milliseconds(1));
-        EXPECT_FALSE(inside.mouse().mouseInside);
+        EXPECT_TRUE(says(inside.mouse(), "inside=no"));
     }
     move({1, 1});
     desktop.advance(milliseconds(1));
-    EXPECT_TRUE(inside.mouse().mouseInside);
+    EXPECT_TRUE(says(inside.mouse(), "inside=yes"));
 }
 
 TEST_F(MouseTimers, LeavingEndsTheHoverWithOnePaintAndStopsTheTimer) {
     fill(2);
     hover(header(1));
     move(header(1));
-    ASSERT_EQ(inside.header().hoverColumn, 0);
+    ASSERT_TRUE(says(inside.header(), "hover=1"));
     window().letMousePointer(pointerCustom);
     move({500, 500});
-    EXPECT_TRUE(inside.mouse().mouseInside) << "nobody has noticed yet";
+    EXPECT_TRUE(says(inside.mouse(), "inside=yes")) << "nobody has noticed yet";
     EXPECT_EQ(paintsOf([&] { desktop.advance(milliseconds(1)); }), 1);
-    EXPECT_FALSE(inside.mouse().mouseInside);
-    EXPECT_EQ(inside.header().hoverColumn, -1);
+    EXPECT_TRUE(says(inside.mouse(), "inside=no"));
+    EXPECT_TRUE(says(inside.header(), "hover=none"));
     EXPECT_EQ(window().MousePointer(), pointerDefault);
     EXPECT_FALSE(inside.mouseInTimer().Enabled());
     move(header(1));
@@ -57,7 +57,7 @@ TEST_F(MouseTimers, AChildOverTheListCountsAsOutside) {
     ASSERT_TRUE(inside.vertical().Visible());
     move({inside.vertical().Left() + 5, 100});
     desktop.advance(milliseconds(1));
-    EXPECT_FALSE(inside.mouse().mouseInside);
+    EXPECT_TRUE(says(inside.mouse(), "inside=no"));
 }
 
 TEST_F(MouseTimers, InADesignerNeitherStaysOnAndTheMouseIsNeverInside) {
@@ -66,13 +66,13 @@ TEST_F(MouseTimers, InADesignerNeitherStaysOnAndTheMouseIsNeverInside) {
     move(cell(1, 1));
     inside.mouseActionTimer().letEnabled(true);
     inside.mouseActionTimer().Tag = u"up";
-    inside.moveTargetRow() = 1;
+    inside.letDropTarget(1);
     desktop.advance(milliseconds(1));
     EXPECT_FALSE(inside.mouseInTimer().Enabled());
     EXPECT_FALSE(inside.mouseActionTimer().Enabled());
     EXPECT_EQ(inside.mouseActionTimer().Tag, u"");
-    EXPECT_EQ(inside.moveTargetRow(), -1);
-    EXPECT_FALSE(inside.mouse().mouseInside);
+    EXPECT_TRUE(says(inside.drag(), "target=none"));
+    EXPECT_TRUE(says(inside.mouse(), "inside=no"));
 }
 
 TEST_F(MouseTimers, LeavingDuringALeftDragMakesTheReleaseFindNoColumn) {
@@ -80,26 +80,26 @@ TEST_F(MouseTimers, LeavingDuringALeftDragMakesTheReleaseFindNoColumn) {
     press(cell(2, 1));
     move({-20, rowTop(3) + 5});
     desktop.advance(milliseconds(1));
-    EXPECT_FALSE(inside.mouse().mouseInside);
+    EXPECT_TRUE(says(inside.mouse(), "inside=no"));
     taken();
     desktop.release();
     EXPECT_EQ(list.ColumnIndex(), -1);
     const Lines log = taken();
     ASSERT_EQ(log.size(), 2U);
     EXPECT_EQ(log[1], "ItemUp Row=3 Column=0") << "and no ItemClick, since the column is another one";
-    EXPECT_EQ(inside.edit().lastClickColumn, -1);
+    EXPECT_TRUE(says(inside.edit(), "column=none"));
 }
 
 TEST_F(MouseTimers, ScrollingStopsWithTheLastButton) {
     fill(30);
     press(cell(2, 1));
     move({30, 230});
-    inside.moveTargetRow() = 7;
-    inside.mouse().lastMouseButton = 0;
+    inside.letDropTarget(7);
+    inside.letButton(0);
     desktop.advance(milliseconds(1));
     EXPECT_FALSE(inside.mouseActionTimer().Enabled());
     EXPECT_EQ(inside.mouseActionTimer().Tag, u"");
-    EXPECT_EQ(inside.moveTargetRow(), -1);
+    EXPECT_TRUE(says(inside.drag(), "target=none"));
     EXPECT_EQ(list.TopIndex(), 0);
 }
 
@@ -134,11 +134,12 @@ TEST_F(MouseTimers, ScrollingWhileRowsAreMovedTakesTheTargetAlong) {
     move({30, 230});
     desktop.advance(milliseconds(1));
     EXPECT_EQ(list.TopIndex(), 1);
-    EXPECT_EQ(inside.moveTargetRow(), inside.VisibleItems()) << "by the top row before the step";
+    EXPECT_TRUE(says(inside.drag(), "target=" + fromOne(inside.VisibleItems())))
+        << "by the top row before the step";
     move({30, -5});
     desktop.advance(milliseconds(1));
     EXPECT_EQ(list.TopIndex(), 0);
-    EXPECT_EQ(inside.moveTargetRow(), 0);
+    EXPECT_TRUE(says(inside.drag(), "target=1"));
 }
 
 class MouseOut : public PlayedList {};
@@ -177,10 +178,10 @@ TEST_F(MouseOut, TakesTheCaptureInsideAndGivesItBackOutside) {
     for (const Row& row : rows) {
         desktop.move(row.pointerOver ? Point{150, 150} : Point{900, 900});
         window().letMousePointer(pointerCustom);
-        inside.mouse().mouseInside = row.insideBefore;
+        inside.letInside(row.insideBefore);
         window().setCapture();
         inside.MouseOut(row.x, row.y);
-        EXPECT_EQ(inside.mouse().mouseInside, row.insideAfter) << row.name;
+        EXPECT_TRUE(says(inside.mouse(), "inside=" + yesNo(row.insideAfter))) << row.name;
         EXPECT_EQ(desktop.captured(), row.insideAfter ? list.hwnd() : 0) << row.name;
         EXPECT_EQ(window().MousePointer(), row.cursorAfter) << row.name;
         window().releaseCapture();

@@ -46,7 +46,7 @@ class PlayedList : public ListFixture {
 
     Single headerHeight() { return static_cast<Single>(inside.ColumnHeight()); }
     Single columnLeft(Long column) {
-        Single left = inside.paint().firstColumnX;
+        Single left = inside.firstColumnX();
         for (Long c = 1; c < column; ++c)
             left += list.ColumnWidth(c) / 15;
         return left;

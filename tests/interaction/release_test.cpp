@@ -42,9 +42,8 @@ TEST_F(Release, PlaceAndButtonOfItAreRemembered) {
     fill(3);
     press(cell(2, 2));
     list.UserControl_MouseUp(rightButton, 0, 10, 50);
-    EXPECT_EQ(inside.mouse().lastMouseX, 10);
-    EXPECT_EQ(inside.mouse().lastMouseY, 50);
-    EXPECT_EQ(inside.mouse().lastMouseButton, rightButton);
+    EXPECT_TRUE(says(inside.mouse(), "x=10 y=50"));
+    EXPECT_TRUE(says(inside.mouse(), "button=" + numberText(rightButton)));
 }
 
 TEST_F(Release, OnAnotherCellIsItemUpAloneAndStoresThatCell) {
@@ -54,8 +53,7 @@ TEST_F(Release, OnAnotherCellIsItemUpAloneAndStoresThatCell) {
     taken();
     desktop.release();
     EXPECT_EQ(takenNames(), (Lines{"MouseUp", "ItemUp", "Click"}));
-    EXPECT_EQ(inside.edit().lastClickRow, 2);
-    EXPECT_EQ(inside.edit().lastClickColumn, 1);
+    EXPECT_TRUE(says(inside.edit(), "row=3 column=2"));
 }
 
 TEST_F(Release, OutsideEveryRowRaisesMouseUpAlone) {
@@ -86,7 +84,7 @@ TEST_F(Release, OnADisabledCellCountsAsAnyCell) {
     hover(cell(2, 1));
     list.UserControl_MouseUp(leftButton, 0, cell(2, 1).x, cell(2, 1).y);
     EXPECT_EQ(takenNames(), (Lines{"MouseUp", "ItemUp"}));
-    EXPECT_EQ(inside.edit().lastClickRow, 1);
+    EXPECT_TRUE(says(inside.edit(), "row=2"));
 }
 
 TEST_F(Release, BeforeAnyPressOnAnItemRaisesMouseUpAlone) {
@@ -97,22 +95,22 @@ TEST_F(Release, BeforeAnyPressOnAnItemRaisesMouseUpAlone) {
 }
 
 TEST_F(Release, WithoutColumnsOrRowsRaisesMouseUpAlone) {
-    inside.header().pressedColumn = 3;
+    inside.letPressedColumn(3);
     list.UserControl_MouseUp(leftButton, 0, 30, 50);
     EXPECT_EQ(takenNames(), Lines{"MouseUp"});
-    EXPECT_EQ(inside.header().pressedColumn, 3) << "nothing was cleaned up";
+    EXPECT_TRUE(says(inside.header(), "pressed=4")) << "nothing was cleaned up";
     addColumns({60});
     EXPECT_EQ(paintsOf([&] { list.UserControl_MouseUp(leftButton, 0, 30, 50); }), 1);
     EXPECT_EQ(takenNames(), Lines{"MouseUp"});
-    EXPECT_EQ(inside.header().pressedColumn, -1);
+    EXPECT_TRUE(says(inside.header(), "pressed=none"));
 }
 
 TEST_F(Release, HasForgottenThePressBeforeTheHostsTurn) {
     fill(2);
     hover(header(1));
-    inside.header().pressPending = true;
+    inside.beginPress();
     bool pending = true;
-    desktop.onYield([&] { pending = inside.header().pressPending; });
+    desktop.onYield([&] { pending = bool(says(inside.header(), "pending=yes")); });
     list.UserControl_MouseUp(leftButton, 0, 30, 5);
     EXPECT_FALSE(pending);
 }
@@ -122,12 +120,10 @@ TEST_F(Release, ReturnsTheHeadersToIdle) {
     press(divider(1));
     move({80, 5});
     ASSERT_TRUE(inside.guide().Visible());
-    inside.header().pressPending = true;
+    inside.beginPress();
     desktop.release();
     EXPECT_FALSE(inside.guide().Visible());
-    EXPECT_FALSE(inside.header().resizing);
-    EXPECT_FALSE(inside.header().pressPending);
-    EXPECT_EQ(inside.header().pressedColumn, -1);
+    EXPECT_TRUE(says(inside.header(), "resizing=no pending=no pressed=none"));
 }
 
 TEST_F(Release, EndsAResizeAndChecksTheBars) {
@@ -173,7 +169,7 @@ TEST_F(Release, OfAResizeWhoseColumnsTheHostClearedDoesNothing) {
     fill(2);
     press(divider(2));
     move(divider(2));
-    ASSERT_TRUE(inside.header().resizing);
+    ASSERT_TRUE(says(inside.header(), "resizing=yes"));
     list.ColumnsClear();
     list.ColumnsAdd(u"only", nullptr, nullptr, nullptr, cColumnLeft, 900);
     desktop.release();
@@ -186,10 +182,9 @@ class HeaderPress : public PlayedList {};
 TEST_F(HeaderPress, OnTheRightMarginStartsAResizeAtTheNextPaintAndIsNoClick) {
     fill(2);
     press(divider(1));
-    EXPECT_EQ(inside.header().pressedColumn, -1);
-    EXPECT_FALSE(inside.header().resizing);
+    EXPECT_TRUE(says(inside.header(), "pressed=none resizing=no"));
     move(divider(1));
-    EXPECT_TRUE(inside.header().resizing);
+    EXPECT_TRUE(says(inside.header(), "resizing=yes"));
     EXPECT_TRUE(inside.guide().Visible());
     EXPECT_EQ(window().MousePointer(), pointerCustom);
     desktop.release();
@@ -201,10 +196,10 @@ TEST_F(HeaderPress, OnTheRightMarginOfFixedColumnsIsAClickAfterAPaint) {
     list.letFixColumns(true);
     press(divider(1));
     move(divider(1));
-    EXPECT_FALSE(inside.header().resizing);
+    EXPECT_TRUE(says(inside.header(), "resizing=no"));
     EXPECT_FALSE(inside.guide().Visible());
-    EXPECT_EQ(inside.header().resizeColumn, 0) << "kept all the same";
-    EXPECT_EQ(inside.header().pressedColumn, 0);
+    EXPECT_TRUE(says(inside.header(), "divider=1")) << "kept all the same";
+    EXPECT_TRUE(says(inside.header(), "pressed=1"));
     EXPECT_EQ(window().MousePointer(), pointerDefault);
     desktop.release();
     EXPECT_EQ(takenNames(), (Lines{"MouseDown", "ColumnClick", "MouseUp", "Click"}));
@@ -221,9 +216,9 @@ TEST_F(HeaderPress, OnAMarginWithoutAPaintBeforeTheReleaseIsNoClick) {
 TEST_F(HeaderPress, OnTheLeftMarginIsAClickAfterAPaint) {
     fill(2);
     press({62, 5});
-    EXPECT_EQ(inside.header().pressedColumn, -1);
+    EXPECT_TRUE(says(inside.header(), "pressed=none"));
     move({63, 5});
-    EXPECT_EQ(inside.header().pressedColumn, 1);
+    EXPECT_TRUE(says(inside.header(), "pressed=2"));
     desktop.release();
     EXPECT_EQ(taken()[1], "ColumnClick Column=2");
 }
@@ -246,9 +241,9 @@ TEST_F(HeaderPress, IsAClickOnlyWithTheMouseOverThatHeader) {
 TEST_F(HeaderPress, BelongsToTheHeaderOfTheFirstPaintAfterIt) {
     fill(2);
     press(header(1));
-    EXPECT_EQ(inside.header().pressedColumn, 0);
+    EXPECT_TRUE(says(inside.header(), "pressed=1"));
     move(header(2));
-    EXPECT_EQ(inside.header().pressedColumn, 1);
+    EXPECT_TRUE(says(inside.header(), "pressed=2"));
     desktop.release();
     EXPECT_EQ(taken()[1], "ColumnClick Column=2");
 }
@@ -256,12 +251,12 @@ TEST_F(HeaderPress, BelongsToTheHeaderOfTheFirstPaintAfterIt) {
 TEST_F(HeaderPress, OfTheRightButtonIsAClickWhereTheMarginTestTookIt) {
     fill(2);
     press(header(2), rightButton);
-    EXPECT_EQ(inside.header().pressedColumn, 1);
+    EXPECT_TRUE(says(inside.header(), "pressed=2"));
     desktop.release(rightButton);
     EXPECT_EQ(takenNames(), (Lines{"MouseDown", "ColumnClick", "MouseUp", "Click"}));
     press({62, 5}, rightButton);
     move({63, 5});
-    EXPECT_EQ(inside.header().pressedColumn, -1) << "a paint asks for the left button";
+    EXPECT_TRUE(says(inside.header(), "pressed=none")) << "a paint asks for the left button";
     desktop.release(rightButton);
     EXPECT_EQ(takenNames(), (Lines{"MouseDown", "MouseUp", "Click"}));
 }
@@ -270,8 +265,7 @@ TEST_F(HeaderPress, OnAColumnThatForbidsSortingIsAClickAndNoSort) {
     fill(3);
     click(header(1));
     EXPECT_EQ(takenNames(), (Lines{"MouseDown", "ColumnClick", "MouseUp", "Click"}));
-    EXPECT_EQ(inside.sort().sortColumn, -1);
-    EXPECT_EQ(inside.sort().sortAscending, 1);
+    EXPECT_TRUE(says(inside.sort(), "column=none up=1"));
     EXPECT_EQ(columnTexts(1), "1a 2a 3a");
 }
 

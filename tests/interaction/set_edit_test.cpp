@@ -21,9 +21,7 @@ TEST_F(SetEdit, PutsTheBoxOverTheCell) {
     EXPECT_EQ(box.Text(), u"2b");
     EXPECT_EQ(box.SelStart(), 0);
     EXPECT_EQ(box.SelLength(), 2);
-    EXPECT_TRUE(inside.edit().editActive);
-    EXPECT_EQ(inside.edit().lastClickRow, 1);
-    EXPECT_EQ(inside.edit().lastClickColumn, 1);
+    EXPECT_TRUE(says(inside.edit(), "active=yes row=2 column=2"));
     EXPECT_EQ(takenNames(), Lines{});
 }
 
@@ -93,18 +91,16 @@ TEST_F(SetEditReports, AnInvalidCellFailsInEachStatementInOrderAndTheNumbersAreS
                      "9 ItemText",
                      "9 SetEdit",
                      "9 SetEdit"}));
-    EXPECT_EQ(inside.edit().lastClickRow, 0);
-    EXPECT_EQ(inside.edit().lastClickColumn, 8);
+    EXPECT_TRUE(says(inside.edit(), "row=1 column=9"));
     EXPECT_TRUE(inside.editor().Visible());
 }
 
 TEST_F(SetEditReports, WhatIsNoNumberLeavesTheRememberedCell) {
     fill(2);
-    inside.edit().lastClickRow = 1;
+    inside.letLastClick(1, 0);
     edit(u"x", 1);
     EXPECT_EQ(reports().front(), "13 SetEdit");
-    EXPECT_EQ(inside.edit().lastClickRow, 1);
-    EXPECT_EQ(inside.edit().lastClickColumn, 0);
+    EXPECT_TRUE(says(inside.edit(), "row=2 column=1"));
     EXPECT_EQ(list.TopIndex(), 0);
 }
 
@@ -173,7 +169,7 @@ TEST_F(SetEdit, TypingReplacesTheTextAndEnterStoresIt) {
     EXPECT_EQ(taken(), Lines{"ItemChanged Row=2 Column=1 NewValue=hello"});
     EXPECT_FALSE(inside.editor().Visible());
     EXPECT_FALSE(inside.editor().TabStop());
-    EXPECT_FALSE(inside.edit().editActive);
+    EXPECT_TRUE(says(inside.edit(), "active=no"));
 }
 
 TEST_F(SetEdit, EscapeHasNoMeaning) {

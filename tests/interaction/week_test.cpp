@@ -71,8 +71,8 @@ TEST_F(AWeek, NeedsNoMoreMemoryAtItsEndThanOnItsSecondDay) {
     EXPECT_GE(desktop.time(), hours(7 * 24));
     EXPECT_LE(memory(), early + 4096) << "bytes";
     EXPECT_EQ(list.RowsCount(), 50);
-    EXPECT_FALSE(inside.paint().paintBusy);
-    EXPECT_FALSE(inside.mouse().mouseInside);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
+    EXPECT_TRUE(says(inside.mouse(), "inside=no"));
     EXPECT_TRUE(desktop.idle());
 }
 

@@ -179,7 +179,7 @@ TEST_F(ControlCore, CheckForRedrawHonoursAutoRedrawAndDesignMode) {
     EXPECT_EQ(paintsOf([&] { inside.CheckForRedraw(); }), 0);
     host.userMode = false;
     EXPECT_EQ(paintsOf([&] { inside.CheckForRedraw(); }), 1);
-    inside.paint().paintBusy = true;
+    inside.holdPainting(true);
     EXPECT_EQ(paintsOf([&] { inside.CheckForRedraw(); }), 1) << "the design view ignores the flag";
     host.userMode = true;
     list.letAutoRedraw(true);
@@ -199,11 +199,9 @@ TEST_F(ControlCore, AnInstanceWithoutSavedStateHasItsInteractionFieldsAtZero) {
     lmListView other(desktop, otherHost, otherEvents);
     other.UserControl_InitProperties();
     ListViewInspector look(other);
-    EXPECT_EQ(look.header().pressedColumn, 0);
-    EXPECT_EQ(look.header().resizeColumn, 0);
-    EXPECT_EQ(look.sort().sortColumn, 0);
-    EXPECT_EQ(look.selection().selectionAnchor, 0);
-    EXPECT_FALSE(look.selection().selectOnIndexSet);
+    EXPECT_TRUE(says(look.header(), "pressed=1 divider=1"));
+    EXPECT_TRUE(says(look.sort(), "column=1"));
+    EXPECT_TRUE(says(look.selection(), "anchor=1 selects=no"));
 }
 
 TEST_F(ControlCore, CopiesOfARecordShareTheirCells) {

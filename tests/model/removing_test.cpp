@@ -176,7 +176,7 @@ TEST_F(Removing, SelectedRowsGoWithOnePaint) {
     EXPECT_EQ(paintsOf([&] { list.RowsSelectedRemove(); }), 1);
     EXPECT_EQ(texts(), u"c");
     EXPECT_EQ(list.RowSelectedCount(), 0);
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
 }
 
 TEST_F(Removing, RemovingAllSelectedRowsPaintsWhateverAutoRedrawSays) {
@@ -208,7 +208,7 @@ TEST_F(Removing, OfTheSelectedRowsHoldsBothSwitchesOffAndTellsNobody) {
     int turns = 0;
     desktop.onYield(
         [&] {
-            if (!inside.paint().paintBusy) // the paint at the end has its own
+            if (says(inside.painting(), "held=no")) // the paint at the end has its own
                 return;
             ++turns;
             EXPECT_FALSE(list.AutoCheckScroll());

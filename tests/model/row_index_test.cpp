@@ -109,7 +109,7 @@ class RowsInView : public ListFixture {
 };
 
 TEST_F(RowsInView, ListIndexScrollsARowBelowTheViewToTheTopFromTheSecondTimeOn) {
-    inside.selection().indexScrollArmed = false;
+    inside.letIndexScroll(false);
     list.letListIndex(visible);
     EXPECT_EQ(list.TopIndex(), 0) << "the first time after loading";
     list.letListIndex(visible - 1);
@@ -128,11 +128,11 @@ TEST_F(RowsInView, ListIndexScrollsARowBelowTheViewToTheTopFromTheSecondTimeOn) 
 TEST_F(RowsInView, ListIndexSelectsItsRowAloneUnlessThatIsHeldOff) {
     list.letMultiSelect(true);
     list.letRowSelected(2, true);
-    inside.selection().selectOnIndexSet = true;
+    inside.letIndexSelect(true);
     list.letListIndex(4);
     EXPECT_TRUE(list.RowSelected(5));
     EXPECT_EQ(list.RowSelectedCount(), 1);
-    inside.selection().selectOnIndexSet = false;
+    inside.letIndexSelect(false);
     list.letListIndex(6);
     EXPECT_FALSE(list.RowSelected(7));
     EXPECT_EQ(list.RowSelectedCount(), 1);

@@ -22,19 +22,15 @@ TEST_F(ReadProperties, AnEmptyBagGivesTheValuesOfANewInstanceButForTwoColours) {
 }
 
 TEST_F(ReadProperties, TheArraysExistAndTheStateIsIdle) {
-    inside.header().pressedColumn = 4;
+    inside.letPressedColumn(4);
     list.UserControl_ReadProperties(MemoryPropertyBag());
     EXPECT_TRUE(inside.ArrDim(Long{0}));
     EXPECT_TRUE(inside.ArrDim(Long{1}));
     EXPECT_EQ(list.RowsCount(), 0);
     EXPECT_EQ(list.ColumnsCount(), 0);
-    EXPECT_EQ(inside.header().pressedColumn, -1);
-    EXPECT_EQ(inside.header().hoverColumn, -1);
-    EXPECT_EQ(inside.sort().sortColumn, -1);
-    EXPECT_EQ(inside.sort().sortAscending, 1);
-    EXPECT_EQ(inside.selection().selectionAnchor, -1);
-    EXPECT_TRUE(inside.selection().selectOnIndexSet);
-    EXPECT_FALSE(inside.selection().indexScrollArmed);
+    EXPECT_TRUE(says(inside.header(), "pressed=none hover=none"));
+    EXPECT_TRUE(says(inside.sort(), "column=none up=1"));
+    EXPECT_TRUE(says(inside.selection(), "anchor=none selects=yes scrolls=no"));
 }
 
 TEST_F(ReadProperties, ASavedListLoadsEmpty) {

@@ -16,7 +16,7 @@ class GivingUp : public PaintedList {
     Lines paintUntil(const std::string& prefix, int count = 1) {
         drawn().before = [this, prefix, count, seen = 0](const std::string& line) mutable {
             if (line.rfind(prefix, 0) == 0 && ++seen == count)
-                inside.scroll().scrollPending = true;
+                inside.letScrollPend(true);
         };
         const Lines log = repaint();
         drawn().before = nullptr;
@@ -32,9 +32,9 @@ class GivingUp : public PaintedList {
     }
 
     void expectStuck() {
-        EXPECT_TRUE(inside.paint().paintBusy) << "the flag stays set";
+        EXPECT_TRUE(says(inside.painting(), "held=yes")) << "the flag stays set";
         EXPECT_TRUE(events.log.empty());
-        inside.scroll().scrollPending = false;
+        inside.letScrollPend(false);
         EXPECT_TRUE(repaint().empty()) << "every further pass is turned away";
     }
 };
@@ -76,7 +76,7 @@ TEST_F(GivingUp, AtTheStartOfARow) {
     // rows.
     inside.vertical().letValue(1);
     const auto object = TestObject::control(100);
-    object->onPut = [this] { inside.scroll().scrollPending = true; };
+    object->onPut = [this] { inside.letScrollPend(true); };
     list.setItemObject(1, 1, object);
     const Lines log = repaint();
     EXPECT_EQ(log.back().substr(0, 9), "Line 120,") << "the foot of the empty field";

@@ -10,7 +10,7 @@ class HeaderCell : public PaintedList {
     HeaderCell() { addColumns({60, 60}); }
 
     void press(Long column) {
-        inside.header().pressedColumn = column;
+        inside.letPressedColumn(column);
         mouseAt(static_cast<Single>(column) * 60 + 10, 5, leftButton);
     }
 
@@ -173,7 +173,7 @@ TEST_F(HeaderCell, InANarrowHoverCellTheRightCapWins) {
 
 TEST_F(HeaderCell, AVeryNarrowDownCellPaintsItsLeftLinesAtOrPastTheRightEdge) {
     list.letColumnWidth(1, 2 * 15);
-    inside.header().pressedColumn = 0;
+    inside.letPressedColumn(0);
     mouseAt(1, 5, leftButton);
     const Lines strokes = background();
     EXPECT_EQ(strokes[0], "Fill 0,0-1,22 D8DFDE");
@@ -183,7 +183,7 @@ TEST_F(HeaderCell, AVeryNarrowDownCellPaintsItsLeftLinesAtOrPastTheRightEdge) {
 
 TEST_F(HeaderCell, APressedColumnWithTheMouseOffItPaintsNormal) {
     list.letMoveColumnTextAtDown(true);
-    inside.header().pressedColumn = 0;
+    inside.letPressedColumn(0);
     mouseAt(70, 5, leftButton);
     EXPECT_EQ(background()[0], "Fill 0,0-59,19 DBEAEB");
     EXPECT_EQ(drawn().lines("Text")[0], "Text '' 5,2-55,25 40020") << "nor does its text move";
@@ -195,7 +195,7 @@ TEST_F(HeaderCell, TextMovesWithThePressOnlyWhereItMay) {
     list.letMoveColumnTextAtDown(true);
     EXPECT_EQ(repainted("Text")[0], "Text '' 6,3-56,26 40020");
     // Wanted: the mouse button does not decide here, unlike for the look.
-    inside.mouse().lastMouseButton = 0;
+    inside.letButton(0);
     EXPECT_EQ(repainted("Text")[0], "Text '' 6,3-56,26 40020");
 }
 
@@ -305,7 +305,6 @@ struct ArrowPlace {
 TEST_F(HeaderCell, TheSortArrowStandsBesideTheText) {
     list.letColumnWidth(1, 100 * 15);
     list.letColumnText(1, u"abc");
-    inside.sort().sortColumn = 0;
     const Single tw = window().surface().textWidth(u"abc");
     const ArrowPlace table[] = {
         {"left", cColumnLeft, 5 + tw + 5},
@@ -317,10 +316,10 @@ TEST_F(HeaderCell, TheSortArrowStandsBesideTheText) {
         const std::string x = std::to_string(std::lrint(row.left));
         const std::string right = std::to_string(std::lrint(row.left + 8));
         const std::string tip = std::to_string(std::lrint(row.left + 4));
-        inside.sort().sortAscending = 0;
+        inside.letSortMark(0, 0);
         EXPECT_EQ(repainted("Polygon"), Lines{"Polygon " + x + ",10 " + right + ",10 " + tip + ",14"})
             << row.name;
-        inside.sort().sortAscending = 1;
+        inside.letSortMark(0, 1);
         EXPECT_EQ(repainted("Polygon"), Lines{"Polygon " + x + ",15 " + right + ",15 " + tip + ",10"})
             << row.name;
     }
@@ -330,7 +329,7 @@ TEST_F(HeaderCell, RightAlignedTextAndIconLeaveTheArrowAtTheTextsUsualPlace) {
     list.letColumnWidth(1, 100 * 15);
     list.letColumnText(1, u"abc");
     list.letColumnAlignment(1, cColumnRight);
-    inside.sort().sortColumn = 0;
+    inside.letSortMark(0, 0);
     const Lines without = repainted("Polygon");
     list.setColumnIcon(1, plainPicture(4, 4));
     list.letColumnIconAlignment(1, cColumnRight);
@@ -340,7 +339,7 @@ TEST_F(HeaderCell, RightAlignedTextAndIconLeaveTheArrowAtTheTextsUsualPlace) {
 
 TEST_F(HeaderCell, TheArrowIsGreyAndLeavesTheFillTransparent) {
     list.letColumnText(1, u"abc");
-    inside.sort().sortColumn = 0;
+    inside.letSortMark(0, 0);
     repaint();
     const auto tip = static_cast<Long>(5 + window().surface().textWidth(u"abc") + 5 + 4);
     EXPECT_EQ(pixel(tip, 12), 0x999999U);

@@ -127,7 +127,7 @@ TEST_F(ListCell, AColourThatIsNoNumberIsReportedAndEndsThePass) {
     ASSERT_EQ(desktop.runtime().boxes.size(), 1U);
     EXPECT_NE(toUtf8(desktop.runtime().boxes[0].text).find("Error no.: 13\r\n"), std::string::npos);
     EXPECT_NE(toUtf8(desktop.runtime().boxes[0].text).find("0/Redraw"), std::string::npos);
-    EXPECT_TRUE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=yes"));
     EXPECT_TRUE(drawn().lines("Text 'a'").empty());
 }
 
@@ -135,7 +135,7 @@ TEST_F(ListCell, UnderTheSilentFlagAFailingStatementIsSkipped) {
     list.letItemBackColor(1, 1, u"blue");
     Error().letSilentError(true);
     EXPECT_EQ(fillOf(1, 1), "0") << "the colour that the pass started with";
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
     EXPECT_EQ(drawn().lines("Text 'a'").size(), 4U) << "measured and painted, in both rows";
     EXPECT_TRUE(desktop.runtime().boxes.empty());
 }
@@ -326,7 +326,7 @@ TEST_F(ListCell, ACheckBoxInTheMiddleOrAtTheRightUsesItsOwnWidth) {
 // Wanted: no shift and no inset in the middle.
 TEST_F(ListCell, TheShiftOfThePressedLastHeaderReachesTheCells) {
     list.letMoveColumnTextAtDown(true);
-    inside.header().pressedColumn = 1;
+    inside.letPressedColumn(1);
     mouseAt(70, 5, leftButton);
     list.setItemIcon(1, 1, plainPicture(4, 4));
     list.setItemIcon(1, 2, plainPicture(4, 4));
@@ -407,7 +407,7 @@ TEST_F(ListCell, AnObjectWithoutVisibleIsPassedOverWhenHiding) {
     inside.vertical().letValue(1);
     repaint();
     EXPECT_TRUE(desktop.runtime().boxes.empty());
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
 }
 
 TEST_F(ListCell, AHostThatEmptiesTheListWhileItsObjectIsShownDoesNoHarm) {

@@ -39,7 +39,7 @@ TEST_F(MissingFont, OfTheHeadersEndsThePassWithTheEvent) {
     EXPECT_EQ(events.log[0],
               "ListViewError eSub=Redraw eNumber=91 eDescription=" +
                   toUtf8(errorDescription(objectVariableNotSet)));
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
     EXPECT_EQ(drawnLines, (std::vector<std::string>{"Cls", "BackColor FFFFFF"}));
 }
 
@@ -55,7 +55,7 @@ TEST_F(MissingFont, OfTheCellsEndsThePassAtTheFirstRowsHeight) {
     list.setDefaultItemFont(nullptr);
     repaint();
     EXPECT_EQ(reports->reports(), failedReads(1, u"Redraw"));
-    EXPECT_TRUE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=yes"));
 }
 
 TEST_F(MissingFont, OfTheCellsUnderTheSilentFlagLeavesTheRowsTheFontOfTheirLastCell) {
@@ -65,7 +65,7 @@ TEST_F(MissingFont, OfTheCellsUnderTheSilentFlagLeavesTheRowsTheFontOfTheirLastC
     Error().letSilentError(true);
     repaint();
     Error().letSilentError(false);
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
     drawn().setFont({.Name = u"Verdana", .Size = 30});
     EXPECT_EQ(inside.rows()[0].Height, drawn().textHeight(u"A"));
 }

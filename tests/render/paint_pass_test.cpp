@@ -36,7 +36,7 @@ TEST_F(PaintPassOrder, WithoutRowsTheHeadersAndTheEmptyFieldArePainted) {
     repaint();
     EXPECT_EQ(drawn().lines("Fill").size(), 2U);
     EXPECT_EQ(drawn().lines("Text").size(), 1U);
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
 }
 
 TEST_F(PaintPassOrder, ARedrawDuringARunningPaintPaintsNothing) {
@@ -78,13 +78,13 @@ TEST_F(PaintPassOrder, WithHiddenHeadersRowsStartOnTopOfTheBorder) {
     addRows(1, u"a,b");
     list.letBorderVisible(true);
     list.letHideColumnHeaders(true);
-    inside.header().hoverColumn = 5;
-    inside.paint().columnsRight = 0;
+    inside.letHoverColumn(5);
     repaint();
     EXPECT_EQ(drawn().lines("Text 'a'")[1].substr(0, 12), "Text 'a' 6,2") << "half of what 17 leave of 20";
     EXPECT_EQ(inside.rows()[0].Top, 0);
-    EXPECT_EQ(inside.header().hoverColumn, 5) << "keeps its last value";
-    EXPECT_EQ(inside.paint().columnsRight, 130) << "the widths alone, without the first column's left edge";
+    EXPECT_TRUE(says(inside.header(), "hover=6")) << "keeps its last value";
+    EXPECT_TRUE(says(inside.painting(), "right=130"))
+        << "the widths alone, without the first column's left edge";
 }
 
 TEST_F(PaintPassOrder, AVisibleBarAtTheLeftEndStopsTheSearchAtTheFirstColumn) {
@@ -93,8 +93,7 @@ TEST_F(PaintPassOrder, AVisibleBarAtTheLeftEndStopsTheSearchAtTheFirstColumn) {
     inside.horizontal().letVisible(true);
     inside.horizontal().letValue(0);
     repaint();
-    EXPECT_EQ(inside.paint().firstColumn, 0);
-    EXPECT_EQ(inside.paint().firstColumnX, 1);
+    EXPECT_TRUE(says(inside.painting(), "first=1 x=1"));
 }
 
 struct ScrollCase {
@@ -110,8 +109,8 @@ TEST_F(PaintPassOrder, TheFirstColumnIsTheOneThatHoldsTheScrollPosition) {
          {ScrollCase{10, 0, -10}, {60, 0, -60}, {61, 1, -1}, {130, 1, -70}, {131, 2, -1}, {210, 2, -80}}) {
         inside.horizontal().letValue(row.value);
         repaint();
-        EXPECT_EQ(inside.paint().firstColumn, row.firstColumn) << row.value;
-        EXPECT_EQ(inside.paint().firstColumnX, row.firstColumnX) << row.value;
+        EXPECT_TRUE(says(inside.painting(), "first=" + fromOne(row.firstColumn))) << row.value;
+        EXPECT_TRUE(says(inside.painting(), "x=" + numberText(row.firstColumnX))) << row.value;
     }
 }
 
@@ -121,11 +120,10 @@ TEST_F(PaintPassOrder, AScrollPositionPastTheLastColumnKeepsTheLastPassesEdge) {
     inside.horizontal().letVisible(true);
     inside.horizontal().letValue(70);
     repaint();
-    ASSERT_EQ(inside.paint().firstColumnX, -10);
+    ASSERT_TRUE(says(inside.painting(), "x=-10"));
     inside.horizontal().letValue(500);
     repaint();
-    EXPECT_EQ(inside.paint().firstColumn, 0);
-    EXPECT_EQ(inside.paint().firstColumnX, -10);
+    EXPECT_TRUE(says(inside.painting(), "first=1 x=-10"));
 }
 
 TEST_F(PaintPassOrder, OnePixelLineBetweenHeaderAndFirstRowShowsTheSurface) {
@@ -163,7 +161,7 @@ TEST_F(PaintPassOrder, AColumnWhollyLeftOfTheSurfaceIsNotLookedAt) {
     list.letHideColumnHeaders(true);
     inside.horizontal().letVisible(true);
     inside.horizontal().letValue(200); // the search runs through, so painting starts at the old edge
-    inside.paint().firstColumnX = -61;
+    inside.letFirstColumnX(-61);
     repaint();
     EXPECT_TRUE(drawn().lines("Text 'a'").empty());
     EXPECT_EQ(drawn().lines("Text 'b'").size(), 2U);
@@ -185,7 +183,7 @@ TEST_F(PaintPassOrder, TheDropMarkerIsABarOfTwoPixelsAcrossTheSurface) {
     addColumns({60});
     addRows(3, u"a");
     inside.letAllowItemMoving(true);
-    inside.moveTargetRow() = 1;
+    inside.letDropTarget(1);
     EXPECT_EQ(repainted("Box"), Lines{"Box 0,45-200,46 0"});
     inside.letAllowItemMoving(false);
     EXPECT_TRUE(repainted("Box").empty());
@@ -268,10 +266,10 @@ TEST_F(PaintPassOrder, TheGripIsTheLastFivePixelsInsideAColumn) {
                                 {"its first pixel", 55, 0},
                                 {"its last pixel", 59, 0},
                                 {"behind the divider", 60, -1}}) {
-        inside.header().resizeColumn = -1;
+        inside.letDividerColumn(-1);
         mouseAt(row.x, 5);
         repaint();
-        EXPECT_EQ(inside.header().resizeColumn, row.resizeColumn) << row.name;
+        EXPECT_TRUE(says(inside.header(), "divider=" + fromOne(row.resizeColumn))) << row.name;
     }
 }
 
@@ -284,27 +282,25 @@ TEST_F(PaintPassOrder, HoverReachesFromTheTopToTheHeadersFootBothIncluded) {
     for (const auto& row : table) {
         mouseAt(10, row.y);
         repaint();
-        EXPECT_EQ(inside.header().hoverColumn, row.hover) << row.y;
-        EXPECT_EQ(inside.header().currentColumn, 0) << "the column under the mouse, whatever its height";
+        EXPECT_TRUE(says(inside.header(), "hover=" + fromOne(row.hover))) << row.y;
+        EXPECT_TRUE(says(inside.header(), "current=1")) << "the column under the mouse, whatever its height";
     }
 }
 
 TEST_F(PaintPassOrder, AMouseThatIsOutsideHoversNothing) {
     addColumns({60});
     mouseAt(10, 5);
-    inside.mouse().mouseInside = false;
+    inside.letInside(false);
     repaint();
-    EXPECT_EQ(inside.header().hoverColumn, -1);
+    EXPECT_TRUE(says(inside.header(), "hover=none"));
 }
 
 TEST_F(PaintPassOrder, APressOnTheGripStartsAResize) {
     addColumns({60, 60});
-    inside.header().pressPending = true;
+    inside.beginPress();
     mouseAt(57, 5, leftButton);
     repaint();
-    EXPECT_TRUE(inside.header().resizing);
-    EXPECT_FALSE(inside.header().pressPending);
-    EXPECT_EQ(inside.header().pressedColumn, -1);
+    EXPECT_TRUE(says(inside.header(), "resizing=yes pending=no pressed=none"));
     EXPECT_TRUE(inside.guide().Visible());
     EXPECT_EQ(inside.guide().from(), (Point{57, 0}));
     EXPECT_EQ(inside.guide().to(), (Point{57, 100}));
@@ -313,30 +309,27 @@ TEST_F(PaintPassOrder, APressOnTheGripStartsAResize) {
 TEST_F(PaintPassOrder, WithFixedColumnsAPressOnTheGripPressesTheHeader) {
     addColumns({60, 60});
     list.letFixColumns(true);
-    inside.header().pressPending = true;
+    inside.beginPress();
     mouseAt(57, 5, leftButton);
     repaint();
-    EXPECT_FALSE(inside.header().resizing);
-    EXPECT_EQ(inside.header().pressedColumn, 0);
-    EXPECT_EQ(inside.header().resizeColumn, 0) << "still kept";
+    EXPECT_TRUE(says(inside.header(), "resizing=no pressed=1"));
+    EXPECT_TRUE(says(inside.header(), "divider=1")) << "still kept";
 }
 
 TEST_F(PaintPassOrder, WhileResizingTheResizedColumnHovers) {
     addColumns({60, 60});
-    inside.header().resizing = true;
-    inside.header().resizeColumn = 0;
+    inside.beginResize(0);
     mouseAt(80, 5, leftButton);
     repaint();
-    EXPECT_EQ(inside.header().hoverColumn, 0);
+    EXPECT_TRUE(says(inside.header(), "hover=1"));
 }
 
 TEST_F(PaintPassOrder, APendingPressBecomesAColumnPressInTheFirstPaint) {
     addColumns({60, 60});
-    inside.header().pressPending = true;
+    inside.beginPress();
     mouseAt(70, 5, leftButton);
     repaint();
-    EXPECT_EQ(inside.header().pressedColumn, 1);
-    EXPECT_FALSE(inside.header().pressPending);
+    EXPECT_TRUE(says(inside.header(), "pressed=2 pending=no"));
 }
 
 TEST_F(PaintPassOrder, ThePointerChangesOverADivider) {
@@ -345,7 +338,7 @@ TEST_F(PaintPassOrder, ThePointerChangesOverADivider) {
     repaint();
     EXPECT_EQ(window().inner().MousePointer(), pointerCustom);
     EXPECT_EQ(window().inner().MouseIcon(), inside.artwork().imgResize);
-    inside.header().resizeColumn = -1;
+    inside.letDividerColumn(-1);
     mouseAt(30, 5);
     repaint();
     EXPECT_EQ(window().inner().MousePointer(), pointerDefault);
@@ -364,7 +357,7 @@ TEST_F(PaintPassOrder, AFailureBeforeTheRowsRaisesAnEventAndFreesThePass) {
         events.log.clear();
         repaint();
         EXPECT_EQ(events.log, Lines{"ListViewError eSub=Redraw eNumber=481 eDescription=Invalid picture"});
-        EXPECT_FALSE(inside.paint().paintBusy);
+        EXPECT_TRUE(says(inside.painting(), "held=no"));
         EXPECT_TRUE(drawn().lines("Text").empty()) << "the pass ended";
         EXPECT_TRUE(desktop.runtime().boxes.empty()) << "no report beside the event";
     }
@@ -384,7 +377,7 @@ TEST_F(PaintPassOrder, AFailureInTheRowsIsReportedAndLeavesThePassBusy) {
     repaint();
     EXPECT_TRUE(events.log.empty());
     EXPECT_EQ(desktop.runtime().boxes.size(), 1U);
-    EXPECT_TRUE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=yes"));
 }
 
 TEST_F(PaintPassOrder, UnderTheSilentFlagAFailureInTheRowsIsPassedOver) {
@@ -394,7 +387,7 @@ TEST_F(PaintPassOrder, UnderTheSilentFlagAFailureInTheRowsIsPassedOver) {
     list.setItemIcon(1, 1, std::make_shared<BrokenPicture>());
     Error().letSilentError(true);
     repaint();
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
     EXPECT_EQ(drawn().lines("Text 'a'").size(), 4U);
     EXPECT_EQ(drawn().lines("Box").size(), 1U);
 }
@@ -408,7 +401,7 @@ TEST_F(PaintPassOrder, ACoordinateThatIsNoNumberIsAnOrdinaryFailure) {
         events.log.clear();
         repaint();
         EXPECT_EQ(events.log, (Lines{"ListViewError eSub=Redraw eNumber=6 eDescription=Overflow"})) << width;
-        EXPECT_FALSE(inside.paint().paintBusy);
+        EXPECT_TRUE(says(inside.painting(), "held=no"));
     }
 }
 
@@ -423,7 +416,7 @@ TEST_F(PaintPassOrder, ATopRowPastTheEndIsReported) {
 
 TEST_F(PaintPassOrder, ThePassYieldsOnceAfterItsFlagIsCleared) {
     bool busy = true;
-    desktop.onYield([&] { busy = inside.paint().paintBusy; });
+    desktop.onYield([&] { busy = bool(says(inside.painting(), "held=yes")); });
     list.Redraw();
     EXPECT_FALSE(busy);
 }
@@ -436,7 +429,7 @@ TEST_F(PaintPassOrder, AColumnAsWideAsCanBeIsPaintedInTime) {
     list.letGridLines(true);
     repaint();
     EXPECT_TRUE(desktop.runtime().boxes.empty());
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
 }
 
 } // namespace lumtex::testing

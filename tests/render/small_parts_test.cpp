@@ -300,9 +300,9 @@ TEST_F(DesignView, ShowsACheckBoxInCheckBoxStyle) {
 
 TEST_F(DesignView, DoesNotTouchTheBusyFlag) {
     host.userMode = false;
-    inside.paint().paintBusy = true;
+    inside.holdPainting(true);
     EXPECT_FALSE(repaint().empty());
-    EXPECT_TRUE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=yes"));
 }
 
 using SelectionColour = PaintedList;

@@ -162,10 +162,8 @@ class Player {
     }
 
     void headers(const Words&) {
-        const auto& state = inside_.header();
-        const auto column = [](Long index) { return index < 0 ? "none" : std::to_string(index + 1); };
-        note("hover=" + column(state.hoverColumn) + " pressed=" + column(state.pressedColumn) +
-             " divider=" + column(state.resizeColumn) + (state.resizing ? " resizing" : "") +
+        const std::string state = inside_.header();
+        note(state.substr(0, state.find(" resizing=")) + (says(state, "resizing=yes") ? " resizing" : "") +
              (stage_.showsGuide() ? " guide" : ""));
     }
 

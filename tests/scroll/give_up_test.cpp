@@ -37,7 +37,7 @@ class GivingUpInAChange : public PaintedList {
         desktop.move((bar != nullptr ? bar : &inside.vertical())->window(), 8, 8);
         bool ran = false;
         desktop.onYield([&] {
-            EXPECT_TRUE(inside.scroll().scrollPending);
+            EXPECT_TRUE(says(inside.scroll(), "pending=yes"));
             ran = true;
             body();
         });
@@ -54,7 +54,7 @@ TEST_F(GivingUpInAChange, OfTheHorizontalBarPaintsGiveUpToo) {
     duringChange([&] { painted = repaint(); }, &inside.horizontal());
     ASSERT_FALSE(painted.empty());
     EXPECT_EQ(painted.back().substr(0, 9), "BackColor");
-    EXPECT_FALSE(inside.scroll().scrollPending);
+    EXPECT_TRUE(says(inside.scroll(), "pending=no"));
 }
 
 TEST_F(GivingUpInAChange, APaintStopsBeforeItsFirstCheckpoint) {
@@ -62,11 +62,11 @@ TEST_F(GivingUpInAChange, APaintStopsBeforeItsFirstCheckpoint) {
     duringChange([&] { painted = repaint(); });
     ASSERT_FALSE(painted.empty());
     EXPECT_EQ(painted.back().substr(0, 9), "BackColor") << "cleared, and no more";
-    EXPECT_TRUE(inside.paint().paintBusy) << "the flag stays set";
-    EXPECT_FALSE(inside.scroll().scrollPending);
+    EXPECT_TRUE(says(inside.painting(), "held=yes")) << "the flag stays set";
+    EXPECT_TRUE(says(inside.scroll(), "pending=no"));
     EXPECT_EQ(drawn().log, painted) << "the paint that ends the change is turned away";
     EXPECT_TRUE(repaint().empty()) << "and so is every further one";
-    inside.paint().paintBusy = false;
+    inside.holdPainting(false);
     EXPECT_FALSE(repaint().empty());
 }
 
@@ -74,11 +74,11 @@ TEST_F(GivingUpInAChange, APaintStopsBeforeItsFirstCheckpoint) {
 TEST_F(GivingUpInAChange, AChangeInsideAChangeLetsPaintsThroughAgain) {
     duringChange([&] {
         inside.verticalChange();
-        EXPECT_FALSE(inside.scroll().scrollPending);
-        EXPECT_FALSE(inside.paint().paintBusy);
+        EXPECT_TRUE(says(inside.scroll(), "pending=no"));
+        EXPECT_TRUE(says(inside.painting(), "held=no"));
         EXPECT_GT(repaint().size(), 20U) << "a whole pass, though the outer change still waits";
     });
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
 }
 
 class GivingUpAt : public GivingUpInAChange, public ::testing::WithParamInterface<Checkpoint> {};
@@ -98,11 +98,11 @@ TEST_P(GivingUpAt, ThePaintEndsThereAndLeavesItsFlag) {
         int seen = 0;
         drawn().before = [&](const std::string& line) {
             if (line.rfind(point.operation, 0) == 0 && ++seen == point.count)
-                inside.scroll().scrollPending = true;
+                inside.letScrollPend(true);
         };
         painted = repaint();
         drawn().before = nullptr;
-        EXPECT_TRUE(inside.scroll().scrollPending);
+        EXPECT_TRUE(says(inside.scroll(), "pending=yes"));
     });
     int left = point.count;
     const auto last = std::find_if(painted.begin(), painted.end(), [&](const std::string& line) {
@@ -110,8 +110,8 @@ TEST_P(GivingUpAt, ThePaintEndsThereAndLeavesItsFlag) {
     });
     ASSERT_NE(last, painted.end());
     EXPECT_EQ(static_cast<std::size_t>(painted.end() - last) - 1, point.rest);
-    EXPECT_TRUE(inside.paint().paintBusy);
-    EXPECT_FALSE(inside.scroll().scrollPending) << "cleared by the change";
+    EXPECT_TRUE(says(inside.painting(), "held=yes"));
+    EXPECT_TRUE(says(inside.scroll(), "pending=no")) << "cleared by the change";
     EXPECT_EQ(drawn().log, painted) << "the paint that ends the change is turned away";
     EXPECT_TRUE(repaint().empty());
 }
@@ -125,13 +125,13 @@ TEST_F(GivingUpInAChange, AtTheStartOfARowThePaintEndsAndLeavesItsFlag) {
     Lines painted;
     duringChange([&] {
         inside.verticalChange();
-        object->onPut = [this] { inside.scroll().scrollPending = true; };
+        object->onPut = [this] { inside.letScrollPend(true); };
         painted = repaint();
         object->onPut = nullptr;
     });
     EXPECT_EQ(painted.back().substr(0, 9), "Line 120,") << "the foot of the empty field";
-    EXPECT_TRUE(inside.paint().paintBusy);
-    EXPECT_FALSE(inside.scroll().scrollPending);
+    EXPECT_TRUE(says(inside.painting(), "held=yes"));
+    EXPECT_TRUE(says(inside.scroll(), "pending=no"));
     EXPECT_EQ(drawn().log, painted);
 }
 

@@ -91,8 +91,8 @@ TEST_F(ListBars, TheDragShowsTheLatestPositionWhenMovesPileUp) {
     const Long value = VS().Value();
     EXPECT_EQ(inside.rows()[static_cast<std::size_t>(value)].Top, static_cast<Single>(inside.ColumnHeight()))
         << "the top row was painted there";
-    EXPECT_FALSE(inside.scroll().scrollPending);
-    EXPECT_FALSE(inside.paint().paintBusy);
+    EXPECT_TRUE(says(inside.scroll(), "pending=no"));
+    EXPECT_TRUE(says(inside.painting(), "held=no"));
     EXPECT_EQ(take(), (Lines{"  Scroll", "Scroll"}));
 }
 

@@ -63,19 +63,20 @@ TEST_F(Sorting, ASingleRowIsSwappedWithItselfAndTellsSortDoneOnce) {
 
 TEST_F(Sorting, BlankCellsAloneAreNotReorderedAndSortDoneIsRaised) {
     fill({u"   |3", u"|1", u" |2"});
-    inside.sort() = {.sortColumn = 1, .sortAscending = 1, .hasSortableText = true};
+    list.Sort(2, cAscending);
+    events.log.clear();
+    ASSERT_TRUE(says(inside.sort(), "column=2 up=1 text=yes"));
     list.Sort(1, cDescending);
-    EXPECT_EQ(column(2), "3 1 2 ");
+    EXPECT_EQ(column(2), "1 2 3 ");
+    EXPECT_TRUE(says(inside.sort(), "column=2 up=1 text=no"));
     EXPECT_EQ(list.SortColumnIndex(), 2);
-    EXPECT_EQ(inside.sort().sortAscending, 1);
-    EXPECT_FALSE(inside.sort().hasSortableText);
     EXPECT_EQ(events.log, std::vector<std::string>{"SortDone"});
 }
 
 TEST_F(Sorting, ATabIsNoBlank) {
     fill({u"\t|2", u"|1"});
     list.Sort(1, cAscending);
-    EXPECT_TRUE(inside.sort().hasSortableText);
+    EXPECT_TRUE(says(inside.sort(), "text=yes"));
     EXPECT_EQ(column(2), "1 2 ");
 }
 
@@ -86,14 +87,14 @@ TEST_F(Sorting, MinusOneDropsTheMarkWithoutSortDone) {
     events.log.clear();
     EXPECT_EQ(paintsOf([&] { list.Sort(-1, cDescending); }), 1);
     EXPECT_EQ(list.SortColumnIndex(), -1);
-    EXPECT_EQ(inside.sort().sortAscending, 0);
+    EXPECT_TRUE(says(inside.sort(), "up=0"));
     EXPECT_EQ(column(), "a b ");
     EXPECT_EQ(events.log, std::vector<std::string>{});
     list.Sort(1, cAscending);
-    Long markAtThePaint = 0;
-    desktop.onYield([&] { markAtThePaint = inside.sort().sortColumn; });
+    std::string markAtThePaint;
+    desktop.onYield([&] { markAtThePaint = inside.sort(); });
     list.Sort(-1, cDescending);
-    EXPECT_EQ(markAtThePaint, -1) << "the paint shows it no more";
+    EXPECT_TRUE(says(markAtThePaint, "column=none")) << "the paint shows it no more";
 }
 
 // Wanted: SortDone comes also where nothing was sorted, and the sort itself does not repaint.
@@ -146,9 +147,9 @@ TEST_F(Sorting, TheModeIsKeptForTheMark) {
     fill({u"|b", u"|a"});
     list.Sort(2, cAscending);
     EXPECT_EQ(list.SortColumnIndex(), 2);
-    EXPECT_EQ(inside.sort().sortAscending, 1);
+    EXPECT_TRUE(says(inside.sort(), "up=1"));
     list.Sort(2, cDescending);
-    EXPECT_EQ(inside.sort().sortAscending, 0);
+    EXPECT_TRUE(says(inside.sort(), "up=0"));
 }
 
 TEST_F(Sorting, ColumnAllowSortingIsNotAsked) {
@@ -201,12 +202,12 @@ TEST_F(Sorting, IndicesStayWhereTheyAre) {
     fill({u"c", u"b", u"a"});
     list.letListIndex(0);
     list.letRowSelected(1, true);
-    inside.selection().selectionAnchor = 1;
+    inside.letAnchor(1);
     list.Sort(1, cAscending);
     EXPECT_EQ(list.ListIndex(), 0);
     EXPECT_EQ(list.NewIndex(), 2);
     EXPECT_EQ(list.TopIndex(), 0);
-    EXPECT_EQ(inside.selection().selectionAnchor, 1);
+    EXPECT_TRUE(says(inside.selection(), "anchor=2"));
     EXPECT_EQ(list.RowSelected(3), true) << "the selection went with its row";
 }
 

@@ -52,10 +52,8 @@ class PaintedList : public ::testing::Test {
     }
     /// The mouse rests at a point of the surface.
     void mouseAt(Single x, Single y, Integer button = 0) {
-        inside.mouse().mouseInside = true;
-        inside.mouse().lastMouseX = x;
-        inside.mouse().lastMouseY = y;
-        inside.mouse().lastMouseButton = button;
+        inside.letInside(true);
+        inside.letPointer(x, y, button);
     }
     static PictureRef plainPicture(Long width, Long height, std::uint32_t color = 0xFF00FF00U) {
         return std::make_shared<BitmapPicture>(Bitmap(width, height, color));
