@@ -108,6 +108,64 @@ void removeNearTheTop(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
+constexpr int rowsAtATime = 1000;
+
+/// Inserts a thousand rows, one by one, at the place that `place` names in a list of so many; takes them away
+/// untimed.
+template <class Place>
+void insertRows(benchmark::State& state, Place place) {
+    ListOnDesktop fixture;
+    fixture.fill(rowsOf(state.range(0)));
+    for (auto _ : state) {
+        for (int i = 0; i < rowsAtATime; ++i)
+            fixture.list.RowsAdd(place(fixture.list.RowsCount()), separator, u"x");
+        state.PauseTiming();
+        for (int i = 0; i < rowsAtATime; ++i)
+            fixture.list.RowsRemove(fixture.list.RowsCount());
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * rowsAtATime);
+}
+
+/// The same for removals; the rows come back at the end, untimed.
+template <class Place>
+void removeRows(benchmark::State& state, Place place) {
+    ListOnDesktop fixture;
+    fixture.fill(rowsOf(state.range(0)));
+    for (auto _ : state) {
+        for (int i = 0; i < rowsAtATime; ++i)
+            fixture.list.RowsRemove(place(fixture.list.RowsCount() - 1) + 1);
+        state.PauseTiming();
+        for (int i = 0; i < rowsAtATime; ++i)
+            fixture.list.RowsAdd(Long{-1}, separator, u"x");
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * rowsAtATime);
+}
+
+Long atTheFront(Long /*count*/) {
+    return 0;
+}
+/// All over the list, in no order.
+Long anywhere(Long count) {
+    static std::uint32_t state = 1;
+    state = state * 1664525U + 1013904223U;
+    return static_cast<Long>((std::uint64_t{state} * static_cast<std::uint32_t>(count)) >> 32U);
+}
+
+/// The peer: plain records of the same size at the front of a vector, inserted and removed again.
+void insertIntoPlainVector(benchmark::State& state) {
+    using Record = std::array<std::int64_t, sizeof(RowRecord) / sizeof(std::int64_t)>;
+    std::vector<Record> records(static_cast<std::size_t>(state.range(0)));
+    for (auto _ : state) {
+        for (int i = 0; i < rowsAtATime; ++i)
+            records.insert(records.begin(), Record{});
+        benchmark::ClobberMemory();
+        records.resize(records.size() - rowsAtATime);
+    }
+    state.SetItemsProcessed(state.iterations() * rowsAtATime);
+}
+
 /// Something that is asked once for each record whether anybody waits.
 class Queue {
   public:
@@ -171,6 +229,17 @@ BENCHMARK(loadList)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond)
 BENCHMARK(loadPlainVectors)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(readAndWriteCells)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(removeNearTheTop)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(insertRows, front, atTheFront)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(insertRows, anywhere, anywhere)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(removeRows, front, atTheFront)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(removeRows, anywhere, anywhere)
+    ->Arg(100'000)
+    ->Arg(1'000'000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(insertIntoPlainVector)->Arg(100'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(removeFromPlainVector)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(repaintScreen)
     ->ArgNames({"grid", "fills"})

@@ -2,8 +2,6 @@
 
 #include "values/runtime_error.h"
 
-#include <utility>
-
 namespace lumtex {
 
 Long ListRecords::upperBoundOfRows() const {
@@ -51,22 +49,8 @@ ListRecords::Cell ListRecords::cellAt(const Variant& Row, const Variant& Column)
 void ListRecords::growRows() {
     if (!rowsAllocated_)
         rows_.clear();
-    rows_.emplace_back();
+    rows_.append();
     rowsAllocated_ = true;
-}
-
-void ListRecords::placeLastRow(Long position) {
-    RowRecord row = std::move(rows_.back());
-    std::move_backward(rows_.begin() + position, rows_.end() - 1, rows_.end());
-    rows_[static_cast<std::size_t>(position)] = std::move(row);
-}
-
-void ListRecords::reorderRows(std::span<const std::uint32_t> sources) {
-    std::vector<RowRecord> moved;
-    moved.reserve(sources.size());
-    for (const std::uint32_t source : sources)
-        moved.push_back(std::move(rows_[source]));
-    rows_ = std::move(moved);
 }
 
 Long ListRecords::growColumns() {
@@ -79,7 +63,7 @@ Long ListRecords::growColumns() {
 
 void ListRecords::clearRows() {
     rows_.clear();
-    rows_.emplace_back();
+    rows_.append();
     rowsAllocated_ = false;
 }
 
@@ -92,7 +76,7 @@ void ListRecords::clearColumns() {
 void ListRecords::release() {
     rowsAllocated_ = false;
     columnsAllocated_ = false;
-    std::vector<RowRecord>().swap(rows_);
+    rows_.release();
     std::vector<std::unique_ptr<ColumnHeader>>().swap(columns_);
 }
 

@@ -3,12 +3,10 @@
 #pragma once
 
 #include "records/column_header.h"
-#include "records/row_record.h"
+#include "records/row_array.h"
 #include "values/variant.h"
 
-#include <cstdint>
 #include <memory>
-#include <span>
 #include <vector>
 
 namespace lumtex {
@@ -50,16 +48,11 @@ class ListRecords {
     }
 
     /// All elements, the blank one of an emptied array too.
-    std::span<RowRecord> rows() { return rows_; }
+    RowArray& rows() { return rows_; }
     std::size_t columnSlots() const { return columns_.size(); }
 
     /// A row behind the last, without cells.
     void growRows();
-    /// Moves the last row to `position`, which is in range.
-    void placeLastRow(Long position);
-    void dropLastRow() { rows_.pop_back(); }
-    /// Row `sources[i]` goes to position `i`.
-    void reorderRows(std::span<const std::uint32_t> sources);
     /// Says at which position the new column stands.
     Long growColumns();
 
@@ -72,7 +65,7 @@ class ListRecords {
   private:
     friend class ListViewInspector; ///< how tests look inside
 
-    std::vector<RowRecord> rows_;
+    RowArray rows_;
     std::vector<std::unique_ptr<ColumnHeader>> columns_;
     bool rowsAllocated_ = false;    ///< from the first row added until `clearRows`
     bool columnsAllocated_ = false; ///< from the first column added until `clearColumns`

@@ -33,14 +33,13 @@ void lmListView::removeRow(Long Index, Procedure& p) {
             p.step([&] { --records.columnAt(slot).ItemsChecked; });
     }
     const Long last = records.upperBoundOfRows();
-    // While nothing waits for the host, nobody sees whether a record is copied or, much faster, moved; the
-    // last one moved leaves an empty record, which goes below.
     QueueWatch watch(runtime().queue());
-    const std::span<RowRecord> rows = records.rows();
-    Long row = Index;
-    for (; row <= last && !watch.eventWaits(); ++row)
-        rows[static_cast<std::size_t>(row) - 1] = std::move(rows[static_cast<std::size_t>(row)]);
-    for (; row <= last; ++row) {
+    for (Long row = Index; row <= last; ++row) {
+        // While nothing waits for the host, nobody sees that the others move at once.
+        if (!watch.eventWaits() && records.upperBoundOfRows() == last) {
+            records.rows().remove(static_cast<std::size_t>(row) - 1);
+            return;
+        }
         if (!p.step([&] { records.recordAt(row - 1) = records.recordAt(row); }))
             watch.hostRan();
         // Wanted: the host gets its turn after each row, and sees the row behind the gap twice.
@@ -50,7 +49,7 @@ void lmListView::removeRow(Long Index, Procedure& p) {
     if (RowsCount() < 2)
         RowsClear();
     else
-        records.dropLastRow();
+        records.rows().dropLast();
 }
 
 void lmListView::RowsSelectedRemove() {

@@ -95,7 +95,7 @@ void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<Strin
     const bool placed = p.step([&] {
         if (place < 0 || place > records.upperBoundOfRows())
             throw RuntimeError(subscriptOutOfRange);
-        records.placeLastRow(place);
+        records.rows().moveLastTo(static_cast<std::size_t>(place));
         RowRecord& row = records.recordAt(place);
         row.Enabled = true;
         row.Selected = false;

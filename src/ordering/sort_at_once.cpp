@@ -16,7 +16,7 @@ const CompactText* textOf(const RowRecord& row, std::size_t cell) {
 }
 
 template <class Unit, bool descending>
-Order orderOfTexts(std::span<const RowRecord> rows, std::size_t cell, std::size_t units) {
+Order orderOfTexts(const RowArray& rows, std::size_t cell, std::size_t units) {
     TextRows<Unit, descending> keys(rows.size(), units);
     for (const RowRecord& row : rows)
         keys.add(textOf(row, cell));
@@ -25,7 +25,7 @@ Order orderOfTexts(std::span<const RowRecord> rows, std::size_t cell, std::size_
 }
 
 template <bool descending>
-Order orderOfTexts(std::span<const RowRecord> rows, std::size_t cell, bool silent) {
+Order orderOfTexts(const RowArray& rows, std::size_t cell, bool silent) {
     std::size_t units = 0;
     bool wide = false;
     for (const RowRecord& row : rows) {
@@ -42,7 +42,7 @@ Order orderOfTexts(std::span<const RowRecord> rows, std::size_t cell, bool silen
 }
 
 template <bool descending>
-Order orderOfNumbers(std::span<const RowRecord> rows, std::size_t cell, cSortType type, bool silent) {
+Order orderOfNumbers(const RowArray& rows, std::size_t cell, cSortType type, bool silent) {
     NumberRows<descending> keys(rows.size(), type);
     NumberReader reader(type);
     for (const RowRecord& row : rows) {
@@ -61,8 +61,7 @@ Order orderOfNumbers(std::span<const RowRecord> rows, std::size_t cell, cSortTyp
 
 } // namespace
 
-Order orderAtOnce(
-    std::span<const RowRecord> rows, std::size_t cell, cSortType type, cSortMode order, bool silent) {
+Order orderAtOnce(const RowArray& rows, std::size_t cell, cSortType type, cSortMode order, bool silent) {
     const bool descending = order == cDescending;
     if (type == cSortText)
         return descending ? orderOfTexts<true>(rows, cell, silent) : orderOfTexts<false>(rows, cell, silent);

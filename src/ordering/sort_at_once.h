@@ -3,11 +3,10 @@
 #pragma once
 
 #include "records/enumerations.h"
-#include "records/row_record.h"
+#include "records/row_array.h"
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace lumtex {
@@ -18,6 +17,6 @@ namespace lumtex {
 /// None if that sort would report anything and `silent` is False: then the host's code may run in
 /// the middle, and only the statements themselves do what is due. Throws std::bad_alloc.
 std::optional<std::vector<std::uint32_t>>
-orderAtOnce(std::span<const RowRecord> rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
+orderAtOnce(const RowArray& rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
 
 } // namespace lumtex

@@ -113,7 +113,7 @@ void PaintPass::finishRow() {
         const Single y = rowY + rowBandHeight;
         statement([&] { surface.line(border, y, surfaceWidth - border, y, properties.GridLineColor); });
     }
-    const std::span<RowRecord> rows = core.records.rows();
+    RowArray& rows = core.records.rows();
     if (counters.scanIndex >= 0 && static_cast<std::size_t>(counters.scanIndex) < rows.size()) {
         RowRecord& row = rows[static_cast<std::size_t>(counters.scanIndex)];
         row.Height = rowBandHeight;

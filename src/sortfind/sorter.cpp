@@ -92,7 +92,7 @@ bool Sorter::sortAtOnce(Long Column, cSortType SortType, cSortMode order) {
         const auto sources = orderAtOnce(records_.rows(), cell, SortType, order, silentError());
         if (!sources)
             return;
-        records_.reorderRows(*sources);
+        records_.rows().reorder(*sources);
         sorted = true;
     });
     return sorted;

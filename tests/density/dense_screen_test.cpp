@@ -149,7 +149,7 @@ TEST_F(OnOneScreen, ColumnsAndRowsAreAsLargeAsTheirTwips) {
     list.Redraw();
     ListViewInspector inside(list);
     EXPECT_TRUE(says(inside.painting(), "right=" + numberText(static_cast<Single>(2 * expected()))));
-    EXPECT_EQ(inside.rows().at(1).Top - inside.rows().at(0).Top, static_cast<Single>(expected()) / 2);
+    EXPECT_EQ(inside.rows()[1].Top - inside.rows()[0].Top, static_cast<Single>(expected()) / 2);
 }
 
 TEST_F(OnOneScreen, DrawingsOfTheProductHaveTheirOwnPixels) {

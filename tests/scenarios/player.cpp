@@ -205,7 +205,7 @@ class Player {
     }
     Single columnWidth(Long column) { return list_.ColumnWidth(column) / 15; }
     Single rowMiddle(Long row) {
-        const RowRecord& record = inside_.rows().at(static_cast<std::size_t>(row) - 1);
+        const RowRecord& record = inside_.rows()[static_cast<std::size_t>(row) - 1];
         return record.Top + record.Height / 2;
     }
     Single headerMiddle() { return static_cast<Single>(inside_.ColumnHeight()) / 2; }

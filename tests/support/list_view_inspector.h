@@ -186,7 +186,7 @@ class ListViewInspector {
     ListViewCore& core() { return list_; }
     WalkCounters& counters() { return core().counters; }
     Properties& properties() { return core().properties; }
-    std::vector<RowRecord>& rows() { return core().records.rows_; }
+    RowArray& rows() { return core().records.rows_; }
     std::vector<std::unique_ptr<ColumnHeader>>& columns() { return core().records.columns_; }
     lmVScroll& vertical() { return core().scroller->vertical(); }
     lmHScroll& horizontal() { return core().scroller->horizontal(); }

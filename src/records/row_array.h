@@ -1,0 +1,100 @@
+/// \file
+/// The rows of a list in memory.
+#pragma once
+
+#include "records/row_record.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace lumtex {
+
+/// A place that goes from row to row.
+template <class Array, class Row>
+class RowPlace {
+  public:
+    RowPlace(Array& rows, std::size_t position) : rows_(&rows), position_(position) {}
+
+    Row& operator*() const { return (*rows_)[position_]; }
+    RowPlace& operator++() {
+        ++position_;
+        return *this;
+    }
+    bool operator==(const RowPlace&) const = default;
+
+  private:
+    Array* rows_;
+    std::size_t position_;
+};
+
+/// An array of rows, in which one at the front comes and goes about as fast as one at the end.
+///
+/// The rows lie in chunks of one size, each of them a ring: where a row comes in, its own chunk makes room,
+/// and every chunk behind takes in one row at its front and hands one on at its end, which moves that row
+/// alone. Positions count from 0 and are in range. A change moves rows, and nobody keeps a reference to one
+/// over it.
+class RowArray {
+  public:
+    RowArray() = default;
+    RowArray(const RowArray&) = delete;
+    RowArray& operator=(const RowArray&) = delete;
+    ~RowArray() = default;
+
+    std::size_t size() const { return size_; }
+    bool empty() const { return size_ == 0; }
+    RowRecord& operator[](std::size_t position) { return *slotOf(position); }
+    const RowRecord& operator[](std::size_t position) const { return *slotOf(position); }
+    RowRecord& back() { return *slotOf(size_ - 1); }
+
+    auto begin() { return RowPlace<RowArray, RowRecord>(*this, 0); }
+    auto end() { return RowPlace<RowArray, RowRecord>(*this, size_); }
+    auto begin() const { return RowPlace<const RowArray, const RowRecord>(*this, 0); }
+    auto end() const { return RowPlace<const RowArray, const RowRecord>(*this, size_); }
+
+    /// A row without cells behind the last. Throws std::bad_alloc and is as it was then.
+    void append();
+    void dropLast() noexcept;
+    /// Those from `position` on move down by one.
+    void moveLastTo(std::size_t position) noexcept;
+    /// Those behind `position` move up by one.
+    void remove(std::size_t position) noexcept;
+    /// Row `sources[i]` goes to position `i`; each row is named once. Throws std::bad_alloc and is as it was
+    /// then.
+    void reorder(std::span<const std::uint32_t> sources);
+    /// Keeps the room for the first row, so that an emptied list needs no memory.
+    void clear() noexcept;
+    void release() noexcept;
+
+  private:
+    /// Slots without a row hold an empty record.
+    struct Chunk {
+        std::unique_ptr<RowRecord[]> slots;
+        std::size_t head = 0; ///< the slot of its first row
+    };
+
+    static constexpr std::size_t chunkBits = 10;
+    static constexpr std::size_t chunkSize = std::size_t{1} << chunkBits;
+    static constexpr std::size_t firstRoom = 4;
+
+    static Chunk makeChunk(std::size_t slots);
+    std::size_t room() const { return chunks_.size() * (mask_ + 1); }
+    /// By the row's own place: a chunk begins at a multiple of its slots.
+    RowRecord& slotIn(const Chunk& chunk, std::size_t place) const {
+        return chunk.slots[(chunk.head + place) & mask_];
+    }
+    RowRecord* slotOf(std::size_t position) const {
+        return &slotIn(chunks_[position >> chunkBits], position);
+    }
+    void growFirst();
+    std::size_t rowsIn(std::size_t chunk) const;
+
+    std::vector<Chunk> chunks_;
+    std::size_t size_ = 0;
+    std::size_t mask_ =
+        0; ///< slots of a chunk less 1; a chunk that is the only one may have fewer than the others
+};
+
+} // namespace lumtex

@@ -1,0 +1,149 @@
+#include "records/row_array.h"
+
+#include <numeric>
+#include <random>
+
+namespace lumtex::testing {
+namespace {
+
+/// Rows that can be told apart by their height, and what they should be.
+class Rows : public ::testing::Test {
+  protected:
+    void append() {
+        rows.append();
+        // A row where one was before has nothing of it.
+        EXPECT_EQ(rows.back().items.count(), 0U);
+        EXPECT_EQ(rows.back().Height, 0);
+        EXPECT_FALSE(rows.back().Selected);
+        rows.back().Height = ++made_;
+        rows.back().Selected = true;
+        rows.back().items = Items::create(1);
+        rows.back().items.append(CompactText(u"x"), CellStyles::ofThread().acquire({}));
+        expected.push_back(made_);
+    }
+    void moveLastTo(std::size_t position) {
+        rows.moveLastTo(position);
+        expected.insert(expected.begin() + static_cast<std::ptrdiff_t>(position), expected.back());
+        expected.pop_back();
+    }
+    void remove(std::size_t position) {
+        rows.remove(position);
+        expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(position));
+    }
+    std::size_t below(std::size_t limit) { return random_() % limit; }
+
+    void check() {
+        ASSERT_EQ(rows.size(), expected.size());
+        std::size_t i = 0;
+        for (const RowRecord& row : rows) {
+            ASSERT_EQ(row.Height, expected[i]) << "row " << i;
+            ASSERT_EQ(row.items.count(), 1U) << "row " << i;
+            ASSERT_EQ(&row, &rows[i]);
+            ++i;
+        }
+    }
+
+    RowArray rows;
+    std::vector<Single> expected;
+
+  private:
+    Single made_ = 0;
+    std::mt19937 random_{20261122};
+};
+
+TEST_F(Rows, ComeAndGoAnywhereLikeThoseOfAVector) {
+    for (int round = 0; round < 12'000; ++round) {
+        // Growing at first, shrinking in the end, past several chunks in between.
+        const bool grows = below(100) < (round < 8'000 ? 75U : 20U);
+        if (grows || rows.empty()) {
+            append();
+            const std::size_t kind = below(4);
+            if (kind == 0)
+                moveLastTo(0);
+            else if (kind == 1)
+                moveLastTo(below(rows.size()));
+        } else {
+            const std::size_t kind = below(4);
+            if (kind == 0) {
+                rows.dropLast();
+                expected.pop_back();
+            } else {
+                remove(kind == 1 ? 0 : kind == 2 ? rows.size() - 1 : below(rows.size()));
+            }
+        }
+        if (round % 97 == 0)
+            check();
+        if (HasFatalFailure())
+            return;
+    }
+    EXPECT_GT(rows.size(), 1000U);
+}
+
+TEST_F(Rows, ComeAndGoAroundTheEndsOfAChunk) {
+    for (const std::size_t count : {1U, 3U, 4U, 5U, 1023U, 1024U, 1025U, 2048U, 3000U}) {
+        while (rows.size() < count)
+            append();
+        for (const std::size_t position : {std::size_t{0},
+                                           count / 4,
+                                           count / 2,
+                                           count - 1,
+                                           std::min(count - 1, std::size_t{1023}),
+                                           std::min(count - 1, std::size_t{1024})}) {
+            append();
+            moveLastTo(position);
+            check();
+            remove(position);
+            check();
+        }
+    }
+}
+
+TEST_F(Rows, TakeTheOrderThatTheyAreGiven) {
+    for (const std::size_t count : {0U, 1U, 7U, 1024U, 2500U}) {
+        while (rows.size() < count) {
+            append();
+            moveLastTo(below(rows.size()));
+        }
+        std::vector<std::uint32_t> sources(count);
+        std::iota(sources.begin(), sources.end(), 0U);
+        for (std::size_t i = count; i > 1; --i)
+            std::swap(sources[i - 1], sources[below(i)]);
+        rows.reorder(sources);
+        std::vector<Single> ordered;
+        for (const std::uint32_t source : sources)
+            ordered.push_back(expected[source]);
+        expected = ordered;
+        check();
+    }
+}
+
+TEST_F(Rows, GoAllAndComeAgain) {
+    for (const std::size_t count : {0U, 3U, 2500U, 40U}) {
+        while (rows.size() < count)
+            append();
+        if (count == 40)
+            rows.release();
+        else
+            rows.clear();
+        expected.clear();
+        check();
+        EXPECT_TRUE(rows.empty());
+        append();
+        moveLastTo(0);
+        check();
+    }
+}
+
+TEST_F(Rows, ShareTheirCellsWithNobodyOnceTheyAreGone) {
+    for (int i = 0; i < 5; ++i)
+        append();
+    const Items cells = rows[2].items;
+    EXPECT_TRUE(cells.sharesWith(rows[2].items));
+    rows.remove(2);
+    for (const RowRecord& row : rows)
+        EXPECT_FALSE(cells.sharesWith(row.items));
+    EXPECT_EQ(cells.count(), 1U);
+}
+
+} // namespace
+} // namespace lumtex::testing
