@@ -33,6 +33,7 @@ class Win32TextBox final : public TextBox {
     void letTabStop(bool tabStop) override;
     const FontSpec& font() const override { return font_; }
     void setFont(const FontSpec& font) override;
+    OLE_COLOR ForeColor() const { return foreColor_; }
     void letForeColor(OLE_COLOR color) override;
     String Text() const override;
     /// The caret goes to the start.
