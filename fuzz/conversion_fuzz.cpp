@@ -16,8 +16,8 @@ bool converts(Conversion&& conversion) {
         return true;
     } catch (const RuntimeError& error) {
         const Long number = error.number();
-        fuzz::require(number == overflow || number == typeMismatch || number == invalidUseOfNull ||
-                      number == objectVariableNotSet);
+        fuzz::require(number == ErrorNumber::overflow || number == ErrorNumber::typeMismatch ||
+                      number == ErrorNumber::invalidUseOfNull || number == ErrorNumber::objectVariableNotSet);
         return false;
     }
 }

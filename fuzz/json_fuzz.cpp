@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     try {
         bag.parse({reinterpret_cast<const char*>(data), size});
     } catch (const RuntimeError& error) {
-        fuzz::require(error.number() == invalidFileFormat);
+        fuzz::require(error.number() == ErrorNumber::invalidFileFormat);
         fuzz::require(bag.text() == "{}\n");
         return 0;
     }

@@ -19,7 +19,7 @@ void tryPattern(StringView text, StringView pattern, LikePattern::Letters letter
         const std::vector<unsigned char> bytes(text.begin(), text.end());
         require(ready.matches(text) == ready.matches(std::span<const unsigned char>(bytes)));
     } catch (const RuntimeError& error) {
-        require(error.number() == invalidPatternString);
+        require(error.number() == ErrorNumber::invalidPatternString);
     }
 }
 
@@ -31,7 +31,7 @@ void tryNotation(StringView spec) {
         try {
             require(notation.numbers.at(i) <= limit);
         } catch (const RuntimeError& error) {
-            require(error.number() == typeMismatch);
+            require(error.number() == ErrorNumber::typeMismatch);
         }
     }
 }

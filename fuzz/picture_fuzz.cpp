@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         fuzz::require(isSoundImage(stored));
         fuzz::require(pictureOfImage(stored)->bitmap() == bitmap);
     } catch (const RuntimeError& error) {
-        fuzz::require(error.number() == invalidPicture);
+        fuzz::require(error.number() == ErrorNumber::invalidPicture);
     }
     return 0;
 }

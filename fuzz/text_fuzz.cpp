@@ -17,7 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         surface.letForeColor(input.raw<OLE_COLOR>());
         const String text = input.text();
         Rect place{input.number(), input.number(), input.number(), input.number()};
-        const Long format = input.flag() ? input.raw<Long>() : static_cast<Long>(input.byte());
+        const auto format =
+            static_cast<TextFormat>(input.flag() ? input.raw<Long>() : static_cast<Long>(input.byte()));
         const auto before = surface.image();
         surface.textWidth(text);
         surface.textHeight(text);
@@ -29,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         try {
             surface.print(x, y, text);
         } catch (const RuntimeError& error) { // a place that no pixel has
-            fuzz::require(error.number() == overflow);
+            fuzz::require(error.number() == ErrorNumber::overflow);
         }
         fuzz::require(surface.textWidth({}) == 0);
     }

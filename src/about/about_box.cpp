@@ -72,8 +72,8 @@ bool isInside(const Rect& place, Single x, Single y) {
 }
 
 Point sizeOf(const Picture& picture, const Surface& surface) {
-    return {roundToLong(scaleX(surface, picture.Width(), himetric, pixels)),
-            roundToLong(scaleY(surface, picture.Height(), himetric, pixels))};
+    return {roundToLong(scaleX(surface, picture.Width(), Unit::himetric, Unit::pixels)),
+            roundToLong(scaleY(surface, picture.Height(), Unit::himetric, Unit::pixels))};
 }
 
 } // namespace
@@ -201,7 +201,7 @@ void LumtexAbout::UserControl_MouseMove(Integer /*Button*/, Integer /*Shift*/, S
     const Control under = controlAt(X, Y);
     const bool opens = under == lblLink || under == imgHelp;
     window_->setMouseIcon(opens ? artwork_.hand : nullptr);
-    window_->letMousePointer(opens ? pointerCustom : pointerDefault);
+    window_->letMousePointer(opens ? CursorShape::custom : CursorShape::standard);
 }
 
 void LumtexAbout::UserControl_Click() {

@@ -52,7 +52,7 @@ HRESULT AutomationFace::Invoke(DISPID number,
 const Member& AutomationFace::memberOf(Long number) const {
     const Member* const member = findMember(target_.description(), number);
     if (member == nullptr)
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     return *member;
 }
 

@@ -5,20 +5,20 @@
 namespace lumtex {
 
 HRESULT automationResult(const RuntimeError& error) noexcept {
-    switch (error.number()) {
-    case typeMismatch:
-    case invalidUseOfNull:
-    case objectVariableNotSet:
+    switch (static_cast<ErrorNumber>(error.number())) {
+    case ErrorNumber::typeMismatch:
+    case ErrorNumber::invalidUseOfNull:
+    case ErrorNumber::objectVariableNotSet:
         return DISP_E_TYPEMISMATCH;
-    case overflow:
+    case ErrorNumber::overflow:
         return DISP_E_OVERFLOW;
-    case outOfMemory:
+    case ErrorNumber::outOfMemory:
         return E_OUTOFMEMORY;
-    case objectDoesNotSupportMember:
+    case ErrorNumber::objectDoesNotSupportMember:
         return DISP_E_MEMBERNOTFOUND;
-    case argumentNotOptional:
+    case ErrorNumber::argumentNotOptional:
         return DISP_E_PARAMNOTOPTIONAL;
-    case wrongNumberOfArguments:
+    case ErrorNumber::wrongNumberOfArguments:
         return DISP_E_BADPARAMCOUNT;
     default:
         return resultOf(error.number());

@@ -71,7 +71,7 @@ class Arguments {
         const UINT named = parameters.cNamedArgs;
         const UINT positional = parameters.cArgs - named;
         if (!endsInList(member) && positional > member.count)
-            throw RuntimeError(wrongNumberOfArguments);
+            throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
         for (UINT i = 0; i < positional; ++i)
             take(i, parameters.cArgs - 1 - i);
         for (UINT i = from; i < named; ++i) {

@@ -19,7 +19,7 @@ Interface* objectIn(const Variant& value) {
         return nullptr;
     const OwnedVARIANT held = toVARIANT(value);
     if (V_VT(&held.get()) != VT_DISPATCH)
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     return queryFor<Interface>(V_DISPATCH(&held.get())).detach();
 }
 
@@ -45,7 +45,7 @@ void appendArgument(std::vector<Variant>& arguments, SAFEARRAY* list) {
     if (list == nullptr)
         return;
     if (SafeArrayGetDim(list) != 1)
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     LONG first = 0;
     LONG last = -1;
     demand(SafeArrayGetLBound(list, 1, &first));

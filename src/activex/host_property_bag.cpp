@@ -37,7 +37,7 @@ Variant HostPropertyBag::ReadProperty(StringView name, const Variant& defaultVal
     String key(name);
     const HRESULT read = bag_.Read(wide(key.data()), &value.get(), log_);
     if (couldNotConvert(bag_, wide(key.data()), read))
-        throw RuntimeError(read == DISP_E_OVERFLOW ? overflow : typeMismatch);
+        throw RuntimeError(read == DISP_E_OVERFLOW ? ErrorNumber::overflow : ErrorNumber::typeMismatch);
     if (FAILED(read) || V_VT(&value.get()) == VT_EMPTY)
         return defaultValue;
     return fromVARIANT(value.get());

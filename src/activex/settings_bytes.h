@@ -19,7 +19,7 @@ class SettingsWriter {
     void bytes(const void* from, std::size_t size) {
         ULONG written = 0;
         if (FAILED(stream_.Write(from, static_cast<ULONG>(size), &written)) || written != size)
-            throw RuntimeError(deviceError);
+            throw RuntimeError(ErrorNumber::deviceError);
     }
     template <class T>
     void plain(const T& value) {
@@ -73,7 +73,7 @@ class SettingsReader {
         }
         return all;
     }
-    [[noreturn]] static void refuse() { throw RuntimeError(invalidFileFormat); }
+    [[noreturn]] static void refuse() { throw RuntimeError(ErrorNumber::invalidFileFormat); }
 
   private:
     IStream& stream_;

@@ -40,14 +40,14 @@ bool saveAsTheSystem(SettingsWriter& to, const ComRef<IFont>& font) {
         return false;
     to.plain(fontClass);
     if (FAILED(persist->Save(&to.stream(), TRUE)))
-        throw RuntimeError(deviceError);
+        throw RuntimeError(ErrorNumber::deviceError);
     return true;
 }
 
 void saveFont(SettingsWriter& to, const FontRef& ours) {
     const ComRef<IFont> font = toIFont(ours).as<IFont>();
     if (!font)
-        throw RuntimeError(deviceError);
+        throw RuntimeError(ErrorNumber::deviceError);
     if (saveAsTheSystem(to, font))
         return;
     SHORT weight = FW_NORMAL;
@@ -154,7 +154,7 @@ Variant loadSettingsObject(SettingsReader& from, SettingsKind kind) {
     try {
         return isFont ? loadFont(from, kind) : loadSettingsPicture(from, kind);
     } catch (const RuntimeError& error) {
-        if (error.number() == outOfMemory)
+        if (error.number() == ErrorNumber::outOfMemory)
             throw;
         SettingsReader::refuse();
     }

@@ -31,7 +31,7 @@ void savePlain(SettingsWriter& to, const VARIANT& value) {
     case VT_BSTR:
         return to.text(viewBSTR(V_BSTR(&value)));
     default:
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     }
 }
 

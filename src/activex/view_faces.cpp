@@ -32,7 +32,7 @@ HENHMETAFILE drawEnhanced(ControlCore& core) {
     const RECT frame{0, 0, extent.cx, extent.cy};
     const HDC dc = CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr);
     if (dc == nullptr)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     // The metafile has to be closed whatever happens.
     const HRESULT drawn = guarded([&] {
         core.draw(dc, {0, 0, size.cx, size.cy});
@@ -40,7 +40,7 @@ HENHMETAFILE drawEnhanced(ControlCore& core) {
     });
     OwnedPicture file(CloseEnhMetaFile(dc));
     if (FAILED(drawn) || !file)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     return file.detach();
 }
 
@@ -49,7 +49,7 @@ OwnedPlainPicture drawPlain(ControlCore& core) {
     const SIZE size = core.size();
     const HDC dc = CreateMetaFileW(nullptr);
     if (dc == nullptr)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     SetMapMode(dc, MM_ANISOTROPIC);
     SetWindowOrgEx(dc, 0, 0, nullptr);
     SetWindowExtEx(dc, size.cx, size.cy, nullptr);
@@ -59,14 +59,14 @@ OwnedPlainPicture drawPlain(ControlCore& core) {
     });
     OwnedPlainPicture file(CloseMetaFile(dc));
     if (FAILED(drawn) || !file)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     return file;
 }
 
 HGLOBAL plainPicture(ControlCore& core) {
     OwnedMemory memory(GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(METAFILEPICT)));
     if (!memory)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     const SIZEL extent = core.extent();
     OwnedPlainPicture file = drawPlain(core);
     *static_cast<METAFILEPICT*>(LockedMemory(memory.get()).bytes()) = {

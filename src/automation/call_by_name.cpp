@@ -13,7 +13,7 @@ namespace {
 Variant valueOf(const DefaultValue& value) {
     switch (value.kind) {
     case DefaultValue::Kind::required:
-        throw RuntimeError(argumentNotOptional);
+        throw RuntimeError(ErrorNumber::argumentNotOptional);
     case DefaultValue::Kind::missing:
         return Missing{};
     case DefaultValue::Kind::nothing:
@@ -39,7 +39,7 @@ String inLowerCase(StringView name) {
 
 Member::Invoke needEntry(Member::Invoke entry) {
     if (entry == nullptr)
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     return entry;
 }
 
@@ -71,7 +71,7 @@ const Member* findMember(const ClassDescription& of, Long number) {
 const Member& CallByName::needMember(StringView name) const {
     const Member* member = findMember(class_, name);
     if (member == nullptr)
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     return *member;
 }
 
@@ -97,13 +97,13 @@ Variant CallByName::get(const Member& member, std::span<Variant> arguments) {
 
 void CallByName::let(const Member& member, std::span<Variant> arguments, const Variant& value) {
     if (member.isReference())
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     invoke(member, needEntry(member.let), arguments, &value);
 }
 
 void CallByName::set(const Member& member, std::span<Variant> arguments, const Variant& value) {
     if (!member.isReference())
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     invoke(member, needEntry(member.let), arguments, &value);
 }
 
@@ -118,7 +118,7 @@ Variant CallByName::invoke(const Member& member,
                            const Variant* value) {
     const std::size_t fixed = endsInList(member) ? member.count - 1 : member.count;
     if (arguments.size() > fixed && !endsInList(member))
-        throw RuntimeError(wrongNumberOfArguments);
+        throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
 
     std::vector<Variant> all(arguments.begin(), arguments.end());
     all.resize(std::max(all.size(), fixed), Missing{});

@@ -14,17 +14,17 @@ class FoundRecord final : public Object {
 
     Variant get(StringView name, std::span<Variant> arguments) override {
         if (!arguments.empty())
-            throw RuntimeError(wrongNumberOfArguments);
+            throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
         if (sameName(name, u"FindSuccessful"))
             return found_.FindSuccessful;
         if (sameName(name, u"FindRow"))
             return found_.FindRow;
         if (sameName(name, u"FindColumn"))
             return found_.FindColumn;
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView name, std::span<Variant> arguments) override { return get(name, arguments); }
 

@@ -31,7 +31,7 @@ constexpr BarTraits verticalBar{.axis = Axis::vertical,
                                 .high = Arrow::down,
                                 .pressLow = 1,
                                 .pressHigh = 2,
-                                .trough = leftToRight,
+                                .trough = GradientDirection::leftToRight,
                                 .jumpsLines = true};
 
 constexpr BarTraits horizontalBar{.axis = Axis::horizontal,
@@ -43,7 +43,7 @@ constexpr BarTraits horizontalBar{.axis = Axis::horizontal,
                                   .high = Arrow::right,
                                   .pressLow = 2,
                                   .pressHigh = 1,
-                                  .trough = bottomToTop,
+                                  .trough = GradientDirection::bottomToTop,
                                   .jumpsLines = false};
 
 } // namespace lumtex

@@ -304,7 +304,7 @@ const ScrollArtwork& ScrollArtwork::standard() {
 
 const Picture& pictureAt(std::span<const PictureRef> img, Double index) {
     if (!(index >= 1 && index < static_cast<Double>(img.size())))
-        throw RuntimeError(subscriptOutOfRange);
+        throw RuntimeError(ErrorNumber::subscriptOutOfRange);
     return *img[static_cast<std::size_t>(index)];
 }
 

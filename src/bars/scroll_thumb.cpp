@@ -129,7 +129,7 @@ void ScrollThumb::paintScheme(Procedure& p) {
     const auto h = static_cast<Single>(surface.scaleHeight());
     p.step([&] {
         // Wanted: the height is in twips, so that the first row of the body covers the whole thumb.
-        const Single height = scaleY(surface, window_->Height(), pixels, twips) - 1;
+        const Single height = scaleY(surface, window_->Height(), Unit::pixels, Unit::twips) - 1;
         surface.paintPicture(pictureAt(img_, imageIndex_), 1, 0, w - 2, height);
     });
     // Wanted: the box of a horizontal thumb ends one pixel further in.

@@ -15,7 +15,7 @@ void ContentReader::open(StringView path) {
 
 void ContentReader::close() {
     file_.reset();
-    failure_ = badFileNumber;
+    failure_ = numberOf(ErrorNumber::badFileNumber);
     goToEnd();
 }
 
@@ -52,7 +52,7 @@ void ContentReader::fetch(std::size_t size) {
     demandUsable();
     if (size > end_ - place_) {
         goToEnd();
-        throw RuntimeError(inputPastEnd);
+        throw RuntimeError(ErrorNumber::inputPastEnd);
     }
 }
 
@@ -66,10 +66,10 @@ bool ContentReader::lookAhead() {
 void ContentReader::demand(Long length) {
     demandUsable();
     if (length < 0)
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     if (length > remaining()) {
         goToEnd();
-        throw RuntimeError(inputPastEnd);
+        throw RuntimeError(ErrorNumber::inputPastEnd);
     }
 }
 

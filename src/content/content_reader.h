@@ -68,7 +68,7 @@ class ContentReader {
     std::size_t place_ = 0; ///< of the buffer, where reading goes on
     std::size_t end_ = 0;   ///< of what the buffer holds
     std::int64_t behindBuffer_ = 0;
-    Long failure_ = badFileNumber; ///< what reading fails with; 0 while it does not
+    Long failure_ = numberOf(ErrorNumber::badFileNumber); ///< what reading fails with; 0 while it does not
 };
 
 } // namespace lumtex

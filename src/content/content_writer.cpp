@@ -47,7 +47,7 @@ void ContentWriter::close() {
             lost = std::current_exception();
         }
     }
-    failure_ = badFileNumber;
+    failure_ = numberOf(ErrorNumber::badFileNumber);
     buffer_.clear();
     used_ = 0;
     file->close();

@@ -52,9 +52,9 @@ class ContentWriter {
 
     Runtime& runtime_;
     std::unique_ptr<OutputFile> file_;
-    std::vector<Byte> buffer_;     ///< empty, so that there is never room, while nothing can be written
-    std::size_t used_ = 0;         ///< bytes of the buffer that wait
-    Long failure_ = badFileNumber; ///< what a `put` fails with; 0 while none does
+    std::vector<Byte> buffer_; ///< empty, so that there is never room, while nothing can be written
+    std::size_t used_ = 0;     ///< bytes of the buffer that wait
+    Long failure_ = numberOf(ErrorNumber::badFileNumber); ///< what a `put` fails with; 0 while none does
 };
 
 } // namespace lumtex

@@ -12,7 +12,7 @@ constexpr StringView defaultMember{};
 
 Object& RecordsetMembers::recordset() const {
     if (!recordset_)
-        throw RuntimeError(objectVariableNotSet);
+        throw RuntimeError(ErrorNumber::objectVariableNotSet);
     return *recordset_;
 }
 

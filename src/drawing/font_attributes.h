@@ -20,7 +20,7 @@ void readFontAttributes(const Held<FontRef>& font, Statement statement, Take tak
         // Nobody can look between the attributes of a font that is there, so they come at once.
         const bool taken = statement([&] {
             if (!font)
-                throw RuntimeError(objectVariableNotSet);
+                throw RuntimeError(ErrorNumber::objectVariableNotSet);
             take(font->spec);
         });
         if (taken)

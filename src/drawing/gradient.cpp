@@ -82,16 +82,17 @@ Span spanOf(Long from, Long to) {
 
 } // namespace
 
-void DrawGradient(Surface& surface, const Rect* rect, OLE_COLOR colour1, OLE_COLOR colour2, Long direction) {
+void DrawGradient(
+    Surface& surface, const Rect* rect, OLE_COLOR colour1, OLE_COLOR colour2, GradientDirection direction) {
     ignoringErrors([&] {
         if (rect == nullptr)
             return;
         const Long width = roundToLong(static_cast<Double>(rect->Right) - rect->Left);
         const Long height = roundToLong(static_cast<Double>(rect->Bottom) - rect->Top);
         // Across the run an extent below zero mirrors: it reaches to the other side from the first pixel on.
-        const Span across =
-            direction == leftToRight ? spanOf(rect->Top, rect->Bottom) : spanOf(rect->Left, rect->Right);
-        if (direction == leftToRight && width > 0) {
+        const Span across = direction == GradientDirection::leftToRight ? spanOf(rect->Top, rect->Bottom)
+                                                                        : spanOf(rect->Left, rect->Right);
+        if (direction == GradientDirection::leftToRight && width > 0) {
             const Stretch run = stretchOf(rect->Left, rect->Right, surface.scaleWidth());
             if (run.first >= run.last)
                 return;
@@ -101,7 +102,7 @@ void DrawGradient(Surface& surface, const Rect* rect, OLE_COLOR colour1, OLE_COL
                 colorRun(skipped, static_cast<std::size_t>(shown), colour1, colour2, width);
             bytes.resize((bytes.size() + 3) / 4 * 4);
             surface.stretchDIBits(run.first, across.first, shown, across.extent, {shown, 1, bytes});
-        } else if (direction == bottomToTop && height > 0) {
+        } else if (direction == GradientDirection::bottomToTop && height > 0) {
             const Stretch run = stretchOf(rect->Top, rect->Bottom, surface.scaleHeight());
             if (run.first >= run.last)
                 return;

@@ -7,7 +7,7 @@ namespace lumtex {
 
 Variant ApplicationObject::get(StringView name, std::span<Variant> arguments) {
     if (!arguments.empty())
-        throw RuntimeError(wrongNumberOfArguments);
+        throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
     if (sameName(name, u"EXEName"))
         return component_.exeName;
     if (sameName(name, u"Path"))
@@ -18,11 +18,11 @@ Variant ApplicationObject::get(StringView name, std::span<Variant> arguments) {
         return component_.minor;
     if (sameName(name, u"Revision"))
         return component_.revision;
-    throw RuntimeError(objectDoesNotSupportMember);
+    throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
 }
 
 void ApplicationObject::put(StringView /*name*/, const Variant& /*value*/) {
-    throw RuntimeError(objectDoesNotSupportMember);
+    throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
 }
 
 Variant ApplicationObject::call(StringView name, std::span<Variant> arguments) {

@@ -12,7 +12,7 @@ RuntimeError failureFrom(const std::exception& caught) {
         return *error;
     if (dynamic_cast<const std::bad_alloc*>(&caught) != nullptr ||
         dynamic_cast<const std::length_error*>(&caught) != nullptr)
-        return RuntimeError(outOfMemory);
+        return RuntimeError(ErrorNumber::outOfMemory);
     throw;
 }
 
@@ -21,9 +21,10 @@ RuntimeError failureOfHandler(const std::exception& caught) {
         return failureFrom(caught);
     } catch (const std::exception& foreign) {
         try {
-            return RuntimeError(automationError, fromUtf8(foreign.what()));
+            return RuntimeError(ErrorNumber::automationError, fromUtf8(foreign.what()));
         } catch (const std::exception&) {
-            return RuntimeError(automationError); // without its own text, where there is no memory for it
+            return RuntimeError(
+                ErrorNumber::automationError); // without its own text, where there is no memory for it
         }
     }
 }

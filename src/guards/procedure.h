@@ -85,7 +85,7 @@ class [[nodiscard]] Procedure {
         } catch (const std::exception& caught) {
             report(failureOfHandler(caught));
         } catch (...) {
-            report(RuntimeError(automationError));
+            report(RuntimeError(ErrorNumber::automationError));
         }
     }
 

@@ -16,7 +16,7 @@ constexpr StringView lineEnd = u"\r\n";
 
 Object& objectOf(const ObjectRef& reference) {
     if (!reference)
-        throw RuntimeError(objectVariableNotSet);
+        throw RuntimeError(ErrorNumber::objectVariableNotSet);
     return *reference;
 }
 

@@ -27,7 +27,7 @@ void TextFile::openForOutput(StringView path) {
 
 void TextFile::demandOpen() const {
     if (!open_)
-        throw RuntimeError(badFileNumber);
+        throw RuntimeError(ErrorNumber::badFileNumber);
 }
 
 void TextFile::writeOut() {

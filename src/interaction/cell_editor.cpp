@@ -1,15 +1,10 @@
 #include "interaction/cell_editor.h"
 
 #include "model/list_view.h"
+#include "platform/keys.h"
 #include "values/rounding.h"
 
 namespace lumtex {
-
-namespace {
-
-constexpr Integer enterKey = 13;
-
-} // namespace
 
 CellEditor::CellEditor(ListViewCore& core)
     : ListPart(core), txtEdit_(core.world().createTextBox(*core.listWindow, *this)) {}
@@ -17,7 +12,7 @@ CellEditor::CellEditor(ListViewCore& core)
 void CellEditor::acceptIfOpen() {
     if (!isOpen())
         return;
-    Integer key = enterKey;
+    Integer key = keys::enter;
     textBoxKeyPress(key);
 }
 
@@ -29,7 +24,7 @@ void CellEditor::StopEdit() {
 }
 
 void CellEditor::textBoxKeyPress(Integer& KeyAscii) {
-    if (KeyAscii != enterKey)
+    if (KeyAscii != keys::enter)
         return;
     Procedure p = procedure(u"txtEdit_KeyPress");
     p.step([&] {

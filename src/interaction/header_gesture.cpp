@@ -54,7 +54,7 @@ void HeaderGesture::moveOverHeaders(Single X, Single Y, Procedure& p) {
     if (state_.hoverColumn != -1 && Y >= height)
         list_.Redraw();
     if (!properties_.HideColumnHeaders && Y > static_cast<Single>(core_.painting->ColumnHeight()))
-        p.step([&] { window_.letMousePointer(pointerDefault); });
+        p.step([&] { window_.letMousePointer(CursorShape::standard); });
 }
 
 void HeaderGesture::trackMouse(const ColumnSpan& span, Single headerHeight) {
@@ -118,9 +118,10 @@ void HeaderGesture::endResize(Single X, Procedure& p) {
     const auto oldWidth = p.value<Single>([&] { return records_.columnAt(resized).Width; });
     const auto newWidth = p.value<Single>([&] {
         const Double right = static_cast<Double>(X) + core_.scroller->horizontal().Value();
-        return scaleX(surface, right, pixels, twips) - records_.columnAt(resized).Left;
+        return scaleX(surface, right, Unit::pixels, Unit::twips) - records_.columnAt(resized).Left;
     });
-    const Single minWidth = scaleX(surface, properties_.IconW / 2 + properties_.IconW, pixels, twips);
+    const Single minWidth =
+        scaleX(surface, properties_.IconW / 2 + properties_.IconW, Unit::pixels, Unit::twips);
     p.step([&] { records_.columnAt(resized).Width = std::max(newWidth, minWidth); });
     for (Long i = std::max<Long>(resized, 0); i < records_.ColumnsCount() - 1; ++i) {
         // Wanted: what is taken off is always the old width of the resized column, so only its first

@@ -1,34 +1,25 @@
 /// Keys: the arrows that move the current row, and the flags that presses ask for.
 #include "interaction/selection.h"
 #include "model/list_view.h"
+#include "platform/keys.h"
 #include "scroll/scroller.h"
 #include "values/rounding.h"
 
 namespace lumtex {
-
-namespace {
-
-/// The classic virtual key numbers.
-constexpr Integer shiftKey = 16;
-constexpr Integer controlKey = 17;
-constexpr Integer upKey = 38;
-constexpr Integer downKey = 40;
-
-} // namespace
 
 void Selection::keyDown(Integer KeyCode, Integer Shift) {
     Procedure p = procedure(u"UserControl_KeyDown");
     // The host may turn the key into another one.
     p.raise([&] { core_.events().KeyDown(KeyCode, Shift); });
     // Wanted: only the key pressed last counts, so Shift and Control are never held together.
-    state_.shiftDown = KeyCode == shiftKey;
-    state_.ctrlDown = KeyCode == controlKey;
+    state_.shiftDown = KeyCode == keys::shift;
+    state_.ctrlDown = KeyCode == keys::control;
     const Long visible = core_.scroller->VisibleItems();
     if (records_.RowsCount() == 0)
         return;
-    if (KeyCode == downKey)
+    if (KeyCode == keys::down)
         arrowDown(visible, p);
-    else if (KeyCode == upKey)
+    else if (KeyCode == keys::up)
         arrowUp(visible, p);
 }
 

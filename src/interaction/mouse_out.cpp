@@ -13,11 +13,11 @@ void Mouse::MouseOut(Single X, Single Y) {
     } else if (!window_.underPointer()) {
         window_.releaseCapture();
         state_.mouseInside = false;
-        window_.letMousePointer(pointerDefault);
+        window_.letMousePointer(CursorShape::standard);
     } else {
         window_.setCapture();
         if (!state_.mouseInside)
-            window_.letMousePointer(pointerDefault);
+            window_.letMousePointer(CursorShape::standard);
         state_.mouseInside = true;
     }
 }

@@ -81,8 +81,8 @@ bool Mouse::inCheckBoxZone(Single X, Single Y, Procedure& p) {
                 list_.ItemIconAlignment(row, core_.headerGesture->currentColumn() + 1);
             const ColumnHeader& column = records_.columnAt(core_.headerGesture->currentColumn());
             const auto zone = checkBoxZone(alignment,
-                                           scaleX(surface, column.Left, twips, pixels),
-                                           scaleX(surface, column.Width, twips, pixels),
+                                           scaleX(surface, column.Left, Unit::twips, Unit::pixels),
+                                           scaleX(surface, column.Width, Unit::twips, Unit::pixels),
                                            GetPictureWidth(surface, box),
                                            core_.scroller->horizontal().Value());
             return zone && zone->contains(X);

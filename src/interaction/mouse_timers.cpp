@@ -19,7 +19,7 @@ void Mouse::tmrMouseIn_Timer() {
         return;
     }
     state_.mouseInside = false;
-    p.step([&] { window_.letMousePointer(pointerDefault); });
+    p.step([&] { window_.letMousePointer(CursorShape::standard); });
     list_.Redraw();
     p.step([&] { tmrMouseIn_->letEnabled(false); });
 }

@@ -21,7 +21,7 @@ void CellEditor::SetEdit(const Variant& Row, const Variant& Column) {
     p.step([&] { txtEdit_->letWidth(core_.painting->columnWidthInPixels(zeroBased(Column)) - 1); });
     p.step([&] {
         const Single left =
-            scaleX(window_.surface(), records_.columnAt(zeroBased(Column)).Left, twips, pixels);
+            scaleX(window_.surface(), records_.columnAt(zeroBased(Column)).Left, Unit::twips, Unit::pixels);
         txtEdit_->letLeft(
             static_cast<Single>(static_cast<Double>(left) - core_.scroller->horizontal().Value() + 1));
     });

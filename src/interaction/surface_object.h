@@ -16,14 +16,14 @@ class SurfaceObject final : public Object {
 
     Variant get(StringView name, std::span<Variant> /*arguments*/) override {
         if (name != u"hwnd")
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         return Variant(handle_);
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView /*name*/, std::span<Variant> /*arguments*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
 
   private:

@@ -20,7 +20,7 @@ void ListViewRecords::styleLet(StringView name,
     itemLet(name, Row, Column, [&](const Cell& cell) {
         if constexpr (std::is_same_v<ValueOf<T>, Variant>) {
             if (value.isUnsupported())
-                throw RuntimeError(typeMismatch);
+                throw RuntimeError(ErrorNumber::typeMismatch);
         }
         cell.item().restyle([&](CellStyle& style) { style.*field = value; });
     });
@@ -134,7 +134,7 @@ void ListViewRecords::letItemTag(const Variant& Row, const Variant& Column, cons
     p.step([&] {
         const Cell cell = records.cellAt(Row, Column);
         if (tag.isUnsupported())
-            throw RuntimeError(typeMismatch);
+            throw RuntimeError(ErrorNumber::typeMismatch);
         cell.items.letTag(cell.index, tag);
     });
 }

@@ -6,19 +6,19 @@ namespace lumtex {
 
 Long ListRecords::upperBoundOfRows() const {
     if (rows_.empty())
-        throw RuntimeError(subscriptOutOfRange);
+        throw RuntimeError(ErrorNumber::subscriptOutOfRange);
     return static_cast<Long>(rows_.size()) - 1;
 }
 
 Long ListRecords::upperBoundOfColumns() const {
     if (columns_.empty())
-        throw RuntimeError(subscriptOutOfRange);
+        throw RuntimeError(ErrorNumber::subscriptOutOfRange);
     return static_cast<Long>(columns_.size()) - 1;
 }
 
 RowRecord& ListRecords::recordAt(Long position) {
     if (position < 0 || static_cast<std::size_t>(position) >= rows_.size())
-        throw RuntimeError(subscriptOutOfRange);
+        throw RuntimeError(ErrorNumber::subscriptOutOfRange);
     return rows_[static_cast<std::size_t>(position)];
 }
 
@@ -28,7 +28,7 @@ RowRecord& ListRecords::rowAt(const Variant& Index) {
 
 ColumnHeader& ListRecords::columnAt(Long position) {
     if (position < 0 || static_cast<std::size_t>(position) >= columns_.size())
-        throw RuntimeError(subscriptOutOfRange);
+        throw RuntimeError(ErrorNumber::subscriptOutOfRange);
     std::unique_ptr<ColumnHeader>& slot = columns_[static_cast<std::size_t>(position)];
     if (!slot)
         slot = std::make_unique<ColumnHeader>();
@@ -39,10 +39,10 @@ ListRecords::Cell ListRecords::cellAt(const Variant& Row, const Variant& Column)
     Items& items = rowAt(Row).items;
     // Wanted: a text is a key, and no cell has a key, so that a numeric text fails too.
     if (Column.isString())
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     const Long number = Column.toLong();
     if (number < 1 || static_cast<std::size_t>(number) > items.count())
-        throw RuntimeError(subscriptOutOfRange);
+        throw RuntimeError(ErrorNumber::subscriptOutOfRange);
     return {items, static_cast<std::size_t>(number) - 1};
 }
 

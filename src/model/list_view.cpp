@@ -46,8 +46,10 @@ lmListView::lmListView(World& world, Host& host, lmListViewEvents& events, Windo
     // The size of the design comes before the properties, so it must not paint.
     painting->hold();
     const Surface& surface = core.listWindow->surface();
-    core.listWindow->place(
-        0, 0, scaleX(surface, designWidth, twips, pixels), scaleY(surface, designHeight, twips, pixels));
+    core.listWindow->place(0,
+                           0,
+                           scaleX(surface, designWidth, Unit::twips, Unit::pixels),
+                           scaleY(surface, designHeight, Unit::twips, Unit::pixels));
     painting->release();
 }
 

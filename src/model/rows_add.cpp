@@ -94,7 +94,7 @@ void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<Strin
     // A report above may have let host code take rows away, the new one among them.
     const bool placed = p.step([&] {
         if (place < 0 || place > records.upperBoundOfRows())
-            throw RuntimeError(subscriptOutOfRange);
+            throw RuntimeError(ErrorNumber::subscriptOutOfRange);
         records.rows().moveLastTo(static_cast<std::size_t>(place));
         RowRecord& row = records.recordAt(place);
         row.Enabled = true;

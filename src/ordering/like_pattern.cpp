@@ -50,7 +50,7 @@ LikePattern::LikePattern(StringView pattern, Letters letters) : letters_(letters
 std::size_t LikePattern::addList(StringView pattern, std::size_t next) {
     const std::size_t end = pattern.find(u']', next);
     if (end == StringView::npos)
-        throw RuntimeError(invalidPatternString);
+        throw RuntimeError(ErrorNumber::invalidPatternString);
     StringView units = pattern.substr(next, end - next);
     if (units.empty())
         return end + 1;
@@ -73,7 +73,7 @@ std::size_t LikePattern::addList(StringView pattern, std::size_t next) {
 
 void LikePattern::add(List& list, char16_t first, char16_t last) {
     if (last < first)
-        throw RuntimeError(invalidPatternString);
+        throw RuntimeError(ErrorNumber::invalidPatternString);
     for (std::size_t unit = first; unit <= last && unit < list.low.size(); ++unit)
         list.low.set(unit);
     if (last >= list.low.size())

@@ -21,14 +21,14 @@ void NumberList::appendUnreadable() {
 
 Long NumberList::at(std::size_t position) const {
     if (position >= size_)
-        throw RuntimeError(subscriptOutOfRange);
+        throw RuntimeError(ErrorNumber::subscriptOutOfRange);
     const auto next =
         std::upper_bound(ranges_.begin(), ranges_.end(), position, [](std::size_t value, const Range& range) {
             return value < range.start;
         });
     const Range& range = *(next - 1);
     if (!range.readable)
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     return static_cast<Long>(range.first + static_cast<std::int64_t>(position - range.start));
 }
 

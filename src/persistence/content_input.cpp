@@ -121,7 +121,7 @@ class LoadStepwise {
     CellStyle lookOfDefaultFont() const {
         const FontRef font = list_.DefaultItemFont();
         if (!font)
-            throw RuntimeError(objectVariableNotSet);
+            throw RuntimeError(ErrorNumber::objectVariableNotSet);
         CellStyle look;
         look.font = font->spec;
         return look;
@@ -157,7 +157,7 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
     RowsClear();
     const bool possible = p.step([&] {
         if (!isPossible(header, file.remaining(), ColumnsCount()))
-            throw RuntimeError(outOfMemory);
+            throw RuntimeError(ErrorNumber::outOfMemory);
     });
     if (possible && header.rowCount > 0) {
         for (Long row = 1; row <= header.rowCount; ++row)

@@ -16,7 +16,7 @@ Variant lmListView::startOf(const Row& row) const {
     case Start::Kind::containersFont:
         return lblFont;
     case Start::Kind::sixteenPixels:
-        return scaleY(listWindow->surface(), defaultRowHeight, pixels, twips);
+        return scaleY(listWindow->surface(), defaultRowHeight, Unit::pixels, Unit::twips);
     case Start::Kind::jumpLines:
         return knownProgram ? Long{4} : Long{1};
     case Start::Kind::noPicture:

@@ -25,7 +25,7 @@ void joinFields(RecordSource& records, String& line, Procedure& p, Long& counter
     });
     p.step([&] {
         if (line.empty())
-            throw RuntimeError(invalidProcedureCall);
+            throw RuntimeError(ErrorNumber::invalidProcedureCall);
         line.pop_back();
     });
 }

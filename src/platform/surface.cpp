@@ -12,19 +12,19 @@ namespace {
 
 constexpr Double twipsPerInch = 1440;
 
-Double unitsPerInch(ScaleUnit unit, Double pixelsPerInch) {
+Double unitsPerInch(Unit unit, Double pixelsPerInch) {
     switch (unit) {
-    case twips:
+    case Unit::twips:
         return twipsPerInch;
-    case himetric:
+    case Unit::himetric:
         return himetricPerInch;
-    case pixels:
+    case Unit::pixels:
         break;
     }
     return pixelsPerInch;
 }
 
-Single scale(Double value, ScaleUnit from, ScaleUnit to, Double pixelsPerInch) {
+Single scale(Double value, Unit from, Unit to, Double pixelsPerInch) {
     return static_cast<Single>(value * unitsPerInch(to, pixelsPerInch) / unitsPerInch(from, pixelsPerInch));
 }
 
@@ -90,19 +90,19 @@ void Surface::paintPicture(const Picture& picture, const Area& target, const Are
     blendPicture(source, copy.source, copy.target);
 }
 
-Single scaleX(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to) {
+Single scaleX(const Surface& surface, Double value, Unit from, Unit to) {
     return scale(value, from, to, surface.pixelsPerInchX());
 }
 
-Single scaleY(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to) {
+Single scaleY(const Surface& surface, Double value, Unit from, Unit to) {
     return scale(value, from, to, surface.pixelsPerInchY());
 }
 
 Point pictureSize(const Surface& surface, const Picture& picture) {
     if (picture.isPixelArt())
         return {picture.bitmap().width, picture.bitmap().height};
-    return {roundToLong(scaleX(surface, picture.Width(), himetric, pixels)),
-            roundToLong(scaleY(surface, picture.Height(), himetric, pixels))};
+    return {roundToLong(scaleX(surface, picture.Width(), Unit::himetric, Unit::pixels)),
+            roundToLong(scaleY(surface, picture.Height(), Unit::himetric, Unit::pixels))};
 }
 
 } // namespace lumtex

@@ -11,16 +11,26 @@
 
 namespace lumtex {
 
-/// Format bits of `drawText`; left, centre and right are 0, 1 and 2.
-enum TextFormat : Long {
-    dtLeft = 0x0,
-    dtCenter = 0x1,
-    dtRight = 0x2,
-    dtVCenter = 0x4,
-    dtSingleLine = 0x20,
-    dtCalcRect = 0x400,
-    dtWordEllipsis = 0x40000,
+/// How `drawText` sets a text, bit by bit; left, centre and right are 0, 1 and 2.
+enum class TextFormat : Long {
+    left = 0x0,
+    center = 0x1,
+    right = 0x2,
+    vCenter = 0x4,
+    singleLine = 0x20,
+    calcRect = 0x400, ///< nothing is painted, and the rectangle becomes what the text needs
+    wordEllipsis = 0x40000,
 };
+
+constexpr TextFormat operator|(TextFormat a, TextFormat b) {
+    return static_cast<TextFormat>(static_cast<Long>(a) | static_cast<Long>(b));
+}
+constexpr TextFormat operator&(TextFormat a, TextFormat b) {
+    return static_cast<TextFormat>(static_cast<Long>(a) & static_cast<Long>(b));
+}
+constexpr bool has(TextFormat format, TextFormat bit) {
+    return (format & bit) == bit;
+}
 
 /// A rectangle in whole or broken pixels.
 struct Area {
@@ -114,20 +124,19 @@ class Surface {
     virtual Single textWidth(StringView text) = 0;
     virtual Single textHeight(StringView text) = 0;
 
-    /// The platform's formatted output, by `TextFormat` bits, clipped to `rect`. With dtCalcRect nothing is
-    /// painted and `rect` is set to what the text needs. Returns the height of the text in pixels, counted
+    /// The platform's formatted output, clipped to `rect`. Returns the height of the text in pixels, counted
     /// from the top of `rect`. Lines break at CR, LF and CR LF, never at words. A line too wide for `rect`
-    /// ends in an ellipsis when dtWordEllipsis is set.
-    virtual Long drawText(StringView text, Rect& rect, Long format) = 0;
+    /// ends in an ellipsis if the format says so.
+    virtual Long drawText(StringView text, Rect& rect, TextFormat format) = 0;
 
     /// A copy of what stands on the surface now, as a picture box's `Image` gives it.
     virtual Bitmap image() const = 0;
 };
 
 /// `value` in another unit, unrounded, computed in double precision and held as Single.
-Single scaleX(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to);
+Single scaleX(const Surface& surface, Double value, Unit from, Unit to);
+Single scaleY(const Surface& surface, Double value, Unit from, Unit to);
 /// The size of a picture on a surface, in whole pixels. Throws RuntimeError 6 for one beyond all numbers.
 Point pictureSize(const Surface& surface, const Picture& picture);
-Single scaleY(const Surface& surface, Double value, ScaleUnit from, ScaleUnit to);
 
 } // namespace lumtex

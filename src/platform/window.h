@@ -11,10 +11,7 @@ namespace lumtex {
 using WindowHandle = Long;
 
 /// Shapes of the pointer: the default one, or the picture given beside it.
-enum MousePointerShape : Integer {
-    pointerDefault = 0,
-    pointerCustom = 99,
-};
+enum class CursorShape : Byte { standard, custom };
 
 /// Created by a World under a parent, owned by the control it belongs to. Positions and sizes are pixels of
 /// the parent's surface. Destroying a window takes it off the screen; its children must be gone before.
@@ -43,7 +40,7 @@ class Window {
     virtual void letEnabled(bool enabled) = 0;
     virtual void letOLEDropMode(Long mode) = 0;
 
-    virtual void letMousePointer(Integer shape) = 0;
+    virtual void letMousePointer(CursorShape shape) = 0;
     virtual void setMouseIcon(PictureRef icon) = 0;
 
     virtual void setFocus() = 0;

@@ -69,7 +69,7 @@ FaceFile FontLibrary::Implementation::find(const FaceRequest& request, char32_t 
 FtFaceHandle FontLibrary::Implementation::open(const FaceFile& file, Long pixels) const {
     FT_Face face = nullptr;
     if (FT_New_Face(freetype.get(), file.path.c_str(), file.index, &face) != 0)
-        throw RuntimeError(fileNotFound);
+        throw RuntimeError(ErrorNumber::fileNotFound);
     FtFaceHandle handle(face);
     FT_Set_Pixel_Sizes(face, 0, static_cast<FT_UInt>(pixels));
     return handle;
@@ -87,7 +87,7 @@ std::unique_ptr<FontLibrary::Implementation> implementationOf(FcConfigHandle con
     implementation->configuration = std::move(configuration);
     FT_Library freetype = nullptr;
     if (!implementation->configuration || FT_Init_FreeType(&freetype) != 0)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     implementation->freetype.reset(freetype);
     return implementation;
 }
@@ -105,7 +105,7 @@ std::shared_ptr<FontLibrary> FontLibrary::fromConfiguration(const std::filesyste
     const auto* path = reinterpret_cast<const FcChar8*>(file.c_str());
     if (!configuration || FcConfigParseAndLoad(configuration.get(), path, FcTrue) == FcFalse ||
         FcConfigBuildFonts(configuration.get()) == FcFalse)
-        throw RuntimeError(fileNotFound);
+        throw RuntimeError(ErrorNumber::fileNotFound);
     return std::shared_ptr<FontLibrary>(new FontLibrary(implementationOf(std::move(configuration))));
 }
 

@@ -161,7 +161,7 @@ Single RasterSurface::textHeight(StringView text) {
     return static_cast<Single>(lines) * static_cast<Single>(typeface().lineHeight());
 }
 
-Long RasterSurface::drawText(StringView text, Rect& rect, Long format) {
+Long RasterSurface::drawText(StringView text, Rect& rect, TextFormat format) {
     raster::TextPainter painter(
         canvas(), typeface(), pixelOf(foreColor_), font_.Underline, font_.Strikethrough);
     return painter.drawText(drawnPart(text), rect, format, scratch_);

@@ -46,7 +46,7 @@ class RasterSurface final : public Surface {
     void print(Single x, Single y, StringView text) override;
     Single textWidth(StringView text) override;
     Single textHeight(StringView text) override;
-    Long drawText(StringView text, Rect& rect, Long format) override;
+    Long drawText(StringView text, Rect& rect, TextFormat format) override;
 
     Bitmap image() const override;
 

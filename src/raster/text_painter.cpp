@@ -11,7 +11,7 @@ namespace {
 
 constexpr char16_t prefix = u'&';
 constexpr StringView ellipsis = u"...";
-constexpr Long alignmentMask = dtCenter | dtRight;
+constexpr TextFormat alignmentMask = TextFormat::center | TextFormat::right;
 
 Long clampToLong(std::int64_t value) {
     return static_cast<Long>(std::clamp<std::int64_t>(value, -0x7FFFFFFF, 0x7FFFFFFF));
@@ -96,8 +96,8 @@ TextPainter::drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const R
 }
 
 /// What of a line is drawn in `room` pixels. In the narrowest places that is the dots alone.
-TextPainter::Shown TextPainter::shownOf(StringView line, std::int64_t room, Long format) {
-    if ((format & dtWordEllipsis) == 0)
+TextPainter::Shown TextPainter::shownOf(StringView line, std::int64_t room, TextFormat format) {
+    if (!has(format, TextFormat::wordEllipsis))
         return {typeface_.width(line), Typeface::maximum, false};
     const auto most = static_cast<Long>(std::clamp<std::int64_t>(room, 0, Typeface::maximum - 1));
     const Long whole = typeface_.width(line, most);
@@ -121,16 +121,16 @@ void TextPainter::drawLine(StringView line, std::int64_t x, std::int64_t y, cons
     rules(x, drawGlyphs(line, x, y, clip, Typeface::maximum), y, clip);
 }
 
-void TextPainter::drawLineIn(const Line& line, const Rect& rect, std::int64_t y, Long format) {
+void TextPainter::drawLineIn(const Line& line, const Rect& rect, std::int64_t y, TextFormat format) {
     const Rect clip = intersection(rect, canvas_.bounds());
     if (clip.Left >= clip.Right || y >= clip.Bottom || y + typeface_.lineHeight() <= clip.Top)
         return;
     const std::int64_t room = std::int64_t{rect.Right} - rect.Left;
     const Shown shown = shownOf(line.text, room, format);
     std::int64_t x = rect.Left;
-    if ((format & alignmentMask) == dtCenter)
+    if ((format & alignmentMask) == TextFormat::center)
         x += (room - shown.width) / 2;
-    else if ((format & alignmentMask) == dtRight)
+    else if ((format & alignmentMask) == TextFormat::right)
         x += room - shown.width;
     std::int64_t end = drawGlyphs(line.text, x, y, clip, shown.letters);
     if (shown.cut)
@@ -147,10 +147,10 @@ void TextPainter::drawLineIn(const Line& line, const Rect& rect, std::int64_t y,
     fillArea(canvas_, intersection(area, clip), color_);
 }
 
-Long TextPainter::drawText(StringView text, Rect& rect, Long format, String& scratch) {
+Long TextPainter::drawText(StringView text, Rect& rect, TextFormat format, String& scratch) {
     const Long lineHeight = typeface_.lineHeight();
-    const bool singleLine = (format & dtSingleLine) != 0;
-    const bool calculate = (format & dtCalcRect) != 0;
+    const bool singleLine = has(format, TextFormat::singleLine);
+    const bool calculate = has(format, TextFormat::calcRect);
     // In a single line breaks are drawn like other controls: not at all.
     const auto nextLine = [&](StringView& rest) {
         const StringView raw = singleLine ? std::exchange(rest, {}) : takeLine(rest);
@@ -173,7 +173,7 @@ Long TextPainter::drawText(StringView text, Rect& rect, Long format, String& scr
     }
 
     std::int64_t y = rect.Top;
-    if (singleLine && (format & dtVCenter) != 0)
+    if (singleLine && has(format, TextFormat::vCenter))
         y += (std::int64_t{rect.Bottom} - rect.Top) / 2 - lineHeight / 2;
     StringView rest = text;
     do {

@@ -2,6 +2,7 @@
 /// Formatted text output, as the platform's own routine does it.
 #pragma once
 
+#include "platform/surface.h"
 #include "raster/canvas.h"
 #include "raster/typeface.h"
 
@@ -15,7 +16,7 @@ class TextPainter {
           strikethrough_(strikethrough) {}
 
     /// As `Surface::drawText`. `scratch` is room for texts that hold prefix characters.
-    Long drawText(StringView text, Rect& rect, Long format, String& scratch);
+    Long drawText(StringView text, Rect& rect, TextFormat format, String& scratch);
 
     /// One line whose upper left corner is at (`x`, `y`), clipped to `clip`.
     void drawLine(StringView line, std::int64_t x, std::int64_t y, const Rect& clip);
@@ -33,8 +34,8 @@ class TextPainter {
         bool cut;
     };
 
-    Shown shownOf(StringView line, std::int64_t room, Long format);
-    void drawLineIn(const Line& line, const Rect& rect, std::int64_t y, Long format);
+    Shown shownOf(StringView line, std::int64_t room, TextFormat format);
+    void drawLineIn(const Line& line, const Rect& rect, std::int64_t y, TextFormat format);
     std::int64_t drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const Rect& clip, Long room);
     void rules(std::int64_t from, std::int64_t to, std::int64_t y, const Rect& clip);
 

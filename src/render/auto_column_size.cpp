@@ -51,7 +51,9 @@ void Painting::fitColumn(Long column, Procedure& p) {
     if (header + margin > widest)
         widest = header;
     widest += margin;
-    p.step([&] { records_.columnAt(column).Width = scaleX(window_.surface(), widest, pixels, twips); });
+    p.step([&] {
+        records_.columnAt(column).Width = scaleX(window_.surface(), widest, Unit::pixels, Unit::twips);
+    });
 }
 
 } // namespace lumtex

@@ -34,7 +34,8 @@ void PaintPass::cellIconPicture() {
         // Wanted: IconH counts here for a check box too.
         statement([&] {
             state.textRect.Top = roundToLong(
-                (scaleY(surface, properties.RowHeight, twips, pixels) - properties.IconH) / 2 + rowY + 1);
+                (scaleY(surface, properties.RowHeight, Unit::twips, Unit::pixels) - properties.IconH) / 2 +
+                rowY + 1);
         });
     }
     const auto iconY = static_cast<Single>(state.textRect.Top);

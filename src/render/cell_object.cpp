@@ -17,16 +17,16 @@ void PaintPass::cellObject(const ObjectRef& shared) {
     Single targetHeight = 0;
     statement([&] {
         targetHeight = properties.RowsDynamic
-                           ? scaleY(surface, static_cast<Double>(cellHeight) - 1, pixels, twips)
-                           : properties.RowHeight - scaleY(surface, 1, pixels, twips);
+                           ? scaleY(surface, static_cast<Double>(cellHeight) - 1, Unit::pixels, Unit::twips)
+                           : properties.RowHeight - scaleY(surface, 1, Unit::pixels, Unit::twips);
     });
     statement([&] {
         const Double objectHeight = object->get(u"Height").toDouble();
-        const Double top = scaleY(surface, rowY + 1, pixels, twips) +
+        const Double top = scaleY(surface, rowY + 1, Unit::pixels, Unit::twips) +
                            (static_cast<Double>(roundToLong(targetHeight)) - objectHeight) / 2;
-        std::array<Variant, 3> place{scaleX(surface, penX, pixels, twips),
+        std::array<Variant, 3> place{scaleX(surface, penX, Unit::pixels, Unit::twips),
                                      static_cast<Single>(top),
-                                     scaleX(surface, columnWidthPx - 1, pixels, twips)};
+                                     scaleX(surface, columnWidthPx - 1, Unit::pixels, Unit::twips)};
         object->call(u"Move", place);
     });
 }

@@ -11,31 +11,32 @@ void PaintPass::cellIconRoom() {
     const cItemAlign alignment = style().IconAlignment;
     // Wanted: a check box takes the room of an icon, not its own 13 pixels.
     const Single d = downOffset;
-    if (alignment == cItemLeft && textAlignment == dtLeft)
+    if (alignment == cItemLeft && textAlignment == TextFormat::left)
         rect.Left =
             roundToLong(properties.IconW + static_cast<Single>(rect.Left) + properties.DistPicText + d);
-    else if (alignment == cItemRight && textAlignment == dtRight)
+    else if (alignment == cItemRight && textAlignment == TextFormat::right)
         rect.Right =
             roundToLong(static_cast<Single>(rect.Right) - (properties.IconW + properties.DistPicText) + d);
 }
 
 /// Chooses the format, and for rows of fixed height the top of the text.
-Long PaintPass::textFormatForCell() {
+TextFormat PaintPass::placeText() {
     if (properties.RowsDynamic)
-        return textAlignment + dtWordEllipsis + dtSingleLine + dtVCenter;
+        return textAlignment | TextFormat::wordEllipsis | TextFormat::singleLine | TextFormat::vCenter;
 
-    const Long format = textAlignment + dtWordEllipsis;
+    const TextFormat format = textAlignment | TextFormat::wordEllipsis;
     Rect& rect = state.textRect;
     Rect measured = rect;
-    const Long textHeight = surface.drawText(state.cellText, measured, format + dtCalcRect);
+    const Long textHeight = surface.drawText(state.cellText, measured, format | TextFormat::calcRect);
     switch (core.records.rowAt(Variant(counters.scanIndex + 1)).TextPosition) {
     case cTextPosTop:
         rect.Top = roundToLong(rowY + core.topInset());
         break;
     case cTextPosCenter:
-        rect.Top = roundToLong(
-            (scaleY(surface, properties.RowHeight, twips, pixels) - static_cast<Single>(textHeight)) / 2 +
-            rowY);
+        rect.Top = roundToLong((scaleY(surface, properties.RowHeight, Unit::twips, Unit::pixels) -
+                                static_cast<Single>(textHeight)) /
+                                   2 +
+                               rowY);
         break;
     case cTextPosBottom:
         rect.Top = roundToLong(static_cast<Single>(rect.Bottom) - static_cast<Single>(textHeight));
@@ -49,7 +50,7 @@ Long PaintPass::textFormatForCell() {
 
 void PaintPass::cellText() {
     statement([&] { item().text().copyTo(state.cellText); });
-    statement([&] { textFormat = textFormatForCell(); });
+    statement([&] { textFormat = placeText(); });
     statement([&] {
         const Single width = surface.textWidth(state.cellText);
         item().letTextWidth(width);

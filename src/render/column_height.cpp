@@ -28,7 +28,7 @@ Long Painting::ColumnHeight() {
 }
 
 Single Painting::columnWidthInPixels(Long index) {
-    return scaleX(window_.surface(), records_.columnAt(index).Width, twips, pixels);
+    return scaleX(window_.surface(), records_.columnAt(index).Width, Unit::twips, Unit::pixels);
 }
 
 } // namespace lumtex

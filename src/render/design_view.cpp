@@ -20,7 +20,7 @@ void Painting::paintDesignView() {
     p.step([&] {
         // The font goes over as a whole here, in one statement.
         if (!properties_.DefaultItemFont)
-            throw RuntimeError(objectVariableNotSet);
+            throw RuntimeError(ErrorNumber::objectVariableNotSet);
         surface.setFont(properties_.DefaultItemFont->spec);
     });
     p.step([&] { surface.letForeColor(properties_.DefaultColumnForeColor); });

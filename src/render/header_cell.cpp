@@ -20,9 +20,16 @@ constexpr Single arrowWidth = 8;
 /// A column this narrow, in twips as stored, shows no icon.
 constexpr Single widthWithoutIcon = 3;
 
-/// The platform's format bits; a number that is no alignment counts as left.
-constexpr Long alignmentBits(cColumnHeaderAlign alignment) {
-    return alignment == cColumnCenter || alignment == cColumnRight ? alignment : cColumnLeft;
+/// A number that is no alignment counts as left.
+constexpr TextFormat formatOf(cColumnHeaderAlign alignment) {
+    switch (alignment) {
+    case cColumnCenter:
+        return TextFormat::center;
+    case cColumnRight:
+        return TextFormat::right;
+    default:
+        return TextFormat::left;
+    }
 }
 
 } // namespace
@@ -44,7 +51,7 @@ void PaintPass::headerCell(HeaderLook look) {
     if (!properties.DrawColumnIcons)
         cellIcon = nullptr;
     checkpoint();
-    headerText(column, color);
+    headerContent(column, color);
     if (core.sorter->sortColumn() == counters.scanIndex)
         sortArrow(column);
 }
@@ -96,7 +103,7 @@ void PaintPass::hoverBar(const StrokeFrame& frame) {
         *pieces[3], frame.right - static_cast<Single>(GetPictureWidth(surface, *pieces[3])), top);
 }
 
-void PaintPass::headerText(const ColumnHeader& column, OLE_COLOR color) {
+void PaintPass::headerContent(const ColumnHeader& column, OLE_COLOR color) {
     surface.letForeColor(color);
     downOffset =
         properties.MoveColumnTextAtDown && core.headerGesture->isHeldDown(counters.scanIndex) ? 1 : 0;
@@ -119,7 +126,8 @@ void PaintPass::headerText(const ColumnHeader& column, OLE_COLOR color) {
             rect.Right =
                 roundToLong(static_cast<Single>(rect.Right) - (iconWidth + properties.DistPicText) + d);
     }
-    surface.drawText(column.Text, rect, alignmentBits(column.Alignment) + dtSingleLine + dtWordEllipsis);
+    surface.drawText(
+        column.Text, rect, formatOf(column.Alignment) | TextFormat::singleLine | TextFormat::wordEllipsis);
 
     if (cellIcon && column.Width > widthWithoutIcon) {
         Single iconX = x + inset + d;
@@ -155,9 +163,10 @@ void PaintPass::emptyColumnField() {
         return;
     }
     const auto surfaceWidth = static_cast<Single>(surface.scaleWidth());
-    const Single right = penX >= surfaceWidth
-                             ? penX + scaleX(surface, properties.EmptyColumnFieldWidth, twips, pixels)
-                             : surfaceWidth;
+    const Single right =
+        penX >= surfaceWidth
+            ? penX + scaleX(surface, properties.EmptyColumnFieldWidth, Unit::twips, Unit::pixels)
+            : surfaceWidth;
     paintStrokes(surface,
                  looks::emptyField,
                  {penX, right, static_cast<Single>(borderWidth), footOfHeader()},

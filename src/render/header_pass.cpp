@@ -32,7 +32,7 @@ void PaintPass::beginHeaders() {
     headerHeight = static_cast<Single>(core.painting->ColumnHeight());
     core.headerGesture->beginPass();
     if (!properties.DefaultColumnFont)
-        throw RuntimeError(objectVariableNotSet);
+        throw RuntimeError(ErrorNumber::objectVariableNotSet);
     surface.setFont(properties.DefaultColumnFont->spec);
 }
 
@@ -53,10 +53,10 @@ void PaintPass::headerPass() {
 
 void PaintPass::resizeCursor() {
     if (core.headerGesture->isOnDivider()) {
-        core.listWindow->letMousePointer(pointerCustom);
+        core.listWindow->letMousePointer(CursorShape::custom);
         core.listWindow->setMouseIcon(core.painting->artwork().imgResize);
     } else {
-        core.listWindow->letMousePointer(pointerDefault);
+        core.listWindow->letMousePointer(CursorShape::standard);
     }
 }
 

@@ -23,7 +23,7 @@ void PaintPass::listCell() {
     const auto index = static_cast<std::size_t>(counters.scanColumn - 1);
     if (index >= items.count()) {
         // Under the silent flag a cell that is not there leaves its place as it is.
-        statement([] { throw RuntimeError(subscriptOutOfRange); });
+        statement([] { throw RuntimeError(ErrorNumber::subscriptOutOfRange); });
         return;
     }
     bool rowSelected = false;
@@ -36,7 +36,7 @@ void PaintPass::listCell() {
     }
     statement([&] { surface.letForeColor(style().ForeColor); });
     statement([&] { surface.setFont(style().font); });
-    statement([&] { cellRectangle(); });
+    statement([&] { placeCell(); });
     cellColorsAndIcon(rowSelected);
     checkpoint();
     chooseCheckBox();
@@ -52,7 +52,7 @@ void PaintPass::listCell() {
 ListViewItem& PaintPass::item() {
     const auto index = static_cast<std::size_t>(counters.scanColumn - 1);
     if (index >= items.count())
-        throw RuntimeError(subscriptOutOfRange);
+        throw RuntimeError(ErrorNumber::subscriptOutOfRange);
     return items[index];
 }
 
@@ -63,8 +63,9 @@ const CellExtras* PaintPass::extras() const {
 
 /// Wanted: with dynamic rows the font in force is that of the cell painted before.
 void PaintPass::measureCellHeight() {
-    cellHeight = roundToLong(properties.RowsDynamic ? surface.textHeight(u"A")
-                                                    : scaleY(surface, properties.RowHeight, twips, pixels));
+    cellHeight = roundToLong(properties.RowsDynamic
+                                 ? surface.textHeight(u"A")
+                                 : scaleY(surface, properties.RowHeight, Unit::twips, Unit::pixels));
 }
 
 OLE_COLOR PaintPass::selectionColor(const Variant& color, OLE_COLOR otherwise) const {
@@ -101,10 +102,10 @@ void PaintPass::cellBackground(bool rowSelected) {
     }
 }
 
-void PaintPass::cellRectangle() {
+void PaintPass::placeCell() {
     const cItemAlign alignment = style().Alignment;
     if (alignment == cItemLeft || alignment == cItemCenter || alignment == cItemRight)
-        textAlignment = alignment;
+        textAlignment = static_cast<TextFormat>(alignment);
     state.textRect = {roundToLong(penX + 5),
                       roundToLong(rowY),
                       roundToLong(penX + columnWidthPx - 3),

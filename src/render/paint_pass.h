@@ -24,23 +24,34 @@ struct PaintPassValues {
     PaintState& state;
     Surface& surface;
 
+    // Of the whole pass
+
     Byte borderWidth = 0;
-    Single penX = 0; ///< left edge of the cell being painted
     static constexpr Single headerTop = 0;
     Single headerHeight = 0;
-    Single rowY = 0;           ///< top of the row being painted
-    Single columnWidthPx = 0;  ///< of the current column
-    Long cellHeight = 0;       ///< of the current cell
-    Single rowBandHeight = 0;  ///< the row's height as it will be stored and stepped
+    Single penX = 0; ///< left edge of the cell being painted
+
+    // Of the row being painted
+
+    Single rowY = 0;          ///< its top
+    Single rowBandHeight = 0; ///< its height as it will be stored and stepped
+    Items items;              ///< a copy of its cells, so that a host may change the list meanwhile
+
+    // Of the cell being painted
+
+    Single columnWidthPx = 0;
+    Long cellHeight = 0;
+    Held<PictureRef> cellIcon; ///< the picture chosen, or none
+    OLE_COLOR textColor = 0;
+    TextFormat textFormat = TextFormat::left;
+    bool checkBoxCell = false;
+
+    // On purpose these outlive the cell that set them, and count for the cells behind it.
+
     Single lastIconHeight = 0; ///< of the last icon laid out in this pass; 0 until the first
     Byte downOffset = 0;       ///< text shift of the last header cell painted; the list's cells read it too
-    Held<PictureRef> cellIcon; ///< the picture chosen for the current cell, or none
     Long fillColor = 0;        ///< -1: no fill; keeps its value where a cell assigns none
-    Long textAlignment = 0;    ///< keeps its value where a cell assigns none
-    OLE_COLOR textColor = 0;
-    Long textFormat = 0;
-    bool checkBoxCell = false;
-    Items items; ///< of the current row; a copy, so that a host may change the list meanwhile
+    TextFormat textAlignment = TextFormat::left; ///< keeps its value where a cell assigns none
 };
 
 /// Made for one pass and thrown away after it.
@@ -79,7 +90,7 @@ class PaintPass : private PaintPassValues {
     void headerCell(HeaderLook look);
     void headerBackground(HeaderLook look, const StrokeFrame& frame);
     void hoverBar(const StrokeFrame& frame);
-    void headerText(const ColumnHeader& column, OLE_COLOR textColor);
+    void headerContent(const ColumnHeader& column, OLE_COLOR textColor);
     void sortArrow(const ColumnHeader& column);
     void emptyColumnField();
     void resizeCursor();
@@ -104,13 +115,13 @@ class PaintPass : private PaintPassValues {
     void cellBackground(bool rowSelected);
     OLE_COLOR selectionColor(const Variant& color, OLE_COLOR otherwise) const;
     void cellObject(const ObjectRef& shared);
-    void cellRectangle();
+    void placeCell();
     void cellColorsAndIcon(bool rowSelected);
     void chooseCheckBox();
     void cellIconRoom();
     void cellText();
     void cellIconPicture();
-    Long textFormatForCell();
+    TextFormat placeText();
 };
 
 } // namespace lumtex

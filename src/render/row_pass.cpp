@@ -104,8 +104,9 @@ void PaintPass::finishRow() {
         readFontAttributes(
             properties.DefaultItemFont, attributeRead, [&](const FontSpec& font) { surface.setFont(font); });
         statement([&] {
-            rowBandHeight = properties.RowsDynamic ? surface.textHeight(u"A")
-                                                   : scaleY(surface, properties.RowHeight, twips, pixels);
+            rowBandHeight = properties.RowsDynamic
+                                ? surface.textHeight(u"A")
+                                : scaleY(surface, properties.RowHeight, Unit::twips, Unit::pixels);
         });
     }
     if (properties.GridLines) {

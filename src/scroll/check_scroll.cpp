@@ -31,7 +31,7 @@ void Scroller::CheckScroll() {
         HS_->letMin(0);
         const Long oldMax = HS_->Max();
         const Single range = total - static_cast<Single>(surface.scaleWidth()) +
-                             scaleX(surface, properties_.EmptyColumnFieldWidth, twips, pixels);
+                             scaleX(surface, properties_.EmptyColumnFieldWidth, Unit::twips, Unit::pixels);
         p.step([&] { HS_->letMax(roundToLong(range)); });
         // Wanted: any shrinking of the range throws the view back to the left edge.
         if (range < static_cast<Single>(oldMax))

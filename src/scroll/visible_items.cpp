@@ -41,7 +41,7 @@ Long Scroller::VisibleItems() {
             return state_.visibleRowCount;
         }
 
-        const Long height = roundToLong(scaleY(surface, properties_.RowHeight, twips, pixels));
+        const Long height = roundToLong(scaleY(surface, properties_.RowHeight, Unit::twips, Unit::pixels));
         Double y = core_.painting->ColumnHeight();
         if (height > 0) {
             const Double turns = turnsOf(y, available, height);

@@ -65,7 +65,7 @@ bool Finder::readNotation(
     p.step([&] { cachedText = text; });
     cachedList = std::move(notation.numbers);
     if (notation.empty)
-        p.step([] { throw RuntimeError(invalidProcedureCall); });
+        p.step([] { throw RuntimeError(ErrorNumber::invalidProcedureCall); });
     return true;
 }
 

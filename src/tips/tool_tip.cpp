@@ -27,7 +27,7 @@ StringView GetStrFromBufferA(StringView buffer) {
 
 WindowHandle handleOf(const ObjectRef& object) {
     if (!object)
-        throw RuntimeError(objectVariableNotSet);
+        throw RuntimeError(ErrorNumber::objectVariableNotSet);
     return windowHandleOf(object->get(u"hwnd"));
 }
 

@@ -172,7 +172,7 @@ struct Moment {
 
 Moment momentOf(Date value) {
     if (!isDateInRange(value.days))
-        throw RuntimeError(overflow);
+        throw RuntimeError(ErrorNumber::overflow);
     auto wholeDays = static_cast<int>(value.days);
     auto seconds = static_cast<int>(std::lround(std::fabs(value.days - wholeDays) * secondsPerDay));
     if (seconds == secondsPerDay && wholeDays == lastDay) {
@@ -192,7 +192,7 @@ bool isDateInRange(Double days) {
 
 int yearOf(Date date) {
     if (!isDateInRange(date.days))
-        throw RuntimeError(overflow);
+        throw RuntimeError(ErrorNumber::overflow);
     return int{year_month_day{startDay + days{static_cast<int>(date.days)}}.year()};
 }
 

@@ -12,7 +12,7 @@ namespace lumtex {
 
 inline void demandOfImage(bool holds) {
     if (!holds)
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
 }
 
 /// A stretch of an image. Whatever leads out of it throws RuntimeError 481.

@@ -60,7 +60,7 @@ ImageFormat checkImage(std::span<const Byte> bytes, std::uint64_t freePixels) {
         kind.check(image, pixels);
         return kind.format;
     }
-    throw RuntimeError(invalidPicture);
+    throw RuntimeError(ErrorNumber::invalidPicture);
 }
 
 bool isSoundImage(std::span<const Byte> image, std::uint64_t freePixels) {

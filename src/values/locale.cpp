@@ -40,9 +40,9 @@ UsingLocale::~UsingLocale() {
 Double numberFrom(StringView text) {
     const NumberFromText result = currentLocale().readNumber(text);
     if (result.outcome == NumberFromText::notANumber)
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     if (result.outcome == NumberFromText::tooLarge)
-        throw RuntimeError(overflow);
+        throw RuntimeError(ErrorNumber::overflow);
     return result.value;
 }
 
@@ -51,7 +51,7 @@ Date dateFrom(StringView text) {
         return *date;
     const Double days = numberFrom(text);
     if (!isDateInRange(days))
-        throw RuntimeError(overflow);
+        throw RuntimeError(ErrorNumber::overflow);
     return Date{days};
 }
 

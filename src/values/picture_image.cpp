@@ -85,7 +85,7 @@ void appendMask(Image& image, const Bitmap& bitmap) {
 
 void refuseSize(std::uint64_t size) {
     if (size > std::numeric_limits<Long>::max())
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
 }
 
 enum class Alpha : Byte { dropped, kept };
@@ -139,7 +139,7 @@ Image iconFile(const Bitmap& bitmap) {
 std::vector<Byte> imageOfPicture(const Picture& picture) {
     const Bitmap& bitmap = picture.bitmap();
     if (bitmap.pixels.empty())
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     if (picture.kind() == PictureKind::bitmap)
         return bitmapFile(bitmap, Alpha::dropped);
     return std::max(bitmap.width, bitmap.height) <= largestIcon ? iconFile(bitmap)

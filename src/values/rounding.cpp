@@ -23,7 +23,7 @@ T roundTo(Double value) {
     const Double rounded = roundHalfEven(value);
     // The comparison is false for what is not a number, too.
     if (!(rounded >= std::numeric_limits<T>::min() && rounded <= std::numeric_limits<T>::max()))
-        throw RuntimeError(overflow);
+        throw RuntimeError(ErrorNumber::overflow);
     return static_cast<T>(rounded);
 }
 

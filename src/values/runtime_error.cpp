@@ -88,7 +88,7 @@ const SharedTexts& textsOf(Long number) {
 }
 
 // Made before anything can fail, since a shortage of memory is itself a failure with a text.
-[[maybe_unused]] const SharedTexts& madeAtStart = textsOf(outOfMemory);
+[[maybe_unused]] const SharedTexts& madeAtStart = textsOf(numberOf(ErrorNumber::outOfMemory));
 
 } // namespace
 

@@ -7,11 +7,12 @@
 #include <exception>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace lumtex {
 
 /// The run-time error numbers that the control itself can raise.
-enum ErrorNumber : Long {
+enum class ErrorNumber : Long {
     invalidProcedureCall = 5,
     overflow = 6,
     outOfMemory = 7,
@@ -38,6 +39,14 @@ enum ErrorNumber : Long {
     invalidPicture = 481,
 };
 
+constexpr Long numberOf(ErrorNumber error) {
+    return static_cast<Long>(error);
+}
+/// A number may come from anywhere: from the control, from a host, from the platform.
+constexpr bool operator==(Long number, ErrorNumber error) {
+    return number == numberOf(error);
+}
+
 /// The text that goes with a number; "Application-defined or object-defined error" for an unknown one.
 const String& errorDescription(Long number);
 
@@ -48,7 +57,10 @@ const String& errorDescription(Long number);
 class RuntimeError : public std::exception {
   public:
     explicit RuntimeError(Long number);
+    explicit RuntimeError(ErrorNumber error) : RuntimeError(numberOf(error)) {}
     RuntimeError(Long number, String description);
+    RuntimeError(ErrorNumber error, String description)
+        : RuntimeError(numberOf(error), std::move(description)) {}
 
     Long number() const { return number_; }
     const String& description() const { return texts_->description; }

@@ -21,11 +21,7 @@ using StringView = std::u16string_view;
 /// 0xBBGGRR, the low byte red. With the high bit set the low byte numbers a system colour.
 using OLE_COLOR = std::uint32_t;
 
-/// Units a length is held in, as `scaleX` and `scaleY` name them.
-enum ScaleUnit : Integer {
-    twips = 1,
-    pixels = 3,
-    himetric = 8,
-};
+/// Units a length is held in, for `scaleX` and `scaleY`.
+enum class Unit : Byte { twips, pixels, himetric };
 
 } // namespace lumtex

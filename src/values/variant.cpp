@@ -15,7 +15,7 @@ namespace {
 
 struct ToDouble {
     Double operator()(std::monostate) const { return 0; }
-    Double operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
+    Double operator()(Null) const { throw RuntimeError(ErrorNumber::invalidUseOfNull); }
     Double operator()(bool value) const { return value ? -1 : 0; }
     Double operator()(Byte value) const { return value; }
     Double operator()(Integer value) const { return value; }
@@ -30,13 +30,13 @@ struct ToDouble {
     Double operator()(const String& text) const { return numberFrom(text); }
     template <class NoValue>
     Double operator()(const NoValue&) const {
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     }
 };
 
 struct ToText {
     String operator()(std::monostate) const { return {}; }
-    String operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
+    String operator()(Null) const { throw RuntimeError(ErrorNumber::invalidUseOfNull); }
     String operator()(bool value) const { return value ? u"True" : u"False"; }
     String operator()(const String& text) const { return text; }
     String operator()(Byte value) const { return (*this)(LongLong{value}); }
@@ -51,13 +51,13 @@ struct ToText {
     String operator()(Date value) const { return currentLocale().textOf(value); }
     template <class NoValue>
     String operator()(const NoValue&) const {
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     }
 };
 
 struct MinusOne {
     Variant operator()(std::monostate) const { return Integer{-1}; }
-    Variant operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
+    Variant operator()(Null) const { throw RuntimeError(ErrorNumber::invalidUseOfNull); }
     Variant operator()(bool value) const { return static_cast<Integer>((value ? -1 : 0) - 1); }
     Variant operator()(Byte value) const {
         if (value == 0)
@@ -97,7 +97,7 @@ struct MinusOne {
     Variant operator()(const String& text) const { return numberFrom(text) - 1; }
     template <class NoValue>
     Variant operator()(const NoValue&) const {
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     }
 };
 
@@ -106,17 +106,17 @@ struct MinusOne {
 template <class Ref>
 struct ToReference {
     Ref operator()(std::monostate) const { return nullptr; }
-    Ref operator()(Null) const { throw RuntimeError(invalidUseOfNull); }
+    Ref operator()(Null) const { throw RuntimeError(ErrorNumber::invalidUseOfNull); }
     Ref operator()(const Ref& held) const { return held; }
     template <class T>
     Ref operator()(const std::shared_ptr<T>& other) const {
         if (other)
-            throw RuntimeError(typeMismatch);
+            throw RuntimeError(ErrorNumber::typeMismatch);
         return nullptr;
     }
     template <class NoObject>
     Ref operator()(const NoObject&) const {
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     }
 };
 
@@ -150,7 +150,7 @@ Single Variant::toSingle() const {
         return *held;
     const auto value = static_cast<Single>(toDouble());
     if (std::isinf(value))
-        throw RuntimeError(overflow);
+        throw RuntimeError(ErrorNumber::overflow);
     return value;
 }
 
@@ -175,7 +175,7 @@ Date Variant::toDate() const {
         return dateFrom(*held);
     const Double value = toDouble();
     if (!isDateInRange(value))
-        throw RuntimeError(overflow);
+        throw RuntimeError(ErrorNumber::overflow);
     return Date{value};
 }
 
@@ -196,7 +196,7 @@ OLE_COLOR Variant::toColor() const {
 ObjectRef Variant::toObject() const {
     ObjectRef held = visit(ToReference<ObjectRef>{});
     if (!held)
-        throw RuntimeError(objectVariableNotSet);
+        throw RuntimeError(ErrorNumber::objectVariableNotSet);
     return held;
 }
 

@@ -130,10 +130,10 @@ TEST_F(About, OverLinkAndHelpThePointerIsAHand) {
     for (const Control control : {Control::lblLink, Control::imgHelp}) {
         const Rect& place = form->place(control);
         desktop.move(window, static_cast<Single>(place.Left), static_cast<Single>(place.Top));
-        EXPECT_EQ(window.MousePointer(), pointerCustom);
+        EXPECT_EQ(window.MousePointer(), CursorShape::custom);
         EXPECT_EQ(window.MouseIcon(), AboutArtwork::standard().hand);
         desktop.move(window, static_cast<Single>(place.Right), static_cast<Single>(place.Bottom));
-        EXPECT_EQ(window.MousePointer(), pointerDefault);
+        EXPECT_EQ(window.MousePointer(), CursorShape::standard);
         EXPECT_EQ(window.MouseIcon(), nullptr);
     }
 }

@@ -149,9 +149,9 @@ class EachAccessor : public ListFixture, public ::testing::WithParamInterface<Ac
             byName.let(member().name, arguments, value);
     }
 
-    /// Reads, and assigns where that can be done, and expects a report of `number` from each.
-    void expectFailures(Long number, const std::vector<Variant>& arguments) {
-        const std::string report = std::to_string(number) + " " + toUtf8(member().name);
+    /// Reads, and assigns where that can be done, and expects a report of `error` from each.
+    void expectFailures(ErrorNumber error, const std::vector<Variant>& arguments) {
+        const std::string report = std::to_string(numberOf(error)) + " " + toUtf8(member().name);
         std::size_t reports = reportCount();
         EXPECT_EQ(get(arguments), zeroOf(member().type.code));
         ASSERT_EQ(reportCount(), reports + 1);
@@ -168,7 +168,7 @@ class EachAccessor : public ListFixture, public ::testing::WithParamInterface<Ac
             return;
         }
         ASSERT_GT(reportCount(), reports);
-        EXPECT_EQ(lastReport().substr(0, lastReport().find(' ')), std::to_string(number));
+        EXPECT_EQ(lastReport().substr(0, lastReport().find(' ')), std::to_string(numberOf(error)));
     }
 
     CallByName byName{list};
@@ -214,7 +214,7 @@ TEST_P(EachAssignableOne, RepaintsAtDesignTimeWhateverAutoRedrawSays) {
 TEST_P(EachReadOnlyOne, IsASingleAndTakesNoAssignment) {
     fill();
     EXPECT_NE(get(at(Long{2})).as<Single>(), nullptr);
-    EXPECT_EQ(errorNumberOf([&] { assign(at(Long{2}), Long{7}); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { assign(at(Long{2}), Long{7}); }), ErrorNumber::objectDoesNotSupportMember);
 }
 
 TEST_P(EachAccessor, FailsAtAnIndexOutsideTheArray) {
@@ -224,21 +224,21 @@ TEST_P(EachAccessor, FailsAtAnIndexOutsideTheArray) {
                                  Variant(Long{4}),
                                  Variant(std::numeric_limits<Long>::max()),
                                  Variant(u"99")})
-        expectFailures(subscriptOutOfRange, at(index));
+        expectFailures(ErrorNumber::subscriptOutOfRange, at(index));
 }
 
 TEST_P(EachAccessor, FailsAtAnIndexThatIsNoNumber) {
     fill();
     for (const Variant& index : {Variant(u"x"), Variant(u""), Variant(ObjectRef{})})
-        expectFailures(typeMismatch, at(index));
-    expectFailures(invalidUseOfNull, at(Null{}));
-    expectFailures(overflow, at(1e10));
-    expectFailures(subscriptOutOfRange, at(Variant{}));
+        expectFailures(ErrorNumber::typeMismatch, at(index));
+    expectFailures(ErrorNumber::invalidUseOfNull, at(Null{}));
+    expectFailures(ErrorNumber::overflow, at(1e10));
+    expectFailures(ErrorNumber::subscriptOutOfRange, at(Variant{}));
 }
 
 TEST_P(EachAccessor, OverflowsAtTheLowestNumber) {
     fill();
-    expectFailures(overflow, at(std::numeric_limits<Long>::min()));
+    expectFailures(ErrorNumber::overflow, at(std::numeric_limits<Long>::min()));
 }
 
 TEST_P(EachAccessor, OnAClearedListMeetsTheBlankElement) {
@@ -257,15 +257,15 @@ TEST_P(EachAccessor, OnAClearedListMeetsTheBlankElement) {
 }
 
 TEST_P(EachAccessor, OnAListThatNeverHadAnythingFails) {
-    expectFailures(subscriptOutOfRange, at(Long{1}));
+    expectFailures(ErrorNumber::subscriptOutOfRange, at(Long{1}));
 }
 
 TEST_P(EachCellAccessor, TakesNoTextAsColumn) {
     fill();
     for (const Variant& column : {Variant(u"1"), Variant(u"x"), Variant(u"")})
-        expectFailures(invalidProcedureCall, {Long{1}, column});
+        expectFailures(ErrorNumber::invalidProcedureCall, {Long{1}, column});
     for (const Variant& column : {Variant(Long{0}), Variant(Long{3}), Variant(Long{-1})})
-        expectFailures(subscriptOutOfRange, {Long{1}, column});
+        expectFailures(ErrorNumber::subscriptOutOfRange, {Long{1}, column});
 }
 
 class EachProperty : public ListFixture, public ::testing::WithParamInterface<Accessor> {

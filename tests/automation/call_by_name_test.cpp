@@ -69,28 +69,31 @@ TEST_F(CallingByName, ValuesAreConvertedToTheTypesOfTheInterface) {
     byName.let(u"ColumnItemIconH", first, Long{24});
     EXPECT_EQ(inside.columns()[0]->ItemIconH, -1);
     EXPECT_EQ(byName.get(u"ColumnItemIconH", first), Variant(true));
-    EXPECT_EQ(errorNumberOf([&] { byName.let(u"ColumnWidth", first, u"wide"); }), typeMismatch);
-    EXPECT_EQ(errorNumberOf([&] { byName.let(u"OLEDragMode", {}, 3e9); }), overflow);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"ColumnWidth", first, u"wide"); }), ErrorNumber::typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"OLEDragMode", {}, 3e9); }), ErrorNumber::overflow);
     EXPECT_EQ(list.ColumnWidth(1), 12.5F);
     EXPECT_EQ(reportCount(), 0U);
 }
 
 TEST_F(CallingByName, AMemberIsUsedOnlyAsWhatItIs) {
-    EXPECT_EQ(errorNumberOf([&] { byName.get(u"NoSuchMember"); }), objectDoesNotSupportMember);
-    EXPECT_EQ(errorNumberOf([&] { byName.call(u"RowsCount"); }), objectDoesNotSupportMember);
-    EXPECT_EQ(errorNumberOf([&] { byName.get(u"Redraw"); }), objectDoesNotSupportMember);
-    EXPECT_EQ(errorNumberOf([&] { byName.let(u"RowsCount", {}, Long{1}); }), objectDoesNotSupportMember);
-    EXPECT_EQ(errorNumberOf([&] { byName.let(u"Skin", {}, PictureRef{}); }), objectDoesNotSupportMember);
-    EXPECT_EQ(errorNumberOf([&] { byName.set(u"GridLines", {}, true); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.get(u"NoSuchMember"); }), ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.call(u"RowsCount"); }), ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.get(u"Redraw"); }), ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"RowsCount", {}, Long{1}); }),
+              ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"Skin", {}, PictureRef{}); }),
+              ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.set(u"GridLines", {}, true); }),
+              ErrorNumber::objectDoesNotSupportMember);
 }
 
 TEST_F(CallingByName, TheNumberOfArgumentsIsChecked) {
     auto one = with(Long{1});
     auto three = with(Long{1}, Long{1}, Long{1});
-    EXPECT_EQ(errorNumberOf([&] { byName.get(u"ItemText", one); }), argumentNotOptional);
-    EXPECT_EQ(errorNumberOf([&] { byName.let(u"ItemText", one, u"x"); }), argumentNotOptional);
-    EXPECT_EQ(errorNumberOf([&] { byName.get(u"ItemText", three); }), wrongNumberOfArguments);
-    EXPECT_EQ(errorNumberOf([&] { byName.call(u"Redraw", one); }), wrongNumberOfArguments);
+    EXPECT_EQ(errorNumberOf([&] { byName.get(u"ItemText", one); }), ErrorNumber::argumentNotOptional);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(u"ItemText", one, u"x"); }), ErrorNumber::argumentNotOptional);
+    EXPECT_EQ(errorNumberOf([&] { byName.get(u"ItemText", three); }), ErrorNumber::wrongNumberOfArguments);
+    EXPECT_EQ(errorNumberOf([&] { byName.call(u"Redraw", one); }), ErrorNumber::wrongNumberOfArguments);
 }
 
 TEST_F(CallingByName, FailuresOfTheControlAreReportedThereAndNotThrown) {
@@ -105,7 +108,7 @@ TEST_F(CallingByName, ReferencesAreSetAndNothingTakesThemAway) {
     EXPECT_EQ(list.DefaultItemFont()->spec.Size, 20);
     byName.set(u"DefaultItemFont", {}, FontRef{});
     EXPECT_EQ(byName.get(u"DefaultItemFont"), Variant(FontRef{}));
-    EXPECT_EQ(errorNumberOf([&] { byName.set(u"Skin", {}, font); }), typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { byName.set(u"Skin", {}, font); }), ErrorNumber::typeMismatch);
 }
 
 TEST_F(CallingByName, AFoundCellIsAnObjectWithTheFieldsOfTheRecord) {
@@ -118,8 +121,9 @@ TEST_F(CallingByName, AFoundCellIsAnObjectWithTheFieldsOfTheRecord) {
     EXPECT_EQ(found->get(u"findsuccessful"), Variant(true));
     EXPECT_EQ(found->get(u"FindRow"), Variant(Long{2}));
     EXPECT_EQ(found->get(u"FindColumn"), Variant(Long{2}));
-    EXPECT_EQ(errorNumberOf([&] { found->get(u"FindCell"); }), objectDoesNotSupportMember);
-    EXPECT_EQ(errorNumberOf([&] { found->put(u"FindRow", Long{1}); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { found->get(u"FindCell"); }), ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { found->put(u"FindRow", Long{1}); }),
+              ErrorNumber::objectDoesNotSupportMember);
 }
 
 TEST_F(CallingByName, AListOfArgumentsMayBeAsLongAsTheCallerLikes) {

@@ -76,7 +76,7 @@ TEST(Classes, AHelperKnowsItsOwnNamesAlone) {
     SilentFlag flag;
     Error error(flag);
     CallByName byName(error);
-    EXPECT_EQ(errorNumberOf([&] { byName.call(u"Redraw"); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.call(u"Redraw"); }), ErrorNumber::objectDoesNotSupportMember);
     EXPECT_EQ(findMember(errorClass(), u"TextRead"), nullptr);
     EXPECT_EQ(findMember(spEvClass(), u"textread")->name, u"TextRead");
 }

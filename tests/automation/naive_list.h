@@ -119,7 +119,7 @@ class NaiveList {
 
     Reports rowsSelectedRemove() {
         if (rows.empty())
-            return {subscriptOutOfRange};
+            return {numberOf(ErrorNumber::subscriptOutOfRange)};
         std::size_t row = 0;
         while (rowsAllocated && row < rows.size()) {
             Variant place = static_cast<Long>(row) + 1;
@@ -157,7 +157,7 @@ class NaiveList {
         Reports reports;
         if (name == u"RowSelected" && !multiSelect) {
             if (rows.empty())
-                reports.push_back(subscriptOutOfRange);
+                reports.push_back(numberOf(ErrorNumber::subscriptOutOfRange));
             for (Row& row : rows)
                 row.fields[u"RowSelected"] = false;
         }
@@ -209,7 +209,7 @@ class NaiveList {
         }
         if (rows.empty()) {
             refused = true;
-            return index < 0 ? Reports{} : Reports{subscriptOutOfRange};
+            return index < 0 ? Reports{} : Reports{numberOf(ErrorNumber::subscriptOutOfRange)};
         }
         if (index < 0 || static_cast<std::size_t>(index) >= rows.size() ||
             !rows[static_cast<std::size_t>(index)].fields.at(u"RowEnabled").toBoolean()) {
@@ -225,7 +225,7 @@ class NaiveList {
     Reports letRowIndex(Long index, bool& refused) {
         if (index == std::numeric_limits<Long>::min()) {
             refused = false;
-            return {overflow, overflow}; // the index, and the row to scroll to
+            return Reports(2, numberOf(ErrorNumber::overflow)); // the index, and the row to scroll to
         }
         return letListIndex(index - 1, refused);
     }
@@ -312,19 +312,19 @@ class NaiveList {
         const bool tooBig =
             std::fabs(position) > std::numeric_limits<Long>::max() + (position < 0 ? 1.0 : 0.0);
         if (tooBig)
-            throw RuntimeError(overflow);
+            throw RuntimeError(ErrorNumber::overflow);
         if (position < 0 || position >= static_cast<Double>(array.size()))
-            throw RuntimeError(subscriptOutOfRange);
+            throw RuntimeError(ErrorNumber::subscriptOutOfRange);
         return static_cast<std::size_t>(position);
     }
 
     Fields& cellAt(const Variant& row, const Variant& column) {
         Row& record = rows[positionIn(rows, row)];
         if (column.isString())
-            throw RuntimeError(invalidProcedureCall);
+            throw RuntimeError(ErrorNumber::invalidProcedureCall);
         const Long position = column.toLong();
         if (position < 1 || static_cast<std::size_t>(position) > record.cells.size())
-            throw RuntimeError(subscriptOutOfRange);
+            throw RuntimeError(ErrorNumber::subscriptOutOfRange);
         return record.cells[static_cast<std::size_t>(position) - 1];
     }
 

@@ -113,7 +113,7 @@ TEST_F(OnOneScreen, TheProgramIsToldItsDensity) {
 
 TEST_F(OnOneScreen, ATwipIsA1440thOfAnInch) {
     const auto surface = world.createSurface(1, 1);
-    EXPECT_FLOAT_EQ(scaleY(*surface, 1, pixels, twips) * static_cast<Single>(expected()), 1440);
+    EXPECT_FLOAT_EQ(scaleY(*surface, 1, Unit::pixels, Unit::twips) * static_cast<Single>(expected()), 1440);
 }
 
 TEST_F(OnOneScreen, SurfacesOfAllKindsHaveTheDensityOfTheScreen) {

@@ -22,7 +22,7 @@ class FailingFiles final : public Files {
         const std::size_t whole = wholeBytes(text.size());
         may().appendToFile(path, text.substr(0, whole));
         if (whole < text.size())
-            throw RuntimeError(deviceError);
+            throw RuntimeError(ErrorNumber::deviceError);
     }
     std::unique_ptr<OutputFile> openForBinaryWriting(StringView path) override {
         return std::make_unique<Output>(*this, may().openForBinaryWriting(path));
@@ -42,17 +42,17 @@ class FailingFiles final : public Files {
         Output(FailingFiles& files, std::unique_ptr<OutputFile> inner)
             : files_(files), inner_(std::move(inner)) {}
         void write(std::span<const Byte> data) override {
-            files_.operations.pass(deviceError);
+            files_.operations.pass(ErrorNumber::deviceError);
             const std::size_t whole = files_.wholeBytes(data.size());
             inner_->write(data.first(whole));
             if (whole < data.size())
-                throw RuntimeError(diskFull);
+                throw RuntimeError(ErrorNumber::diskFull);
         }
         void close() override {
             const bool fails = files_.operations.isHere();
             inner_->close();
             if (fails)
-                throw RuntimeError(deviceError);
+                throw RuntimeError(ErrorNumber::deviceError);
         }
 
       private:
@@ -66,7 +66,7 @@ class FailingFiles final : public Files {
             : files_(files), inner_(std::move(inner)) {}
         std::int64_t size() const override { return inner_->size(); }
         std::size_t read(std::span<Byte> target) override {
-            files_.operations.pass(deviceError);
+            files_.operations.pass(ErrorNumber::deviceError);
             return inner_->read(target);
         }
 
@@ -76,7 +76,7 @@ class FailingFiles final : public Files {
     };
 
     Files& may() const {
-        operations.pass(deviceError);
+        operations.pass(ErrorNumber::deviceError);
         return inner_;
     }
     /// How many of the next `size` bytes get through.

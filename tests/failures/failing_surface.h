@@ -39,14 +39,14 @@ class FailingSurface final : public Surface {
     void print(Single x, Single y, StringView text) override { may().print(x, y, text); }
     Single textWidth(StringView text) override { return may().textWidth(text); }
     Single textHeight(StringView text) override { return may().textHeight(text); }
-    Long drawText(StringView text, Rect& rect, Long format) override {
+    Long drawText(StringView text, Rect& rect, TextFormat format) override {
         return may().drawText(text, rect, format);
     }
     Bitmap image() const override { return inner_.image(); }
 
   private:
     Surface& may() {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         return inner_;
     }
 
@@ -63,43 +63,43 @@ class FailingWindow final : public ForwardingWindow {
 
     Surface& surface() override { return surface_; }
     void place(Single left, Single top, Single width, Single height) override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::place(left, top, width, height);
     }
     void letVisible(bool visible) override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::letVisible(visible);
     }
     void letEnabled(bool enabled) override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::letEnabled(enabled);
     }
     void letOLEDropMode(Long mode) override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::letOLEDropMode(mode);
     }
-    void letMousePointer(Integer shape) override {
-        point_.pass(outOfMemory);
+    void letMousePointer(CursorShape shape) override {
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::letMousePointer(shape);
     }
     void setMouseIcon(PictureRef icon) override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::setMouseIcon(std::move(icon));
     }
     void setFocus() override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::setFocus();
     }
     void setCapture() override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::setCapture();
     }
     void releaseCapture() override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::releaseCapture();
     }
     void present() override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         ForwardingWindow::present();
     }
 
@@ -135,7 +135,7 @@ class FailingWorld final : public World {
         return desktop_.createTimer(std::move(onTimer));
     }
     std::unique_ptr<Surface> createSurface(Long width, Long height) override {
-        point_.pass(outOfMemory);
+        point_.pass(ErrorNumber::outOfMemory);
         return std::make_unique<FailingSurface>(desktop_.createSurface(width, height), point_);
     }
 

@@ -32,6 +32,7 @@ class FailurePoint {
         if (isHere())
             throw RuntimeError(number);
     }
+    void pass(ErrorNumber error) { pass(numberOf(error)); }
 
   private:
     long remaining_ = 0; ///< 0: nothing fails

@@ -23,7 +23,7 @@ class EmbeddedControl final : public Object {
         onCall();
         if (name == u"Height")
             return Single{240};
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     void put(StringView /*name*/, const Variant& /*value*/) override { onCall(); }
     Variant call(StringView /*name*/, std::span<Variant> /*arguments*/) override {

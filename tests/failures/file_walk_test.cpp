@@ -94,16 +94,16 @@ class Entries final : public Object {
     FailurePoint point;
 
     Variant get(StringView name, std::span<Variant> arguments) override {
-        point.pass(automationError);
+        point.pass(ErrorNumber::automationError);
         if (name == u"ListCount")
             return static_cast<Long>(entries.size());
         return entries.at(static_cast<std::size_t>(arguments[0].toLong()));
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView /*name*/, std::span<Variant> arguments) override {
-        point.pass(automationError);
+        point.pass(ErrorNumber::automationError);
         entries.push_back(arguments[0].toText());
         return {};
     }

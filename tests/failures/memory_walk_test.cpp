@@ -75,7 +75,7 @@ TEST_F(MemoryWalk, AListIsMadeWholeOrNotAtAll) {
             made = false;
         } catch (const RuntimeError& error) {
             made = false;
-            EXPECT_EQ(error.number(), outOfMemory);
+            EXPECT_EQ(error.number(), ErrorNumber::outOfMemory);
         }
         const long failures = FailingMemory::disarm();
         if (failures == 0) {

@@ -234,7 +234,9 @@ TEST_F(Report, AHandlerGetsTheComponentWhereTheWorldHasNoApplicationObject) {
 }
 
 TEST_F(Report, AHandlerThatRaisesInRaiseErrorMeansTheBoxAsWell) {
-    onRaiseError = [](std::span<Variant> /*arguments*/) { throw RuntimeError(invalidProcedureCall); };
+    onRaiseError = [](std::span<Variant> /*arguments*/) {
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
+    };
     const ReportCatcher& handler = installHandler();
     reportError(runtime, report);
     EXPECT_EQ(handler.calls.size(), 1U);
@@ -259,7 +261,7 @@ TEST_F(Report, AHandlerThatChangesItsArgumentsAndThenRaisesDoesNotChangeTheBox) 
     onRaiseError = [](std::span<Variant> arguments) {
         for (Variant& argument : arguments)
             argument = u"changed";
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     };
     installHandler();
     reportError(runtime, report);
@@ -280,7 +282,7 @@ TEST_F(Report, AHandlerThatChangesItsArgumentsChangesNoLaterReport) {
 }
 
 TEST_F(Report, ABoxThatCannotBeShownIsTheEnd) {
-    runtime.onMessageBox = [] { throw RuntimeError(outOfMemory); };
+    runtime.onMessageBox = [] { throw RuntimeError(ErrorNumber::outOfMemory); };
     reportError(runtime, report);
     EXPECT_EQ(runtime.boxes.size(), 1U);
 }

@@ -24,8 +24,8 @@ class ProcedureTest : public ::testing::Test {
     Procedure p{runtime, u"ItemText", ModuleKind::control, u"lmListView"};
 };
 
-void fail(Long number = subscriptOutOfRange) {
-    throw RuntimeError(number);
+void fail(ErrorNumber error = ErrorNumber::subscriptOutOfRange) {
+    throw RuntimeError(error);
 }
 
 TEST_F(ProcedureTest, AStatementThatSucceedsReportsNothing) {
@@ -101,7 +101,7 @@ TEST_F(ProcedureTest, AFailedGetReturnsItsTypesZero) {
 
 TEST_F(ProcedureTest, AFailedConditionTakesTheBranchThatWasNamed) {
     const auto failing = []() -> bool {
-        fail(typeMismatch);
+        fail(ErrorNumber::typeMismatch);
         return true;
     };
     EXPECT_TRUE(p.condition(failing, true));
@@ -116,7 +116,8 @@ TEST_F(ProcedureTest, WhateverAHandlerThrowsIsReportedAsError440) {
     p.raise([] { throw std::logic_error("no rows today"); });
     p.raise([] { throw 1; });
     EXPECT_EQ(handler->reports(),
-              u"440 ItemText: no rows today\n440 ItemText: " + errorDescription(automationError) + u"\n");
+              u"440 ItemText: no rows today\n440 ItemText: " +
+                  errorDescription(numberOf(ErrorNumber::automationError)) + u"\n");
 }
 
 TEST_F(ProcedureTest, AFailingStatementInALoopCostsAReportOnEachTurn) {
@@ -150,9 +151,9 @@ TEST_F(ProcedureTest, SilentErrorTrueMeansNeitherFileNorHandlerNorBox) {
     EXPECT_FALSE(p.step([] { fail(); }));
     EXPECT_TRUE(p.step([&] { nextRan = true; }));
     EXPECT_TRUE(nextRan);
-    EXPECT_EQ(p.value<Long>([]() -> Long { throw RuntimeError(overflow); }), 0);
-    EXPECT_TRUE(p.condition([]() -> bool { throw RuntimeError(overflow); }, true));
-    p.report(RuntimeError(overflow));
+    EXPECT_EQ(p.value<Long>([]() -> Long { throw RuntimeError(ErrorNumber::overflow); }), 0);
+    EXPECT_TRUE(p.condition([]() -> bool { throw RuntimeError(ErrorNumber::overflow); }, true));
+    p.report(RuntimeError(ErrorNumber::overflow));
     EXPECT_TRUE(runtime.journal.empty());
     EXPECT_TRUE(runtime.fileSystem.texts.empty());
     EXPECT_TRUE(runtime.boxes.empty());
@@ -164,7 +165,7 @@ TEST_F(ProcedureTest, SilentErrorTrueMeansNeitherFileNorHandlerNorBox) {
 }
 
 TEST_F(ProcedureTest, AProcedureMayReportAFailureThatItHandledItself) {
-    const auto failure = failureOf([] { fail(invalidPicture); });
+    const auto failure = failureOf([] { fail(ErrorNumber::invalidPicture); });
     ASSERT_TRUE(failure.has_value());
     p.report(*failure);
     EXPECT_EQ(handler->reports(), u"481 ItemText: Invalid picture\n");
@@ -172,7 +173,9 @@ TEST_F(ProcedureTest, AProcedureMayReportAFailureThatItHandledItself) {
 }
 
 TEST_F(ProcedureTest, AFailingHandlerThatUsesTheControlComesToAnEnd) {
-    handler->onRaiseError = [this](std::span<Variant> /*arguments*/) { p.step([] { fail(typeMismatch); }); };
+    handler->onRaiseError = [this](std::span<Variant> /*arguments*/) {
+        p.step([] { fail(ErrorNumber::typeMismatch); });
+    };
     p.step([] { fail(); });
     EXPECT_EQ(handler->calls.size(), static_cast<std::size_t>(mostNestedReports));
 }

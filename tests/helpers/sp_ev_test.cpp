@@ -251,7 +251,7 @@ TEST_F(ListRead, ALineThatTheListRefusesCostsAReport) {
     int added = 0;
     list->onAddItem = [&] {
         if (++added == 2)
-            throw RuntimeError(outOfMemory);
+            throw RuntimeError(ErrorNumber::outOfMemory);
     };
     spEv.ListRead(list, folder.pathTo("list.txt"));
     EXPECT_EQ(linesOf(*list), "a|c|");

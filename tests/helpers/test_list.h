@@ -27,18 +27,18 @@ class TestList final : public Object {
         if (sameName(name, u"ListCount"))
             return claimedCount.isEmpty() ? Variant(static_cast<Long>(entries.size())) : claimedCount;
         if (!sameName(name, u"List") || arguments.size() != 1)
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         const Long index = arguments[0].toLong();
         if (index < 0 || static_cast<std::size_t>(index) >= entries.size())
             throw RuntimeError(381, u"Invalid property array index");
         return entries[static_cast<std::size_t>(index)];
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView name, std::span<Variant> arguments) override {
         if (!sameName(name, u"AddItem") || arguments.size() != 1)
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         onAddItem();
         entries.push_back(arguments[0]);
         return {};

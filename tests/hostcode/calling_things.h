@@ -38,13 +38,13 @@ class CallingObject final : public Object {
     Variant get(StringView name, std::span<Variant> /*arguments*/) override {
         if (name == u"RecordCount")
             return Long{0};
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView /*name*/, std::span<Variant> /*arguments*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
 
   private:

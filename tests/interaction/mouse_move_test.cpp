@@ -77,18 +77,18 @@ TEST_F(MouseMove, WithHiddenHeadersPaintsNothing) {
     list.letHideColumnHeaders(true);
     hover(cell(2, 1));
     inside.letHoverColumn(0);
-    window().letMousePointer(pointerCustom);
+    window().letMousePointer(CursorShape::custom);
     EXPECT_EQ(paintsOf([&] { list.UserControl_MouseMove(0, 0, 30, 0); }), 0);
-    EXPECT_EQ(window().MousePointer(), pointerCustom);
+    EXPECT_EQ(window().MousePointer(), CursorShape::custom);
 }
 
 TEST_F(MouseMove, UnderTheHeadersTakesTheResizeCursorAway) {
     fill(2);
     hover(divider(1));
     move(divider(1));
-    EXPECT_EQ(window().MousePointer(), pointerCustom);
+    EXPECT_EQ(window().MousePointer(), CursorShape::custom);
     move(cell(1, 1));
-    EXPECT_EQ(window().MousePointer(), pointerDefault);
+    EXPECT_EQ(window().MousePointer(), CursorShape::standard);
 }
 
 TEST_F(MouseMove, CarriesTheGuideLineAlong) {

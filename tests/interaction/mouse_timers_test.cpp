@@ -39,13 +39,13 @@ TEST_F(MouseTimers, LeavingEndsTheHoverWithOnePaintAndStopsTheTimer) {
     hover(header(1));
     move(header(1));
     ASSERT_TRUE(says(inside.header(), "hover=1"));
-    window().letMousePointer(pointerCustom);
+    window().letMousePointer(CursorShape::custom);
     move({500, 500});
     EXPECT_TRUE(says(inside.mouse(), "inside=yes")) << "nobody has noticed yet";
     EXPECT_EQ(paintsOf([&] { desktop.advance(milliseconds(1)); }), 1);
     EXPECT_TRUE(says(inside.mouse(), "inside=no"));
     EXPECT_TRUE(says(inside.header(), "hover=none"));
-    EXPECT_EQ(window().MousePointer(), pointerDefault);
+    EXPECT_EQ(window().MousePointer(), CursorShape::standard);
     EXPECT_FALSE(inside.mouseInTimer().Enabled());
     move(header(1));
     EXPECT_TRUE(inside.mouseInTimer().Enabled());
@@ -161,23 +161,23 @@ TEST_F(MouseOut, TakesTheCaptureInsideAndGivesItBackOutside) {
         bool pointerOver;
         bool insideBefore;
         bool insideAfter;
-        Integer cursorAfter;
+        CursorShape cursorAfter;
     };
     // clang-format off
     const Row rows[] = {
-        {"left of it",                 -1,  50,  true,  true,  false, pointerCustom},
-        {"above it",                   50,  -1,  true,  true,  false, pointerCustom},
-        {"right of it",                301, 50,  true,  true,  false, pointerCustom},
-        {"under it",                   50,  201, true,  true,  false, pointerCustom},
-        {"on its lower right corner",  300, 200, true,  true,  true,  pointerCustom},
-        {"inside, for the first time", 50,  50,  true,  false, true,  pointerDefault},
-        {"inside, as before",          50,  50,  true,  true,  true,  pointerCustom},
-        {"inside, another window up",  50,  50,  false, true,  false, pointerDefault},
+        {"left of it",                 -1,  50,  true,  true,  false, CursorShape::custom},
+        {"above it",                   50,  -1,  true,  true,  false, CursorShape::custom},
+        {"right of it",                301, 50,  true,  true,  false, CursorShape::custom},
+        {"under it",                   50,  201, true,  true,  false, CursorShape::custom},
+        {"on its lower right corner",  300, 200, true,  true,  true,  CursorShape::custom},
+        {"inside, for the first time", 50,  50,  true,  false, true,  CursorShape::standard},
+        {"inside, as before",          50,  50,  true,  true,  true,  CursorShape::custom},
+        {"inside, another window up",  50,  50,  false, true,  false, CursorShape::standard},
     };
     // clang-format on
     for (const Row& row : rows) {
         desktop.move(row.pointerOver ? Point{150, 150} : Point{900, 900});
-        window().letMousePointer(pointerCustom);
+        window().letMousePointer(CursorShape::custom);
         inside.letInside(row.insideBefore);
         window().setCapture();
         inside.MouseOut(row.x, row.y);

@@ -186,7 +186,7 @@ TEST_F(HeaderPress, OnTheRightMarginStartsAResizeAtTheNextPaintAndIsNoClick) {
     move(divider(1));
     EXPECT_TRUE(says(inside.header(), "resizing=yes"));
     EXPECT_TRUE(inside.guide().Visible());
-    EXPECT_EQ(window().MousePointer(), pointerCustom);
+    EXPECT_EQ(window().MousePointer(), CursorShape::custom);
     desktop.release();
     EXPECT_EQ(takenNames(), (Lines{"MouseDown", "MouseUp", "Click"}));
 }
@@ -200,7 +200,7 @@ TEST_F(HeaderPress, OnTheRightMarginOfFixedColumnsIsAClickAfterAPaint) {
     EXPECT_FALSE(inside.guide().Visible());
     EXPECT_TRUE(says(inside.header(), "divider=1")) << "kept all the same";
     EXPECT_TRUE(says(inside.header(), "pressed=1"));
-    EXPECT_EQ(window().MousePointer(), pointerDefault);
+    EXPECT_EQ(window().MousePointer(), CursorShape::standard);
     desktop.release();
     EXPECT_EQ(takenNames(), (Lines{"MouseDown", "ColumnClick", "MouseUp", "Click"}));
 }

@@ -74,12 +74,12 @@ class MirrorSurface final : public Surface {
     Single textHeight(StringView text) override {
         return measured(software_.textHeight(text), windows_.textHeight(text));
     }
-    Long drawText(StringView text, Rect& rect, Long format) override {
+    Long drawText(StringView text, Rect& rect, TextFormat format) override {
         Rect onWindows = rect;
         Rect inSoftware = rect;
-        const Long height = measured(software_.drawText(text, inSoftware, format | dtCalcRect),
-                                     windows_.drawText(text, onWindows, format | dtCalcRect));
-        if ((format & dtCalcRect) != 0)
+        const Long height = measured(software_.drawText(text, inSoftware, format | TextFormat::calcRect),
+                                     windows_.drawText(text, onWindows, format | TextFormat::calcRect));
+        if (has(format, TextFormat::calcRect))
             rect = inSoftware;
         return height;
     }

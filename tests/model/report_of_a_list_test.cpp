@@ -118,7 +118,7 @@ TEST_F(ReportOfAList, SilentErrorTrueMeansNeitherFileNorHandlerNorBox) {
 TEST_F(ReportOfAList, AHandlerThatRaisesMeansTheBoxAsWell) {
     const auto handler = std::make_shared<ReportCatcher>();
     handler->onRaiseError = [](std::span<Variant> /*arguments*/) {
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     };
     runtime.factories[String(ReportCatcher::programId)] = [&] { return handler; };
     fail();

@@ -135,7 +135,7 @@ class Matcher {
         if (unit == u'[') {
             const std::size_t end = pattern.find(u']');
             if (end == StringView::npos)
-                throw RuntimeError(invalidPatternString);
+                throw RuntimeError(ErrorNumber::invalidPatternString);
             length = end + 1;
             const StringView list = pattern.substr(1, end - 1);
             if (list.empty())

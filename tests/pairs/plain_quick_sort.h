@@ -77,7 +77,7 @@ class PlainQuickSort {
     String ItemText(Double Row) {
         const auto index = static_cast<std::int64_t>(std::nearbyint(Row - 1));
         if (index < 0 || index >= static_cast<std::int64_t>(rows_.size())) {
-            reports.push_back(subscriptOutOfRange);
+            reports.push_back(numberOf(ErrorNumber::subscriptOutOfRange));
             return {};
         }
         return rows_[static_cast<std::size_t>(index)].text;

@@ -18,7 +18,7 @@ class NosyBag final : public PropertyBag {
         values.push_back(value);
         defaults.push_back(defaultValue);
         if (name == refused)
-            throw RuntimeError(outOfMemory);
+            throw RuntimeError(ErrorNumber::outOfMemory);
     }
 
     std::vector<String> names;

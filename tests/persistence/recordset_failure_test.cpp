@@ -165,11 +165,13 @@ TEST_F(RecordsetFailure, OfAnObjectWithoutAnyMemberChangesNothing) {
     class Stranger final : public Object {
       public:
         Variant get(StringView, std::span<Variant>) override {
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         }
-        void put(StringView, const Variant&) override { throw RuntimeError(objectDoesNotSupportMember); }
+        void put(StringView, const Variant&) override {
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
+        }
         Variant call(StringView, std::span<Variant>) override {
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         }
     };
     const std::string before = content();

@@ -61,8 +61,8 @@ TEST_F(Box, RoundsHalvesToEven) {
 
 TEST_F(Box, CoordinateThatFitsNo32BitsIsAnOverflow) {
     for (const Single bad : {infinite, notANumber, tooLarge}) {
-        EXPECT_EQ(errorNumberOf([&] { surface.box(bad, 0, 1, 1, black); }), overflow);
-        EXPECT_EQ(errorNumberOf([&] { surface.box(0, 0, 1, bad, black); }), overflow);
+        EXPECT_EQ(errorNumberOf([&] { surface.box(bad, 0, 1, 1, black); }), ErrorNumber::overflow);
+        EXPECT_EQ(errorNumberOf([&] { surface.box(0, 0, 1, bad, black); }), ErrorNumber::overflow);
     }
     EXPECT_EQ(inkOf(surface.image()), Rect{});
 }
@@ -117,7 +117,7 @@ TEST_F(FillBox, RoundsHalvesToEven) {
 
 TEST_F(FillBox, CoordinateThatFitsNo32BitsIsAnOverflow) {
     for (const Single bad : {infinite, -infinite, notANumber, tooLarge})
-        EXPECT_EQ(errorNumberOf([&] { surface.fillBox(0, bad, 1, 1, black); }), overflow);
+        EXPECT_EQ(errorNumberOf([&] { surface.fillBox(0, bad, 1, 1, black); }), ErrorNumber::overflow);
     EXPECT_EQ(inkOf(surface.image()), Rect{});
 }
 
@@ -140,8 +140,8 @@ TEST_F(PSet, RoundsHalvesToEven) {
 }
 
 TEST_F(PSet, CoordinateThatFitsNo32BitsIsAnOverflow) {
-    EXPECT_EQ(errorNumberOf([&] { surface.pset(notANumber, 0, black); }), overflow);
-    EXPECT_EQ(errorNumberOf([&] { surface.pset(0, tooLarge, black); }), overflow);
+    EXPECT_EQ(errorNumberOf([&] { surface.pset(notANumber, 0, black); }), ErrorNumber::overflow);
+    EXPECT_EQ(errorNumberOf([&] { surface.pset(0, tooLarge, black); }), ErrorNumber::overflow);
 }
 
 } // namespace

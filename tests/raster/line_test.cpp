@@ -127,10 +127,10 @@ TEST_F(Line, RoundsHalvesToEven) {
 
 TEST_F(Line, CoordinateThatFitsNo32BitsIsAnOverflow) {
     for (const Single bad : {infinite, -infinite, notANumber, tooLarge, -3e9F}) {
-        EXPECT_EQ(errorNumberOf([&] { draw(bad, 0, 1, 1); }), overflow);
-        EXPECT_EQ(errorNumberOf([&] { draw(0, bad, 1, 1); }), overflow);
-        EXPECT_EQ(errorNumberOf([&] { draw(0, 0, bad, 1); }), overflow);
-        EXPECT_EQ(errorNumberOf([&] { draw(0, 0, 1, bad); }), overflow);
+        EXPECT_EQ(errorNumberOf([&] { draw(bad, 0, 1, 1); }), ErrorNumber::overflow);
+        EXPECT_EQ(errorNumberOf([&] { draw(0, bad, 1, 1); }), ErrorNumber::overflow);
+        EXPECT_EQ(errorNumberOf([&] { draw(0, 0, bad, 1); }), ErrorNumber::overflow);
+        EXPECT_EQ(errorNumberOf([&] { draw(0, 0, 1, bad); }), ErrorNumber::overflow);
     }
     EXPECT_EQ(inkOf(surface.image()), Rect{});
 }

@@ -57,7 +57,7 @@ TEST_F(Clearing, HoldsUnderEveryOperationThatFollows) {
             surface.stretchDIBits(0, 0, 2, 2, {1, 1, dib});
         },
         [&] { surface.print(0, 0, u"I"); },
-        [&] { surface.drawText(u"I", rect, dtLeft); },
+        [&] { surface.drawText(u"I", rect, TextFormat::left); },
     };
     for (const auto& operation : operations) {
         surface.letBackColor(red);
@@ -98,7 +98,7 @@ TEST_F(Resize, ToNothingAndBackIsSafe) {
     surface.line(0, 0, 3, 3, black);
     surface.letBackColor(red);
     Rect rect{0, 0, 10, 10};
-    surface.drawText(u"text", rect, dtLeft);
+    surface.drawText(u"text", rect, TextFormat::left);
     surface.resize(-4, -4);
     EXPECT_EQ(surface.scaleWidth(), 0);
     EXPECT_EQ(surface.scaleHeight(), 0);
@@ -121,12 +121,12 @@ TEST_F(SurfaceState, ANewSurfaceIsWhiteWithBlackInk) {
 TEST_F(SurfaceState, MeasuresNinetySixPixelsAnInch) {
     EXPECT_EQ(surface.pixelsPerInchX(), 96);
     EXPECT_EQ(surface.pixelsPerInchY(), 96);
-    EXPECT_EQ(scaleX(surface, 15, twips, pixels), 1);
-    EXPECT_EQ(scaleY(surface, 1440, twips, pixels), 96);
-    EXPECT_EQ(scaleX(surface, 2540, himetric, pixels), 96);
-    EXPECT_EQ(scaleY(surface, 96, pixels, himetric), 2540);
-    EXPECT_EQ(scaleX(surface, 7, pixels, pixels), 7);
-    EXPECT_EQ(scaleX(surface, 10, twips, pixels), 10.0F / 15.0F);
+    EXPECT_EQ(scaleX(surface, 15, Unit::twips, Unit::pixels), 1);
+    EXPECT_EQ(scaleY(surface, 1440, Unit::twips, Unit::pixels), 96);
+    EXPECT_EQ(scaleX(surface, 2540, Unit::himetric, Unit::pixels), 96);
+    EXPECT_EQ(scaleY(surface, 96, Unit::pixels, Unit::himetric), 2540);
+    EXPECT_EQ(scaleX(surface, 7, Unit::pixels, Unit::pixels), 7);
+    EXPECT_EQ(scaleX(surface, 10, Unit::twips, Unit::pixels), 10.0F / 15.0F);
 }
 
 TEST_F(SurfaceState, ImageIsOpaqueAndDoesNotFollowTheSurface) {

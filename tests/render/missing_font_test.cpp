@@ -17,7 +17,8 @@ class MissingFont : public PaintedList {
     static String failedReads(int count, StringView procedure) {
         String lines;
         for (int i = 0; i < count; ++i)
-            lines += u"91 " + String(procedure) + u": " + errorDescription(objectVariableNotSet) + u"\n";
+            lines += u"91 " + String(procedure) + u": " +
+                     errorDescription(numberOf(ErrorNumber::objectVariableNotSet)) + u"\n";
         return lines;
     }
 
@@ -38,7 +39,7 @@ TEST_F(MissingFont, OfTheHeadersEndsThePassWithTheEvent) {
     ASSERT_EQ(events.log.size(), 1U);
     EXPECT_EQ(events.log[0],
               "ListViewError eSub=Redraw eNumber=91 eDescription=" +
-                  toUtf8(errorDescription(objectVariableNotSet)));
+                  toUtf8(errorDescription(numberOf(ErrorNumber::objectVariableNotSet))));
     EXPECT_TRUE(says(inside.painting(), "held=no"));
     EXPECT_EQ(drawnLines, (std::vector<std::string>{"Cls", "BackColor FFFFFF"}));
 }

@@ -336,16 +336,16 @@ TEST_F(PaintPassOrder, ThePointerChangesOverADivider) {
     addColumns({60});
     mouseAt(57, 5);
     repaint();
-    EXPECT_EQ(window().inner().MousePointer(), pointerCustom);
+    EXPECT_EQ(window().inner().MousePointer(), CursorShape::custom);
     EXPECT_EQ(window().inner().MouseIcon(), inside.artwork().imgResize);
     inside.letDividerColumn(-1);
     mouseAt(30, 5);
     repaint();
-    EXPECT_EQ(window().inner().MousePointer(), pointerDefault);
+    EXPECT_EQ(window().inner().MousePointer(), CursorShape::standard);
     list.letFixColumns(true);
     mouseAt(57, 5);
     repaint();
-    EXPECT_EQ(window().inner().MousePointer(), pointerDefault);
+    EXPECT_EQ(window().inner().MousePointer(), CursorShape::standard);
 }
 
 TEST_F(PaintPassOrder, AFailureBeforeTheRowsRaisesAnEventAndFreesThePass) {

@@ -17,7 +17,7 @@ std::uint32_t at(RasterSurface& surface, Long x, Long y) {
 TEST(Gradient, RunsFromLeftToRight) {
     RasterSurface surface(4, 2, testFonts());
     const Rect rect{0, 0, 4, 2};
-    DrawGradient(surface, &rect, 0x000000, 0x0000C8, leftToRight);
+    DrawGradient(surface, &rect, 0x000000, 0x0000C8, GradientDirection::leftToRight);
     for (Long y = 0; y < 2; ++y) {
         EXPECT_EQ(at(surface, 0, y), 0x000000U);
         EXPECT_EQ(at(surface, 1, y), 0x320000U);
@@ -29,7 +29,7 @@ TEST(Gradient, RunsFromLeftToRight) {
 TEST(Gradient, RunsFromBottomToTopAndMovesOnAtEveryPixelOfItsStrip) {
     RasterSurface surface(4, 2, testFonts());
     const Rect rect{0, 0, 4, 2};
-    DrawGradient(surface, &rect, 0x000000, 0x000050, bottomToTop);
+    DrawGradient(surface, &rect, 0x000000, 0x000050, GradientDirection::bottomToTop);
     const std::uint32_t lower[] = {0x000000, 0x0A0000, 0x140000, 0x1E0000};
     const std::uint32_t upper[] = {0x280000, 0x320000, 0x3C0000, 0x460000};
     for (Long x = 0; x < 4; ++x) {
@@ -41,7 +41,7 @@ TEST(Gradient, RunsFromBottomToTopAndMovesOnAtEveryPixelOfItsStrip) {
 TEST(Gradient, OfAnExtentBelowZeroMirrorsToTheOtherSideOfItsFirstPixel) {
     RasterSurface surface(6, 3, testFonts());
     const Rect leftwards{4, 0, 0, 2};
-    DrawGradient(surface, &leftwards, 0x000000, 0x000050, bottomToTop);
+    DrawGradient(surface, &leftwards, 0x000000, 0x000050, GradientDirection::bottomToTop);
     const std::uint32_t lower[] = {0xFFFFFF, 0x1E0000, 0x140000, 0x0A0000, 0x000000, 0xFFFFFF};
     const std::uint32_t upper[] = {0xFFFFFF, 0x460000, 0x3C0000, 0x320000, 0x280000, 0xFFFFFF};
     for (Long x = 0; x < 6; ++x) {
@@ -50,7 +50,7 @@ TEST(Gradient, OfAnExtentBelowZeroMirrorsToTheOtherSideOfItsFirstPixel) {
     }
     surface.Cls();
     const Rect upwards{1, 2, 3, 0};
-    DrawGradient(surface, &upwards, 0x000000, 0x000050, leftToRight);
+    DrawGradient(surface, &upwards, 0x000000, 0x000050, GradientDirection::leftToRight);
     for (Long y = 0; y < 3; ++y) {
         EXPECT_EQ(at(surface, 1, y), y == 0 ? 0xFFFFFFU : 0x000000U) << y;
         EXPECT_EQ(at(surface, 2, y), y == 0 ? 0xFFFFFFU : 0x280000U) << y;
@@ -60,9 +60,9 @@ TEST(Gradient, OfAnExtentBelowZeroMirrorsToTheOtherSideOfItsFirstPixel) {
 TEST(Gradient, ChannelsAreRoundedHalfToEven) {
     RasterSurface surface(2, 1, testFonts());
     const Rect rect{0, 0, 2, 1};
-    DrawGradient(surface, &rect, 0x000000, 0x000001, leftToRight);
+    DrawGradient(surface, &rect, 0x000000, 0x000001, GradientDirection::leftToRight);
     EXPECT_EQ(at(surface, 1, 0), 0x000000U) << "0.5 rounds to 0";
-    DrawGradient(surface, &rect, 0x000001, 0x000002, leftToRight);
+    DrawGradient(surface, &rect, 0x000001, 0x000002, GradientDirection::leftToRight);
     EXPECT_EQ(at(surface, 1, 0), 0x020000U) << "1.5 rounds to 2";
 }
 
@@ -74,15 +74,15 @@ TEST(Gradient, WhatCannotBePaintedPaintsNothing) {
     const Rect turned{4, 4, 0, 0};
     const Rect all{0, 0, 4, 4};
     const Rect huge{-0x7FFFFFFF, 0, 0x7FFFFFFF, 1};
-    DrawGradient(surface, nullptr, 0, 0xFF, leftToRight);
-    DrawGradient(surface, &noWidth, 0, 0xFF, leftToRight);
-    DrawGradient(surface, &noHeight, 0, 0xFF, bottomToTop);
-    DrawGradient(surface, &turned, 0, 0xFF, leftToRight);
-    DrawGradient(surface, &turned, 0, 0xFF, bottomToTop);
-    DrawGradient(surface, &all, 0, 0xFF, 2);
-    DrawGradient(surface, &huge, 0, 0xFF, leftToRight);
+    DrawGradient(surface, nullptr, 0, 0xFF, GradientDirection::leftToRight);
+    DrawGradient(surface, &noWidth, 0, 0xFF, GradientDirection::leftToRight);
+    DrawGradient(surface, &noHeight, 0, 0xFF, GradientDirection::bottomToTop);
+    DrawGradient(surface, &turned, 0, 0xFF, GradientDirection::leftToRight);
+    DrawGradient(surface, &turned, 0, 0xFF, GradientDirection::bottomToTop);
+    DrawGradient(surface, &all, 0, 0xFF, static_cast<GradientDirection>(2));
+    DrawGradient(surface, &huge, 0, 0xFF, GradientDirection::leftToRight);
     EXPECT_TRUE(surface.log.empty());
-    DrawGradient(surface, &noHeight, 0, 0xFF, leftToRight);
+    DrawGradient(surface, &noHeight, 0, 0xFF, GradientDirection::leftToRight);
     EXPECT_EQ(surface.log, Lines{"Stretch 0,2 4x0 from 4x1"})
         << "no division by the height; it paints nothing";
     EXPECT_EQ(at(inner, 0, 2), 0xFFFFFFU);
@@ -323,13 +323,13 @@ TEST(Gradient, FarBeyondTheSurfaceIsWorkedOutWhereItCanBeSeen) {
     RasterSurface surface(4, 100, testFonts());
     // One step of blue for each 8,000,000 rows, counted from below.
     const Rect tall{0, -1599999950, 4, 440000050};
-    DrawGradient(surface, &tall, 0x000000, 0xFF0000, bottomToTop);
+    DrawGradient(surface, &tall, 0x000000, 0xFF0000, GradientDirection::bottomToTop);
     EXPECT_EQ(surface.image().at(0, 99), 0xFF000037U);
     const Rect wide{-1599999998, 0, 440000002, 100};
-    DrawGradient(surface, &wide, 0x000000, 0xFF0000, leftToRight);
+    DrawGradient(surface, &wide, 0x000000, 0xFF0000, GradientDirection::leftToRight);
     EXPECT_EQ(surface.image().at(0, 0), 0xFF0000C8U);
     const Rect beside{-2000000000, 0, 0, 100};
-    DrawGradient(surface, &beside, 0x000000, 0x00FF00, leftToRight);
+    DrawGradient(surface, &beside, 0x000000, 0x00FF00, GradientDirection::leftToRight);
     EXPECT_EQ(surface.image().at(0, 0), 0xFF0000C8U);
 }
 

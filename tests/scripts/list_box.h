@@ -19,10 +19,10 @@ class ListBox final : public Object {
             return static_cast<Integer>(entries.size());
         if (sameName(name, u"List") && arguments.size() == 1)
             return entries.at(static_cast<std::size_t>(arguments[0].toLong()));
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView name, std::span<Variant> arguments) override {
         if (!sameName(name, u"AddItem"))

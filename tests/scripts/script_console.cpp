@@ -20,14 +20,14 @@ class Arguments final : public Object {
         if (sameName(name, u"Count") && arguments.empty())
             return static_cast<Long>(texts_.size());
         if (!sameName(name, u"Item") || arguments.size() != 1)
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         const auto place = static_cast<std::size_t>(arguments[0].toLong());
         if (place >= texts_.size())
-            throw RuntimeError(subscriptOutOfRange);
+            throw RuntimeError(ErrorNumber::subscriptOutOfRange);
         return texts_[place];
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView name, std::span<Variant> arguments) override { return get(name, arguments); }
 
@@ -47,12 +47,12 @@ Variant ScriptConsole::get(StringView name, std::span<Variant> arguments) {
     if (sameName(name, u"ScriptFullName"))
         return scriptPath_;
     if (!sameName(name, u"Arguments"))
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     return arguments.empty() ? Variant(arguments_) : arguments_->get(u"Item", arguments);
 }
 
 void ScriptConsole::put(StringView /*name*/, const Variant& /*value*/) {
-    throw RuntimeError(objectDoesNotSupportMember);
+    throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
 }
 
 Variant ScriptConsole::call(StringView name, std::span<Variant> arguments) {
@@ -69,13 +69,13 @@ Variant ScriptConsole::call(StringView name, std::span<Variant> arguments) {
     }
     if (sameName(name, u"ConnectObject")) {
         if (arguments.size() != 2)
-            throw RuntimeError(wrongNumberOfArguments);
+            throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
         const ComRef<IDispatch> control = toIDispatch(arguments[0].toObject());
         connections_.push_back(
             std::make_unique<ScriptEvents>(control.get(), host_.dispatch(), arguments[1].toText()));
         return {};
     }
-    throw RuntimeError(objectDoesNotSupportMember);
+    throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
 }
 
 } // namespace lumtex::testing

@@ -95,11 +95,11 @@ void ScriptUser::show(const Variant& list) {
 }
 
 Variant ScriptUser::get(StringView /*name*/, std::span<Variant> /*arguments*/) {
-    throw RuntimeError(objectDoesNotSupportMember);
+    throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
 }
 
 void ScriptUser::put(StringView /*name*/, const Variant& /*value*/) {
-    throw RuntimeError(objectDoesNotSupportMember);
+    throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
 }
 
 Variant ScriptUser::call(StringView name, std::span<Variant> arguments) {
@@ -117,7 +117,7 @@ Variant ScriptUser::call(StringView name, std::span<Variant> arguments) {
     else if (sameName(name, u"Click") && arguments.size() == 3)
         click(windowOf(arguments[0]), arguments[1].toLong(), arguments[2].toLong());
     else
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     return {};
 }
 

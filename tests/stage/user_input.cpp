@@ -11,11 +11,11 @@ namespace lumtex::testing {
 namespace {
 
 struct ShiftKey {
-    ShiftMask mask;
+    Integer mask;
     WORD key;
 };
 constexpr std::array<ShiftKey, 3> shiftKeyTable{
-    {{shiftMask, VK_SHIFT}, {controlMask, VK_CONTROL}, {altMask, VK_MENU}}};
+    {{keys::shiftMask, VK_SHIFT}, {keys::controlMask, VK_CONTROL}, {keys::altMask, VK_MENU}}};
 
 struct ButtonInput {
     MouseButton button;

@@ -10,9 +10,9 @@ namespace lumtex::testing {
 /// Each look at it fails with 481.
 class BrokenPicture final : public Picture {
   public:
-    Long Width() const override { throw RuntimeError(invalidPicture); }
-    Long Height() const override { throw RuntimeError(invalidPicture); }
-    const Bitmap& bitmap() const override { throw RuntimeError(invalidPicture); }
+    Long Width() const override { throw RuntimeError(ErrorNumber::invalidPicture); }
+    Long Height() const override { throw RuntimeError(ErrorNumber::invalidPicture); }
+    const Bitmap& bitmap() const override { throw RuntimeError(ErrorNumber::invalidPicture); }
 };
 
 } // namespace lumtex::testing

@@ -31,7 +31,7 @@ class FakeFiles final : public Files {
     String readFile(StringView path) const override {
         const auto found = texts.find(String(path));
         if (found == texts.end())
-            throw RuntimeError(fileNotFound);
+            throw RuntimeError(ErrorNumber::fileNotFound);
         return found->second;
     }
     String fullPathName(StringView file) const override { return currentFolder + u"\\" + String(file); }
@@ -40,20 +40,20 @@ class FakeFiles final : public Files {
     void findClose(Long /*handle*/) override {}
 
     // Neither reports nor helper calls that are tested with this do more with files.
-    void createFile(StringView /*path*/) override { throw RuntimeError(pathFileAccess); }
+    void createFile(StringView /*path*/) override { throw RuntimeError(ErrorNumber::pathFileAccess); }
     std::unique_ptr<OutputFile> openForBinaryWriting(StringView /*path*/) override {
-        throw RuntimeError(pathFileAccess);
+        throw RuntimeError(ErrorNumber::pathFileAccess);
     }
     std::unique_ptr<InputFile> openForBinaryReading(StringView /*path*/) override {
-        throw RuntimeError(pathFileAccess);
+        throw RuntimeError(ErrorNumber::pathFileAccess);
     }
-    void deleteFile(StringView /*path*/) override { throw RuntimeError(pathFileAccess); }
+    void deleteFile(StringView /*path*/) override { throw RuntimeError(ErrorNumber::pathFileAccess); }
 
   private:
     void demandFolderOf(StringView path) const {
         const std::size_t folderEnd = path.find_last_of(u'\\');
         if (folderEnd == StringView::npos || !folders.contains(String(path.substr(0, folderEnd))))
-            throw RuntimeError(pathNotFound);
+            throw RuntimeError(ErrorNumber::pathNotFound);
     }
 };
 
@@ -130,7 +130,7 @@ class FakeRuntime final : public Runtime, EventQueue, Settings, SystemLocale, Au
         journal.push_back(u"create " + String(programId));
         const auto found = factories.find(String(programId));
         if (found == factories.end())
-            throw RuntimeError(cannotCreateObject);
+            throw RuntimeError(ErrorNumber::cannotCreateObject);
         return found->second();
     }
     ObjectRef applicationObject() override { return application; }

@@ -29,7 +29,7 @@ class ForwardingWindow : public Window {
     void letVisible(bool visible) override { inner_->letVisible(visible); }
     void letEnabled(bool enabled) override { inner_->letEnabled(enabled); }
     void letOLEDropMode(Long mode) override { inner_->letOLEDropMode(mode); }
-    void letMousePointer(Integer shape) override { inner_->letMousePointer(shape); }
+    void letMousePointer(CursorShape shape) override { inner_->letMousePointer(shape); }
     void setMouseIcon(PictureRef icon) override { inner_->setMouseIcon(std::move(icon)); }
     void letTakesKeys(bool takesKeys) override { inner_->letTakesKeys(takesKeys); }
     void setFocus() override { inner_->setFocus(); }

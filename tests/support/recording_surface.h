@@ -98,7 +98,7 @@ class RecordingSurface final : public Surface {
     }
     Single textWidth(StringView text) override { return inner_.textWidth(text); }
     Single textHeight(StringView text) override { return inner_.textHeight(text); }
-    Long drawText(StringView text, Rect& rect, Long format) override {
+    Long drawText(StringView text, Rect& rect, TextFormat format) override {
         note("Text '" + toUtf8(text) + "' " + std::to_string(rect.Left) + "," + std::to_string(rect.Top) +
              "-" + std::to_string(rect.Right) + "," + std::to_string(rect.Bottom) + " " +
              hex(static_cast<OLE_COLOR>(format)));

@@ -33,14 +33,14 @@ class ReportCatcher final : public Object {
     }
 
     Variant get(StringView /*name*/, std::span<Variant> /*arguments*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView name, std::span<Variant> arguments) override {
         if (!sameName(name, u"RaiseError") || arguments.size() != 8)
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         calls.emplace_back(arguments.begin(), arguments.end());
         const auto handle = onRaiseError; // a copy, since it may put something else in its place
         handle(arguments);

@@ -13,7 +13,7 @@ class TestHost final : public Host {
   public:
     bool UserMode() const override {
         if (modeFails)
-            throw RuntimeError(automationError);
+            throw RuntimeError(ErrorNumber::automationError);
         return userMode;
     }
     String extenderName() const override { return name; }

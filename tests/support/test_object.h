@@ -29,14 +29,14 @@ class TestObject final : public Object {
     Variant get(StringView name, std::span<Variant> /*arguments*/) override {
         const auto found = properties.find(String(name));
         if (found == properties.end())
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         return found->second;
     }
 
     void put(StringView name, const Variant& value) override {
         const auto found = properties.find(String(name));
         if (found == properties.end())
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         found->second = value;
         log.push_back(toUtf8(name) + "=" + toUtf8(value.toText()));
         if (onPut)
@@ -46,7 +46,7 @@ class TestObject final : public Object {
     Variant call(StringView name, std::span<Variant> arguments) override {
         const auto found = methods.find(String(name));
         if (found == methods.end())
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         std::string line = toUtf8(name);
         for (const Variant& argument : arguments)
             line += " " + toUtf8(argument.toText());

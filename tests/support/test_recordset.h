@@ -52,10 +52,10 @@ class TestRecordset : public Object {
             note("EOF");
             return endSaid.value_or(position_ >= static_cast<Long>(records.size()));
         }
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView name, std::span<Variant> arguments) override {
         demandNoArguments(arguments);
@@ -66,7 +66,7 @@ class TestRecordset : public Object {
             note("MoveNext");
             ++position_;
         } else {
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         }
         return {};
     }
@@ -87,7 +87,7 @@ class TestRecordset : public Object {
   private:
     static void demandNoArguments(std::span<Variant> arguments) {
         if (!arguments.empty())
-            throw RuntimeError(wrongNumberOfArguments);
+            throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
     }
 
     class Field final : public Object {
@@ -101,13 +101,15 @@ class TestRecordset : public Object {
                 return owner_.names[static_cast<std::size_t>(index_)];
             }
             if (!name.empty())
-                throw RuntimeError(objectDoesNotSupportMember);
+                throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
             owner_.note("Value" + place);
             return owner_.valueAt(index_);
         }
-        void put(StringView, const Variant&) override { throw RuntimeError(objectDoesNotSupportMember); }
+        void put(StringView, const Variant&) override {
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
+        }
         Variant call(StringView, std::span<Variant>) override {
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         }
 
       private:
@@ -125,16 +127,18 @@ class TestRecordset : public Object {
                 return owner_.fieldCountSaid.value_or(static_cast<Long>(owner_.names.size()));
             }
             if (!name.empty() || arguments.size() != 1)
-                throw RuntimeError(objectDoesNotSupportMember);
+                throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
             const Long index = arguments[0].toLong();
             owner_.note("fields(" + std::to_string(index) + ")");
             if (index < 0 || index >= static_cast<Long>(owner_.names.size()))
                 throw RuntimeError(3265, u"Item not found in this collection");
             return ObjectRef(std::make_shared<Field>(owner_, index));
         }
-        void put(StringView, const Variant&) override { throw RuntimeError(objectDoesNotSupportMember); }
+        void put(StringView, const Variant&) override {
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
+        }
         Variant call(StringView, std::span<Variant>) override {
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         }
 
       private:

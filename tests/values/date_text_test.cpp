@@ -141,7 +141,7 @@ TEST(TextFromDate, NeverRoundsPastTheLastDay) {
 TEST(TextFromDate, OutsideTheCalendarOverflows) {
     for (const Double days : {-657435.0, 2958466.0, 1e300, -1e300, std::nan("")}) {
         SCOPED_TRACE(days);
-        EXPECT_EQ(errorNumberOf([&] { textFromDate(Date{days}); }), overflow);
+        EXPECT_EQ(errorNumberOf([&] { textFromDate(Date{days}); }), ErrorNumber::overflow);
         EXPECT_FALSE(isDateInRange(days));
     }
 }

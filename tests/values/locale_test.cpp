@@ -88,7 +88,7 @@ TEST(FixedLocale, WritesNumbersWithItsMarkAndDatesInItsOrder) {
     EXPECT_EQ(texts(Date{0.25}), "06:00:00 06:00:00");
     EXPECT_EQ(texts(Date{45351.5}), "2024-02-29 12:00:00 29.02.2024 12:00:00");
     EXPECT_EQ(texts(true), "True True");
-    EXPECT_EQ(errorNumberOf([] { germanLocale().textOf(Date{3e6}); }), overflow);
+    EXPECT_EQ(errorNumberOf([] { germanLocale().textOf(Date{3e6}); }), ErrorNumber::overflow);
 }
 
 struct Moment {
@@ -142,7 +142,8 @@ TEST(ExactNumbers, KeepAllTheirDigits) {
 
 TEST(ExactNumbers, ConvertLikeTheNumberThatTheyAre) {
     EXPECT_EQ(Variant(LongLong{41}).toLong(), 41);
-    EXPECT_EQ(errorNumberOf([] { Variant(LongLong{std::int64_t{1} << 40}).toLong(); }), overflow);
+    EXPECT_EQ(errorNumberOf([] { Variant(LongLong{std::int64_t{1} << 40}).toLong(); }),
+              ErrorNumber::overflow);
     EXPECT_EQ(Variant(Currency{25000}).toLong(), 2);
     EXPECT_EQ(Variant(Currency{35000}).toInteger(), 4);
     EXPECT_EQ(Variant(Decimal{{15, 0, 0}, 1, true}).toDouble(), -1.5);
@@ -173,10 +174,10 @@ TEST(ExactNumbers, StayOfTheirKindWhenCopiedAndMoved) {
 
 TEST(UnsupportedValues, ConvertToNothing) {
     const Variant value = Unsupported{};
-    EXPECT_EQ(errorNumberOf([&] { value.toLong(); }), typeMismatch);
-    EXPECT_EQ(errorNumberOf([&] { value.toText(); }), typeMismatch);
-    EXPECT_EQ(errorNumberOf([&] { value.toObject(); }), typeMismatch);
-    EXPECT_EQ(errorNumberOf([&] { zeroBased(value); }), typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { value.toLong(); }), ErrorNumber::typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { value.toText(); }), ErrorNumber::typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { value.toObject(); }), ErrorNumber::typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { zeroBased(value); }), ErrorNumber::typeMismatch);
     EXPECT_FALSE(value.isNumeric());
 }
 
@@ -195,7 +196,7 @@ TEST(UsingLocale, MayEndInAnyOrder) {
 TEST(UsingLocale, VariantsFollowTheOneInForce) {
     const Variant text = u"1.234,5";
     EXPECT_FALSE(text.isNumeric());
-    EXPECT_EQ(errorNumberOf([&] { text.toDouble(); }), typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { text.toDouble(); }), ErrorNumber::typeMismatch);
     const UsingLocale german(germanLocale());
     EXPECT_TRUE(text.isNumeric());
     EXPECT_EQ(text.toDouble(), 1234.5);

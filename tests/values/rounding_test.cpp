@@ -41,21 +41,21 @@ TEST(Rounding, WhatDoesNotFitOverflows) {
     for (const Double value :
          {2147483647.5, -2147483649.0, 1e300, -1e300, infinite, -infinite, std::nan("")}) {
         SCOPED_TRACE(value);
-        EXPECT_EQ(errorNumberOf([&] { roundToLong(value); }), overflow);
-        EXPECT_EQ(errorNumberOf([&] { roundToInteger(value); }), overflow);
-        EXPECT_EQ(errorNumberOf([&] { roundToByte(value); }), overflow);
+        EXPECT_EQ(errorNumberOf([&] { roundToLong(value); }), ErrorNumber::overflow);
+        EXPECT_EQ(errorNumberOf([&] { roundToInteger(value); }), ErrorNumber::overflow);
+        EXPECT_EQ(errorNumberOf([&] { roundToByte(value); }), ErrorNumber::overflow);
     }
 }
 
 TEST(Rounding, EachKindHasItsOwnBounds) {
     EXPECT_EQ(roundToInteger(32767.4), 32767);
     EXPECT_EQ(roundToInteger(-32768.5), -32768);
-    EXPECT_EQ(errorNumberOf([] { roundToInteger(32767.5); }), overflow);
-    EXPECT_EQ(errorNumberOf([] { roundToInteger(-32769); }), overflow);
+    EXPECT_EQ(errorNumberOf([] { roundToInteger(32767.5); }), ErrorNumber::overflow);
+    EXPECT_EQ(errorNumberOf([] { roundToInteger(-32769); }), ErrorNumber::overflow);
     EXPECT_EQ(roundToByte(255.4), 255);
     EXPECT_EQ(roundToByte(-0.5), 0);
-    EXPECT_EQ(errorNumberOf([] { roundToByte(255.5); }), overflow);
-    EXPECT_EQ(errorNumberOf([] { roundToByte(-0.6); }), overflow);
+    EXPECT_EQ(errorNumberOf([] { roundToByte(255.5); }), ErrorNumber::overflow);
+    EXPECT_EQ(errorNumberOf([] { roundToByte(-0.6); }), ErrorNumber::overflow);
 }
 
 } // namespace

@@ -14,13 +14,13 @@ namespace {
 class PlainObject final : public Object {
   public:
     Variant get(StringView /*name*/, std::span<Variant> /*arguments*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView /*name*/, std::span<Variant> /*arguments*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
 };
 
@@ -70,8 +70,8 @@ struct Row {
 };
 
 template <class T>
-Outcome<T> fails(Long error) {
-    return {T{}, error};
+Outcome<T> fails(ErrorNumber error) {
+    return {T{}, numberOf(error)};
 }
 
 template <class T>
@@ -93,14 +93,14 @@ void expectRows(T (Variant::*conversion)() const, const std::vector<Row<T>>& row
 template <class T>
 std::vector<Row<T>> unconvertible() {
     return {
-        {"Null", Null{}, fails<T>(invalidUseOfNull)},
-        {"an argument left out", Missing{}, fails<T>(typeMismatch)},
-        {"an object", anObject(), fails<T>(typeMismatch)},
-        {"a picture", aPicture(), fails<T>(typeMismatch)},
-        {"a font", aFont(), fails<T>(typeMismatch)},
-        {"no object", ObjectRef(), fails<T>(typeMismatch)},
-        {"no picture", PictureRef(), fails<T>(typeMismatch)},
-        {"no font", FontRef(), fails<T>(typeMismatch)},
+        {"Null", Null{}, fails<T>(ErrorNumber::invalidUseOfNull)},
+        {"an argument left out", Missing{}, fails<T>(ErrorNumber::typeMismatch)},
+        {"an object", anObject(), fails<T>(ErrorNumber::typeMismatch)},
+        {"a picture", aPicture(), fails<T>(ErrorNumber::typeMismatch)},
+        {"a font", aFont(), fails<T>(ErrorNumber::typeMismatch)},
+        {"no object", ObjectRef(), fails<T>(ErrorNumber::typeMismatch)},
+        {"no picture", PictureRef(), fails<T>(ErrorNumber::typeMismatch)},
+        {"no font", FontRef(), fails<T>(ErrorNumber::typeMismatch)},
     };
 }
 
@@ -108,10 +108,10 @@ std::vector<Row<T>> unconvertible() {
 template <class T>
 std::vector<Row<T>> noNumbers() {
     std::vector<Row<T>> rows = unconvertible<T>();
-    rows.push_back({"no text", u"", fails<T>(typeMismatch)});
-    rows.push_back({"def", u"def", fails<T>(typeMismatch)});
-    rows.push_back({"a date as text", u"2024-02-29", fails<T>(typeMismatch)});
-    rows.push_back({"a text too large for any number", u"1e999", fails<T>(overflow)});
+    rows.push_back({"no text", u"", fails<T>(ErrorNumber::typeMismatch)});
+    rows.push_back({"def", u"def", fails<T>(ErrorNumber::typeMismatch)});
+    rows.push_back({"a date as text", u"2024-02-29", fails<T>(ErrorNumber::typeMismatch)});
+    rows.push_back({"a text too large for any number", u"1e999", fails<T>(ErrorNumber::overflow)});
     return rows;
 }
 
@@ -131,10 +131,10 @@ TEST(VariantToLong, RoundsAndRefusesWhatDoesNotFit) {
                          {"hexadecimal text", u"&HFF", {255}},
                          {"a colour of the system as text", u"&H8000000F", {-2147483633}},
                          {"the largest Long", 2147483647.4, {2147483647}},
-                         {"above it", 2147483647.5, fails<Long>(overflow)},
-                         {"above it as text", u"2147483648", fails<Long>(overflow)},
-                         {"not a number", std::nan(""), fails<Long>(overflow)},
-                         {"a word for a Boolean", u"True", fails<Long>(typeMismatch)},
+                         {"above it", 2147483647.5, fails<Long>(ErrorNumber::overflow)},
+                         {"above it as text", u"2147483648", fails<Long>(ErrorNumber::overflow)},
+                         {"not a number", std::nan(""), fails<Long>(ErrorNumber::overflow)},
+                         {"a word for a Boolean", u"True", fails<Long>(ErrorNumber::typeMismatch)},
                      });
     expectRows<Long>(&Variant::toLong, noNumbers<Long>());
 }
@@ -145,9 +145,9 @@ TEST(VariantToInteger, RoundsAndRefusesWhatDoesNotFit) {
                             {"Empty", {}, {0}},
                             {"True", true, {-1}},
                             {"the largest", Long{32767}, {32767}},
-                            {"above it", Long{32768}, fails<Integer>(overflow)},
+                            {"above it", Long{32768}, fails<Integer>(ErrorNumber::overflow)},
                             {"the smallest", Long{-32768}, {-32768}},
-                            {"below it", Long{-32769}, fails<Integer>(overflow)},
+                            {"below it", Long{-32769}, fails<Integer>(ErrorNumber::overflow)},
                             {"a half goes to the even number", 0.5, {0}},
                             {"text", u"-1.5", {-2}},
                             {"Date", Date{2.0}, {2}},
@@ -163,9 +163,9 @@ TEST(VariantToByte, RoundsAndRefusesWhatDoesNotFit) {
             {"False", false, {0}},
             // Wanted: True is 255 as a Byte, all bits set, though -1 as a number is out of range.
             {"True", true, {255}},
-            {"minus one as a number", Integer{-1}, fails<Byte>(overflow)},
+            {"minus one as a number", Integer{-1}, fails<Byte>(ErrorNumber::overflow)},
             {"the largest", Long{255}, {255}},
-            {"above it", Long{256}, fails<Byte>(overflow)},
+            {"above it", Long{256}, fails<Byte>(ErrorNumber::overflow)},
             {"text", u"1.5", {2}},
         });
     expectRows<Byte>(&Variant::toByte, noNumbers<Byte>());
@@ -182,8 +182,8 @@ TEST(VariantToSingle, RoundsAndRefusesWhatDoesNotFit) {
                            {"the largest",
                             static_cast<Double>(std::numeric_limits<Single>::max()),
                             {std::numeric_limits<Single>::max()}},
-                           {"above it", 1e39, fails<Single>(overflow)},
-                           {"below the smallest", -1e39, fails<Single>(overflow)},
+                           {"above it", 1e39, fails<Single>(ErrorNumber::overflow)},
+                           {"below the smallest", -1e39, fails<Single>(ErrorNumber::overflow)},
                            {"too small becomes zero", 1e-60, {0}},
                            {"text", u"1.5", {1.5F}},
                        });
@@ -222,8 +222,8 @@ TEST(VariantToBoolean, NumbersByZeroAndTextByWordOrNumber) {
                          {"False in other case", u"FALSE", {false}},
                          {"a number as text", u"0.5", {true}},
                          {"zero as text", u"0", {false}},
-                         {"a word with a blank", u"True ", fails<bool>(typeMismatch)},
-                         {"another word", u"yes", fails<bool>(typeMismatch)},
+                         {"a word with a blank", u"True ", fails<bool>(ErrorNumber::typeMismatch)},
+                         {"another word", u"yes", fails<bool>(ErrorNumber::typeMismatch)},
                      });
     expectRows<bool>(&Variant::toBoolean, noNumbers<bool>());
 }
@@ -244,12 +244,12 @@ TEST(VariantToDate, NumbersAreDaysAndTextIsADateOrANumber) {
         {"a date as text", u"29.02.2024 06:00", {45351.25}},
         {"a number as text", u"45351.25", {45351.25}},
         {"the last day", Long{2958465}, {2958465}},
-        {"past it", Long{2958466}, fails<Double>(overflow)},
+        {"past it", Long{2958466}, fails<Double>(ErrorNumber::overflow)},
         {"the first day", Long{-657434}, {-657434}},
-        {"before it", Long{-657435}, fails<Double>(overflow)},
-        {"no date", u"31.02.2024", fails<Double>(typeMismatch)},
-        {"no text", u"", fails<Double>(typeMismatch)},
-        {"def", u"def", fails<Double>(typeMismatch)},
+        {"before it", Long{-657435}, fails<Double>(ErrorNumber::overflow)},
+        {"no date", u"31.02.2024", fails<Double>(ErrorNumber::typeMismatch)},
+        {"no text", u"", fails<Double>(ErrorNumber::typeMismatch)},
+        {"def", u"def", fails<Double>(ErrorNumber::typeMismatch)},
     });
     check(unconvertible<Double>());
 }
@@ -268,7 +268,7 @@ TEST(VariantToText, EachKindHasItsForm) {
                            {"a large Double", 1e15, {u"1E+15"}},
                            {"a large Single", 1e7F, {u"1E+07"}},
                            {"Date", Date{45351.25}, {u"2024-02-29 06:00:00"}},
-                           {"a Date outside the calendar", Date{1e9}, fails<String>(overflow)},
+                           {"a Date outside the calendar", Date{1e9}, fails<String>(ErrorNumber::overflow)},
                            {"text", u"def", {u"def"}},
                            {"text with a zero", String(u"a\0b", 3), {String(u"a\0b", 3)}},
                            {"text with an unpaired surrogate", String(1, u'\xD800'), {String(1, u'\xD800')}},
@@ -277,27 +277,28 @@ TEST(VariantToText, EachKindHasItsForm) {
 }
 
 TEST(VariantToColor, KeepsTheBits) {
-    expectRows<OLE_COLOR>(&Variant::toColor,
-                          {
-                              {"Empty", {}, {0}},
-                              {"a colour", OLE_COLOR{0x030201}, {0x030201}},
-                              {"a colour of the system", buttonFace, {0x8000000F}},
-                              {"the same as a Long", Long{-2147483633}, {0x8000000F}},
-                              {"the same as a Double", 2147483663.0, {0x8000000F}},
-                              {"the same as a negative Double", -2147483633.0, {0x8000000F}},
-                              {"the same as text", u"2147483663", {0x8000000F}},
-                              {"the same as negative text", u"-2147483633", {0x8000000F}},
-                              {"the same as hexadecimal text", u"&H8000000F", {0x8000000F}},
-                              {"all bits", 4294967295.0, {0xFFFFFFFF}},
-                              {"a rest rounds away", 4294967295.4, {0xFFFFFFFF}},
-                              {"a half rounds past all bits", 4294967295.5, fails<OLE_COLOR>(overflow)},
-                              {"more than all bits", 4294967296.0, fails<OLE_COLOR>(overflow)},
-                              {"between the halves", 2147483647.5, {0x80000000}},
-                              {"a half goes to the even number", 2.5, {2}},
-                              {"above the Longs, too", 2147483650.5, {0x80000002}},
-                              {"below the Longs", -2147483649.0, fails<OLE_COLOR>(overflow)},
-                              {"True", true, {0xFFFFFFFF}},
-                          });
+    expectRows<OLE_COLOR>(
+        &Variant::toColor,
+        {
+            {"Empty", {}, {0}},
+            {"a colour", OLE_COLOR{0x030201}, {0x030201}},
+            {"a colour of the system", buttonFace, {0x8000000F}},
+            {"the same as a Long", Long{-2147483633}, {0x8000000F}},
+            {"the same as a Double", 2147483663.0, {0x8000000F}},
+            {"the same as a negative Double", -2147483633.0, {0x8000000F}},
+            {"the same as text", u"2147483663", {0x8000000F}},
+            {"the same as negative text", u"-2147483633", {0x8000000F}},
+            {"the same as hexadecimal text", u"&H8000000F", {0x8000000F}},
+            {"all bits", 4294967295.0, {0xFFFFFFFF}},
+            {"a rest rounds away", 4294967295.4, {0xFFFFFFFF}},
+            {"a half rounds past all bits", 4294967295.5, fails<OLE_COLOR>(ErrorNumber::overflow)},
+            {"more than all bits", 4294967296.0, fails<OLE_COLOR>(ErrorNumber::overflow)},
+            {"between the halves", 2147483647.5, {0x80000000}},
+            {"a half goes to the even number", 2.5, {2}},
+            {"above the Longs, too", 2147483650.5, {0x80000002}},
+            {"below the Longs", -2147483649.0, fails<OLE_COLOR>(ErrorNumber::overflow)},
+            {"True", true, {0xFFFFFFFF}},
+        });
     expectRows<OLE_COLOR>(&Variant::toColor, noNumbers<OLE_COLOR>());
 }
 
@@ -346,17 +347,17 @@ TEST(VariantIsNumeric, TellsWhetherItConvertsToANumber) {
 TEST(VariantToObject, GivesAnObjectOrFails) {
     const ObjectRef object = anObject();
     EXPECT_EQ(Variant(object).toObject(), object);
-    const std::vector<std::pair<Variant, Long>> rows = {
-        {Variant(), objectVariableNotSet},
-        {Variant(ObjectRef()), objectVariableNotSet},
-        {Variant(PictureRef()), objectVariableNotSet},
-        {Variant(FontRef()), objectVariableNotSet},
-        {Variant(aPicture()), typeMismatch},
-        {Variant(aFont()), typeMismatch},
-        {Variant(Long{1}), typeMismatch},
-        {Variant(u""), typeMismatch},
-        {Variant(Missing{}), typeMismatch},
-        {Variant(Null{}), invalidUseOfNull},
+    const std::vector<std::pair<Variant, ErrorNumber>> rows = {
+        {Variant(), ErrorNumber::objectVariableNotSet},
+        {Variant(ObjectRef()), ErrorNumber::objectVariableNotSet},
+        {Variant(PictureRef()), ErrorNumber::objectVariableNotSet},
+        {Variant(FontRef()), ErrorNumber::objectVariableNotSet},
+        {Variant(aPicture()), ErrorNumber::typeMismatch},
+        {Variant(aFont()), ErrorNumber::typeMismatch},
+        {Variant(Long{1}), ErrorNumber::typeMismatch},
+        {Variant(u""), ErrorNumber::typeMismatch},
+        {Variant(Missing{}), ErrorNumber::typeMismatch},
+        {Variant(Null{}), ErrorNumber::invalidUseOfNull},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(kindOf(row.first));
@@ -371,8 +372,8 @@ TEST(VariantToPicture, GivesAPictureOrNoneOrFails) {
          {Variant(), Variant(ObjectRef()), Variant(PictureRef()), Variant(FontRef())})
         EXPECT_EQ(nothing.toPicture(), nullptr) << kindOf(nothing);
     for (const Variant& other : {Variant(anObject()), Variant(aFont()), Variant(Long{0}), Variant(u"")})
-        EXPECT_EQ(errorNumberOf([&] { other.toPicture(); }), typeMismatch) << kindOf(other);
-    EXPECT_EQ(errorNumberOf([] { Variant(Null{}).toPicture(); }), invalidUseOfNull);
+        EXPECT_EQ(errorNumberOf([&] { other.toPicture(); }), ErrorNumber::typeMismatch) << kindOf(other);
+    EXPECT_EQ(errorNumberOf([] { Variant(Null{}).toPicture(); }), ErrorNumber::invalidUseOfNull);
 }
 
 TEST(VariantToFont, GivesAFontOrNoneOrFails) {
@@ -382,8 +383,8 @@ TEST(VariantToFont, GivesAFontOrNoneOrFails) {
          {Variant(), Variant(ObjectRef()), Variant(PictureRef()), Variant(FontRef())})
         EXPECT_EQ(nothing.toFont(), nullptr) << kindOf(nothing);
     for (const Variant& other : {Variant(anObject()), Variant(aPicture()), Variant(true), Variant(u"")})
-        EXPECT_EQ(errorNumberOf([&] { other.toFont(); }), typeMismatch) << kindOf(other);
-    EXPECT_EQ(errorNumberOf([] { Variant(Null{}).toFont(); }), invalidUseOfNull);
+        EXPECT_EQ(errorNumberOf([&] { other.toFont(); }), ErrorNumber::typeMismatch) << kindOf(other);
+    EXPECT_EQ(errorNumberOf([] { Variant(Null{}).toFont(); }), ErrorNumber::invalidUseOfNull);
 }
 
 TEST(Variant, KnowsWhatItHolds) {
@@ -559,7 +560,7 @@ TEST(VariantZeroBased, SubtractsFirstAndThenRounds) {
         {"zero", Long{0}, {-1}},
         {"negative", Long{-5}, {-6}},
         {"the largest", Long{2147483647}, {2147483646}},
-        {"the smallest", std::numeric_limits<Long>::min(), fails<Long>(overflow)},
+        {"the smallest", std::numeric_limits<Long>::min(), fails<Long>(ErrorNumber::overflow)},
         {"Empty", {}, {-1}},
         {"True", true, {-2}},
         {"Byte zero", Byte{0}, {-1}},
@@ -571,7 +572,7 @@ TEST(VariantZeroBased, SubtractsFirstAndThenRounds) {
         {"a Single", 1.5F, {0}},
         {"a Date", Date{3}, {2}},
         {"the last that a Double reaches", 2147483648.0, {2147483647}},
-        {"past it", 2147483649.0, fails<Long>(overflow)},
+        {"past it", 2147483649.0, fails<Long>(ErrorNumber::overflow)},
     };
     for (const ZeroBasedRow& row : rows) {
         SCOPED_TRACE(row.name);
@@ -586,9 +587,9 @@ TEST(VariantZeroBased, SubtractsFirstAndThenRounds) {
 TEST(Variant, TextsOfTenMillionUnitsConvertOrFail) {
     constexpr std::size_t many = 10'000'000;
     const Variant nines(String(many, u'9'));
-    EXPECT_EQ(errorNumberOf([&] { nines.toLong(); }), overflow);
-    EXPECT_EQ(errorNumberOf([&] { nines.toDate(); }), overflow);
-    EXPECT_EQ(errorNumberOf([&] { nines.toBoolean(); }), overflow);
+    EXPECT_EQ(errorNumberOf([&] { nines.toLong(); }), ErrorNumber::overflow);
+    EXPECT_EQ(errorNumberOf([&] { nines.toDate(); }), ErrorNumber::overflow);
+    EXPECT_EQ(errorNumberOf([&] { nines.toBoolean(); }), ErrorNumber::overflow);
     EXPECT_FALSE(nines.isNumeric());
     EXPECT_EQ(nines.toText().size(), many);
 }

@@ -14,17 +14,17 @@ namespace {
 
 void demandArguments(std::span<Variant> arguments, std::size_t count) {
     if (arguments.size() != count)
-        throw RuntimeError(wrongNumberOfArguments);
+        throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
 }
 
 /// An object whose members are only ever read.
 class ReadOnlyObject : public Object {
   public:
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView /*name*/, std::span<Variant> /*arguments*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
 };
 
@@ -36,7 +36,7 @@ class DatabaseRecordset final : public Object,
 
     Variant get(StringView name, std::span<Variant> arguments) override;
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView name, std::span<Variant> arguments) override;
 
@@ -121,7 +121,7 @@ class Field final : public ReadOnlyObject {
             return recordset_->fieldValue(index_);
         if (sameName(name, u"Name"))
             return recordset_->fieldName(index_);
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
 
   private:
@@ -139,7 +139,7 @@ class Fields final : public ReadOnlyObject {
             return recordset_->fieldCount();
         }
         if (!name.empty())
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         demandArguments(arguments, 1);
         const Long index = arguments[0].toLong();
         static_cast<void>(recordset_->fieldName(index)); // a number that no field has fails here
@@ -158,7 +158,7 @@ Variant DatabaseRecordset::get(StringView name, std::span<Variant> arguments) {
         return ObjectRef(std::make_shared<Fields>(shared_from_this()));
     if (sameName(name, u"EOF"))
         return atEnd();
-    throw RuntimeError(objectDoesNotSupportMember);
+    throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
 }
 
 Variant DatabaseRecordset::call(StringView name, std::span<Variant> arguments) {
@@ -168,7 +168,7 @@ Variant DatabaseRecordset::call(StringView name, std::span<Variant> arguments) {
     else if (sameName(name, u"MoveNext"))
         moveNext();
     else
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     return {};
 }
 

@@ -49,7 +49,7 @@ Connection connect(const std::string& address) {
         keywords[0], keywords[1], keywords[2], nullptr};
     Connection connection(PQconnectdbParams(names.data(), values.data(), 1));
     if (!connection)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     if (PQstatus(connection.get()) != CONNECTION_OK)
         throw failureOf(connection.get(), nullptr);
     PQsetNoticeProcessor(

@@ -80,7 +80,7 @@ SqliteConnection opened(const std::string& name, int flags) {
     const int outcome = sqlite3_open_v2(name.c_str(), &made, SQLITE_OPEN_READONLY | flags, nullptr);
     SqliteConnection database(made);
     if (!database)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     if (outcome != SQLITE_OK)
         throw sqliteFailure(database.get());
     return database;
@@ -114,7 +114,7 @@ SqliteConnection openedIn(Manner manner, const std::string& file) {
 
 RuntimeError sqliteFailure(sqlite3* database) {
     if (sqlite3_errcode(database) == SQLITE_NOMEM)
-        return RuntimeError(outOfMemory);
+        return RuntimeError(ErrorNumber::outOfMemory);
     return failureWith(sqlite3_errmsg(database));
 }
 

@@ -17,7 +17,7 @@ using Statement = std::unique_ptr<sqlite3_stmt, SqliteCloser>;
 /// The first statement of `sql`, which then holds the rest; none where there is none.
 Statement prepareFirst(sqlite3* database, std::string_view& sql) {
     if (sql.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     sqlite3_stmt* prepared = nullptr;
     const char* rest = nullptr;
     if (sqlite3_prepare_v2(database, sql.data(), static_cast<int>(sql.size()), &prepared, &rest) != SQLITE_OK)
@@ -58,7 +58,7 @@ class SqliteQuery final : public Query {
         for (int i = 0; i < sqlite3_column_count(statement_.get()); ++i) {
             const char* const name = sqlite3_column_name(statement_.get(), i);
             if (name == nullptr)
-                throw RuntimeError(outOfMemory);
+                throw RuntimeError(ErrorNumber::outOfMemory);
             names_.push_back(fromUtf8(name));
         }
         if (names_.empty())
@@ -149,7 +149,7 @@ class SqliteQuery final : public Query {
         const auto* const bytes =
             reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), column));
         if (bytes == nullptr)
-            throw RuntimeError(outOfMemory);
+            throw RuntimeError(ErrorNumber::outOfMemory);
         appendFromUtf8(text,
                        {bytes, static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), column))});
     }

@@ -83,7 +83,7 @@ class MemberReader final : public nlohmann::json_sax<Json> {
 std::vector<JsonMember> membersOfObject(std::string_view text) {
     MemberReader reader;
     if (!Json::sax_parse(text, &reader, Json::input_format_t::json, true, true))
-        throw RuntimeError(invalidFileFormat);
+        throw RuntimeError(ErrorNumber::invalidFileFormat);
     return std::move(reader.members);
 }
 

@@ -37,7 +37,7 @@ Double shortestDouble(Single value) {
 
 Json jsonOfNumber(Double value) {
     if (!std::isfinite(value))
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     return value;
 }
 
@@ -97,7 +97,7 @@ Json jsonOf(const PictureImages& pictures, const Variant& value) {
         else if constexpr (std::is_same_v<T, PictureRef>)
             return held != nullptr ? jsonOfPicture(pictures, *held) : Json();
         else
-            throw RuntimeError(typeMismatch);
+            throw RuntimeError(ErrorNumber::typeMismatch);
     });
 }
 
@@ -122,10 +122,10 @@ Variant valueOf(const PictureImages& pictures, const Json& json) {
         try {
             return json.contains("Picture") ? pictureOfJson(pictures, json) : fontOfJson(json);
         } catch (const Json::exception&) {
-            throw RuntimeError(typeMismatch);
+            throw RuntimeError(ErrorNumber::typeMismatch);
         }
     default:
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     }
 }
 

@@ -10,12 +10,12 @@ namespace lumtex {
 PictureRef loadPicture(const std::filesystem::path& file) {
     std::error_code failure;
     if (!std::filesystem::is_regular_file(file, failure))
-        throw RuntimeError(fileNotFound);
+        throw RuntimeError(ErrorNumber::fileNotFound);
     GError* error = nullptr;
     const PixbufHandle pixbuf(gdk_pixbuf_new_from_file(file.c_str(), &error));
     const ErrorHandle reason(error);
     if (!pixbuf)
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     return std::make_shared<BitmapPicture>(bitmapOf(pixbuf.get()));
 }
 
@@ -26,14 +26,14 @@ PictureRef loadPicture(std::span<const Byte> bytes) {
     const bool closed = gdk_pixbuf_loader_close(loader.get(), nullptr) != FALSE;
     const GdkPixbuf* pixbuf = gdk_pixbuf_loader_get_pixbuf(loader.get());
     if (!written || !closed || pixbuf == nullptr)
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     return std::make_shared<BitmapPicture>(bitmapOf(pixbuf));
 }
 
 void savePng(const Bitmap& bitmap, const std::filesystem::path& file) {
     const PixbufHandle pixbuf(gdk_pixbuf_new(GDK_COLORSPACE_RGB, TRUE, 8, bitmap.width, bitmap.height));
     if (!pixbuf)
-        throw RuntimeError(deviceError);
+        throw RuntimeError(ErrorNumber::deviceError);
     const int stride = gdk_pixbuf_get_rowstride(pixbuf.get());
     guint8* bytes = gdk_pixbuf_get_pixels(pixbuf.get());
     for (Long y = 0; y < bitmap.height; ++y) {
@@ -47,7 +47,7 @@ void savePng(const Bitmap& bitmap, const std::filesystem::path& file) {
         }
     }
     if (gdk_pixbuf_save(pixbuf.get(), file.c_str(), "png", nullptr, nullptr) == FALSE)
-        throw RuntimeError(deviceError);
+        throw RuntimeError(ErrorNumber::deviceError);
 }
 
 } // namespace lumtex

@@ -29,7 +29,7 @@ const Format& formatOf(std::span<const Byte> image) {
     const auto* const found = std::find_if(
         formats.begin(), formats.end(), [&](const Format& format) { return format.name == name; });
     if (found == formats.end())
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     return *found;
 }
 
@@ -58,7 +58,7 @@ PictureRef pictureOfImage(std::span<const Byte> image) {
     const Format& format = formatOf(image);
     const LoaderHandle loader(gdk_pixbuf_loader_new_with_type(format.loader, nullptr));
     if (!loader)
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     Reading reading{.mostPixels = std::uint64_t{image.size()} * mostPixelsToAByte};
     g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(refuseHugePicture), &reading);
     g_signal_connect(loader.get(), "area-updated", G_CALLBACK(countLines), &reading);
@@ -67,10 +67,10 @@ PictureRef pictureOfImage(std::span<const Byte> image) {
     const bool closed = gdk_pixbuf_loader_close(loader.get(), nullptr) != FALSE;
     const GdkPixbuf* pixbuf = gdk_pixbuf_loader_get_pixbuf(loader.get());
     if (!written || !closed || pixbuf == nullptr)
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     // The library takes a cut image for a whole one, with pixels from nowhere.
     if (reading.lines < std::int64_t{format.coats} * gdk_pixbuf_get_height(pixbuf))
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     return std::make_shared<BitmapPicture>(bitmapOf(pixbuf), format.kind);
 }
 

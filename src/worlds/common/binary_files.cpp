@@ -24,7 +24,7 @@ using Stream = std::unique_ptr<std::FILE, CloseStream>;
 
 [[noreturn]] void throwWriteFailure(int reason) {
     const bool isFull = reason == ENOSPC || reason == EDQUOT || reason == EFBIG;
-    throw RuntimeError(isFull ? diskFull : deviceError);
+    throw RuntimeError(isFull ? ErrorNumber::diskFull : ErrorNumber::deviceError);
 }
 
 /// True for a link to a plain file, too; false where there is nothing.
@@ -34,7 +34,7 @@ bool demandPlainFile(const fs::path& file) {
     if (status.type() == fs::file_type::not_found)
         return false;
     if (!fs::is_regular_file(status))
-        throw RuntimeError(pathFileAccess);
+        throw RuntimeError(ErrorNumber::pathFileAccess);
     return true;
 }
 
@@ -48,7 +48,7 @@ class HiddenOutput final : public OutputFile {
             stream_.reset(std::fopen(hidden_.string().c_str(), "wbx"));
         }
         if (!stream_)
-            throw RuntimeError(pathFileAccess);
+            throw RuntimeError(ErrorNumber::pathFileAccess);
         // The caller hands over large pieces, and a failure belongs to the piece that it hit.
         static_cast<void>(std::setvbuf(stream_.get(), nullptr, _IONBF, 0));
     }
@@ -72,7 +72,7 @@ class HiddenOutput final : public OutputFile {
         std::error_code failure;
         fs::rename(hidden_, place_, failure);
         if (failure)
-            throw RuntimeError(pathFileAccess);
+            throw RuntimeError(ErrorNumber::pathFileAccess);
         hidden_.clear();
         if (!complete)
             throwWriteFailure(reason);
@@ -90,7 +90,7 @@ class PlainInput final : public InputFile {
         std::error_code failure;
         size_ = static_cast<std::int64_t>(fs::file_size(file, failure));
         if (!stream_ || failure)
-            throw RuntimeError(pathFileAccess);
+            throw RuntimeError(ErrorNumber::pathFileAccess);
         static_cast<void>(std::setvbuf(stream_.get(), nullptr, _IONBF, 0));
     }
 
@@ -98,7 +98,7 @@ class PlainInput final : public InputFile {
     std::size_t read(std::span<Byte> target) override {
         const std::size_t count = std::fread(target.data(), 1, target.size(), stream_.get());
         if (std::ferror(stream_.get()) != 0)
-            throw RuntimeError(deviceError);
+            throw RuntimeError(ErrorNumber::deviceError);
         return count;
     }
 
@@ -120,7 +120,7 @@ std::unique_ptr<InputFile> MachineFiles::openForBinaryReading(StringView path) {
     const fs::path file = nativePath(path);
     demandFolderOf(file);
     if (!demandPlainFile(file))
-        throw RuntimeError(fileNotFound);
+        throw RuntimeError(ErrorNumber::fileNotFound);
     return std::make_unique<PlainInput>(file);
 }
 
@@ -128,10 +128,10 @@ void MachineFiles::deleteFile(StringView path) {
     const fs::path file = nativePath(path);
     demandFolderOf(file);
     if (!demandPlainFile(file))
-        throw RuntimeError(fileNotFound);
+        throw RuntimeError(ErrorNumber::fileNotFound);
     std::error_code failure;
     if (!fs::remove(file, failure))
-        throw RuntimeError(pathFileAccess);
+        throw RuntimeError(ErrorNumber::pathFileAccess);
 }
 
 } // namespace lumtex

@@ -21,7 +21,7 @@ std::ofstream openForWriting(StringView path, std::ios::openmode mode) {
     demandFolderOf(file);
     std::ofstream stream(file, std::ios::binary | mode);
     if (!stream)
-        throw RuntimeError(pathFileAccess);
+        throw RuntimeError(ErrorNumber::pathFileAccess);
     return stream;
 }
 
@@ -78,7 +78,7 @@ fs::path nativePath(StringView path) {
 void demandFolderOf(const fs::path& file) {
     std::error_code failure;
     if (file.has_parent_path() && !fs::is_directory(file.parent_path(), failure))
-        throw RuntimeError(pathNotFound);
+        throw RuntimeError(ErrorNumber::pathNotFound);
 }
 
 String MachineFiles::readFile(StringView path) const {
@@ -86,10 +86,10 @@ String MachineFiles::readFile(StringView path) const {
     demandFolderOf(file);
     std::error_code failure;
     if (!fs::exists(file, failure))
-        throw RuntimeError(fileNotFound);
+        throw RuntimeError(ErrorNumber::fileNotFound);
     std::ifstream stream(file, std::ios::binary);
     if (!stream || fs::is_directory(file, failure))
-        throw RuntimeError(pathFileAccess);
+        throw RuntimeError(ErrorNumber::pathFileAccess);
     return fromUtf8(std::string(std::istreambuf_iterator<char>(stream), {}));
 }
 
@@ -101,7 +101,7 @@ void MachineFiles::appendToFile(StringView path, StringView text) {
     std::ofstream stream = openForWriting(path, std::ios::app);
     stream << toUtf8(text);
     if (!stream.flush())
-        throw RuntimeError(deviceError);
+        throw RuntimeError(ErrorNumber::deviceError);
 }
 
 Long MachineFiles::findFirstFile(StringView pattern) {

@@ -23,7 +23,7 @@ Desktop::~Desktop() = default;
 Pane& Desktop::paneOf(WindowHandle handle) const {
     Pane* pane = tree_.find(handle);
     if (pane == nullptr)
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     return *pane;
 }
 
@@ -63,7 +63,7 @@ std::unique_ptr<Timer> Desktop::createTimer(std::function<void()> onTimer) {
 
 void Desktop::refuseHugeSize(Long width, Long height) {
     if (width > 0 && height > 0 && std::int64_t{width} * height > mostPixels)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
 }
 
 std::unique_ptr<Surface> Desktop::createSurface(Long width, Long height) {

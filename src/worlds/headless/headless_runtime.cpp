@@ -110,7 +110,7 @@ bool HeadlessRuntime::wasPressed(MouseButton button) {
 ObjectRef HeadlessRuntime::createObject(StringView programId) {
     const auto found = factories.find(String(programId));
     if (found == factories.end() || !found->second)
-        throw RuntimeError(cannotCreateObject);
+        throw RuntimeError(ErrorNumber::cannotCreateObject);
     return found->second();
 }
 

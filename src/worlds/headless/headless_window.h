@@ -32,8 +32,8 @@ class HeadlessWindow final : public Window, public Pane {
     void letEnabled(bool enabled) override;
     Long OLEDropMode() const { return oleDropMode_; }
     void letOLEDropMode(Long mode) override { oleDropMode_ = mode; }
-    Integer MousePointer() const { return mousePointer_; }
-    void letMousePointer(Integer shape) override { mousePointer_ = shape; }
+    CursorShape MousePointer() const { return mousePointer_; }
+    void letMousePointer(CursorShape shape) override { mousePointer_ = shape; }
     PictureRef MouseIcon() const { return mouseIcon_; }
     void setMouseIcon(PictureRef icon) override { mouseIcon_ = std::move(icon); }
     void setFocus() override;
@@ -77,7 +77,7 @@ class HeadlessWindow final : public Window, public Pane {
     std::vector<HeadlessGuideLine*> guides_;
     bool paintWaits_ = false;
     Long oleDropMode_ = 0;
-    Integer mousePointer_ = pointerDefault;
+    CursorShape mousePointer_ = CursorShape::standard;
     PictureRef mouseIcon_;
     int presented_ = 0;
     int painted_ = 0;

@@ -1,42 +1,11 @@
 /// \file
-/// The keyboard of the simulated desktop, with the classic virtual key numbers.
+/// The keyboard of the simulated desktop.
 #pragma once
 
+#include "platform/keys.h"
 #include "worlds/headless/focus.h"
 
 namespace lumtex {
-
-namespace keys {
-
-/// Some of the key numbers, as key events carry them.
-enum Code : Integer {
-    backspace = 8,
-    tab = 9,
-    enter = 13,
-    shift = 16,
-    control = 17,
-    alt = 18,
-    escape = 27,
-    space = 32,
-    end = 35,
-    home = 36,
-    left = 37,
-    up = 38,
-    right = 39,
-    down = 40,
-    del = 46,
-    /// Stands for a character that has no key of its own.
-    packet = 231,
-};
-
-/// The bits of `Shift` in mouse and key events.
-enum Mask : Integer {
-    shiftMask = 1,
-    controlMask = 2,
-    altMask = 4,
-};
-
-} // namespace keys
 
 /// Keys go to the pane that has the focus when they are delivered, unless it takes no input.
 class Keyboard {

@@ -15,7 +15,7 @@ namespace {
 /// Lengths are 32-bit numbers here. Throws RuntimeError 7 for a text past that.
 int lengthOf(std::size_t length) {
     if (length > static_cast<std::size_t>(std::numeric_limits<int>::max()))
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     return static_cast<int>(length);
 }
 
@@ -60,7 +60,7 @@ Date Win32Runtime::now() const {
     GetLocalTime(&local);
     Date now;
     if (SystemTimeToVariantTime(&local, &now.days) == FALSE)
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     return now;
 }
 

@@ -15,14 +15,14 @@ constexpr std::size_t largestPiece = std::size_t{1} << 30U;
 
 [[noreturn]] void throwWriteFailure(DWORD reason) {
     const bool isFull = reason == ERROR_DISK_FULL || reason == ERROR_HANDLE_DISK_FULL;
-    throw RuntimeError(isFull ? diskFull : deviceError);
+    throw RuntimeError(isFull ? ErrorNumber::diskFull : ErrorNumber::deviceError);
 }
 
 void demandPlain(HANDLE file) {
     BY_HANDLE_FILE_INFORMATION information{};
     if (GetFileType(file) != FILE_TYPE_DISK || !GetFileInformationByHandle(file, &information) ||
         (information.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
-        throw RuntimeError(pathFileAccess);
+        throw RuntimeError(ErrorNumber::pathFileAccess);
 }
 
 /// False where there is nothing of that name. Throws 75 for a folder or device, 76 for a missing folder.
@@ -31,7 +31,7 @@ bool isPlainFile(const String& path) {
         const FileHandle file(path, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
         demandPlain(file.get());
     } catch (const RuntimeError& failure) {
-        if (failure.number() == fileNotFound)
+        if (failure.number() == ErrorNumber::fileNotFound)
             return false;
         throw;
     }
@@ -55,7 +55,7 @@ String freeName(const String& place) {
         if (GetFileAttributesW(wide(name)) == INVALID_FILE_ATTRIBUTES)
             return name;
     }
-    throw RuntimeError(pathFileAccess);
+    throw RuntimeError(ErrorNumber::pathFileAccess);
 }
 
 /// Collects everything in a hidden file beside its place.
@@ -85,7 +85,7 @@ class HiddenOutput final : public OutputFile {
         file_.close();
         SetFileAttributesW(wide(hidden_), FILE_ATTRIBUTE_NORMAL);
         if (!MoveFileExW(wide(hidden_), wide(place_), MOVEFILE_REPLACE_EXISTING))
-            throw RuntimeError(pathFileAccess);
+            throw RuntimeError(ErrorNumber::pathFileAccess);
         hidden_.clear();
     }
 
@@ -101,7 +101,7 @@ class PlainInput final : public InputFile {
         demandPlain(file_.get());
         LARGE_INTEGER size{};
         if (!GetFileSizeEx(file_.get(), &size))
-            throw RuntimeError(pathFileAccess);
+            throw RuntimeError(ErrorNumber::pathFileAccess);
         size_ = size.QuadPart;
     }
 
@@ -112,7 +112,7 @@ class PlainInput final : public InputFile {
             const auto piece = static_cast<DWORD>(std::min(target.size() - count, largestPiece));
             DWORD read = 0;
             if (!ReadFile(file_.get(), target.data() + count, piece, &read, nullptr))
-                throw RuntimeError(deviceError);
+                throw RuntimeError(ErrorNumber::deviceError);
             if (read == 0)
                 break;
             count += read;
@@ -136,16 +136,16 @@ std::unique_ptr<OutputFile> Win32Files::openForBinaryWriting(StringView path) {
 std::unique_ptr<InputFile> Win32Files::openForBinaryReading(StringView path) {
     const String name(path);
     if (!isPlainFile(name))
-        throw RuntimeError(fileNotFound);
+        throw RuntimeError(ErrorNumber::fileNotFound);
     return std::make_unique<PlainInput>(name);
 }
 
 void Win32Files::deleteFile(StringView path) {
     const String name(path);
     if (!isPlainFile(name))
-        throw RuntimeError(fileNotFound);
+        throw RuntimeError(ErrorNumber::fileNotFound);
     if (!DeleteFileW(wide(name)))
-        throw RuntimeError(pathFileAccess);
+        throw RuntimeError(ErrorNumber::pathFileAccess);
 }
 
 } // namespace lumtex

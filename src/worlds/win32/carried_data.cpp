@@ -33,7 +33,7 @@ class Medium {
     Medium(IDataObject& data, CLIPFORMAT number) {
         FORMATETC format = formatOf(number);
         if (FAILED(data.GetData(&format, &medium_)) || medium_.tymed != format.tymed)
-            throw RuntimeError(invalidProcedureCall);
+            throw RuntimeError(ErrorNumber::invalidProcedureCall);
     }
     Medium(const Medium&) = delete;
     Medium& operator=(const Medium&) = delete;
@@ -50,7 +50,7 @@ class Medium {
 template <class Unit>
 std::basic_string_view<Unit> textOf(const LockedMemory& memory) {
     if (memory.bytes() == nullptr)
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     const std::basic_string_view<Unit> all(static_cast<const Unit*>(memory.bytes()),
                                            memory.size() / sizeof(Unit));
     return all.substr(0, all.find(Unit{}));
@@ -72,13 +72,13 @@ Variant pictureIn(IDataObject& data) {
     OwnedBitmap copy(
         static_cast<HBITMAP>(CopyImage(medium.bitmap(), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
     if (!copy)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     description.bmp.hbitmap = copy.get();
     ComRef<IPictureDisp> picture;
     const HRESULT made = OleCreatePictureIndirect(
         &description, IID_IPictureDisp, TRUE, reinterpret_cast<void**>(picture.out()));
     if (FAILED(made))
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     copy.detach(); // the object owns it now
     return Variant(pictureFrom(picture.get()));
 }
@@ -101,14 +101,14 @@ class FileNames final : public Object {
         if (sameName(name, u"Count") && arguments.empty())
             return static_cast<Long>(names_.size());
         if ((!name.empty() && !sameName(name, u"Item")) || arguments.size() != 1)
-            throw RuntimeError(objectDoesNotSupportMember);
+            throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
         const Long index = arguments[0].toLong();
         if (index < 1 || static_cast<std::size_t>(index) > names_.size())
-            throw RuntimeError(subscriptOutOfRange);
+            throw RuntimeError(ErrorNumber::subscriptOutOfRange);
         return names_[static_cast<std::size_t>(index - 1)];
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView name, std::span<Variant> arguments) override { return get(name, arguments); }
 
@@ -128,10 +128,10 @@ class CarriedData final : public Object {
         if (sameName(name, u"GetData") && arguments.size() <= 1)
             return dataIn(arguments.empty() || arguments[0].isMissing() ? defaultFormat()
                                                                         : formatIn(arguments[0]));
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     void put(StringView /*name*/, const Variant& /*value*/) override {
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     }
     Variant call(StringView name, std::span<Variant> arguments) override { return get(name, arguments); }
 
@@ -151,7 +151,7 @@ class CarriedData final : public Object {
             return textIn(*data_.get(), format);
         if (format == CF_BITMAP)
             return pictureIn(*data_.get());
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     }
 
     ComRef<IDataObject> data_;

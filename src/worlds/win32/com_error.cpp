@@ -6,27 +6,27 @@ namespace {
 
 struct NumberOfResult {
     HRESULT result;
-    Long number;
+    ErrorNumber number;
 };
 
 constexpr NumberOfResult numbers[] = {
-    {DISP_E_UNKNOWNNAME, objectDoesNotSupportMember},
-    {DISP_E_MEMBERNOTFOUND, objectDoesNotSupportMember},
-    {DISP_E_UNKNOWNINTERFACE, objectDoesNotSupportMember},
-    {DISP_E_TYPEMISMATCH, typeMismatch},
-    {DISP_E_BADVARTYPE, typeMismatch},
-    {DISP_E_OVERFLOW, overflow},
-    {DISP_E_DIVBYZERO, divisionByZero},
-    {DISP_E_BADINDEX, subscriptOutOfRange},
-    {DISP_E_BADPARAMCOUNT, wrongNumberOfArguments},
-    {DISP_E_PARAMNOTOPTIONAL, argumentNotOptional},
-    {E_OUTOFMEMORY, outOfMemory},
-    {E_INVALIDARG, invalidProcedureCall},
-    {E_NOINTERFACE, objectDoesNotSupportMember},
-    {E_NOTIMPL, objectDoesNotSupportMember},
-    {CLASS_E_CLASSNOTAVAILABLE, cannotCreateObject},
-    {REGDB_E_CLASSNOTREG, cannotCreateObject},
-    {CO_E_CLASSSTRING, cannotCreateObject},
+    {DISP_E_UNKNOWNNAME, ErrorNumber::objectDoesNotSupportMember},
+    {DISP_E_MEMBERNOTFOUND, ErrorNumber::objectDoesNotSupportMember},
+    {DISP_E_UNKNOWNINTERFACE, ErrorNumber::objectDoesNotSupportMember},
+    {DISP_E_TYPEMISMATCH, ErrorNumber::typeMismatch},
+    {DISP_E_BADVARTYPE, ErrorNumber::typeMismatch},
+    {DISP_E_OVERFLOW, ErrorNumber::overflow},
+    {DISP_E_DIVBYZERO, ErrorNumber::divisionByZero},
+    {DISP_E_BADINDEX, ErrorNumber::subscriptOutOfRange},
+    {DISP_E_BADPARAMCOUNT, ErrorNumber::wrongNumberOfArguments},
+    {DISP_E_PARAMNOTOPTIONAL, ErrorNumber::argumentNotOptional},
+    {E_OUTOFMEMORY, ErrorNumber::outOfMemory},
+    {E_INVALIDARG, ErrorNumber::invalidProcedureCall},
+    {E_NOINTERFACE, ErrorNumber::objectDoesNotSupportMember},
+    {E_NOTIMPL, ErrorNumber::objectDoesNotSupportMember},
+    {CLASS_E_CLASSNOTAVAILABLE, ErrorNumber::cannotCreateObject},
+    {REGDB_E_CLASSNOTREG, ErrorNumber::cannotCreateObject},
+    {CO_E_CLASSSTRING, ErrorNumber::cannotCreateObject},
 };
 
 /// The last of the numbers that the facility of controls carries.
@@ -39,7 +39,7 @@ Long numberOfResult(HRESULT result) {
         return HRESULT_CODE(result);
     for (const NumberOfResult& known : numbers) {
         if (known.result == result)
-            return known.number;
+            return numberOf(known.number);
     }
     return result;
 }

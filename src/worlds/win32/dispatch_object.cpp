@@ -70,7 +70,7 @@ DISPID DispatchObject::idOf(StringView name) const {
         }
     }
     if (FAILED(result))
-        throw RuntimeError(objectDoesNotSupportMember);
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     return id;
 }
 

@@ -8,16 +8,16 @@
 namespace lumtex {
 
 /// The classic number for a failed call on a name: 53, 76, or 75 for any other reason.
-inline Long fileErrorOf(DWORD failure) {
+inline ErrorNumber fileErrorOf(DWORD failure) {
     switch (failure) {
     case ERROR_FILE_NOT_FOUND:
-        return fileNotFound;
+        return ErrorNumber::fileNotFound;
     case ERROR_PATH_NOT_FOUND:
     case ERROR_BAD_NETPATH:
     case ERROR_BAD_NET_NAME:
-        return pathNotFound;
+        return ErrorNumber::pathNotFound;
     default:
-        return pathFileAccess;
+        return ErrorNumber::pathFileAccess;
     }
 }
 

@@ -39,7 +39,7 @@ std::shared_ptr<const GdiFont> makeFont(const FontSpec& font, Long pixels) {
     std::copy_n(wide(font.Name), length, std::begin(wish.lfFaceName));
     HFONT made = CreateFontIndirectW(&wish);
     if (made == nullptr)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     return std::make_shared<GdiFont>(made);
 }
 

@@ -52,7 +52,7 @@ class GdiSurface final : public Surface {
     void print(Single x, Single y, StringView text) override;
     Single textWidth(StringView text) override;
     Single textHeight(StringView text) override;
-    Long drawText(StringView text, Rect& rect, Long format) override;
+    Long drawText(StringView text, Rect& rect, TextFormat format) override;
 
     Bitmap image() const override;
 
@@ -62,7 +62,7 @@ class GdiSurface final : public Surface {
     /// The context with the current font and text colour.
     HDC textDc();
     /// `drawText` for a text without characters.
-    Long placeNothing(Rect& rect, Long format);
+    Long placeNothing(Rect& rect, TextFormat format);
 
     Long width_;
     Long height_;

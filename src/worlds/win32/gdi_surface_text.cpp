@@ -82,31 +82,32 @@ Single GdiSurface::textHeight(StringView text) {
 }
 
 /// The system leaves the rectangle of no text as it was, and its versions differ in the height.
-Long GdiSurface::placeNothing(Rect& rect, Long format) {
+Long GdiSurface::placeNothing(Rect& rect, TextFormat format) {
     const auto height = static_cast<Long>(textHeight({}));
-    if ((format & dtCalcRect) != 0) {
+    if (has(format, TextFormat::calcRect)) {
         rect.Right = rect.Left;
         rect.Bottom = moved(rect.Top, height);
         return height;
     }
-    if ((format & dtSingleLine) == 0 || (format & dtVCenter) == 0)
+    if (!has(format, TextFormat::singleLine) || !has(format, TextFormat::vCenter))
         return height;
     const std::int64_t room = std::int64_t{rect.Bottom} - rect.Top;
     return moved(height - height / 2, room / 2);
 }
 
-Long GdiSurface::drawText(StringView whole, Rect& rect, Long format) {
+Long GdiSurface::drawText(StringView whole, Rect& rect, TextFormat format) {
     const StringView text = drawnPart(whole);
-    const bool calculate = (format & dtCalcRect) != 0;
+    const bool calculate = has(format, TextFormat::calcRect);
     if (text.empty())
         return placeNothing(rect, format);
     const HDC dc = textDc();
     RECT area{within(rect.Left), within(rect.Top), within(rect.Right), within(rect.Bottom)};
     // What may be asked for besides these would have the system write into the text, or read beyond it.
-    constexpr Long known =
-        dtLeft | dtCenter | dtRight | dtVCenter | dtSingleLine | dtCalcRect | dtWordEllipsis;
+    constexpr TextFormat known = TextFormat::center | TextFormat::right | TextFormat::vCenter |
+                                 TextFormat::singleLine | TextFormat::calcRect | TextFormat::wordEllipsis;
     // The extent of a text does not depend on where it would stand.
-    const Long bits = format & known & (calculate ? ~Long{dtVCenter} : -1);
+    const Long bits =
+        static_cast<Long>(format & known) & (calculate ? ~static_cast<Long>(TextFormat::vCenter) : -1);
     const Long height =
         DrawTextW(dc, start(text), static_cast<int>(text.size()), &area, static_cast<UINT>(bits));
     if (calculate) {

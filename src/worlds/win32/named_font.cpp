@@ -152,7 +152,7 @@ class NamedFont final : public IFont, public IFontDisp {
 ComRef<IFontDisp> makeNamedFont(FONTDESC description, NamedFontClient client) {
     void* made = nullptr;
     if (FAILED(OleCreateFontIndirect(&description, IID_IFont, &made)))
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     auto font = ComRef<IFont>::adopting(static_cast<IFont*>(made));
     String name(textOf(description.lpstrName));
     return ComRef<IFontDisp>::adopting(new NamedFont(std::move(font), std::move(name), std::move(client)));

@@ -82,7 +82,7 @@ DISPID ObjectDispatch::idOf(StringView name) {
 Variant ObjectDispatch::perform(StringView name, WORD kind, const DISPPARAMS& parameters) {
     if ((kind & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0) {
         if (parameters.cArgs != 1)
-            throw RuntimeError(wrongNumberOfArguments);
+            throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
         object_->put(name, fromVARIANT(parameters.rgvarg[0]));
         return {};
     }
@@ -97,7 +97,7 @@ Variant ObjectDispatch::perform(StringView name, WORD kind, const DISPPARAMS& pa
         result = object_->call(name, arguments);
     } catch (const RuntimeError& failure) {
         // Whoever says "method or property" means a property here.
-        if (failure.number() != objectDoesNotSupportMember || (kind & DISPATCH_PROPERTYGET) == 0)
+        if (failure.number() != ErrorNumber::objectDoesNotSupportMember || (kind & DISPATCH_PROPERTYGET) == 0)
             throw;
         return object_->get(name, arguments);
     }
@@ -128,7 +128,7 @@ HRESULT ObjectDispatch::Invoke(DISPID id,
             *result = value.release();
         return S_OK;
     } catch (const RuntimeError& failure) {
-        if (failure.number() == objectDoesNotSupportMember)
+        if (failure.number() == ErrorNumber::objectDoesNotSupportMember)
             return DISP_E_MEMBERNOTFOUND;
         if (details == nullptr)
             return resultOf(failure.number());

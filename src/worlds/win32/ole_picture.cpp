@@ -177,7 +177,7 @@ OwnedBitmap sectionFor(const Bitmap& bitmap, WORD bits, void*& memory) {
     const BITMAPINFO info = dibInfo(bitmap.width, -bitmap.height, bits);
     OwnedBitmap made(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &memory, nullptr, 0));
     if (!made)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     return made;
 }
 
@@ -205,7 +205,7 @@ OwnedIcon iconFor(const Bitmap& bitmap) {
     ICONINFO parts{TRUE, 0, 0, mask.get(), color.get()};
     OwnedIcon icon(mask ? CreateIconIndirect(&parts) : nullptr);
     if (!icon)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     return icon;
 }
 
@@ -225,7 +225,7 @@ ComRef<IPictureDisp> makeObject(const Picture& picture) {
     }
     void* made = nullptr;
     if (FAILED(OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE, &made)))
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     // The object owns it now.
     icon.detach();
     bitmap.detach();
@@ -273,21 +273,21 @@ IPicture* hostsPicture(const Picture& picture) {
 
 PictureRef loadOlePicture(std::span<const Byte> image, std::uint64_t freePixels) {
     if (image.size() > 0x7FFFFFFF)
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     // The system's loader believes whatever an image says of itself.
     checkImage(image, freePixels);
     OwnedMemory memory(GlobalAlloc(GMEM_MOVEABLE, image.size()));
     ComRef<IStream> stream;
     if (!memory || FAILED(CreateStreamOnHGlobal(memory.get(), TRUE, stream.out())))
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     const HGLOBAL streams = memory.detach();
     std::copy(image.begin(), image.end(), static_cast<Byte*>(LockedMemory(streams).bytes()));
     void* made = nullptr;
     if (FAILED(OleLoadPicture(stream.get(), static_cast<LONG>(image.size()), FALSE, IID_IPicture, &made)))
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     PictureRef picture = entered(ComRef<IPicture>::adopting(static_cast<IPicture*>(made)));
     if (picture->bitmap().pixels.empty())
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     return picture;
 }
 

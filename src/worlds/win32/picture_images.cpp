@@ -16,7 +16,7 @@ std::vector<Byte> Win32Runtime::imageOfPicture(const Picture& picture) const {
 PictureRef Win32Runtime::pictureOfImage(std::span<const Byte> image) const {
     const ImageFormat format = checkImage(image);
     if (format != ImageFormat::bitmap && format != ImageFormat::icon && format != ImageFormat::cursor)
-        throw RuntimeError(invalidPicture);
+        throw RuntimeError(ErrorNumber::invalidPicture);
     return loadOlePicture(image);
 }
 

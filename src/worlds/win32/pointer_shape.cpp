@@ -10,33 +10,6 @@ namespace lumtex {
 
 namespace {
 
-struct CursorOfShape {
-    Integer shape;
-    const wchar_t* cursor;
-};
-
-const wchar_t* cursorName(Integer shape) {
-    static const CursorOfShape cursors[] = {
-        {2, IDC_CROSS},
-        {3, IDC_IBEAM},
-        {5, IDC_SIZEALL},
-        {6, IDC_SIZENESW},
-        {7, IDC_SIZENS},
-        {8, IDC_SIZENWSE},
-        {9, IDC_SIZEWE},
-        {10, IDC_UPARROW},
-        {11, IDC_WAIT},
-        {12, IDC_NO},
-        {13, IDC_APPSTARTING},
-        {14, IDC_HELP},
-        {15, IDC_SIZEALL},
-    };
-    const auto* found = std::find_if(std::begin(cursors), std::end(cursors), [=](const CursorOfShape& known) {
-        return known.shape == shape;
-    });
-    return found != std::end(cursors) ? found->cursor : IDC_ARROW;
-}
-
 OwnedIcon cursorFrom(const Bitmap& picture) {
     if (picture.width <= 0 || picture.height <= 0)
         return {};
@@ -77,9 +50,9 @@ void PointerShape::setIcon(PictureRef icon) {
 }
 
 HCURSOR PointerShape::cursor() const {
-    if (shape_ == pointerCustom && iconCursor_)
+    if (shape_ == CursorShape::custom && iconCursor_)
         return iconCursor_.get();
-    return LoadCursorW(nullptr, cursorName(shape_));
+    return LoadCursorW(nullptr, IDC_ARROW);
 }
 
 } // namespace lumtex

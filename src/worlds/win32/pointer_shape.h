@@ -17,8 +17,8 @@ class PointerShape {
     PointerShape& operator=(const PointerShape&) = delete;
     ~PointerShape();
 
-    Integer shape() const { return shape_; }
-    void letShape(Integer shape) { shape_ = shape; }
+    CursorShape shape() const { return shape_; }
+    void letShape(CursorShape shape) { shape_ = shape; }
     const PictureRef& icon() const { return icon_; }
     /// Its middle is the point that points.
     void setIcon(PictureRef icon);
@@ -28,7 +28,7 @@ class PointerShape {
   private:
     void dropCursor();
 
-    Integer shape_ = pointerDefault;
+    CursorShape shape_ = CursorShape::standard;
     PictureRef icon_;
     OwnedIcon iconCursor_; ///< null if the icon could not be made into one
 };

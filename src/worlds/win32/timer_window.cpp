@@ -15,7 +15,7 @@ TimerWindow::TimerWindow(HINSTANCE instance, TickSource& ticks)
     : ticks_(ticks), class_(instance, L"LumtexTimers", procedure, 0) {
     window_ = CreateWindowExW(0, class_.name(), L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, instance, nullptr);
     if (window_ == nullptr)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 

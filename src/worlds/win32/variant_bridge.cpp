@@ -24,7 +24,7 @@ Variant narrowed(std::uint32_t value) {
 Decimal fromDECIMAL(const DECIMAL& value) {
     constexpr unsigned bitsOfWord = 32;
     if (value.scale > Decimal::mostDecimals || (value.sign & ~DECIMAL_NEG) != 0)
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     return {{static_cast<std::uint32_t>(value.Lo64),
              static_cast<std::uint32_t>(value.Lo64 >> bitsOfWord),
              static_cast<std::uint32_t>(value.Hi32)},
@@ -47,7 +47,7 @@ Variant fromUnknown(IUnknown* object) {
         return fontFrom(queryFor<IFontDisp>(object).get());
     const auto dispatch = queryFor<IDispatch>(object);
     if (!dispatch)
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     return objectFrom(dispatch.get());
 }
 
@@ -72,7 +72,7 @@ struct ToVARIANT {
         V_ERROR(&value) = DISP_E_PARAMNOTFOUND;
         return value;
     }
-    VARIANT operator()(Unsupported) const { throw RuntimeError(typeMismatch); }
+    VARIANT operator()(Unsupported) const { throw RuntimeError(ErrorNumber::typeMismatch); }
     VARIANT operator()(bool held) const {
         VARIANT value = empty(VT_BOOL);
         V_BOOL(&value) = held ? VARIANT_TRUE : VARIANT_FALSE;
@@ -163,7 +163,7 @@ BSTR newBSTR(StringView text) {
             ? SysAllocStringLen(reinterpret_cast<const wchar_t*>(text.data()), static_cast<UINT>(text.size()))
             : nullptr;
     if (copy == nullptr)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     return copy;
 }
 
@@ -188,7 +188,7 @@ Variant fromVARIANT(const VARIANT& value) {
         if (!V_ISBYREF(&last))
             return fromVARIANT(last);
         if (V_BYREF(&last) == nullptr || V_VT(&last) == (VT_BYREF | VT_VARIANT))
-            throw RuntimeError(typeMismatch);
+            throw RuntimeError(ErrorNumber::typeMismatch);
         OwnedVARIANT direct;
         demand(VariantCopyInd(direct.out(), const_cast<VARIANT*>(&last)));
         return fromVARIANT(direct.get());
@@ -239,7 +239,7 @@ Variant fromVARIANT(const VARIANT& value) {
     case VT_UNKNOWN:
         return fromUnknown(V_UNKNOWN(&value));
     default:
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     }
 }
 

@@ -21,7 +21,7 @@ WheelSubclass::WheelSubclass(Win32World& world, HWND parent, OnWheel onWheel)
     hwnd_ = CreateWindowExW(
         0, class_.name(), L"", WS_CHILD, 0, 0, 0, 0, parent, nullptr, world.instance(), nullptr);
     if (hwnd_ == nullptr)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 

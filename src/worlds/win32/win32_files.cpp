@@ -22,7 +22,7 @@ String Win32Files::readFile(StringView path) const {
         const std::size_t known = bytes.size();
         bytes.resize(known + blockSize);
         if (!ReadFile(file.get(), bytes.data() + known, blockSize, &count, nullptr))
-            throw RuntimeError(deviceError);
+            throw RuntimeError(ErrorNumber::deviceError);
         bytes.resize(known + count);
     }
     return textFromAnsi(bytes);
@@ -38,7 +38,7 @@ void Win32Files::appendToFile(StringView path, StringView text) {
     DWORD written = 0;
     if (!WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) ||
         written != bytes.size())
-        throw RuntimeError(deviceError);
+        throw RuntimeError(ErrorNumber::deviceError);
 }
 
 String Win32Files::fullPathName(StringView file) const {

@@ -93,7 +93,7 @@ String Win32Locale::textOf(Date value) const {
 
 String Win32Locale::textOf(Date value, unsigned long part) const {
     if (!isDateInRange(value.days))
-        throw RuntimeError(overflow);
+        throw RuntimeError(ErrorNumber::overflow);
     return written([&](BSTR* text) { return VarBstrFromDate(value.days, locale_, part, text); });
 }
 

@@ -122,7 +122,7 @@ ObjectRef Win32Runtime::createObject(StringView programId) {
     if (FAILED(CLSIDFromProgID(wide(name), &classId)) ||
         FAILED(CoCreateInstance(
             classId, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IDispatch, &made)))
-        throw RuntimeError(cannotCreateObject);
+        throw RuntimeError(ErrorNumber::cannotCreateObject);
     object = ComRef<IDispatch>::adopting(static_cast<IDispatch*>(made));
     return objectFrom(object.get());
 }

@@ -36,7 +36,7 @@ Win32TextBox::Win32TextBox(Win32World& world, Win32Window& parent, TextBoxClient
                             world.instance(),
                             nullptr);
     if (hwnd_ == nullptr)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     boxProcedure_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Win32TextBox::procedure)));

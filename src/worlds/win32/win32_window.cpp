@@ -59,7 +59,7 @@ Win32Window::Win32Window(Win32World& world, HWND parent, Kind kind, UserControl&
                             world.instance(),
                             nullptr);
     if (hwnd_ == nullptr)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     if (kind == Kind::child)
         raise(hwnd_);
@@ -202,7 +202,7 @@ void Win32Window::letOLEDropMode(Long mode) {
         dropPlace_ = std::make_unique<DropPlace>(hwnd_, client_);
 }
 
-void Win32Window::letMousePointer(Integer shape) {
+void Win32Window::letMousePointer(CursorShape shape) {
     if (shape == pointerShape_.shape())
         return;
     pointerShape_.letShape(shape);

@@ -40,7 +40,7 @@ class Win32Window final : public Window {
     /// 1 takes what is dragged over the window and its children, unless a child takes it itself; any other
     /// number does not. On a thread without drag and drop nothing comes.
     void letOLEDropMode(Long mode) override;
-    void letMousePointer(Integer shape) override;
+    void letMousePointer(CursorShape shape) override;
     void setMouseIcon(PictureRef icon) override;
     void setFocus() override;
     void letTakesKeys(bool takesKeys) override { takesKeys_ = takesKeys; }

@@ -18,7 +18,7 @@ namespace {
 Win32Window& windowOfOurs(Window& window) {
     auto* own = dynamic_cast<Win32Window*>(&window);
     if (own == nullptr)
-        throw RuntimeError(invalidProcedureCall);
+        throw RuntimeError(ErrorNumber::invalidProcedureCall);
     return *own;
 }
 
@@ -62,7 +62,7 @@ std::unique_ptr<Timer> Win32World::createTimer(std::function<void()> onTimer) {
 
 void Win32World::refuseHugeSize(Long width, Long height) {
     if (width > 0 && height > 0 && std::int64_t{width} * height > mostPixels)
-        throw RuntimeError(outOfMemory);
+        throw RuntimeError(ErrorNumber::outOfMemory);
 }
 
 std::unique_ptr<Surface> Win32World::createSurface(Long width, Long height) {

@@ -34,7 +34,7 @@ WindowClass::WindowClass(HINSTANCE instance, const wchar_t* name, WNDPROC proced
         form.hInstance = instance;
         form.lpszClassName = name;
         if (RegisterClassExW(&form) == 0)
-            throw RuntimeError(outOfMemory);
+            throw RuntimeError(ErrorNumber::outOfMemory);
     }
     ++count;
 }

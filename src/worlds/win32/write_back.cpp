@@ -59,7 +59,7 @@ void writeBack(const Variant& value, VARIANT& argument, LCID locale) {
     if (type == VT_VARIANT) {
         auto& place = const_cast<VARIANT&>(endOfReferences(argument));
         if (V_VT(&place) == (VT_BYREF | VT_VARIANT))
-            throw RuntimeError(typeMismatch);
+            throw RuntimeError(ErrorNumber::typeMismatch);
         if (V_ISBYREF(&place))
             writeBack(value, place, locale);
         else
@@ -90,7 +90,7 @@ void writeBack(const Variant& value, VARIANT& argument, LCID locale) {
     }
     const std::size_t size = plainSize(type);
     if (size == 0)
-        throw RuntimeError(typeMismatch);
+        throw RuntimeError(ErrorNumber::typeMismatch);
     std::memcpy(V_BYREF(&argument), &V_I8(&fresh.get()), size);
 }
 

@@ -53,13 +53,13 @@ TEST_F(DatabaseRecordset, KnowsItsMembersInAnyCaseAndNoOthers) {
     const ObjectRef fields = recordset->get(u"Fields").toObject();
     Variant one = Long{0};
     const ObjectRef field = fields->get({}, {&one, 1}).toObject();
-    const auto unknown = std::to_string(objectDoesNotSupportMember);
+    const auto unknown = std::to_string(numberOf(ErrorNumber::objectDoesNotSupportMember));
     for (const ObjectRef& object : {recordset, fields, field}) {
         EXPECT_EQ(failureOf([&] { object->get(u"MovePrevious"); }).substr(0, 3), unknown);
         EXPECT_EQ(failureOf([&] { object->call(u"MovePrevious"); }).substr(0, 3), unknown);
         EXPECT_EQ(failureOf([&] { object->put(u"EOF", true); }).substr(0, 3), unknown);
     }
-    const auto tooMany = std::to_string(wrongNumberOfArguments);
+    const auto tooMany = std::to_string(numberOf(ErrorNumber::wrongNumberOfArguments));
     EXPECT_EQ(failureOf([&] { recordset->get(u"EOF", {&one, 1}); }).substr(0, 3), tooMany);
     EXPECT_EQ(failureOf([&] { recordset->call(u"MoveNext", {&one, 1}); }).substr(0, 3), tooMany);
     EXPECT_EQ(failureOf([&] { fields->get(u""); }).substr(0, 3), tooMany);

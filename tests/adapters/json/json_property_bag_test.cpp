@@ -102,19 +102,19 @@ TEST_F(JsonPropertyBagTest, WhatIsNoValueIsATypeMismatch) {
     bag.parse(
         R"({"List": [1], "Object": {"Colour": 1}, "Font": {"Name": 3, "Size": 8}, "Sizeless": {"Name": "A"}})");
     for (const char16_t* name : {u"List", u"Object", u"Font", u"Sizeless"})
-        EXPECT_EQ(errorOfReading(name), typeMismatch) << toUtf8(name);
+        EXPECT_EQ(errorOfReading(name), ErrorNumber::typeMismatch) << toUtf8(name);
 }
 
 TEST_F(JsonPropertyBagTest, AFontsSizePastASingleOverflows) {
     bag.parse(R"({"Font": {"Name": "A", "Size": 1e300}})");
-    EXPECT_EQ(errorOfReading(u"Font"), overflow);
+    EXPECT_EQ(errorOfReading(u"Font"), ErrorNumber::overflow);
 }
 
 TEST_F(JsonPropertyBagTest, APictureOfGarbageIsAnInvalidPicture) {
     bag.parse(R"({"Empty": {"Picture": ""}, "Garbage": {"Picture": "AAAAAAAA"}, "Number": {"Picture": 5}})");
-    EXPECT_EQ(errorOfReading(u"Empty"), invalidPicture);
-    EXPECT_EQ(errorOfReading(u"Garbage"), invalidPicture);
-    EXPECT_EQ(errorOfReading(u"Number"), typeMismatch);
+    EXPECT_EQ(errorOfReading(u"Empty"), ErrorNumber::invalidPicture);
+    EXPECT_EQ(errorOfReading(u"Garbage"), ErrorNumber::invalidPicture);
+    EXPECT_EQ(errorOfReading(u"Number"), ErrorNumber::typeMismatch);
 }
 
 TEST_F(JsonPropertyBagTest, WhatCannotBeStoredIsRefusedAndTheOldValueStays) {
@@ -125,7 +125,8 @@ TEST_F(JsonPropertyBagTest, WhatCannotBeStoredIsRefusedAndTheOldValueStays) {
                                Variant(Date{1}),
                                Variant()};
     for (const Variant& value : refused)
-        EXPECT_EQ(errorNumberOf([&] { bag.WriteProperty(u"IconW", value, Single{16}); }), typeMismatch);
+        EXPECT_EQ(errorNumberOf([&] { bag.WriteProperty(u"IconW", value, Single{16}); }),
+                  ErrorNumber::typeMismatch);
     EXPECT_EQ(read(u"IconW"), Variant(Long{1}));
 }
 
@@ -140,7 +141,8 @@ TEST_F(JsonPropertyBagTest, TextThatIsNoObjectIsAnInvalidFormatAndChangesNothing
                                     std::string("{\"a\": \"\xFF\"}"),
                                     std::string("{} {}"),
                                     deep}) {
-        EXPECT_EQ(errorNumberOf([&] { bag.parse(text); }), invalidFileFormat) << text.substr(0, 20);
+        EXPECT_EQ(errorNumberOf([&] { bag.parse(text); }), ErrorNumber::invalidFileFormat)
+            << text.substr(0, 20);
         EXPECT_EQ(bag.text(), before);
     }
 }
@@ -157,8 +159,10 @@ TEST_F(JsonPropertyBagTest, TextNestedDeeperThanAnyOfOursIsRefused) {
     };
     EXPECT_EQ(errorNumberOf([&] { bag.parse(nested(6, "[", "]")); }), noError);
     for (const int levels : {9, 20, 1'000'000}) {
-        EXPECT_EQ(errorNumberOf([&] { bag.parse(nested(levels, "[", "]")); }), invalidFileFormat) << levels;
-        EXPECT_EQ(errorNumberOf([&] { bag.parse(nested(levels, "{\"b\":", "}")); }), invalidFileFormat);
+        EXPECT_EQ(errorNumberOf([&] { bag.parse(nested(levels, "[", "]")); }), ErrorNumber::invalidFileFormat)
+            << levels;
+        EXPECT_EQ(errorNumberOf([&] { bag.parse(nested(levels, "{\"b\":", "}")); }),
+                  ErrorNumber::invalidFileFormat);
     }
 }
 
@@ -191,11 +195,12 @@ TEST_F(JsonPropertyBagTest, CutAnywhereTheTextIsRefused) {
     const std::string whole = bag.text();
     // The line end behind the object may be missing.
     for (std::size_t size = 0; size + 1 < whole.size(); ++size)
-        EXPECT_EQ(errorNumberOf([&] { bag.parse(whole.substr(0, size)); }), invalidFileFormat) << size;
+        EXPECT_EQ(errorNumberOf([&] { bag.parse(whole.substr(0, size)); }), ErrorNumber::invalidFileFormat)
+            << size;
 }
 
 TEST_F(JsonPropertyBagTest, AMissingFileIsNotFound) {
-    EXPECT_EQ(errorNumberOf([&] { bag.load(folder.pathTo("none.json")); }), fileNotFound);
+    EXPECT_EQ(errorNumberOf([&] { bag.load(folder.pathTo("none.json")); }), ErrorNumber::fileNotFound);
 }
 
 TEST_F(JsonPropertyBagTest, AListsSettingsComeBackFromAFile) {

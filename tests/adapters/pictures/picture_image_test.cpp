@@ -96,7 +96,8 @@ TEST(PictureImage, APixelThatIsNotOpaqueMakesAnIcon) {
 }
 
 TEST(PictureImage, APictureWithoutPixelsHasNone) {
-    EXPECT_EQ(errorNumberOf([] { imageOfPicture(BitmapPicture(Bitmap(0, 5))); }), invalidPicture);
+    EXPECT_EQ(errorNumberOf([] { imageOfPicture(BitmapPicture(Bitmap(0, 5))); }),
+              ErrorNumber::invalidPicture);
 }
 
 TEST(PictureImage, ACursorFileGivesAnIcon) {
@@ -108,7 +109,7 @@ TEST(PictureImage, ACursorFileGivesAnIcon) {
 TEST(PictureImage, OtherFormatsAndNoBytesAreRefused) {
     const Image gif{'G', 'I', 'F', '8', '9', 'a', 1, 0, 1, 0, 0, 0, 0};
     for (const Image& image : {Image{}, Image{'B'}, Image{0, 0, 1}, gif})
-        EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), invalidPicture);
+        EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), ErrorNumber::invalidPicture);
 }
 
 TEST(PictureImage, NoCutOrChangedByteCrashesTheReader) {
@@ -116,18 +117,20 @@ TEST(PictureImage, NoCutOrChangedByteCrashesTheReader) {
         const Image whole = imageOfPicture(BitmapPicture(randomBitmap(5, 4, opaque, 4)));
         for (std::size_t i = 0; i < whole.size(); ++i) {
             const Image cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(i));
-            EXPECT_EQ(errorNumberOf([&] { pictureOfImage(cut); }), invalidPicture) << i;
+            EXPECT_EQ(errorNumberOf([&] { pictureOfImage(cut); }), ErrorNumber::invalidPicture) << i;
             Image changed = whole;
             changed[i] ^= 0xFFU;
             const Long number = errorNumberOf([&] { pictureOfImage(changed); });
-            EXPECT_TRUE(number == noError || number == invalidPicture) << i << " gives " << number;
+            EXPECT_TRUE(number == noError || number == ErrorNumber::invalidPicture)
+                << i << " gives " << number;
         }
     }
 }
 
 TEST(PictureImage, DamagedImagesAreRefused) {
     for (const NamedImage& damaged : damagedImages())
-        EXPECT_EQ(errorNumberOf([&] { pictureOfImage(damaged.image); }), invalidPicture) << damaged.name;
+        EXPECT_EQ(errorNumberOf([&] { pictureOfImage(damaged.image); }), ErrorNumber::invalidPicture)
+            << damaged.name;
 }
 
 TEST(PictureImage, EachHeaderByteOfAnIconWithSeveralPicturesMayBeAnything) {
@@ -137,7 +140,8 @@ TEST(PictureImage, EachHeaderByteOfAnIconWithSeveralPicturesMayBeAnything) {
             Image changed = whole;
             changed[i] = static_cast<Byte>(value);
             const Long number = errorNumberOf([&] { pictureOfImage(changed); });
-            EXPECT_TRUE(number == noError || number == invalidPicture) << i << " gives " << number;
+            EXPECT_TRUE(number == noError || number == ErrorNumber::invalidPicture)
+                << i << " gives " << number;
         }
     }
 }
@@ -158,9 +162,9 @@ TEST(PictureImage, ASizeThatTheBytesCannotHoldIsRefusedBeforeItsMemoryIsAskedFor
     letSide(92, 0); // 8464 pixels of 8640 that its 1080 bytes may have
     EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), noError);
     letSide(93, 0);
-    EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), invalidPicture);
+    EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), ErrorNumber::invalidPicture);
     letSide(0xFF, 0x7F);
-    EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), invalidPicture);
+    EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), ErrorNumber::invalidPicture);
 }
 
 } // namespace

@@ -108,7 +108,7 @@ TEST_F(BinaryFiles, AFullDiskIsToldAndWhatItTookStandsUnderTheName) {
     output->write(Bytes(100, 'a'));
     {
         const FullDisk full(150);
-        EXPECT_EQ(errorNumberOf([&] { output->write(Bytes(100, 'b')); }), diskFull);
+        EXPECT_EQ(errorNumberOf([&] { output->write(Bytes(100, 'b')); }), ErrorNumber::diskFull);
     }
     output->close();
     EXPECT_EQ(folder.contentOf("list.dat"), std::string(100, 'a') + std::string(50, 'b'));
@@ -117,26 +117,26 @@ TEST_F(BinaryFiles, AFullDiskIsToldAndWhatItTookStandsUnderTheName) {
 TEST_F(BinaryFiles, ANameThatBecameAFolderIsToldAtTheEnd) {
     const auto output = runtime().files().openForBinaryWriting(folder.pathTo("list.dat"));
     fs::create_directory(folder.path / "list.dat");
-    EXPECT_EQ(errorNumberOf([&] { output->close(); }), pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { output->close(); }), ErrorNumber::pathFileAccess);
 }
 
 struct Unusable {
     const char* path; ///< below the test's folder, or from the root
-    Long atWriting;
-    Long atReading;
-    Long atDeleting;
+    ErrorNumber atWriting;
+    ErrorNumber atReading;
+    ErrorNumber atDeleting;
 };
 
 constexpr std::array<Unusable, 9> unusable{{
-    {"", pathFileAccess, pathFileAccess, pathFileAccess},
-    {"folder", pathFileAccess, pathFileAccess, pathFileAccess},
-    {"folder/", pathFileAccess, pathFileAccess, pathFileAccess},
-    {"nowhere/list.dat", pathNotFound, pathNotFound, pathNotFound},
-    {"file/list.dat", pathNotFound, pathNotFound, pathNotFound},
-    {"missing.dat", noError, fileNotFound, fileNotFound},
-    {"loop", pathFileAccess, pathFileAccess, pathFileAccess},
-    {"/dev/full", pathFileAccess, pathFileAccess, pathFileAccess},
-    {"/proc/lumtex.dat", pathFileAccess, fileNotFound, fileNotFound},
+    {"", ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess},
+    {"folder", ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess},
+    {"folder/", ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess},
+    {"nowhere/list.dat", ErrorNumber::pathNotFound, ErrorNumber::pathNotFound, ErrorNumber::pathNotFound},
+    {"file/list.dat", ErrorNumber::pathNotFound, ErrorNumber::pathNotFound, ErrorNumber::pathNotFound},
+    {"missing.dat", ErrorNumber{}, ErrorNumber::fileNotFound, ErrorNumber::fileNotFound},
+    {"loop", ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess},
+    {"/dev/full", ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess, ErrorNumber::pathFileAccess},
+    {"/proc/lumtex.dat", ErrorNumber::pathFileAccess, ErrorNumber::fileNotFound, ErrorNumber::fileNotFound},
 }};
 
 TEST_F(BinaryFiles, WhatIsNoPlainFileIsRefused) {
@@ -160,7 +160,7 @@ TEST_F(BinaryFiles, ANameAsLongAsTheMachineAllowsIsWritten) {
     output->close();
     EXPECT_EQ(folder.contentOf(name), "x");
     const String tooLong = folder.pathTo(name + "n");
-    EXPECT_EQ(errorNumberOf([&] { runtime().files().deleteFile(tooLong); }), pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { runtime().files().deleteFile(tooLong); }), ErrorNumber::pathFileAccess);
 }
 
 TEST_F(BinaryFiles, DeletingALinkLeavesWhatItNames) {

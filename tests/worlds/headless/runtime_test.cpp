@@ -158,26 +158,26 @@ TEST_F(AppendToFile, BackslashesSeparateFolders) {
 TEST_F(AppendToFile, FailsWithThePathWhereTheFolderDoesNotExist) {
     EXPECT_EQ(errorNumberOf(
                   [&] { desktop.runtime().files().appendToFile(folder.pathTo("missing\\log.txt"), u"a"); }),
-              pathNotFound);
+              ErrorNumber::pathNotFound);
     EXPECT_FALSE(std::filesystem::exists(folder.path / "missing"));
 }
 
 TEST_F(AppendToFile, FailsWithTheAccessWhereTheFileCannotBeOpened) {
     EXPECT_EQ(
         errorNumberOf([&] { desktop.runtime().files().appendToFile(fromUtf8(folder.path.string()), u"a"); }),
-        pathFileAccess);
-    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().files().appendToFile(u"", u"a"); }), pathFileAccess);
+        ErrorNumber::pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { desktop.runtime().files().appendToFile(u"", u"a"); }),
+              ErrorNumber::pathFileAccess);
 }
 
 TEST_F(RuntimeRules, ObjectsComeFromTheirFactories) {
-    constexpr Long cannotCreateObject = 429;
     HeadlessRuntime& runtime = desktop.runtime();
-    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), cannotCreateObject);
+    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), ErrorNumber::cannotCreateObject);
     const auto object = std::make_shared<TestObject>();
     runtime.factories[u"Some.Class"] = [&] { return object; };
     EXPECT_EQ(runtime.createObject(u"some.CLASS"), object);
     runtime.factories[u"Some.Class"] = nullptr;
-    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), cannotCreateObject);
+    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), ErrorNumber::cannotCreateObject);
 }
 
 TEST_F(RuntimeRules, ThereIsNoApplicationUntilATestSaysOtherwise) {

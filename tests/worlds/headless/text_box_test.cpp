@@ -62,7 +62,8 @@ TEST_F(TextBoxRules, PlacesAreRoundedToWholePixelsHalvesToEven) {
     EXPECT_EQ(box->Top(), 4);
     EXPECT_EQ(box->Width(), 8);
     EXPECT_EQ(box->Height(), 0);
-    EXPECT_EQ(errorNumberOf([&] { box->letLeft(std::numeric_limits<Single>::infinity()); }), overflow);
+    EXPECT_EQ(errorNumberOf([&] { box->letLeft(std::numeric_limits<Single>::infinity()); }),
+              ErrorNumber::overflow);
     EXPECT_EQ(box->Left(), 2);
 }
 

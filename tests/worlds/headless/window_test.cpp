@@ -63,9 +63,9 @@ TEST_F(WindowPlace, ANewSizeKeepsWhatWasDrawn) {
 
 TEST_F(WindowPlace, NumbersThatAreNoPlaceFailAndLeaveTheWindowAsItWas) {
     const Single nan = std::numeric_limits<Single>::quiet_NaN();
-    EXPECT_EQ(errorNumberOf([&] { a->window().place(nan, 0, 1, 1); }), overflow);
-    EXPECT_EQ(errorNumberOf([&] { a->window().place(0, 0, 1, 3e9F); }), overflow);
-    EXPECT_EQ(errorNumberOf([&] { a->window().place(0, 0, 1e6F, 1e6F); }), outOfMemory);
+    EXPECT_EQ(errorNumberOf([&] { a->window().place(nan, 0, 1, 1); }), ErrorNumber::overflow);
+    EXPECT_EQ(errorNumberOf([&] { a->window().place(0, 0, 1, 3e9F); }), ErrorNumber::overflow);
+    EXPECT_EQ(errorNumberOf([&] { a->window().place(0, 0, 1e6F, 1e6F); }), ErrorNumber::outOfMemory);
     EXPECT_EQ(a->window().Left(), 10);
     EXPECT_EQ(a->window().Width(), 100);
     EXPECT_TRUE(sameLog(events.take(), {}));
@@ -213,7 +213,8 @@ TEST_F(WindowAdoption, AWindowOfAnotherDesktopIsNoParent) {
     Desktop other(testFonts());
     const auto elsewhere = other.createWindow(nullptr, *a);
     const auto further = other.createWindow(nullptr, *a);
-    EXPECT_EQ(errorNumberOf([&] { desktop.createWindow(further.get(), *a); }), invalidProcedureCall);
+    EXPECT_EQ(errorNumberOf([&] { desktop.createWindow(further.get(), *a); }),
+              ErrorNumber::invalidProcedureCall);
 }
 
 } // namespace lumtex::testing

@@ -47,8 +47,8 @@ TEST_F(CarriedData, AFormatIsThereOrNot) {
     dragged.letText(CF_TEXT, "plain");
     EXPECT_EQ(call(u"GetFormat", {Integer{CF_TEXT}}), Variant(true));
     EXPECT_EQ(call(u"GetFormat", {Integer{CF_UNICODETEXT}}), Variant(false));
-    EXPECT_EQ(failure(u"GetData", {Integer{CF_UNICODETEXT}}), invalidProcedureCall);
-    EXPECT_EQ(failure(u"GetData", {Integer{CF_WAVE}}), invalidProcedureCall);
+    EXPECT_EQ(failure(u"GetData", {Integer{CF_UNICODETEXT}}), ErrorNumber::invalidProcedureCall);
+    EXPECT_EQ(failure(u"GetData", {Integer{CF_WAVE}}), ErrorNumber::invalidProcedureCall);
 }
 
 TEST_F(CarriedData, ARegisteredFormatHasANegativeNumber) {
@@ -86,13 +86,13 @@ TEST_F(CarriedData, FilesAreCountedFromOne) {
 }
 
 TEST_F(CarriedData, WithoutFilesThereIsNoListOfThem) {
-    EXPECT_EQ(failure(u"Files", {}), invalidProcedureCall);
+    EXPECT_EQ(failure(u"Files", {}), ErrorNumber::invalidProcedureCall);
 }
 
 TEST_F(CarriedData, OtherMembersAreUnknown) {
-    EXPECT_EQ(failure(u"Clear", {}), objectDoesNotSupportMember);
-    EXPECT_EQ(failure(u"GetFormat", {}), objectDoesNotSupportMember);
-    EXPECT_EQ(failure(u"GetData", {Integer{1}, Integer{2}}), objectDoesNotSupportMember);
+    EXPECT_EQ(failure(u"Clear", {}), ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(failure(u"GetFormat", {}), ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(failure(u"GetData", {Integer{1}, Integer{2}}), ErrorNumber::objectDoesNotSupportMember);
     EXPECT_THROW(data->put(u"Files", Variant()), RuntimeError);
 }
 

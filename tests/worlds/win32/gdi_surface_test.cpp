@@ -70,7 +70,7 @@ TEST(GdiSurface, ASurfaceWithoutExtentTakesEveryOperation) {
     surface.box(0, 0, 5, 5, black);
     surface.polygon(triangle, black);
     surface.paintPicture(picture, 0, 0);
-    surface.drawText(u"text", rect, dtLeft);
+    surface.drawText(u"text", rect, TextFormat::left);
     surface.print(0, 0, u"text");
     surface.Cls();
     EXPECT_EQ(surface.scaleWidth(), 0);
@@ -85,7 +85,7 @@ TEST(GdiSurface, ASizeBeyondAllMemoryIsRefusedAndTheSurfaceStaysAsItWas) {
         surface.resize(1'000'000, 1'000'000);
         ADD_FAILURE() << "was not refused";
     } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.number(), outOfMemory);
+        EXPECT_EQ(error.number(), ErrorNumber::outOfMemory);
     }
     EXPECT_EQ(surface.image(), Bitmap(2, 2, 0xFFFF0000U));
 }
@@ -105,9 +105,9 @@ TEST(GdiSurface, CoordinatesThatDoNotFitThrow) {
 TEST(GdiSurface, LengthsAreConvertedByThePixelsOfTheDevice) {
     const GdiSurface usual(1, 1, 96, 96);
     const GdiSurface fine(1, 1, 144, 192);
-    EXPECT_EQ(scaleX(usual, 1440, twips, pixels), 96);
-    EXPECT_EQ(scaleX(fine, 1440, twips, pixels), 144);
-    EXPECT_EQ(scaleY(fine, 1440, twips, pixels), 192);
+    EXPECT_EQ(scaleX(usual, 1440, Unit::twips, Unit::pixels), 96);
+    EXPECT_EQ(scaleX(fine, 1440, Unit::twips, Unit::pixels), 144);
+    EXPECT_EQ(scaleY(fine, 1440, Unit::twips, Unit::pixels), 192);
 }
 
 TEST(GdiSurface, TextGrowsWithThePixelsOfTheDevice) {

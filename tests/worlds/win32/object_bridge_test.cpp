@@ -62,9 +62,10 @@ TEST(ObjectBridge, WritesArgumentsOfACallBack) {
 
 TEST(ObjectBridge, TellsOfAnUnknownMember) {
     const ObjectRef seen = thereAndBack(std::make_shared<TestObject>());
-    EXPECT_EQ(errorNumberOf([&] { seen->get(u"Nothing"); }), objectDoesNotSupportMember);
-    EXPECT_EQ(errorNumberOf([&] { seen->put(u"Nothing", Long{1}); }), objectDoesNotSupportMember);
-    EXPECT_EQ(errorNumberOf([&] { seen->call(u"Nothing"); }), objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { seen->get(u"Nothing"); }), ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { seen->put(u"Nothing", Long{1}); }),
+              ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { seen->call(u"Nothing"); }), ErrorNumber::objectDoesNotSupportMember);
 }
 
 TEST(ObjectBridge, KeepsNumberAndTextOfAFailure) {

@@ -158,7 +158,7 @@ TEST_F(OlePictureTest, BytesThatAreNoPictureThrow481) {
             loadOlePicture(bytes);
             ADD_FAILURE() << bytes.size() << " bytes were read";
         } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number(), invalidPicture);
+            EXPECT_EQ(error.number(), ErrorNumber::invalidPicture);
         }
     }
 }

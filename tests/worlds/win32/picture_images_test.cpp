@@ -65,18 +65,18 @@ TEST_F(PictureImages, WhatIsNoBitmapAndNoIconThrows481) {
     const std::vector<Byte> bare{'B', 'M'};
     const std::vector<Byte> bareIcon{0, 0, 1, 0};
     for (const std::vector<Byte>& image : {std::vector<Byte>(), other, bare, bareIcon})
-        EXPECT_EQ(failureOf(image), invalidPicture) << image.size();
+        EXPECT_EQ(failureOf(image), ErrorNumber::invalidPicture) << image.size();
 }
 
 TEST_F(PictureImages, AnImageThatDeclaresMorePixelsThanItsBytesCanHoldThrows481) {
     std::vector<Byte> image = runtime.imageOfPicture(BitmapPicture(pattern(4, 4)));
     image[20] = 0x40; // a width of four millions
-    EXPECT_EQ(failureOf(image), invalidPicture);
+    EXPECT_EQ(failureOf(image), ErrorNumber::invalidPicture);
 }
 
 TEST_F(PictureImages, DamagedImagesNeverReachTheSystem) {
     for (const NamedImage& damaged : damagedImages()) {
-        EXPECT_EQ(failureOf(damaged.image), invalidPicture) << damaged.name;
+        EXPECT_EQ(failureOf(damaged.image), ErrorNumber::invalidPicture) << damaged.name;
         EXPECT_THROW(loadOlePicture(damaged.image), RuntimeError) << damaged.name;
     }
 }
@@ -93,7 +93,7 @@ TEST_F(PictureImages, EachHeaderByteMayBeAnything) {
                 Image changed = whole;
                 changed[i] = static_cast<Byte>(value);
                 const Long number = failureOf(changed);
-                EXPECT_TRUE(number == 0 || number == invalidPicture) << i << " gives " << number;
+                EXPECT_TRUE(number == 0 || number == ErrorNumber::invalidPicture) << i << " gives " << number;
             }
         }
     }
@@ -101,7 +101,7 @@ TEST_F(PictureImages, EachHeaderByteMayBeAnything) {
 
 TEST_F(PictureImages, OtherFormatsPassTheSystemsLoaderAlone) {
     for (const Image& image : {pngImage(), gifImage()}) {
-        EXPECT_EQ(failureOf(image), invalidPicture) << "no content file holds them";
+        EXPECT_EQ(failureOf(image), ErrorNumber::invalidPicture) << "no content file holds them";
         EXPECT_FALSE(loadOlePicture(image)->bitmap().pixels.empty());
     }
 }

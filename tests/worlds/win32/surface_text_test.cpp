@@ -25,19 +25,20 @@ constexpr Long heights[] = {5, 24, 25, 26};
 
 struct Format {
     const char* name;
-    Long bits;
+    TextFormat bits;
 };
 constexpr Format formats[] = {
-    {"left", dtLeft},
-    {"centre", dtCenter},
-    {"right", dtRight},
-    {"single line, left", dtLeft | dtSingleLine | dtWordEllipsis},
-    {"single line, centre", dtCenter | dtSingleLine | dtWordEllipsis},
-    {"single line, right", dtRight | dtSingleLine | dtWordEllipsis},
-    {"centred upright", dtLeft | dtSingleLine | dtWordEllipsis | dtVCenter},
-    {"centred both ways", dtCenter | dtSingleLine | dtVCenter},
-    {"lines with dots", dtLeft | dtWordEllipsis},
-    {"lines with dots, right", dtRight | dtWordEllipsis},
+    {"left", TextFormat::left},
+    {"centre", TextFormat::center},
+    {"right", TextFormat::right},
+    {"single line, left", TextFormat::left | TextFormat::singleLine | TextFormat::wordEllipsis},
+    {"single line, centre", TextFormat::center | TextFormat::singleLine | TextFormat::wordEllipsis},
+    {"single line, right", TextFormat::right | TextFormat::singleLine | TextFormat::wordEllipsis},
+    {"centred upright",
+     TextFormat::left | TextFormat::singleLine | TextFormat::wordEllipsis | TextFormat::vCenter},
+    {"centred both ways", TextFormat::center | TextFormat::singleLine | TextFormat::vCenter},
+    {"lines with dots", TextFormat::left | TextFormat::wordEllipsis},
+    {"lines with dots, right", TextFormat::right | TextFormat::wordEllipsis},
 };
 
 /// The breaks of a text in a single line are drawn by some fonts of Windows.
@@ -69,23 +70,24 @@ TEST_F(SurfaceText, ExtentsAreEqual) {
 TEST_F(SurfaceText, FormattedTextReturnsTheSameHeightAndRectangle) {
     for (const Sample& sample : samples) {
         for (const Format& format : formats) {
-            if ((format.bits & dtSingleLine) != 0 && hasBreaks(sample.text))
+            if (has(format.bits, TextFormat::singleLine) && hasBreaks(sample.text))
                 continue;
             for (const Long width : widths) {
                 for (const Long height : heights) {
-                    for (const Long calculate : {Long{0}, Long{dtCalcRect}}) {
+                    for (const bool calculate : {false, true}) {
                         // Where the extent would stand does not matter to it.
-                        if (calculate != 0 && (format.bits & dtVCenter) != 0)
+                        if (calculate && has(format.bits, TextFormat::vCenter))
                             continue;
                         SCOPED_TRACE(::testing::Message() << sample.name << ", " << format.name << ", "
                                                           << width << " x " << height << ", " << calculate);
                         Rect onWindows{2, 3, 2 + width, 3 + height};
                         Rect inSoftware = onWindows;
-                        const Long bits = format.bits | calculate;
+                        const TextFormat bits =
+                            format.bits | (calculate ? TextFormat::calcRect : TextFormat::left);
                         const Long heightOnWindows = windows.drawText(sample.text, onWindows, bits);
                         const Long heightInSoftware = software.drawText(sample.text, inSoftware, bits);
                         // Painting lines, the system stops counting where the rectangle ends.
-                        if (calculate != 0 || (format.bits & dtSingleLine) != 0) {
+                        if (calculate || has(format.bits, TextFormat::singleLine)) {
                             EXPECT_EQ(heightOnWindows, heightInSoftware);
                         }
                         EXPECT_EQ(onWindows, inSoftware);
@@ -101,7 +103,7 @@ TEST_F(SurfaceText, FormattedTextReturnsTheSameHeightAndRectangle) {
 TEST_F(SurfaceText, FormattedTextFillsTheSameRows) {
     for (const Sample& sample : samples) {
         for (const Format& format : formats) {
-            if ((format.bits & dtSingleLine) != 0 && hasBreaks(sample.text))
+            if (has(format.bits, TextFormat::singleLine) && hasBreaks(sample.text))
                 continue;
             if (StringView(sample.text).find(u'&') != StringView::npos)
                 continue;
@@ -131,14 +133,15 @@ TEST_F(SurfaceText, OddHeightsAreHalvedEachForItself) {
     const auto line = static_cast<Long>(windows.textHeight(u"A"));
     for (rect.Bottom = 0; rect.Bottom < 40; ++rect.Bottom) {
         Rect same = rect;
-        EXPECT_EQ(windows.drawText(u"A", same, dtSingleLine | dtVCenter), rect.Bottom / 2 - line / 2 + line);
+        EXPECT_EQ(windows.drawText(u"A", same, TextFormat::singleLine | TextFormat::vCenter),
+                  rect.Bottom / 2 - line / 2 + line);
     }
 }
 
 TEST_F(SurfaceText, TheExtentOfNothingIsOneLineHighAndNotWide) {
     Rect rect{5, 6, 90, 90};
     const auto line = static_cast<Long>(windows.textHeight(u"A"));
-    EXPECT_EQ(windows.drawText(u"", rect, dtCalcRect), line);
+    EXPECT_EQ(windows.drawText(u"", rect, TextFormat::calcRect), line);
     EXPECT_EQ(rect, (Rect{5, 6, 5, 6 + line}));
 }
 
@@ -147,7 +150,7 @@ TEST_F(SurfaceText, FormatBitsBeyondTheKnownOnesDoNothing) {
     const String before = text;
     Rect rect{0, 0, 40, 20};
     // Among them: write the shortened text back.
-    windows.drawText(text, rect, 0x7FFFFFFF & ~dtCalcRect);
+    windows.drawText(text, rect, TextFormat{0x7FFFFFFF & ~0x400});
     EXPECT_EQ(text, before);
     EXPECT_EQ(rect, (Rect{0, 0, 40, 20}));
 }
@@ -155,7 +158,9 @@ TEST_F(SurfaceText, FormatBitsBeyondTheKnownOnesDoNothing) {
 TEST_F(SurfaceText, HugeTextsAndRectanglesAreDrawnAndMeasured) {
     const String text(300'000, u'x');
     Rect rect{-2'000'000'000, -2'000'000'000, 2'000'000'000, 2'000'000'000};
-    EXPECT_GT(windows.drawText(text, rect, dtCenter | dtSingleLine | dtWordEllipsis), 0);
+    EXPECT_GT(
+        windows.drawText(text, rect, TextFormat::center | TextFormat::singleLine | TextFormat::wordEllipsis),
+        0);
     EXPECT_EQ(windows.textWidth(text), 300'000 * windows.textWidth(u"x"));
 }
 
@@ -178,7 +183,7 @@ TEST_F(SurfaceText, AnotherFontShowsAtOnceInMeasuresAndLetters) {
 TEST_F(SurfaceText, UnderlinedTextHasARuleBelowItsLetters) {
     windows.setFont({.Name = u"Courier New", .Size = 24, .Underline = true});
     Rect rect{0, 0, 200, 60};
-    windows.drawText(u"   ", rect, dtLeft);
+    windows.drawText(u"   ", rect, TextFormat::left);
     const Rect rule = inkOf(windows.image());
     EXPECT_LT(rule.Top, rule.Bottom);
     EXPECT_GT(rule.Right - rule.Left, rule.Bottom - rule.Top);
@@ -197,13 +202,13 @@ TEST_F(SurfaceText, EndsAtItsFirstZeroCharacterWhenItIsDrawn) {
     const auto painted = [&](StringView each) {
         windows.letBackColor(white);
         Rect rect{10, 2, 100, 50};
-        windows.drawText(each, rect, dtLeft);
+        windows.drawText(each, rect, TextFormat::left);
         windows.print(10, 30, each);
         return windows.image().pixels;
     };
     EXPECT_EQ(painted(text), painted(u"HH"));
     Rect whole{0, 0, 100, 100};
-    windows.drawText(text, whole, dtCalcRect);
+    windows.drawText(text, whole, TextFormat::calcRect);
     EXPECT_EQ(whole.Right, static_cast<Long>(windows.textWidth(u"HH")));
     EXPECT_GT(windows.textWidth(text), windows.textWidth(u"HHH"));
 }

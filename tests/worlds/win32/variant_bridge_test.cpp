@@ -89,7 +89,7 @@ TEST(FromVARIANT, TakesADecimalNumberWithAllItsDigits) {
     EXPECT_EQ(V_VT(&back.get()), VT_DECIMAL);
     EXPECT_EQ(std::memcmp(&back.get(), &value, sizeof(DECIMAL)), 0);
     number.scale = 29;
-    EXPECT_EQ(errorNumberOf([&] { fromVARIANT(value); }), typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { fromVARIANT(value); }), ErrorNumber::typeMismatch);
 }
 
 TEST(ToVARIANT, KeepsTheKindOfExactNumbers) {
@@ -141,7 +141,7 @@ TEST(FromVARIANT, TakesArraysRecordsAndErrorValuesAsWhatNothingConverts) {
     VariantClear(&value);
     EXPECT_EQ(fromVARIANT(numberVARIANT(VT_RECORD, 0)), Variant(Unsupported{}));
     EXPECT_EQ(fromVARIANT(numberVARIANT(VT_ERROR, E_FAIL)), Variant(Unsupported{}));
-    EXPECT_EQ(errorNumberOf([] { toVARIANT(Unsupported{}); }), typeMismatch);
+    EXPECT_EQ(errorNumberOf([] { toVARIANT(Unsupported{}); }), ErrorNumber::typeMismatch);
 }
 
 TEST(FromVARIANT, TakesNothingAsAnEmptyReference) {
@@ -199,7 +199,7 @@ TEST(FromVARIANT, RefusesReferencesThatLeadNowhere) {
         VariantInit(&reference);
         V_VT(&reference) = static_cast<VARTYPE>(VT_BYREF | type);
         V_BYREF(&reference) = nullptr;
-        EXPECT_EQ(errorNumberOf([&] { fromVARIANT(reference); }), typeMismatch) << type;
+        EXPECT_EQ(errorNumberOf([&] { fromVARIANT(reference); }), ErrorNumber::typeMismatch) << type;
     }
 }
 
@@ -212,7 +212,7 @@ TEST(FromVARIANT, FollowsReferencesToVariantsUnlessTheyGoInACircle) {
     }
     EXPECT_EQ(fromVARIANT(chain.back()), Variant(Long{5}));
     V_VARIANTREF(&chain[0]) = &chain.back();
-    EXPECT_EQ(errorNumberOf([&] { fromVARIANT(chain.back()); }), typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { fromVARIANT(chain.back()); }), ErrorNumber::typeMismatch);
 }
 
 } // namespace

@@ -87,7 +87,7 @@ TEST(Win32Locale, WritesDatesThatItReadsAgain) {
             EXPECT_EQ(locale.readDate(locale.textOf(Date{days})), Date{days}) << days;
         EXPECT_EQ(locale.readDate(locale.dateText(Date{36556.25})), Date{36556});
         EXPECT_EQ(locale.readDate(locale.timeText(Date{36556.25})), Date{0.25});
-        EXPECT_EQ(errorNumberOf([&] { locale.textOf(Date{3e6}); }), overflow);
+        EXPECT_EQ(errorNumberOf([&] { locale.textOf(Date{3e6}); }), ErrorNumber::overflow);
     }
     EXPECT_TRUE(Win32Locale(german).textOf(Date{45351}).starts_with(u"29."));
     EXPECT_TRUE(Win32Locale(american).textOf(Date{45351}).starts_with(u"2/29/"));

@@ -56,14 +56,16 @@ TEST_F(SystemRuntime, KnowsTheTimeOfTheDay) {
 
 TEST_F(SystemRuntime, KeepsTextsInFiles) {
     const String file = folder + u"a.txt";
-    EXPECT_EQ(errorNumberOf([&] { runtime.files().readFile(file); }), fileNotFound);
+    EXPECT_EQ(errorNumberOf([&] { runtime.files().readFile(file); }), ErrorNumber::fileNotFound);
     runtime.files().createFile(file);
     EXPECT_EQ(runtime.files().readFile(file), u"");
     runtime.files().appendToFile(file, u"one\r\n");
     runtime.files().appendToFile(file, u"Größe");
     EXPECT_EQ(runtime.files().readFile(file), u"one\r\nGröße");
-    EXPECT_EQ(errorNumberOf([&] { runtime.files().readFile(folder + u"none\\a.txt"); }), pathNotFound);
-    EXPECT_EQ(errorNumberOf([&] { runtime.files().createFile(folder + u"none\\a.txt"); }), pathNotFound);
+    EXPECT_EQ(errorNumberOf([&] { runtime.files().readFile(folder + u"none\\a.txt"); }),
+              ErrorNumber::pathNotFound);
+    EXPECT_EQ(errorNumberOf([&] { runtime.files().createFile(folder + u"none\\a.txt"); }),
+              ErrorNumber::pathNotFound);
 }
 
 TEST_F(SystemRuntime, AFileOfBytesStandsUnderItsNameOnceItIsClosed) {
@@ -73,7 +75,7 @@ TEST_F(SystemRuntime, AFileOfBytesStandsUnderItsNameOnceItIsClosed) {
         const auto dropped = runtime.files().openForBinaryWriting(file);
         dropped->write(bytes);
     }
-    EXPECT_EQ(errorNumberOf([&] { runtime.files().openForBinaryReading(file); }), fileNotFound);
+    EXPECT_EQ(errorNumberOf([&] { runtime.files().openForBinaryReading(file); }), ErrorNumber::fileNotFound);
     const auto written = runtime.files().openForBinaryWriting(file);
     written->write(bytes);
     written->close();
@@ -87,14 +89,15 @@ TEST_F(SystemRuntime, AFileOfBytesStandsUnderItsNameOnceItIsClosed) {
 
 TEST_F(SystemRuntime, DeletesPlainFilesAlone) {
     const String file = folder + u"b.bin";
-    EXPECT_EQ(errorNumberOf([&] { runtime.files().deleteFile(file); }), fileNotFound);
+    EXPECT_EQ(errorNumberOf([&] { runtime.files().deleteFile(file); }), ErrorNumber::fileNotFound);
     runtime.files().createFile(file);
     runtime.files().deleteFile(file);
-    EXPECT_EQ(errorNumberOf([&] { runtime.files().deleteFile(file); }), fileNotFound);
+    EXPECT_EQ(errorNumberOf([&] { runtime.files().deleteFile(file); }), ErrorNumber::fileNotFound);
     EXPECT_EQ(errorNumberOf([&] { runtime.files().deleteFile(folder.substr(0, folder.size() - 1)); }),
-              pathFileAccess);
-    EXPECT_EQ(errorNumberOf([&] { runtime.files().deleteFile(u"NUL"); }), pathFileAccess);
-    EXPECT_EQ(errorNumberOf([&] { runtime.files().deleteFile(folder + u"none\\b.bin"); }), pathNotFound);
+              ErrorNumber::pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { runtime.files().deleteFile(u"NUL"); }), ErrorNumber::pathFileAccess);
+    EXPECT_EQ(errorNumberOf([&] { runtime.files().deleteFile(folder + u"none\\b.bin"); }),
+              ErrorNumber::pathNotFound);
 }
 
 TEST_F(SystemRuntime, EachByteOfTheCodePageComesBack) {
@@ -140,8 +143,8 @@ TEST_F(SystemRuntime, MakesObjectsByTheirProgramIdentifier) {
     ASSERT_TRUE(SUCCEEDED(CoInitialize(nullptr)));
     EXPECT_NE(runtime.createObject(u"Scripting.Dictionary"), nullptr);
     EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"LumtexErrorHandler.NoSuchThing"); }),
-              cannotCreateObject);
-    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u""); }), cannotCreateObject);
+              ErrorNumber::cannotCreateObject);
+    EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u""); }), ErrorNumber::cannotCreateObject);
     CoUninitialize();
 }
 

@@ -112,8 +112,8 @@ TEST_F(Win32Windows, ANegativeSizeCountsAsNone) {
 
 TEST_F(Win32Windows, AHugeOrMeaninglessPlaceChangesNothing) {
     take();
-    EXPECT_EQ(errorNumberOf([&] { inner->place(0, 0, 1e6F, 1e6F); }), outOfMemory);
-    EXPECT_EQ(errorNumberOf([&] { inner->place(1e20F, 0, 10, 10); }), overflow);
+    EXPECT_EQ(errorNumberOf([&] { inner->place(0, 0, 1e6F, 1e6F); }), ErrorNumber::outOfMemory);
+    EXPECT_EQ(errorNumberOf([&] { inner->place(1e20F, 0, 10, 10); }), ErrorNumber::overflow);
     EXPECT_EQ(inner->Width(), 50);
     EXPECT_EQ(take(), Lines{});
 }
@@ -353,7 +353,7 @@ TEST_F(Win32Windows, LeaveNoHandlesBehind) {
         NotedBox client;
         const std::unique_ptr<Window> window = world.createWindow(outer.get(), control);
         window->setMouseIcon(std::make_shared<BitmapPicture>(Bitmap(16, 16, 0xFF0000FFU)));
-        window->letMousePointer(pointerCustom);
+        window->letMousePointer(CursorShape::custom);
         const std::unique_ptr<TextBox> box = world.createTextBox(*window, client);
         box->setFont({.Name = u"Tahoma", .Size = 9});
         window->place(0, 0, 40, 30);
