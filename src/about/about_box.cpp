@@ -1,6 +1,6 @@
 #include "about/about_box.h"
 
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "values/color.h"
 #include "values/date_text.h"
 #include "values/rounding.h"

@@ -3,7 +3,7 @@
 
 #include "activex/argument_bridge.h"
 #include "activex/com_guard.h"
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "values/text.h"
 #include "values/variant_conversion.h"
 #include "worlds/win32/variant_bridge.h"

@@ -1,6 +1,5 @@
 /// The functions that early-bound callers reach.
-#include "automation/dual_entries.h"
-
+#include "automation/generated_files.h"
 #include "automation/interface_types.h"
 #include "values/text.h"
 

@@ -1,11 +1,6 @@
 /// The generated files by name.
 #include "automation/generated_files.h"
 
-#include "automation/dual_entries.h"
-#include "automation/host_header.h"
-#include "automation/side_by_side.h"
-#include "automation/type_library.h"
-
 namespace lumtex {
 
 std::vector<GeneratedFile> generatedFiles() {

@@ -1,9 +1,8 @@
 /// The header that early-bound hosts include.
-#include "automation/host_header.h"
-
 #include "automation/class_table.h"
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
+#include "automation/generated_files.h"
 #include "automation/identifiers.h"
 #include "automation/interface_types.h"
 #include "automation/record_table.h"

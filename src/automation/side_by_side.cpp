@@ -1,7 +1,6 @@
 /// The manifest's text.
-#include "automation/side_by_side.h"
-
 #include "automation/class_table.h"
+#include "automation/generated_files.h"
 #include "automation/identifiers.h"
 #include "values/text.h"
 

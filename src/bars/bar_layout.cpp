@@ -1,7 +1,7 @@
 /// Where the parts of a bar lie, and how its trough is painted.
 #include "bars/scroll_bar.h"
 #include "drawing/gradient.h"
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "records/enumerations.h"
 #include "values/rounding.h"
 

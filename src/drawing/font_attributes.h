@@ -1,5 +1,6 @@
 /// \file
-/// Reading the attributes of a default font of the list.
+/// Default fonts of the list: taken over as copies, so that a host's later changes do not reach the control,
+/// and read attribute by attribute.
 #pragma once
 
 #include "guards/held.h"
@@ -26,6 +27,11 @@ void readFontAttributes(const Held<FontRef>& font, Statement statement, Take tak
         if (taken)
             return;
     }
+}
+
+/// Null for null, otherwise a new object with the font's attributes.
+inline FontRef CloneFont(const FontRef& font) {
+    return font ? font->Clone() : nullptr;
 }
 
 } // namespace lumtex

@@ -1,6 +1,6 @@
 #include "drawing/gradient.h"
 
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "values/rounding.h"
 
 #include <algorithm>

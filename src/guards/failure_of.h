@@ -1,11 +1,12 @@
 /// \file
-/// Catching what a statement threw, as a run-time error with its number.
+/// Catching what a statement threw: as a run-time error with its number, or to ignore it.
 #pragma once
 
 #include "values/runtime_error.h"
 
 #include <exception>
 #include <optional>
+#include <utility>
 
 namespace lumtex {
 
@@ -27,6 +28,12 @@ std::optional<RuntimeError> failureOf(Body&& body) {
     } catch (const std::exception& caught) {
         return failureFrom(caught);
     }
+}
+
+/// Runs `body` up to its first failure, which is not reported. Returns whether it ran through.
+template <class Body>
+bool ignoringErrors(Body&& body) {
+    return !failureOf(std::forward<Body>(body)).has_value();
 }
 
 } // namespace lumtex

@@ -1,6 +1,6 @@
 #include "helpers/sp_ev.h"
 
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "helpers/file_exists.h"
 #include "helpers/text_file.h"
 #include "values/runtime_error.h"

@@ -1,5 +1,5 @@
 /// The values of a new instance.
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "model/list_view.h"
 #include "persistence/property_values.h"
 #include "render/painting.h"

@@ -1,5 +1,5 @@
 /// Reading and writing one field of one cell.
-#include "model/item_access.h"
+#include "model/list_view_records.h"
 #include "values/runtime_error.h"
 
 namespace lumtex {

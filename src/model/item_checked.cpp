@@ -1,5 +1,5 @@
 /// Check marks of cells, and the counts that go with them.
-#include "model/item_access.h"
+#include "model/list_view_records.h"
 
 namespace lumtex {
 

@@ -1,7 +1,7 @@
 /// Controls of the host that live in cells.
-#include "guards/ignoring_errors.h"
-#include "model/item_access.h"
+#include "guards/failure_of.h"
 #include "model/list_view.h"
+#include "model/list_view_records.h"
 #include "platform/window_handle.h"
 #include "values/runtime_error.h"
 

@@ -66,7 +66,6 @@ class lmListView final : public ListViewRecords, public UserControl {
     /// columns takes no rows.
     void
     RowsAdd(Variant& aIndex, StringView aSplit = u",", std::optional<StringView> aItemTexts = std::nullopt);
-    /// The same for a caller who does not want to know the place.
     void RowsAdd(Variant&& aIndex = Long{-1},
                  StringView aSplit = u",",
                  std::optional<StringView> aItemTexts = std::nullopt) {
@@ -80,7 +79,6 @@ class lmListView final : public ListViewRecords, public UserControl {
     /// Removes one row; what the control keeps as the place is written back. A place out of range removes
     /// nothing and is not reported. Yields to the host after each row that moves up.
     void RowsRemove(Variant& Index);
-    /// The same for a caller whose place is a value.
     void RowsRemove(Variant&& Index) { RowsRemove(Index); }
     /// Removes all selected rows, painting once at the end.
     void RowsSelectedRemove();
@@ -171,7 +169,7 @@ class lmListView final : public ListViewRecords, public UserControl {
     Long TopIndex() const;
     void letTopIndex(Long topIndex);
 
-    // Rows
+    // Rows and cells
 
     bool RowSelected(const Variant& Index);
     void letRowSelected(const Variant& Index, bool selected);
@@ -181,9 +179,6 @@ class lmListView final : public ListViewRecords, public UserControl {
     /// The same counted from 1, with 0 for none. Assigning also scrolls the row into view.
     Long RowIndex();
     void letRowIndex(Long index);
-
-    // Cells
-
     /// A control of the host that is shown over the cell. One with a window becomes a child of this control.
     ObjectRef ItemObject(const Variant& Row, const Variant& Column);
     void setItemObject(const Variant& Row, const Variant& Column, ObjectRef object);
@@ -228,8 +223,6 @@ class lmListView final : public ListViewRecords, public UserControl {
   private:
     friend class ListViewInspector; ///< how tests look inside
 
-    // Lifecycle
-
     void takeContainersFont();
     void recogniseProgram();
     template <class Row>
@@ -241,9 +234,6 @@ class lmListView final : public ListViewRecords, public UserControl {
     bool holdsAnything() const;
     void dropContent();
     static void destroy(void* list);
-
-    // Records
-
     StyleHandle emptyItemStyle();
     void freshenItemStyle(std::optional<StyleLease>& style);
     void appendCell(Items& items, StringView text, StyleHandle style);

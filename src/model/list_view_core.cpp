@@ -1,6 +1,6 @@
 #include "model/list_view_core.h"
 
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "interaction/cell_editor.h"
 #include "interaction/header_gesture.h"
 #include "interaction/mouse.h"

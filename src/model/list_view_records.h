@@ -273,4 +273,17 @@ class ListViewRecords : public ListViewProperties {
     void itemLet(StringView name, const Variant& Row, const Variant& Column, Write write);
 };
 
+template <class T, class Read>
+T ListViewRecords::itemGet(StringView name, const Variant& Row, const Variant& Column, Read read) {
+    Procedure p = procedure(name);
+    return p.value<T>([&]() -> T { return read(records.cellAt(Row, Column)); });
+}
+
+template <class Write>
+void ListViewRecords::itemLet(StringView name, const Variant& Row, const Variant& Column, Write write) {
+    Procedure p = procedure(name);
+    p.step([&] { write(records.cellAt(Row, Column)); });
+    CheckForRedraw();
+}
+
 } // namespace lumtex

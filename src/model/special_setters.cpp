@@ -1,5 +1,5 @@
 /// The setters with more to them than the property table can say.
-#include "drawing/clone_font.h"
+#include "drawing/font_attributes.h"
 #include "model/list_view_properties.h"
 #include "render/painting.h"
 #include "scroll/scroller.h"

@@ -1,6 +1,6 @@
 #include "ordering/find_matcher.h"
 
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "ordering/like_comp.h"
 
 namespace lumtex {

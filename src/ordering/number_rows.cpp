@@ -1,6 +1,6 @@
 #include "ordering/number_rows.h"
 
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "ordering/sort_keys.h"
 #include "values/locale.h"
 

@@ -1,5 +1,5 @@
 /// Fitting columns to their texts.
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "model/list_view.h"
 #include "render/painting.h"
 

@@ -1,6 +1,6 @@
 /// The frame, and the selection colour that goes with it.
 #include "drawing/palette.h"
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "render/painting.h"
 
 namespace lumtex {

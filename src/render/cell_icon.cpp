@@ -2,7 +2,6 @@
 #include "drawing/picture_size.h"
 #include "model/list_view.h"
 #include "render/paint_pass.h"
-#include "render/paint_pass_statement.h"
 #include "render/painting.h"
 #include "values/rounding.h"
 

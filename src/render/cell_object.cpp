@@ -1,7 +1,6 @@
 /// A control of the host, shown over its cell in place of text and icon.
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "render/paint_pass.h"
-#include "render/paint_pass_statement.h"
 #include "values/rounding.h"
 
 #include <array>

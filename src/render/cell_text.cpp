@@ -1,6 +1,5 @@
 /// The text of a cell.
 #include "render/paint_pass.h"
-#include "render/paint_pass_statement.h"
 #include "values/rounding.h"
 
 namespace lumtex {

@@ -1,7 +1,6 @@
 /// One cell of the list: its height, its background, and the order of all that stands in it.
 #include "interaction/cell_editor.h"
 #include "render/paint_pass.h"
-#include "render/paint_pass_statement.h"
 #include "render/painting.h"
 #include "values/rounding.h"
 

@@ -3,8 +3,6 @@
 
 #include "drawing/picture_size.h"
 #include "guards/failure_of.h"
-#include "guards/ignoring_errors.h"
-#include "render/paint_pass_statement.h"
 #include "render/painting.h"
 #include "scroll/scroller.h"
 

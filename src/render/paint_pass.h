@@ -3,9 +3,10 @@
 #pragma once
 
 #include "drawing/strokes.h"
+#include "guards/error.h"
 #include "interaction/header_gesture.h"
 #include "model/list_view_core.h"
-#include "render/paint_state.h"
+#include "render/painting.h"
 
 namespace lumtex {
 
@@ -123,5 +124,13 @@ class PaintPass : private PaintPassValues {
     void cellIconPicture();
     TextFormat placeText();
 };
+
+template <class Statement>
+void PaintPass::statement(Statement body) {
+    const bool silent = silentError();
+    const bool succeeded = procedure.step(body);
+    if (!succeeded && !silent)
+        throw PassEnds{};
+}
 
 } // namespace lumtex

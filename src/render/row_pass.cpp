@@ -1,9 +1,8 @@
 /// The rows: how tall each is, where it lies, and its grid lines.
 #include "drawing/font_attributes.h"
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "interaction/row_drag.h"
 #include "render/paint_pass.h"
-#include "render/paint_pass_statement.h"
 #include "render/painting.h"
 #include "scroll/scroller.h"
 #include "values/rounding.h"

@@ -1,7 +1,7 @@
 #include "sortfind/sorter.h"
 
 #include "guards/error.h"
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "model/list_view.h"
 #include "ordering/quick_sort.h"
 #include "ordering/sort_at_once.h"

@@ -1,6 +1,6 @@
 #include "tips/tool_tip.h"
 
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "platform/window_handle.h"
 #include "values/runtime_error.h"
 #include "values/variant.h"

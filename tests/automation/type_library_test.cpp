@@ -6,7 +6,6 @@
 #include "automation/identifiers.h"
 #include "automation/interface_types.h"
 #include "automation/record_table.h"
-#include "automation/type_library.h"
 #include "folders.h"
 #include "values/text.h"
 

@@ -1,5 +1,5 @@
 #include "guards/error.h"
-#include "guards/ignoring_errors.h"
+#include "guards/failure_of.h"
 #include "guards/procedure.h"
 #include "support/fake_runtime.h"
 #include "support/report_catcher.h"

@@ -1,5 +1,5 @@
-#include "drawing/clone_font.h"
 #include "drawing/draw_arrow.h"
+#include "drawing/font_attributes.h"
 #include "drawing/gradient.h"
 #include "drawing/picture_size.h"
 #include "painted_list.h"
