@@ -18,7 +18,7 @@ const std::vector<String>& rowsOf(std::int64_t count);
 
 /// A list with five columns, as large as the screen of the painting benchmarks.
 struct ListOnDesktop {
-    Desktop desktop;
+    headless::Desktop desktop;
     Host host;
     lmListViewEvents events;
     lmListView list{desktop, host, events};

@@ -101,7 +101,7 @@ void importInto(benchmark::State& state, bool byName) {
         state.PauseTiming();
         auto fixture = std::make_unique<ListOnDesktop>();
         state.ResumeTiming();
-        ObjectRef recordset = openRecordset(path, query);
+        ObjectRef recordset = database::openRecordset(path, query);
         if (byName)
             recordset = std::make_shared<ByNameAlone>(recordset);
         fixture->list.setRecordset(recordset);
@@ -151,7 +151,7 @@ void fetchIntoVectors(benchmark::State& state) {
 
 /// What of both is the database's own: stepping through the records without a look at them.
 void stepThrough(benchmark::State& state) {
-    const ObjectRef recordset = openRecordset(fileOf(state.range(0)).path(), query);
+    const ObjectRef recordset = database::openRecordset(fileOf(state.range(0)).path(), query);
     auto& records = dynamic_cast<RecordSource&>(*recordset);
     for (auto _ : state) {
         recordset->call(u"MoveFirst");

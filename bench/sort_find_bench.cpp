@@ -38,7 +38,7 @@ std::vector<String> makeTexts(Content content, std::int64_t count) {
 }
 
 struct ListOnDesktop {
-    Desktop desktop;
+    headless::Desktop desktop;
     Host host;
     lmListViewEvents events;
     lmListView list{desktop, host, events};

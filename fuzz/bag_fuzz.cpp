@@ -36,7 +36,7 @@ bool sameEntry(const MemoryPropertyBag::Entry& a, const MemoryPropertyBag::Entry
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-    static Desktop desktop;
+    static headless::Desktop desktop;
     static Host host;
     static lmListViewEvents events;
     Error().letSilentError(true);

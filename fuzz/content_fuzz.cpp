@@ -24,7 +24,7 @@ constexpr std::int64_t mostCells = 4000;
 constexpr Long mostColumns = 3;
 
 struct Target {
-    Desktop desktop;
+    headless::Desktop desktop;
     Host host;
     lmListViewEvents events;
     lmListView list{desktop, host, events};
@@ -57,8 +57,8 @@ bool asksForTooMuch(std::string_view bytes) {
     std::string whole(bytes.substr(0, headerSize));
     whole.resize(headerSize); // what is missing reads as zeros
     const auto* const header = reinterpret_cast<const Byte*>(whole.data());
-    const std::int64_t rows = loadNumber<Long>(header + 2);
-    return rows * std::max(loadNumber<Long>(header + 6), mostColumns) > mostCells;
+    const std::int64_t rows = content::loadNumber<Long>(header + 2);
+    return rows * std::max(content::loadNumber<Long>(header + 6), mostColumns) > mostCells;
 }
 
 } // namespace

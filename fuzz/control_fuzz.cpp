@@ -28,9 +28,9 @@ bool isOffLimits(StringView name) {
 }
 
 /// Members that take objects of a host, and that drop them.
-const std::vector<const Member*>& favourites() {
-    static const std::vector<const Member*> all = [] {
-        std::vector<const Member*> found;
+const std::vector<const automation::Member*>& favourites() {
+    static const std::vector<const automation::Member*> all = [] {
+        std::vector<const automation::Member*> found;
         for (const char16_t* name : {u"ItemTag",
                                      u"ItemObject",
                                      u"ItemIcon",
@@ -49,7 +49,7 @@ const std::vector<const Member*>& favourites() {
                                      u"Sort",
                                      u"SetEdit",
                                      u"ListIndex"}) {
-            if (const Member* member = findMember(listViewClass(), name))
+            if (const automation::Member* member = automation::findMember(automation::listViewClass(), name))
                 found.push_back(member);
         }
         return found;
@@ -161,23 +161,23 @@ class HostProgram {
             list_->RowsClear();
     }
 
-    Variant argument(TypeCode type) {
+    Variant argument(automation::TypeCode type) {
         switch (type) {
-        case TypeCode::object:
+        case automation::TypeCode::object:
             return input_.below(4) == 0 ? ObjectRef{} : ObjectRef(std::make_shared<Releasing>(*this));
-        case TypeCode::font:
+        case automation::TypeCode::font:
             return FontRef(std::make_shared<ReleasingFont>(*this, FontSpec{u"Tahoma", 8}));
-        case TypeCode::picture:
+        case automation::TypeCode::picture:
             return input_.flag() ? PictureRef{} : input_.picture();
-        case TypeCode::variant:
-        case TypeCode::variantList:
+        case automation::TypeCode::variant:
+        case automation::TypeCode::variantList:
             return input_.below(3) == 0 ? Variant(ObjectRef(std::make_shared<Releasing>(*this)))
                                         : input_.value();
-        case TypeCode::string:
+        case automation::TypeCode::string:
             return input_.text();
-        case TypeCode::boolean:
+        case automation::TypeCode::boolean:
             return input_.flag();
-        case TypeCode::longInteger:
+        case automation::TypeCode::longInteger:
             return input_.below(4) == 0 ? input_.number() : static_cast<Long>(1 + input_.below(3));
         default:
             return input_.number();
@@ -185,15 +185,16 @@ class HostProgram {
     }
 
     void callMember() {
-        const std::span<const Member> members = listViewClass().members;
-        const Member& member = input_.flag() ? *favourites()[input_.byte() % favourites().size()]
-                                             : members[input_.raw<std::uint16_t>() % members.size()];
+        const std::span<const automation::Member> members = automation::listViewClass().members;
+        const automation::Member& member = input_.flag()
+                                               ? *favourites()[input_.byte() % favourites().size()]
+                                               : members[input_.raw<std::uint16_t>() % members.size()];
         if (isOffLimits(member.name))
             return;
         std::vector<Variant> arguments;
-        for (const Parameter& parameter : member.parameters())
+        for (const automation::Parameter& parameter : member.parameters())
             arguments.push_back(argument(parameter.type.code));
-        CallByName list(*list_);
+        automation::CallByName list(*list_);
         if (member.isMethod())
             list.call(member, arguments);
         else if (member.let == nullptr || (member.get != nullptr && input_.below(4) == 0))
@@ -237,7 +238,7 @@ class HostProgram {
     int steps_ = 0;
     int nesting_ = 0;
     int asked_ = 0;
-    Desktop desktop_;
+    headless::Desktop desktop_;
     Host host_;
     testing::RecordingEvents events_;
     std::unique_ptr<lmListView> list_{new lmListView(desktop_, host_, events_)}; ///< null once ended

@@ -9,11 +9,11 @@
 using namespace lumtex;
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-    static Desktop desktop;
+    static headless::Desktop desktop;
     static Host host;
     static lmListViewEvents events;
     Error().letSilentError(true);
-    JsonPropertyBag bag(desktop.runtime());
+    json::JsonPropertyBag bag(desktop.runtime());
     try {
         bag.parse({reinterpret_cast<const char*>(data), size});
     } catch (const RuntimeError& error) {
@@ -26,13 +26,13 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     list.window().place(0, 0, 4, 4);
     list.UserControl_ReadProperties(bag);
     const std::string once = bag.text();
-    JsonPropertyBag again(desktop.runtime());
+    json::JsonPropertyBag again(desktop.runtime());
     again.parse(once);
     list.UserControl_ReadProperties(again);
     fuzz::require(again.text() == once);
-    JsonPropertyBag written(desktop.runtime());
+    json::JsonPropertyBag written(desktop.runtime());
     list.UserControl_WriteProperties(written);
-    JsonPropertyBag back(desktop.runtime());
+    json::JsonPropertyBag back(desktop.runtime());
     back.parse(written.text());
     return 0;
 }

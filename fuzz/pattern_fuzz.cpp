@@ -13,9 +13,9 @@ namespace {
 using namespace lumtex;
 using fuzz::require;
 
-void tryPattern(StringView text, StringView pattern, LikePattern::Letters letters) {
+void tryPattern(StringView text, StringView pattern, ordering::LikePattern::Letters letters) {
     try {
-        const LikePattern ready(pattern, letters);
+        const ordering::LikePattern ready(pattern, letters);
         const std::vector<unsigned char> bytes(text.begin(), text.end());
         require(ready.matches(text) == ready.matches(std::span<const unsigned char>(bytes)));
     } catch (const RuntimeError& error) {
@@ -25,7 +25,7 @@ void tryPattern(StringView text, StringView pattern, LikePattern::Letters letter
 
 void tryNotation(StringView spec) {
     constexpr Long limit = 50;
-    const FindNotation notation = readFindNotation(spec, limit);
+    const ordering::FindNotation notation = ordering::readFindNotation(spec, limit);
     const std::size_t shown = std::min<std::size_t>(notation.numbers.size(), 100);
     for (std::size_t i = 0; i < shown; ++i) {
         try {
@@ -46,8 +46,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     const std::size_t cut = data[0] % size;
     const StringView pattern = StringView(units).substr(0, cut);
     const StringView text = StringView(units).substr(cut);
-    tryPattern(text, pattern, LikePattern::byUnit);
-    tryPattern(text, pattern, LikePattern::folded);
+    tryPattern(text, pattern, ordering::LikePattern::byUnit);
+    tryPattern(text, pattern, ordering::LikePattern::folded);
     tryNotation(units);
     return 0;
 }

@@ -12,13 +12,13 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     // What needs no free pixels needs none of them.
     fuzz::require(!sound || isSoundImage(image, freeSettingsPixels));
     try {
-        const PictureRef picture = pictureOfImage(image);
+        const PictureRef picture = pictures::pictureOfImage(image);
         fuzz::require(sound);
         const Bitmap& bitmap = picture->bitmap();
         fuzz::require(bitmap.pixels.size() <= size * mostPixelsToAByte);
         const std::vector<Byte> stored = imageOfPicture(*picture);
         fuzz::require(isSoundImage(stored));
-        fuzz::require(pictureOfImage(stored)->bitmap() == bitmap);
+        fuzz::require(pictures::pictureOfImage(stored)->bitmap() == bitmap);
     } catch (const RuntimeError& error) {
         fuzz::require(error.number() == ErrorNumber::invalidPicture);
     }

@@ -10,7 +10,8 @@ using namespace lumtex;
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     static const std::shared_ptr<raster::FontLibrary> fonts = raster::FontLibrary::ofSystem();
     fuzz::Input input(data, size);
-    RasterSurface surface(static_cast<Long>(input.below(64)), static_cast<Long>(input.below(64)), fonts);
+    raster::RasterSurface surface(
+        static_cast<Long>(input.below(64)), static_cast<Long>(input.below(64)), fonts);
     while (!input.atEnd()) {
         if (input.flag())
             surface.setFont(input.font());

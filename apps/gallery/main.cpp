@@ -59,7 +59,7 @@ void load(const Subject& subject, lmListView& list) {
 }
 
 int show(const Subject& subject) {
-    Desktop desktop;
+    headless::Desktop desktop;
     Host host;
     lmListViewEvents events;
     lmListView list(desktop, host, events);
@@ -70,9 +70,9 @@ int show(const Subject& subject) {
     std::filesystem::create_directories(folder);
     const std::vector<Scene> scenes = renderScenes(desktop, list);
     for (const Scene& scene : scenes)
-        savePng(scene.picture, folder / (scene.name + ".png"));
-    savePng(contactSheet(desktop, scenes), folder / "contact-sheet.png");
-    for (const HeadlessRuntime::Box& box : desktop.runtime().boxes)
+        pictures::savePng(scene.picture, folder / (scene.name + ".png"));
+    pictures::savePng(contactSheet(desktop, scenes), folder / "contact-sheet.png");
+    for (const headless::HeadlessRuntime::Box& box : desktop.runtime().boxes)
         std::fprintf(stderr, "%s\n", toUtf8(box.text).c_str());
     std::printf("%zu pictures and contact-sheet.png are in %s\n",
                 scenes.size(),

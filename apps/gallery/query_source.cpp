@@ -80,7 +80,7 @@ class Silence {
 
 ObjectRef openedQuery(const std::string& database, const std::string& sql) {
     try {
-        return openRecordset(database, sql);
+        return database::openRecordset(database, sql);
     } catch (const RuntimeError& failure) {
         // An address may hold a password.
         const bool isAddress = database.find("://") != std::string::npos;

@@ -107,7 +107,7 @@ void dress(lmListView& list, cColorStyle style) {
 
 } // namespace
 
-std::vector<Scene> renderScenes(Desktop& desktop, lmListView& list) {
+std::vector<Scene> renderScenes(headless::Desktop& desktop, lmListView& list) {
     std::vector<Scene> scenes;
     list.letAutoRedraw(false);
     list.window().place(0, 0, sceneWidth, sceneHeight);
@@ -124,7 +124,7 @@ std::vector<Scene> renderScenes(Desktop& desktop, lmListView& list) {
     return scenes;
 }
 
-Bitmap contactSheet(Desktop& desktop, const std::vector<Scene>& scenes) {
+Bitmap contactSheet(headless::Desktop& desktop, const std::vector<Scene>& scenes) {
     constexpr Single margin = 12;
     constexpr Single caption = 22;
     const auto columns = static_cast<Single>(looks().size());

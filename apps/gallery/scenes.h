@@ -17,9 +17,9 @@ struct Scene {
 
 /// Every style with every look: plain, grid lines, selection, disabled cells, mixed fonts, both bars; style
 /// by style. The list is left in the last of them.
-std::vector<Scene> renderScenes(Desktop& desktop, lmListView& list);
+std::vector<Scene> renderScenes(headless::Desktop& desktop, lmListView& list);
 
 /// All scenes side by side at half their size, one row a style, with their names.
-Bitmap contactSheet(Desktop& desktop, const std::vector<Scene>& scenes);
+Bitmap contactSheet(headless::Desktop& desktop, const std::vector<Scene>& scenes);
 
 } // namespace lumtex::gallery

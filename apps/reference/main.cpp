@@ -21,7 +21,7 @@ void writeReference(const std::filesystem::path& folder) {
     for (const auto& entry : std::filesystem::directory_iterator(folder))
         if (entry.path().extension() == ".md")
             std::filesystem::remove(entry.path());
-    for (const lumtex::ReferencePage& page : lumtex::referencePages())
+    for (const lumtex::automation::ReferencePage& page : lumtex::automation::referencePages())
         write(folder / page.fileName, page.text);
 }
 
@@ -35,7 +35,7 @@ int main(int count, char** arguments) {
     const std::filesystem::path tree = arguments[1];
     try {
         writeReference(tree / "docs" / "reference");
-        for (const lumtex::GeneratedFile& file : lumtex::generatedFiles())
+        for (const lumtex::automation::GeneratedFile& file : lumtex::automation::generatedFiles())
             write(tree / file.path, file.text);
     } catch (const std::exception& failure) {
         std::cerr << tree.string() << ": " << failure.what() << '\n';

@@ -9,7 +9,7 @@
 #include <tuple>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::about {
 
 namespace {
 
@@ -252,4 +252,4 @@ AboutArtwork AboutArtwork::standard() {
     return artwork;
 }
 
-} // namespace lumtex
+} // namespace lumtex::about

@@ -4,7 +4,7 @@
 
 #include "values/references/picture.h"
 
-namespace lumtex {
+namespace lumtex::about {
 
 /// Drawn once from shapes, so that they are the same in every world, whatever fonts it has.
 struct AboutArtwork {
@@ -16,4 +16,4 @@ struct AboutArtwork {
     static AboutArtwork standard();
 };
 
-} // namespace lumtex
+} // namespace lumtex::about

@@ -6,7 +6,7 @@
 #include "values/rounding.h"
 #include "values/version.h"
 
-namespace lumtex {
+namespace lumtex::about {
 
 namespace {
 
@@ -253,4 +253,4 @@ void LumtexAbout::openLink() {
                             .maximised = false});
 }
 
-} // namespace lumtex
+} // namespace lumtex::about

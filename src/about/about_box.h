@@ -9,7 +9,7 @@
 #include <array>
 #include <memory>
 
-namespace lumtex {
+namespace lumtex::about {
 
 /// A form without a frame in the middle of the screen. A click on it closes it; the link and the help button
 /// open what they name; F1 is the help button.
@@ -64,4 +64,4 @@ class LumtexAbout final : public UserControl {
     std::array<Rect, controlCount> places_{};
 };
 
-} // namespace lumtex
+} // namespace lumtex::about

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace lumtex {
+namespace lumtex::about {
 
 namespace {
 
@@ -145,4 +145,4 @@ void drawStrokes(Bitmap& picture,
               });
 }
 
-} // namespace lumtex
+} // namespace lumtex::about

@@ -6,7 +6,7 @@
 
 #include <span>
 
-namespace lumtex {
+namespace lumtex::about {
 
 /// Red, green and blue from 0 to 255.
 struct Shade {
@@ -61,4 +61,4 @@ void drawStrokes(Bitmap& picture,
                  const Shade& shade,
                  float opacity = 1);
 
-} // namespace lumtex
+} // namespace lumtex::about

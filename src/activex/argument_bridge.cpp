@@ -2,7 +2,7 @@
 
 #include "worlds/win32/variant_bridge.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 Variant argumentFrom(const VARIANT& value) {
     const VARIANT& last = endOfReferences(value);
@@ -11,4 +11,4 @@ Variant argumentFrom(const VARIANT& value) {
     return fromVARIANT(last);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -7,7 +7,7 @@
 
 #include <exception>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A null pointer in place of a value.
 class NullArgument : public std::exception {};
@@ -15,4 +15,4 @@ class NullArgument : public std::exception {};
 /// As `fromVARIANT`; throws NullArgument if `value` points to nothing.
 Variant argumentFrom(const VARIANT& value);
 
-} // namespace lumtex
+} // namespace lumtex::win32

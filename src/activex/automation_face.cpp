@@ -4,7 +4,7 @@
 #include "activex/dispatch_call.h"
 #include "activex/module.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 HRESULT AutomationFace::GetTypeInfoCount(UINT* count) {
     if (count == nullptr)
@@ -49,8 +49,8 @@ HRESULT AutomationFace::Invoke(DISPID number,
     return invokeMember(target_, {number, kind, locale, parameters, result, details, wrongArgument});
 }
 
-const Member& AutomationFace::memberOf(Long number) const {
-    const Member* const member = findMember(target_.description(), number);
+const automation::Member& AutomationFace::memberOf(Long number) const {
+    const automation::Member* const member = automation::findMember(target_.description(), number);
     if (member == nullptr)
         throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
     return *member;
@@ -61,4 +61,4 @@ HRESULT AutomationFace::told(const RuntimeError& error) const noexcept {
     return automationResult(error);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

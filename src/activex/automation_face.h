@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A derived class includes its generated entries and adds no other virtual function: its table of functions
 /// is the one in the type library.
@@ -39,7 +39,7 @@ class AutomationFace : public Face<IDispatch> {
     HRESULT getBy(Long number, Result* result, Arguments... arguments) noexcept {
         return giving(
             result,
-            [&](CallByName& byName, std::vector<Variant>& values) {
+            [&](automation::CallByName& byName, std::vector<Variant>& values) {
                 return byName.get(memberOf(number), values);
             },
             arguments...);
@@ -48,7 +48,7 @@ class AutomationFace : public Face<IDispatch> {
     HRESULT callBy(Long number, Result* result, Arguments... arguments) noexcept {
         return giving(
             result,
-            [&](CallByName& byName, std::vector<Variant>& values) {
+            [&](automation::CallByName& byName, std::vector<Variant>& values) {
                 return byName.call(memberOf(number), values);
             },
             arguments...);
@@ -56,7 +56,7 @@ class AutomationFace : public Face<IDispatch> {
     template <class... Arguments>
     HRESULT callBy(Long number, NoResult /*none*/, Arguments... arguments) noexcept {
         return entered([&] {
-            passing([&](CallByName& byName,
+            passing([&](automation::CallByName& byName,
                         std::vector<Variant>& values) { return byName.call(memberOf(number), values); },
                     arguments...);
         });
@@ -64,17 +64,19 @@ class AutomationFace : public Face<IDispatch> {
     /// The assigned value comes last.
     template <class... Arguments>
     HRESULT letBy(Long number, Arguments... arguments) noexcept {
-        return assigning(&CallByName::let, number, arguments...);
+        return assigning(&automation::CallByName::let, number, arguments...);
     }
     template <class... Arguments>
     HRESULT setBy(Long number, Arguments... arguments) noexcept {
-        return assigning(&CallByName::set, number, arguments...);
+        return assigning(&automation::CallByName::set, number, arguments...);
     }
 
   private:
-    using Assign = void (CallByName::*)(const Member&, std::span<Variant>, const Variant&);
+    using Assign = void (automation::CallByName::*)(const automation::Member&,
+                                                    std::span<Variant>,
+                                                    const Variant&);
 
-    const Member& memberOf(Long number) const;
+    const automation::Member& memberOf(Long number) const;
     HRESULT told(const RuntimeError& error) const noexcept;
 
     template <class Body>
@@ -100,7 +102,7 @@ class AutomationFace : public Face<IDispatch> {
         std::vector<Variant> values;
         values.reserve(sizeof...(Arguments));
         (appendArgument(values, arguments), ...);
-        CallByName byName = target_.byName();
+        automation::CallByName byName = target_.byName();
         Variant value = call(byName, values);
         // A list of any length comes last and is never written back.
         values.resize(std::max(values.size(), sizeof...(Arguments)));
@@ -124,7 +126,7 @@ class AutomationFace : public Face<IDispatch> {
             (appendArgument(values, arguments), ...);
             const Variant value = std::move(values.back());
             values.pop_back();
-            CallByName byName = target_.byName();
+            automation::CallByName byName = target_.byName();
             (byName.*assign)(memberOf(number), values, value);
         });
     }
@@ -133,4 +135,4 @@ class AutomationFace : public Face<IDispatch> {
     GUID interfaceId_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "automation/call_by_name.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// An object of a public class on its own thread.
 class AutomationTarget {
@@ -15,9 +15,9 @@ class AutomationTarget {
     AutomationTarget& operator=(const AutomationTarget&) = delete;
     virtual ~AutomationTarget() = default;
 
-    virtual const ClassDescription& description() const = 0;
+    virtual const automation::ClassDescription& description() const = 0;
     /// The object, ready for calls.
-    virtual CallByName byName() = 0;
+    virtual automation::CallByName byName() = 0;
 
     /// Calls from any other thread are refused: hosts hand such calls over by the rules of apartments.
     bool onOwnThread() const { return GetCurrentThreadId() == thread_; }
@@ -26,4 +26,4 @@ class AutomationTarget {
     DWORD thread_ = GetCurrentThreadId();
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

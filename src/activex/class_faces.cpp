@@ -7,7 +7,7 @@
 #include "activex/module.h"
 #include "activex/snapshot_enum.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -99,4 +99,4 @@ HRESULT QuickFace::GetContentExtent(LPSIZEL extent) {
     return control_.object().GetExtent(DVASPECT_CONTENT, extent);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

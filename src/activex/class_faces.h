@@ -5,7 +5,7 @@
 #include "activex/control_core.h"
 #include "activex/face.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class ListControl;
 
@@ -57,4 +57,4 @@ class QuickFace final : public Face<IQuickActivate> {
     ListControl& control_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -10,7 +10,7 @@
 #include <mutex>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -96,4 +96,4 @@ HRESULT classFactory(const CLSID& classId, REFIID iid, void** found) noexcept {
     return CLASS_E_CLASSNOTAVAILABLE;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

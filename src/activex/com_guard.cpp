@@ -2,7 +2,7 @@
 
 #include "worlds/win32/com_ref.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 HRESULT automationResult(const RuntimeError& error) noexcept {
     switch (static_cast<ErrorNumber>(error.number())) {
@@ -35,4 +35,4 @@ void tellErrorInfo(const RuntimeError& error, const GUID& interfaceId) noexcept 
         SetErrorInfo(0, told.get());
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -6,7 +6,7 @@
 
 #include <new>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// DISP_E_... for a refused argument or an unknown member, otherwise the HRESULT made from the error number.
 HRESULT automationResult(const RuntimeError& error) noexcept;
@@ -28,4 +28,4 @@ HRESULT guarded(Body&& body) noexcept {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

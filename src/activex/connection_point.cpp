@@ -4,7 +4,7 @@
 #include "activex/com_guard.h"
 #include "activex/snapshot_enum.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -104,4 +104,4 @@ HRESULT ConnectionPoint::EnumConnections(IEnumConnections** connections) {
     });
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -8,7 +8,7 @@
 #include <map>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// One outgoing interface. Lives as long as the control; its identity is its own, its lifetime the control's.
 class ConnectionPoint final : public IConnectionPoint {
@@ -44,4 +44,4 @@ class ConnectionPoint final : public IConnectionPoint {
     DWORD lastCookie_ = 0;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -4,7 +4,7 @@
 #include "values/runtime_error.h"
 #include "worlds/win32/object_bridge.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 void ContainerHost::setSite(IOleClientSite* site) {
     site_ = ComRef<IOleClientSite>(site);
@@ -93,4 +93,4 @@ FontRef ContainerHost::parentFont() const {
     return held != nullptr ? *held : nullptr;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

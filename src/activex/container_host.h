@@ -8,7 +8,7 @@
 
 #include <functional>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Reads mode and name from the client site once, and again when the site reports a change. Without a site,
 /// or if the site does not know, the control runs, has the name of its class with a 1, and no font of its
@@ -43,4 +43,4 @@ class ContainerHost final : public Host {
     String name_ = u"lmListView1";
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

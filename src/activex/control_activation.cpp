@@ -1,7 +1,7 @@
 /// A control takes its place in the container's window, and leaves it.
 #include "activex/control_core.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 HRESULT ControlCore::activateInPlace(IOleInPlaceSite& site) {
     if (inPlaceActive_) {
@@ -128,4 +128,4 @@ void ControlCore::showModality(bool open) {
         frame_->EnableModeless(open ? FALSE : TRUE);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

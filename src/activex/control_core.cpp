@@ -6,7 +6,7 @@
 #include "worlds/win32/com_error.h"
 #include "worlds/win32/screen_density.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -127,7 +127,7 @@ void ControlCore::letExtent(SIZEL extent) {
 
 void ControlCore::propertyChanged(StringView name) {
     dirty_ = true;
-    const Member* const member = findMember(listViewClass(), name);
+    const automation::Member* const member = automation::findMember(automation::listViewClass(), name);
     const DISPID number = member != nullptr ? member->number : DISPID_UNKNOWN;
     for (const ComRef<IUnknown>& sink : notifyPoint_.sinks())
         if (const auto notify = sink.as<IPropertyNotifySink>())
@@ -148,4 +148,4 @@ void ControlCore::viewChanged() {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

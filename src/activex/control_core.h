@@ -10,7 +10,7 @@
 #include "worlds/win32/module_lock.h"
 #include "worlds/win32/win32_world.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A control that nobody initialises becomes a new instance at its first use.
 class ControlCore final : public AutomationTarget {
@@ -18,8 +18,8 @@ class ControlCore final : public AutomationTarget {
     ControlCore(IUnknown& outer, IConnectionPointContainer& points);
     ~ControlCore() override;
 
-    const ClassDescription& description() const override { return listViewClass(); }
-    CallByName byName() override { return CallByName(list()); }
+    const automation::ClassDescription& description() const override { return automation::listViewClass(); }
+    automation::CallByName byName() override { return automation::CallByName(list()); }
 
     /// Runs the body of a call of an interface, which gives an HRESULT. Calls from a wrong thread are
     /// refused.
@@ -125,4 +125,4 @@ class ControlCore final : public AutomationTarget {
     ComRef<IDataAdviseHolder> dataAdviseHolder_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -90,4 +90,4 @@ bool ControlCore::offerKey(MSG& message) {
            OleTranslateAccelerator(frame_.get(), &frameInfo_, &message) == S_OK;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

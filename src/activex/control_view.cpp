@@ -3,7 +3,7 @@
 #include "worlds/win32/dib_info.h"
 #include "worlds/win32/memory_bitmap.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 void ControlCore::draw(HDC target, const RECT& bounds) {
     lmListView& shown = list();
@@ -38,4 +38,4 @@ void ControlCore::draw(HDC target, const RECT& bounds) {
                   SRCCOPY);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

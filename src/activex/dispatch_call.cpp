@@ -12,15 +12,15 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
 constexpr WORD reading = DISPATCH_PROPERTYGET | DISPATCH_METHOD;
 constexpr WORD assigning = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
 
-bool endsInList(const Member& member) {
-    return member.count > 0 && member.slots[member.count - 1].type.code == TypeCode::variantList;
+bool endsInList(const automation::Member& member) {
+    return member.count > 0 && member.slots[member.count - 1].type.code == automation::TypeCode::variantList;
 }
 
 /// An argument that cannot be taken, by its place in the caller's array.
@@ -67,7 +67,8 @@ class Arguments {
   public:
     /// `from` leaves out the caller's leading arguments, as an assigned value is one. Throws RuntimeError,
     /// and RefusedArgument.
-    Arguments(const Member& member, const DISPPARAMS& parameters, UINT from) : parameters_(parameters) {
+    Arguments(const automation::Member& member, const DISPPARAMS& parameters, UINT from)
+        : parameters_(parameters) {
         const UINT named = parameters.cNamedArgs;
         const UINT positional = parameters.cArgs - named;
         if (!endsInList(member) && positional > member.count)
@@ -90,7 +91,7 @@ class Arguments {
     bool wasGiven(std::size_t parameter) const { return places_[parameter] != none; }
 
     /// Where the caller's variable cannot hold a value, it keeps what it has.
-    void writeBackTo(const Member& member, LCID locale) {
+    void writeBackTo(const automation::Member& member, LCID locale) {
         for (std::size_t i = 0; i < values_.size() && i < member.count; ++i)
             if (member.slots[i].byReference && places_[i] != none)
                 ignoringErrors([&] { writeBack(values_[i], parameters_.rgvarg[places_[i]], locale); });
@@ -118,35 +119,35 @@ class Arguments {
 };
 
 /// Whether the value converts to the type; the control would refuse it else.
-bool fits(const Variant& value, TypeCode type) {
+bool fits(const Variant& value, automation::TypeCode type) {
     try {
         switch (type) {
-        case TypeCode::boolean:
+        case automation::TypeCode::boolean:
             static_cast<void>(value.toBoolean());
             break;
-        case TypeCode::integer:
+        case automation::TypeCode::integer:
             static_cast<void>(value.toInteger());
             break;
-        case TypeCode::longInteger:
-        case TypeCode::enumeration:
+        case automation::TypeCode::longInteger:
+        case automation::TypeCode::enumeration:
             static_cast<void>(value.toLong());
             break;
-        case TypeCode::single:
+        case automation::TypeCode::single:
             static_cast<void>(value.toSingle());
             break;
-        case TypeCode::string:
+        case automation::TypeCode::string:
             static_cast<void>(value.toText());
             break;
-        case TypeCode::color:
+        case automation::TypeCode::color:
             static_cast<void>(value.toColor());
             break;
-        case TypeCode::picture:
+        case automation::TypeCode::picture:
             static_cast<void>(value.toPicture());
             break;
-        case TypeCode::font:
+        case automation::TypeCode::font:
             static_cast<void>(value.toFont());
             break;
-        case TypeCode::object:
+        case automation::TypeCode::object:
             static_cast<void>(fromVariant<ObjectRef>(value));
             break;
         default:
@@ -158,7 +159,7 @@ bool fits(const Variant& value, TypeCode type) {
     }
 }
 
-UINT placeOfMisfit(const Member& member, Arguments& arguments, const Locale& callers) {
+UINT placeOfMisfit(const automation::Member& member, Arguments& arguments, const Locale& callers) {
     const UsingLocale asTheCallerWrites(callers);
     const auto values = arguments.values();
     for (std::size_t i = 0; i < values.size() && i < member.count; ++i)
@@ -168,7 +169,10 @@ UINT placeOfMisfit(const Member& member, Arguments& arguments, const Locale& cal
     return 0;
 }
 
-void assign(CallByName& byName, const Member& member, const DispatchCall& call, Arguments& arguments) {
+void assign(automation::CallByName& byName,
+            const automation::Member& member,
+            const DispatchCall& call,
+            Arguments& arguments) {
     const Variant value = valueAt(*call.parameters, 0);
     const bool asReference = (call.kind & DISPATCH_PROPERTYPUTREF) != 0;
     // Some script languages have one way to assign for everything.
@@ -198,7 +202,7 @@ HRESULT refusal(const RuntimeError& error, const DispatchCall& call) {
     return DISP_E_EXCEPTION;
 }
 
-HRESULT perform(AutomationTarget& target, const Member& member, const DispatchCall& call) {
+HRESULT perform(AutomationTarget& target, const automation::Member& member, const DispatchCall& call) {
     const bool assigns = (call.kind & assigning) != 0;
     DISPPARAMS& parameters = *call.parameters;
     if (assigns && (parameters.cArgs == 0 || parameters.cNamedArgs == 0 ||
@@ -206,7 +210,7 @@ HRESULT perform(AutomationTarget& target, const Member& member, const DispatchCa
         return DISP_E_PARAMNOTOPTIONAL;
     Arguments arguments(member, parameters, assigns ? 1 : 0);
     const Win32Locale callers(call.locale);
-    CallByName byName = target.byName();
+    automation::CallByName byName = target.byName();
     byName.letCallersLocale(&callers);
     try {
         if (assigns) {
@@ -216,7 +220,7 @@ HRESULT perform(AutomationTarget& target, const Member& member, const DispatchCa
         const Variant value = member.isMethod() ? byName.call(member, arguments.values())
                                                 : byName.get(member, arguments.values());
         arguments.writeBackTo(member, call.locale);
-        if (member.type.code != TypeCode::none && call.result != nullptr)
+        if (member.type.code != automation::TypeCode::none && call.result != nullptr)
             *call.result = toVARIANT(value).release();
         return S_OK;
     } catch (const RuntimeError& error) {
@@ -228,16 +232,18 @@ HRESULT perform(AutomationTarget& target, const Member& member, const DispatchCa
 
 } // namespace
 
-HRESULT idsOfNames(const ClassDescription& description, std::span<LPOLESTR> names, std::span<DISPID> ids) {
+HRESULT idsOfNames(const automation::ClassDescription& description,
+                   std::span<LPOLESTR> names,
+                   std::span<DISPID> ids) {
     std::ranges::fill(ids, DISPID_UNKNOWN);
-    const Member* const member = findMember(description, textOf(names[0]));
+    const automation::Member* const member = automation::findMember(description, textOf(names[0]));
     if (member == nullptr)
         return DISP_E_UNKNOWNNAME;
     ids[0] = member->number;
     HRESULT result = S_OK;
     for (std::size_t i = 1; i < names.size(); ++i) {
         const auto parameters = member->parameters();
-        const auto found = std::ranges::find_if(parameters, [&](const Parameter& parameter) {
+        const auto found = std::ranges::find_if(parameters, [&](const automation::Parameter& parameter) {
             return sameName(parameter.name, textOf(names[i]));
         });
         if (found == parameters.end())
@@ -258,7 +264,8 @@ HRESULT invokeMember(AutomationTarget& target, const DispatchCall& call) noexcep
     if (call.result != nullptr)
         VariantInit(call.result);
     return guarded([&]() -> HRESULT {
-        const Member* const member = findMember(target.description(), Long{call.number});
+        const automation::Member* const member =
+            automation::findMember(target.description(), Long{call.number});
         if (member == nullptr || (call.kind & (reading | assigning)) == 0)
             return DISP_E_MEMBERNOTFOUND;
         try {
@@ -273,4 +280,4 @@ HRESULT invokeMember(AutomationTarget& target, const DispatchCall& call) noexcep
     });
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -4,11 +4,12 @@
 
 #include "activex/automation_target.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// The numbers of a member and, behind it, of its parameters by name. DISP_E_UNKNOWNNAME if one is not
 /// known, whose number is DISPID_UNKNOWN then.
-HRESULT idsOfNames(const ClassDescription& description, std::span<LPOLESTR> names, std::span<DISPID> ids);
+HRESULT
+idsOfNames(const automation::ClassDescription& description, std::span<LPOLESTR> names, std::span<DISPID> ids);
 
 /// What a caller of IDispatch::Invoke handed over. `result`, `details` and `wrongArgument` may be null.
 struct DispatchCall {
@@ -27,4 +28,4 @@ struct DispatchCall {
 /// search's result is an object with the fields of its record.
 HRESULT invokeMember(AutomationTarget& target, const DispatchCall& call) noexcept;
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -8,7 +8,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -102,4 +102,4 @@ void storeBack(const Variant& value, long* argument) {
     *argument = value.toLong();
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// The record as early-bound callers know it.
 struct FindResultsRecord {
@@ -86,4 +86,4 @@ void storeBack(const Variant& value, VARIANT* argument);
 void storeBack(const Variant& value, BSTR* argument);
 void storeBack(const Variant& value, long* argument);
 
-} // namespace lumtex
+} // namespace lumtex::win32

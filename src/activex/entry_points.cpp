@@ -4,7 +4,7 @@
 #include "activex/registration.h"
 #include "worlds/win32/module_lock.h"
 
-using namespace lumtex;
+using namespace lumtex::win32;
 
 extern "C" {
 

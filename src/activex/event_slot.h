@@ -6,7 +6,7 @@
 #include "worlds/win32/object_bridge.h"
 #include "worlds/win32/variant_bridge.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A reference that comes back to the control.
 template <class T>
@@ -132,4 +132,4 @@ class EventSlot<ByReference<T>> {
     OwnedVARIANT variant_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -8,7 +8,7 @@
 
 #include <dispex.h>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -159,4 +159,4 @@ void EventSource::ItemOver(Long Row, Long Column, bool bOverItem) {
     raise(27, Row, Column, bOverItem);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -6,7 +6,7 @@
 #include "activex/event_slot.h"
 #include "model/list_view_events.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Events are numbered from 1 in the order of their table. Sinks that fail are not heard of; a sink that went
 /// away meanwhile is still called. While frozen no sink is called.
@@ -60,4 +60,4 @@ class EventSource final : public lmListViewEvents {
     int frozen_ = 0;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -4,7 +4,7 @@
 
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Shares identity and lifetime with the object as a whole, or with the host's object around it. `outer` must
 /// outlive the face and is not counted.
@@ -30,4 +30,4 @@ class Face : public Interface {
     IUnknown& outer_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

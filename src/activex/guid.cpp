@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 String textOfGuid(const GUID& guid) {
     constexpr int length = 39; // braces and the closing zero included
@@ -11,4 +11,4 @@ String textOfGuid(const GUID& guid) {
     return String(textOf(text.data()));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

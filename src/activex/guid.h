@@ -5,7 +5,7 @@
 #include "automation/identifiers.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace detail {
 
@@ -24,7 +24,7 @@ constexpr unsigned long hexNumber(std::string_view digits) {
 
 /// The identifier of a name of the type library, see `identifiers`.
 constexpr GUID guidOf(std::string_view name) {
-    const std::string_view text = uuidOf(name);
+    const std::string_view text = automation::uuidOf(name);
     GUID guid{detail::hexNumber(text.substr(0, 8)),
               static_cast<unsigned short>(detail::hexNumber(text.substr(9, 4))),
               static_cast<unsigned short>(detail::hexNumber(text.substr(14, 4))),
@@ -38,4 +38,4 @@ constexpr GUID guidOf(std::string_view name) {
 /// "{5BDC0D33-...}"
 String textOfGuid(const GUID& guid);
 
-} // namespace lumtex
+} // namespace lumtex::win32

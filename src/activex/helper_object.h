@@ -9,7 +9,7 @@
 #include "worlds/win32/counted_object.h"
 #include "worlds/win32/win32_runtime.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class SpEvFace final : public AutomationFace {
   public:
@@ -37,8 +37,8 @@ class SpEvTarget final : public AutomationTarget {
     static constexpr GUID interfaceId = guidOf("_SpEv");
     using DualFace = SpEvFace;
 
-    const ClassDescription& description() const override { return spEvClass(); }
-    CallByName byName() override { return CallByName(helper_); }
+    const automation::ClassDescription& description() const override { return automation::spEvClass(); }
+    automation::CallByName byName() override { return automation::CallByName(helper_); }
 
   private:
     Win32Runtime runtime_{moduleInstance()};
@@ -51,8 +51,8 @@ class ErrorTarget final : public AutomationTarget {
     static constexpr GUID interfaceId = guidOf("_Error");
     using DualFace = ErrorFace;
 
-    const ClassDescription& description() const override { return errorClass(); }
-    CallByName byName() override { return CallByName(error_); }
+    const automation::ClassDescription& description() const override { return automation::errorClass(); }
+    automation::CallByName byName() override { return automation::CallByName(error_); }
 
   private:
     Error error_;
@@ -88,4 +88,4 @@ class HelperObject final : public CountedObject<IUnknown> {
     ErrorInfoFace errorInfo_{*this, Target::interfaceId};
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "worlds/win32/com_error.h"
 #include "worlds/win32/variant_bridge.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -54,4 +54,4 @@ void HostPropertyBag::WriteProperty(StringView name, const Variant& value, const
     demand(bag_.Write(wide(String(name)), &held.get()));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

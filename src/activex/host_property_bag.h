@@ -5,7 +5,7 @@
 #include "platform/property_bag.h"
 #include "worlds/win32/com_ref.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Throws the RuntimeError of a value that cannot be used, or that the bag cannot convert, and of a bag that
 /// refuses one.
@@ -25,4 +25,4 @@ class HostPropertyBag final : public PropertyBag {
     bool everything_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

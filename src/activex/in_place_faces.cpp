@@ -1,7 +1,7 @@
 /// Activation, ambient properties and keys.
 #include "activex/in_place_faces.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -68,4 +68,4 @@ HRESULT ActiveObjectFace::TranslateAccelerator(LPMSG message) {
     return core_.entered([&] { return core_.translateKey(*message); });
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

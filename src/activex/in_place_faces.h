@@ -5,7 +5,7 @@
 #include "activex/control_core.h"
 #include "activex/face.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class OleControlFace final : public Face<IOleControl> {
   public:
@@ -59,4 +59,4 @@ class ActiveObjectFace final : public Face<IOleInPlaceActiveObject> {
     ControlCore& core_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

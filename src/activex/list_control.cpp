@@ -3,7 +3,7 @@
 
 #include "activex/guid.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 ListControl::ListControl(IUnknown* outer)
     : inner_(*this), outer_(outer != nullptr ? *outer : inner_), connections_(outer_, *this),
@@ -83,4 +83,4 @@ IUnknown* ListControl::face(REFIID iid) {
     return nullptr;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -11,7 +11,7 @@
 
 #include <atomic>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Starts with one reference, the caller's, to its own identity (`inner`). Inside the object of a host
 /// (`outer`) all other interfaces have the identity and the lifetime of that one.
@@ -70,4 +70,4 @@ class ListControl {
     ErrorInfoFace errorInfo_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "activex/automation_face.h"
 #include "activex/guid.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class ListViewFace final : public AutomationFace {
   public:
@@ -18,4 +18,4 @@ class ListViewFace final : public AutomationFace {
     // clang-format on
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

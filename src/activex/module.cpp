@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -41,4 +41,4 @@ ComRef<ITypeInfo> typeInfoOf(const GUID& guid) {
     return info;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -6,7 +6,7 @@
 
 #include <oaidl.h>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 HINSTANCE moduleInstance();
 /// The component's own file, with its path.
@@ -17,4 +17,4 @@ ComRef<ITypeLib> typeLibrary();
 /// A type of it by its identifier.
 ComRef<ITypeInfo> typeInfoOf(const GUID& guid);
 
-} // namespace lumtex
+} // namespace lumtex::win32

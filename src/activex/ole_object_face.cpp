@@ -5,7 +5,7 @@
 #include "activex/list_control.h"
 #include "activex/snapshot_enum.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -171,4 +171,4 @@ HRESULT OleObjectFace::GetMiscStatus(DWORD aspect, DWORD* status) {
     return aspect == DVASPECT_CONTENT ? S_OK : DV_E_DVASPECT;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

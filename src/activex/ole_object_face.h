@@ -5,7 +5,7 @@
 #include "activex/control_core.h"
 #include "activex/face.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class ListControl;
 
@@ -53,4 +53,4 @@ class OleObjectFace final : public Face<IOleObject> {
 constexpr DWORD controlMiscStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE | OLEMISC_INSIDEOUT |
                                     OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_SETCLIENTSITEFIRST;
 
-} // namespace lumtex
+} // namespace lumtex::win32

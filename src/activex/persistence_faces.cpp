@@ -6,7 +6,7 @@
 #include "activex/host_property_bag.h"
 #include "activex/settings_stream.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -141,4 +141,4 @@ HRESULT StorageFace::SaveCompleted(IStorage* storage) {
     });
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

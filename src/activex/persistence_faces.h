@@ -5,7 +5,7 @@
 #include "activex/control_core.h"
 #include "activex/face.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A failed save leaves the dirty mark; one that was already initialised answers E_UNEXPECTED.
 class BagFace final : public Face<IPersistPropertyBag> {
@@ -57,4 +57,4 @@ class StorageFace final : public Face<IPersistStorage> {
     ControlCore& core_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

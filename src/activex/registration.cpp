@@ -9,7 +9,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -73,7 +73,7 @@ String libraryKey() {
 }
 
 String libraryVersion() {
-    return numberText(typeLibraryMajor) + u"." + numberText(typeLibraryMinor);
+    return numberText(automation::typeLibraryMajor) + u"." + numberText(automation::typeLibraryMinor);
 }
 
 /// Programs of both widths share the entries of the library, but for this one.
@@ -226,4 +226,4 @@ HRESULT unregisterComponent(Registry registry) noexcept {
     });
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

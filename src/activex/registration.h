@@ -4,7 +4,7 @@
 
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Whose registry; the one of all users needs the rights to write there.
 enum class Registry { machine, user };
@@ -14,4 +14,4 @@ HRESULT registerComponent(Registry registry) noexcept;
 /// Takes all entries back. A missing one is not a failure.
 HRESULT unregisterComponent(Registry registry) noexcept;
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -9,7 +9,7 @@
 #include <limits>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Throws RuntimeError 57 if the stream takes no more.
 class SettingsWriter {
@@ -79,4 +79,4 @@ class SettingsReader {
     IStream& stream_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -9,7 +9,7 @@
 #include "worlds/win32/ole_picture.h"
 #include "worlds/win32/ole_picture_image.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -160,4 +160,4 @@ Variant loadSettingsObject(SettingsReader& from, SettingsKind kind) {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

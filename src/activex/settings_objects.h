@@ -5,7 +5,7 @@
 #include "activex/settings_bytes.h"
 #include "values/variant.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 // Each stands as the system's own object of its kind saves itself: the class, then its bytes. No class is
 // made because a stream names it: the bytes are read here, and what they say is made with the system's own
@@ -27,4 +27,4 @@ void saveSettingsObject(SettingsWriter& to, const Variant& value);
 /// class, and for one that is damaged.
 Variant loadSettingsObject(SettingsReader& from, SettingsKind kind);
 
-} // namespace lumtex
+} // namespace lumtex::win32

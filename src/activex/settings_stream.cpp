@@ -6,7 +6,7 @@
 
 #include <set>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -98,4 +98,4 @@ void loadSettings(IStream& stream, MemoryPropertyBag& bag) {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

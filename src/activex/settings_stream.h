@@ -5,7 +5,7 @@
 #include "platform/property_bag.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 // The stream holds a mark and a version, each 4 bytes, the number of values, and for each value its name, its
 // type and its bytes; fonts and pictures as the system's objects save themselves. All numbers are
@@ -19,4 +19,4 @@ void saveSettings(IStream& stream, const MemoryPropertyBag& bag);
 /// `saveSettings` did not write, that is damaged, or that ends too early.
 void loadSettings(IStream& stream, MemoryPropertyBag& bag);
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// `Policy` has copy(to, from), which may add references, and clear(item). Starts with one reference, the
 /// caller's.
@@ -59,4 +59,4 @@ class SnapshotEnum final : public CountedObject<Interface> {
     std::size_t next_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

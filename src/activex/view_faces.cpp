@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -212,4 +212,4 @@ HRESULT DataFace::EnumDAdvise(IEnumSTATDATA** advises) {
     return core_.entered([&] { return core_.dataAdviseHolder()->EnumAdvise(advises); });
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

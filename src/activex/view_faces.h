@@ -5,7 +5,7 @@
 #include "activex/control_core.h"
 #include "activex/face.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class ViewFace final : public Face<IViewObject2> {
   public:
@@ -82,4 +82,4 @@ class DataFace final : public Face<IDataObject> {
     ControlCore& core_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -7,7 +7,7 @@
 
 #include <type_traits>
 
-namespace lumtex::detail {
+namespace lumtex::automation::detail {
 
 /// Holds the value of a parameter for the time of a call. `T` is the type as the function declares it.
 template <class T>
@@ -83,4 +83,4 @@ class Argument<std::span<const Variant>> {
     std::span<const Variant> rest_;
 };
 
-} // namespace lumtex::detail
+} // namespace lumtex::automation::detail

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <unordered_map>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -135,4 +135,4 @@ Variant CallByName::invoke(const Member& member,
     return result;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 /// The member of that name, whatever its case; none if there is no such member.
 const Member* findMember(const ClassDescription& of, StringView name);
@@ -59,4 +59,4 @@ class CallByName {
     const Locale* callers_ = nullptr;
 };
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -1,7 +1,7 @@
 /// The public classes in one row.
 #include "automation/class_table.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 std::span<const ClassDescription> classTable() {
     static const auto all = std::to_array<ClassDescription>({
@@ -33,4 +33,4 @@ const ClassDescription& errorClass() {
     return classTable()[2];
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -4,7 +4,7 @@
 
 #include "automation/member_table.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 struct ClassDescription {
     StringView name;
@@ -23,4 +23,4 @@ inline constexpr Help libraryHelp{u"LumtexListView, a list of rows and columns."
 /// All of them: the control first, then the classes that hosts create beside it.
 std::span<const ClassDescription> classTable();
 
-} // namespace lumtex
+} // namespace lumtex::automation

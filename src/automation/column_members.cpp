@@ -2,7 +2,7 @@
 #include "automation/describe_member.h"
 #include "automation/member_table.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -141,4 +141,4 @@ std::span<const Member> columnMembers() {
     return members;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -11,7 +11,7 @@
 #include <tuple>
 #include <utility>
 
-namespace lumtex::detail {
+namespace lumtex::automation::detail {
 
 template <class T>
 Variant resultOf(const T& value) {
@@ -177,4 +177,4 @@ method(Long number, StringView name, Repaint repaint, Help help, std::initialize
     return member;
 }
 
-} // namespace lumtex::detail
+} // namespace lumtex::automation::detail

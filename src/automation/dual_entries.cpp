@@ -3,7 +3,7 @@
 #include "automation/interface_types.h"
 #include "values/text.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -57,4 +57,4 @@ std::string dualEntries(const ClassDescription& description) {
     return text;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

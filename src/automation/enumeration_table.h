@@ -9,7 +9,7 @@
 #include <array>
 #include <span>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 struct Enumerator {
     StringView name;
@@ -46,4 +46,4 @@ constexpr auto enumerationTable = std::to_array<Enumeration>({
 });
 // clang-format on
 
-} // namespace lumtex
+} // namespace lumtex::automation

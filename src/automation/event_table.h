@@ -9,7 +9,7 @@
 #include <array>
 #include <span>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 struct EventArgument {
     StringView name;
@@ -79,4 +79,4 @@ constexpr auto eventTable = std::to_array<EventDescription>({
 });
 // clang-format on
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -4,7 +4,7 @@
 #include "values/runtime_error.h"
 #include "values/text.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -38,4 +38,4 @@ ObjectRef makeFoundRecord(const FindResults& found) {
     return std::make_shared<FoundRecord>(found);
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -5,9 +5,9 @@
 #include "sortfind/find_results.h"
 #include "values/variant.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 /// An object with the record's three fields as properties that can only be read.
 ObjectRef makeFoundRecord(const FindResults& found);
 
-} // namespace lumtex
+} // namespace lumtex::automation

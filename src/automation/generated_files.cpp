@@ -1,7 +1,7 @@
 /// The generated files by name.
 #include "automation/generated_files.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 std::vector<GeneratedFile> generatedFiles() {
     return {
@@ -14,4 +14,4 @@ std::vector<GeneratedFile> generatedFiles() {
     };
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 struct GeneratedFile {
     std::string path; ///< from the top of the tree
@@ -37,4 +37,4 @@ std::string sideBySideManifest();
 /// the classes themselves.
 std::string typeLibrarySource();
 
-} // namespace lumtex
+} // namespace lumtex::automation

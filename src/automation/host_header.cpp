@@ -8,7 +8,7 @@
 #include "automation/record_table.h"
 #include "values/text.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -93,4 +93,4 @@ std::string hostHeader() {
     return text + "\n} // namespace events\n\n} // namespace LumtexListView\n";
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -7,7 +7,7 @@
 #include <array>
 #include <string_view>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 struct Identifier {
     std::string_view name; ///< as the type library spells it
@@ -55,4 +55,4 @@ constexpr std::string_view uuidOf(std::string_view name) {
     return identifiers.at(place).uuid;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

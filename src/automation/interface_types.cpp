@@ -3,7 +3,7 @@
 
 #include "values/text.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -91,4 +91,4 @@ std::vector<InterfaceEntry> interfaceEntries(std::span<const Member> members) {
     return entries;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

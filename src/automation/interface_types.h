@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 /// The type of a value, "VARIANT_BOOL".
 std::string interfaceType(const TypeInfo& type);
@@ -30,4 +30,4 @@ std::string entrySignature(const InterfaceEntry& entry, std::string (*typeText)(
 /// The entries in the order of the table: the members as they stand, a property's get before its let.
 std::vector<InterfaceEntry> interfaceEntries(std::span<const Member> members);
 
-} // namespace lumtex
+} // namespace lumtex::automation

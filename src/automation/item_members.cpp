@@ -2,7 +2,7 @@
 #include "automation/describe_member.h"
 #include "automation/member_table.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -181,4 +181,4 @@ std::span<const Member> itemMembers() {
     return members;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

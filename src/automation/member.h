@@ -9,7 +9,7 @@
 #include <array>
 #include <span>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 /// What a caller who leaves an optional argument out has said.
 struct DefaultValue {
@@ -68,4 +68,4 @@ struct Member {
     }
 };
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 std::span<const Member> memberTable() {
     static const std::vector<Member> all = [] {
@@ -16,4 +16,4 @@ std::span<const Member> memberTable() {
     return all;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -6,7 +6,7 @@
 
 #include <span>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 /// All properties and methods, in order of their groups: list, properties, columns, rows, cells. Calls by
 /// name, the reference pages and the tests are made from it. A new public member gets its line in the file
@@ -23,4 +23,4 @@ std::span<const Member> itemMembers();
 std::span<const Member> spEvMembers();
 std::span<const Member> errorMembers();
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -3,7 +3,7 @@
 #include "automation/member_table.h"
 #include "model/property_table.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -47,4 +47,4 @@ std::span<const Member> propertyMembers() {
     return members;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

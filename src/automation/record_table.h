@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 struct RecordField {
     StringView name;
@@ -25,4 +25,4 @@ constexpr auto findResultsFields = std::to_array<RecordField>({
     {u"FindColumn", typeOf<decltype(FindResults::FindColumn)>()},
 });
 
-} // namespace lumtex
+} // namespace lumtex::automation

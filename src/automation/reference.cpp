@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -230,4 +230,4 @@ std::vector<ReferencePage> referencePages() {
     return pages;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 struct ReferencePage {
     std::string fileName; ///< in the folder of the reference, without a path
@@ -16,4 +16,4 @@ struct ReferencePage {
 /// and README.md as their index.
 std::vector<ReferencePage> referencePages();
 
-} // namespace lumtex
+} // namespace lumtex::automation

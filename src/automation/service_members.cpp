@@ -4,7 +4,7 @@
 #include "guards/error.h"
 #include "helpers/sp_ev.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -87,4 +87,4 @@ std::span<const Member> errorMembers() {
     return ofError;
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

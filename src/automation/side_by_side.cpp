@@ -4,7 +4,7 @@
 #include "automation/identifiers.h"
 #include "values/text.h"
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -65,4 +65,4 @@ std::string sideBySideManifest() {
     return text + interfaceElement("__lmListView", dispatchMarshaller) + "</assembly>\n";
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -14,7 +14,7 @@
 #include <span>
 #include <type_traits>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 enum class TypeCode : Byte {
     none, ///< what a method without a result returns
@@ -94,4 +94,4 @@ constexpr TypeInfo typeOf() {
 template <class T>
 constexpr bool travelsBack = std::is_lvalue_reference_v<T> && !std::is_const_v<std::remove_reference_t<T>>;
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -11,7 +11,7 @@
 
 #include <bit>
 
-namespace lumtex {
+namespace lumtex::automation {
 
 namespace {
 
@@ -191,4 +191,4 @@ std::string typeLibrarySource() {
     return text + "}\n";
 }
 
-} // namespace lumtex
+} // namespace lumtex::automation

@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 namespace {
 
@@ -67,4 +67,4 @@ void DrawArrow(Surface& surface, const ArrowTraits& traits) {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -6,7 +6,7 @@
 
 #include <span>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 enum class Arrow : Byte { up, down, left, right };
 
@@ -41,4 +41,4 @@ const ArrowTraits& traitsOf(Arrow arrow);
 /// Draws the chevron in the surface's ForeColor.
 void DrawArrow(Surface& surface, const ArrowTraits& traits);
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -3,7 +3,7 @@
 #include "drawing/picture_size.h"
 #include "records/enumerations.h"
 
-namespace lumtex {
+namespace lumtex::bars {
 
 ArrowButton::ArrowButton(
     World& world, Window& parent, Arrow arrow, std::function<void()> step, ControlLife* life)
@@ -94,8 +94,8 @@ void ArrowButton::UserControl_Resize() {
         const Picture& first = pictureAt(img_, 1);
         window_->place(window_->Left(),
                        window_->Top(),
-                       static_cast<Single>(GetPictureWidth(surface, first)),
-                       static_cast<Single>(GetPictureHeight(surface, first)));
+                       static_cast<Single>(drawing::GetPictureWidth(surface, first)),
+                       static_cast<Single>(drawing::GetPictureHeight(surface, first)));
     });
 }
 
@@ -129,4 +129,4 @@ void ArrowButton::paintCustom(Procedure& p) {
     p.step([&] { DrawArrow(surface, traits_); });
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

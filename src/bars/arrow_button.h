@@ -11,7 +11,7 @@
 #include <functional>
 #include <memory>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 /// `VBtnUp`, `VBtnDown`, `VBtnLeft` and `VBtnRight` in one. Always of the size of its first picture.
 class ArrowButton final : public UserControl {
@@ -75,4 +75,4 @@ class ArrowButton final : public UserControl {
     ArrowColors colors_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::bars

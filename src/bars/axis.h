@@ -4,7 +4,7 @@
 
 #include "platform/window.h"
 
-namespace lumtex {
+namespace lumtex::bars {
 
 enum class Axis : Byte { vertical, horizontal };
 
@@ -50,4 +50,4 @@ class AlongAxis {
     bool vertical_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 namespace {
 
@@ -121,4 +121,4 @@ void ScrollBar::UserControl_MouseUp(Integer /*Button*/, Integer /*Shift*/, Singl
     Redraw();
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -5,7 +5,7 @@
 #include "records/enumerations.h"
 #include "values/rounding.h"
 
-namespace lumtex {
+namespace lumtex::bars {
 
 namespace {
 
@@ -95,7 +95,7 @@ void ScrollBar::paintTrough() {
         return;
     }
     Rect area{0, 0, surface.scaleWidth(), surface.scaleHeight()};
-    DrawGradient(surface, &area, troughDark, troughLight, traits_.trough);
+    drawing::DrawGradient(surface, &area, troughDark, troughLight, traits_.trough);
     if (!pressActive_ || thumbReachedPress())
         return;
     const bool low = pressDir_ == traits_.pressLow;
@@ -108,7 +108,7 @@ void ScrollBar::paintTrough() {
         area.Left = first;
         area.Right = last;
     }
-    DrawGradient(surface, &area, troughHeld, troughLight, traits_.trough);
+    drawing::DrawGradient(surface, &area, troughHeld, troughLight, traits_.trough);
 }
 
 void ScrollBar::Redraw() {
@@ -123,4 +123,4 @@ void ScrollBar::Redraw() {
     p.step([&] { window_->present(); });
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 struct ScrollBar::SavedProperty {
     StringView key;
@@ -86,4 +86,4 @@ void ScrollBar::SetNewProperty(const PropertyBag& bag) {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

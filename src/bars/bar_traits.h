@@ -6,7 +6,7 @@
 #include "bars/axis.h"
 #include "drawing/gradient.h"
 
-namespace lumtex {
+namespace lumtex::bars {
 
 struct BarTraits {
     Axis axis;
@@ -18,7 +18,7 @@ struct BarTraits {
     Arrow high;
     Long pressLow; ///< `pressDir` of a press before the thumb
     Long pressHigh;
-    GradientDirection trough;
+    drawing::GradientDirection trough;
     bool jumpsLines; ///< has `ScrollButtonJumpLines`; otherwise an arrow steps by 1
 };
 
@@ -31,7 +31,7 @@ constexpr BarTraits verticalBar{.axis = Axis::vertical,
                                 .high = Arrow::down,
                                 .pressLow = 1,
                                 .pressHigh = 2,
-                                .trough = GradientDirection::leftToRight,
+                                .trough = drawing::GradientDirection::leftToRight,
                                 .jumpsLines = true};
 
 constexpr BarTraits horizontalBar{.axis = Axis::horizontal,
@@ -43,7 +43,7 @@ constexpr BarTraits horizontalBar{.axis = Axis::horizontal,
                                   .high = Arrow::right,
                                   .pressLow = 2,
                                   .pressHigh = 1,
-                                  .trough = GradientDirection::bottomToTop,
+                                  .trough = drawing::GradientDirection::bottomToTop,
                                   .jumpsLines = false};
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -1,6 +1,6 @@
 #include "bars/hover.h"
 
-namespace lumtex {
+namespace lumtex::bars {
 
 void Hover::MouseOut(Window& Obj, Single X, Single Y) {
     const Surface& surface = Obj.surface();
@@ -15,4 +15,4 @@ void Hover::MouseOut(Window& Obj, Single X, Single Y) {
     over = !outside;
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -4,7 +4,7 @@
 
 #include "platform/window.h"
 
-namespace lumtex {
+namespace lumtex::bars {
 
 /// What a thumb and an arrow button know of pointer and press.
 struct Hover {
@@ -17,4 +17,4 @@ struct Hover {
     void MouseOut(Window& Obj, Single X, Single Y);
 };
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 namespace {
 
@@ -308,4 +308,4 @@ const Picture& pictureAt(std::span<const PictureRef> img, Double index) {
     return *img[static_cast<std::size_t>(index)];
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

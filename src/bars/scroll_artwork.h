@@ -8,7 +8,7 @@
 
 #include <array>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 /// Where in a scheme's four pictures of a button a look stands.
 enum class ButtonLook : Byte { normal = 1, hover = 2, pressed = 3, disabled = 4 };
@@ -41,4 +41,4 @@ struct ScrollArtwork {
 /// Throws RuntimeError 9 for an index that has no picture.
 const Picture& pictureAt(std::span<const PictureRef> img, Double index);
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -1,6 +1,6 @@
 #include "bars/scroll_bar.h"
 
-namespace lumtex {
+namespace lumtex::bars {
 
 ScrollBar::ScrollBar(World& world, Window& parent, const BarTraits& traits, Events events, ControlLife* life)
     : world_(world), life_(life), traits_(traits), axis_(traits.axis), events_(std::move(events)),
@@ -119,4 +119,4 @@ void ScrollBar::letEnabled(bool enabled) {
     Redraw();
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

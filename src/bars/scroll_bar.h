@@ -12,9 +12,11 @@
 #include <functional>
 #include <memory>
 
-namespace lumtex {
-
+namespace lumtex::about {
 class LumtexAbout;
+} // namespace lumtex::about
+
+namespace lumtex::bars {
 
 /// Both bars are one class over an axis; `lmVScroll` and `lmHScroll` name the two, and BarTraits tells them
 /// apart. "Low" is the end at the top or the left.
@@ -163,7 +165,7 @@ class ScrollBar : public UserControl {
     ScrollThumb thumb_;
     ArrowButton low_;
     ArrowButton high_;
-    std::shared_ptr<LumtexAbout> about_;
+    std::shared_ptr<about::LumtexAbout> about_;
 };
 
 class lmVScroll final : public ScrollBar {
@@ -181,4 +183,4 @@ class lmHScroll final : public ScrollBar {
         : ScrollBar(world, parent, horizontalBar, std::move(events), life) {}
 };
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 struct ScrollColor {
     const char16_t* name;
@@ -33,4 +33,4 @@ constexpr auto scrollColors = std::to_array<ScrollColor>({
 });
 // clang-format on
 
-} // namespace lumtex
+} // namespace lumtex::bars

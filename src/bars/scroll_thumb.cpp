@@ -6,7 +6,7 @@
 
 #include <array>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 namespace {
 
@@ -145,8 +145,8 @@ void ScrollThumb::paintScheme(Procedure& p) {
         p.step([&] {
             const Picture& grip = pictureAt(img_, imageIndex_ + gripAfterBody);
             surface.paintPicture(grip,
-                                 (w - static_cast<Single>(GetPictureWidth(surface, grip))) / 2,
-                                 (h - static_cast<Single>(GetPictureHeight(surface, grip))) / 2);
+                                 (w - static_cast<Single>(drawing::GetPictureWidth(surface, grip))) / 2,
+                                 (h - static_cast<Single>(drawing::GetPictureHeight(surface, grip))) / 2);
         });
     }
     if (c_ == cXPScrollSilver)
@@ -171,4 +171,4 @@ void ScrollThumb::silverEdges(Procedure& p, Single w, Single h) {
     p.step([&] { surface.line(1, h - 2, w - 2, h - 2, silverFoot); });
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -12,7 +12,7 @@
 #include <functional>
 #include <memory>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 /// `VScrollBar` and `HScrollBar` in one. Knows nothing of values: the bar moves it. Keeps no settings.
 class ScrollThumb final : public UserControl {
@@ -75,4 +75,4 @@ class ScrollThumb final : public UserControl {
     OLE_COLOR barHover_ = 0;
 };
 
-} // namespace lumtex
+} // namespace lumtex::bars

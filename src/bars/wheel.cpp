@@ -4,7 +4,7 @@
 #include "platform/world.h"
 #include "values/rounding.h"
 
-namespace lumtex {
+namespace lumtex::bars {
 
 namespace {
 
@@ -49,4 +49,4 @@ bool Wheel::WndProc(WindowHandle hWnd, Long delta, Integer Keys, Single X, Singl
     return true;
 }
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -11,8 +11,10 @@
 #include <memory>
 
 namespace lumtex {
-
 class World;
+} // namespace lumtex
+
+namespace lumtex::bars {
 
 /// Turns the wheel messages of one window into `WheelScroll`. They come through a hook if the platform has
 /// hooks, otherwise through the window's control. The runtime must outlive it.
@@ -49,4 +51,4 @@ class Wheel {
     std::unique_ptr<WheelHook> hook_; ///< null if the platform has no hooks
 };
 
-} // namespace lumtex
+} // namespace lumtex::bars

@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <type_traits>
 
-namespace lumtex {
+namespace lumtex::content {
 
 namespace detail {
 
@@ -54,4 +54,4 @@ constexpr Integer booleanNumber(bool value) {
     return value ? Integer{-1} : Integer{0};
 }
 
-} // namespace lumtex
+} // namespace lumtex::content

@@ -3,7 +3,7 @@
 #include "guards/procedure.h"
 #include "values/color.h"
 
-namespace lumtex {
+namespace lumtex::content {
 
 namespace {
 constexpr StringView defaultColor = u"def";
@@ -26,4 +26,4 @@ Variant HTML2VBColor(Long value) {
     return value;
 }
 
-} // namespace lumtex
+} // namespace lumtex::content

@@ -4,7 +4,7 @@
 
 #include "platform/runtime.h"
 
-namespace lumtex {
+namespace lumtex::content {
 
 /// What the file holds for a colour that painting decides, "def" in the list.
 constexpr Long codeOfDefaultColor = 999999999;
@@ -16,4 +16,4 @@ Long GetCorrectColor(Runtime& runtime, StringView text);
 /// "def" for its code; any other number is the colour itself.
 Variant HTML2VBColor(Long value);
 
-} // namespace lumtex
+} // namespace lumtex::content

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::content {
 
 namespace {
 
@@ -32,4 +32,4 @@ bool isPossible(const ContentHeader& header, std::int64_t remaining, Long listCo
     return cells <= mostMissingCells || rows * header.columnCount <= remaining / size;
 }
 
-} // namespace lumtex
+} // namespace lumtex::content

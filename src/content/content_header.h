@@ -4,7 +4,7 @@
 
 #include "values/types.h"
 
-namespace lumtex {
+namespace lumtex::content {
 
 /// The number that every content file starts with. Readers take no notice of it.
 Integer SaveVersion();
@@ -30,4 +30,4 @@ constexpr std::int64_t mostCellsWithoutRecords = std::int64_t{1} << 24U;
 /// get. No list writes such a file.
 bool isPossible(const ContentHeader& header, std::int64_t remaining, Long listColumns);
 
-} // namespace lumtex
+} // namespace lumtex::content

@@ -2,7 +2,7 @@
 
 #include "guards/procedure.h"
 
-namespace lumtex {
+namespace lumtex::content {
 
 std::vector<Byte> GetPictureString(Runtime& runtime, const Picture& picture, Long& length) {
     Procedure p{runtime, u"GetPictureString", ModuleKind::control, u"lmListView"};
@@ -17,4 +17,4 @@ PictureRef GetStringPicture(Runtime& runtime, std::span<const Byte> bytes) {
     return p.value<PictureRef>([&] { return runtime.pictures().pictureOfImage(bytes); });
 }
 
-} // namespace lumtex
+} // namespace lumtex::content

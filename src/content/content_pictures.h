@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::content {
 
 /// The picture's file image, and its length in bytes. A picture that cannot be turned into one is reported
 /// and gives no bytes.
@@ -15,4 +15,4 @@ std::vector<Byte> GetPictureString(Runtime& runtime, const Picture& picture, Lon
 /// The picture of a file image; null, and a report, if the bytes are not a picture.
 PictureRef GetStringPicture(Runtime& runtime, std::span<const Byte> bytes);
 
-} // namespace lumtex
+} // namespace lumtex::content

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::content {
 
 void ContentReader::open(StringView path) {
     file_ = runtime_.files().openForBinaryReading(path);
@@ -110,4 +110,4 @@ void ContentReader::skip(Long length) {
     inPieces(static_cast<std::size_t>(length), [](std::span<const Byte>) {});
 }
 
-} // namespace lumtex
+} // namespace lumtex::content

@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::content {
 
 /// Each reading operation throws RuntimeError 52 while no file is open, 62 for more than the file still has,
 /// and 57 if the file cannot be read. After the last two the reader stands at the file's end, so that
@@ -71,4 +71,4 @@ class ContentReader {
     Long failure_ = numberOf(ErrorNumber::badFileNumber); ///< what reading fails with; 0 while it does not
 };
 
-} // namespace lumtex
+} // namespace lumtex::content

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <exception>
 
-namespace lumtex {
+namespace lumtex::content {
 
 void ContentWriter::open(StringView path) {
     file_ = runtime_.files().openForBinaryWriting(path);
@@ -77,4 +77,4 @@ void ContentWriter::putText(StringView text) {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::content

@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::content {
 
 /// Each `put` throws RuntimeError 52 while no file is open. After the first failure of the file itself each
 /// further one fails as that did, so that no later piece lands in the place of a lost one.
@@ -57,4 +57,4 @@ class ContentWriter {
     Long failure_ = numberOf(ErrorNumber::badFileNumber); ///< what a `put` fails with; 0 while none does
 };
 
-} // namespace lumtex
+} // namespace lumtex::content

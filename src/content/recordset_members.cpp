@@ -2,7 +2,7 @@
 
 #include "values/runtime_error.h"
 
-namespace lumtex {
+namespace lumtex::content {
 
 namespace {
 
@@ -63,4 +63,4 @@ RecordSource& RecordsetMembers::records() {
     return own != nullptr ? *own : *this;
 }
 
-} // namespace lumtex
+} // namespace lumtex::content

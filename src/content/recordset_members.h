@@ -6,7 +6,7 @@
 #include "values/references/object.h"
 #include "values/variant.h"
 
-namespace lumtex {
+namespace lumtex::content {
 
 /// Calls them by name on any object. Each failure is thrown: 91 if there is no object, what the object
 /// reports, or what a conversion says. Nothing is kept between calls, so that each asks anew, as a statement
@@ -38,4 +38,4 @@ class RecordsetMembers final : public RecordSource {
     ObjectRef recordset_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::content

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 namespace {
 
@@ -199,4 +199,4 @@ const ListViewArtwork& ListViewArtwork::standard() {
     return artwork;
 }
 
-} // namespace lumtex
+} // namespace lumtex::drawing

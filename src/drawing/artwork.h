@@ -6,7 +6,7 @@
 
 #include <array>
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 struct ListViewArtwork {
     /// 13 x 13; Index 1 is unchecked, 2 is checked; 0 is empty because these pictures are numbered from 1.
@@ -20,4 +20,4 @@ struct ListViewArtwork {
     static const ListViewArtwork& standard();
 };
 
-} // namespace lumtex
+} // namespace lumtex::drawing

@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 namespace {
 
@@ -26,4 +26,4 @@ void DrawArrow(Surface& surface, Byte direction, Single x, Single y) {
     surface.polygon(points, arrowColor);
 }
 
-} // namespace lumtex
+} // namespace lumtex::drawing

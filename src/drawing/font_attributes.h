@@ -7,7 +7,7 @@
 #include "values/references/font.h"
 #include "values/runtime_error.h"
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 /// Hands what `font` holds to `take`. Its six attributes are read by as many statements, each of which fails
 /// with 91 if there is no font. Host code at the report of one may set a font: the statement after it
@@ -34,4 +34,4 @@ inline FontRef CloneFont(const FontRef& font) {
     return font ? font->Clone() : nullptr;
 }
 
-} // namespace lumtex
+} // namespace lumtex::drawing

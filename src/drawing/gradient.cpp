@@ -8,7 +8,7 @@
 #include <cstring>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 namespace {
 
@@ -120,4 +120,4 @@ void DrawGradient(
     });
 }
 
-} // namespace lumtex
+} // namespace lumtex::drawing

@@ -4,7 +4,7 @@
 
 #include "platform/surface.h"
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 enum class GradientDirection : Byte { leftToRight, bottomToTop };
 
@@ -13,4 +13,4 @@ enum class GradientDirection : Byte { leftToRight, bottomToTop };
 void DrawGradient(
     Surface& surface, const Rect* rect, OLE_COLOR colour1, OLE_COLOR colour2, GradientDirection direction);
 
-} // namespace lumtex
+} // namespace lumtex::drawing

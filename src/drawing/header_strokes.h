@@ -4,7 +4,7 @@
 
 #include "drawing/strokes.h"
 
-namespace lumtex::looks {
+namespace lumtex::drawing::looks {
 
 using enum Edge;
 using enum Shape;
@@ -60,4 +60,4 @@ constexpr Stroke emptyField[] = {
 };
 // clang-format on
 
-} // namespace lumtex::looks
+} // namespace lumtex::drawing::looks

@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 namespace {
 
@@ -67,4 +67,4 @@ OLE_COLOR colorOf(ColorRole role, const Properties& properties) {
     return row.custom != nullptr ? properties.*row.custom : row.fixed;
 }
 
-} // namespace lumtex
+} // namespace lumtex::drawing

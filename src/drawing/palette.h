@@ -4,7 +4,7 @@
 
 #include "records/properties.h"
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 enum class ColorRole : Byte {
     headerFace,
@@ -34,4 +34,4 @@ enum class ColorRole : Byte {
 /// header and its empty field, and gives 0 for selection and border.
 OLE_COLOR colorOf(ColorRole role, const Properties& properties);
 
-} // namespace lumtex
+} // namespace lumtex::drawing

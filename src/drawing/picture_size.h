@@ -5,7 +5,7 @@
 #include "platform/surface.h"
 #include "values/rounding.h"
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 /// From the stored HIMETRIC units by the surface's resolution, rounded; the product's own drawings have their
 /// own pixels.
@@ -17,4 +17,4 @@ inline Long GetPictureHeight(const Surface& surface, const Picture& picture) {
     return pictureSize(surface, picture).y;
 }
 
-} // namespace lumtex
+} // namespace lumtex::drawing

@@ -1,6 +1,6 @@
 #include "drawing/strokes.h"
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 Single StrokeFrame::at(Place place) const {
     const auto offset = static_cast<Single>(place.offset);
@@ -41,4 +41,4 @@ void paintStrokes(Surface& surface,
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::drawing

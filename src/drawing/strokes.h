@@ -7,7 +7,7 @@
 
 #include <span>
 
-namespace lumtex {
+namespace lumtex::drawing {
 
 enum class Shape : Byte { line, fill, pixel };
 
@@ -49,4 +49,4 @@ void paintStrokes(Surface& surface,
                   const StrokeFrame& frame,
                   const Properties& properties);
 
-} // namespace lumtex
+} // namespace lumtex::drawing

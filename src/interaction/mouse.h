@@ -70,7 +70,7 @@ class Mouse : private ListPart {
     State state_;
     std::unique_ptr<Timer> tmrMouseIn_;
     std::unique_ptr<Timer> tmrMouseAction_;
-    std::unique_ptr<QI> tips_; ///< made on first need
+    std::unique_ptr<tips::QI> tips_; ///< made on first need
 };
 
 } // namespace lumtex

@@ -36,7 +36,7 @@ void Mouse::move(Integer Button, Integer Shift, Single X, Single Y) {
 
 /// `row` is the one under the mouse, if any. Out of the rows the drag scrolls, one row a tick.
 void Mouse::drag(Single Y, std::optional<Long> row, Procedure& p) {
-    lmHScroll& bar = core_.scroller->horizontal();
+    bars::lmHScroll& bar = core_.scroller->horizontal();
     const Single barHeight = bar.Visible() ? bar.Height() : 0;
     if (Y < 0) {
         p.step([&] { tmrMouseAction_->Tag = u"up"; });
@@ -65,7 +65,7 @@ void Mouse::leaveItem(Procedure& p) {
     p.raise([&] { core_.events().ItemOver(0, 0, false); });
     p.step([&] {
         if (!tips_)
-            tips_ = std::make_unique<QI>(core_.world());
+            tips_ = std::make_unique<tips::QI>(core_.world());
         tips_->Remove(std::make_shared<SurfaceObject>(window_.hWnd()));
     });
 }

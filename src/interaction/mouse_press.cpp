@@ -72,7 +72,7 @@ void Mouse::pressRow(Long row, Single X, Single Y, Procedure& p) {
 bool Mouse::inCheckBoxZone(Single X, Single Y, Procedure& p) {
     const Surface& surface = window_.surface();
     const Picture& box = *core_.painting->artwork().img[1];
-    if (!checkBoxRows(state_.rowScanTop, GetPictureHeight(surface, box)).contains(Y))
+    if (!checkBoxRows(state_.rowScanTop, drawing::GetPictureHeight(surface, box)).contains(Y))
         return false;
     return p.condition(
         [&] {
@@ -83,7 +83,7 @@ bool Mouse::inCheckBoxZone(Single X, Single Y, Procedure& p) {
             const auto zone = checkBoxZone(alignment,
                                            scaleX(surface, column.Left, Unit::twips, Unit::pixels),
                                            scaleX(surface, column.Width, Unit::twips, Unit::pixels),
-                                           GetPictureWidth(surface, box),
+                                           drawing::GetPictureWidth(surface, box),
                                            core_.scroller->horizontal().Value());
             return zone && zone->contains(X);
         },

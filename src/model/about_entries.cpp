@@ -13,28 +13,28 @@ namespace lumtex {
 void lmListView::About() {
     Procedure p = procedure(u"About");
     p.step([&] {
-        const auto form = LumtexAbout::of(world());
+        const auto form = about::LumtexAbout::of(world());
         about_ = form;
-        form->Show(LumtexAbout::Mode::modal);
+        form->Show(about::LumtexAbout::Mode::modal);
     });
 }
 
-void ScrollBar::About() {
+void bars::ScrollBar::About() {
     Procedure p = procedure(u"About");
     p.step([&] {
-        about_ = LumtexAbout::of(world_);
+        about_ = about::LumtexAbout::of(world_);
         about_->Show();
     });
 }
 
-void QI::About() {
+void tips::QI::About() {
     Procedure p = procedure(u"About");
     p.step([&] {
-        const auto form = LumtexAbout::of(world_);
+        const auto form = about::LumtexAbout::of(world_);
         about_ = form;
         form->Show();
         form->Hide();
-        form->Show(LumtexAbout::Mode::modal);
+        form->Show(about::LumtexAbout::Mode::modal);
     });
 }
 

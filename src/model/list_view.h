@@ -13,9 +13,11 @@
 #include <optional>
 #include <span>
 
-namespace lumtex {
-
+namespace lumtex::about {
 class LumtexAbout;
+} // namespace lumtex::about
+
+namespace lumtex {
 
 /// An owner-drawn list of rows and columns.
 ///
@@ -240,8 +242,8 @@ class lmListView final : public ListViewRecords, public UserControl {
     Long placeOfNewRow(Variant& aIndex, Procedure& p);
     void removeRow(Long Index, Procedure& p);
 
-    Held<ObjectRef> recordset_;          ///< as it was assigned; the list has taken its records already
-    std::shared_ptr<LumtexAbout> about_; ///< the form of the world, from the first `About` on
+    Held<ObjectRef> recordset_; ///< as it was assigned; the list has taken its records already
+    std::shared_ptr<about::LumtexAbout> about_; ///< the form of the world, from the first `About` on
 };
 
 } // namespace lumtex

@@ -37,7 +37,7 @@ StyleHandle lmListView::emptyItemStyle() {
     Procedure p = procedure(u"EmptyItem");
     CellStyle style;
     style.ForeColor = properties.DefaultItemForeColor;
-    readFontAttributes(
+    drawing::readFontAttributes(
         properties.DefaultItemFont,
         [&](auto attribute) { return p.step(attribute); },
         [&](const FontSpec& font) { style.font = font; });

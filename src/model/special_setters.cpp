@@ -71,7 +71,7 @@ void ListViewProperties::letRowsDynamic(bool value) {
 
 void ListViewProperties::storeFont(StringView name, Held<FontRef> Properties::*field, const FontRef& font) {
     Procedure p = procedure(name);
-    p.step([&] { properties.*field = CloneFont(font); });
+    p.step([&] { properties.*field = drawing::CloneFont(font); });
     p.step([&] { host().PropertyChanged(name); });
     CheckForRedraw();
 }

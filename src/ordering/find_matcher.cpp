@@ -3,7 +3,7 @@
 #include "guards/failure_of.h"
 #include "ordering/like_comp.h"
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 FindMatcher::FindMatcher(Runtime& runtime, StringView pattern, cFindCompare compare)
     : runtime_(runtime), pattern_(pattern), compare_(compare) {
@@ -30,4 +30,4 @@ bool FindMatcher::matchesStepwise(StringView text) const {
     return compare_ == cFindText && LikeCompText(runtime_, text, pattern_);
 }
 
-} // namespace lumtex
+} // namespace lumtex::ordering

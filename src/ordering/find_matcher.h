@@ -9,7 +9,7 @@
 
 #include <optional>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 /// Answers as `LikeCompBinary` or `LikeCompText` does, a report for each call with a faulty pattern included.
 class FindMatcher {
@@ -29,4 +29,4 @@ class FindMatcher {
     std::optional<LikePattern> atOnce_; ///< none for a faulty pattern
 };
 
-} // namespace lumtex
+} // namespace lumtex::ordering

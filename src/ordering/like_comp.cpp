@@ -3,7 +3,7 @@
 #include "guards/procedure.h"
 #include "ordering/like_pattern.h"
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 bool LikeCompBinary(Runtime& runtime, StringView value, StringView pattern) {
     Procedure p(runtime, u"LikeCompBinary", ModuleKind::module, u"basCompareBinary");
@@ -15,4 +15,4 @@ bool LikeCompText(Runtime& runtime, StringView value, StringView pattern) {
     return p.value<bool>([&] { return LikePattern(pattern, LikePattern::folded).matches(value); });
 }
 
-} // namespace lumtex
+} // namespace lumtex::ordering

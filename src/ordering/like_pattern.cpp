@@ -7,7 +7,7 @@
 #include <cstring>
 #include <string>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 namespace {
 
@@ -168,4 +168,4 @@ bool LikePattern::matches(std::span<const unsigned char> text) const {
     return matchesUnits(text.data(), text.size());
 }
 
-} // namespace lumtex
+} // namespace lumtex::ordering

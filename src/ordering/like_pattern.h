@@ -9,7 +9,7 @@
 #include <span>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 /// A pattern, ready to be matched against any number of texts. It matches a whole text:
 ///
@@ -77,4 +77,4 @@ class LikePattern {
     Letters letters_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::ordering

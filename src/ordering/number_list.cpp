@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 void NumberList::append(Long first, Long last) {
     if (last < first)
@@ -96,4 +96,4 @@ FindNotation readFindNotation(StringView spec, Long limit) {
     return notation;
 }
 
-} // namespace lumtex
+} // namespace lumtex::ordering

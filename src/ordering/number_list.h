@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 /// An ordered list of numbers, kept as ranges, so that "all of a million rows" takes no more room than one
 /// number.
@@ -45,4 +45,4 @@ struct FindNotation {
 /// columns or rows; greater numbers are left out, those below 1 are not.
 FindNotation readFindNotation(StringView spec, Long limit);
 
-} // namespace lumtex
+} // namespace lumtex::ordering

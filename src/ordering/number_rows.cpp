@@ -10,7 +10,7 @@
 #include <optional>
 #include <span>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 namespace {
 
@@ -128,4 +128,4 @@ Double throughPivotText(Double key, cSortType type) {
     return pivot;
 }
 
-} // namespace lumtex
+} // namespace lumtex::ordering

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 /// The key of a text that does not convert. No comparison with it holds, so it ends a scan, as the
 /// failing comparison does.
@@ -96,4 +96,4 @@ class NumberRows {
     bool wouldReport_ = false;
 };
 
-} // namespace lumtex
+} // namespace lumtex::ordering

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 /// The position in the middle of two 0-based ones; halves round to the even position.
 constexpr Long middleOf(Long first, Long last) {
@@ -62,4 +62,4 @@ void quickSort(Rows& rows, Long first, Long last) {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::ordering

@@ -4,7 +4,7 @@
 #include "ordering/quick_sort.h"
 #include "ordering/text_rows.h"
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 namespace {
 
@@ -69,4 +69,4 @@ Order orderAtOnce(const RowArray& rows, std::size_t cell, cSortType type, cSortM
                       : orderOfNumbers<false>(rows, cell, type, silent);
 }
 
-} // namespace lumtex
+} // namespace lumtex::ordering

@@ -9,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 /// Finds the order that `SortStepwise` leaves, without touching the rows: element k is the 0-based
 /// position from which row k comes. `cell` counts from 0, `type` is one of the three types.
@@ -19,4 +19,4 @@ namespace lumtex {
 std::optional<std::vector<std::uint32_t>>
 orderAtOnce(const RowArray& rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
 
-} // namespace lumtex
+} // namespace lumtex::ordering

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 String textKey(StringView text) {
     String key(text);
@@ -21,4 +21,4 @@ String pivotText(Double key, cSortType type) {
     return type == cSortDate ? currentLocale().textOf(Date{key}) : currentLocale().textOf(key);
 }
 
-} // namespace lumtex
+} // namespace lumtex::ordering

@@ -5,7 +5,7 @@
 #include "records/enumerations.h"
 #include "values/types.h"
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 /// The lower case of each code unit.
 String textKey(StringView text);
@@ -18,4 +18,4 @@ Double numberKey(StringView text, cSortType type);
 /// date through whole seconds, so that the pivot may be no value of the column. Throws as `numberKey` does.
 String pivotText(Double key, cSortType type);
 
-} // namespace lumtex
+} // namespace lumtex::ordering

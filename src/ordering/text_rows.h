@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::ordering {
 
 /// The rows for `quickSort`. `Unit` is `unsigned char` where no text has a code unit above 255, else
 /// char16_t.
@@ -87,4 +87,4 @@ class TextRows {
     Key pivot_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::ordering

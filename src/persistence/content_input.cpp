@@ -15,7 +15,7 @@ namespace {
 /// its type's zero.
 class LoadStepwise {
   public:
-    LoadStepwise(lmListView& list, Runtime& runtime, Procedure& procedure, ContentReader& file)
+    LoadStepwise(lmListView& list, Runtime& runtime, Procedure& procedure, content::ContentReader& file)
         : list_(list), runtime_(runtime), p_(procedure), file_(file) {}
 
     void read(Long row, Long column, RecordForm form) {
@@ -106,13 +106,13 @@ class LoadStepwise {
         const Long length = number<Long>();
         return p_.value<String>([&] { return file_.getText(length); });
     }
-    Variant color() { return HTML2VBColor(number<Long>()); }
+    Variant color() { return content::HTML2VBColor(number<Long>()); }
     PictureRef picture() {
         if (number<Byte>() != 1)
             return nullptr;
         const Long length = number<Long>();
         const auto bytes = p_.value<std::vector<Byte>>([&] { return file_.getBytes(length); });
-        return GetStringPicture(runtime_, bytes);
+        return content::GetStringPicture(runtime_, bytes);
     }
     void discardBytes() {
         const Long length = number<Long>();
@@ -130,7 +130,7 @@ class LoadStepwise {
     lmListView& list_;
     Runtime& runtime_;
     Procedure& p_;
-    ContentReader& file_;
+    content::ContentReader& file_;
 };
 
 } // namespace
@@ -145,9 +145,9 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
     properties.AutoRedraw = false;
     properties.AutoCheckScroll = false;
 
-    ContentReader file(runtime());
+    content::ContentReader file(runtime());
     p.step([&] { file.open(sFilename); });
-    ContentHeader header;
+    content::ContentHeader header;
     // Wanted: a file of any version is read as if it were of this one.
     header.version = p.value<Integer>([&] { return file.get<Integer>(); });
     header.rowCount = p.value<Long>([&] { return file.get<Long>(); });
@@ -156,7 +156,7 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
 
     RowsClear();
     const bool possible = p.step([&] {
-        if (!isPossible(header, file.remaining(), ColumnsCount()))
+        if (!content::isPossible(header, file.remaining(), ColumnsCount()))
             throw RuntimeError(ErrorNumber::outOfMemory);
     });
     if (possible && header.rowCount > 0) {

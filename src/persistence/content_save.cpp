@@ -15,8 +15,11 @@ namespace {
 /// into the file as its type's zero, so that readers stay in step.
 class SaveStepwise {
   public:
-    SaveStepwise(
-        lmListView& list, Runtime& runtime, Procedure& procedure, ContentWriter& file, bool withProperties)
+    SaveStepwise(lmListView& list,
+                 Runtime& runtime,
+                 Procedure& procedure,
+                 content::ContentWriter& file,
+                 bool withProperties)
         : list_(list), runtime_(runtime), p_(procedure), file_(file), withProperties_(withProperties) {}
 
     void write(Long row, Long column) {
@@ -42,7 +45,7 @@ class SaveStepwise {
     void put(T value) {
         p_.step([&] { file_.put(value); });
     }
-    void putValue(bool value) { put(booleanNumber(value)); }
+    void putValue(bool value) { put(content::booleanNumber(value)); }
     void putValue(Single value) { put(value); }
     void putValue(const String& value) { putText(value); }
     void putValue(cItemAlign value) {
@@ -53,7 +56,7 @@ class SaveStepwise {
         p_.step([&] { file_.putText(text); });
     }
     void putColor(const Variant& color) {
-        put(p_.value<Long>([&] { return GetCorrectColor(runtime_, color.toText()); }));
+        put(p_.value<Long>([&] { return content::GetCorrectColor(runtime_, color.toText()); }));
     }
     void putValue(const PictureRef& picture) {
         if (!picture) {
@@ -61,7 +64,7 @@ class SaveStepwise {
             return;
         }
         Long length = 0;
-        const std::vector<Byte> bytes = GetPictureString(runtime_, *picture, length);
+        const std::vector<Byte> bytes = content::GetPictureString(runtime_, *picture, length);
         put(Byte{1});
         put(length);
         p_.step([&] { file_.putBytes(bytes); });
@@ -70,7 +73,7 @@ class SaveStepwise {
     lmListView& list_;
     Runtime& runtime_;
     Procedure& p_;
-    ContentWriter& file_;
+    content::ContentWriter& file_;
     bool withProperties_;
 };
 
@@ -81,13 +84,13 @@ bool lmListView::ContentSave(StringView sFilename, bool bSaveItemProperties) {
     const bool exists = p.condition([&] { return FileExists(runtime().files(), sFilename); }, false);
     if (exists)
         p.step([&] { runtime().files().deleteFile(sFilename); });
-    ContentWriter file(runtime());
+    content::ContentWriter file(runtime());
     p.step([&] { file.open(sFilename); });
 
-    p.step([&] { file.put(SaveVersion()); });
+    p.step([&] { file.put(content::SaveVersion()); });
     p.step([&] { file.put(RowsCount()); });
     p.step([&] { file.put(ColumnsCount()); });
-    p.step([&] { file.put(booleanNumber(bSaveItemProperties)); });
+    p.step([&] { file.put(content::booleanNumber(bSaveItemProperties)); });
     if (ColumnsCount() >= 1 && RowsCount() >= 1) {
         SaveStepwise stepwise(*this, runtime(), p, file, bSaveItemProperties);
         SaveAtOnce atOnce(*this, runtime().locale(), file, bSaveItemProperties);

@@ -29,10 +29,10 @@ class Fields {
         rest_ = rest_.subspan(size);
         return field;
     }
-    template <ContentNumber T>
+    template <content::ContentNumber T>
     T number() {
         const std::span<const Byte> field = take(sizeof(T));
-        return complete_ ? loadNumber<T>(field.data()) : T{};
+        return complete_ ? content::loadNumber<T>(field.data()) : T{};
     }
     std::span<const Byte> withLength() {
         const Long length = number<Long>();
@@ -68,7 +68,7 @@ bool sameBytes(std::span<const Byte> a, const std::vector<Byte>& b) {
 bool takeColor(Fields& fields, OLE_COLOR& color) {
     const Long code = fields.number<Long>();
     color = static_cast<OLE_COLOR>(code);
-    return code != codeOfDefaultColor;
+    return code != content::codeOfDefaultColor;
 }
 
 } // namespace
@@ -129,7 +129,7 @@ bool LoadAtOnce::lookOf(const Record& record) {
             if constexpr (std::is_same_v<Kept, OLE_COLOR>)
                 hasNumbers = takeColor(*fields, kept) && hasNumbers;
             else if constexpr (Field::isColor)
-                kept = HTML2VBColor(fields->number<Long>());
+                kept = content::HTML2VBColor(fields->number<Long>());
             else if constexpr (std::is_same_v<Kept, bool>)
                 kept = fields->number<Integer>() != 0;
             else if constexpr (std::is_same_v<Kept, Single>)

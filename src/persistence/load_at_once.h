@@ -17,7 +17,7 @@ enum class RecordForm : Byte { textAlone, dropProperties, readProperties };
 /// are silenced, a record behind the file's end is all zeros, and one for a missing cell is read over.
 class LoadAtOnce {
   public:
-    LoadAtOnce(ListViewCore& core, const SystemLocale& locale, ContentReader& file, RecordForm form)
+    LoadAtOnce(ListViewCore& core, const SystemLocale& locale, content::ContentReader& file, RecordForm form)
         : cells_(core), locale_(locale), file_(file), form_(form) {}
 
     /// False, with nothing read, for a record that has to be read value by value: one that is cut off or
@@ -50,7 +50,7 @@ class LoadAtOnce {
 
     ContentCells cells_;
     const SystemLocale& locale_;
-    ContentReader& file_;
+    content::ContentReader& file_;
     RecordForm form_;
     Look look_;
     String scratch_;

@@ -35,7 +35,7 @@ void joinFields(RecordSource& records, String& line, Procedure& p, Long& counter
 void lmListView::setRecordset(ObjectRef recordset) {
     Procedure p = procedure(u"Recordset");
     p.step([&] { recordset_ = recordset; });
-    RecordsetMembers members(std::move(recordset));
+    content::RecordsetMembers members(std::move(recordset));
     // A count that cannot be read is not above 0.
     if (!p.condition([&] { return members.hasRecords(); }, false))
         return;

@@ -13,10 +13,10 @@ namespace {
 constexpr std::size_t lengthSize = sizeof(Long);
 constexpr std::size_t noPictures = 2; // a present byte each
 
-template <ContentNumber T>
+template <content::ContentNumber T>
 void append(std::vector<Byte>& bytes, T value) {
     bytes.resize(bytes.size() + sizeof value);
-    storeNumber(bytes.data() + bytes.size() - sizeof value, value);
+    content::storeNumber(bytes.data() + bytes.size() - sizeof value, value);
 }
 
 /// The code of a colour that is a plain number or "def"; none for whatever needs a closer look.
@@ -24,7 +24,7 @@ std::optional<Long> codeOf(const Variant& color) {
     if (const Long* number = color.as<Long>())
         return *number;
     if (const String* text = color.text(); text != nullptr && *text == u"def")
-        return codeOfDefaultColor;
+        return content::codeOfDefaultColor;
     return std::nullopt;
 }
 
@@ -46,7 +46,7 @@ void SaveAtOnce::encode(const CellStyle& style) {
 }
 
 void SaveAtOnce::appendValue(std::vector<Byte>& bytes, bool value) {
-    append(bytes, booleanNumber(value));
+    append(bytes, content::booleanNumber(value));
 }
 
 void SaveAtOnce::appendValue(std::vector<Byte>& bytes, Single value) {
@@ -116,7 +116,7 @@ bool SaveAtOnce::write(Long row, Long column) {
             Byte* const place = file_.roomAtHand(lengthSize + textSize);
             if (place == nullptr)
                 return;
-            storeNumber(place, static_cast<Long>(textSize));
+            content::storeNumber(place, static_cast<Long>(textSize));
             encodeText(item.text(), place + lengthSize);
             file_.taken(lengthSize + textSize);
             written = true;
@@ -134,10 +134,10 @@ bool SaveAtOnce::write(Long row, Long column) {
         Byte* place = look.hasForm ? file_.roomAtHand(size) : nullptr;
         if (place == nullptr)
             return;
-        storeNumber(place, static_cast<Long>(textSize));
+        content::storeNumber(place, static_cast<Long>(textSize));
         encodeText(item.text(), place + lengthSize);
         place = std::copy(look.beforeTag.begin(), look.beforeTag.end(), place + lengthSize + textSize);
-        storeNumber(place, static_cast<Long>(tag.size()));
+        content::storeNumber(place, static_cast<Long>(tag.size()));
         locale_.toAnsi(tag, {place + lengthSize, tag.size()});
         place = std::copy(look.behindTag.begin(), look.behindTag.end(), place + lengthSize + tag.size());
         std::fill_n(place, noPictures, Byte{0});

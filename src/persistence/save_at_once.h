@@ -12,7 +12,10 @@ namespace lumtex {
 /// Writes what the accessors would give, for cells whose values all have a form in the file.
 class SaveAtOnce {
   public:
-    SaveAtOnce(ListViewCore& core, const SystemLocale& locale, ContentWriter& file, bool withProperties)
+    SaveAtOnce(ListViewCore& core,
+               const SystemLocale& locale,
+               content::ContentWriter& file,
+               bool withProperties)
         : cells_(core), locale_(locale), file_(file), withProperties_(withProperties) {}
 
     /// False, with nothing written, for a cell that has to be written value by value: one that is missing,
@@ -39,7 +42,7 @@ class SaveAtOnce {
 
     ContentCells cells_;
     const SystemLocale& locale_;
-    ContentWriter& file_;
+    content::ContentWriter& file_;
     bool withProperties_;
     Look look_; ///< of the last cell
     String scratch_;

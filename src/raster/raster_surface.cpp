@@ -11,10 +11,7 @@
 #include <array>
 #include <utility>
 
-namespace lumtex {
-
-using raster::Canvas;
-using raster::Pixel;
+namespace lumtex::raster {
 
 namespace {
 
@@ -23,7 +20,7 @@ constexpr Pixel opaque = 0xFF000000U;
 Pixel pixelOf(OLE_COLOR color) {
     if (isSystemColor(color)) {
         const unsigned index = systemColorIndex(color);
-        return opaque | (index < raster::systemColors.size() ? raster::systemColors[index] : 0U);
+        return opaque | (index < systemColors.size() ? systemColors[index] : 0U);
     }
     return opaque | (static_cast<Pixel>(redOf(color)) << 16U) | (static_cast<Pixel>(greenOf(color)) << 8U) |
            blueOf(color);
@@ -35,7 +32,7 @@ Point rounded(Single x, Single y) {
 
 } // namespace
 
-RasterSurface::RasterSurface(Long width, Long height, std::shared_ptr<raster::FontLibrary> fonts)
+RasterSurface::RasterSurface(Long width, Long height, std::shared_ptr<FontLibrary> fonts)
     : width_(std::max<Long>(width, 0)), height_(std::max<Long>(height, 0)),
       pixels_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_)),
       clearing_(pixelOf(white)), fonts_(std::move(fonts)) {}
@@ -91,7 +88,7 @@ void RasterSurface::setFont(const FontSpec& font) {
     typeface_.reset();
 }
 
-raster::Typeface& RasterSurface::typeface() {
+Typeface& RasterSurface::typeface() {
     if (!typeface_)
         typeface_ = fonts_->typeface(font_);
     return *typeface_;
@@ -107,7 +104,7 @@ void RasterSurface::fillArea(const Rect& area, OLE_COLOR color) {
 
 void RasterSurface::polygon(std::span<const Point> points, OLE_COLOR fill) {
     const Canvas target = canvas();
-    raster::fillPolygon(target, points, pixelOf(fill));
+    fillPolygon(target, points, pixelOf(fill));
     for (std::size_t i = 0; i < points.size(); ++i)
         raster::drawLine(target, points[i], points[(i + 1) % points.size()], pixelOf(foreColor_));
 }
@@ -140,8 +137,7 @@ void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const
 void RasterSurface::print(Single x, Single y, StringView text) {
     const StringView drawn = drawnPart(text);
     const Canvas target = canvas();
-    raster::TextPainter painter(
-        target, typeface(), pixelOf(foreColor_), font_.Underline, font_.Strikethrough);
+    TextPainter painter(target, typeface(), pixelOf(foreColor_), font_.Underline, font_.Strikethrough);
     const Point at = rounded(x, y);
     painter.drawLine(drawn, at.x, at.y, target.bounds());
 }
@@ -162,8 +158,7 @@ Single RasterSurface::textHeight(StringView text) {
 }
 
 Long RasterSurface::drawText(StringView text, Rect& rect, TextFormat format) {
-    raster::TextPainter painter(
-        canvas(), typeface(), pixelOf(foreColor_), font_.Underline, font_.Strikethrough);
+    TextPainter painter(canvas(), typeface(), pixelOf(foreColor_), font_.Underline, font_.Strikethrough);
     return painter.drawText(drawnPart(text), rect, format, scratch_);
 }
 
@@ -174,4 +169,4 @@ Bitmap RasterSurface::image() const {
     return bitmap;
 }
 
-} // namespace lumtex
+} // namespace lumtex::raster

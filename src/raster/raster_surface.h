@@ -10,12 +10,12 @@
 #include <optional>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::raster {
 
 /// 96 pixels per inch, white and without drawing at first. Text is drawn with `fonts`, which it shares.
 class RasterSurface final : public Surface {
   public:
-    RasterSurface(Long width, Long height, std::shared_ptr<raster::FontLibrary> fonts);
+    RasterSurface(Long width, Long height, std::shared_ptr<FontLibrary> fonts);
     ~RasterSurface() override;
 
     /// What was drawn stays in so far as it still fits; new parts show BackColor. Negative sizes count as 0.
@@ -52,21 +52,21 @@ class RasterSurface final : public Surface {
 
   private:
     /// Where to paint; carries out a clearing that was put off.
-    raster::Canvas canvas();
+    Canvas canvas();
     void carryOutClearing();
-    raster::Typeface& typeface();
+    Typeface& typeface();
 
     Long width_;
     Long height_;
-    std::vector<raster::Pixel> pixels_;
+    std::vector<Pixel> pixels_;
     /// The whole surface is this colour: a repaint clears twice in a row, and the second time counts.
-    std::optional<raster::Pixel> clearing_;
+    std::optional<Pixel> clearing_;
     OLE_COLOR backColor_ = white;
     OLE_COLOR foreColor_ = black;
     FontSpec font_{.Name = u"Verdana", .Size = 9.75F};
-    std::shared_ptr<raster::FontLibrary> fonts_;
-    std::shared_ptr<raster::Typeface> typeface_; ///< of `font_`; found when first needed
+    std::shared_ptr<FontLibrary> fonts_;
+    std::shared_ptr<Typeface> typeface_; ///< of `font_`; found when first needed
     String scratch_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::raster

@@ -6,11 +6,11 @@
 namespace lumtex {
 
 OLE_COLOR Painting::aktValueColor() const {
-    return colorOf(ColorRole::selection, properties_);
+    return drawing::colorOf(drawing::ColorRole::selection, properties_);
 }
 
 void Painting::DrawBorder() {
-    const OLE_COLOR color = colorOf(ColorRole::border, properties_);
+    const OLE_COLOR color = drawing::colorOf(drawing::ColorRole::border, properties_);
     Surface& surface = window_.surface();
     ignoringErrors([&] {
         surface.box(0,

@@ -25,9 +25,9 @@ void PaintPass::cellIconPicture() {
     Single iconBoxWidth = properties.IconW;
     statement([&] {
         if (checkBoxCell)
-            iconBoxWidth = static_cast<Single>(GetPictureWidth(surface, box));
+            iconBoxWidth = static_cast<Single>(drawing::GetPictureWidth(surface, box));
         lastIconHeight =
-            checkBoxCell ? static_cast<Single>(GetPictureHeight(surface, box)) : properties.IconH;
+            checkBoxCell ? static_cast<Single>(drawing::GetPictureHeight(surface, box)) : properties.IconH;
     });
     if (!properties.RowsDynamic) {
         // Wanted: IconH counts here for a check box too.

@@ -17,7 +17,7 @@ Long Painting::ColumnHeight() {
     if (properties_.HideColumnHeaders)
         return 0;
     Procedure p = procedure(u"ColumnHeight");
-    readFontAttributes(
+    drawing::readFontAttributes(
         properties_.DefaultColumnFont,
         [&](auto attribute) { return p.step(attribute); },
         [&](const FontSpec& font) { Picture1_->setFont(font); });

@@ -28,11 +28,11 @@ void Painting::paintDesignView() {
     if (properties_.Style == cCheckBoxes) {
         p.step([&] {
             const Picture& box = *artwork_.img[1];
-            const auto boxHeight = static_cast<Single>(GetPictureHeight(surface, box));
+            const auto boxHeight = static_cast<Single>(drawing::GetPictureHeight(surface, box));
             surface.paintPicture(box, margin, (surface.textHeight(u"A") - boxHeight) / 2 + margin);
         });
         p.step([&] {
-            const auto boxWidth = static_cast<Single>(GetPictureWidth(surface, *artwork_.img[2]));
+            const auto boxWidth = static_cast<Single>(drawing::GetPictureWidth(surface, *artwork_.img[2]));
             left = margin + boxWidth + margin;
         });
     } else {

@@ -36,7 +36,7 @@ constexpr TextFormat formatOf(cColumnHeaderAlign alignment) {
 
 void PaintPass::headerCell(HeaderLook look) {
     const Single width = columnWidthPx;
-    const StrokeFrame frame{penX, penX + width, static_cast<Single>(borderWidth), footOfHeader()};
+    const drawing::StrokeFrame frame{penX, penX + width, static_cast<Single>(borderWidth), footOfHeader()};
     const ColumnHeader& column = core.records.columnAt(counters.scanIndex);
     headerBackground(look, frame);
     OLE_COLOR color = column.ForeColor;
@@ -56,33 +56,33 @@ void PaintPass::headerCell(HeaderLook look) {
         sortArrow(column);
 }
 
-void PaintPass::headerBackground(HeaderLook look, const StrokeFrame& frame) {
+void PaintPass::headerBackground(HeaderLook look, const drawing::StrokeFrame& frame) {
     switch (look) {
     case HeaderLook::normal:
-        paintStrokes(surface, looks::headerNormal, frame, properties);
+        drawing::paintStrokes(surface, drawing::looks::headerNormal, frame, properties);
         break;
     case HeaderLook::hover:
-        paintStrokes(surface, looks::headerHover, frame, properties);
+        drawing::paintStrokes(surface, drawing::looks::headerHover, frame, properties);
         hoverBar(frame);
         break;
     case HeaderLook::down:
-        paintStrokes(surface, looks::headerDown, frame, properties);
+        drawing::paintStrokes(surface, drawing::looks::headerDown, frame, properties);
         break;
     }
 }
 
-void PaintPass::hoverBar(const StrokeFrame& frame) {
+void PaintPass::hoverBar(const drawing::StrokeFrame& frame) {
     const cColorStyle style = properties.ColorStyle;
     if (style == cXPOlive) {
-        paintStrokes(surface, looks::oliveBar, frame, properties);
+        drawing::paintStrokes(surface, drawing::looks::oliveBar, frame, properties);
         return;
     }
     if (style != cXPBlue && style != cXPSilver)
         return;
     const auto& pieces = core.painting->artwork().imgCol;
-    const Single top = frame.at({Edge::bar, 0});
+    const Single top = frame.at({drawing::Edge::bar, 0});
     surface.paintPicture(*pieces[0], frame.left, top);
-    const Single stampsLeft = frame.left + static_cast<Single>(GetPictureWidth(surface, *pieces[0]));
+    const Single stampsLeft = frame.left + static_cast<Single>(drawing::GetPictureWidth(surface, *pieces[0]));
     // Stamps off the surface are left out, so that a very wide column costs no more than the surface is wide.
     // Wanted: the stamps run one pixel past the cell; the next cell paints over it.
     const Single firstStep = std::max(0.0F, std::floor(-stampsLeft) - 1);
@@ -100,7 +100,7 @@ void PaintPass::hoverBar(const StrokeFrame& frame) {
         odd = !odd;
     }
     surface.paintPicture(
-        *pieces[3], frame.right - static_cast<Single>(GetPictureWidth(surface, *pieces[3])), top);
+        *pieces[3], frame.right - static_cast<Single>(drawing::GetPictureWidth(surface, *pieces[3])), top);
 }
 
 void PaintPass::headerContent(const ColumnHeader& column, OLE_COLOR color) {
@@ -149,7 +149,7 @@ void PaintPass::sortArrow(const ColumnHeader& column) {
     else if (column.Alignment == cColumnCenter)
         x = (penX + inset + d) + (columnWidthPx + textWidth) / 2;
     const Single y = (static_cast<Single>(core.painting->ColumnHeight()) - 5) / 2;
-    DrawArrow(surface, core.sorter->sortAscending(), x, y);
+    drawing::DrawArrow(surface, core.sorter->sortAscending(), x, y);
 }
 
 void PaintPass::emptyColumnField() {
@@ -167,10 +167,10 @@ void PaintPass::emptyColumnField() {
         penX >= surfaceWidth
             ? penX + scaleX(surface, properties.EmptyColumnFieldWidth, Unit::twips, Unit::pixels)
             : surfaceWidth;
-    paintStrokes(surface,
-                 looks::emptyField,
-                 {penX, right, static_cast<Single>(borderWidth), footOfHeader()},
-                 properties);
+    drawing::paintStrokes(surface,
+                          drawing::looks::emptyField,
+                          {penX, right, static_cast<Single>(borderWidth), footOfHeader()},
+                          properties);
 }
 
 } // namespace lumtex

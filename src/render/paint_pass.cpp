@@ -80,8 +80,9 @@ void PaintPass::paintBackgroundPicture() {
     // Wanted: the bar's Width, not its Height.
     const Single barBottom = core.scroller->horizontal().Visible() ? core.scroller->horizontal().Width() : 0;
     surface.paintPicture(picture,
-                         right - barRight - static_cast<Single>(GetPictureWidth(surface, picture)),
-                         bottom - barBottom - static_cast<Single>(GetPictureHeight(surface, picture)));
+                         right - barRight - static_cast<Single>(drawing::GetPictureWidth(surface, picture)),
+                         bottom - barBottom -
+                             static_cast<Single>(drawing::GetPictureHeight(surface, picture)));
 }
 
 void PaintPass::scrollCorner() {

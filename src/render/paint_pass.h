@@ -89,8 +89,8 @@ class PaintPass : private PaintPassValues {
     void beginHeaders();
     void headerPass();
     void headerCell(HeaderLook look);
-    void headerBackground(HeaderLook look, const StrokeFrame& frame);
-    void hoverBar(const StrokeFrame& frame);
+    void headerBackground(HeaderLook look, const drawing::StrokeFrame& frame);
+    void hoverBar(const drawing::StrokeFrame& frame);
     void headerContent(const ColumnHeader& column, OLE_COLOR textColor);
     void sortArrow(const ColumnHeader& column);
     void emptyColumnField();

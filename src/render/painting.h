@@ -40,7 +40,7 @@ class Painting : private ListPart {
     void DrawBorder();
     /// Cuts the pieces of the hover bar from the strip that `Skin` holds.
     void SplitSkin();
-    const ListViewArtwork& artwork() const { return artwork_; }
+    const drawing::ListViewArtwork& artwork() const { return artwork_; }
 
     // Where the last pass put the columns; pixels of the surface
 
@@ -55,7 +55,7 @@ class Painting : private ListPart {
     void fitColumn(Long column, Procedure& p);
 
     PaintState state_;
-    ListViewArtwork artwork_ = ListViewArtwork::standard();
+    drawing::ListViewArtwork artwork_ = drawing::ListViewArtwork::standard();
     std::unique_ptr<Surface> Picture1_; ///< measures, so that the list's own surface keeps its font
 };
 

@@ -100,7 +100,7 @@ void PaintPass::finishRow() {
             });
             return read;
         };
-        readFontAttributes(
+        drawing::readFontAttributes(
             properties.DefaultItemFont, attributeRead, [&](const FontSpec& font) { surface.setFont(font); });
         statement([&] {
             rowBandHeight = properties.RowsDynamic

@@ -8,7 +8,7 @@ namespace lumtex {
 void Scroller::CheckProperty() {
     Procedure p = procedure(u"CheckProperty");
     MemoryPropertyBag bag;
-    for (const ScrollColor& color : scrollColors) {
+    for (const bars::ScrollColor& color : bars::scrollColors) {
         p.step([&] { bag.WriteProperty(color.name, properties_.*color.field, color.bagDefault); });
     }
     p.step([&] { HS_->SetNewProperty(bag); });

@@ -22,8 +22,8 @@ class Scroller : private ListPart {
     /// How many rows fit entirely under the headers.
     Long VisibleItems();
 
-    lmVScroll& vertical() { return *VS_; }
-    lmHScroll& horizontal() { return *HS_; }
+    bars::lmVScroll& vertical() { return *VS_; }
+    bars::lmHScroll& horizontal() { return *HS_; }
     /// A bar's handler waits for the host's turn; a paint that runs meanwhile gives up.
     bool isPending() const { return state_.scrollPending; }
 
@@ -58,9 +58,9 @@ class Scroller : private ListPart {
     bool stopsWheel(Procedure& p, Long index);
 
     State state_;
-    std::unique_ptr<lmVScroll> VS_;
-    std::unique_ptr<lmHScroll> HS_;
-    std::unique_ptr<Wheel> Wheel1_;
+    std::unique_ptr<bars::lmVScroll> VS_;
+    std::unique_ptr<bars::lmHScroll> HS_;
+    std::unique_ptr<bars::Wheel> Wheel1_;
 };
 
 } // namespace lumtex

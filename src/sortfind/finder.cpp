@@ -46,7 +46,8 @@ FindResults Finder::FindItem(
     FindResults hit;
     p.step([&] {
         const bool inTags = startsWithTagMarker(sFind);
-        const FindMatcher matcher(core_.runtime(), inTags ? sFind.substr(tagMarker.size()) : sFind, cCompare);
+        const ordering::FindMatcher matcher(
+            core_.runtime(), inTags ? sFind.substr(tagMarker.size()) : sFind, cCompare);
         hit = inTags ? scanTags(matcher, p) : scanTexts(matcher);
     });
     return hit;
@@ -54,11 +55,11 @@ FindResults Finder::FindItem(
 
 /// False where the search ends at once.
 bool Finder::readNotation(
-    StringView text, Long limit, String& cachedText, NumberList& cachedList, Procedure& p) {
+    StringView text, Long limit, String& cachedText, ordering::NumberList& cachedList, Procedure& p) {
     if (text == cachedText)
         return true;
-    FindNotation notation;
-    if (!p.step([&] { notation = readFindNotation(text, limit); }))
+    ordering::FindNotation notation;
+    if (!p.step([&] { notation = ordering::readFindNotation(text, limit); }))
         return false;
     if (!notation.valid)
         return false;
@@ -110,13 +111,13 @@ FindResults Finder::noteHit(Long r, Long c) {
     return {true, r + 1, c + 1};
 }
 
-FindResults Finder::scanTexts(const FindMatcher& matcher) {
+FindResults Finder::scanTexts(const ordering::FindMatcher& matcher) {
     return scan([&](const Items& items, std::size_t cell) { return matcher.matches(items[cell].text()); },
                 [&](Long row, Long column) { list_.ItemText(row, column); });
 }
 
 /// A tag without a text form is reported and no hit.
-FindResults Finder::scanTags(const FindMatcher& matcher, Procedure& p) {
+FindResults Finder::scanTags(const ordering::FindMatcher& matcher, Procedure& p) {
     return scan(
         [&](const Items& items, std::size_t cell) {
             const CellExtras* extras = items.extras(cell);

@@ -25,16 +25,16 @@ class Finder : private ListPart {
     struct State {
         String findColumnSpec; ///< what `findColumnList` was read from
         String findRowSpec;
-        NumberList findColumnList; ///< numbers from 1
-        NumberList findRowList;
+        ordering::NumberList findColumnList; ///< numbers from 1
+        ordering::NumberList findRowList;
         Long findRowPos = 0; ///< where a continued search starts: positions in the lists, from 0
         Long findColumnPos = 0;
     };
 
-    static bool
-    readNotation(StringView text, Long limit, String& cachedText, NumberList& cachedList, Procedure& p);
-    FindResults scanTexts(const FindMatcher& matcher);
-    FindResults scanTags(const FindMatcher& matcher, Procedure& p);
+    static bool readNotation(
+        StringView text, Long limit, String& cachedText, ordering::NumberList& cachedList, Procedure& p);
+    FindResults scanTexts(const ordering::FindMatcher& matcher);
+    FindResults scanTags(const ordering::FindMatcher& matcher, Procedure& p);
     template <class Test, class Report>
     FindResults scan(Test test, Report report);
     FindResults noteHit(Long r, Long c);

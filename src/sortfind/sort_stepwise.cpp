@@ -21,9 +21,9 @@ void SortStepwise::choosePivot(Long index) {
     pivot_.clear();
     procedure_.step([&] {
         if (type_ == cSortText)
-            pivot_ = textKey(ItemText(index));
+            pivot_ = ordering::textKey(ItemText(index));
         else if (type_ == cSortNumeric || type_ == cSortDate)
-            pivot_ = pivotText(numberKey(ItemText(index), type_), type_);
+            pivot_ = ordering::pivotText(ordering::numberKey(ItemText(index), type_), type_);
     });
 }
 
@@ -34,7 +34,7 @@ bool SortStepwise::test(Long index, bool greater) {
 
 bool SortStepwise::compare(Long index, bool greater) {
     if (type_ == cSortText) {
-        const String key = textKey(ItemText(index));
+        const String key = ordering::textKey(ItemText(index));
         // Behind the array there is nothing left to scan, though no text lies before most others.
         const bool inside = index >= 0 && static_cast<std::size_t>(index) < records_.rows().size();
         return inside && (greater ? key > pivot_ : key < pivot_);
@@ -42,8 +42,8 @@ bool SortStepwise::compare(Long index, bool greater) {
     // Wanted: of any other type there is no key, so that each partition swaps all the way inwards.
     if (type_ != cSortNumeric && type_ != cSortDate)
         return false;
-    const Double key = numberKey(ItemText(index), type_);
-    const Double pivot = numberKey(pivot_, type_);
+    const Double key = ordering::numberKey(ItemText(index), type_);
+    const Double pivot = ordering::numberKey(pivot_, type_);
     return greater ? key > pivot : key < pivot;
 }
 

@@ -77,7 +77,7 @@ void Sorter::quickSort(Long Column, cSortType SortType, cSortMode order) {
     Procedure p = procedure(order == cDescending ? u"QuickSortDesc" : u"QuickSortAsc");
     p.step([&] {
         SortStepwise rows(list_, records_, p, Column, SortType, order);
-        lumtex::quickSort(rows, 0, records_.upperBoundOfRows());
+        ordering::quickSort(rows, 0, records_.upperBoundOfRows());
     });
 }
 
@@ -89,7 +89,7 @@ bool Sorter::sortAtOnce(Long Column, cSortType SortType, cSortMode order) {
     bool sorted = false;
     ignoringErrors([&] {
         const auto cell = static_cast<std::size_t>(Column) - 1;
-        const auto sources = orderAtOnce(records_.rows(), cell, SortType, order, silentError());
+        const auto sources = ordering::orderAtOnce(records_.rows(), cell, SortType, order, silentError());
         if (!sources)
             return;
         records_.rows().reorder(*sources);

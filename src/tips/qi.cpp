@@ -1,6 +1,6 @@
 #include "tips/qi.h"
 
-namespace lumtex {
+namespace lumtex::tips {
 
 Procedure QI::procedure(StringView name) const {
     return {world_.runtime(), name, ModuleKind::classModule, u"QI"};
@@ -31,4 +31,4 @@ void QI::Remove(const ObjectRef& Control) {
     p.step([&] { needToolTip().RemoveTool(Control); });
 }
 
-} // namespace lumtex
+} // namespace lumtex::tips

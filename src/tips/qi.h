@@ -7,9 +7,11 @@
 
 #include <memory>
 
-namespace lumtex {
-
+namespace lumtex::about {
 class LumtexAbout;
+} // namespace lumtex::about
+
+namespace lumtex::tips {
 
 /// Owns one `lmToolTip`, made on first need. The world must outlive it.
 class QI {
@@ -32,7 +34,7 @@ class QI {
 
     World& world_;
     std::unique_ptr<lmToolTip> toolTip_;
-    std::shared_ptr<LumtexAbout> about_;
+    std::shared_ptr<about::LumtexAbout> about_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::tips

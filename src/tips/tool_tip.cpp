@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <array>
 
-namespace lumtex {
+namespace lumtex::tips {
 
 namespace {
 
@@ -179,4 +179,4 @@ void lmToolTip::letMaxTipWidth(Integer width) {
         window_->setMaxWidth(width < 1 ? noWidthLimit : width);
 }
 
-} // namespace lumtex
+} // namespace lumtex::tips

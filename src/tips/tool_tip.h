@@ -10,7 +10,7 @@
 #include <memory>
 #include <optional>
 
-namespace lumtex {
+namespace lumtex::tips {
 
 /// Holds one tool per control. Controls are objects of the host: what has a `hwnd` can have a tip, and its
 /// `Container`, if it has one, is the window in which the tip lies.
@@ -65,4 +65,4 @@ class lmToolTip {
     std::size_t longestText_ = 0; ///< of all texts so far, with a closing zero; as much is read back
 };
 
-} // namespace lumtex
+} // namespace lumtex::tips

@@ -12,7 +12,7 @@
 namespace lumtex::testing {
 namespace {
 
-using Control = LumtexAbout::Control;
+using Control = about::LumtexAbout::Control;
 
 class About : public ::testing::Test {
   protected:
@@ -21,13 +21,13 @@ class About : public ::testing::Test {
         runtime.clock = Date{46347.5}; // 2026-11-21
     }
 
-    LumtexAbout& shown() {
+    about::LumtexAbout& shown() {
         form->Show();
         return *form;
     }
-    HeadlessWindow& window() { return static_cast<RecordingWindow&>(shown().window()).inner(); }
+    headless::HeadlessWindow& window() { return static_cast<RecordingWindow&>(shown().window()).inner(); }
     /// The three labels as they were written last: the name, the credit line, the link.
-    static std::vector<std::string> written(LumtexAbout& form) {
+    static std::vector<std::string> written(about::LumtexAbout& form) {
         std::vector<std::string> labels =
             static_cast<RecordingWindow&>(form.window()).recorder().lines("Print ");
         labels.erase(labels.begin(), labels.end() - std::min<std::ptrdiff_t>(3, std::ssize(labels)));
@@ -47,10 +47,10 @@ class About : public ::testing::Test {
         runtime.letSetting(u"SOFTWARE\\Lumtex", u"ApplicationsPath", path);
     }
 
-    Desktop desktop{testFonts()};
-    HeadlessRuntime& runtime = desktop.runtime();
+    headless::Desktop desktop{testFonts()};
+    headless::HeadlessRuntime& runtime = desktop.runtime();
     RecordingWorld world{desktop};
-    std::shared_ptr<LumtexAbout> form = LumtexAbout::of(world);
+    std::shared_ptr<about::LumtexAbout> form = about::LumtexAbout::of(world);
 };
 
 TEST_F(About, LooksLikeThis) {
@@ -58,7 +58,7 @@ TEST_F(About, LooksLikeThis) {
 }
 
 TEST_F(About, HasTheSizeOfItsBackgroundInTheMiddleOfTheScreen) {
-    const Bitmap& background = AboutArtwork::standard().background->bitmap();
+    const Bitmap& background = about::AboutArtwork::standard().background->bitmap();
     const Window& window = shown().window();
     EXPECT_EQ(window.Width(), static_cast<Single>(background.width));
     EXPECT_EQ(window.Height(), static_cast<Single>(background.height));
@@ -71,9 +71,9 @@ TEST_F(About, TellsNameAndVersion) {
 }
 
 TEST_F(About, NameAndVersionAreThoseOfTheTree) {
-    Desktop fresh(testFonts());
+    headless::Desktop fresh(testFonts());
     RecordingWorld around(fresh);
-    const auto other = LumtexAbout::of(around);
+    const auto other = about::LumtexAbout::of(around);
     other->Show();
     EXPECT_EQ(written(*other).at(0),
               "LumtexListView v" + std::to_string(versionMajor) + "." + std::to_string(versionMinor) + "." +
@@ -126,12 +126,12 @@ TEST_F(About, APressThatIsReleasedOverSomethingElseIsNoClick) {
 }
 
 TEST_F(About, OverLinkAndHelpThePointerIsAHand) {
-    HeadlessWindow& window = this->window();
+    headless::HeadlessWindow& window = this->window();
     for (const Control control : {Control::lblLink, Control::imgHelp}) {
         const Rect& place = form->place(control);
         desktop.move(window, static_cast<Single>(place.Left), static_cast<Single>(place.Top));
         EXPECT_EQ(window.MousePointer(), CursorShape::custom);
-        EXPECT_EQ(window.MouseIcon(), AboutArtwork::standard().hand);
+        EXPECT_EQ(window.MouseIcon(), about::AboutArtwork::standard().hand);
         desktop.move(window, static_cast<Single>(place.Right), static_cast<Single>(place.Bottom));
         EXPECT_EQ(window.MousePointer(), CursorShape::standard);
         EXPECT_EQ(window.MouseIcon(), nullptr);
@@ -193,17 +193,17 @@ TEST_F(About, F1ActsAsAClickOnHelp) {
 }
 
 TEST_F(About, IsOneFormForAllWhoShowIt) {
-    EXPECT_EQ(LumtexAbout::of(world), form);
-    Desktop other(testFonts());
-    EXPECT_NE(LumtexAbout::of(other), form);
+    EXPECT_EQ(about::LumtexAbout::of(world), form);
+    headless::Desktop other(testFonts());
+    EXPECT_NE(about::LumtexAbout::of(other), form);
 }
 
 TEST_F(About, GoesWithTheLastWhoHoldsIt) {
-    const std::weak_ptr<LumtexAbout> watched = form;
+    const std::weak_ptr<about::LumtexAbout> watched = form;
     shown();
     form.reset();
     EXPECT_TRUE(watched.expired());
-    form = LumtexAbout::of(world);
+    form = about::LumtexAbout::of(world);
     EXPECT_FALSE(form->Visible());
 }
 
@@ -214,13 +214,13 @@ class AboutEntries : public ::testing::Test {
 
     std::vector<std::string> forms() { return std::exchange(world.forms, {}); }
 
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     RecordingWorld world{desktop};
     TestHost host;
     RecordingEvents events;
     lmListView list{world, host, events};
     ListViewInspector inside{list};
-    QI qi{world};
+    tips::QI qi{world};
 };
 
 TEST_F(AboutEntries, TheListShowsTheFormModally) {
@@ -233,16 +233,16 @@ TEST_F(AboutEntries, TheListShowsTheFormModally) {
     list.About();
     EXPECT_TRUE(sameLog(log, {"open", "hidden"}));
     EXPECT_TRUE(sameLog(forms(), {"modal", "hide", "modal end", "hide"}));
-    EXPECT_FALSE(LumtexAbout::of(world)->Visible());
+    EXPECT_FALSE(about::LumtexAbout::of(world)->Visible());
 }
 
 TEST_F(AboutEntries, TheBarsShowTheFormAndReturn) {
     inside.vertical().About();
-    const auto form = LumtexAbout::of(world);
+    const auto form = about::LumtexAbout::of(world);
     EXPECT_TRUE(form->Visible());
     EXPECT_TRUE(sameLog(forms(), {"show"}));
     inside.horizontal().About();
-    EXPECT_EQ(LumtexAbout::of(world), form);
+    EXPECT_EQ(about::LumtexAbout::of(world), form);
     EXPECT_TRUE(sameLog(forms(), {"show"}));
     desktop.click(form->window(), 200, 150);
     EXPECT_FALSE(form->Visible());
@@ -263,7 +263,7 @@ TEST_F(AboutEntries, AFormThatIsModalAlreadyIsNotShownTwice) {
     };
     list.About();
     EXPECT_EQ(opened, 1);
-    EXPECT_FALSE(LumtexAbout::of(world)->Visible());
+    EXPECT_FALSE(about::LumtexAbout::of(world)->Visible());
 }
 
 TEST_F(AboutEntries, AModelessFormBecomesModal) {
@@ -298,7 +298,7 @@ TEST_F(AboutEntries, AFormThatCannotBeLoadedIsReportedByTheEntry) {
     EXPECT_TRUE(text.starts_with(u"Error no.: 6\r\n"));
     EXPECT_NE(text.find(u"Module: Benutzersteuerelement lmListView\r\nLine/Procedure: 0/About\r\n"),
               String::npos);
-    EXPECT_FALSE(LumtexAbout::of(world)->Visible());
+    EXPECT_FALSE(about::LumtexAbout::of(world)->Visible());
     inside.vertical().About();
     inside.horizontal().About();
     qi.About();
@@ -312,7 +312,7 @@ TEST_F(AboutEntries, AFormThatCannotBeLoadedIsReportedByTheEntry) {
 }
 
 TEST(AboutPictures, TheBackgroundIsOpaqueAndTheOthersLetItThrough) {
-    const AboutArtwork artwork = AboutArtwork::standard();
+    const about::AboutArtwork artwork = about::AboutArtwork::standard();
     for (const std::uint32_t pixel : artwork.background->bitmap().pixels)
         ASSERT_EQ(pixel >> 24U, 0xFFU);
     for (const PictureRef& picture : {artwork.title, artwork.help, artwork.hand})
@@ -321,7 +321,7 @@ TEST(AboutPictures, TheBackgroundIsOpaqueAndTheOthersLetItThrough) {
 
 TEST(AboutPictures, AreDrawnLikeThis) {
     constexpr Long gap = 4; // pixels
-    const AboutArtwork artwork = AboutArtwork::standard();
+    const about::AboutArtwork artwork = about::AboutArtwork::standard();
     const PictureRef pictures[] = {artwork.background, artwork.title, artwork.help, artwork.hand};
     Long width = 0;
     Long height = gap;
@@ -329,7 +329,7 @@ TEST(AboutPictures, AreDrawnLikeThis) {
         width = std::max(width, picture->bitmap().width);
         height += picture->bitmap().height + gap;
     }
-    RasterSurface sheet(width, height, testFonts());
+    raster::RasterSurface sheet(width, height, testFonts());
     sheet.letBackColor(0x808000);
     Long top = gap;
     for (const PictureRef& picture : pictures) {
@@ -340,7 +340,7 @@ TEST(AboutPictures, AreDrawnLikeThis) {
 }
 
 TEST(AboutPictures, NoPixelIsBrighterThanItsAlphaAllows) {
-    const AboutArtwork artwork = AboutArtwork::standard();
+    const about::AboutArtwork artwork = about::AboutArtwork::standard();
     for (const PictureRef& picture : {artwork.background, artwork.title, artwork.help, artwork.hand}) {
         for (const std::uint32_t pixel : picture->bitmap().pixels) {
             for (const unsigned shift : {0U, 8U, 16U})

@@ -40,8 +40,8 @@ class Apartment : public PlacedControl {
         EXPECT_EQ(CoMarshalInterThreadInterfaceInStream(IID_IDispatch, dispatch.get(), &stream), S_OK);
         return stream;
     }
-    static ComRef<IDispatch> unpacked(IStream* stream) {
-        ComRef<IDispatch> list;
+    static win32::ComRef<IDispatch> unpacked(IStream* stream) {
+        win32::ComRef<IDispatch> list;
         CoGetInterfaceAndReleaseStream(stream, IID_IDispatch, reinterpret_cast<void**>(list.out()));
         return list;
     }
@@ -93,11 +93,11 @@ TEST_F(Apartment, DirectCallsFromAnotherThreadAreRefusedOnEachInterface) {
     QACONTROL to{};
     to.cbSize = sizeof(to);
     EventSink sink;
-    const ComRef<IConnectionPoint> point = eventPointOf(control);
+    const win32::ComRef<IConnectionPoint> point = eventPointOf(control);
     std::vector<HRESULT> results;
     elsewhere(COINIT_APARTMENTTHREADED, [&] {
         DWORD cookie = 0;
-        ComRef<IEnumConnectionPoints> all;
+        win32::ComRef<IEnumConnectionPoints> all;
         results = {
             invoke(dispatch.get(), DISPID{9}, DISPATCH_PROPERTYGET, {}).result,
             object->SetClientSite(&container),
@@ -171,12 +171,12 @@ TEST_F(Apartment, TheEndComesOnTheControlsOwnThreadWhoeverLetsGoLast) {
     for (int round = 0; round < 20; ++round) {
         DWORD endedOn = 0;
         Witness witness(endedOn);
-        ComRef<IUnknown> made = component.make("lmListView");
+        win32::ComRef<IUnknown> made = component.make("lmListView");
         IUnknown* const list = made.get();
         list->AddRef();
         made = {};
         {
-            const ComRef<IDispatch> other = ComRef<IUnknown>(list).as<IDispatch>();
+            const win32::ComRef<IDispatch> other = win32::ComRef<IUnknown>(list).as<IDispatch>();
             ASSERT_TRUE(other);
             invoke(other.get(), L"ColumnsAdd", DISPATCH_METHOD, {u"a"});
             invoke(other.get(), L"RowsAdd", DISPATCH_METHOD, {Long{-1}, u",", u"x"});

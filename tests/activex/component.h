@@ -42,11 +42,12 @@ class Component {
     HRESULT install(bool on) const { return install_(on ? TRUE : FALSE, L"user"); }
 
     /// A new object of the class; throws RuntimeError where it cannot be made.
-    ComRef<IUnknown> make(std::string_view className, IUnknown* outer = nullptr) const {
-        ComRef<IClassFactory> factory;
-        demand(classObject(guidOf(className), IID_IClassFactory, reinterpret_cast<void**>(factory.out())));
-        ComRef<IUnknown> object;
-        demand(factory->CreateInstance(outer, IID_IUnknown, reinterpret_cast<void**>(object.out())));
+    win32::ComRef<IUnknown> make(std::string_view className, IUnknown* outer = nullptr) const {
+        win32::ComRef<IClassFactory> factory;
+        win32::demand(classObject(
+            win32::guidOf(className), IID_IClassFactory, reinterpret_cast<void**>(factory.out())));
+        win32::ComRef<IUnknown> object;
+        win32::demand(factory->CreateInstance(outer, IID_IUnknown, reinterpret_cast<void**>(object.out())));
         return object;
     }
 
@@ -84,8 +85,8 @@ inline Called invoke(IDispatch* object, DISPID id, WORD kind, std::vector<VARIAN
         parameters.cNamedArgs = 1;
     }
     Called called;
-    OwnedVARIANT value;
-    CallDetails details;
+    win32::OwnedVARIANT value;
+    win32::CallDetails details;
     called.result = object->Invoke(id,
                                    IID_NULL,
                                    LOCALE_USER_DEFAULT,
@@ -94,17 +95,17 @@ inline Called invoke(IDispatch* object, DISPID id, WORD kind, std::vector<VARIAN
                                    value.out(),
                                    details.out(),
                                    &called.wrongArgument);
-    called.value = fromVARIANT(value.get());
+    called.value = win32::fromVARIANT(value.get());
     return called;
 }
 
 /// The same with our own values, which outlive the call.
 inline Called
 invoke(IDispatch* object, const wchar_t* name, WORD kind, const std::vector<Variant>& arguments = {}) {
-    std::vector<OwnedVARIANT> held;
+    std::vector<win32::OwnedVARIANT> held;
     std::vector<VARIANT> plain;
     for (const Variant& argument : arguments) {
-        held.push_back(toVARIANT(argument));
+        held.push_back(win32::toVARIANT(argument));
         plain.push_back(held.back().get());
     }
     return invoke(object, idOf(object, name), kind, plain);
@@ -126,7 +127,7 @@ class ListFixture : public ::testing::Test {
 
     Variant get(const wchar_t* name, const std::vector<Variant>& arguments = {}) {
         const Called called = invoke(dispatch.get(), name, DISPATCH_PROPERTYGET, arguments);
-        EXPECT_EQ(called.result, S_OK) << toUtf8(textOf(name));
+        EXPECT_EQ(called.result, S_OK) << toUtf8(win32::textOf(name));
         return called.value;
     }
     HRESULT let(const wchar_t* name, const std::vector<Variant>& argumentsAndValue) {
@@ -144,14 +145,14 @@ class ListFixture : public ::testing::Test {
     }
 
     void silence(bool on) const {
-        const ComRef<IUnknown> error = component.make("Error");
+        const win32::ComRef<IUnknown> error = component.make("Error");
         invoke(error.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
     }
 
     BoxWatch watch;
     Component component;
-    ComRef<IUnknown> control = component.make("lmListView");
-    ComRef<IDispatch> dispatch = control.as<IDispatch>();
+    win32::ComRef<IUnknown> control = component.make("lmListView");
+    win32::ComRef<IDispatch> dispatch = control.as<IDispatch>();
 };
 
 inline VARIANT referenceTo(VARIANT& value) {

@@ -34,7 +34,7 @@ class InContainer : public ListFixture {
     }
 
     SmallContainer container;
-    ComRef<IOleObject> object = control.as<IOleObject>();
+    win32::ComRef<IOleObject> object = control.as<IOleObject>();
 };
 
 TEST_F(InContainer, TheControlTakesItsPlaceInTheWindow) {
@@ -175,7 +175,7 @@ TEST_F(InContainer, SettingsGoThroughABag) {
     EXPECT_EQ(bag.values[u"GridLines"], Variant(true));
     EXPECT_EQ(bag.values[u"WheelScrollLines"], Variant(Long{7}));
     EXPECT_FALSE(bag.values.contains(u"BackColor")) << "a default takes no place";
-    const ComRef<IUnknown> other = component.make("lmListView");
+    const win32::ComRef<IUnknown> other = component.make("lmListView");
     ASSERT_EQ(other.as<IPersistPropertyBag>()->Load(&bag, nullptr), S_OK);
     const auto loaded = other.as<IDispatch>();
     EXPECT_EQ(invoke(loaded.get(), L"GridLines", DISPATCH_PROPERTYGET).value, Variant(true));
@@ -187,14 +187,14 @@ TEST_F(InContainer, SettingsGoThroughABag) {
 TEST_F(InContainer, SettingsGoThroughAStream) {
     let(L"GridLines", {true});
     let(L"IndentLeft", {Single{5}});
-    ComRef<IStream> stream;
-    demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
+    win32::ComRef<IStream> stream;
+    win32::demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
     const auto persist = control.as<IPersistStreamInit>();
     EXPECT_EQ(persist->IsDirty(), S_OK);
     ASSERT_EQ(persist->Save(stream.get(), TRUE), S_OK);
     EXPECT_EQ(persist->IsDirty(), S_FALSE);
     stream->Seek({}, STREAM_SEEK_SET, nullptr);
-    const ComRef<IUnknown> other = component.make("lmListView");
+    const win32::ComRef<IUnknown> other = component.make("lmListView");
     ASSERT_EQ(other.as<IPersistStreamInit>()->Load(stream.get()), S_OK);
     const auto loaded = other.as<IDispatch>();
     EXPECT_EQ(invoke(loaded.get(), L"GridLines", DISPATCH_PROPERTYGET).value, Variant(true));
@@ -209,11 +209,11 @@ TEST_F(InContainer, AFontGoesThroughAStream) {
     ASSERT_EQ(invoke(dispatch.get(), L"DefaultItemFont", DISPATCH_PROPERTYPUTREF, {Variant(FontRef(changed))})
                   .result,
               S_OK);
-    ComRef<IStream> stream;
-    demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
+    win32::ComRef<IStream> stream;
+    win32::demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
     ASSERT_EQ(control.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
     stream->Seek({}, STREAM_SEEK_SET, nullptr);
-    const ComRef<IUnknown> other = component.make("lmListView");
+    const win32::ComRef<IUnknown> other = component.make("lmListView");
     ASSERT_EQ(other.as<IPersistStreamInit>()->Load(stream.get()), S_OK);
     const Called read = invoke(other.as<IDispatch>().get(), L"DefaultItemFont", DISPATCH_PROPERTYGET);
     EXPECT_TRUE(read.value.toFont()->spec.Bold);
@@ -222,25 +222,25 @@ TEST_F(InContainer, AFontGoesThroughAStream) {
 TEST_F(InContainer, ADamagedStreamIsRefused) {
     for (const std::string& bytes :
          {std::string("nonsense"), std::string("LMLV\1\0\0\0\xff\xff\xff\xff", 12), std::string()}) {
-        ComRef<IStream> stream;
-        demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
+        win32::ComRef<IStream> stream;
+        win32::demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
         stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
         stream->Seek({}, STREAM_SEEK_SET, nullptr);
-        const ComRef<IUnknown> other = component.make("lmListView");
-        EXPECT_EQ(other.as<IPersistStreamInit>()->Load(stream.get()), resultOf(321));
+        const win32::ComRef<IUnknown> other = component.make("lmListView");
+        EXPECT_EQ(other.as<IPersistStreamInit>()->Load(stream.get()), win32::resultOf(321));
     }
     EXPECT_EQ(control.as<IPersistStreamInit>()->Load(nullptr), E_POINTER);
 }
 
 TEST_F(InContainer, SettingsGoThroughAStorage) {
     let(L"ColumnTextY", {Long{9}});
-    ComRef<ILockBytes> bytes;
-    demand(CreateILockBytesOnHGlobal(nullptr, TRUE, bytes.out()));
-    ComRef<IStorage> storage;
-    demand(StgCreateDocfileOnILockBytes(
+    win32::ComRef<ILockBytes> bytes;
+    win32::demand(CreateILockBytesOnHGlobal(nullptr, TRUE, bytes.out()));
+    win32::ComRef<IStorage> storage;
+    win32::demand(StgCreateDocfileOnILockBytes(
         bytes.get(), STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0, storage.out()));
     ASSERT_EQ(control.as<IPersistStorage>()->Save(storage.get(), TRUE), S_OK);
-    const ComRef<IUnknown> other = component.make("lmListView");
+    const win32::ComRef<IUnknown> other = component.make("lmListView");
     ASSERT_EQ(other.as<IPersistStorage>()->Load(storage.get()), S_OK);
     EXPECT_EQ(invoke(other.as<IDispatch>().get(), L"ColumnTextY", DISPATCH_PROPERTYGET).value,
               Variant(Long{9}));
@@ -291,7 +291,7 @@ TEST_F(InContainer, EachInterfaceLeadsToEachOther) {
                                IID_IQuickActivate,
                                IID_ISupportErrorInfo};
     for (const GUID& iid : interfaces) {
-        ComRef<IUnknown> face;
+        win32::ComRef<IUnknown> face;
         ASSERT_EQ(control->QueryInterface(iid, reinterpret_cast<void**>(face.out())), S_OK);
         EXPECT_EQ(face.as<IUnknown>().get(), control.get());
         EXPECT_TRUE(face.as<IDispatch>());

@@ -8,9 +8,9 @@ class DefaultFont : public ListFixture {
   protected:
     DefaultFont() { fill(1, {u"a"}); }
 
-    ComRef<IDispatch> font() {
-        OwnedVARIANT object = toVARIANT(get(L"DefaultItemFont"));
-        return ComRef<IDispatch>(V_DISPATCH(&object.get()));
+    win32::ComRef<IDispatch> font() {
+        win32::OwnedVARIANT object = win32::toVARIANT(get(L"DefaultItemFont"));
+        return win32::ComRef<IDispatch>(V_DISPATCH(&object.get()));
     }
     static Variant of(IDispatch* object, const wchar_t* name) {
         return invoke(object, name, DISPATCH_PROPERTYGET).value;

@@ -209,7 +209,7 @@ class Parameters : public ListFixture {
                               static_cast<UINT>(arguments.size()),
                               static_cast<UINT>(named.size())};
         EXCEPINFO details{};
-        OwnedVARIANT value;
+        win32::OwnedVARIANT value;
         Outcome outcome{S_OK, noPlace};
         outcome.result = dispatch->Invoke(
             id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, value.out(), &details, &outcome.place);
@@ -360,7 +360,7 @@ TEST_F(Parameters, ByReferenceComeBackAsCurrencyAndDecimal) {
 TEST_F(Parameters, ByReferenceComeBackAsText) {
     BSTR place = SysAllocString(L"77");
     EXPECT_EQ(addRow(VT_BSTR, &place), S_OK);
-    EXPECT_EQ(textOf(place), u"2");
+    EXPECT_EQ(win32::textOf(place), u"2");
     SysFreeString(place);
 }
 
@@ -384,7 +384,7 @@ TEST_F(Parameters, SeveralByReferenceComeBackEachToItsOwn) {
     EXPECT_EQ(column, 1);
     EXPECT_EQ(mode, 1);
     ASSERT_EQ(V_VT(&type), VT_BSTR) << "the list leaves this one as it is";
-    EXPECT_EQ(textOf(V_BSTR(&type)), u"0");
+    EXPECT_EQ(win32::textOf(V_BSTR(&type)), u"0");
     VariantClear(&type);
 }
 

@@ -48,7 +48,7 @@ class Drag : public ListFixture {
         control = component.make("lmListView");
         dispatch = control.as<IDispatch>();
         point = eventPointOf(control);
-        demand(point->Advise(&sink, &cookie));
+        win32::demand(point->Advise(&sink, &cookie));
         get(L"RowsCount");
         control.as<IOleWindow>()->GetWindow(&window);
     }
@@ -60,10 +60,10 @@ class Drag : public ListFixture {
         control = {};
     }
 
-    ComRef<IDropTarget> target() { return dropTargetOf(window); }
+    win32::ComRef<IDropTarget> target() { return dropTargetOf(window); }
 
     EventSink sink;
-    ComRef<IConnectionPoint> point;
+    win32::ComRef<IConnectionPoint> point;
     DWORD cookie = 0;
     HWND window = nullptr;
     DraggedData dragged;
@@ -108,7 +108,7 @@ TEST_F(Drag, TheHostReadsTheNamesOfFiles) {
     HRESULT third = S_OK;
     sink.handlers[oleDragDrop] = [&](auto arguments) {
         const Called files = invoke(*V_DISPATCHREF(arguments[0]), L"Files", DISPATCH_PROPERTYGET);
-        const auto names = toIDispatch(files.value.toObject());
+        const auto names = win32::toIDispatch(files.value.toObject());
         count = invoke(names.get(), L"Count", DISPATCH_PROPERTYGET).value;
         second = invoke(names.get(), L"Item", DISPATCH_PROPERTYGET, {Long{2}}).value;
         third = invoke(names.get(), L"Item", DISPATCH_PROPERTYGET, {Long{3}}).result;
@@ -122,9 +122,9 @@ TEST_F(Drag, TheHostReadsTheNamesOfFiles) {
 TEST_F(Drag, TheModuleStaysWhileAHostHoldsTheData) {
     dragged.letText(CF_TEXT, "kept");
     let(L"OLEDropMode", {Integer{1}});
-    ComRef<IDispatch> kept;
+    win32::ComRef<IDispatch> kept;
     sink.handlers[oleDragDrop] = [&](auto arguments) {
-        kept = ComRef<IDispatch>(*V_DISPATCHREF(arguments[0]));
+        kept = win32::ComRef<IDispatch>(*V_DISPATCHREF(arguments[0]));
     };
     ASSERT_EQ(target()->Drop(&dragged, 0, {}, &effect), S_OK);
     letGo();

@@ -33,7 +33,7 @@ TEST_F(EntryPoints, KnowNoOtherClass) {
     void* found = &component;
     EXPECT_EQ(component.classObject(IID_IDispatch, IID_IClassFactory, &found), CLASS_E_CLASSNOTAVAILABLE);
     EXPECT_EQ(found, nullptr);
-    EXPECT_EQ(component.classObject(guidOf("SpEv"), IID_IClassFactory, nullptr), E_POINTER);
+    EXPECT_EQ(component.classObject(win32::guidOf("SpEv"), IID_IClassFactory, nullptr), E_POINTER);
 }
 
 /// The host's object around a control: the control's interfaces are its own.
@@ -50,7 +50,7 @@ class Outer final : public IUnknown {
     ULONG STDMETHODCALLTYPE Release() override { return --references; }
 
     ULONG references = 1;
-    ComRef<IUnknown> inner;
+    win32::ComRef<IUnknown> inner;
 };
 
 TEST_F(EntryPoints, AControlCanLiveInsideTheHostsObject) {
@@ -58,7 +58,7 @@ TEST_F(EntryPoints, AControlCanLiveInsideTheHostsObject) {
         Outer outer;
         outer.inner = component.make("lmListView", &outer);
         {
-            const auto dispatch = queryFor<IDispatch>(static_cast<IUnknown*>(&outer));
+            const auto dispatch = win32::queryFor<IDispatch>(static_cast<IUnknown*>(&outer));
             ASSERT_TRUE(dispatch);
             EXPECT_EQ(outer.references, 2U);
             EXPECT_EQ(dispatch.as<IUnknown>().get(), &outer);
@@ -71,10 +71,10 @@ TEST_F(EntryPoints, AControlCanLiveInsideTheHostsObject) {
 
 TEST_F(EntryPoints, OnlyTheControlCanLiveInside) {
     Outer outer;
-    ComRef<IClassFactory> factory;
-    ASSERT_EQ(
-        component.classObject(guidOf("SpEv"), IID_IClassFactory, reinterpret_cast<void**>(factory.out())),
-        S_OK);
+    win32::ComRef<IClassFactory> factory;
+    ASSERT_EQ(component.classObject(
+                  win32::guidOf("SpEv"), IID_IClassFactory, reinterpret_cast<void**>(factory.out())),
+              S_OK);
     void* made = nullptr;
     EXPECT_EQ(factory->CreateInstance(&outer, IID_IUnknown, &made), CLASS_E_NOAGGREGATION);
     EXPECT_EQ(made, nullptr);

@@ -17,7 +17,7 @@ class EventSink final : public IDispatch {
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** found) override {
         *found = nullptr;
-        const bool events = IsEqualIID(iid, guidOf("__lmListView"));
+        const bool events = IsEqualIID(iid, win32::guidOf("__lmListView"));
         if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IDispatch) && !events)
             return E_NOINTERFACE;
         *found = static_cast<IDispatch*>(this);
@@ -59,9 +59,10 @@ class EventSink final : public IDispatch {
     std::map<DISPID, Handler> handlers;
 };
 
-inline ComRef<IConnectionPoint> eventPointOf(const ComRef<IUnknown>& control) {
-    ComRef<IConnectionPoint> point;
-    demand(control.as<IConnectionPointContainer>()->FindConnectionPoint(guidOf("__lmListView"), point.out()));
+inline win32::ComRef<IConnectionPoint> eventPointOf(const win32::ComRef<IUnknown>& control) {
+    win32::ComRef<IConnectionPoint> point;
+    win32::demand(control.as<IConnectionPointContainer>()->FindConnectionPoint(win32::guidOf("__lmListView"),
+                                                                               point.out()));
     return point;
 }
 

@@ -12,14 +12,14 @@ constexpr DISPID sortDone = 20;
 
 class Events : public ListFixture {
   protected:
-    Events() { demand(point->Advise(&sink, &cookie)); }
+    Events() { win32::demand(point->Advise(&sink, &cookie)); }
     ~Events() override {
         point->Unadvise(cookie);
         point = {};
     }
 
     EventSink sink;
-    ComRef<IConnectionPoint> point = eventPointOf(control);
+    win32::ComRef<IConnectionPoint> point = eventPointOf(control);
     DWORD cookie = 0;
 };
 
@@ -94,7 +94,7 @@ TEST_F(Events, TheHostMayCallTheListInAnEvent) {
 }
 
 TEST_F(Events, TheConnectionsCanBeListed) {
-    ComRef<IEnumConnections> connections;
+    win32::ComRef<IEnumConnections> connections;
     ASSERT_EQ(point->EnumConnections(connections.out()), S_OK);
     CONNECTDATA data{};
     ULONG fetched = 0;
@@ -125,7 +125,7 @@ class NotifySink final : public IPropertyNotifySink {
 TEST_F(Events, AChangedPropertyIsToldByItsNumber) {
     get(L"GridLines");
     NotifySink notify;
-    ComRef<IConnectionPoint> changes;
+    win32::ComRef<IConnectionPoint> changes;
     ASSERT_EQ(
         control.as<IConnectionPointContainer>()->FindConnectionPoint(IID_IPropertyNotifySink, changes.out()),
         S_OK);

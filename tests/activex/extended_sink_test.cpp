@@ -80,7 +80,7 @@ class ExtendedSinks : public ListFixture {
   protected:
     ExtendedSinks() {
         fill(1, {u"b", u"a", u"c"});
-        demand(point->Advise(&sink, &cookie));
+        win32::demand(point->Advise(&sink, &cookie));
         let(L"ListIndex", {Long{1}});
         sink.plain.raised.clear();
     }
@@ -96,7 +96,7 @@ class ExtendedSinks : public ListFixture {
         sink.plain.handlers[keyDown] = [&](auto arguments) {
             VARIANT* place = V_VARIANTREF(arguments[0]);
             VariantClear(place);
-            *place = toVARIANT(key).release();
+            *place = win32::toVARIANT(key).release();
         };
         const Long before = get(L"ListIndex").toLong();
         HWND window = nullptr;
@@ -108,7 +108,7 @@ class ExtendedSinks : public ListFixture {
     }
 
     ExtendedSink sink;
-    ComRef<IConnectionPoint> point = eventPointOf(control);
+    win32::ComRef<IConnectionPoint> point = eventPointOf(control);
     DWORD cookie = 0;
 };
 
@@ -177,7 +177,7 @@ TEST_F(ExtendedSinks, MayPutAnObjectWhereAnIndexWas) {
         VARIANT* place = V_VARIANTREF(arguments[0]);
         VariantClear(place);
         V_VT(place) = VT_DISPATCH;
-        V_DISPATCH(place) = ComRef<IDispatch>(dispatch).detach();
+        V_DISPATCH(place) = win32::ComRef<IDispatch>(dispatch).detach();
     };
     EXPECT_EQ(let(L"ListIndex", {Long{77}}), S_OK);
     EXPECT_EQ(sink.plain.raised, std::vector<DISPID>{errorWrongIndex});

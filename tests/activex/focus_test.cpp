@@ -27,7 +27,7 @@ class Focus : public PlacedControl {
   protected:
     void SetUp() override {
         ASSERT_NE(container.window, nullptr) << "no display";
-        demand(point->Advise(&sink, &cookie));
+        win32::demand(point->Advise(&sink, &cookie));
     }
     ~Focus() override {
         point->Unadvise(cookie);
@@ -50,13 +50,13 @@ class Focus : public PlacedControl {
         dispatch = control.as<IDispatch>();
         object = control.as<IOleObject>();
         point = eventPointOf(control);
-        demand(point->Advise(&sink, &cookie));
+        win32::demand(point->Advise(&sink, &cookie));
     }
     /// Has the list run the messages that wait.
     void yield() { get(L"ListIndex"); }
 
     EventSink sink;
-    ComRef<IConnectionPoint> point = eventPointOf(control);
+    win32::ComRef<IConnectionPoint> point = eventPointOf(control);
     DWORD cookie = 0;
     Neighbour neighbour{container.window};
 };
@@ -110,7 +110,7 @@ TEST_F(Focus, TheEditorOfACellIsPartOfTheList) {
     place(OLEIVERB_UIACTIVATE);
     fill(1, {u"a"});
     call(L"SetEdit", {Long{1}, Long{1}});
-    HWND editor = toHWND(get(L"hwndEdit").toLong());
+    HWND editor = win32::toHWND(get(L"hwndEdit").toLong());
     SetFocus(editor);
     ASSERT_EQ(GetFocus(), editor);
     EXPECT_EQ(container.focused, std::vector<bool>{true});
@@ -135,7 +135,7 @@ TEST_F(Focus, AContainerMayTakeTheControlAwayForAKey) {
     HWND window = this->window();
     container.onTab = [&] { takeAway(); };
     MSG tab{window, WM_KEYDOWN, VK_TAB, 0, 0, {}};
-    ComRef<IOleInPlaceActiveObject> active = container.active;
+    win32::ComRef<IOleInPlaceActiveObject> active = container.active;
     EXPECT_EQ(active->TranslateAccelerator(&tab), S_FALSE);
     active = {};
     EXPECT_FALSE(IsWindow(window));
@@ -159,7 +159,7 @@ TEST_F(Focus, EnterBelongsToTheEditorWhileItIsOpen) {
     EXPECT_EQ(container.told.back(), "TranslateAccelerator " + std::to_string(VK_RETURN));
     container.told.clear();
     call(L"SetEdit", {Long{1}, Long{1}});
-    HWND editor = toHWND(get(L"hwndEdit").toLong());
+    HWND editor = win32::toHWND(get(L"hwndEdit").toLong());
     SetFocus(editor);
     sink.raised.clear();
     enter.hwnd = editor;
@@ -250,7 +250,7 @@ TEST_F(Focus, AcceleratorsOfTheFrameWorkInAYield) {
 
 TEST_F(Focus, AYieldOfOneListAsksTheContainerOfTheOtherOne) {
     place(OLEIVERB_UIACTIVATE);
-    const ComRef<IUnknown> other = component.make("lmListView");
+    const win32::ComRef<IUnknown> other = component.make("lmListView");
     const auto otherList = other.as<IDispatch>();
     container.takesTab = true;
     container.told.clear();
@@ -300,7 +300,7 @@ TEST_F(Focus, EnterIsTheContainersWhileABarWasPressed) {
     HWND bar = ChildWindowFromPointEx(window(), {area.right - 6, area.bottom / 2}, CWP_SKIPINVISIBLE);
     ASSERT_NE(bar, window());
     call(L"SetEdit", {Long{1}, Long{1}});
-    HWND editor = toHWND(get(L"hwndEdit").toLong());
+    HWND editor = win32::toHWND(get(L"hwndEdit").toLong());
     SetFocus(editor);
     SendMessageW(bar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(6, 40));
     SendMessageW(bar, WM_LBUTTONUP, 0, MAKELPARAM(6, 40));

@@ -16,22 +16,22 @@ TEST_F(LateBound, AListThatNobodyPlacedIsFullyUsable) {
 }
 
 TEST_F(LateBound, EveryMemberIsFoundUnderItsNumberWhateverTheCase) {
-    for (const Member& member : listViewClass().members) {
+    for (const automation::Member& member : automation::listViewClass().members) {
         String name(member.name);
         for (char16_t& unit : name)
             unit = unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
-        EXPECT_EQ(idOf(dispatch.get(), wide(name)), member.number) << toUtf8(name);
+        EXPECT_EQ(idOf(dispatch.get(), win32::wide(name)), member.number) << toUtf8(name);
     }
 }
 
 TEST_F(LateBound, EveryPropertyOfTheListCanBeReadAndAssignedWhatItWas) {
     int assigned = 0;
-    for (const Member& member : propertyMembers()) {
+    for (const automation::Member& member : automation::propertyMembers()) {
         const Called read = invoke(dispatch.get(), member.number, DISPATCH_PROPERTYGET, {});
         EXPECT_EQ(read.result, S_OK) << toUtf8(member.name);
         if (member.let == nullptr)
             continue;
-        const OwnedVARIANT value = toVARIANT(read.value);
+        const win32::OwnedVARIANT value = win32::toVARIANT(read.value);
         const WORD kind = member.isReference() ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT;
         EXPECT_EQ(invoke(dispatch.get(), member.number, kind, {value.get()}).result, S_OK)
             << toUtf8(member.name);
@@ -66,8 +66,8 @@ TEST_F(LateBound, ParametersHaveNames) {
 
 TEST_F(LateBound, ArgumentsCanBeNamed) {
     DISPID named[] = {5, 0}; // aWidth, aText
-    OwnedVARIANT width = toVARIANT(Variant(Long{1500}));
-    OwnedVARIANT text = toVARIANT(Variant(u"name"));
+    win32::OwnedVARIANT width = win32::toVARIANT(Variant(Long{1500}));
+    win32::OwnedVARIANT text = win32::toVARIANT(Variant(u"name"));
     VARIANT values[] = {width.get(), text.get()};
     DISPPARAMS parameters{values, named, 2, 2};
     EXPECT_EQ(dispatch->Invoke(
@@ -194,12 +194,12 @@ TEST_F(LateBound, ACallFromAnotherThreadIsRefused) {
 }
 
 TEST_F(LateBound, TheHelpersAnswerToo) {
-    const ComRef<IUnknown> error = component.make("Error");
+    const win32::ComRef<IUnknown> error = component.make("Error");
     const auto switchOf = error.as<IDispatch>();
     EXPECT_EQ(invoke(switchOf.get(), L"SilentError", DISPATCH_PROPERTYPUT, {true}).result, S_OK);
     EXPECT_EQ(invoke(switchOf.get(), L"SilentError", DISPATCH_PROPERTYGET).value, Variant(true));
     EXPECT_EQ(get(L"ItemText", {Long{9}, Long{9}}), Variant(u"")) << "a failure is no error for the host";
-    const ComRef<IUnknown> helper = component.make("SpEv");
+    const win32::ComRef<IUnknown> helper = component.make("SpEv");
     EXPECT_EQ(invoke(helper.as<IDispatch>().get(), L"FileExists", DISPATCH_METHOD, {u""}).value,
               Variant(false));
 }

@@ -14,10 +14,10 @@ class CallersLocale : public ListFixture {
     CallersLocale() { fill(1, {u"a", u"b"}); }
 
     HRESULT letAs(LCID locale, const wchar_t* name, const std::vector<Variant>& argumentsAndValue) {
-        std::vector<OwnedVARIANT> held;
+        std::vector<win32::OwnedVARIANT> held;
         std::vector<VARIANT> arguments;
         for (auto it = argumentsAndValue.rbegin(); it != argumentsAndValue.rend(); ++it) {
-            held.push_back(toVARIANT(*it));
+            held.push_back(win32::toVARIANT(*it));
             arguments.push_back(held.back().get());
         }
         DISPID assigned = DISPID_PROPERTYPUT;
@@ -58,10 +58,10 @@ TEST_F(CallersLocale, TurnsTextsIntoNumbers) {
 
 TEST_F(CallersLocale, IsNotTheOneThatTheListItselfFollows) {
     // The place of a row is a Variant of the list's own, which the user's settings turn into a number.
-    OwnedVARIANT users;
-    demand(VarBstrFromR8(1.5, LOCALE_USER_DEFAULT, 0, &V_BSTR(&users.get())));
+    win32::OwnedVARIANT users;
+    win32::demand(VarBstrFromR8(1.5, LOCALE_USER_DEFAULT, 0, &V_BSTR(&users.get())));
     V_VT(&users.get()) = VT_BSTR;
-    String text(viewBSTR(V_BSTR(&users.get())));
+    String text(win32::viewBSTR(V_BSTR(&users.get())));
     text[2] = u'0';
     EXPECT_EQ(call(L"RowsAdd", {text, u",", u"c"}).result, S_OK);
     EXPECT_EQ(get(L"NewIndex"), Variant(Long{1}));
@@ -89,8 +89,8 @@ TEST_F(CallersLocale, WritesBackWhatFitsAndLeavesTheRest) {
     VariantInit(&reference);
     V_VT(&reference) = VT_BYREF | VT_I1;
     V_BYREF(&reference) = &place;
-    OwnedVARIANT texts = toVARIANT(Variant(u"x"));
-    OwnedVARIANT split = toVARIANT(Variant(u","));
+    win32::OwnedVARIANT texts = win32::toVARIANT(Variant(u"x"));
+    win32::OwnedVARIANT split = win32::toVARIANT(Variant(u","));
     EXPECT_EQ(invoke(dispatch.get(),
                      idOf(dispatch.get(), L"RowsAdd"),
                      DISPATCH_METHOD,

@@ -11,7 +11,7 @@ namespace {
 String folderOfProgram() {
     std::array<wchar_t, MAX_PATH> path{};
     GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    const String whole(textOf(path.data()));
+    const String whole(win32::textOf(path.data()));
     return whole.substr(0, whole.find_last_of(u'\\') + 1);
 }
 
@@ -22,7 +22,7 @@ class ManifestInForce {
         const String path = folderOfProgram() + u"LumtexListView.manifest";
         ACTCTXW wanted{};
         wanted.cbSize = sizeof(wanted);
-        wanted.lpSource = wide(path);
+        wanted.lpSource = win32::wide(path);
         context_ = CreateActCtxW(&wanted);
         EXPECT_NE(context_, INVALID_HANDLE_VALUE) << GetLastError();
         EXPECT_TRUE(ActivateActCtx(context_, &cookie_));
@@ -39,28 +39,31 @@ class ManifestInForce {
     ULONG_PTR cookie_ = 0;
 };
 
-String programIdOf(const ClassDescription& description) {
+String programIdOf(const automation::ClassDescription& description) {
     return u"LumtexListView." + String(description.name);
 }
 
-HRESULT classOf(const ClassDescription& description, CLSID& id) {
-    return CLSIDFromProgID(wide(programIdOf(description)), &id);
+HRESULT classOf(const automation::ClassDescription& description, CLSID& id) {
+    return CLSIDFromProgID(win32::wide(programIdOf(description)), &id);
 }
 
 /// As `CreateObject` makes one; none where that fails. The identifier that comes for a program identifier in
 /// a manifest is one that the system made up.
-ComRef<IDispatch> createObject(const ClassDescription& description) {
+win32::ComRef<IDispatch> createObject(const automation::ClassDescription& description) {
     CLSID id{};
-    ComRef<IDispatch> object;
+    win32::ComRef<IDispatch> object;
     if (SUCCEEDED(classOf(description, id)))
         CoCreateInstance(
             id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, reinterpret_cast<void**>(object.out()));
     return object;
 }
 
-HRESULT loadLibrary(ComRef<ITypeLib>& library) {
-    return LoadRegTypeLib(
-        guidOf("LumtexListView"), typeLibraryMajor, typeLibraryMinor, LOCALE_NEUTRAL, library.out());
+HRESULT loadLibrary(win32::ComRef<ITypeLib>& library) {
+    return LoadRegTypeLib(win32::guidOf("LumtexListView"),
+                          automation::typeLibraryMajor,
+                          automation::typeLibraryMinor,
+                          LOCALE_NEUTRAL,
+                          library.out());
 }
 
 class Manifest : public ::testing::Test {
@@ -71,19 +74,19 @@ class Manifest : public ::testing::Test {
 
 TEST_F(Manifest, MakesEachClassByItsProgramIdentifierWithNothingRegistered) {
     CLSID id{};
-    for (const ClassDescription& description : classTable())
+    for (const automation::ClassDescription& description : automation::classTable())
         ASSERT_NE(classOf(description, id), S_OK) << "something is registered";
     {
         const ManifestInForce manifest;
-        for (const ClassDescription& description : classTable()) {
+        for (const automation::ClassDescription& description : automation::classTable()) {
             const std::string name = toUtf8(description.name);
             EXPECT_EQ(classOf(description, id), S_OK) << name;
             const auto object = createObject(description);
             ASSERT_TRUE(object) << name;
-            const Member& first = description.members[0];
-            EXPECT_EQ(idOf(object.get(), wide(String(first.name))), first.number) << name;
-            ComRef<IUnknown> same;
-            EXPECT_EQ(CoCreateInstance(guidOf(name),
+            const automation::Member& first = description.members[0];
+            EXPECT_EQ(idOf(object.get(), win32::wide(String(first.name))), first.number) << name;
+            win32::ComRef<IUnknown> same;
+            EXPECT_EQ(CoCreateInstance(win32::guidOf(name),
                                        nullptr,
                                        CLSCTX_INPROC_SERVER,
                                        IID_IUnknown,
@@ -92,30 +95,30 @@ TEST_F(Manifest, MakesEachClassByItsProgramIdentifierWithNothingRegistered) {
                 << name;
         }
     }
-    EXPECT_NE(classOf(listViewClass(), id), S_OK);
+    EXPECT_NE(classOf(automation::listViewClass(), id), S_OK);
 }
 
 TEST_F(Manifest, TellsTheTypeLibrary) {
-    ComRef<ITypeLib> library;
+    win32::ComRef<ITypeLib> library;
     ASSERT_NE(loadLibrary(library), S_OK) << "something is registered";
     const ManifestInForce manifest;
     ASSERT_EQ(loadLibrary(library), S_OK);
     for (const char* name : {"lmListView", "_lmListView", "__lmListView", "SpEv", "Error", "FindResults"}) {
-        ComRef<ITypeInfo> info;
-        EXPECT_EQ(library->GetTypeInfoOfGuid(guidOf(name), info.out()), S_OK) << name;
+        win32::ComRef<ITypeInfo> info;
+        EXPECT_EQ(library->GetTypeInfoOfGuid(win32::guidOf(name), info.out()), S_OK) << name;
     }
 }
 
 TEST_F(Manifest, TellsContainersWhatTheControlDoesItself) {
     const ManifestInForce manifest;
     DWORD status = 0;
-    ASSERT_EQ(OleRegGetMiscStatus(guidOf("lmListView"), DVASPECT_CONTENT, &status), S_OK);
-    EXPECT_EQ(status, controlMiscStatus);
+    ASSERT_EQ(OleRegGetMiscStatus(win32::guidOf("lmListView"), DVASPECT_CONTENT, &status), S_OK);
+    EXPECT_EQ(status, win32::controlMiscStatus);
 }
 
 TEST_F(Manifest, EventsReachTheHost) {
     const ManifestInForce manifest;
-    const ComRef<IDispatch> list = createObject(listViewClass());
+    const win32::ComRef<IDispatch> list = createObject(automation::listViewClass());
     ASSERT_TRUE(list);
     EventSink sink;
     const auto point = eventPointOf(list.as<IUnknown>());

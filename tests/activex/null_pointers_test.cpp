@@ -15,7 +15,7 @@ struct BadCall {
 template <class Interface, class Call>
 BadCall on(const char* what, Call call) {
     return {what, [call](IUnknown* control) {
-                const auto face = queryFor<Interface>(control);
+                const auto face = win32::queryFor<Interface>(control);
                 return face ? call(*face.get()) : E_NOINTERFACE;
             }};
 }
@@ -46,7 +46,7 @@ const std::vector<BadCall>& automationCalls() {
 template <class Call>
 BadCall onPoint(const char* what, Call call) {
     return on<IConnectionPointContainer>(what, [call](auto& face) {
-        ComRef<IConnectionPoint> point;
+        win32::ComRef<IConnectionPoint> point;
         face.FindConnectionPoint(IID_IPropertyNotifySink, point.out());
         return call(*point.get());
     });
@@ -67,13 +67,13 @@ const std::vector<BadCall>& connectionCalls() {
         onPoint("EnumConnections", [](auto& point) { return point.EnumConnections(nullptr); }),
         onPoint("IEnumConnections::Next",
                 [](auto& point) {
-                    ComRef<IEnumConnections> all;
+                    win32::ComRef<IEnumConnections> all;
                     point.EnumConnections(all.out());
                     return all->Next(1, nullptr, nullptr);
                 }),
         onPoint("IEnumConnections::Clone",
                 [](auto& point) {
-                    ComRef<IEnumConnections> all;
+                    win32::ComRef<IEnumConnections> all;
                     point.EnumConnections(all.out());
                     return all->Clone(nullptr);
                 }),
@@ -134,7 +134,7 @@ const std::vector<BadCall>& viewCalls() {
         on<IDataObject>("EnumFormatEtc", [](auto& face) { return face.EnumFormatEtc(DATADIR_GET, nullptr); }),
         on<IDataObject>("IEnumFORMATETC::Next",
                         [](auto& face) {
-                            ComRef<IEnumFORMATETC> formats;
+                            win32::ComRef<IEnumFORMATETC> formats;
                             face.EnumFormatEtc(DATADIR_GET, formats.out());
                             return formats->Next(2, &picture, nullptr);
                         }),

@@ -33,7 +33,7 @@ class PlacedControl : public ListFixture {
     }
 
     SmallContainer container;
-    ComRef<IOleObject> object = control.as<IOleObject>();
+    win32::ComRef<IOleObject> object = control.as<IOleObject>();
 };
 
 } // namespace lumtex::testing

@@ -12,10 +12,10 @@ class ConvertingBag final : public MapBag {
     HRESULT missing = E_INVALIDARG;
 
     HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) override {
-        const auto found = values.find(String(textOf(name)));
+        const auto found = values.find(String(win32::textOf(name)));
         if (found == values.end())
             return missing;
-        OwnedVARIANT held = toVARIANT(found->second);
+        win32::OwnedVARIANT held = win32::toVARIANT(found->second);
         const VARTYPE wanted = V_VT(value);
         if (wanted != VT_EMPTY && FAILED(VariantChangeType(&held.get(), &held.get(), 0, wanted)))
             return failure;

@@ -13,7 +13,7 @@ const wchar_t* const classesKey = L"Software\\Classes";
 /// Every key and value below a key, as lines.
 void collect(HKEY parent, const String& path, std::set<String>& lines) {
     HKEY key = nullptr;
-    if (RegOpenKeyExW(parent, wide(path), 0, KEY_READ, &key) != ERROR_SUCCESS)
+    if (RegOpenKeyExW(parent, win32::wide(path), 0, KEY_READ, &key) != ERROR_SUCCESS)
         return;
     std::array<wchar_t, 512> name{};
     std::array<BYTE, 4096> data{};
@@ -24,8 +24,8 @@ void collect(HKEY parent, const String& path, std::set<String>& lines) {
             ERROR_SUCCESS)
             break;
         data[dataLength] = data[dataLength + 1] = 0;
-        lines.insert(path + u"|" + String(textOf(name.data())) + u"=" +
-                     String(textOf(reinterpret_cast<wchar_t*>(data.data()))));
+        lines.insert(path + u"|" + String(win32::textOf(name.data())) + u"=" +
+                     String(win32::textOf(reinterpret_cast<wchar_t*>(data.data()))));
     }
     std::vector<String> below;
     for (DWORD i = 0;; ++i) {
@@ -33,7 +33,7 @@ void collect(HKEY parent, const String& path, std::set<String>& lines) {
         if (RegEnumKeyExW(key, i, name.data(), &nameLength, nullptr, nullptr, nullptr, nullptr) !=
             ERROR_SUCCESS)
             break;
-        below.emplace_back(textOf(name.data()));
+        below.emplace_back(win32::textOf(name.data()));
     }
     RegCloseKey(key);
     for (const String& child : below) {
@@ -44,7 +44,7 @@ void collect(HKEY parent, const String& path, std::set<String>& lines) {
 
 std::set<String> classesOf(HKEY hive) {
     std::set<String> lines;
-    collect(hive, String(textOf(classesKey)), lines);
+    collect(hive, String(win32::textOf(classesKey)), lines);
     return lines;
 }
 std::set<String> userClasses() {
@@ -56,14 +56,20 @@ class VolatileKey {
   public:
     VolatileKey(HKEY hive, const String& path) : hive_(hive), path_(path) {
         HKEY key = nullptr;
-        if (RegCreateKeyExW(
-                hive, wide(path), 0, nullptr, REG_OPTION_VOLATILE, KEY_WRITE, nullptr, &key, nullptr) ==
-            ERROR_SUCCESS)
+        if (RegCreateKeyExW(hive,
+                            win32::wide(path),
+                            0,
+                            nullptr,
+                            REG_OPTION_VOLATILE,
+                            KEY_WRITE,
+                            nullptr,
+                            &key,
+                            nullptr) == ERROR_SUCCESS)
             RegCloseKey(key);
     }
     VolatileKey(const VolatileKey&) = delete;
     VolatileKey& operator=(const VolatileKey&) = delete;
-    ~VolatileKey() { RegDeleteKeyW(hive_, wide(path_)); }
+    ~VolatileKey() { RegDeleteKeyW(hive_, win32::wide(path_)); }
 
   private:
     HKEY hive_;
@@ -107,7 +113,7 @@ TEST_F(Registration, TwiceIsTheSameAsOnce) {
 bool isThere(const String& key) {
     HKEY opened = nullptr;
     const String path = u"Software\\Classes\\" + key;
-    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, wide(path), 0, KEY_READ, &opened) != ERROR_SUCCESS)
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, win32::wide(path), 0, KEY_READ, &opened) != ERROR_SUCCESS)
         return false;
     RegCloseKey(opened);
     return true;
@@ -115,8 +121,8 @@ bool isThere(const String& key) {
 
 String guidTextOf(std::string_view name) {
     std::array<wchar_t, 39> text{};
-    StringFromGUID2(guidOf(name), text.data(), static_cast<int>(text.size()));
-    return String(textOf(text.data()));
+    StringFromGUID2(win32::guidOf(name), text.data(), static_cast<int>(text.size()));
+    return String(win32::textOf(text.data()));
 }
 
 TEST_F(Registration, ForAllUsersMakesEachClassByItsProgramIdentifierAndLeavesNothing) {
@@ -125,9 +131,9 @@ TEST_F(Registration, ForAllUsersMakesEachClassByItsProgramIdentifierAndLeavesNot
     for (const char* name : {"lmListView", "SpEv", "Error"}) {
         const String programId = u"LumtexListView." + String(name, name + std::strlen(name));
         CLSID classId{};
-        EXPECT_EQ(CLSIDFromProgID(wide(programId), &classId), S_OK) << name;
-        EXPECT_TRUE(IsEqualCLSID(classId, guidOf(name))) << name;
-        ComRef<IDispatch> object;
+        EXPECT_EQ(CLSIDFromProgID(win32::wide(programId), &classId), S_OK) << name;
+        EXPECT_TRUE(IsEqualCLSID(classId, win32::guidOf(name))) << name;
+        win32::ComRef<IDispatch> object;
         EXPECT_EQ(CoCreateInstance(classId,
                                    nullptr,
                                    CLSCTX_INPROC_SERVER,
@@ -136,8 +142,8 @@ TEST_F(Registration, ForAllUsersMakesEachClassByItsProgramIdentifierAndLeavesNot
                   S_OK)
             << name;
     }
-    ComRef<ITypeLib> library;
-    EXPECT_EQ(LoadRegTypeLib(guidOf("LumtexListView"), 1, 0, LOCALE_NEUTRAL, library.out()), S_OK);
+    win32::ComRef<ITypeLib> library;
+    EXPECT_EQ(LoadRegTypeLib(win32::guidOf("LumtexListView"), 1, 0, LOCALE_NEUTRAL, library.out()), S_OK);
     library = {};
     ASSERT_EQ(component.function<Register>("DllUnregisterServer")(), S_OK);
     for (const char* name : {"lmListView", "SpEv", "Error"}) {
@@ -159,7 +165,7 @@ TEST_F(Registration, UseAndItsEndForAllUsersLeaveTheRegistryAsItWas) {
     EXPECT_GT(classesOf(HKEY_LOCAL_MACHINE).size(), before.size() + 30);
     {
         CLSID classId{};
-        ComRef<IDispatch> list;
+        win32::ComRef<IDispatch> list;
         ASSERT_EQ(CLSIDFromProgID(L"LumtexListView.lmListView", &classId), S_OK);
         ASSERT_EQ(
             CoCreateInstance(

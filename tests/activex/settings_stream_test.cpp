@@ -84,25 +84,25 @@ class StreamBytes {
 
 class SettingsStream : public ListFixture {
   protected:
-    static ComRef<IStream> streamOf(const Image& bytes) {
-        ComRef<IStream> stream;
-        demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
-        demand(stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr));
-        demand(stream->Seek({}, STREAM_SEEK_SET, nullptr));
+    static win32::ComRef<IStream> streamOf(const Image& bytes) {
+        win32::ComRef<IStream> stream;
+        win32::demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
+        win32::demand(stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr));
+        win32::demand(stream->Seek({}, STREAM_SEEK_SET, nullptr));
         return stream;
     }
-    static Image bytesOf(const ComRef<IStream>& stream) {
+    static Image bytesOf(const win32::ComRef<IStream>& stream) {
         STATSTG told{};
-        demand(stream->Stat(&told, STATFLAG_NONAME));
+        win32::demand(stream->Stat(&told, STATFLAG_NONAME));
         Image bytes(static_cast<std::size_t>(told.cbSize.QuadPart));
-        demand(stream->Seek({}, STREAM_SEEK_SET, nullptr));
-        demand(stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr));
+        win32::demand(stream->Seek({}, STREAM_SEEK_SET, nullptr));
+        win32::demand(stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr));
         return bytes;
     }
     Image saved() {
-        ComRef<IStream> stream;
-        demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
-        demand(control.as<IPersistStreamInit>()->Save(stream.get(), TRUE));
+        win32::ComRef<IStream> stream;
+        win32::demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
+        win32::demand(control.as<IPersistStreamInit>()->Save(stream.get(), TRUE));
         return bytesOf(stream);
     }
     /// Into a new list, which stays for a look.
@@ -116,26 +116,27 @@ class SettingsStream : public ListFixture {
     }
 
     StrangeClass strange;
-    ComRef<IUnknown> other;
-    const HRESULT refused = resultOf(321);
+    win32::ComRef<IUnknown> other;
+    const HRESULT refused = win32::resultOf(321);
 };
 
 TEST_F(SettingsStream, FontsAndPicturesStandAsTheSystemSavesThem) {
-    const PictureRef skin = loadOlePicture(bitmapImage(6, 4));
-    const PictureRef ground = loadOlePicture(gifImage());
+    const PictureRef skin = win32::loadOlePicture(bitmapImage(6, 4));
+    const PictureRef ground = win32::loadOlePicture(gifImage());
     const FontRef font = std::make_shared<Font>(FontSpec{u"DejaVu Sans Mono", 15, true, true, false, true});
     ASSERT_EQ(invoke(dispatch.get(), L"Skin", DISPATCH_PROPERTYPUTREF, {skin}).result, S_OK);
     ASSERT_EQ(invoke(dispatch.get(), L"BackgroundPicture", DISPATCH_PROPERTYPUTREF, {ground}).result, S_OK);
     ASSERT_EQ(invoke(dispatch.get(), L"DefaultItemFont", DISPATCH_PROPERTYPUTREF, {font}).result, S_OK);
     const Image bytes = saved();
     for (const wchar_t* name : {L"Skin", L"BackgroundPicture", L"DefaultItemFont"}) {
-        const OwnedVARIANT value = toVARIANT(get(name));
-        ComRef<IStream> stream;
-        demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
-        demand(OleSaveToStream(queryFor<IPersistStream>(V_DISPATCH(&value.get())).get(), stream.get()));
+        const win32::OwnedVARIANT value = win32::toVARIANT(get(name));
+        win32::ComRef<IStream> stream;
+        win32::demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
+        win32::demand(
+            OleSaveToStream(win32::queryFor<IPersistStream>(V_DISPATCH(&value.get())).get(), stream.get()));
         const Image object = bytesOf(stream);
         EXPECT_NE(std::search(bytes.begin(), bytes.end(), object.begin(), object.end()), bytes.end())
-            << toUtf8(textOf(name));
+            << toUtf8(win32::textOf(name));
     }
     ASSERT_EQ(load(bytes), S_OK);
     EXPECT_EQ(valueIn(L"Skin").toPicture()->bitmap(), skin->bitmap());
@@ -158,7 +159,7 @@ TEST_F(SettingsStream, AnyOtherClassIsNeverMade) {
     }
     EXPECT_EQ(strange.asked, 0);
     // The class is there for whoever asks.
-    ComRef<IUnknown> made;
+    win32::ComRef<IUnknown> made;
     CoCreateInstance(
         strangeClass, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, reinterpret_cast<void**>(made.out()));
     EXPECT_EQ(strange.asked, 1);
@@ -250,7 +251,7 @@ TEST_F(SettingsStream, AStreamChangedAtRandomLeavesAListThatWorks) {
         if (result != S_OK) {
             ASSERT_EQ(other.as<IPersistStreamInit>()->InitNew(), S_OK);
         }
-        const ComRef<IDispatch> list = other.as<IDispatch>();
+        const win32::ComRef<IDispatch> list = other.as<IDispatch>();
         ASSERT_EQ(invoke(list.get(), L"ColumnsAdd", DISPATCH_METHOD, {u"column"}).result, S_OK);
         ASSERT_EQ(invoke(list.get(), L"RowsAdd", DISPATCH_METHOD, {Long{-1}, u",", u"text"}).result, S_OK);
         ASSERT_EQ(invoke(list.get(), L"ItemText", DISPATCH_PROPERTYGET, {Long{1}, Long{1}}).value,

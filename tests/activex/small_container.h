@@ -141,7 +141,7 @@ class SmallContainer final : public IOleClientSite,
     }
     HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS /*widths*/) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR /*name*/) override {
-        active = ComRef<IOleInPlaceActiveObject>(object);
+        active = win32::ComRef<IOleInPlaceActiveObject>(object);
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE InsertMenus(HMENU /*menu*/, LPOLEMENUGROUPWIDTHS /*widths*/) override {
@@ -165,7 +165,7 @@ class SmallContainer final : public IOleClientSite,
     HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL /*lock*/) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** control) override {
-        *control = ComRef<IDispatch>(extender).detach();
+        *control = win32::ComRef<IDispatch>(extender).detach();
         return extender ? S_OK : E_NOTIMPL;
     }
     HRESULT STDMETHODCALLTYPE TransformCoords(POINTL* /*himetric*/,
@@ -208,12 +208,12 @@ class SmallContainer final : public IOleClientSite,
         const auto found = ambients.find(id);
         if (found == ambients.end())
             return DISP_E_MEMBERNOTFOUND;
-        *result = toVARIANT(found->second).release();
+        *result = win32::toVARIANT(found->second).release();
         return S_OK;
     }
 
-    ComRef<IOleInPlaceActiveObject> active;
-    ComRef<IDispatch> extender; ///< the container's own object around the control
+    win32::ComRef<IOleInPlaceActiveObject> active;
+    win32::ComRef<IDispatch> extender; ///< the container's own object around the control
 
   private:
     HRESULT note(const std::string& what) {
@@ -232,14 +232,14 @@ class MapBag : public IPropertyBag {
     ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) override {
-        const auto found = values.find(String(textOf(name)));
+        const auto found = values.find(String(win32::textOf(name)));
         if (found == values.end())
             return E_INVALIDARG;
-        *value = toVARIANT(found->second).release();
+        *value = win32::toVARIANT(found->second).release();
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE Write(LPCOLESTR name, VARIANT* value) override {
-        values[String(textOf(name))] = fromVARIANT(*value);
+        values[String(win32::textOf(name))] = win32::fromVARIANT(*value);
         return S_OK;
     }
 

@@ -11,7 +11,7 @@ class Storage : public ListFixture {
     ~Storage() override {
         storage = {};
         if (!path.empty())
-            DeleteFileW(wide(path));
+            DeleteFileW(win32::wide(path));
     }
 
     void makeFile() {
@@ -19,21 +19,21 @@ class Storage : public ListFixture {
         wchar_t name[MAX_PATH]{};
         ASSERT_NE(GetTempPathW(MAX_PATH, folder), 0U);
         ASSERT_NE(GetTempFileNameW(folder, L"lum", 0, name), 0U);
-        path = String(textOf(name));
+        path = String(win32::textOf(name));
         ASSERT_EQ(StgCreateDocfile(name, STGM_CREATE | exclusive, 0, storage.out()), S_OK);
     }
     void openAgain() {
         storage = {};
-        ASSERT_EQ(StgOpenStorage(wide(path), nullptr, exclusive, nullptr, 0, storage.out()), S_OK);
+        ASSERT_EQ(StgOpenStorage(win32::wide(path), nullptr, exclusive, nullptr, 0, storage.out()), S_OK);
     }
-    static Variant valueIn(const ComRef<IUnknown>& list, const wchar_t* name) {
+    static Variant valueIn(const win32::ComRef<IUnknown>& list, const wchar_t* name) {
         return invoke(list.as<IDispatch>().get(), name, DISPATCH_PROPERTYGET).value;
     }
 
     static constexpr DWORD exclusive = STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DIRECT;
-    ComRef<IStorage> storage;
+    win32::ComRef<IStorage> storage;
     String path;
-    ComRef<IPersistStorage> persist = control.as<IPersistStorage>();
+    win32::ComRef<IPersistStorage> persist = control.as<IPersistStorage>();
 };
 
 TEST_F(Storage, SettingsGoThroughACompoundFile) {
@@ -47,8 +47,8 @@ TEST_F(Storage, SettingsGoThroughACompoundFile) {
     openAgain();
     CLSID id{};
     ASSERT_EQ(ReadClassStg(storage.get(), &id), S_OK);
-    EXPECT_EQ(id, guidOf("lmListView"));
-    const ComRef<IUnknown> other = component.make("lmListView");
+    EXPECT_EQ(id, win32::guidOf("lmListView"));
+    const win32::ComRef<IUnknown> other = component.make("lmListView");
     ASSERT_EQ(other.as<IPersistStorage>()->Load(storage.get()), S_OK);
     EXPECT_EQ(valueIn(other, L"ColumnTextY"), Variant(Long{9}));
     EXPECT_EQ(valueIn(other, L"GridLines"), Variant(true));
@@ -61,7 +61,7 @@ TEST_F(Storage, SavingAgainReplacesWhatWasThere) {
     ASSERT_EQ(persist->Save(storage.get(), TRUE), S_OK);
     let(L"ColumnTextY", {Long{4}});
     ASSERT_EQ(persist->Save(storage.get(), TRUE), S_OK);
-    const ComRef<IUnknown> other = component.make("lmListView");
+    const win32::ComRef<IUnknown> other = component.make("lmListView");
     ASSERT_EQ(other.as<IPersistStorage>()->Load(storage.get()), S_OK);
     EXPECT_EQ(valueIn(other, L"ColumnTextY"), Variant(Long{4}));
 }
@@ -97,27 +97,27 @@ TEST_F(Storage, TheFileIsTheContainersAlone) {
     ASSERT_EQ(persist->Save(storage.get(), TRUE), S_OK);
     ASSERT_EQ(persist->HandsOffStorage(), S_OK);
     storage = {};
-    EXPECT_TRUE(DeleteFileW(wide(path))) << "nobody holds it";
+    EXPECT_TRUE(DeleteFileW(win32::wide(path))) << "nobody holds it";
 }
 
 TEST_F(Storage, TheStreamOfOneListFitsTheOthersStorage) {
     let(L"WheelScrollLines", {Long{7}});
-    ComRef<IStream> stream;
-    demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
+    win32::ComRef<IStream> stream;
+    win32::demand(CreateStreamOnHGlobal(nullptr, TRUE, stream.out()));
     ASSERT_EQ(control.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
     STATSTG whole{};
-    demand(stream->Stat(&whole, STATFLAG_NONAME));
+    win32::demand(stream->Stat(&whole, STATFLAG_NONAME));
     // A stream that ends at any place is refused, and nothing of it is taken over.
     for (ULONGLONG length = 0; length < whole.cbSize.QuadPart; length += 97) {
-        ComRef<IStream> cut;
-        demand(CreateStreamOnHGlobal(nullptr, TRUE, cut.out()));
-        demand(stream->Seek({}, STREAM_SEEK_SET, nullptr));
+        win32::ComRef<IStream> cut;
+        win32::demand(CreateStreamOnHGlobal(nullptr, TRUE, cut.out()));
+        win32::demand(stream->Seek({}, STREAM_SEEK_SET, nullptr));
         ULARGE_INTEGER count{};
         count.QuadPart = length;
-        demand(stream->CopyTo(cut.get(), count, nullptr, nullptr));
-        demand(cut->Seek({}, STREAM_SEEK_SET, nullptr));
-        const ComRef<IUnknown> other = component.make("lmListView");
-        EXPECT_EQ(other.as<IPersistStreamInit>()->Load(cut.get()), resultOf(321)) << length;
+        win32::demand(stream->CopyTo(cut.get(), count, nullptr, nullptr));
+        win32::demand(cut->Seek({}, STREAM_SEEK_SET, nullptr));
+        const win32::ComRef<IUnknown> other = component.make("lmListView");
+        EXPECT_EQ(other.as<IPersistStreamInit>()->Load(cut.get()), win32::resultOf(321)) << length;
         EXPECT_EQ(other.as<IPersistStreamInit>()->InitNew(), S_OK);
     }
 }

@@ -13,16 +13,16 @@ namespace {
 
 String nameOf(ITypeInfo* info, MEMBERID member) {
     BSTR name = nullptr;
-    demand(info->GetDocumentation(member, &name, nullptr, nullptr, nullptr));
-    String text(viewBSTR(name));
+    win32::demand(info->GetDocumentation(member, &name, nullptr, nullptr, nullptr));
+    String text(win32::viewBSTR(name));
     SysFreeString(name);
     return text;
 }
 
 String helpOf(ITypeInfo* info, MEMBERID member) {
     BSTR help = nullptr;
-    demand(info->GetDocumentation(member, nullptr, &help, nullptr, nullptr));
-    String text(viewBSTR(help));
+    win32::demand(info->GetDocumentation(member, nullptr, &help, nullptr, nullptr));
+    String text(win32::viewBSTR(help));
     SysFreeString(help);
     return text;
 }
@@ -32,21 +32,21 @@ class TypeLibrary : public ListFixture {
     TypeLibrary() {
         std::array<wchar_t, 1024> path{};
         GetModuleFileNameW(component.module(), path.data(), static_cast<DWORD>(path.size()));
-        demand(LoadTypeLibEx(path.data(), REGKIND_NONE, library.out()));
+        win32::demand(LoadTypeLibEx(path.data(), REGKIND_NONE, library.out()));
     }
 
-    ComRef<ITypeInfo> type(std::string_view name) {
-        ComRef<ITypeInfo> info;
-        demand(library->GetTypeInfoOfGuid(guidOf(name), info.out()));
+    win32::ComRef<ITypeInfo> type(std::string_view name) {
+        win32::ComRef<ITypeInfo> info;
+        win32::demand(library->GetTypeInfoOfGuid(win32::guidOf(name), info.out()));
         return info;
     }
     /// The dual interface as a table of functions.
-    ComRef<ITypeInfo> tableOf(std::string_view name) {
-        const ComRef<ITypeInfo> info = type(name);
+    win32::ComRef<ITypeInfo> tableOf(std::string_view name) {
+        const win32::ComRef<ITypeInfo> info = type(name);
         HREFTYPE reference = 0;
-        ComRef<ITypeInfo> table;
-        demand(info->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
-        demand(info->GetRefTypeInfo(reference, table.out()));
+        win32::ComRef<ITypeInfo> table;
+        win32::demand(info->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
+        win32::demand(info->GetRefTypeInfo(reference, table.out()));
         return table;
     }
     /// Calls the entry `place`, from 0, of a dual interface.
@@ -57,27 +57,28 @@ class TypeLibrary : public ListFixture {
             types.push_back(V_VT(&argument));
             pointers.push_back(&argument);
         }
-        OwnedVARIANT result;
+        win32::OwnedVARIANT result;
         const std::size_t offset = (7 + place) * sizeof(void*);
-        demand(DispCallFunc(object,
-                            offset,
-                            CC_STDCALL,
-                            VT_ERROR,
-                            static_cast<UINT>(arguments.size()),
-                            types.data(),
-                            pointers.data(),
-                            result.out()));
+        win32::demand(DispCallFunc(object,
+                                   offset,
+                                   CC_STDCALL,
+                                   VT_ERROR,
+                                   static_cast<UINT>(arguments.size()),
+                                   types.data(),
+                                   pointers.data(),
+                                   result.out()));
         return V_ERROR(&result.get());
     }
-    static std::size_t placeOf(const ClassDescription& of, StringView name, InterfaceEntry::Kind kind) {
-        const auto entries = interfaceEntries(of.members);
+    static std::size_t
+    placeOf(const automation::ClassDescription& of, StringView name, automation::InterfaceEntry::Kind kind) {
+        const auto entries = automation::interfaceEntries(of.members);
         std::size_t place = 0;
         while (entries.at(place).member->name != name || entries.at(place).kind != kind)
             ++place;
         return place;
     }
 
-    ComRef<ITypeLib> library;
+    win32::ComRef<ITypeLib> library;
 };
 
 VARIANT pointerTo(void* place) {
@@ -88,8 +89,8 @@ VARIANT pointerTo(void* place) {
     return argument;
 }
 
-INVOKEKIND kindOf(const InterfaceEntry& entry) {
-    using enum InterfaceEntry::Kind;
+INVOKEKIND kindOf(const automation::InterfaceEntry& entry) {
+    using enum automation::InterfaceEntry::Kind;
     switch (entry.kind) {
     case get:
         return INVOKE_PROPERTYGET;
@@ -103,16 +104,16 @@ INVOKEKIND kindOf(const InterfaceEntry& entry) {
 }
 
 TEST_F(TypeLibrary, EachDualInterfaceHasTheEntriesOfTheTableAtTheirPlaces) {
-    for (const ClassDescription& description : classTable()) {
-        const ComRef<ITypeInfo> table = tableOf("_" + toUtf8(description.name));
+    for (const automation::ClassDescription& description : automation::classTable()) {
+        const win32::ComRef<ITypeInfo> table = tableOf("_" + toUtf8(description.name));
         TYPEATTR* attributes = nullptr;
-        demand(table->GetTypeAttr(&attributes));
-        const auto entries = interfaceEntries(description.members);
+        win32::demand(table->GetTypeAttr(&attributes));
+        const auto entries = automation::interfaceEntries(description.members);
         EXPECT_EQ(attributes->cFuncs, entries.size()) << toUtf8(description.name);
         table->ReleaseTypeAttr(attributes);
         for (std::size_t i = 0; i < entries.size(); ++i) {
             FUNCDESC* function = nullptr;
-            demand(table->GetFuncDesc(static_cast<UINT>(i), &function));
+            win32::demand(table->GetFuncDesc(static_cast<UINT>(i), &function));
             EXPECT_EQ(nameOf(table.get(), function->memid), entries[i].member->name);
             EXPECT_EQ(function->memid, entries[i].member->number);
             EXPECT_EQ(function->invkind, kindOf(entries[i])) << toUtf8(entries[i].member->name);
@@ -123,10 +124,10 @@ TEST_F(TypeLibrary, EachDualInterfaceHasTheEntriesOfTheTableAtTheirPlaces) {
 }
 
 TEST_F(TypeLibrary, EachEnumerationHasItsMembersAndNumbers) {
-    for (const Enumeration& enumeration : enumerationTable) {
-        const ComRef<ITypeInfo> info = type(toUtf8(enumeration.name));
+    for (const automation::Enumeration& enumeration : automation::enumerationTable) {
+        const win32::ComRef<ITypeInfo> info = type(toUtf8(enumeration.name));
         UINT i = 0;
-        for (const Enumerator& enumerator : enumeration.enumerators()) {
+        for (const automation::Enumerator& enumerator : enumeration.enumerators()) {
             VARDESC* variable = nullptr;
             ASSERT_EQ(info->GetVarDesc(i++, &variable), S_OK) << toUtf8(enumeration.name);
             EXPECT_EQ(nameOf(info.get(), variable->memid), enumerator.name);
@@ -137,9 +138,9 @@ TEST_F(TypeLibrary, EachEnumerationHasItsMembersAndNumbers) {
 }
 
 TEST_F(TypeLibrary, TheEventsStandInTheirOrder) {
-    const ComRef<ITypeInfo> info = type("__lmListView");
+    const win32::ComRef<ITypeInfo> info = type("__lmListView");
     MEMBERID number = 0;
-    for (const EventDescription& event : eventTable) {
+    for (const automation::EventDescription& event : automation::eventTable) {
         EXPECT_EQ(nameOf(info.get(), ++number), event.name);
         EXPECT_EQ(helpOf(info.get(), number), event.help.german);
     }
@@ -147,50 +148,51 @@ TEST_F(TypeLibrary, TheEventsStandInTheirOrder) {
 
 TEST_F(TypeLibrary, TheHelpIsGermanWithItsUmlauts) {
     bool umlaut = false;
-    for (const ClassDescription& description : classTable()) {
+    for (const automation::ClassDescription& description : automation::classTable()) {
         const std::string name = toUtf8(description.name);
         EXPECT_EQ(helpOf(type(name).get(), MEMBERID_NIL), description.help.german) << name;
-        const ComRef<ITypeInfo> table = type("_" + name);
+        const win32::ComRef<ITypeInfo> table = type("_" + name);
         EXPECT_EQ(helpOf(table.get(), MEMBERID_NIL), description.help.german) << name;
-        for (const Member& member : description.members) {
+        for (const automation::Member& member : description.members) {
             EXPECT_EQ(helpOf(table.get(), member.number), member.help.german) << toUtf8(member.name);
             umlaut = umlaut || member.help.german.find(u'ü') != StringView::npos;
         }
     }
     EXPECT_TRUE(umlaut) << "or nothing was tried";
-    for (const Enumeration& enumeration : enumerationTable) {
+    for (const automation::Enumeration& enumeration : automation::enumerationTable) {
         const std::string name = toUtf8(enumeration.name);
         EXPECT_EQ(helpOf(type(name).get(), MEMBERID_NIL), enumeration.help.german) << name;
     }
-    EXPECT_EQ(helpOf(type("FindResults").get(), MEMBERID_NIL), findResultsHelp.german);
-    EXPECT_EQ(helpOf(type("__lmListView").get(), MEMBERID_NIL), eventsHelp.german);
+    EXPECT_EQ(helpOf(type("FindResults").get(), MEMBERID_NIL), automation::findResultsHelp.german);
+    EXPECT_EQ(helpOf(type("__lmListView").get(), MEMBERID_NIL), automation::eventsHelp.german);
 }
 
 TEST_F(TypeLibrary, TheRecordHasItsFields) {
-    const ComRef<ITypeInfo> info = type("FindResults");
-    for (UINT i = 0; i < findResultsFields.size(); ++i) {
+    const win32::ComRef<ITypeInfo> info = type("FindResults");
+    for (UINT i = 0; i < automation::findResultsFields.size(); ++i) {
         VARDESC* variable = nullptr;
         ASSERT_EQ(info->GetVarDesc(i, &variable), S_OK);
-        EXPECT_EQ(nameOf(info.get(), variable->memid), findResultsFields[i].name);
+        EXPECT_EQ(nameOf(info.get(), variable->memid), automation::findResultsFields[i].name);
         info->ReleaseVarDesc(variable);
     }
 }
 
 TEST_F(TypeLibrary, TheControlTellsItsClassAndItsEvents) {
-    ComRef<ITypeInfo> info;
+    win32::ComRef<ITypeInfo> info;
     ASSERT_EQ(control.as<IProvideClassInfo>()->GetClassInfo(info.out()), S_OK);
     EXPECT_EQ(nameOf(info.get(), MEMBERID_NIL), u"lmListView");
     GUID events{};
     ASSERT_EQ(control.as<IProvideClassInfo2>()->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events), S_OK);
-    EXPECT_TRUE(IsEqualGUID(events, guidOf("__lmListView")));
+    EXPECT_TRUE(IsEqualGUID(events, win32::guidOf("__lmListView")));
 }
 
 TEST_F(TypeLibrary, EveryEntryThatGivesARefusesANullPlace) {
     std::size_t place = 0;
     int walked = 0;
-    for (const InterfaceEntry& entry : interfaceEntries(listViewClass().members)) {
+    for (const automation::InterfaceEntry& entry :
+         automation::interfaceEntries(automation::listViewClass().members)) {
         const std::size_t at = place++;
-        if (entry.kind != InterfaceEntry::Kind::get || entry.member->count != 0)
+        if (entry.kind != automation::InterfaceEntry::Kind::get || entry.member->count != 0)
             continue;
         EXPECT_EQ(callEntry(dispatch.get(), at, {pointerTo(nullptr)}), E_POINTER)
             << toUtf8(entry.member->name);
@@ -200,8 +202,8 @@ TEST_F(TypeLibrary, EveryEntryThatGivesARefusesANullPlace) {
 }
 
 TEST_F(TypeLibrary, PropertiesAreReadAndAssignedThroughTheTable) {
-    using enum InterfaceEntry::Kind;
-    const auto& of = listViewClass();
+    using enum automation::InterfaceEntry::Kind;
+    const auto& of = automation::listViewClass();
     VARIANT on;
     VariantInit(&on);
     V_VT(&on) = VT_BOOL;
@@ -221,12 +223,13 @@ TEST_F(TypeLibrary, RowsAreAddedThroughTheTableAndThePlaceComesBack) {
     VariantInit(&place);
     V_VT(&place) = VT_I4;
     V_I4(&place) = 99;
-    OwnedVARIANT split = toVARIANT(Variant(u","));
-    OwnedVARIANT texts = toVARIANT(Variant(u"b"));
-    EXPECT_EQ(callEntry(dispatch.get(),
-                        placeOf(listViewClass(), u"RowsAdd", InterfaceEntry::Kind::call),
-                        {pointerTo(&place), split.get(), texts.get()}),
-              S_OK);
+    win32::OwnedVARIANT split = win32::toVARIANT(Variant(u","));
+    win32::OwnedVARIANT texts = win32::toVARIANT(Variant(u"b"));
+    EXPECT_EQ(
+        callEntry(dispatch.get(),
+                  placeOf(automation::listViewClass(), u"RowsAdd", automation::InterfaceEntry::Kind::call),
+                  {pointerTo(&place), split.get(), texts.get()}),
+        S_OK);
     EXPECT_EQ(V_I4(&place), 1);
     EXPECT_EQ(get(L"ItemText", {Long{2}, Long{1}}), Variant(u"b"));
 }
@@ -238,36 +241,39 @@ TEST_F(TypeLibrary, EarlyBoundCallersGetTheRecordOfASearch) {
         long FindRow = 0;
         long FindColumn = 0;
     } record;
-    BSTR pattern = newBSTR(u"b");
+    BSTR pattern = win32::newBSTR(u"b");
     BSTR columns = nullptr;
-    BSTR rows = newBSTR(u"");
+    BSTR rows = win32::newBSTR(u"");
     long begin = 0;
     long compare = 0;
-    EXPECT_EQ(callEntry(dispatch.get(),
-                        placeOf(listViewClass(), u"FindItem", InterfaceEntry::Kind::call),
-                        {pointerTo(&pattern),
-                         pointerTo(&begin),
-                         pointerTo(&compare),
-                         pointerTo(&columns),
-                         pointerTo(&rows),
-                         pointerTo(&record)}),
-              S_OK);
+    EXPECT_EQ(
+        callEntry(dispatch.get(),
+                  placeOf(automation::listViewClass(), u"FindItem", automation::InterfaceEntry::Kind::call),
+                  {pointerTo(&pattern),
+                   pointerTo(&begin),
+                   pointerTo(&compare),
+                   pointerTo(&columns),
+                   pointerTo(&rows),
+                   pointerTo(&record)}),
+        S_OK);
     EXPECT_EQ(record.FindSuccessful, VARIANT_TRUE);
     EXPECT_EQ(record.FindRow, 2);
-    EXPECT_EQ(viewBSTR(columns), u"*") << "an empty list of columns becomes all of them at the caller's";
-    EXPECT_EQ(viewBSTR(rows), u"*");
+    EXPECT_EQ(win32::viewBSTR(columns), u"*")
+        << "an empty list of columns becomes all of them at the caller's";
+    EXPECT_EQ(win32::viewBSTR(rows), u"*");
     SysFreeString(pattern);
     SysFreeString(columns);
     SysFreeString(rows);
 }
 
 TEST_F(TypeLibrary, ANullPlaceForAByReferenceArgumentIsRefused) {
-    OwnedVARIANT split = toVARIANT(Variant(u","));
-    OwnedVARIANT texts = toVARIANT(Variant(u"b"));
-    EXPECT_EQ(callEntry(dispatch.get(),
-                        placeOf(listViewClass(), u"RowsAdd", InterfaceEntry::Kind::call),
-                        {pointerTo(nullptr), split.get(), texts.get()}),
-              E_POINTER);
+    win32::OwnedVARIANT split = win32::toVARIANT(Variant(u","));
+    win32::OwnedVARIANT texts = win32::toVARIANT(Variant(u"b"));
+    EXPECT_EQ(
+        callEntry(dispatch.get(),
+                  placeOf(automation::listViewClass(), u"RowsAdd", automation::InterfaceEntry::Kind::call),
+                  {pointerTo(nullptr), split.get(), texts.get()}),
+        E_POINTER);
 }
 
 TEST_F(TypeLibrary, AFailureOfATableCallLeavesItsText) {
@@ -275,14 +281,15 @@ TEST_F(TypeLibrary, AFailureOfATableCallLeavesItsText) {
     VariantInit(&noPicture);
     V_VT(&noPicture) = VT_DISPATCH;
     V_DISPATCH(&noPicture) = dispatch.get();
-    EXPECT_EQ(
-        callEntry(dispatch.get(), placeOf(listViewClass(), u"Skin", InterfaceEntry::Kind::set), {noPicture}),
-        DISP_E_TYPEMISMATCH);
-    ComRef<IErrorInfo> info;
+    EXPECT_EQ(callEntry(dispatch.get(),
+                        placeOf(automation::listViewClass(), u"Skin", automation::InterfaceEntry::Kind::set),
+                        {noPicture}),
+              DISP_E_TYPEMISMATCH);
+    win32::ComRef<IErrorInfo> info;
     ASSERT_EQ(GetErrorInfo(0, info.out()), S_OK);
     BSTR text = nullptr;
     EXPECT_EQ(info->GetDescription(&text), S_OK);
-    EXPECT_EQ(viewBSTR(text), u"Type mismatch");
+    EXPECT_EQ(win32::viewBSTR(text), u"Type mismatch");
     SysFreeString(text);
 }
 
@@ -290,13 +297,13 @@ TEST_F(TypeLibrary, AFailureOfATableCallLeavesItsText) {
 Variant defaultIn(ITypeInfo* table, StringView member, int parameter) {
     for (UINT entry = 0;; ++entry) {
         FUNCDESC* description = nullptr;
-        demand(table->GetFuncDesc(entry, &description));
+        win32::demand(table->GetFuncDesc(entry, &description));
         Variant found = Null{};
         const bool isIt = nameOf(table, description->memid) == member;
         if (isIt) {
             const PARAMDESC& of = description->lprgelemdescParam[parameter].paramdesc;
             if ((of.wParamFlags & PARAMFLAG_FHASDEFAULT) != 0)
-                found = fromVARIANT(of.pparamdescex->varDefaultValue);
+                found = win32::fromVARIANT(of.pparamdescex->varDefaultValue);
         }
         table->ReleaseFuncDesc(description);
         if (isIt)
@@ -305,7 +312,7 @@ Variant defaultIn(ITypeInfo* table, StringView member, int parameter) {
 }
 
 TEST_F(TypeLibrary, DefaultsOfEveryTypeAreReadAsTheyAreMeant) {
-    const ComRef<ITypeInfo> table = tableOf("_lmListView");
+    const win32::ComRef<ITypeInfo> table = tableOf("_lmListView");
     EXPECT_EQ(defaultIn(table.get(), u"ColumnsAdd", 5), Variant(Single{1000}));
     EXPECT_EQ(defaultIn(table.get(), u"ColumnsAdd", 6), Variant(false));
     EXPECT_EQ(defaultIn(table.get(), u"ColumnsAdd", 8), Variant(u""));

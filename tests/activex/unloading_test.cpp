@@ -13,17 +13,17 @@ class Unloading : public ::testing::Test {
     ~Unloading() override { CoUninitialize(); }
 
     /// A list with a found text.
-    ComRef<IUnknown> makeList() const {
-        ComRef<IUnknown> list = component.make("lmListView");
+    win32::ComRef<IUnknown> makeList() const {
+        win32::ComRef<IUnknown> list = component.make("lmListView");
         const auto dispatch = list.as<IDispatch>();
         invoke(dispatch.get(), L"ColumnsAdd", DISPATCH_METHOD, {u"column"});
         invoke(dispatch.get(), L"RowsAdd", DISPATCH_METHOD, {Long{-1}, u",", u"a"});
         return list;
     }
-    ComRef<IUnknown> factoryOf(const char* name) const {
-        ComRef<IUnknown> factory;
-        demand(
-            component.classObject(guidOf(name), IID_IClassFactory, reinterpret_cast<void**>(factory.out())));
+    win32::ComRef<IUnknown> factoryOf(const char* name) const {
+        win32::ComRef<IUnknown> factory;
+        win32::demand(component.classObject(
+            win32::guidOf(name), IID_IClassFactory, reinterpret_cast<void**>(factory.out())));
         return factory;
     }
 
@@ -32,86 +32,91 @@ class Unloading : public ::testing::Test {
 };
 
 /// The object that a late-bound call gives.
-ComRef<IUnknown> resultOf(const ComRef<IUnknown>& list,
-                          const wchar_t* name,
-                          WORD kind,
-                          const std::vector<Variant>& arguments = {}) {
+win32::ComRef<IUnknown> resultOf(const win32::ComRef<IUnknown>& list,
+                                 const wchar_t* name,
+                                 WORD kind,
+                                 const std::vector<Variant>& arguments = {}) {
     const auto dispatch = list.as<IDispatch>();
-    std::vector<OwnedVARIANT> held;
+    std::vector<win32::OwnedVARIANT> held;
     std::vector<VARIANT> passed;
     for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument) {
-        held.push_back(toVARIANT(*argument));
+        held.push_back(win32::toVARIANT(*argument));
         passed.push_back(held.back().get());
     }
     DISPPARAMS parameters{passed.data(), nullptr, static_cast<UINT>(passed.size()), 0};
-    OwnedVARIANT result;
-    demand(dispatch->Invoke(idOf(dispatch.get(), name),
-                            IID_NULL,
-                            LOCALE_USER_DEFAULT,
-                            kind,
-                            &parameters,
-                            result.out(),
-                            nullptr,
-                            nullptr));
+    win32::OwnedVARIANT result;
+    win32::demand(dispatch->Invoke(idOf(dispatch.get(), name),
+                                   IID_NULL,
+                                   LOCALE_USER_DEFAULT,
+                                   kind,
+                                   &parameters,
+                                   result.out(),
+                                   nullptr,
+                                   nullptr));
     if (V_VT(&result.get()) != VT_DISPATCH)
         return {};
-    return queryFor<IUnknown>(V_DISPATCH(&result.get()));
+    return win32::queryFor<IUnknown>(V_DISPATCH(&result.get()));
 }
 
 struct HeldThing {
     const char* name;
-    std::function<ComRef<IUnknown>(const ComRef<IUnknown>& list)> take;
+    std::function<win32::ComRef<IUnknown>(const win32::ComRef<IUnknown>& list)> take;
 };
 
 const HeldThing heldThings[] = {
     {"the control by another interface",
-     [](const ComRef<IUnknown>& list) { return ComRef<IUnknown>(list.as<IViewObject2>().get()); }},
+     [](const win32::ComRef<IUnknown>& list) {
+         return win32::ComRef<IUnknown>(list.as<IViewObject2>().get());
+     }},
     {"its events' connection point",
-     [](const ComRef<IUnknown>& list) { return ComRef<IUnknown>(eventPointOf(list).get()); }},
+     [](const win32::ComRef<IUnknown>& list) { return win32::ComRef<IUnknown>(eventPointOf(list).get()); }},
     {"its connection points",
-     [](const ComRef<IUnknown>& list) {
-         ComRef<IEnumConnectionPoints> points;
-         demand(list.as<IConnectionPointContainer>()->EnumConnectionPoints(points.out()));
+     [](const win32::ComRef<IUnknown>& list) {
+         win32::ComRef<IEnumConnectionPoints> points;
+         win32::demand(list.as<IConnectionPointContainer>()->EnumConnectionPoints(points.out()));
          return points.as<IUnknown>();
      }},
     {"its connections",
-     [](const ComRef<IUnknown>& list) {
-         ComRef<IEnumConnections> connections;
-         demand(eventPointOf(list)->EnumConnections(connections.out()));
+     [](const win32::ComRef<IUnknown>& list) {
+         win32::ComRef<IEnumConnections> connections;
+         win32::demand(eventPointOf(list)->EnumConnections(connections.out()));
          return connections.as<IUnknown>();
      }},
     {"its verbs",
-     [](const ComRef<IUnknown>& list) {
-         ComRef<IEnumOLEVERB> verbs;
-         demand(list.as<IOleObject>()->EnumVerbs(verbs.out()));
+     [](const win32::ComRef<IUnknown>& list) {
+         win32::ComRef<IEnumOLEVERB> verbs;
+         win32::demand(list.as<IOleObject>()->EnumVerbs(verbs.out()));
          return verbs.as<IUnknown>();
      }},
     {"a copy of its verbs",
-     [](const ComRef<IUnknown>& list) {
-         ComRef<IEnumOLEVERB> verbs;
-         ComRef<IEnumOLEVERB> copy;
-         demand(list.as<IOleObject>()->EnumVerbs(verbs.out()));
-         demand(verbs->Clone(copy.out()));
+     [](const win32::ComRef<IUnknown>& list) {
+         win32::ComRef<IEnumOLEVERB> verbs;
+         win32::ComRef<IEnumOLEVERB> copy;
+         win32::demand(list.as<IOleObject>()->EnumVerbs(verbs.out()));
+         win32::demand(verbs->Clone(copy.out()));
          return copy.as<IUnknown>();
      }},
     {"its data formats",
-     [](const ComRef<IUnknown>& list) {
-         ComRef<IEnumFORMATETC> formats;
-         demand(list.as<IDataObject>()->EnumFormatEtc(DATADIR_GET, formats.out()));
+     [](const win32::ComRef<IUnknown>& list) {
+         win32::ComRef<IEnumFORMATETC> formats;
+         win32::demand(list.as<IDataObject>()->EnumFormatEtc(DATADIR_GET, formats.out()));
          return formats.as<IUnknown>();
      }},
     {"what a search found",
-     [](const ComRef<IUnknown>& list) { return resultOf(list, L"FindItem", DISPATCH_METHOD, {u"a"}); }},
-    {"one of its fonts",
-     [](const ComRef<IUnknown>& list) { return resultOf(list, L"DefaultItemFont", DISPATCH_PROPERTYGET); }}};
+     [](const win32::ComRef<IUnknown>& list) {
+         return resultOf(list, L"FindItem", DISPATCH_METHOD, {u"a"});
+     }},
+    {"one of its fonts", [](const win32::ComRef<IUnknown>& list) {
+         return resultOf(list, L"DefaultItemFont", DISPATCH_PROPERTYGET);
+     }}};
 
 TEST_F(Unloading, WhatOutlivesTheControlKeepsTheModule) {
     for (const HeldThing& thing : heldThings) {
         SCOPED_TRACE(thing.name);
         EXPECT_TRUE(component.canUnload());
-        ComRef<IUnknown> list = makeList();
+        win32::ComRef<IUnknown> list = makeList();
         EXPECT_FALSE(component.canUnload());
-        ComRef<IUnknown> held = thing.take(list);
+        win32::ComRef<IUnknown> held = thing.take(list);
         EXPECT_TRUE(held);
         list = {};
         EXPECT_FALSE(component.canUnload());
@@ -121,8 +126,8 @@ TEST_F(Unloading, WhatOutlivesTheControlKeepsTheModule) {
 }
 
 TEST_F(Unloading, AFontThatOutlivesItsControlCanStillBeChanged) {
-    ComRef<IUnknown> list = makeList();
-    const ComRef<IUnknown> held = resultOf(list, L"DefaultItemFont", DISPATCH_PROPERTYGET);
+    win32::ComRef<IUnknown> list = makeList();
+    const win32::ComRef<IUnknown> held = resultOf(list, L"DefaultItemFont", DISPATCH_PROPERTYGET);
     list = {};
     const auto font = held.as<IFont>();
     ASSERT_TRUE(font);
@@ -139,10 +144,10 @@ TEST_F(Unloading, AHostsOwnFontKeepsNothing) {
     description.lpstrName = name;
     description.cySize.int64 = 100000;
     description.sWeight = FW_NORMAL;
-    ComRef<IFont> font;
-    demand(OleCreateFontIndirect(&description, IID_IFont, reinterpret_cast<void**>(font.out())));
+    win32::ComRef<IFont> font;
+    win32::demand(OleCreateFontIndirect(&description, IID_IFont, reinterpret_cast<void**>(font.out())));
     {
-        const ComRef<IUnknown> list = makeList();
+        const win32::ComRef<IUnknown> list = makeList();
         VARIANT value;
         V_VT(&value) = VT_DISPATCH;
         V_DISPATCH(&value) = font.as<IDispatch>().get();
@@ -160,16 +165,16 @@ TEST_F(Unloading, AHostsOwnFontKeepsNothing) {
 TEST_F(Unloading, APictureReadFromAFileOutlivesItsControl) {
     const ScratchFolder folder;
     const String file = folder.pathTo("icons.lst");
-    ComRef<IUnknown> held;
+    win32::ComRef<IUnknown> held;
     {
         PICTDESC description{};
         description.cbSizeofstruct = sizeof(description);
         description.picType = PICTYPE_BITMAP;
         description.bmp.hbitmap = CreateBitmap(16, 16, 1, 32, std::vector<BYTE>(16 * 16 * 4, 0x80).data());
-        ComRef<IDispatch> picture;
-        demand(OleCreatePictureIndirect(
+        win32::ComRef<IDispatch> picture;
+        win32::demand(OleCreatePictureIndirect(
             &description, IID_IPictureDisp, TRUE, reinterpret_cast<void**>(picture.out())));
-        const ComRef<IUnknown> first = makeList();
+        const win32::ComRef<IUnknown> first = makeList();
         const auto list = first.as<IDispatch>();
         VARIANT icon;
         V_VT(&icon) = VT_DISPATCH;
@@ -177,11 +182,11 @@ TEST_F(Unloading, APictureReadFromAFileOutlivesItsControl) {
         ASSERT_EQ(invoke(list.get(),
                          idOf(list.get(), L"ItemIcon"),
                          DISPATCH_PROPERTYPUTREF,
-                         {toVARIANT(Long{1}).release(), toVARIANT(Long{1}).release(), icon})
+                         {win32::toVARIANT(Long{1}).release(), win32::toVARIANT(Long{1}).release(), icon})
                       .result,
                   S_OK);
         invoke(list.get(), L"ContentSave", DISPATCH_METHOD, {file, true});
-        const ComRef<IUnknown> second = makeList();
+        const win32::ComRef<IUnknown> second = makeList();
         invoke(second.as<IDispatch>().get(), L"ContentInput", DISPATCH_METHOD, {file, true});
         held = resultOf(second, L"ItemIcon", DISPATCH_PROPERTYGET, {Long{1}, Long{1}});
     }
@@ -195,7 +200,7 @@ TEST_F(Unloading, APictureReadFromAFileOutlivesItsControl) {
 TEST_F(Unloading, ASinkKeepsNothing) {
     EventSink sink;
     {
-        const ComRef<IUnknown> list = makeList();
+        const win32::ComRef<IUnknown> list = makeList();
         DWORD cookie = 0;
         ASSERT_EQ(eventPointOf(list)->Advise(&sink, &cookie), S_OK);
         EXPECT_EQ(sink.references, 2U);
@@ -207,7 +212,7 @@ TEST_F(Unloading, ASinkKeepsNothing) {
 TEST_F(Unloading, FactoriesAndHelpersKeepTheModule) {
     for (const char* name : {"lmListView", "SpEv", "Error"}) {
         SCOPED_TRACE(name);
-        ComRef<IUnknown> held = factoryOf(name);
+        win32::ComRef<IUnknown> held = factoryOf(name);
         EXPECT_FALSE(component.canUnload());
         held = {};
         EXPECT_TRUE(component.canUnload());
@@ -228,7 +233,7 @@ TEST_F(Unloading, EachLockOfTheServerNeedsItsUnlock) {
     EXPECT_TRUE(component.canUnload());
     lock(FALSE);
     EXPECT_TRUE(component.canUnload()) << "one unlock too many";
-    const ComRef<IUnknown> helper = component.make("Error");
+    const win32::ComRef<IUnknown> helper = component.make("Error");
     EXPECT_FALSE(component.canUnload()) << "and it unlocks nothing else";
 }
 

@@ -17,10 +17,10 @@ class UsersLocale : public ListFixture {
     /// What a routine of the system writes.
     template <class Write>
     static String written(Write write) {
-        OwnedVARIANT text;
-        demand(write(&V_BSTR(&text.get())));
+        win32::OwnedVARIANT text;
+        win32::demand(write(&V_BSTR(&text.get())));
         V_VT(&text.get()) = VT_BSTR;
-        return String(viewBSTR(V_BSTR(&text.get())));
+        return String(win32::viewBSTR(V_BSTR(&text.get())));
     }
     /// With a mark between the thousands and two decimals.
     static String grouped(Double number) {

@@ -43,7 +43,7 @@ TEST_F(Verbs, AnUnknownVerbIsThePrimaryOneOrRefusedByItsSign) {
 }
 
 TEST_F(Verbs, TheVerbsCanBeListed) {
-    ComRef<IEnumOLEVERB> verbs;
+    win32::ComRef<IEnumOLEVERB> verbs;
     ASSERT_EQ(object->EnumVerbs(verbs.out()), S_OK);
     std::vector<LONG> numbers;
     OLEVERB item{};
@@ -52,7 +52,7 @@ TEST_F(Verbs, TheVerbsCanBeListed) {
     EXPECT_EQ(numbers, (std::vector<LONG>{0, -1, -3, -4, -5}));
     ASSERT_EQ(verbs->Reset(), S_OK);
     EXPECT_EQ(verbs->Skip(4), S_OK);
-    ComRef<IEnumOLEVERB> copy;
+    win32::ComRef<IEnumOLEVERB> copy;
     ASSERT_EQ(verbs->Clone(copy.out()), S_OK);
     EXPECT_EQ(copy->Next(1, &item, nullptr), S_OK);
     EXPECT_EQ(item.lVerb, OLEIVERB_INPLACEACTIVATE);
@@ -74,7 +74,7 @@ TEST_F(Verbs, TheSameSiteAgainChangesNothing) {
     ASSERT_EQ(object->SetClientSite(&container), S_OK);
     EXPECT_EQ(told("OnInPlaceDeactivate"), 0);
     EXPECT_TRUE(IsWindowVisible(window()));
-    ComRef<IOleClientSite> site;
+    win32::ComRef<IOleClientSite> site;
     ASSERT_EQ(object->GetClientSite(site.out()), S_OK);
     EXPECT_EQ(site.get(), static_cast<IOleClientSite*>(&container));
 }
@@ -159,7 +159,7 @@ TEST_F(Verbs, AdvisedSinksHearOfSavingAndClosing) {
     ASSERT_EQ(control.as<IPersistPropertyBag>()->Save(&bag, TRUE, FALSE), S_OK);
     ASSERT_EQ(object->Close(OLECLOSE_NOSAVE), S_OK);
     EXPECT_EQ(sink.told, (std::vector<std::string>{"save", "close"}));
-    ComRef<IEnumSTATDATA> advises;
+    win32::ComRef<IEnumSTATDATA> advises;
     ASSERT_EQ(object->EnumAdvise(advises.out()), S_OK);
     EXPECT_TRUE(advises);
     advises = {};
@@ -194,7 +194,7 @@ TEST_F(Verbs, AViewsSinkMayAskForOneCallOrForTheFirst) {
     EXPECT_EQ(sink.told, std::vector<std::string>{"view"});
     DWORD aspects = 0;
     DWORD flags = 0;
-    ComRef<IAdviseSink> given;
+    win32::ComRef<IAdviseSink> given;
     ASSERT_EQ(view->GetAdvise(&aspects, &flags, given.out()), S_OK);
     EXPECT_EQ(aspects, DWORD{DVASPECT_CONTENT});
     EXPECT_EQ(flags, DWORD{ADVF_PRIMEFIRST});
@@ -232,10 +232,10 @@ TEST_F(Verbs, WhatTheClassPromises) {
     EXPECT_EQ(status, 0U);
     CLSID id{};
     ASSERT_EQ(object->GetUserClassID(&id), S_OK);
-    EXPECT_EQ(id, guidOf("lmListView"));
+    EXPECT_EQ(id, win32::guidOf("lmListView"));
     LPOLESTR type = nullptr;
     ASSERT_EQ(object->GetUserType(USERCLASSTYPE_FULL, &type), S_OK);
-    EXPECT_EQ(textOf(type), u"LumtexListView.lmListView");
+    EXPECT_EQ(win32::textOf(type), u"LumtexListView.lmListView");
     CoTaskMemFree(type);
 }
 
@@ -243,34 +243,34 @@ TEST_F(Verbs, TheClassNamesItsEvents) {
     const auto classInfo = control.as<IProvideClassInfo2>();
     GUID guid{};
     ASSERT_EQ(classInfo->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &guid), S_OK);
-    EXPECT_EQ(guid, guidOf("__lmListView"));
+    EXPECT_EQ(guid, win32::guidOf("__lmListView"));
     EXPECT_EQ(classInfo->GetGUID(99, &guid), E_INVALIDARG);
     EXPECT_EQ(guid, GUID_NULL);
-    ComRef<ITypeInfo> info;
+    win32::ComRef<ITypeInfo> info;
     ASSERT_EQ(classInfo->GetClassInfo(info.out()), S_OK);
     TYPEATTR* attributes = nullptr;
     ASSERT_EQ(info->GetTypeAttr(&attributes), S_OK);
     EXPECT_EQ(attributes->typekind, TKIND_COCLASS);
-    EXPECT_EQ(attributes->guid, guidOf("lmListView"));
+    EXPECT_EQ(attributes->guid, win32::guidOf("lmListView"));
     info->ReleaseTypeAttr(attributes);
 }
 
 TEST_F(Verbs, TheConnectionPointsCanBeListed) {
     const auto points = control.as<IConnectionPointContainer>();
-    ComRef<IEnumConnectionPoints> all;
+    win32::ComRef<IEnumConnectionPoints> all;
     ASSERT_EQ(points->EnumConnectionPoints(all.out()), S_OK);
     std::vector<GUID> found;
-    ComRef<IConnectionPoint> point;
+    win32::ComRef<IConnectionPoint> point;
     while (all->Next(1, point.out(), nullptr) == S_OK) {
         GUID iid{};
         ASSERT_EQ(point->GetConnectionInterface(&iid), S_OK);
         found.push_back(iid);
-        ComRef<IConnectionPointContainer> back;
+        win32::ComRef<IConnectionPointContainer> back;
         ASSERT_EQ(point->GetConnectionPointContainer(back.out()), S_OK);
         EXPECT_EQ(back.get(), points.get());
     }
     ASSERT_EQ(found.size(), 2U);
-    EXPECT_EQ(found[0], guidOf("__lmListView"));
+    EXPECT_EQ(found[0], win32::guidOf("__lmListView"));
     EXPECT_EQ(found[1], IID_IPropertyNotifySink);
     EXPECT_EQ(points->FindConnectionPoint(IID_IOleObject, point.out()), CONNECT_E_NOCONNECTION);
     EXPECT_FALSE(point);

@@ -121,7 +121,7 @@ TEST_F(View, OtherAspectsAreRefused) {
 }
 
 TEST_F(View, TheFormatsOfTheDataCanBeListed) {
-    ComRef<IEnumFORMATETC> formats;
+    win32::ComRef<IEnumFORMATETC> formats;
     const auto object2 = control.as<IDataObject>();
     ASSERT_EQ(object2->EnumFormatEtc(DATADIR_GET, formats.out()), S_OK);
     std::vector<CLIPFORMAT> numbers;
@@ -168,7 +168,7 @@ TEST_F(View, TheExtendersNameGoesBeforeTheDisplayName) {
     const auto byDisplayName = drawn();
     const auto extender = std::make_shared<TestObject>();
     extender->properties[u"Name"] = u"Another";
-    container.extender = toIDispatch(extender);
+    container.extender = win32::toIDispatch(extender);
     ASSERT_EQ(control.as<IOleControl>()->OnAmbientPropertyChange(DISPID_UNKNOWN), S_OK);
     const auto byExtender = drawn();
     EXPECT_GT(differing(byExtender, byDisplayName), 10U);
@@ -213,7 +213,7 @@ TEST_F(View, TheFontOfItsParentGoesBeforeTheAmbientOne) {
     form->properties[u"Font"] =
         Variant(FontRef(std::make_shared<Font>(FontSpec{.Name = u"Verdana", .Size = 24, .Italic = true})));
     extender->properties[u"Parent"] = Variant(ObjectRef(form));
-    container.extender = toIDispatch(extender);
+    container.extender = win32::toIDispatch(extender);
     begin(true);
     EXPECT_TRUE(get(L"DefaultItemFont").toFont()->spec.Italic);
     EXPECT_GT(get(L"DefaultItemFont").toFont()->spec.Size, 20) << "the nearest that the system has";
@@ -225,7 +225,7 @@ TEST_F(View, AParentWithoutAFontLeavesTheAmbientOne) {
         Variant(FontRef(std::make_shared<Font>(FontSpec{.Name = u"Verdana", .Size = 18})));
     const auto extender = std::make_shared<TestObject>();
     extender->properties[u"Parent"] = Variant(ObjectRef(std::make_shared<TestObject>()));
-    container.extender = toIDispatch(extender);
+    container.extender = win32::toIDispatch(extender);
     begin(true);
     EXPECT_NEAR(get(L"DefaultItemFont").toFont()->spec.Size, 18, 0.5);
     container.extender = {};

@@ -13,7 +13,7 @@ constexpr DISPID mouseDown = 7;
 class WithoutContainer : public ListFixture {
   protected:
     WithoutContainer() {
-        demand(point->Advise(&sink, &cookie));
+        win32::demand(point->Advise(&sink, &cookie));
         get(L"RowsCount");
     }
     ~WithoutContainer() override {
@@ -21,7 +21,7 @@ class WithoutContainer : public ListFixture {
         point = {};
     }
 
-    HWND window() { return toHWND(get(L"hwnd").toLong()); }
+    HWND window() { return win32::toHWND(get(L"hwnd").toLong()); }
     std::vector<std::uint32_t> printed() {
         RECT area{};
         GetClientRect(window(), &area);
@@ -31,7 +31,7 @@ class WithoutContainer : public ListFixture {
     }
 
     EventSink sink;
-    ComRef<IConnectionPoint> point = eventPointOf(control);
+    win32::ComRef<IConnectionPoint> point = eventPointOf(control);
     DWORD cookie = 0;
 };
 

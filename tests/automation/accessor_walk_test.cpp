@@ -24,29 +24,29 @@ struct Sample {
     Variant read;
 };
 
-Sample sampleFor(const Member& member) {
+Sample sampleFor(const automation::Member& member) {
     switch (member.type.code) {
-    case TypeCode::boolean:
+    case automation::TypeCode::boolean:
         return {true, true};
-    case TypeCode::integer:
+    case automation::TypeCode::integer:
         return {Integer{2}, Integer{2}};
-    case TypeCode::longInteger:
+    case automation::TypeCode::longInteger:
         return {Long{3}, Long{3}};
-    case TypeCode::enumeration:
+    case automation::TypeCode::enumeration:
         return {Long{2}, Long{2}};
-    case TypeCode::single:
+    case automation::TypeCode::single:
         return {37.5F, 37.5F};
-    case TypeCode::string:
+    case automation::TypeCode::string:
         return {u"sample", u"sample"};
-    case TypeCode::variant:
+    case automation::TypeCode::variant:
         return {Long{0x123456}, Long{0x123456}};
-    case TypeCode::color:
+    case automation::TypeCode::color:
         return {Long{0x123456}, Long{0x123456}};
-    case TypeCode::picture: {
+    case automation::TypeCode::picture: {
         const PictureRef shared = picture();
         return {shared, shared};
     }
-    case TypeCode::object: {
+    case automation::TypeCode::object: {
         const ObjectRef shared = std::make_shared<TestObject>();
         return {shared, shared};
     }
@@ -56,25 +56,25 @@ Sample sampleFor(const Member& member) {
     }
 }
 
-Variant zeroOf(TypeCode type) {
+Variant zeroOf(automation::TypeCode type) {
     switch (type) {
-    case TypeCode::boolean:
+    case automation::TypeCode::boolean:
         return false;
-    case TypeCode::integer:
+    case automation::TypeCode::integer:
         return Integer{0};
-    case TypeCode::longInteger:
-    case TypeCode::enumeration:
-    case TypeCode::color:
+    case automation::TypeCode::longInteger:
+    case automation::TypeCode::enumeration:
+    case automation::TypeCode::color:
         return Long{0};
-    case TypeCode::single:
+    case automation::TypeCode::single:
         return 0.0F;
-    case TypeCode::string:
+    case automation::TypeCode::string:
         return u"";
-    case TypeCode::picture:
+    case automation::TypeCode::picture:
         return PictureRef{};
-    case TypeCode::font:
+    case automation::TypeCode::font:
         return FontRef{};
-    case TypeCode::object:
+    case automation::TypeCode::object:
         return ObjectRef{};
     default:
         return {};
@@ -85,7 +85,7 @@ enum class Group { control, columns, rows, cells };
 
 struct Accessor {
     Group group;
-    const Member* member;
+    const automation::Member* member;
 };
 
 void PrintTo(const Accessor& accessor, std::ostream* stream) {
@@ -96,20 +96,20 @@ std::vector<Accessor> accessors(const std::function<bool(const Accessor&)>& take
     return true;
 }) {
     std::vector<Accessor> all;
-    const auto take = [&](Group group, std::span<const Member> members) {
-        for (const Member& member : members)
+    const auto take = [&](Group group, std::span<const automation::Member> members) {
+        for (const automation::Member& member : members)
             if (!member.isMethod() && taken({group, &member}))
                 all.push_back({group, &member});
     };
-    take(Group::columns, columnMembers());
-    take(Group::rows, rowMembers());
-    take(Group::cells, itemMembers());
+    take(Group::columns, automation::columnMembers());
+    take(Group::rows, automation::rowMembers());
+    take(Group::cells, automation::itemMembers());
     return all;
 }
 
 std::vector<Accessor> properties() {
     std::vector<Accessor> all;
-    for (const Member& member : propertyMembers())
+    for (const automation::Member& member : automation::propertyMembers())
         all.push_back({Group::control, &member});
     return all;
 }
@@ -120,7 +120,7 @@ std::string nameOf(const ::testing::TestParamInfo<Accessor>& info) {
 
 class EachAccessor : public ListFixture, public ::testing::WithParamInterface<Accessor> {
   protected:
-    const Member& member() const { return *GetParam().member; }
+    const automation::Member& member() const { return *GetParam().member; }
     Group group() const { return GetParam().group; }
     bool assignable() const { return member().let != nullptr; }
 
@@ -171,7 +171,7 @@ class EachAccessor : public ListFixture, public ::testing::WithParamInterface<Ac
         EXPECT_EQ(lastReport().substr(0, lastReport().find(' ')), std::to_string(numberOf(error)));
     }
 
-    CallByName byName{list};
+    automation::CallByName byName{list};
 };
 
 class EachAssignableOne : public EachAccessor {};
@@ -196,7 +196,7 @@ TEST_P(EachAssignableOne, ReadsWhatWasAssigned) {
 TEST_P(EachAssignableOne, RepaintsAsTheTableSays) {
     fill();
     const Sample sample = sampleFor(member());
-    const bool repaints = member().repaint == Repaint::asAutoRedraw;
+    const bool repaints = member().repaint == automation::Repaint::asAutoRedraw;
     EXPECT_EQ(paintsOf([&] { assign(at(Long{2}), sample.assigned); }), repaints ? 1 : 0);
     list.letAutoRedraw(false);
     EXPECT_EQ(paintsOf([&] { assign(at(Long{1}), sample.assigned); }), 0);
@@ -207,7 +207,7 @@ TEST_P(EachAssignableOne, RepaintsAtDesignTimeWhateverAutoRedrawSays) {
     fill();
     list.letAutoRedraw(false);
     host.userMode = false;
-    const bool repaints = member().repaint == Repaint::asAutoRedraw;
+    const bool repaints = member().repaint == automation::Repaint::asAutoRedraw;
     EXPECT_EQ(paintsOf([&] { assign(at(Long{2}), sampleFor(member()).assigned); }), repaints ? 1 : 0);
 }
 
@@ -270,16 +270,16 @@ TEST_P(EachCellAccessor, TakesNoTextAsColumn) {
 
 class EachProperty : public ListFixture, public ::testing::WithParamInterface<Accessor> {
   protected:
-    const Member& member() const { return *GetParam().member; }
+    const automation::Member& member() const { return *GetParam().member; }
 
     /// Another value than the one of a new list.
     Variant other() {
-        if (member().type.code == TypeCode::boolean)
+        if (member().type.code == automation::TypeCode::boolean)
             return !byName.get(member().name).toBoolean();
-        if (member().type.code == TypeCode::object)
+        if (member().type.code == automation::TypeCode::object)
             return ObjectRef(std::make_shared<TestRecordset>(std::vector<String>{u"a"},
                                                              std::vector<std::vector<Variant>>{{u"1"}}));
-        if (member().type.code == TypeCode::font)
+        if (member().type.code == automation::TypeCode::font)
             return std::make_shared<Font>(FontSpec{.Name = u"Verdana", .Size = 20});
         return sampleFor(member()).assigned;
     }
@@ -290,14 +290,14 @@ class EachProperty : public ListFixture, public ::testing::WithParamInterface<Ac
             byName.let(member().name, {}, value);
     }
 
-    CallByName byName{list};
+    automation::CallByName byName{list};
 };
 
 TEST_P(EachProperty, ReadsWhatWasAssigned) {
     const Variant value = other();
     EXPECT_FALSE(byName.get(member().name) == value);
     assign(value);
-    if (member().type.code == TypeCode::font) {
+    if (member().type.code == automation::TypeCode::font) {
         EXPECT_EQ(byName.get(member().name).toFont()->spec, value.toFont()->spec);
     } else {
         EXPECT_EQ(byName.get(member().name), value);
@@ -307,10 +307,12 @@ TEST_P(EachProperty, ReadsWhatWasAssigned) {
 
 TEST_P(EachProperty, RepaintsAsTheTableSays) {
     list.letAutoRedraw(false);
-    EXPECT_EQ(paintsOf([&] { assign(other()); }), member().repaint == Repaint::always ? 1 : 0);
+    EXPECT_EQ(paintsOf([&] { assign(other()); }), member().repaint == automation::Repaint::always ? 1 : 0);
     list.letAutoRedraw(true);
     // A load turns painting off, so that turning it on again paints once more.
-    const int paints = member().name == u"Recordset" ? 2 : member().repaint == Repaint::never ? 0 : 1;
+    const int paints = member().name == u"Recordset"                    ? 2
+                       : member().repaint == automation::Repaint::never ? 0
+                                                                        : 1;
     if (member().name != u"AutoRedraw") {
         EXPECT_EQ(paintsOf([&] { assign(other()); }), paints);
     }

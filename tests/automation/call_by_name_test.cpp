@@ -14,7 +14,7 @@ class CallingByName : public ListFixture {
         return {Variant(values)...};
     }
 
-    CallByName byName{list};
+    automation::CallByName byName{list};
 };
 
 TEST_F(CallingByName, ReadsAssignsAndCallsWhateverTheCaseOfTheName) {
@@ -138,9 +138,9 @@ TEST_F(CallingByName, AListOfArgumentsMayBeAsLongAsTheCallerLikes) {
 }
 
 TEST_F(CallingByName, MembersAreFoundByTheirNumbersToo) {
-    EXPECT_EQ(findMember(listViewClass(), Long{5})->name, u"RowsAdd");
-    EXPECT_EQ(findMember(listViewClass(), Long{-12345}), nullptr);
-    EXPECT_EQ(findMember(listViewClass(), u"rowsadd")->number, 5);
+    EXPECT_EQ(automation::findMember(automation::listViewClass(), Long{5})->name, u"RowsAdd");
+    EXPECT_EQ(automation::findMember(automation::listViewClass(), Long{-12345}), nullptr);
+    EXPECT_EQ(automation::findMember(automation::listViewClass(), u"rowsadd")->number, 5);
 }
 
 } // namespace

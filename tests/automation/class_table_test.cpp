@@ -12,32 +12,33 @@
 namespace lumtex::testing {
 namespace {
 
-std::string signatureOf(const Member& member) {
+std::string signatureOf(const automation::Member& member) {
     std::string text = toUtf8(member.name) + "(";
-    for (const Parameter& parameter : member.parameters())
+    for (const automation::Parameter& parameter : member.parameters())
         text += (text.back() == '(' ? "" : ", ") + toUtf8(parameter.name) + ": " +
                 toUtf8(parameter.type.name) + (parameter.optional() ? " optional" : "");
-    return text + ")" + (member.type.code == TypeCode::none ? "" : ": " + toUtf8(member.type.name)) +
+    return text + ")" +
+           (member.type.code == automation::TypeCode::none ? "" : ": " + toUtf8(member.type.name)) +
            (member.get != nullptr ? " get" : "") + (member.let != nullptr ? " let" : "") +
            (member.call != nullptr ? " call" : "");
 }
 
-std::set<std::string> signaturesOf(const ClassDescription& description) {
+std::set<std::string> signaturesOf(const automation::ClassDescription& description) {
     std::set<std::string> all;
-    for (const Member& member : description.members)
+    for (const automation::Member& member : description.members)
         all.insert(signatureOf(member));
     return all;
 }
 
 TEST(Classes, AreTheControlAndTwoHelpers) {
     std::vector<StringView> names;
-    for (const ClassDescription& description : classTable())
+    for (const automation::ClassDescription& description : automation::classTable())
         names.push_back(description.name);
     EXPECT_EQ(names, (std::vector<StringView>{u"lmListView", u"SpEv", u"Error"}));
 }
 
 TEST(Classes, SpEvHasItsEightMembers) {
-    EXPECT_EQ(signaturesOf(spEvClass()),
+    EXPECT_EQ(signaturesOf(automation::spEvClass()),
               (std::set<std::string>{
                   "ActiveXPTheme(): cActiveXPTheme call",
                   "FileExists(sFile: String): Boolean call",
@@ -52,13 +53,14 @@ TEST(Classes, SpEvHasItsEightMembers) {
 }
 
 TEST(Classes, ErrorHasItsSwitch) {
-    EXPECT_EQ(signaturesOf(errorClass()), (std::set<std::string>{"SilentError(): Boolean get let"}));
+    EXPECT_EQ(signaturesOf(automation::errorClass()),
+              (std::set<std::string>{"SilentError(): Boolean get let"}));
 }
 
 TEST(Classes, NoTwoMembersOfOneShareANumber) {
-    for (const ClassDescription& description : classTable()) {
+    for (const automation::ClassDescription& description : automation::classTable()) {
         std::set<Long> numbers;
-        for (const Member& member : description.members)
+        for (const automation::Member& member : description.members)
             EXPECT_TRUE(numbers.insert(member.number).second) << toUtf8(member.name);
     }
 }
@@ -66,7 +68,7 @@ TEST(Classes, NoTwoMembersOfOneShareANumber) {
 TEST(Classes, TheSwitchIsReachedByName) {
     SilentFlag flag;
     Error error(flag);
-    CallByName byName(error);
+    automation::CallByName byName(error);
     byName.let(u"silenterror", {}, true);
     EXPECT_TRUE(flag.silent);
     EXPECT_EQ(byName.get(u"SilentError"), Variant(true));
@@ -75,16 +77,16 @@ TEST(Classes, TheSwitchIsReachedByName) {
 TEST(Classes, AHelperKnowsItsOwnNamesAlone) {
     SilentFlag flag;
     Error error(flag);
-    CallByName byName(error);
+    automation::CallByName byName(error);
     EXPECT_EQ(errorNumberOf([&] { byName.call(u"Redraw"); }), ErrorNumber::objectDoesNotSupportMember);
-    EXPECT_EQ(findMember(errorClass(), u"TextRead"), nullptr);
-    EXPECT_EQ(findMember(spEvClass(), u"textread")->name, u"TextRead");
+    EXPECT_EQ(automation::findMember(automation::errorClass(), u"TextRead"), nullptr);
+    EXPECT_EQ(automation::findMember(automation::spEvClass(), u"textread")->name, u"TextRead");
 }
 
 TEST(Classes, TheHelperCallsReachTheRuntime) {
     FakeRuntime runtime;
     SpEv helper(runtime);
-    CallByName byName(helper);
+    automation::CallByName byName(helper);
     runtime.fileSystem.texts[u"a.txt"] = u"some text";
     std::vector<Variant> there{u"a.txt"};
     EXPECT_EQ(byName.call(u"FileExists", there), Variant(true));
@@ -94,9 +96,9 @@ TEST(Classes, TheHelperCallsReachTheRuntime) {
 
 TEST(Classes, NoNameStandsTwiceAndNoNumberInOneClass) {
     std::multiset<String> names;
-    for (const ClassDescription& description : classTable()) {
+    for (const automation::ClassDescription& description : automation::classTable()) {
         std::set<Long> numbers;
-        for (const Member& member : description.members) {
+        for (const automation::Member& member : description.members) {
             EXPECT_TRUE(numbers.insert(member.number).second) << toUtf8(member.name);
             names.emplace(member.name);
         }

@@ -8,9 +8,9 @@ namespace lumtex::testing {
 namespace {
 
 /// "Name(A: Long, B: Integer ref)"
-std::string signatureOf(const EventDescription& event) {
+std::string signatureOf(const automation::EventDescription& event) {
     std::string text = toUtf8(event.name) + "(";
-    for (const EventArgument& argument : event.arguments()) {
+    for (const automation::EventArgument& argument : event.arguments()) {
         if (text.back() != '(')
             text += ", ";
         text +=
@@ -59,7 +59,7 @@ TEST(Events, AreTwentySevenInTheirOrderWithTheirArguments) {
         "ItemOver(Row: Long, Column: Long, bOverItem: Boolean)",
     };
     std::vector<std::string> actual;
-    for (const EventDescription& event : eventTable)
+    for (const automation::EventDescription& event : automation::eventTable)
         actual.push_back(signatureOf(event));
     EXPECT_EQ(actual, expected);
 }

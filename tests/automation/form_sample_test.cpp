@@ -35,16 +35,16 @@ std::vector<std::vector<std::string>> allOf(const std::string& text, const char*
     return found;
 }
 
-const Member* memberNamed(const std::string& name) {
-    for (const Member& member : memberTable())
+const automation::Member* memberNamed(const std::string& name) {
+    for (const automation::Member& member : automation::memberTable())
         if (toUtf8(member.name) == name)
             return &member;
     return nullptr;
 }
 
-std::string parameterText(const EventDescription& event) {
+std::string parameterText(const automation::EventDescription& event) {
     std::string text;
-    for (const EventArgument& argument : event.arguments())
+    for (const automation::EventArgument& argument : event.arguments())
         text += (text.empty() ? "" : ", ") + std::string(argument.byReference ? "" : "ByVal ") +
                 toUtf8(argument.name) + " As " + toUtf8(argument.type.name);
     return text;
@@ -61,18 +61,19 @@ TEST(FormSample, HandlesEventsWithTheirOwnArguments) {
     const auto handlers = allOf(contentOf("CitiesForm.frm"), R"(Private Sub Cities_(\w+)\((.*)\))");
     ASSERT_GE(handlers.size(), 4U);
     for (const auto& handler : handlers) {
-        const auto event = std::find_if(eventTable.begin(), eventTable.end(), [&](const auto& candidate) {
-            return toUtf8(candidate.name) == handler[1];
-        });
-        ASSERT_NE(event, eventTable.end()) << handler[1];
+        const auto event =
+            std::find_if(automation::eventTable.begin(),
+                         automation::eventTable.end(),
+                         [&](const auto& candidate) { return toUtf8(candidate.name) == handler[1]; });
+        ASSERT_NE(event, automation::eventTable.end()) << handler[1];
         EXPECT_EQ(handler[2], parameterText(*event)) << handler[1];
     }
 }
 
 TEST(FormSample, UsesEnumeratorsThatExist) {
     std::set<std::string> known;
-    for (const Enumeration& enumeration : enumerationTable)
-        for (const Enumerator& enumerator : enumeration.enumerators())
+    for (const automation::Enumeration& enumeration : automation::enumerationTable)
+        for (const automation::Enumerator& enumerator : enumeration.enumerators())
             known.insert(toUtf8(enumerator.name));
     const auto used = allOf(contentOf("CitiesForm.frm"), R"(\b(c[A-Z]\w+)\b)");
     ASSERT_GT(used.size(), 5U);
@@ -92,19 +93,19 @@ TEST(FormSample, SetsPropertiesThatTheListKeeps) {
     for (const auto& line : lines) {
         if (ofTheContainer.contains(line[1]))
             continue;
-        const Member* member = memberNamed(line[1]);
+        const automation::Member* member = memberNamed(line[1]);
         ASSERT_NE(member, nullptr) << line[1];
         EXPECT_TRUE(member->let != nullptr && !member->hidden && member->count == 0) << line[1];
     }
 }
 
 TEST(FormSample, RefersToTheLibraryByItsIdentifier) {
-    std::string library(uuidOf("LumtexListView"));
+    std::string library(automation::uuidOf("LumtexListView"));
     std::transform(library.begin(), library.end(), library.begin(), [](char c) {
         return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
     });
-    const std::string reference = "{" + library + "}#" + std::to_string(typeLibraryMajor) + "." +
-                                  std::to_string(typeLibraryMinor) + "#0";
+    const std::string reference = "{" + library + "}#" + std::to_string(automation::typeLibraryMajor) + "." +
+                                  std::to_string(automation::typeLibraryMinor) + "#0";
     for (const char* file : {"CitiesForm.frm", "Cities.vbp"})
         EXPECT_NE(contentOf(file).find(reference), std::string::npos) << file;
 }

@@ -17,16 +17,17 @@ struct Explained {
 };
 
 std::vector<Explained> everything() {
-    std::vector<Explained> all{
-        {"the library", libraryHelp}, {"the events", eventsHelp}, {"FindResults", findResultsHelp}};
-    for (const ClassDescription& description : classTable()) {
+    std::vector<Explained> all{{"the library", automation::libraryHelp},
+                               {"the events", automation::eventsHelp},
+                               {"FindResults", automation::findResultsHelp}};
+    for (const automation::ClassDescription& description : automation::classTable()) {
         all.push_back({toUtf8(description.name), description.help});
-        for (const Member& member : description.members)
+        for (const automation::Member& member : description.members)
             all.push_back({toUtf8(member.name), member.help});
     }
-    for (const EventDescription& event : eventTable)
+    for (const automation::EventDescription& event : automation::eventTable)
         all.push_back({"the event " + toUtf8(event.name), event.help});
-    for (const Enumeration& enumeration : enumerationTable)
+    for (const automation::Enumeration& enumeration : automation::enumerationTable)
         all.push_back({toUtf8(enumeration.name), enumeration.help});
     return all;
 }

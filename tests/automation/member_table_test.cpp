@@ -9,30 +9,30 @@ namespace lumtex::testing {
 
 namespace {
 
-std::string textOf(const DefaultValue& value) {
+std::string textOf(const automation::DefaultValue& value) {
     switch (value.kind) {
-    case DefaultValue::Kind::required:
+    case automation::DefaultValue::Kind::required:
         return "";
-    case DefaultValue::Kind::missing:
+    case automation::DefaultValue::Kind::missing:
         return " = Missing";
-    case DefaultValue::Kind::nothing:
+    case automation::DefaultValue::Kind::nothing:
         return " = Nothing";
-    case DefaultValue::Kind::boolean:
+    case automation::DefaultValue::Kind::boolean:
         return value.number != 0 ? " = True" : " = False";
-    case DefaultValue::Kind::number:
+    case automation::DefaultValue::Kind::number:
         return " = " + toUtf8(textFromNumber(value.number));
-    case DefaultValue::Kind::text:
+    case automation::DefaultValue::Kind::text:
         break;
     }
     return " = \"" + toUtf8(value.text) + "\"";
 }
 
 /// "Name(ByRef A: Long, B: String = \"x\"): Type get let"
-std::string signatureOf(const Member& member) {
+std::string signatureOf(const automation::Member& member) {
     std::string text = toUtf8(member.name);
     if (member.isMethod() || member.count > 0) {
         text += "(";
-        for (const Parameter& parameter : member.parameters()) {
+        for (const automation::Parameter& parameter : member.parameters()) {
             text += text.back() == '(' ? "" : ", ";
             text += parameter.byReference ? "ByRef " : "";
             text +=
@@ -40,7 +40,7 @@ std::string signatureOf(const Member& member) {
         }
         text += ")";
     }
-    if (member.type.code != TypeCode::none)
+    if (member.type.code != automation::TypeCode::none)
         text += ": " + toUtf8(member.type.name);
     text += member.get != nullptr ? " get" : "";
     if (member.let != nullptr)
@@ -214,7 +214,7 @@ std::vector<T> without(const std::multiset<T>& all, const std::multiset<T>& know
 
 TEST(MemberTable, HoldsEveryPublicMemberWithItsNameAndTypes) {
     std::multiset<std::string> described;
-    for (const Member& member : memberTable())
+    for (const automation::Member& member : automation::memberTable())
         described.insert(signatureOf(member));
     EXPECT_EQ(without(promised, described), std::vector<std::string>()) << "promised, and not in the table";
     EXPECT_EQ(without(described, promised), std::vector<std::string>()) << "in the table, and not promised";
@@ -222,7 +222,7 @@ TEST(MemberTable, HoldsEveryPublicMemberWithItsNameAndTypes) {
 
 TEST(MemberTable, GivesEachMemberANumberOfItsOwn) {
     std::set<Long> numbers;
-    for (const Member& member : memberTable())
+    for (const automation::Member& member : automation::memberTable())
         EXPECT_TRUE(numbers.insert(member.number).second) << toUtf8(member.name);
 }
 

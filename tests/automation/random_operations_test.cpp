@@ -70,19 +70,19 @@ class RandomOperations : public ListFixture, public ::testing::WithParamInterfac
         }
     }
 
-    Variant valueFor(const Member& member) {
+    Variant valueFor(const automation::Member& member) {
         switch (member.type.code) {
-        case TypeCode::boolean:
+        case automation::TypeCode::boolean:
             return chance(50);
-        case TypeCode::enumeration:
+        case automation::TypeCode::enumeration:
             return oneOf<Long>({0, 1, 2, 99, -7});
-        case TypeCode::single:
+        case automation::TypeCode::single:
             return static_cast<Single>(number(0, 400)) / 4;
-        case TypeCode::string:
+        case automation::TypeCode::string:
             return text();
-        case TypeCode::color:
+        case automation::TypeCode::color:
             return number(0, 0xFFFFFF);
-        case TypeCode::picture:
+        case automation::TypeCode::picture:
             return oneOf<PictureRef>({nullptr, pictures[0], pictures[1]});
         default:
             break;
@@ -93,17 +93,17 @@ class RandomOperations : public ListFixture, public ::testing::WithParamInterfac
         return chance(30) ? Variant(u"def") : Variant(number(0, 0xFFFFFF));
     }
 
-    const Member& assignable(std::span<const Member> members) {
+    const automation::Member& assignable(std::span<const automation::Member> members) {
         while (true) {
-            const Member& member =
+            const automation::Member& member =
                 members[static_cast<std::size_t>(number(0, static_cast<Long>(members.size()) - 1))];
             // Objects have pages of their own; they take windows along.
-            if (member.let != nullptr && member.type.code != TypeCode::object)
+            if (member.let != nullptr && member.type.code != automation::TypeCode::object)
                 return member;
         }
     }
 
-    void assign(const Member& member, std::vector<Variant> arguments, const Variant& value) {
+    void assign(const automation::Member& member, std::vector<Variant> arguments, const Variant& value) {
         if (member.isReference())
             byName.set(member.name, arguments, value);
         else
@@ -147,17 +147,17 @@ class RandomOperations : public ListFixture, public ::testing::WithParamInterfac
         if (choice < 40)
             return changeDefaults();
         if (choice < 52)
-            return assignIn(Where::column, columnMembers(), rows, columns);
+            return assignIn(Where::column, automation::columnMembers(), rows, columns);
         if (choice < 64)
-            return assignIn(Where::row, rowMembers(), rows, columns);
-        return assignIn(Where::cell, itemMembers(), rows, columns);
+            return assignIn(Where::row, automation::rowMembers(), rows, columns);
+        return assignIn(Where::cell, automation::itemMembers(), rows, columns);
     }
 
     enum class Where { column, row, cell };
 
     std::pair<std::string, Reports>
-    assignIn(Where where, std::span<const Member> members, Long rows, Long columns) {
-        const Member& member = assignable(members);
+    assignIn(Where where, std::span<const automation::Member> members, Long rows, Long columns) {
+        const automation::Member& member = assignable(members);
         const String name(member.name);
         const Variant value = valueFor(member);
         std::vector<Variant> at{index(where == Where::column ? columns : rows)};
@@ -288,8 +288,10 @@ class RandomOperations : public ListFixture, public ::testing::WithParamInterfac
         return numbers;
     }
 
-    void compareFields(std::span<const Member> members, std::vector<Variant> at, const Fields& expected) {
-        for (const Member& member : members) {
+    void compareFields(std::span<const automation::Member> members,
+                       std::vector<Variant> at,
+                       const Fields& expected) {
+        for (const automation::Member& member : members) {
             const auto field = expected.find(String(member.name));
             if (field != expected.end()) {
                 ASSERT_EQ(member.get(&list, at, nullptr), field->second) << toUtf8(member.name);
@@ -308,20 +310,22 @@ class RandomOperations : public ListFixture, public ::testing::WithParamInterfac
         for (Long column = 0; column <= naive.columnsCount(); ++column)
             ASSERT_EQ(list.ItemsCheckedCount(column), naive.checkedCount(column));
         for (std::size_t column = 0; column < naive.columns.size(); ++column)
-            compareFields(columnMembers(), {static_cast<Long>(column) + 1}, naive.columns[column].fields);
+            compareFields(
+                automation::columnMembers(), {static_cast<Long>(column) + 1}, naive.columns[column].fields);
         for (std::size_t row = 0; row < naive.rows.size(); ++row) {
             const Long number = static_cast<Long>(row) + 1;
-            compareFields(rowMembers(), {number}, naive.rows[row].fields);
+            compareFields(automation::rowMembers(), {number}, naive.rows[row].fields);
             ASSERT_EQ(inside.rows()[row].items.count(), naive.rows[row].cells.size());
             for (std::size_t cell = 0; cell < naive.rows[row].cells.size(); ++cell)
-                compareFields(
-                    itemMembers(), {number, static_cast<Long>(cell) + 1}, naive.rows[row].cells[cell]);
+                compareFields(automation::itemMembers(),
+                              {number, static_cast<Long>(cell) + 1},
+                              naive.rows[row].cells[cell]);
         }
     }
 
     std::mt19937 random{GetParam()};
     NaiveList naive;
-    CallByName byName{list};
+    automation::CallByName byName{list};
     std::array<PictureRef, 2> pictures{std::make_shared<BitmapPicture>(Bitmap(3, 3)),
                                        std::make_shared<BitmapPicture>(Bitmap(5, 5))};
 };

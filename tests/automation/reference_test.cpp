@@ -26,7 +26,7 @@ std::string contentOf(const std::filesystem::path& path) {
 
 TEST(Reference, InTheTreeIsTheOneThatTheTablesGive) {
     std::set<std::string> expected;
-    for (const ReferencePage& page : referencePages()) {
+    for (const automation::ReferencePage& page : automation::referencePages()) {
         expected.insert(page.fileName);
         EXPECT_EQ(contentOf(folder / page.fileName), page.text) << page.fileName << ": run scripts/reference";
     }
@@ -37,12 +37,13 @@ TEST(Reference, InTheTreeIsTheOneThatTheTablesGive) {
 }
 
 TEST(Reference, HasAPageForEachMemberThatNamesItsParameters) {
-    const auto pages = referencePages();
-    for (const Member& member : memberTable()) {
-        const auto page = std::ranges::find(pages, toUtf8(member.name) + ".md", &ReferencePage::fileName);
+    const auto pages = automation::referencePages();
+    for (const automation::Member& member : automation::memberTable()) {
+        const auto page =
+            std::ranges::find(pages, toUtf8(member.name) + ".md", &automation::ReferencePage::fileName);
         ASSERT_NE(page, pages.end()) << toUtf8(member.name);
         EXPECT_NE(page->text.find(toUtf8(member.help.english)), std::string::npos);
-        for (const Parameter& parameter : member.parameters())
+        for (const automation::Parameter& parameter : member.parameters())
             EXPECT_NE(page->text.find("| `" + toUtf8(parameter.name) + "` |"), std::string::npos)
                 << page->text;
     }
@@ -50,17 +51,17 @@ TEST(Reference, HasAPageForEachMemberThatNamesItsParameters) {
 
 TEST(Reference, ListsEveryEnumerationThatAMemberUses) {
     std::set<StringView> known;
-    for (const Enumeration& enumeration : enumerationTable)
+    for (const automation::Enumeration& enumeration : automation::enumerationTable)
         known.insert(enumeration.name);
     EXPECT_EQ(known.size(), 13U);
-    const auto check = [&](const TypeInfo& type) {
-        if (type.code == TypeCode::enumeration) {
+    const auto check = [&](const automation::TypeInfo& type) {
+        if (type.code == automation::TypeCode::enumeration) {
             EXPECT_TRUE(known.contains(type.name)) << toUtf8(type.name);
         }
     };
-    for (const Member& member : memberTable()) {
+    for (const automation::Member& member : automation::memberTable()) {
         check(member.type);
-        for (const Parameter& parameter : member.parameters())
+        for (const automation::Parameter& parameter : member.parameters())
             check(parameter.type);
     }
 }

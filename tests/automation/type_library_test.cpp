@@ -39,7 +39,7 @@ bool holds(const std::string& text, const std::string& part) {
 }
 
 TEST(TypeLibrary, TheGeneratedFilesInTheTreeAreThoseThatTheTablesGive) {
-    for (const GeneratedFile& file : generatedFiles())
+    for (const automation::GeneratedFile& file : automation::generatedFiles())
         EXPECT_TRUE(contentOf(std::filesystem::path(sourceFolder()) / file.path) == file.text)
             << file.path << ": run scripts/reference";
 }
@@ -48,7 +48,7 @@ TEST(TypeLibrary, EveryIdentifierIsWellFormedAndUsedOnce) {
     const std::regex form("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}");
     std::set<std::string_view> names;
     std::set<std::string_view> uuids;
-    for (const Identifier& identifier : identifiers) {
+    for (const automation::Identifier& identifier : automation::identifiers) {
         EXPECT_TRUE(std::regex_match(std::string(identifier.uuid), form)) << identifier.name;
         EXPECT_TRUE(names.insert(identifier.name).second) << identifier.name;
         EXPECT_TRUE(uuids.insert(identifier.uuid).second) << identifier.name;
@@ -56,8 +56,8 @@ TEST(TypeLibrary, EveryIdentifierIsWellFormedAndUsedOnce) {
 }
 
 TEST(TypeLibrary, EveryIdentifierStandsInTheSource) {
-    const std::string source = typeLibrarySource();
-    for (const Identifier& identifier : identifiers)
+    const std::string source = automation::typeLibrarySource();
+    for (const automation::Identifier& identifier : automation::identifiers)
         EXPECT_TRUE(holds(source, "uuid(" + std::string(identifier.uuid) + ")")) << identifier.name;
 }
 
@@ -71,34 +71,34 @@ TEST(TypeLibrary, EveryNameHasOneSpelling) {
     };
     check(u"value");
     check(u"result");
-    for (const ClassDescription& description : classTable()) {
+    for (const automation::ClassDescription& description : automation::classTable()) {
         check(description.name);
-        for (const Member& member : description.members) {
+        for (const automation::Member& member : description.members) {
             check(member.name);
-            for (const Parameter& parameter : member.parameters())
+            for (const automation::Parameter& parameter : member.parameters())
                 check(parameter.name);
         }
     }
-    for (const EventDescription& event : eventTable) {
+    for (const automation::EventDescription& event : automation::eventTable) {
         check(event.name);
-        for (const EventArgument& argument : event.arguments())
+        for (const automation::EventArgument& argument : event.arguments())
             check(argument.name);
     }
-    for (const Enumeration& enumeration : enumerationTable) {
+    for (const automation::Enumeration& enumeration : automation::enumerationTable) {
         check(enumeration.name);
-        for (const Enumerator& enumerator : enumeration.enumerators())
+        for (const automation::Enumerator& enumerator : enumeration.enumerators())
             check(enumerator.name);
     }
-    for (const RecordField& field : findResultsFields)
+    for (const automation::RecordField& field : automation::findResultsFields)
         check(field.name);
 }
 
 TEST(TypeLibrary, EveryEntryOfEveryMemberIsDeclared) {
-    const std::string source = typeLibrarySource();
-    for (const ClassDescription& description : classTable())
-        for (const InterfaceEntry& entry : interfaceEntries(description.members)) {
-            const Member& member = *entry.member;
-            using enum InterfaceEntry::Kind;
+    const std::string source = automation::typeLibrarySource();
+    for (const automation::ClassDescription& description : automation::classTable())
+        for (const automation::InterfaceEntry& entry : automation::interfaceEntries(description.members)) {
+            const automation::Member& member = *entry.member;
+            using enum automation::InterfaceEntry::Kind;
             const char* kind = entry.kind == get   ? "propget, "
                                : entry.kind == let ? "propput, "
                                : entry.kind == set ? "propputref, "
@@ -112,20 +112,22 @@ TEST(TypeLibrary, EveryEntryOfEveryMemberIsDeclared) {
 
 TEST(TypeLibrary, APropertysGetComesBeforeItsLet) {
     std::vector<std::string> entries;
-    for (const InterfaceEntry& entry : interfaceEntries(errorClass().members))
+    for (const automation::InterfaceEntry& entry :
+         automation::interfaceEntries(automation::errorClass().members))
         entries.push_back(toUtf8(entry.member->name) +
-                          (entry.kind == InterfaceEntry::Kind::get ? " get" : " let"));
+                          (entry.kind == automation::InterfaceEntry::Kind::get ? " get" : " let"));
     EXPECT_EQ(entries, (std::vector<std::string>{"SilentError get", "SilentError let"}));
 }
 
 /// What the type library cannot hold must be what a caller passes who does not know a default.
 TEST(TypeLibrary, ADefaultThatIsNotDeclaredMeansZeroOrNothing) {
-    for (const ClassDescription& description : classTable())
-        for (const Member& member : description.members)
-            for (const Parameter& parameter : member.parameters()) {
+    for (const automation::ClassDescription& description : automation::classTable())
+        for (const automation::Member& member : description.members)
+            for (const automation::Parameter& parameter : member.parameters()) {
                 const std::string name = toUtf8(member.name) + " " + toUtf8(parameter.name);
-                const bool color = parameter.type.code == TypeCode::color;
-                const bool textByReference = parameter.type.code == TypeCode::string && parameter.byReference;
+                const bool color = parameter.type.code == automation::TypeCode::color;
+                const bool textByReference =
+                    parameter.type.code == automation::TypeCode::string && parameter.byReference;
                 if (color && parameter.optional()) {
                     EXPECT_EQ(parameter.defaultValue.number, 0) << name;
                 }
@@ -137,7 +139,7 @@ TEST(TypeLibrary, ADefaultThatIsNotDeclaredMeansZeroOrNothing) {
 }
 
 TEST(TypeLibrary, MembersAreWrittenWithTypesDirectionsAndDefaults) {
-    const std::string source = typeLibrarySource();
+    const std::string source = automation::typeLibrarySource();
     EXPECT_TRUE(
         holds(source,
               "HRESULT RowsAdd([in, out, optional] VARIANT* aIndex, [in, optional, defaultvalue(\",\")] "
@@ -159,7 +161,7 @@ TEST(TypeLibrary, MembersAreWrittenWithTypesDirectionsAndDefaults) {
 }
 
 TEST(TypeLibrary, EventsAreNumberedInTheirOrder) {
-    const std::string source = typeLibrarySource();
+    const std::string source = automation::typeLibrarySource();
     EXPECT_TRUE(holds(source, "[id(20), helpstring(\"Eine Sortierung ist beendet.\")] void SortDone();"));
     EXPECT_TRUE(holds(
         source,
@@ -173,7 +175,7 @@ TEST(TypeLibrary, EventsAreNumberedInTheirOrder) {
 }
 
 TEST(TypeLibrary, TheControlAloneHasEvents) {
-    const std::string source = typeLibrarySource();
+    const std::string source = automation::typeLibrarySource();
     EXPECT_TRUE(holds(source,
                       "[default] interface _lmListView;\n        [default, source] dispinterface "
                       "__lmListView;\n"));

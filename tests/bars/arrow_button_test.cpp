@@ -3,17 +3,17 @@
 
 namespace lumtex::testing {
 
-using Inside = ScrollInspector;
+using Inside = bars::ScrollInspector;
 using namespace std::chrono_literals;
 
 /// Each of the four buttons, on the bar that it belongs to.
-class Button : public ::testing::TestWithParam<Arrow>, public OneBar {
+class Button : public ::testing::TestWithParam<bars::Arrow>, public OneBar {
   protected:
-    Button() : OneBar(isLevel() ? Axis::horizontal : Axis::vertical) { bar().letMax(1000); }
+    Button() : OneBar(isLevel() ? bars::Axis::horizontal : bars::Axis::vertical) { bar().letMax(1000); }
 
-    static bool isLevel() { return GetParam() == Arrow::left || GetParam() == Arrow::right; }
-    static bool isLow() { return GetParam() == Arrow::up || GetParam() == Arrow::left; }
-    ArrowButton& button() { return isLow() ? low() : high(); }
+    static bool isLevel() { return GetParam() == bars::Arrow::left || GetParam() == bars::Arrow::right; }
+    static bool isLow() { return GetParam() == bars::Arrow::up || GetParam() == bars::Arrow::left; }
+    bars::ArrowButton& button() { return isLow() ? low() : high(); }
     Single middle() { return isLow() ? 8 : 125; }
     Single beside() { return isLow() ? -20 : 160; }
     Lines drawnByPaint() {
@@ -22,17 +22,18 @@ class Button : public ::testing::TestWithParam<Arrow>, public OneBar {
     /// Does the button show the picture of its array with that index?
     bool shows(std::size_t index) {
         return drawn(button().window()).image() ==
-               ScrollArtwork::standard().buttonOf(GetParam())[index]->bitmap();
+               bars::ScrollArtwork::standard().buttonOf(GetParam())[index]->bitmap();
     }
 };
-std::string arrowName(const ::testing::TestParamInfo<Arrow>& info) {
+std::string arrowName(const ::testing::TestParamInfo<bars::Arrow>& info) {
     constexpr std::array<const char*, 4> words{"up", "down", "left", "right"};
     return words.at(static_cast<std::size_t>(info.param));
 }
-INSTANTIATE_TEST_SUITE_P(Arrows,
-                         Button,
-                         ::testing::Values(Arrow::up, Arrow::down, Arrow::left, Arrow::right),
-                         arrowName);
+INSTANTIATE_TEST_SUITE_P(
+    Arrows,
+    Button,
+    ::testing::Values(bars::Arrow::up, bars::Arrow::down, bars::Arrow::left, bars::Arrow::right),
+    arrowName);
 
 TEST_P(Button, ShowsAPictureForEachLookOfEachScheme) {
     for (const Long style : {0, 1, 2}) {
@@ -60,22 +61,22 @@ TEST_P(Button, IsPaintedAtItsNaturalSize) {
 /// The chevrons point by point.
 // Wanted: the level pair is no exact turn of the upright one.
 TEST_P(Button, DrawsItsChevronInTheCustomStyle) {
-    const std::map<Arrow, Lines> strokes{
-        {Arrow::up,
+    const std::map<bars::Arrow, Lines> strokes{
+        {bars::Arrow::up,
          {"Line 4,9-9,4",
           "Line 5,9-9,5",
           "Line 5,10-10,5",
           "Line 12,9-8,5",
           "Line 11,9-7,5",
           "Line 11,10-7,6"}},
-        {Arrow::down,
+        {bars::Arrow::down,
          {"Line 4,7-9,12",
           "Line 5,7-9,11",
           "Line 5,6-9,10",
           "Line 12,7-8,11",
           "Line 11,7-7,11",
           "Line 11,6-7,10"}},
-        {Arrow::left,
+        {bars::Arrow::left,
          {"Line 9,4-5,8",
           "Line 9,5-5,9",
           "Line 10,5-5,10",
@@ -83,7 +84,7 @@ TEST_P(Button, DrawsItsChevronInTheCustomStyle) {
           "Line 5,8-11,12",
           "Line 6,9-10,13",
           "Line 8,9-11,12"}},
-        {Arrow::right,
+        {bars::Arrow::right,
          {"Line 7,4-11,8",
           "Line 7,5-11,9",
           "Line 6,5-10,9",
@@ -92,8 +93,8 @@ TEST_P(Button, DrawsItsChevronInTheCustomStyle) {
           "Line 10,8-6,12",
           "Line 10,9-6,13"}},
     };
-    button().letColor(&ArrowColors::Arrow, 0xABCDEF);
-    button().letColor(&ArrowColors::Button, 0x123456);
+    button().letColor(&bars::ArrowColors::Arrow, 0xABCDEF);
+    button().letColor(&bars::ArrowColors::Button, 0x123456);
     button().letC(99);
     Lines expected{"BackColor 123456", "ForeColor ABCDEF"};
     for (const std::string& stroke : strokes.at(GetParam()))
@@ -104,12 +105,12 @@ TEST_P(Button, DrawsItsChevronInTheCustomStyle) {
 // Wanted: a disabled button of the custom style looks as an enabled one.
 TEST_P(Button, TakesTheCustomColoursByHoverAndPress) {
     OLE_COLOR next = 1;
-    for (OLE_COLOR ArrowColors::*role : {&ArrowColors::Arrow,
-                                         &ArrowColors::ArrowDown,
-                                         &ArrowColors::ArrowHover,
-                                         &ArrowColors::Button,
-                                         &ArrowColors::ButtonDown,
-                                         &ArrowColors::ButtonHover})
+    for (OLE_COLOR bars::ArrowColors::*role : {&bars::ArrowColors::Arrow,
+                                               &bars::ArrowColors::ArrowDown,
+                                               &bars::ArrowColors::ArrowHover,
+                                               &bars::ArrowColors::Button,
+                                               &bars::ArrowColors::ButtonDown,
+                                               &bars::ArrowColors::ButtonHover})
         button().letColor(role, next++);
     bar().letColorStyle(99);
     const auto look = [&] {

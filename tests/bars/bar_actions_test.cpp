@@ -3,11 +3,14 @@
 
 namespace lumtex::testing {
 
-using Inside = ScrollInspector;
+using Inside = bars::ScrollInspector;
 using namespace std::chrono_literals;
 
 using Drag = BothBars;
-INSTANTIATE_TEST_SUITE_P(Axes, Drag, ::testing::Values(Axis::vertical, Axis::horizontal), axisName);
+INSTANTIATE_TEST_SUITE_P(Axes,
+                         Drag,
+                         ::testing::Values(bars::Axis::vertical, bars::Axis::horizontal),
+                         axisName);
 
 TEST_P(Drag, RaisesScrollWithEachNewValueAndChangeAtItsEnd) {
     pressAt(27);
@@ -98,7 +101,10 @@ TEST_P(Drag, RoundsToTheNearestValue) {
 }
 
 using Arrows = BothBars;
-INSTANTIATE_TEST_SUITE_P(Axes, Arrows, ::testing::Values(Axis::vertical, Axis::horizontal), axisName);
+INSTANTIATE_TEST_SUITE_P(Axes,
+                         Arrows,
+                         ::testing::Values(bars::Axis::vertical, bars::Axis::horizontal),
+                         axisName);
 
 // Wanted: an arrow raises Change at the end of the range too, when nothing has moved.
 TEST_P(Arrows, StepAndRaiseChangeAlsoAtTheEnd) {
@@ -129,7 +135,7 @@ TEST_P(Arrows, StepAndRaiseChangeAlsoAtTheEnd) {
 }
 
 TEST(VerticalArrows, JumpAsFarAsTheyAreTold) {
-    OneBar one(Axis::vertical);
+    OneBar one(bars::Axis::vertical);
     one.vertical().letScrollButtonJumpLines(7);
     one.pressAt(125);
     EXPECT_EQ(one.bar().Value(), 7);
@@ -171,7 +177,10 @@ TEST_P(Arrows, HeldAtTheEndOfTheRangeGoOnRaisingTheEvent) {
 }
 
 using Trough = BothBars;
-INSTANTIATE_TEST_SUITE_P(Axes, Trough, ::testing::Values(Axis::vertical, Axis::horizontal), axisName);
+INSTANTIATE_TEST_SUITE_P(Axes,
+                         Trough,
+                         ::testing::Values(bars::Axis::vertical, bars::Axis::horizontal),
+                         axisName);
 
 TEST_P(Trough, APressStepsAtOnceAndRepeatsAtTheButtonsRhythm) {
     pressAt(100);

@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-namespace lumtex {
+namespace lumtex::bars {
 
 /// The private state, for tests alone.
 class ScrollInspector {
@@ -32,7 +32,7 @@ class ScrollInspector {
     static Timer& timer(ArrowButton& button) { return *button.Timer1; }
 };
 
-} // namespace lumtex
+} // namespace lumtex::bars
 
 namespace lumtex::testing {
 
@@ -40,18 +40,18 @@ namespace lumtex::testing {
 /// `Max` 50 makes the thumb 50 long, so that it travels one pixel for a unit. The log holds the bar's events.
 class OneBar {
   public:
-    explicit OneBar(Axis axis) : axis_(axis), along(axis) {
+    explicit OneBar(bars::Axis axis) : axis_(axis), along(axis) {
         form_->place(0, 0, 300, 300);
-        ScrollBar::Events events{[this] {
-                                     log.emplace_back("Change");
-                                     onChange();
-                                 },
-                                 [this] { log.emplace_back("Scroll"); },
-                                 [this](StringView name) { told.push_back(toUtf8(name)); }};
-        if (axis == Axis::vertical)
-            bar_ = std::make_unique<lmVScroll>(world, *form_, std::move(events));
+        bars::ScrollBar::Events events{[this] {
+                                           log.emplace_back("Change");
+                                           onChange();
+                                       },
+                                       [this] { log.emplace_back("Scroll"); },
+                                       [this](StringView name) { told.push_back(toUtf8(name)); }};
+        if (axis == bars::Axis::vertical)
+            bar_ = std::make_unique<bars::lmVScroll>(world, *form_, std::move(events));
         else
-            bar_ = std::make_unique<lmHScroll>(world, *form_, std::move(events));
+            bar_ = std::make_unique<bars::lmHScroll>(world, *form_, std::move(events));
         bar().UserControl_InitProperties();
         bar().move(20, 30);
         setLength(134);
@@ -60,16 +60,16 @@ class OneBar {
         told.clear();
     }
 
-    ScrollBar& bar() { return *bar_; }
-    lmVScroll& vertical() { return dynamic_cast<lmVScroll&>(*bar_); }
-    ScrollThumb& thumb() { return ScrollInspector::thumb(*bar_); }
-    ArrowButton& low() { return ScrollInspector::low(*bar_); }
-    ArrowButton& high() { return ScrollInspector::high(*bar_); }
+    bars::ScrollBar& bar() { return *bar_; }
+    bars::lmVScroll& vertical() { return dynamic_cast<bars::lmVScroll&>(*bar_); }
+    bars::ScrollThumb& thumb() { return bars::ScrollInspector::thumb(*bar_); }
+    bars::ArrowButton& low() { return bars::ScrollInspector::low(*bar_); }
+    bars::ArrowButton& high() { return bars::ScrollInspector::high(*bar_); }
     Single thumbStart() { return along.start(thumb().window()); }
     Single thumbLength() { return along.length(thumb().window()); }
 
     void setLength(Single length) {
-        if (axis_ == Axis::vertical)
+        if (axis_ == bars::Axis::vertical)
             bar().letHeight(length);
         else
             bar().letWidth(length);
@@ -77,8 +77,8 @@ class OneBar {
 
     /// A point of the bar.
     Point at(Single lengthwise, Single crosswise = 8) {
-        return axis_ == Axis::vertical ? desktop.onDesktop(bar().window(), crosswise, lengthwise)
-                                       : desktop.onDesktop(bar().window(), lengthwise, crosswise);
+        return axis_ == bars::Axis::vertical ? desktop.onDesktop(bar().window(), crosswise, lengthwise)
+                                             : desktop.onDesktop(bar().window(), lengthwise, crosswise);
     }
     void moveTo(Single lengthwise, Single crosswise = 8) { desktop.move(at(lengthwise, crosswise)); }
     void pressAt(Single lengthwise) {
@@ -102,11 +102,11 @@ class OneBar {
     /// A container that does nothing.
     class Form final : public UserControl {};
 
-    Axis axis_;
+    bars::Axis axis_;
 
   public:
-    AlongAxis along;
-    Desktop desktop{testFonts()};
+    bars::AlongAxis along;
+    headless::Desktop desktop{testFonts()};
     RecordingWorld world{desktop};
     Lines log;
     std::function<void()> onChange = [] {};
@@ -115,19 +115,19 @@ class OneBar {
   private:
     Form client_;
     std::unique_ptr<Window> form_ = world.createWindow(nullptr, client_);
-    std::unique_ptr<ScrollBar> bar_;
+    std::unique_ptr<bars::ScrollBar> bar_;
 };
 
 /// A rule that both bars obey.
-class BothBars : public ::testing::TestWithParam<Axis>, public OneBar {
+class BothBars : public ::testing::TestWithParam<bars::Axis>, public OneBar {
   protected:
     BothBars() : OneBar(GetParam()) {}
 
-    bool isVertical() const { return GetParam() == Axis::vertical; }
+    bool isVertical() const { return GetParam() == bars::Axis::vertical; }
 };
 
-inline std::string axisName(const ::testing::TestParamInfo<Axis>& info) {
-    return info.param == Axis::vertical ? "vertical" : "horizontal";
+inline std::string axisName(const ::testing::TestParamInfo<bars::Axis>& info) {
+    return info.param == bars::Axis::vertical ? "vertical" : "horizontal";
 }
 
 } // namespace lumtex::testing

@@ -50,7 +50,7 @@ constexpr Long barLength = 120;
 constexpr Long gap = 5;
 
 /// A bar of its own for each state, so that none hangs on the one before.
-Bitmap barIn(Axis axis, Long style, const State& state) {
+Bitmap barIn(bars::Axis axis, Long style, const State& state) {
     OneBar one(axis);
     one.setLength(barLength);
     one.bar().letMax(50);
@@ -77,8 +77,8 @@ Bitmap barIn(Axis axis, Long style, const State& state) {
     return one.desktop.screenshot(one.bar().window());
 }
 
-Bitmap sheet(Axis axis, Long style) {
-    const bool vertical = axis == Axis::vertical;
+Bitmap sheet(bars::Axis axis, Long style) {
+    const bool vertical = axis == bars::Axis::vertical;
     const auto across = static_cast<Long>(states.size()) * (17 + gap) + gap;
     const Long along = barLength + 2 * gap;
     Bitmap board(vertical ? across : along, vertical ? along : across, 0xFF808080U);
@@ -95,13 +95,16 @@ Bitmap sheet(Axis axis, Long style) {
     return board;
 }
 
-using BarPictures = ::testing::TestWithParam<Axis>;
-INSTANTIATE_TEST_SUITE_P(Axes, BarPictures, ::testing::Values(Axis::vertical, Axis::horizontal), axisName);
+using BarPictures = ::testing::TestWithParam<bars::Axis>;
+INSTANTIATE_TEST_SUITE_P(Axes,
+                         BarPictures,
+                         ::testing::Values(bars::Axis::vertical, bars::Axis::horizontal),
+                         axisName);
 
 TEST_P(BarPictures, AreTheReferencesInEverySchemeAndState) {
     const std::map<Long, std::string> schemes{{0, "blue"}, {1, "silver"}, {2, "olive"}, {99, "custom"}};
     for (const auto& [style, name] : schemes) {
-        const char* direction = GetParam() == Axis::vertical ? "vertical" : "horizontal";
+        const char* direction = GetParam() == bars::Axis::vertical ? "vertical" : "horizontal";
         EXPECT_TRUE(showsPicture("scroll-" + name + "-" + direction, sheet(GetParam(), style)));
     }
 }
@@ -121,12 +124,12 @@ TEST_P(BarPictures, TellTheLooksOfAButtonAndOfAThumbApart) {
                     << i << " and " << j;
         }
     };
-    const ScrollArtwork& artwork = ScrollArtwork::standard();
+    const bars::ScrollArtwork& artwork = bars::ScrollArtwork::standard();
     for (std::size_t style = 0; style < 3; ++style) {
-        const ThumbArtwork& thumb = artwork.thumbOf(GetParam());
+        const bars::ThumbArtwork& thumb = artwork.thumbOf(GetParam());
         looks({thumb[style * 6 + 1], thumb[style * 6 + 2], thumb[style * 6 + 3]}, 6, 0);
-        const ButtonArtwork& button =
-            artwork.buttonOf(GetParam() == Axis::vertical ? Arrow::up : Arrow::left);
+        const bars::ButtonArtwork& button =
+            artwork.buttonOf(GetParam() == bars::Axis::vertical ? bars::Arrow::up : bars::Arrow::left);
         looks({button[style * 4 + 1], button[style * 4 + 2], button[style * 4 + 3]}, 3, 3);
         EXPECT_GE(
             contrast(button[style * 4 + 1]->bitmap().at(9, 7), button[style * 4 + 4]->bitmap().at(9, 7)), 24);
@@ -134,9 +137,9 @@ TEST_P(BarPictures, TellTheLooksOfAButtonAndOfAThumbApart) {
 }
 
 TEST_P(BarPictures, HaveTheirSizes) {
-    const ScrollArtwork& artwork = ScrollArtwork::standard();
-    const bool vertical = GetParam() == Axis::vertical;
-    const ThumbArtwork& thumb = artwork.thumbOf(GetParam());
+    const bars::ScrollArtwork& artwork = bars::ScrollArtwork::standard();
+    const bool vertical = GetParam() == bars::Axis::vertical;
+    const bars::ThumbArtwork& thumb = artwork.thumbOf(GetParam());
     ASSERT_EQ(thumb.size(), 19U);
     for (std::size_t i = 1; i < thumb.size(); ++i) {
         const Bitmap& picture = thumb[i]->bitmap();
@@ -144,8 +147,9 @@ TEST_P(BarPictures, HaveTheirSizes) {
         EXPECT_EQ(picture.width, body ? (vertical ? 14 : 13) : (vertical ? 8 : 7)) << i;
         EXPECT_EQ(picture.height, body ? (vertical ? 13 : 14) : (vertical ? 7 : 8)) << i;
     }
-    for (const Arrow arrow : {vertical ? Arrow::up : Arrow::left, vertical ? Arrow::down : Arrow::right}) {
-        const ButtonArtwork& button = artwork.buttonOf(arrow);
+    for (const bars::Arrow arrow : {vertical ? bars::Arrow::up : bars::Arrow::left,
+                                    vertical ? bars::Arrow::down : bars::Arrow::right}) {
+        const bars::ButtonArtwork& button = artwork.buttonOf(arrow);
         ASSERT_EQ(button.size(), 13U);
         for (std::size_t i = 1; i < button.size(); ++i) {
             EXPECT_EQ(button[i]->bitmap().width, 17) << i;

@@ -5,9 +5,12 @@
 
 namespace lumtex::testing {
 
-using Inside = ScrollInspector;
+using Inside = bars::ScrollInspector;
 using AnyOrder = BothBars;
-INSTANTIATE_TEST_SUITE_P(Axes, AnyOrder, ::testing::Values(Axis::vertical, Axis::horizontal), axisName);
+INSTANTIATE_TEST_SUITE_P(Axes,
+                         AnyOrder,
+                         ::testing::Values(bars::Axis::vertical, bars::Axis::horizontal),
+                         axisName);
 
 TEST_P(AnyOrder, OfCallsPressesAndTimeLeavesABarThatWorks) {
     std::mt19937 random(20261121);

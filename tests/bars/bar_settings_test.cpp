@@ -3,9 +3,12 @@
 
 namespace lumtex::testing {
 
-using Inside = ScrollInspector;
+using Inside = bars::ScrollInspector;
 using BarSettings = BothBars;
-INSTANTIATE_TEST_SUITE_P(Axes, BarSettings, ::testing::Values(Axis::vertical, Axis::horizontal), axisName);
+INSTANTIATE_TEST_SUITE_P(Axes,
+                         BarSettings,
+                         ::testing::Values(bars::Axis::vertical, bars::Axis::horizontal),
+                         axisName);
 
 /// Notes each key in the order in which it is used.
 class NotingBag final : public PropertyBag {
@@ -145,7 +148,7 @@ TEST_P(BarSettings, TheTenColoursReachThumbAndBothButtons) {
     EXPECT_EQ(thumb().Bar(), color(2));
     EXPECT_EQ(thumb().BarDown(), color(3));
     EXPECT_EQ(thumb().BarHover(), color(4));
-    for (ArrowButton* button : {&low(), &high()}) {
+    for (bars::ArrowButton* button : {&low(), &high()}) {
         EXPECT_EQ(button->colors().Arrow, color(5));
         EXPECT_EQ(button->colors().ArrowDown, color(6));
         EXPECT_EQ(button->colors().ArrowHover, color(7));

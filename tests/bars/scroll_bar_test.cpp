@@ -3,9 +3,12 @@
 
 namespace lumtex::testing {
 
-using Inside = ScrollInspector;
+using Inside = bars::ScrollInspector;
 using BarRange = BothBars;
-INSTANTIATE_TEST_SUITE_P(Axes, BarRange, ::testing::Values(Axis::vertical, Axis::horizontal), axisName);
+INSTANTIATE_TEST_SUITE_P(Axes,
+                         BarRange,
+                         ::testing::Values(bars::Axis::vertical, bars::Axis::horizontal),
+                         axisName);
 
 TEST_P(BarRange, AMinAboveMaxIsRefusedWithAMessage) {
     bar().letMin(51);

@@ -3,13 +3,16 @@
 
 namespace lumtex::testing {
 
-using Inside = ScrollInspector;
+using Inside = bars::ScrollInspector;
 using Thumb = BothBars;
-INSTANTIATE_TEST_SUITE_P(Axes, Thumb, ::testing::Values(Axis::vertical, Axis::horizontal), axisName);
+INSTANTIATE_TEST_SUITE_P(Axes,
+                         Thumb,
+                         ::testing::Values(bars::Axis::vertical, bars::Axis::horizontal),
+                         axisName);
 
 /// The picture of a scheme's look, by the index that a paint chose.
 TEST_P(Thumb, ChoosesItsPictureByHoverAndPress) {
-    const ThumbArtwork& img = ScrollArtwork::standard().thumbOf(GetParam());
+    const bars::ThumbArtwork& img = bars::ScrollArtwork::standard().thumbOf(GetParam());
     const auto bodyIs = [&](std::size_t index) {
         // The first row of the body, as far as no edge covers it.
         const Bitmap shown = drawn(thumb().window()).image();

@@ -15,9 +15,9 @@ class Reading : public ::testing::Test {
         reader.open(folder.pathTo("list.cnt"));
     }
 
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     ScratchFolder folder;
-    ContentReader reader{desktop.runtime()};
+    content::ContentReader reader{desktop.runtime()};
 };
 
 TEST_F(Reading, GoesOnFromStatementToStatement) {

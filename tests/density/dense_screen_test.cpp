@@ -28,7 +28,7 @@ class ScreenOf {
                    HKEY_CURRENT_USER, desktopKey, densityValue, RRF_RT_REG_DWORD, nullptr, &former_, &size) ==
                ERROR_SUCCESS;
         store(pixelsPerInch);
-        SetEnvironmentVariableW(densityName, wide(textFromNumber(static_cast<Double>(pixelsPerInch))));
+        SetEnvironmentVariableW(densityName, win32::wide(textFromNumber(static_cast<Double>(pixelsPerInch))));
     }
     ScreenOf(const ScreenOf&) = delete;
     ScreenOf& operator=(const ScreenOf&) = delete;
@@ -54,13 +54,20 @@ class ScreenOf {
 DWORD resultOfThisProgram() {
     wchar_t path[MAX_PATH]{};
     GetModuleFileNameW(nullptr, path, MAX_PATH);
-    String command = u"\"" + String(textOf(path)) + u"\" --gtest_filter=OnOneScreen.*";
+    String command = u"\"" + String(win32::textOf(path)) + u"\" --gtest_filter=OnOneScreen.*";
     STARTUPINFOW start{};
     start.cb = sizeof(start);
     PROCESS_INFORMATION process{};
-    if (CreateProcessW(
-            nullptr, wide(command.data()), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process) ==
-        FALSE)
+    if (CreateProcessW(nullptr,
+                       win32::wide(command.data()),
+                       nullptr,
+                       nullptr,
+                       FALSE,
+                       0,
+                       nullptr,
+                       nullptr,
+                       &start,
+                       &process) == FALSE)
         return GetLastError();
     constexpr DWORD enough = 60000; // milliseconds
     DWORD result = WaitForSingleObject(process.hProcess, enough);
@@ -100,15 +107,15 @@ class OnOneScreen : public ::testing::Test {
     }
 
     NotedRuntime runtime{GetModuleHandleW(nullptr)};
-    Win32World world{GetModuleHandleW(nullptr), nullptr, &runtime};
+    win32::Win32World world{GetModuleHandleW(nullptr), nullptr, &runtime};
     TestHost host;
     RecordingEvents events;
     lmListView list{world, host, events};
 };
 
 TEST_F(OnOneScreen, TheProgramIsToldItsDensity) {
-    EXPECT_EQ(screenDensity().x, expected());
-    EXPECT_EQ(screenDensity().y, expected());
+    EXPECT_EQ(win32::screenDensity().x, expected());
+    EXPECT_EQ(win32::screenDensity().y, expected());
 }
 
 TEST_F(OnOneScreen, ATwipIsA1440thOfAnInch) {
@@ -127,9 +134,10 @@ TEST_F(OnOneScreen, TheEditorHasTheLettersOfTheList) {
     const FontSpec font{.Name = u"Verdana", .Size = 9.75F};
     TextBox& editor = ListViewInspector(list).editor();
     editor.setFont(font);
-    const auto inEditor = reinterpret_cast<HFONT>(SendMessageW(toHWND(editor.hWnd()), WM_GETFONT, 0, 0));
+    const auto inEditor =
+        reinterpret_cast<HFONT>(SendMessageW(win32::toHWND(editor.hWnd()), WM_GETFONT, 0, 0));
     EXPECT_EQ(heightOf(inEditor), letterHeight(9.75F));
-    GdiSurface& surface = dynamic_cast<GdiSurface&>(list.window().surface());
+    win32::GdiSurface& surface = dynamic_cast<win32::GdiSurface&>(list.window().surface());
     surface.setFont(font);
     surface.textWidth(u"X");
     EXPECT_EQ(heightOf(static_cast<HFONT>(GetCurrentObject(surface.memoryDc(), OBJ_FONT))),
@@ -167,10 +175,10 @@ TEST_F(OnOneScreen, DrawingsOfTheProductHaveTheirOwnPixels) {
     ListViewInspector inside(list);
     const Surface& surface = list.window().surface();
     const Bitmap& box = inside.artwork().img[1]->bitmap();
-    EXPECT_EQ(GetPictureWidth(surface, *inside.artwork().img[1]), 13);
-    EXPECT_EQ(GetPictureHeight(surface, *inside.artwork().img[1]), 13);
+    EXPECT_EQ(drawing::GetPictureWidth(surface, *inside.artwork().img[1]), 13);
+    EXPECT_EQ(drawing::GetPictureHeight(surface, *inside.artwork().img[1]), 13);
     for (const PictureRef& piece : inside.artwork().imgCol)
-        EXPECT_EQ(GetPictureWidth(surface, *piece), piece->bitmap().width);
+        EXPECT_EQ(drawing::GetPictureWidth(surface, *piece), piece->bitmap().width);
     // Its left edge stands 5 pixels into the cell; how far down depends on the icon's height.
     const Bitmap picture = list.window().surface().image();
     Long hits = 0;
@@ -184,7 +192,8 @@ TEST_F(OnOneScreen, DrawingsOfTheProductHaveTheirOwnPixels) {
     EXPECT_EQ(hits, 1) << "the box, pixel by pixel";
     EXPECT_EQ(
         inside.vertical().Width(),
-        static_cast<Single>(pictureAt(ScrollArtwork::standard().buttonOf(Arrow::up), 1).bitmap().width));
+        static_cast<Single>(
+            bars::pictureAt(bars::ScrollArtwork::standard().buttonOf(bars::Arrow::up), 1).bitmap().width));
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 using namespace lumtex;
 
 int main() {
-    Desktop desktop; // a screen in memory, with a pointer and a clock
+    headless::Desktop desktop; // a screen in memory, with a pointer and a clock
     Host host;
     lmListViewEvents events; // derive from this to hear of clicks
     lmListView list(desktop, host, events);
@@ -17,6 +17,6 @@ int main() {
     list.ColumnsAdd(u"Country", nullptr, nullptr, nullptr, cColumnLeft, 2400);
     for (const char16_t* row : {u"Lisbon,Portugal", u"Oslo,Norway", u"Quito,Ecuador"})
         list.RowsAdd(-1, u",", row);
-    savePng(desktop.screenshot(list.window()), "cities.png");
+    pictures::savePng(desktop.screenshot(list.window()), "cities.png");
 }
 // readme]

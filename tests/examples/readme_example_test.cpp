@@ -20,7 +20,7 @@ TEST(ReadmeExample, RunsAndLeavesAPictureOfItsList) {
 
     ASSERT_EQ(std::system(command.c_str()), 0);
 
-    const PictureRef picture = loadPicture(folder / "cities.png");
+    const PictureRef picture = pictures::loadPicture(folder / "cities.png");
     const Bitmap& pixels = picture->bitmap();
     ASSERT_EQ(pixels.width, 320);
     ASSERT_EQ(pixels.height, 120);

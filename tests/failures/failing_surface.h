@@ -112,7 +112,7 @@ class FailingWindow final : public ForwardingWindow {
 class FailingWorld final : public World {
   public:
     /// `runtime` stands in for the desktop's, unless it is null.
-    FailingWorld(Desktop& desktop, FailurePoint& point, Runtime* runtime = nullptr)
+    FailingWorld(headless::Desktop& desktop, FailurePoint& point, Runtime* runtime = nullptr)
         : desktop_(desktop), point_(point), runtime_(runtime != nullptr ? *runtime : desktop.runtime()) {}
 
     Runtime& runtime() override { return runtime_; }
@@ -144,7 +144,7 @@ class FailingWorld final : public World {
         return window != nullptr ? &static_cast<FailingWindow*>(window)->inner() : nullptr;
     }
 
-    Desktop& desktop_;
+    headless::Desktop& desktop_;
     FailurePoint& point_;
     Runtime& runtime_;
 };

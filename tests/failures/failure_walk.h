@@ -136,7 +136,7 @@ class FailureWalk : public OddMoments {
     void expectFlags(const Kept& before, const Scene& scene) {
         ListViewInspector inspector(*list);
         bool mayHold = false;
-        for (const HeadlessRuntime::Box& box : desktop.runtime().boxes)
+        for (const headless::HeadlessRuntime::Box& box : desktop.runtime().boxes)
             mayHold = mayHold || box.text.find(u"/Redraw") != String::npos;
         EXPECT_TRUE(mayHold || says(inspector.painting(), "held=no")) << "painting is held off";
         EXPECT_TRUE(says(inspector.scroll(), "pending=no"));

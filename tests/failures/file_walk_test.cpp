@@ -146,7 +146,7 @@ TEST_F(FileWalk, AnEntryThatCannotBeHadLeavesItsLineOut) {
 
 TEST_F(FileWalk, SettingsThatCannotBeWrittenLeaveTheOldOnesAndNothingElse) {
     const String file = folder.pathTo("settings.json");
-    JsonPropertyBag bag(runtime);
+    json::JsonPropertyBag bag(runtime);
     bag.WriteProperty(u"Enabled", false, true);
     bag.save(file);
     const std::string before = folder.contentOf("settings.json");

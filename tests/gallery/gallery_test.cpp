@@ -31,7 +31,7 @@ class Gallery : public ::testing::Test {
 
     const ScratchFolder scratch;
     const fs::path& folder = scratch.path;
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     TestHost host;
     RecordingEvents events;
     lmListView list{desktop, host, events};

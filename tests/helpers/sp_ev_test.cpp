@@ -27,8 +27,8 @@ class SpEvTest : public ::testing::Test {
         return lines;
     }
 
-    Desktop desktop{testFonts()};
-    HeadlessRuntime& runtime = desktop.runtime();
+    headless::Desktop desktop{testFonts()};
+    headless::HeadlessRuntime& runtime = desktop.runtime();
     std::shared_ptr<ReportCatcher> handler = std::make_shared<ReportCatcher>();
     ScratchFolder folder;
     SpEv spEv{runtime};

@@ -18,37 +18,37 @@ class CallValues {
     explicit CallValues(std::string folder, StringView text = u"text")
         : folder_(std::move(folder)), text_(text) {}
 
-    std::vector<Variant> good(const Member& member) const {
+    std::vector<Variant> good(const automation::Member& member) const {
         std::vector<Variant> values;
-        for (const Parameter& parameter : member.parameters())
-            if (parameter.type.code != TypeCode::variantList)
+        for (const automation::Parameter& parameter : member.parameters())
+            if (parameter.type.code != automation::TypeCode::variantList)
                 values.push_back(goodFor(parameter));
         return values;
     }
     /// Rows and columns that are not there, and texts where numbers belong.
-    std::vector<Variant> bad(const Member& member) const {
+    std::vector<Variant> bad(const automation::Member& member) const {
         std::vector<Variant> values = good(member);
         std::size_t i = 0;
-        for (const Parameter& parameter : member.parameters()) {
-            if (parameter.type.code == TypeCode::variantList)
+        for (const automation::Parameter& parameter : member.parameters()) {
+            if (parameter.type.code == automation::TypeCode::variantList)
                 break;
-            if (parameter.type.code == TypeCode::variant)
+            if (parameter.type.code == automation::TypeCode::variant)
                 values[i] = u"no number";
-            else if (parameter.type.code == TypeCode::longInteger)
+            else if (parameter.type.code == automation::TypeCode::longInteger)
                 values[i] = Long{9999};
             ++i;
         }
         return values;
     }
-    Variant valueFor(const Member& member) const {
+    Variant valueFor(const automation::Member& member) const {
         switch (member.type.code) {
-        case TypeCode::string:
+        case automation::TypeCode::string:
             return text_;
-        case TypeCode::picture:
+        case automation::TypeCode::picture:
             return PictureRef{};
-        case TypeCode::font:
+        case automation::TypeCode::font:
             return FontRef{};
-        case TypeCode::object:
+        case automation::TypeCode::object:
             return ObjectRef{};
         default:
             return Long{1};
@@ -56,7 +56,7 @@ class CallValues {
     }
 
   private:
-    Variant goodFor(const Parameter& parameter) const {
+    Variant goodFor(const automation::Parameter& parameter) const {
         const StringView name = parameter.name;
         if (name == u"sFilename" || name == u"Filename" || name == u"sFile")
             return fromUtf8(folder_ + "/content");
@@ -66,9 +66,9 @@ class CallValues {
             return u"new,x," + text_;
         if (name == u"SortMode" || name == u"SortType")
             return Long{1};
-        if (parameter.optional() || parameter.type.code == TypeCode::picture)
+        if (parameter.optional() || parameter.type.code == automation::TypeCode::picture)
             return Missing{};
-        if (parameter.type.code == TypeCode::string)
+        if (parameter.type.code == automation::TypeCode::string)
             return text_;
         return Long{1};
     }
@@ -79,12 +79,12 @@ class CallValues {
 
 /// Every use of every member: what reads, what assigns, what calls.
 struct MemberUse {
-    const Member* member;
+    const automation::Member* member;
     bool assigns;
 };
 inline std::vector<MemberUse> memberUses() {
     std::vector<MemberUse> uses;
-    for (const Member& member : listViewClass().members) {
+    for (const automation::Member& member : automation::listViewClass().members) {
         if (member.name == u"About")
             continue; // waits for a user who closes it
         if (member.get != nullptr || member.call != nullptr)
@@ -102,7 +102,7 @@ inline std::string nameOf(const MemberUse& use) {
 /// the list.
 inline void
 use(lmListView& list, const MemberUse& use, std::vector<Variant> arguments, const Variant& value) {
-    CallByName byName(list);
+    automation::CallByName byName(list);
     try {
         if (use.assigns && use.member->isReference())
             byName.set(*use.member, arguments, value);

@@ -288,7 +288,7 @@ class OddMoments : public ::testing::Test {
     }
 
     Releases releases;
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     TestHost host;
     // What the next list is made in; a test may put something in front of both.
     World* world = &desktop;

@@ -12,7 +12,7 @@ class ReportWalk : public OddMoments {
 
     /// Runs `action` with `code` while the first box is open. Says whether there was one.
     bool reports(const NamedCode& named, const std::function<void()>& action) {
-        HeadlessRuntime& runtime = desktop.runtime();
+        headless::HeadlessRuntime& runtime = desktop.runtime();
         runtime.boxes.clear();
         const auto code = once(named.code);
         runtime.whileBoxIsOpen = [&, code] {

@@ -26,10 +26,10 @@ class AtlLibrary {
     ~AtlLibrary() { FreeLibrary(module_); }
 
     /// The control in such a window.
-    ComRef<IUnknown> controlIn(HWND host) const {
-        ComRef<IUnknown> control;
+    win32::ComRef<IUnknown> controlIn(HWND host) const {
+        win32::ComRef<IUnknown> control;
         const auto ask = reinterpret_cast<HRESULT(WINAPI*)(HWND, IUnknown**)>(entry("AtlAxGetControl"));
-        demand(ask(host, control.out()));
+        win32::demand(ask(host, control.out()));
         return control;
     }
 
@@ -39,13 +39,13 @@ class AtlLibrary {
     HMODULE module_;
 };
 
-HWND windowOf(const ComRef<IUnknown>& control) {
+HWND windowOf(const win32::ComRef<IUnknown>& control) {
     HWND window = nullptr;
-    demand(control.as<IOleWindow>()->GetWindow(&window));
+    win32::demand(control.as<IOleWindow>()->GetWindow(&window));
     return window;
 }
 
-void fill(const ComRef<IUnknown>& control) {
+void fill(const win32::ComRef<IUnknown>& control) {
     const auto list = control.as<IDispatch>();
     invoke(list.get(), L"BorderVisible", DISPATCH_PROPERTYPUT, {false});
     invoke(list.get(), L"RowsDynamic", DISPATCH_PROPERTYPUT, {false});
@@ -90,7 +90,7 @@ class AtlHost : public ::testing::Test {
     void round() const {
         HWND host = makeHost();
         {
-            const ComRef<IUnknown> control = atl.controlIn(host);
+            const win32::ComRef<IUnknown> control = atl.controlIn(host);
             fill(control);
             letMessagesThrough();
         }
@@ -126,7 +126,7 @@ TEST_F(AtlHost, ShowsTheSamePixelsAsAnyOtherContainer) {
     Bitmap printed;
     HWND host = makeHost();
     {
-        const ComRef<IUnknown> control = atl.controlIn(host);
+        const win32::ComRef<IUnknown> control = atl.controlIn(host);
         fill(control);
         letMessagesThrough();
         inAtl = screenPicture(windowOf(control));
@@ -137,11 +137,11 @@ TEST_F(AtlHost, ShowsTheSamePixelsAsAnyOtherContainer) {
     container.place = {20, 30, 20 + width, 30 + height};
     Bitmap inOurs;
     {
-        const ComRef<IUnknown> control = component.make("lmListView");
+        const win32::ComRef<IUnknown> control = component.make("lmListView");
         const auto object = control.as<IOleObject>();
-        demand(object->SetClientSite(&container));
-        demand(control.as<IPersistStreamInit>()->InitNew());
-        demand(object->DoVerb(
+        win32::demand(object->SetClientSite(&container));
+        win32::demand(control.as<IPersistStreamInit>()->InitNew());
+        win32::demand(object->DoVerb(
             OLEIVERB_INPLACEACTIVATE, nullptr, &container, 0, container.window, &container.place));
         fill(control);
         letMessagesThrough();
@@ -161,11 +161,11 @@ TEST_F(AtlHost, PressesReachTheList) {
     HWND host = makeHost();
     EventSink sink;
     {
-        const ComRef<IUnknown> control = atl.controlIn(host);
+        const win32::ComRef<IUnknown> control = atl.controlIn(host);
         fill(control);
         const auto point = eventPointOf(control);
         DWORD cookie = 0;
-        demand(point->Advise(&sink, &cookie));
+        win32::demand(point->Advise(&sink, &cookie));
         UserInput hands([] { letMessagesThrough(); });
         // The list learns from the first move that the mouse is inside.
         for (const LONG x : {30, 31}) {
@@ -203,7 +203,7 @@ TEST_F(AtlHost, ClosingItLeavesNothingBehind) {
 
 TEST_F(AtlHost, AControlThatIsHeldOutlivesItsHost) {
     HWND host = makeHost();
-    ComRef<IUnknown> control = atl.controlIn(host);
+    win32::ComRef<IUnknown> control = atl.controlIn(host);
     fill(control);
     DestroyWindow(host);
     EXPECT_EQ(invoke(control.as<IDispatch>().get(), L"RowsCount", DISPATCH_PROPERTYGET).value.toLong(), 15);

@@ -52,9 +52,9 @@ class CalledBackList final : public HostedList {
         if (!control_) {
             control_ = component_.make("lmListView");
             object_ = control_.as<IOleObject>();
-            demand(object_->SetClientSite(&container_));
-            demand(control_.as<IPersistPropertyBag>()->Load(&settings_, nullptr));
-            demand(object_->DoVerb(
+            win32::demand(object_->SetClientSite(&container_));
+            win32::demand(control_.as<IPersistPropertyBag>()->Load(&settings_, nullptr));
+            win32::demand(object_->DoVerb(
                 OLEIVERB_INPLACEACTIVATE, nullptr, &container_, 0, container_.window, &container_.place));
         }
         let(L"AutoRedraw", {false});
@@ -110,10 +110,10 @@ class CalledBackList final : public HostedList {
     /// The list gets the one reference that there is.
     void holdAt(const HeldThing& held, Long row, Long column, LastReleases& releases) {
         IDispatch* const dispatch = control_.as<IDispatch>().get();
-        std::vector<OwnedVARIANT> owned;
+        std::vector<win32::OwnedVARIANT> owned;
         std::vector<VARIANT> arguments;
         for (const Variant& place : placeOf(held, row, column)) {
-            owned.push_back(toVARIANT(place));
+            owned.push_back(win32::toVARIANT(place));
             arguments.push_back(owned.back().get());
         }
         auto* const thing = new CallingThing(releases);
@@ -129,8 +129,8 @@ class CalledBackList final : public HostedList {
     MapBag settings_;
     Component component_;
     SmallContainer container_;
-    ComRef<IUnknown> control_;
-    ComRef<IOleObject> object_;
+    win32::ComRef<IUnknown> control_;
+    win32::ComRef<IOleObject> object_;
 };
 
 } // namespace lumtex::testing

@@ -48,7 +48,8 @@ TEST_F(CallingBack, WhatTheComponentDropsMayCallIt) {
         const int before = releases.gone;
         for (const Dropping& dropping : droppings) {
             for (const HostCode& code : hostCodes) {
-                SCOPED_TRACE(toUtf8(textOf(held.member)) + ", " + dropping.name + ", the host " + code.name);
+                SCOPED_TRACE(toUtf8(win32::textOf(held.member)) + ", " + dropping.name + ", the host " +
+                             code.name);
                 list->begin();
                 ASSERT_TRUE(list->serves());
                 list->hold(held, releases);
@@ -60,7 +61,7 @@ TEST_F(CallingBack, WhatTheComponentDropsMayCallIt) {
                     break; // nothing is dropped there, whatever the host would do
             }
         }
-        EXPECT_GT(releases.gone, before) << toUtf8(textOf(held.member)) << " is never let go";
+        EXPECT_GT(releases.gone, before) << toUtf8(win32::textOf(held.member)) << " is never let go";
     }
     list->end();
     EXPECT_EQ(releases.alive, 0);

@@ -27,7 +27,7 @@ class CallingThing final : public IPictureDisp, public IPicture {
         bitmap.cbSizeofstruct = sizeof bitmap;
         bitmap.picType = PICTYPE_BITMAP;
         bitmap.bmp.hbitmap = CreateBitmap(8, 8, 1, 1, nullptr);
-        demand(
+        win32::demand(
             OleCreatePictureIndirect(&bitmap, IID_IPicture, TRUE, reinterpret_cast<void**>(picture_.out())));
         ++releases_.alive;
     }
@@ -128,7 +128,7 @@ class CallingThing final : public IPictureDisp, public IPicture {
     }
 
     LastReleases& releases_;
-    ComRef<IPicture> picture_;
+    win32::ComRef<IPicture> picture_;
     ULONG references_ = 1;
 };
 

@@ -26,13 +26,13 @@ inline const std::set<DISPID> raisedByTheStory{1,  2,  3,  4,  5,  6,  7,  8,  9
 class Story final : public HostedList {
   public:
     Story() {
-        demand(object_->SetClientSite(&container_));
+        win32::demand(object_->SetClientSite(&container_));
         // As running programs do: the wheel starts with the settings.
         MapBag settings;
-        demand(control_.as<IPersistPropertyBag>()->Load(&settings, nullptr));
-        demand(object_->DoVerb(
+        win32::demand(control_.as<IPersistPropertyBag>()->Load(&settings, nullptr));
+        win32::demand(object_->DoVerb(
             OLEIVERB_UIACTIVATE, nullptr, &container_, 0, container_.window, &container_.place));
-        demand(eventPointOf(control_)->Advise(&sink_, &cookie_));
+        win32::demand(eventPointOf(control_)->Advise(&sink_, &cookie_));
         let(L"BorderVisible", {false});
         let(L"RowsDynamic", {false});
         let(L"RowHeight", {Long{300}});
@@ -93,7 +93,7 @@ class Story final : public HostedList {
     }
     bool isOver() const override { return !control_; }
     void end() override { end(Ending::closed); }
-    ComRef<IUnknown>& control() { return control_; }
+    win32::ComRef<IUnknown>& control() { return control_; }
     SmallContainer& container() { return container_; }
     EventSink& sink() { return sink_; }
 
@@ -118,7 +118,7 @@ class Story final : public HostedList {
     }
     HWND window() {
         HWND found = nullptr;
-        demand(control_.as<IOleWindow>()->GetWindow(&found));
+        win32::demand(control_.as<IOleWindow>()->GetWindow(&found));
         return found;
     }
     void moveTo(int x, int y) {
@@ -139,17 +139,17 @@ class Story final : public HostedList {
     /// A call by the table of functions, where the system holds no reference of its own.
     void assignAWrongIndexThroughTheTable() {
         auto* const dispatch = control_.as<IDispatch>().get();
-        ComRef<ITypeInfo> calls;
-        demand(dispatch->GetTypeInfo(0, LOCALE_NEUTRAL, calls.out()));
+        win32::ComRef<ITypeInfo> calls;
+        win32::demand(dispatch->GetTypeInfo(0, LOCALE_NEUTRAL, calls.out()));
         HREFTYPE reference = 0;
-        ComRef<ITypeInfo> table;
-        demand(calls->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
-        demand(calls->GetRefTypeInfo(reference, table.out()));
+        win32::ComRef<ITypeInfo> table;
+        win32::demand(calls->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference));
+        win32::demand(calls->GetRefTypeInfo(reference, table.out()));
         UINT place = 0;
         FUNCDESC* entry = nullptr;
-        demand(table.as<ITypeInfo2>()->GetFuncIndexOfMemId(
+        win32::demand(table.as<ITypeInfo2>()->GetFuncIndexOfMemId(
             idOf(dispatch, L"ListIndex"), INVOKE_PROPERTYPUT, &place));
-        demand(table->GetFuncDesc(place, &entry));
+        win32::demand(table->GetFuncDesc(place, &entry));
         const auto offset = static_cast<ULONG_PTR>(entry->oVft);
         table->ReleaseFuncDesc(entry);
         VARTYPE type = VT_I4;
@@ -157,22 +157,23 @@ class Story final : public HostedList {
         V_VT(&index) = VT_I4;
         V_I4(&index) = 77;
         VARIANTARG* argument = &index;
-        OwnedVARIANT result;
-        demand(DispCallFunc(dispatch, offset, CC_STDCALL, VT_ERROR, 1, &type, &argument, result.out()));
+        win32::OwnedVARIANT result;
+        win32::demand(
+            DispCallFunc(dispatch, offset, CC_STDCALL, VT_ERROR, 1, &type, &argument, result.out()));
     }
     void drop() {
         DraggedData dragged;
         DWORD effect = DROPEFFECT_COPY;
         let(L"OLEDropMode", {Integer{1}});
-        const ComRef<IDropTarget> target = dropTargetOf(window());
+        const win32::ComRef<IDropTarget> target = dropTargetOf(window());
         const POINTL at{cellX, cellY};
         target->DragEnter(&dragged, MK_LBUTTON, at, &effect);
         target->Drop(&dragged, 0, at, &effect);
     }
     void edit() {
         call(L"SetEdit", {Long{1}, Long{2}});
-        HWND box =
-            toHWND(invoke(control_.as<IDispatch>().get(), L"hwndEdit", DISPATCH_PROPERTYGET).value.toLong());
+        HWND box = win32::toHWND(
+            invoke(control_.as<IDispatch>().get(), L"hwndEdit", DISPATCH_PROPERTYGET).value.toLong());
         SendMessageW(box, WM_CHAR, 'n', 0);
         if (control_)
             SendMessageW(box, WM_CHAR, VK_RETURN, 0);
@@ -181,8 +182,8 @@ class Story final : public HostedList {
     Component component_;
     SmallContainer container_;
     EventSink sink_;
-    ComRef<IUnknown> control_ = component_.make("lmListView");
-    ComRef<IOleObject> object_ = control_.as<IOleObject>();
+    win32::ComRef<IUnknown> control_ = component_.make("lmListView");
+    win32::ComRef<IOleObject> object_ = control_.as<IOleObject>();
     DWORD cookie_ = 0;
 };
 

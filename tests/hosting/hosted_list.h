@@ -22,7 +22,7 @@ class SilentComponent : public ::testing::Test {
         OleUninitialize();
     }
     void silence(bool on) const {
-        const ComRef<IUnknown> error = component.make("Error");
+        const win32::ComRef<IUnknown> error = component.make("Error");
         invoke(error.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
     }
 

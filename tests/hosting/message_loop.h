@@ -8,7 +8,7 @@ namespace lumtex::testing {
 
 /// Dispatches messages until all timers that were started before have ticked. Keys are offered to `active`
 /// first, if there is one, as containers do.
-inline void letMessagesThrough(const ComRef<IOleInPlaceActiveObject>& active = {}) {
+inline void letMessagesThrough(const win32::ComRef<IOleInPlaceActiveObject>& active = {}) {
     int ticks = 0;
     const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, nullptr);
     while (ticks < 2) {
@@ -17,7 +17,8 @@ inline void letMessagesThrough(const ComRef<IOleInPlaceActiveObject>& active = {
         if (message.hwnd == nullptr && message.message == WM_TIMER && message.wParam == timer)
             ++ticks;
         const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
-        const ComRef<IOleInPlaceActiveObject> asked = isKey ? active : ComRef<IOleInPlaceActiveObject>();
+        const win32::ComRef<IOleInPlaceActiveObject> asked =
+            isKey ? active : win32::ComRef<IOleInPlaceActiveObject>();
         if (asked && asked->TranslateAccelerator(&message) == S_OK)
             continue;
         TranslateMessage(&message);

@@ -60,7 +60,7 @@ class KeyedWorld final : public World {
     }
 
   private:
-    Desktop desktop_{testFonts()};
+    headless::Desktop desktop_{testFonts()};
     TextBoxClient* told_ = nullptr;
 };
 

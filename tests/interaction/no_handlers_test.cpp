@@ -48,7 +48,7 @@ class NoHandlers : public ::testing::Test {
     static constexpr Single inSecondRow = 55;
     static constexpr Single underTheRows = 200;
 
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     TestHost host;
     lmListViewEvents none;
     lmListView list{desktop, host, none};

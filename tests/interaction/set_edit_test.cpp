@@ -10,7 +10,7 @@ class SetEdit : public PlayedList {
 TEST_F(SetEdit, PutsTheBoxOverTheCell) {
     fill(3, {60, 70});
     edit(2, 2);
-    const HeadlessTextBox& box = inside.editor();
+    const headless::HeadlessTextBox& box = inside.editor();
     EXPECT_TRUE(box.Visible());
     EXPECT_TRUE(box.TabStop());
     EXPECT_EQ(box.Top(), rowTop(2));

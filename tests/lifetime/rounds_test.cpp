@@ -26,14 +26,14 @@ class Rounds : public ::testing::Test {
 
     /// A control is made, placed, closed and let go.
     void round(bool filled) {
-        const ComRef<IUnknown> control = component.make("lmListView");
+        const win32::ComRef<IUnknown> control = component.make("lmListView");
         const auto object = control.as<IOleObject>();
-        demand(object->SetClientSite(&container));
-        demand(control.as<IPersistPropertyBag>()->Load(&settings, nullptr));
-        demand(object->DoVerb(
+        win32::demand(object->SetClientSite(&container));
+        win32::demand(control.as<IPersistPropertyBag>()->Load(&settings, nullptr));
+        win32::demand(object->DoVerb(
             OLEIVERB_INPLACEACTIVATE, nullptr, &container, 0, container.window, &container.place));
         DWORD cookie = 0;
-        demand(eventPointOf(control)->Advise(&sink, &cookie));
+        win32::demand(eventPointOf(control)->Advise(&sink, &cookie));
         if (filled)
             use(control.as<IDispatch>().get());
         object->Close(OLECLOSE_NOSAVE);

@@ -15,9 +15,9 @@ namespace lumtex::testing {
 /// measured on both and painted on neither, so that all the rest must come out equal.
 class MirrorSurface final : public Surface {
   public:
-    explicit MirrorSurface(RasterSurface& software)
+    explicit MirrorSurface(raster::RasterSurface& software)
         : software_(software), windows_(software.scaleWidth(), software.scaleHeight(), 96, 96) {}
-    explicit MirrorSurface(std::unique_ptr<RasterSurface> software) : MirrorSurface(*software) {
+    explicit MirrorSurface(std::unique_ptr<raster::RasterSurface> software) : MirrorSurface(*software) {
         owned_ = std::move(software);
     }
 
@@ -108,9 +108,9 @@ class MirrorSurface final : public Surface {
             windows_.resize(software_.scaleWidth(), software_.scaleHeight());
     }
 
-    std::unique_ptr<RasterSurface> owned_;
-    RasterSurface& software_;
-    GdiSurface windows_;
+    std::unique_ptr<raster::RasterSurface> owned_;
+    raster::RasterSurface& software_;
+    win32::GdiSurface windows_;
 };
 
 } // namespace lumtex::testing

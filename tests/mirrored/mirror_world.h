@@ -46,7 +46,8 @@ class MirrorWindow final : public ForwardingWindow {
 
 class MirrorWorld final : public World {
   public:
-    MirrorWorld(Desktop& desktop, Comparisons& comparisons) : desktop_(desktop), comparisons_(comparisons) {}
+    MirrorWorld(headless::Desktop& desktop, Comparisons& comparisons)
+        : desktop_(desktop), comparisons_(comparisons) {}
 
     Runtime& runtime() override { return desktop_.runtime(); }
     TipPlatform& tips() override { return desktop_.tips(); }
@@ -69,12 +70,12 @@ class MirrorWorld final : public World {
     }
     std::unique_ptr<Surface> createSurface(Long width, Long height) override {
         std::unique_ptr<Surface> board = desktop_.createSurface(width, height);
-        std::unique_ptr<RasterSurface> software(static_cast<RasterSurface*>(board.release()));
+        std::unique_ptr<raster::RasterSurface> software(static_cast<raster::RasterSurface*>(board.release()));
         return std::make_unique<MirrorSurface>(std::move(software));
     }
 
   private:
-    Desktop& desktop_;
+    headless::Desktop& desktop_;
     Comparisons& comparisons_;
 };
 

@@ -29,7 +29,7 @@ TEST_P(MirroredScenario, ShowsTheSamePixelsOnBothSurfacesAndLeavesTheSameLog) {
     Played mirrored;
     {
         const std::unique_ptr<Stage> stage = makeHeadlessStage(
-            [&](Desktop& desktop) { return std::make_unique<MirrorWorld>(desktop, comparisons); });
+            [&](headless::Desktop& desktop) { return std::make_unique<MirrorWorld>(desktop, comparisons); });
         mirrored = play(script, *stage);
     }
     EXPECT_GT(comparisons.made, 0);

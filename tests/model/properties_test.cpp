@@ -14,7 +14,7 @@ constexpr Single sixteenPixels = 240; // twips
 
 /// A new instance, as a host makes it.
 struct Fresh {
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     TestHost host;
     RecordingEvents events;
     lmListView list{desktop, host, events};
@@ -145,7 +145,7 @@ TEST(NewInstance, FiveFieldsStartAtZero) {
 
 TEST(NewInstance, PaintsNothingUntilTheFirstResize) {
     Fresh fresh;
-    const auto& window = static_cast<HeadlessWindow&>(fresh.list.window());
+    const auto& window = static_cast<headless::HeadlessWindow&>(fresh.list.window());
     fresh.list.UserControl_InitProperties();
     EXPECT_EQ(window.presented(), 0);
     fresh.list.window().place(0, 0, 100, 100);
@@ -502,10 +502,10 @@ TEST(ScrollColors, AreWrittenInOrderWithTheirDefaults) {
         {u"ScrollButtonsHover", 0x8000000F},
         {u"ScrollBarHover", 0x8000000F},
     };
-    ASSERT_EQ(scrollColors.size(), std::size(expected));
-    for (std::size_t i = 0; i < scrollColors.size(); ++i) {
-        EXPECT_EQ(StringView(scrollColors[i].name), expected[i].name);
-        EXPECT_EQ(scrollColors[i].bagDefault, expected[i].value) << i;
+    ASSERT_EQ(bars::scrollColors.size(), std::size(expected));
+    for (std::size_t i = 0; i < bars::scrollColors.size(); ++i) {
+        EXPECT_EQ(StringView(bars::scrollColors[i].name), expected[i].name);
+        EXPECT_EQ(bars::scrollColors[i].bagDefault, expected[i].value) << i;
     }
 }
 

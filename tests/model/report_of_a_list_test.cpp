@@ -35,8 +35,8 @@ class ReportOfAList : public ::testing::Test {
                                           "------------------------------\r\n";
 
     ScratchFolder folder;
-    Desktop desktop{testFonts()};
-    HeadlessRuntime& runtime = desktop.runtime();
+    headless::Desktop desktop{testFonts()};
+    headless::HeadlessRuntime& runtime = desktop.runtime();
     TestHost host;
     RecordingEvents events;
     lmListView list{desktop, host, events};

@@ -226,8 +226,8 @@ class Monkey : public ListFixture, public ::testing::WithParamInterface<std::tup
     void check() {
         ASSERT_EQ(desktop.yieldDepth(), 0);
         ASSERT_EQ(inside.rows().empty(), !inside.ArrDim(Long{0}));
-        for (const auto* bar : {static_cast<const ScrollBar*>(&inside.vertical()),
-                                static_cast<const ScrollBar*>(&inside.horizontal())}) {
+        for (const auto* bar : {static_cast<const bars::ScrollBar*>(&inside.vertical()),
+                                static_cast<const bars::ScrollBar*>(&inside.horizontal())}) {
             ASSERT_LE(bar->Min(), bar->Max());
         }
         ASSERT_GE(inside.vertical().Value(), -1);

@@ -2,7 +2,7 @@
 #include "ordering/like_comp.h"
 #include "values/text.h"
 
-namespace lumtex {
+namespace lumtex::ordering {
 namespace {
 
 TEST(LikeComp, BinaryTellsCaseApartAndTextDoesNot) {
@@ -28,4 +28,4 @@ TEST(LikeComp, AFaultyPatternIsReportedUnderTheModuleAndMatchesNothing) {
 }
 
 } // namespace
-} // namespace lumtex
+} // namespace lumtex::ordering

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <random>
 
-namespace lumtex {
+namespace lumtex::ordering {
 namespace {
 
 bool like(StringView text, StringView pattern, LikePattern::Letters letters = LikePattern::byUnit) {
@@ -211,4 +211,4 @@ TEST(LikePattern, ManyAsterisksDoNotTakeExponentialTime) {
 }
 
 } // namespace
-} // namespace lumtex
+} // namespace lumtex::ordering

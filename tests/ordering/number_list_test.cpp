@@ -1,7 +1,7 @@
 #include "error_number.h"
 #include "ordering/number_list.h"
 
-namespace lumtex {
+namespace lumtex::ordering {
 namespace {
 
 std::string listed(const FindNotation& notation) {
@@ -88,4 +88,4 @@ TEST(NumberList, WhatTheCutSpoiledIsATypeMismatch) {
 }
 
 } // namespace
-} // namespace lumtex
+} // namespace lumtex::ordering

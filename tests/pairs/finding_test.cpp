@@ -58,7 +58,7 @@ class FindingPair : public ListFixture {
         });
     }
     std::string foundStepwise(StringView pattern, cFindCompare compare) {
-        const auto module = compare == cFindBinary ? LikeCompBinary : LikeCompText;
+        const auto module = compare == cFindBinary ? ordering::LikeCompBinary : ordering::LikeCompText;
         return found([&](Long row, Long column) {
             return module(desktop.runtime(), list.ItemText(row, column), pattern);
         });

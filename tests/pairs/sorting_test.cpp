@@ -56,7 +56,7 @@ class SortOracle : public ListFixture {
     void sortStepwise(cSortType type, cSortMode mode) {
         Procedure p = inside.core().procedure(u"Stepwise");
         SortStepwise rows(list, inside.core().records, p, 1, type, mode);
-        quickSort(rows, 0, list.RowsCount() - 1);
+        ordering::quickSort(rows, 0, list.RowsCount() - 1);
     }
 
     void expectSameOrder(const std::vector<String>& texts, cSortType type, cSortMode mode, bool silent) {
@@ -232,7 +232,7 @@ std::vector<Long> killerSequence(Long count) {
     for (Long i = 0; i < count; ++i)
         positions.push_back(i);
     for (Long last = count - 1; last >= 0; --last) {
-        const auto middle = static_cast<std::size_t>(middleOf(0, last));
+        const auto middle = static_cast<std::size_t>(ordering::middleOf(0, last));
         values[static_cast<std::size_t>(positions[middle])] = last;
         std::swap(positions[middle], positions[static_cast<std::size_t>(last)]);
     }
@@ -333,11 +333,12 @@ TEST_F(SortOracle, ARowWithoutTheCellIsReportedByTheAccessorAndReadsEmpty) {
 TEST(MiddleOf, HalvesRoundToTheEvenPosition) {
     for (Long first = 0; first < 9; ++first) {
         for (Long last = first; last < 12; ++last)
-            EXPECT_EQ(middleOf(first, last), static_cast<Long>(std::nearbyint((first + last) / 2.0)));
+            EXPECT_EQ(ordering::middleOf(first, last),
+                      static_cast<Long>(std::nearbyint((first + last) / 2.0)));
     }
-    EXPECT_EQ(middleOf(1, 2), 2);
-    EXPECT_EQ(middleOf(2, 3), 2);
-    EXPECT_EQ(middleOf(2147483640, 2147483646), 2147483643);
+    EXPECT_EQ(ordering::middleOf(1, 2), 2);
+    EXPECT_EQ(ordering::middleOf(2, 3), 2);
+    EXPECT_EQ(ordering::middleOf(2147483640, 2147483646), 2147483643);
 }
 
 } // namespace lumtex::testing

@@ -149,15 +149,15 @@ constexpr std::array<Counts, 23> counts{{
 
 TEST_F(ContentBadFiles, CountsThatTheBytesCannotHoldAreImpossible) {
     for (const Counts& row : counts) {
-        const ContentHeader header{
+        const content::ContentHeader header{
             275, static_cast<Long>(row.rows), static_cast<Long>(row.columns), row.properties};
-        EXPECT_EQ(isPossible(header, 4000, row.listColumns), row.possible)
+        EXPECT_EQ(content::isPossible(header, 4000, row.listColumns), row.possible)
             << row.rows << " x " << row.columns << (row.properties ? " with" : " without");
     }
     // As many as the bytes hold are possible, however many that is.
     for (const std::int64_t missing : {0, 1}) {
-        EXPECT_EQ(isPossible({275, 5'000'000, 2, false}, 40'000'000 - missing, 2), missing == 0);
-        EXPECT_EQ(isPossible({275, 5'000'000, 2, true}, 560'000'000 - missing, 2), missing == 0);
+        EXPECT_EQ(content::isPossible({275, 5'000'000, 2, false}, 40'000'000 - missing, 2), missing == 0);
+        EXPECT_EQ(content::isPossible({275, 5'000'000, 2, true}, 560'000'000 - missing, 2), missing == 0);
     }
 }
 

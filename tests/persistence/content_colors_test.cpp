@@ -31,16 +31,17 @@ constexpr std::array<Row, 15> rows{{
 
 TEST_F(ContentColors, EachTextHasItsCode) {
     for (const Row& row : rows)
-        EXPECT_EQ(GetCorrectColor(desktop.runtime(), row.text), row.code) << toUtf8(row.text);
+        EXPECT_EQ(content::GetCorrectColor(desktop.runtime(), row.text), row.code) << toUtf8(row.text);
     EXPECT_EQ(takeReports(), "6 GetCorrectColor\n6 GetCorrectColor\n");
 }
 
 // Wanted: no HTML colour is parsed, whatever the name says.
 TEST_F(ContentColors, EachCodeButThatOfDefIsTheColour) {
-    EXPECT_EQ(HTML2VBColor(999999999), Variant(u"def"));
-    EXPECT_EQ(HTML2VBColor(0xFFFFFF), Variant(Long{0xFFFFFF}));
-    EXPECT_EQ(HTML2VBColor(-2147483631), Variant(Long{-2147483631}));
-    EXPECT_EQ(GetCorrectColor(desktop.runtime(), HTML2VBColor(999999999).toText()), 999999999);
+    EXPECT_EQ(content::HTML2VBColor(999999999), Variant(u"def"));
+    EXPECT_EQ(content::HTML2VBColor(0xFFFFFF), Variant(Long{0xFFFFFF}));
+    EXPECT_EQ(content::HTML2VBColor(-2147483631), Variant(Long{-2147483631}));
+    EXPECT_EQ(content::GetCorrectColor(desktop.runtime(), content::HTML2VBColor(999999999).toText()),
+              999999999);
 }
 
 } // namespace

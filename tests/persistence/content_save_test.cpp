@@ -47,7 +47,7 @@ TEST_F(ContentSave, AListThatLostItsColumnsSavesItsRowsCountAndNoRecord) {
 }
 
 TEST_F(ContentSave, TheVersionIsTheNumberInTheText275) {
-    EXPECT_EQ(SaveVersion(), 275);
+    EXPECT_EQ(content::SaveVersion(), 275);
 }
 
 TEST_F(ContentSave, AFullRecordHasItsFieldsInOrder) {

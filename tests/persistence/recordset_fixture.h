@@ -32,10 +32,10 @@ class RecordsetFixture : public ListFixture {
     /// "438 Recordset; 5 Recordset": number and procedure of each report since the last call.
     std::string reports() {
         std::string all;
-        std::vector<HeadlessRuntime::Box>& boxes = desktop.runtime().boxes;
-        const std::vector<HeadlessRuntime::Box> told = boxes;
+        std::vector<headless::HeadlessRuntime::Box>& boxes = desktop.runtime().boxes;
+        const std::vector<headless::HeadlessRuntime::Box> told = boxes;
         boxes.clear();
-        for (const HeadlessRuntime::Box& box : told) {
+        for (const headless::HeadlessRuntime::Box& box : told) {
             boxes = {box};
             all += (all.empty() ? "" : "; ") + lastReport();
         }

@@ -20,7 +20,7 @@ class FormattedText : public ::testing::Test {
         return inkOf(surface.image());
     }
 
-    RasterSurface surface{200, 60, testFonts()};
+    raster::RasterSurface surface{200, 60, testFonts()};
 };
 
 TEST_F(FormattedText, OddHeightsAreHalvedEachForItself) {

@@ -30,7 +30,7 @@ constexpr Direction directions[] = {
 };
 
 TEST_P(LineDirection, LeavesOutItsLastPixel) {
-    RasterSurface surface(5, 5, testFonts());
+    raster::RasterSurface surface(5, 5, testFonts());
     surface.line(2, 2, 2 + GetParam().dx, 2 + GetParam().dy, black);
     EXPECT_EQ(drawing(surface.image()), GetParam().shown);
 }

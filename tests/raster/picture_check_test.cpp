@@ -21,7 +21,7 @@ class PictureCheck : public ::testing::Test {
     }
     void refer(const std::string& name, const Bitmap& bitmap) {
         fs::create_directories(folders.references);
-        savePng(bitmap, folders.references / (name + ".png"));
+        pictures::savePng(bitmap, folders.references / (name + ".png"));
     }
     bool failureShown(const std::string& name) { return fs::exists(folders.failures / (name + ".png")); }
 
@@ -54,7 +54,7 @@ TEST_F(PictureCheck, FailureShowsActualExpectedAndDifferenceSideBySide) {
     Bitmap other = grey;
     other.at(1, 0) = 0xFF00FF00U;
     ASSERT_FALSE(check("beside", other));
-    const PictureRef board = loadPicture(folders.failures / "beside.png");
+    const PictureRef board = pictures::loadPicture(folders.failures / "beside.png");
     ASSERT_EQ(board->bitmap().width, 3 * 3 + 2 * 4);
     ASSERT_EQ(board->bitmap().height, 2);
     EXPECT_EQ(board->bitmap().at(1, 0), 0xFF00FF00U);
@@ -66,7 +66,7 @@ TEST_F(PictureCheck, FailureShowsActualExpectedAndDifferenceSideBySide) {
 TEST_F(PictureCheck, FailureNeverTouchesTheReference) {
     refer("kept", grey);
     EXPECT_FALSE(check("kept", Bitmap(3, 2, 0xFF000000U)));
-    EXPECT_EQ(loadPicture(folders.references / "kept.png")->bitmap(), grey);
+    EXPECT_EQ(pictures::loadPicture(folders.references / "kept.png")->bitmap(), grey);
 }
 
 TEST_F(PictureCheck, AnotherSizeFails) {
@@ -84,7 +84,7 @@ TEST_F(PictureCheck, MissingReferenceFailsAndIsNotWritten) {
 TEST_F(PictureCheck, AcceptingWritesTheReferenceAndStillFails) {
     folders.accepted = "acc*d";
     EXPECT_FALSE(check("accepted", grey));
-    EXPECT_EQ(loadPicture(folders.references / "accepted.png")->bitmap(), grey);
+    EXPECT_EQ(pictures::loadPicture(folders.references / "accepted.png")->bitmap(), grey);
     folders.accepted = "";
     EXPECT_TRUE(check("accepted", grey));
 }
@@ -93,7 +93,7 @@ TEST_F(PictureCheck, AcceptingLeavesPicturesOfOtherNamesAlone) {
     refer("left_alone", grey);
     folders.accepted = "left";
     EXPECT_FALSE(check("left_alone", Bitmap(3, 2, 0xFF000000U)));
-    EXPECT_EQ(loadPicture(folders.references / "left_alone.png")->bitmap(), grey);
+    EXPECT_EQ(pictures::loadPicture(folders.references / "left_alone.png")->bitmap(), grey);
 }
 
 TEST_F(PictureCheck, ANameBelongsToOnePlaceInTheTests) {

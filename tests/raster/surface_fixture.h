@@ -30,7 +30,7 @@ class SurfaceTest : public ::testing::Test {
     std::string shown() { return drawing(surface.image()); }
     std::string shown(const Rect& area) { return drawing(surface.image(), area); }
 
-    RasterSurface surface{12, 6, testFonts()};
+    raster::RasterSurface surface{12, 6, testFonts()};
 };
 
 } // namespace lumtex::testing

@@ -76,7 +76,7 @@ TEST_F(Skin, NarrowerOrLowerLeavesTheBoardsBackground) {
 }
 
 TEST_F(Skin, OfNothingIsTheDefaultStrip) {
-    const auto untouched = ListViewArtwork::standard();
+    const auto untouched = drawing::ListViewArtwork::standard();
     for (std::size_t i = 0; i < std::size(cuttingTable); ++i)
         EXPECT_EQ(piece(i), untouched.imgCol[i]->bitmap()) << "a control without a skin cuts nothing";
     list.setSkin(strip(16, 3));

@@ -8,16 +8,16 @@ namespace lumtex::testing {
 
 namespace {
 
-std::uint32_t at(RasterSurface& surface, Long x, Long y) {
+std::uint32_t at(raster::RasterSurface& surface, Long x, Long y) {
     return surface.pixels()[static_cast<std::size_t>(y * surface.scaleWidth() + x)] & 0xFFFFFFU;
 }
 
 } // namespace
 
 TEST(Gradient, RunsFromLeftToRight) {
-    RasterSurface surface(4, 2, testFonts());
+    raster::RasterSurface surface(4, 2, testFonts());
     const Rect rect{0, 0, 4, 2};
-    DrawGradient(surface, &rect, 0x000000, 0x0000C8, GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &rect, 0x000000, 0x0000C8, drawing::GradientDirection::leftToRight);
     for (Long y = 0; y < 2; ++y) {
         EXPECT_EQ(at(surface, 0, y), 0x000000U);
         EXPECT_EQ(at(surface, 1, y), 0x320000U);
@@ -27,9 +27,9 @@ TEST(Gradient, RunsFromLeftToRight) {
 }
 
 TEST(Gradient, RunsFromBottomToTopAndMovesOnAtEveryPixelOfItsStrip) {
-    RasterSurface surface(4, 2, testFonts());
+    raster::RasterSurface surface(4, 2, testFonts());
     const Rect rect{0, 0, 4, 2};
-    DrawGradient(surface, &rect, 0x000000, 0x000050, GradientDirection::bottomToTop);
+    drawing::DrawGradient(surface, &rect, 0x000000, 0x000050, drawing::GradientDirection::bottomToTop);
     const std::uint32_t lower[] = {0x000000, 0x0A0000, 0x140000, 0x1E0000};
     const std::uint32_t upper[] = {0x280000, 0x320000, 0x3C0000, 0x460000};
     for (Long x = 0; x < 4; ++x) {
@@ -39,9 +39,9 @@ TEST(Gradient, RunsFromBottomToTopAndMovesOnAtEveryPixelOfItsStrip) {
 }
 
 TEST(Gradient, OfAnExtentBelowZeroMirrorsToTheOtherSideOfItsFirstPixel) {
-    RasterSurface surface(6, 3, testFonts());
+    raster::RasterSurface surface(6, 3, testFonts());
     const Rect leftwards{4, 0, 0, 2};
-    DrawGradient(surface, &leftwards, 0x000000, 0x000050, GradientDirection::bottomToTop);
+    drawing::DrawGradient(surface, &leftwards, 0x000000, 0x000050, drawing::GradientDirection::bottomToTop);
     const std::uint32_t lower[] = {0xFFFFFF, 0x1E0000, 0x140000, 0x0A0000, 0x000000, 0xFFFFFF};
     const std::uint32_t upper[] = {0xFFFFFF, 0x460000, 0x3C0000, 0x320000, 0x280000, 0xFFFFFF};
     for (Long x = 0; x < 6; ++x) {
@@ -50,7 +50,7 @@ TEST(Gradient, OfAnExtentBelowZeroMirrorsToTheOtherSideOfItsFirstPixel) {
     }
     surface.Cls();
     const Rect upwards{1, 2, 3, 0};
-    DrawGradient(surface, &upwards, 0x000000, 0x000050, GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &upwards, 0x000000, 0x000050, drawing::GradientDirection::leftToRight);
     for (Long y = 0; y < 3; ++y) {
         EXPECT_EQ(at(surface, 1, y), y == 0 ? 0xFFFFFFU : 0x000000U) << y;
         EXPECT_EQ(at(surface, 2, y), y == 0 ? 0xFFFFFFU : 0x280000U) << y;
@@ -58,43 +58,43 @@ TEST(Gradient, OfAnExtentBelowZeroMirrorsToTheOtherSideOfItsFirstPixel) {
 }
 
 TEST(Gradient, ChannelsAreRoundedHalfToEven) {
-    RasterSurface surface(2, 1, testFonts());
+    raster::RasterSurface surface(2, 1, testFonts());
     const Rect rect{0, 0, 2, 1};
-    DrawGradient(surface, &rect, 0x000000, 0x000001, GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &rect, 0x000000, 0x000001, drawing::GradientDirection::leftToRight);
     EXPECT_EQ(at(surface, 1, 0), 0x000000U) << "0.5 rounds to 0";
-    DrawGradient(surface, &rect, 0x000001, 0x000002, GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &rect, 0x000001, 0x000002, drawing::GradientDirection::leftToRight);
     EXPECT_EQ(at(surface, 1, 0), 0x020000U) << "1.5 rounds to 2";
 }
 
 TEST(Gradient, WhatCannotBePaintedPaintsNothing) {
-    RasterSurface inner(4, 4, testFonts());
+    raster::RasterSurface inner(4, 4, testFonts());
     RecordingSurface surface(inner);
     const Rect noWidth{2, 0, 2, 4};
     const Rect noHeight{0, 2, 4, 2};
     const Rect turned{4, 4, 0, 0};
     const Rect all{0, 0, 4, 4};
     const Rect huge{-0x7FFFFFFF, 0, 0x7FFFFFFF, 1};
-    DrawGradient(surface, nullptr, 0, 0xFF, GradientDirection::leftToRight);
-    DrawGradient(surface, &noWidth, 0, 0xFF, GradientDirection::leftToRight);
-    DrawGradient(surface, &noHeight, 0, 0xFF, GradientDirection::bottomToTop);
-    DrawGradient(surface, &turned, 0, 0xFF, GradientDirection::leftToRight);
-    DrawGradient(surface, &turned, 0, 0xFF, GradientDirection::bottomToTop);
-    DrawGradient(surface, &all, 0, 0xFF, static_cast<GradientDirection>(2));
-    DrawGradient(surface, &huge, 0, 0xFF, GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, nullptr, 0, 0xFF, drawing::GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &noWidth, 0, 0xFF, drawing::GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &noHeight, 0, 0xFF, drawing::GradientDirection::bottomToTop);
+    drawing::DrawGradient(surface, &turned, 0, 0xFF, drawing::GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &turned, 0, 0xFF, drawing::GradientDirection::bottomToTop);
+    drawing::DrawGradient(surface, &all, 0, 0xFF, static_cast<drawing::GradientDirection>(2));
+    drawing::DrawGradient(surface, &huge, 0, 0xFF, drawing::GradientDirection::leftToRight);
     EXPECT_TRUE(surface.log.empty());
-    DrawGradient(surface, &noHeight, 0, 0xFF, GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &noHeight, 0, 0xFF, drawing::GradientDirection::leftToRight);
     EXPECT_EQ(surface.log, Lines{"Stretch 0,2 4x0 from 4x1"})
         << "no division by the height; it paints nothing";
     EXPECT_EQ(at(inner, 0, 2), 0xFFFFFFU);
 }
 
 TEST(SortArrow, PointsDownForZeroUpForOneAndNowhereElse) {
-    RasterSurface inner(20, 20, testFonts());
+    raster::RasterSurface inner(20, 20, testFonts());
     RecordingSurface surface(inner);
-    DrawArrow(surface, 0, 2, 3);
-    DrawArrow(surface, 1, 2, 3);
-    DrawArrow(surface, 2, 2, 3);
-    DrawArrow(surface, 0, 2.5F, 7.5F);
+    drawing::DrawArrow(surface, 0, 2, 3);
+    drawing::DrawArrow(surface, 1, 2, 3);
+    drawing::DrawArrow(surface, 2, 2, 3);
+    drawing::DrawArrow(surface, 0, 2.5F, 7.5F);
     EXPECT_EQ(
         surface.lines("Polygon"),
         (Lines{
@@ -102,31 +102,31 @@ TEST(SortArrow, PointsDownForZeroUpForOneAndNowhereElse) {
 }
 
 TEST(SortArrow, IsFilledAndLeavesTheSurfaceTransparent) {
-    RasterSurface surface(20, 20, testFonts());
-    DrawArrow(surface, 0, 2, 3);
+    raster::RasterSurface surface(20, 20, testFonts());
+    drawing::DrawArrow(surface, 0, 2, 3);
     EXPECT_EQ(at(surface, 6, 4), 0x999999U) << "inside";
 }
 
 TEST(CloneFontTest, GivesNoneForNoneElseAFontOfItsOwn) {
-    EXPECT_EQ(CloneFont(nullptr), nullptr);
+    EXPECT_EQ(drawing::CloneFont(nullptr), nullptr);
     const auto font = std::make_shared<Font>(FontSpec{.Name = u"a", .Size = 3, .Underline = true});
-    const FontRef clone = CloneFont(font);
+    const FontRef clone = drawing::CloneFont(font);
     EXPECT_NE(clone, font);
     EXPECT_EQ(clone->spec, font->spec);
 }
 
 TEST(PictureSize, ComesBackFromHimetricUnits) {
-    const RasterSurface surface(1, 1, testFonts());
+    const raster::RasterSurface surface(1, 1, testFonts());
     for (const Long size : {0, 1, 3, 13, 16, 17, 32, 1000}) {
         const BitmapPicture picture(Bitmap(size, size));
-        EXPECT_EQ(GetPictureWidth(surface, picture), size);
-        EXPECT_EQ(GetPictureHeight(surface, picture), size);
+        EXPECT_EQ(drawing::GetPictureWidth(surface, picture), size);
+        EXPECT_EQ(drawing::GetPictureHeight(surface, picture), size);
     }
     EXPECT_EQ(BitmapPicture(Bitmap(13, 13)).Width(), 344);
 }
 
 TEST(Artwork, HasItsSizes) {
-    const ListViewArtwork& artwork = ListViewArtwork::standard();
+    const drawing::ListViewArtwork& artwork = drawing::ListViewArtwork::standard();
     for (const std::size_t i : {1, 2}) {
         EXPECT_EQ(artwork.img[i]->bitmap().width, 13);
         EXPECT_EQ(artwork.img[i]->bitmap().height, 13);
@@ -180,7 +180,7 @@ std::vector<std::string> inked(const std::vector<std::string>& rows, const std::
 } // namespace
 
 TEST(Artwork, TheHoverBarsPiecesHaveTheirPixels) {
-    const auto& pieces = ListViewArtwork::standard().imgCol;
+    const auto& pieces = drawing::ListViewArtwork::standard().imgCol;
     EXPECT_EQ(rowsOf(pieces[0]),
               (Lines{"F9CC68 FAD587 FCDF9D FBCF70 FAC042 FCB825",
                      "F2E0B5 FBBA2F FCE0A6 FAE4B2 FADC9C FCD685",
@@ -194,7 +194,7 @@ TEST(Artwork, TheHoverBarsPiecesHaveTheirPixels) {
 }
 
 TEST(Artwork, TheCheckBoxesHaveTheirPixels) {
-    const ListViewArtwork& artwork = ListViewArtwork::standard();
+    const drawing::ListViewArtwork& artwork = drawing::ListViewArtwork::standard();
     EXPECT_EQ(rowsOf(artwork.img[1]),
               inked({"0000000000000",
                      "0111112335560",
@@ -320,16 +320,16 @@ TEST_F(SelectionColour, FollowsTheStyleAndIsZeroForAnUnknownOne) {
 }
 
 TEST(Gradient, FarBeyondTheSurfaceIsWorkedOutWhereItCanBeSeen) {
-    RasterSurface surface(4, 100, testFonts());
+    raster::RasterSurface surface(4, 100, testFonts());
     // One step of blue for each 8,000,000 rows, counted from below.
     const Rect tall{0, -1599999950, 4, 440000050};
-    DrawGradient(surface, &tall, 0x000000, 0xFF0000, GradientDirection::bottomToTop);
+    drawing::DrawGradient(surface, &tall, 0x000000, 0xFF0000, drawing::GradientDirection::bottomToTop);
     EXPECT_EQ(surface.image().at(0, 99), 0xFF000037U);
     const Rect wide{-1599999998, 0, 440000002, 100};
-    DrawGradient(surface, &wide, 0x000000, 0xFF0000, GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &wide, 0x000000, 0xFF0000, drawing::GradientDirection::leftToRight);
     EXPECT_EQ(surface.image().at(0, 0), 0xFF0000C8U);
     const Rect beside{-2000000000, 0, 0, 100};
-    DrawGradient(surface, &beside, 0x000000, 0x00FF00, GradientDirection::leftToRight);
+    drawing::DrawGradient(surface, &beside, 0x000000, 0x00FF00, drawing::GradientDirection::leftToRight);
     EXPECT_EQ(surface.image().at(0, 0), 0xFF0000C8U);
 }
 

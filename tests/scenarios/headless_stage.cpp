@@ -16,7 +16,7 @@ class Neighbour final : public UserControl {};
 
 class HeadlessStage final : public Stage {
   public:
-    explicit HeadlessStage(const std::function<std::unique_ptr<World>(Desktop&)>& worldAround)
+    explicit HeadlessStage(const std::function<std::unique_ptr<World>(headless::Desktop&)>& worldAround)
         : around_(worldAround ? worldAround(desktop_) : nullptr),
           neighbour_(desktop_.createWindow(nullptr, neighbourClient_)) {
         events_.depth = [this] { return desktop_.yieldDepth(); };
@@ -70,7 +70,7 @@ class HeadlessStage final : public Stage {
     Bitmap picture() override { return desktop_.screenshot(list_.window()); }
 
   private:
-    Desktop desktop_{testFonts()};
+    headless::Desktop desktop_{testFonts()};
     std::unique_ptr<World> around_;
     TestHost host_;
     RecordingEvents events_;
@@ -82,7 +82,8 @@ class HeadlessStage final : public Stage {
 
 } // namespace
 
-std::unique_ptr<Stage> makeHeadlessStage(const std::function<std::unique_ptr<World>(Desktop&)>& worldAround) {
+std::unique_ptr<Stage>
+makeHeadlessStage(const std::function<std::unique_ptr<World>(headless::Desktop&)>& worldAround) {
     return std::make_unique<HeadlessStage>(worldAround);
 }
 

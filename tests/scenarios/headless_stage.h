@@ -14,6 +14,6 @@ namespace lumtex::testing {
 ///
 /// `worldAround`, if there is one, makes a world that hands on to the desktop; the list is made in that.
 std::unique_ptr<Stage>
-makeHeadlessStage(const std::function<std::unique_ptr<World>(Desktop&)>& worldAround = {});
+makeHeadlessStage(const std::function<std::unique_ptr<World>(headless::Desktop&)>& worldAround = {});
 
 } // namespace lumtex::testing

@@ -314,7 +314,7 @@ class Player {
     Stage& stage_;
     lmListView& list_;
     ListViewInspector inside_;
-    CallByName byName_{list_};
+    automation::CallByName byName_{list_};
     std::vector<Bitmap> frames_;
 };
 

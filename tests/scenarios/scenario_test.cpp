@@ -33,7 +33,7 @@ void saveFilm(const std::vector<Bitmap>& frames, const std::string& name) {
     }
     const fs::path out = fs::path(sourceFolder()) / "out" / "film";
     fs::create_directories(out);
-    savePng(film, out / (name + ".png"));
+    pictures::savePng(film, out / (name + ".png"));
 }
 
 class Scenario : public ::testing::TestWithParam<fs::path> {};

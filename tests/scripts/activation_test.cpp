@@ -12,37 +12,43 @@ class Activation : public ::testing::Test {
 };
 
 TEST_F(Activation, MakesEachClassByItsProgramIdentifier) {
-    for (const ClassDescription& description : classTable()) {
+    for (const automation::ClassDescription& description : automation::classTable()) {
         const String programId = u"LumtexListView." + String(description.name);
         CLSID id{};
-        ASSERT_EQ(CLSIDFromProgID(wide(programId), &id), S_OK) << toUtf8(programId);
-        ComRef<IDispatch> object;
+        ASSERT_EQ(CLSIDFromProgID(win32::wide(programId), &id), S_OK) << toUtf8(programId);
+        win32::ComRef<IDispatch> object;
         ASSERT_EQ(
             CoCreateInstance(
                 id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, reinterpret_cast<void**>(object.out())),
             S_OK)
             << toUtf8(programId);
-        const Member& last = description.members.back();
-        EXPECT_EQ(idOf(object.get(), wide(String(last.name))), last.number) << toUtf8(programId);
+        const automation::Member& last = description.members.back();
+        EXPECT_EQ(idOf(object.get(), win32::wide(String(last.name))), last.number) << toUtf8(programId);
     }
 }
 
 TEST_F(Activation, FindsTheTypeLibraryOfTheComponent) {
-    ComRef<ITypeLib> library;
-    ASSERT_EQ(
-        LoadRegTypeLib(
-            guidOf("LumtexListView"), typeLibraryMajor, typeLibraryMinor, LOCALE_NEUTRAL, library.out()),
-        S_OK);
-    ComRef<ITypeInfo> events;
-    EXPECT_EQ(library->GetTypeInfoOfGuid(guidOf("__lmListView"), events.out()), S_OK);
-    ComRef<ITypeLib> newer;
-    EXPECT_NE(LoadRegTypeLib(guidOf("LumtexListView"), typeLibraryMajor + 1, 0, LOCALE_NEUTRAL, newer.out()),
+    win32::ComRef<ITypeLib> library;
+    ASSERT_EQ(LoadRegTypeLib(win32::guidOf("LumtexListView"),
+                             automation::typeLibraryMajor,
+                             automation::typeLibraryMinor,
+                             LOCALE_NEUTRAL,
+                             library.out()),
+              S_OK);
+    win32::ComRef<ITypeInfo> events;
+    EXPECT_EQ(library->GetTypeInfoOfGuid(win32::guidOf("__lmListView"), events.out()), S_OK);
+    win32::ComRef<ITypeLib> newer;
+    EXPECT_NE(LoadRegTypeLib(win32::guidOf("LumtexListView"),
+                             automation::typeLibraryMajor + 1,
+                             0,
+                             LOCALE_NEUTRAL,
+                             newer.out()),
               S_OK);
 }
 
 TEST_F(Activation, EventsReachTheProgram) {
-    ComRef<IUnknown> list;
-    ASSERT_EQ(CoCreateInstance(guidOf("lmListView"),
+    win32::ComRef<IUnknown> list;
+    ASSERT_EQ(CoCreateInstance(win32::guidOf("lmListView"),
                                nullptr,
                                CLSCTX_INPROC_SERVER,
                                IID_IUnknown,

@@ -52,8 +52,10 @@ AdoTypeLibrary::AdoTypeLibrary() {
     std::ofstream(copy_, std::ios::binary) << library;
 
     HKEY key = nullptr;
-    const String files = String(textOf(versionKey)) + u"\\0\\" + (sizeof(void*) == 8 ? u"win64" : u"win32");
-    if (RegCreateKeyExW(HKEY_LOCAL_MACHINE, wide(files), 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr) !=
+    const String files =
+        String(win32::textOf(versionKey)) + u"\\0\\" + (sizeof(void*) == 8 ? u"win64" : u"win32");
+    if (RegCreateKeyExW(
+            HKEY_LOCAL_MACHINE, win32::wide(files), 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr) !=
         ERROR_SUCCESS)
         throw std::runtime_error("the type library cannot be registered");
     const std::wstring path = copy_.wstring();

@@ -41,8 +41,8 @@ bool isFileName(StringView parameter) {
     return parameter == u"sFilename" || parameter == u"Filename" || parameter == u"sFile";
 }
 
-bool takesList(const Member& member) {
-    return member.count > 0 && member.slots[member.count - 1].type.code == TypeCode::variantList;
+bool takesList(const automation::Member& member) {
+    return member.count > 0 && member.slots[member.count - 1].type.code == automation::TypeCode::variantList;
 }
 
 String number(std::size_t value) {
@@ -114,8 +114,8 @@ struct Words {
     String result() const { return inVbScript() ? u"Use" : u"result"; }
 };
 
-bool isObjectType(const Member& member) {
-    return member.isReference() || member.type.code == TypeCode::record;
+bool isObjectType(const automation::Member& member) {
+    return member.isReference() || member.type.code == automation::TypeCode::record;
 }
 
 } // namespace
@@ -127,7 +127,7 @@ std::string MemberUse::shown() const {
     return text + ")";
 }
 
-Variant SampleValues::valueFor(const Parameter& parameter) const {
+Variant SampleValues::valueFor(const automation::Parameter& parameter) const {
     if (isFileName(parameter.name))
         return folder_ + String(parameter.name) + u".txt";
     const auto& values = valuesByName();
@@ -135,33 +135,34 @@ Variant SampleValues::valueFor(const Parameter& parameter) const {
     return found == values.end() ? byType(parameter.type.code) : found->value;
 }
 
-Variant SampleValues::byType(TypeCode type) const {
+Variant SampleValues::byType(automation::TypeCode type) const {
     switch (type) {
-    case TypeCode::boolean:
+    case automation::TypeCode::boolean:
         return true;
-    case TypeCode::integer:
+    case automation::TypeCode::integer:
         return Integer{1};
-    case TypeCode::single:
+    case automation::TypeCode::single:
         return 37.5F;
-    case TypeCode::string:
+    case automation::TypeCode::string:
         return u"sample \"text\"";
-    case TypeCode::enumeration:
+    case automation::TypeCode::enumeration:
         return Long{2};
-    case TypeCode::picture:
+    case automation::TypeCode::picture:
         return named_.picture;
-    case TypeCode::font:
+    case automation::TypeCode::font:
         return named_.font;
-    case TypeCode::object:
+    case automation::TypeCode::object:
         return named_.object;
     default:
         return Long{0x1234};
     }
 }
 
-std::vector<MemberUse> usesOf(const Member& member, const SampleValues& samples, bool inTheMiddle) {
+std::vector<MemberUse>
+usesOf(const automation::Member& member, const SampleValues& samples, bool inTheMiddle) {
     std::vector<Variant> all;
     std::size_t needed = 0;
-    for (const Parameter& parameter : member.parameters()) {
+    for (const automation::Parameter& parameter : member.parameters()) {
         all.push_back(samples.valueFor(parameter));
         if (!parameter.optional())
             needed = all.size();
@@ -183,7 +184,7 @@ std::vector<MemberUse> usesOf(const Member& member, const SampleValues& samples,
         if (member.get != nullptr)
             uses.push_back({MemberUse::Kind::get, arguments, {}});
         // Of the two, one is not what a new object holds.
-        if (member.let != nullptr && member.type.code == TypeCode::boolean)
+        if (member.let != nullptr && member.type.code == automation::TypeCode::boolean)
             uses.push_back({MemberUse::Kind::let, arguments, false});
         if (member.let != nullptr)
             uses.push_back({MemberUse::Kind::let, arguments, samples.assignedTo(member)});
@@ -193,7 +194,7 @@ std::vector<MemberUse> usesOf(const Member& member, const SampleValues& samples,
     return uses;
 }
 
-String programFor(ScriptLanguage language, const Member& member, const MemberUse& use) {
+String programFor(ScriptLanguage language, const automation::Member& member, const MemberUse& use) {
     const Words words{language};
     String head;
     String body;
@@ -215,18 +216,19 @@ String programFor(ScriptLanguage language, const Member& member, const MemberUse
         list.empty() && !(isCall && language == ScriptLanguage::jScript) ? name : name + u"(" + list + u")";
     if (use.kind == MemberUse::Kind::let)
         body += words.assign(expression, literal(language, use.value), member.isReference());
-    else if (member.type.code == TypeCode::none)
+    else if (member.type.code == automation::TypeCode::none)
         body += language == ScriptLanguage::vbScript ? name + u" " + list + u"\n" : expression + u"\n";
     else
         body += (language == ScriptLanguage::jScript ? u"var " : u"") +
                 words.assign(words.result(), expression, isObjectType(member));
-    if (member.type.code == TypeCode::record)
-        for (std::size_t i = 0; i < findResultsFields.size(); ++i) {
+    if (member.type.code == automation::TypeCode::record)
+        for (std::size_t i = 0; i < automation::findResultsFields.size(); ++i) {
             const String field = u"field" + number(i);
             head += words.variable(field);
-            body += words.assign(field, words.result() + u"." + String(findResultsFields[i].name), false);
+            body += words.assign(
+                field, words.result() + u"." + String(automation::findResultsFields[i].name), false);
         }
-    const bool gives = use.kind != MemberUse::Kind::let && member.type.code != TypeCode::none;
+    const bool gives = use.kind != MemberUse::Kind::let && member.type.code != automation::TypeCode::none;
     return head + words.function(body, gives);
 }
 

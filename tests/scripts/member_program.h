@@ -36,12 +36,12 @@ class SampleValues {
     /// `folder` ends with a backslash.
     SampleValues(NamedSamples named, String folder) : named_(std::move(named)), folder_(std::move(folder)) {}
 
-    Variant valueFor(const Parameter& parameter) const;
+    Variant valueFor(const automation::Parameter& parameter) const;
     /// What no new object holds.
-    Variant assignedTo(const Member& member) const { return byType(member.type.code); }
+    Variant assignedTo(const automation::Member& member) const { return byType(member.type.code); }
 
   private:
-    Variant byType(TypeCode type) const;
+    Variant byType(automation::TypeCode type) const;
 
     NamedSamples named_;
     String folder_;
@@ -49,11 +49,12 @@ class SampleValues {
 
 /// With all arguments; with each optional one at the end left out, one after another; and, `inTheMiddle`,
 /// with each optional one left out that others follow.
-std::vector<MemberUse> usesOf(const Member& member, const SampleValues& samples, bool inTheMiddle);
+std::vector<MemberUse>
+usesOf(const automation::Member& member, const SampleValues& samples, bool inTheMiddle);
 
 /// The function `Use`, which uses the member of its argument. It gives back what the member gives. Arguments
 /// by reference are variables, `argument0` and so on by their place; of a record, the fields are left in
 /// `field0` and so on.
-String programFor(ScriptLanguage language, const Member& member, const MemberUse& use);
+String programFor(ScriptLanguage language, const automation::Member& member, const MemberUse& use);
 
 } // namespace lumtex::testing

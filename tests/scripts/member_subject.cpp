@@ -9,12 +9,12 @@ namespace {
 
 /// As the system has it, which may lack the font that was asked for.
 String shownFont(const FontRef& font) {
-    const auto systems = toIFont(font).as<IFont>();
+    const auto systems = win32::toIFont(font).as<IFont>();
     BSTR name = nullptr;
     CY size{};
     systems->get_Name(&name);
     systems->get_Size(&size);
-    const String text = u"font " + String(viewBSTR(name)) + u" " + Variant(Long(size.int64)).toText();
+    const String text = u"font " + String(win32::viewBSTR(name)) + u" " + Variant(Long(size.int64)).toText();
     SysFreeString(name);
     return text;
 }

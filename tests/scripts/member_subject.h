@@ -35,10 +35,10 @@ std::string stateOf(Subject& list);
 /// The core, with nothing of the component around it.
 class CoreSubject final : public Subject {
   public:
-    explicit CoreSubject(CallByName byName) : byName_(byName) {}
+    explicit CoreSubject(automation::CallByName byName) : byName_(byName) {}
 
     Variant get(StringView name, std::vector<Variant> arguments) override {
-        const Member& member = *findMember(byName_.description(), name);
+        const automation::Member& member = *automation::findMember(byName_.description(), name);
         return member.isMethod() ? byName_.call(member, arguments) : byName_.get(member, arguments);
     }
     void let(StringView name, std::vector<Variant> arguments, const Variant& value) override {
@@ -47,27 +47,27 @@ class CoreSubject final : public Subject {
     void call(StringView name, std::vector<Variant> arguments) override { byName_.call(name, arguments); }
 
   private:
-    CallByName byName_;
+    automation::CallByName byName_;
 };
 
 /// The component, late-bound.
 class ComponentSubject final : public Subject {
   public:
-    explicit ComponentSubject(ComRef<IDispatch> object) : object_(std::move(object)) {}
+    explicit ComponentSubject(win32::ComRef<IDispatch> object) : object_(std::move(object)) {}
 
     Variant get(StringView name, std::vector<Variant> arguments) override {
-        return invoke(object_.get(), wide(String(name)), DISPATCH_PROPERTYGET, arguments).value;
+        return invoke(object_.get(), win32::wide(String(name)), DISPATCH_PROPERTYGET, arguments).value;
     }
     void let(StringView name, std::vector<Variant> arguments, const Variant& value) override {
         arguments.push_back(value);
-        invoke(object_.get(), wide(String(name)), DISPATCH_PROPERTYPUT, arguments);
+        invoke(object_.get(), win32::wide(String(name)), DISPATCH_PROPERTYPUT, arguments);
     }
     void call(StringView name, std::vector<Variant> arguments) override {
-        invoke(object_.get(), wide(String(name)), DISPATCH_METHOD, arguments);
+        invoke(object_.get(), win32::wide(String(name)), DISPATCH_METHOD, arguments);
     }
 
   private:
-    ComRef<IDispatch> object_;
+    win32::ComRef<IDispatch> object_;
 };
 
 } // namespace lumtex::testing

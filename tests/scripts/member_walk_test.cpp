@@ -38,21 +38,21 @@ bool can(ScriptLanguage language, std::string_view what) {
 constexpr StringView ownResults[] = {u"hwnd", u"hwndEdit"};
 
 /// Opens a form that waits for its user.
-bool opensForm(const Member& member) {
+bool opensForm(const automation::Member& member) {
     return member.name == u"About";
 }
 
 struct Walked {
-    const ClassDescription* owner;
-    const Member* member;
+    const automation::ClassDescription* owner;
+    const automation::Member* member;
     ScriptLanguage language;
 };
 
 std::vector<Walked> everyMember() {
     std::vector<Walked> all;
     for (const ScriptLanguage language : {ScriptLanguage::vbScript, ScriptLanguage::jScript})
-        for (const ClassDescription& owner : classTable())
-            for (const Member& member : owner.members)
+        for (const automation::ClassDescription& owner : automation::classTable())
+            for (const automation::Member& member : owner.members)
                 all.push_back({&owner, &member, language});
     return all;
 }
@@ -110,28 +110,29 @@ void PrintTo(const Observed& observed, std::ostream* stream) {
 /// An object of the component and one of the core, which go through the same: all tests of a class in a
 /// language share them, since making a list takes longer than using it.
 struct Bench {
-    Bench(const ClassDescription& ofClass, ScriptLanguage language)
+    Bench(const automation::ClassDescription& ofClass, ScriptLanguage language)
         : owner(ofClass), host(language), object(component.make(toUtf8(ofClass.name)).as<IDispatch>()) {
         list.UserControl_InitProperties();
-        host.add(u"samplePicture", toIPicture(picture).as<IDispatch>());
-        host.add(u"sampleFont", toIFont(font).as<IDispatch>());
-        host.add(u"sampleObject", toIDispatch(&owner == &listViewClass() ? placedObject : scriptBox));
+        host.add(u"samplePicture", win32::toIPicture(picture).as<IDispatch>());
+        host.add(u"sampleFont", win32::toIFont(font).as<IDispatch>());
+        host.add(u"sampleObject",
+                 win32::toIDispatch(&owner == &automation::listViewClass() ? placedObject : scriptBox));
     }
 
-    const ClassDescription& owner;
+    const automation::ClassDescription& owner;
     Component component;
     ScriptHost host;
-    ComRef<IDispatch> object;
+    win32::ComRef<IDispatch> object;
 
     PictureRef picture = std::make_shared<BitmapPicture>(Bitmap(3, 2));
     /// One that is there: for any other, the system gives another name to the component than the core has.
     FontRef font = std::make_shared<Font>(FontSpec{u"DejaVu Sans", 12, true});
-    ObjectRef placedObject = objectFrom(toIDispatch(TestObject::control(300)).get());
+    ObjectRef placedObject = win32::objectFrom(win32::toIDispatch(TestObject::control(300)).get());
     std::shared_ptr<ListBox> scriptBox = std::make_shared<ListBox>();
     std::shared_ptr<ListBox> coreBox = std::make_shared<ListBox>();
 
-    Win32Runtime runtime{GetModuleHandleW(nullptr)};
-    Win32World world{GetModuleHandleW(nullptr)};
+    win32::Win32Runtime runtime{GetModuleHandleW(nullptr)};
+    win32::Win32World world{GetModuleHandleW(nullptr)};
     TestHost testHost;
     RecordingEvents events;
     lmListView list{world, testHost, events};
@@ -154,9 +155,9 @@ class EachMember : public ::testing::TestWithParam<Walked> {
         processSilentFlag().silent = false;
     }
 
-    const Member& member() const { return *GetParam().member; }
+    const automation::Member& member() const { return *GetParam().member; }
     ScriptLanguage language() const { return GetParam().language; }
-    bool isList() const { return GetParam().owner == &listViewClass(); }
+    bool isList() const { return GetParam().owner == &automation::listViewClass(); }
     bool withKind() const { return can(language(), "kinds of numbers"); }
     bool isOwn() const { return std::ranges::find(ownResults, member().name) != std::end(ownResults); }
 
@@ -168,7 +169,7 @@ class EachMember : public ::testing::TestWithParam<Walked> {
     }
 
     void silenceComponent(bool on) {
-        const ComRef<IUnknown> reports = bench.component.make("Error");
+        const win32::ComRef<IUnknown> reports = bench.component.make("Error");
         invoke(reports.as<IDispatch>().get(), L"SilentError", DISPATCH_PROPERTYPUT, {on});
     }
 
@@ -199,9 +200,10 @@ class EachMember : public ::testing::TestWithParam<Walked> {
     }
 
     Observed onCore(const MemberUse& use) {
-        CallByName byName = isList()                           ? CallByName(bench.list)
-                            : GetParam().owner == &spEvClass() ? CallByName(bench.spEv)
-                                                               : CallByName(bench.error);
+        automation::CallByName byName = isList() ? automation::CallByName(bench.list)
+                                        : GetParam().owner == &automation::spEvClass()
+                                            ? automation::CallByName(bench.spEv)
+                                            : automation::CallByName(bench.error);
         CoreSubject subject(byName);
         prepare(subject, *bench.coreBox);
         std::vector<Variant> arguments = use.arguments;
@@ -209,10 +211,10 @@ class EachMember : public ::testing::TestWithParam<Walked> {
         const auto read = [&] {
             const Variant value = use.kind == MemberUse::Kind::call ? byName.call(member(), arguments)
                                                                     : byName.get(member(), arguments);
-            if (member().type.code != TypeCode::record)
+            if (member().type.code != automation::TypeCode::record)
                 return shownResult(value);
             std::string fields;
-            for (const RecordField& field : findResultsFields)
+            for (const automation::RecordField& field : automation::findResultsFields)
                 fields += shown(value.toObject()->get(field.name), withKind()) + " ";
             return fields;
         };
@@ -249,8 +251,8 @@ class EachMember : public ::testing::TestWithParam<Walked> {
         }
         const Variant value = run(reading);
         const ObjectRef global = bench.host.object();
-        if (member().type.code == TypeCode::record)
-            for (std::size_t i = 0; i < findResultsFields.size(); ++i)
+        if (member().type.code == automation::TypeCode::record)
+            for (std::size_t i = 0; i < automation::findResultsFields.size(); ++i)
                 observed.result +=
                     shown(global->get(u"field" + Variant(static_cast<Long>(i)).toText()), withKind()) + " ";
         else
@@ -265,7 +267,7 @@ class EachMember : public ::testing::TestWithParam<Walked> {
 
     Variant run(const MemberUse& use) {
         bench.host.run(programFor(language(), member(), use));
-        std::vector<Variant> target{objectFrom(bench.object.get())};
+        std::vector<Variant> target{win32::objectFrom(bench.object.get())};
         try {
             return bench.host.object()->call(u"Use", target);
         } catch (const RuntimeError&) {
@@ -324,10 +326,10 @@ TEST(MemberPrograms, AMemberThatIsNotThereFails) {
     const Component component;
     for (const ScriptLanguage language : {ScriptLanguage::vbScript, ScriptLanguage::jScript}) {
         ScriptHost host(language);
-        Member unknown = listViewClass().members[1];
+        automation::Member unknown = automation::listViewClass().members[1];
         unknown.name = u"NoSuchMember";
         host.run(programFor(language, unknown, {MemberUse::Kind::call, {}, {}}));
-        std::vector<Variant> target{objectFrom(component.make("lmListView").as<IDispatch>().get())};
+        std::vector<Variant> target{win32::objectFrom(component.make("lmListView").as<IDispatch>().get())};
         EXPECT_THROW(host.object()->call(u"Use", target), RuntimeError);
         EXPECT_EQ(host.failures().size(), 1U);
     }

@@ -70,7 +70,7 @@ Variant ScriptConsole::call(StringView name, std::span<Variant> arguments) {
     if (sameName(name, u"ConnectObject")) {
         if (arguments.size() != 2)
             throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
-        const ComRef<IDispatch> control = toIDispatch(arguments[0].toObject());
+        const win32::ComRef<IDispatch> control = win32::toIDispatch(arguments[0].toObject());
         connections_.push_back(
             std::make_unique<ScriptEvents>(control.get(), host_.dispatch(), arguments[1].toText()));
         return {};

@@ -20,7 +20,7 @@ class ScriptArgument {
   public:
     explicit ScriptArgument(VARIANT& given) : given_(given) {
         if (V_ISBYREF(&given))
-            demand(VariantCopyInd(held_.out(), &given));
+            win32::demand(VariantCopyInd(held_.out(), &given));
     }
 
     VARIANT passed() {
@@ -63,18 +63,18 @@ class ScriptArgument {
 
   private:
     VARIANT& given_;
-    OwnedVARIANT held_;
+    win32::OwnedVARIANT held_;
 };
 
 } // namespace
 
-ScriptEvents::ScriptEvents(IUnknown* control, ComRef<IDispatch> script, String prefix)
+ScriptEvents::ScriptEvents(IUnknown* control, win32::ComRef<IDispatch> script, String prefix)
     : script_(std::move(script)), prefix_(std::move(prefix)) {
     readNames(control);
-    const auto points = queryFor<IConnectionPointContainer>(control);
-    demand(points ? S_OK : E_NOINTERFACE);
-    demand(points->FindConnectionPoint(source_, point_.out()));
-    demand(point_->Advise(this, &cookie_));
+    const auto points = win32::queryFor<IConnectionPointContainer>(control);
+    win32::demand(points ? S_OK : E_NOINTERFACE);
+    win32::demand(points->FindConnectionPoint(source_, point_.out()));
+    win32::demand(point_->Advise(this, &cookie_));
 }
 
 ScriptEvents::~ScriptEvents() {
@@ -83,29 +83,29 @@ ScriptEvents::~ScriptEvents() {
 
 /// The library of the control's class tells the number of each event.
 void ScriptEvents::readNames(IUnknown* control) {
-    const auto info = queryFor<IProvideClassInfo2>(control);
-    demand(info ? S_OK : E_NOINTERFACE);
-    demand(info->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &source_));
-    ComRef<ITypeInfo> classInfo;
-    demand(info->GetClassInfo(classInfo.out()));
-    ComRef<ITypeLib> library;
+    const auto info = win32::queryFor<IProvideClassInfo2>(control);
+    win32::demand(info ? S_OK : E_NOINTERFACE);
+    win32::demand(info->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &source_));
+    win32::ComRef<ITypeInfo> classInfo;
+    win32::demand(info->GetClassInfo(classInfo.out()));
+    win32::ComRef<ITypeLib> library;
     UINT index = 0;
-    demand(classInfo->GetContainingTypeLib(library.out(), &index));
-    ComRef<ITypeInfo> events;
-    demand(library->GetTypeInfoOfGuid(source_, events.out()));
+    win32::demand(classInfo->GetContainingTypeLib(library.out(), &index));
+    win32::ComRef<ITypeInfo> events;
+    win32::demand(library->GetTypeInfoOfGuid(source_, events.out()));
     TYPEATTR* attributes = nullptr;
-    demand(events->GetTypeAttr(&attributes));
+    win32::demand(events->GetTypeAttr(&attributes));
     const UINT count = attributes->cFuncs;
     events->ReleaseTypeAttr(attributes);
     for (UINT i = 0; i < count; ++i) {
         FUNCDESC* function = nullptr;
-        demand(events->GetFuncDesc(i, &function));
+        win32::demand(events->GetFuncDesc(i, &function));
         const DISPID number = function->memid;
         events->ReleaseFuncDesc(function);
         BSTR name = nullptr;
         UINT found = 0;
-        demand(events->GetNames(number, &name, 1, &found));
-        names_.emplace(number, String(viewBSTR(name)));
+        win32::demand(events->GetNames(number, &name, 1, &found));
+        names_.emplace(number, String(win32::viewBSTR(name)));
         SysFreeString(name);
     }
 }
@@ -147,7 +147,7 @@ HRESULT ScriptEvents::Invoke(DISPID number,
     if (event == names_.end())
         return DISP_E_MEMBERNOTFOUND;
     const String function = prefix_ + event->second;
-    auto* name = const_cast<wchar_t*>(wide(function));
+    auto* name = const_cast<wchar_t*>(win32::wide(function));
     DISPID id = DISPID_UNKNOWN;
     if (FAILED(script_->GetIDsOfNames(IID_NULL, &name, 1, locale, &id)))
         return S_OK;
@@ -156,8 +156,8 @@ HRESULT ScriptEvents::Invoke(DISPID number,
     for (UINT i = 0; i < parameters->cArgs; ++i)
         passed.push_back(arguments.emplace_back(parameters->rgvarg[i]).passed());
     DISPPARAMS forScript{passed.data(), nullptr, static_cast<UINT>(passed.size()), 0};
-    CallDetails details;
-    OwnedVARIANT result;
+    win32::CallDetails details;
+    win32::OwnedVARIANT result;
     // The host has noted a failure already.
     script_->Invoke(id, IID_NULL, locale, DISPATCH_METHOD, &forScript, result.out(), details.out(), nullptr);
     for (ScriptArgument& argument : arguments)

@@ -20,7 +20,7 @@ class ScriptEvents final : public IDispatch {
   public:
     /// `control` raises the events of its class's default source; `script` has the functions. Throws
     /// RuntimeError for an object that raises none.
-    ScriptEvents(IUnknown* control, ComRef<IDispatch> script, String prefix);
+    ScriptEvents(IUnknown* control, win32::ComRef<IDispatch> script, String prefix);
     ScriptEvents(const ScriptEvents&) = delete;
     ScriptEvents& operator=(const ScriptEvents&) = delete;
     /// Disconnects. The object must not be held by anyone else then.
@@ -47,9 +47,9 @@ class ScriptEvents final : public IDispatch {
 
     GUID source_{};
     std::map<DISPID, String> names_;
-    ComRef<IDispatch> script_;
+    win32::ComRef<IDispatch> script_;
     String prefix_;
-    ComRef<IConnectionPoint> point_;
+    win32::ComRef<IConnectionPoint> point_;
     DWORD cookie_ = 0;
     ULONG references_ = 1;
 };

@@ -20,14 +20,14 @@ const wchar_t* programIdOf(ScriptLanguage language) {
 }
 
 ScriptFailure failureFrom(IActiveScriptError& error) {
-    CallDetails details;
+    win32::CallDetails details;
     DWORD context = 0;
     ULONG line = 0;
     LONG column = 0;
     error.GetExceptionInfo(details.out());
     error.GetSourcePosition(&context, &line, &column);
-    const Long number = numberOfResult(details.get().scode);
-    String text(viewBSTR(details.get().bstrDescription));
+    const Long number = win32::numberOfResult(details.get().scode);
+    String text(win32::viewBSTR(details.get().bstrDescription));
     // Engines leave the text out where a call was refused.
     if (text.empty())
         text = errorDescription(number);
@@ -62,10 +62,10 @@ class ScriptHost::Site final : public IActiveScriptSite {
                                           ITypeInfo** type) override {
         if (type != nullptr)
             *type = nullptr;
-        const auto found = items.find(String(textOf(name)));
+        const auto found = items.find(String(win32::textOf(name)));
         if (found == items.end() || (what & SCRIPTINFO_IUNKNOWN) == 0)
             return TYPE_E_ELEMENTNOTFOUND;
-        *object = ComRef<IDispatch>(found->second).detach();
+        *object = win32::ComRef<IDispatch>(found->second).detach();
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetDocVersionString(BSTR* /*version*/) override { return E_NOTIMPL; }
@@ -81,21 +81,21 @@ class ScriptHost::Site final : public IActiveScriptSite {
     HRESULT STDMETHODCALLTYPE OnEnterScript() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnLeaveScript() override { return S_OK; }
 
-    std::map<String, ComRef<IDispatch>> items;
+    std::map<String, win32::ComRef<IDispatch>> items;
     std::vector<ScriptFailure> failures;
 };
 
 ScriptHost::ScriptHost(ScriptLanguage language) : site_(std::make_unique<Site>()) {
-    demand(CoInitialize(nullptr));
+    win32::demand(CoInitialize(nullptr));
     CLSID classId{};
-    demand(CLSIDFromProgID(programIdOf(language), &classId));
+    win32::demand(CLSIDFromProgID(programIdOf(language), &classId));
     void* made = nullptr;
-    demand(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IActiveScript), &made));
-    script_ = ComRef<IActiveScript>::adopting(static_cast<IActiveScript*>(made));
+    win32::demand(CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IActiveScript), &made));
+    script_ = win32::ComRef<IActiveScript>::adopting(static_cast<IActiveScript*>(made));
     parse_ = script_.as<IActiveScriptParse>();
-    demand(parse_->InitNew());
-    demand(script_->SetScriptSite(site_.get()));
-    demand(script_->SetScriptState(SCRIPTSTATE_STARTED));
+    win32::demand(parse_->InitNew());
+    win32::demand(script_->SetScriptSite(site_.get()));
+    win32::demand(script_->SetScriptState(SCRIPTSTATE_STARTED));
 }
 
 ScriptHost::~ScriptHost() {
@@ -107,34 +107,34 @@ ScriptHost::~ScriptHost() {
 }
 
 void ScriptHost::add(StringView name, const ObjectRef& object) {
-    add(name, toIDispatch(object));
+    add(name, win32::toIDispatch(object));
 }
 
-void ScriptHost::add(StringView name, ComRef<IDispatch> object) {
+void ScriptHost::add(StringView name, win32::ComRef<IDispatch> object) {
     const String item(name);
     site_->items[item] = std::move(object);
-    demand(script_->AddNamedItem(wide(item), SCRIPTITEM_ISVISIBLE));
+    win32::demand(script_->AddNamedItem(win32::wide(item), SCRIPTITEM_ISVISIBLE));
 }
 
 void ScriptHost::run(StringView source) {
     site_->failures.clear();
-    CallDetails details;
+    win32::CallDetails details;
     const String text(source);
     const HRESULT result = parse_->ParseScriptText(
-        wide(text), nullptr, nullptr, nullptr, 0, 0, SCRIPTTEXT_ISVISIBLE, nullptr, details.out());
+        win32::wide(text), nullptr, nullptr, nullptr, 0, 0, SCRIPTTEXT_ISVISIBLE, nullptr, details.out());
     if (FAILED(result) && !site_->failures.empty())
         throw ScriptFailure(site_->failures.back());
-    demand(result);
+    win32::demand(result);
 }
 
-ComRef<IDispatch> ScriptHost::dispatch() const {
-    ComRef<IDispatch> dispatch;
-    demand(script_->GetScriptDispatch(nullptr, dispatch.out()));
+win32::ComRef<IDispatch> ScriptHost::dispatch() const {
+    win32::ComRef<IDispatch> dispatch;
+    win32::demand(script_->GetScriptDispatch(nullptr, dispatch.out()));
     return dispatch;
 }
 
 ObjectRef ScriptHost::object() const {
-    return objectFrom(dispatch().get());
+    return win32::objectFrom(dispatch().get());
 }
 
 const std::vector<ScriptFailure>& ScriptHost::failures() const {

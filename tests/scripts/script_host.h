@@ -40,7 +40,7 @@ class ScriptHost {
 
     /// Scripts know the object under this name from now on.
     void add(StringView name, const ObjectRef& object);
-    void add(StringView name, ComRef<IDispatch> object);
+    void add(StringView name, win32::ComRef<IDispatch> object);
 
     /// Runs what stands outside of functions. Throws ScriptFailure where that fails.
     void run(StringView source);
@@ -48,7 +48,7 @@ class ScriptHost {
     /// What scripts define at their outermost level. A failure inside of its functions is a RuntimeError with
     /// SCRIPT_E_REPORTED for the caller; `failures` has the rest.
     ObjectRef object() const;
-    ComRef<IDispatch> dispatch() const;
+    win32::ComRef<IDispatch> dispatch() const;
 
     /// Every failure since the last `run`: the one that ended it, and those of functions that objects called,
     /// which may have gone on.
@@ -57,8 +57,8 @@ class ScriptHost {
   private:
     class Site;
 
-    ComRef<IActiveScript> script_;
-    ComRef<IActiveScriptParse> parse_;
+    win32::ComRef<IActiveScript> script_;
+    win32::ComRef<IActiveScriptParse> parse_;
     std::unique_ptr<Site> site_;
 };
 

@@ -21,7 +21,7 @@ void PrintTo(const ScriptOutcome& outcome, std::ostream* stream) {
 }
 
 String windowsPath(const std::filesystem::path& path) {
-    return String(textOf(std::filesystem::path(path).make_preferred().c_str()));
+    return String(win32::textOf(std::filesystem::path(path).make_preferred().c_str()));
 }
 
 ScriptLanguage languageOf(const std::filesystem::path& script) {

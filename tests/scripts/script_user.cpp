@@ -17,14 +17,14 @@ HWND windowOf(const Variant& list, StringView property = u"hwnd") {
 
 /// As the languages' own `LoadPicture` does on systems whose languages have one.
 Variant loadPicture(const String& path) {
-    ComRef<IPictureDisp> picture;
-    demand(OleLoadPicturePath(const_cast<wchar_t*>(wide(path)),
-                              nullptr,
-                              0,
-                              0,
-                              IID_IPictureDisp,
-                              reinterpret_cast<void**>(picture.out())));
-    return pictureFrom(picture.get());
+    win32::ComRef<IPictureDisp> picture;
+    win32::demand(OleLoadPicturePath(const_cast<wchar_t*>(win32::wide(path)),
+                                     nullptr,
+                                     0,
+                                     0,
+                                     IID_IPictureDisp,
+                                     reinterpret_cast<void**>(picture.out())));
+    return win32::pictureFrom(picture.get());
 }
 
 void dispatchAll() {
@@ -87,9 +87,9 @@ void ScriptUser::show(const Variant& list) {
     close();
     container_ = std::make_unique<SmallContainer>();
     container_->ambients[DISPID_AMBIENT_USERMODE] = Variant(true);
-    shown_ = toIDispatch(list.toObject()).as<IOleObject>();
-    demand(shown_->SetClientSite(container_.get()));
-    demand(shown_->DoVerb(
+    shown_ = win32::toIDispatch(list.toObject()).as<IOleObject>();
+    win32::demand(shown_->SetClientSite(container_.get()));
+    win32::demand(shown_->DoVerb(
         OLEIVERB_UIACTIVATE, nullptr, container_.get(), 0, container_->window, &container_->place));
     dispatchAll();
 }

@@ -27,7 +27,7 @@ class ScriptUser final : public Object {
     void show(const Variant& list);
 
     std::unique_ptr<SmallContainer> container_;
-    ComRef<IOleObject> shown_;
+    win32::ComRef<IOleObject> shown_;
 };
 
 } // namespace lumtex::testing

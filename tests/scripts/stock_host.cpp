@@ -81,7 +81,7 @@ class OutputFile {
                                                static_cast<int>(bytes.size()),
                                                wideText.data(),
                                                static_cast<int>(wideText.size()));
-        std::string text = toUtf8(textOf(wideText.data(), static_cast<std::size_t>(length)));
+        std::string text = toUtf8(win32::textOf(wideText.data(), static_cast<std::size_t>(length)));
         std::erase(text, '\r');
         return text;
     }
@@ -123,7 +123,7 @@ ScriptOutcome runInStockHost(const fs::path& script, const std::vector<String>& 
     fs::path readable = script;
     if (const String text = scriptText(script); !isAscii(text)) {
         readable = folder.path / script.filename();
-        std::ofstream(readable, std::ios::binary) << ansiFrom(text);
+        std::ofstream(readable, std::ios::binary) << win32::ansiFrom(text);
     }
 
     String line =
@@ -139,7 +139,7 @@ ScriptOutcome runInStockHost(const fs::path& script, const std::vector<String>& 
     start.hStdError = output.handle();
     PROCESS_INFORMATION process{};
     if (CreateProcessW(nullptr,
-                       const_cast<wchar_t*>(wide(line)),
+                       const_cast<wchar_t*>(win32::wide(line)),
                        nullptr,
                        nullptr,
                        TRUE,

@@ -33,7 +33,7 @@ class GivingUpInAChange : public PaintedList {
 
     /// Presses the first arrow of a bar, the vertical one if none is named, and runs `body` while the
     /// `Change` of that step waits.
-    void duringChange(const std::function<void()>& body, ScrollBar* bar = nullptr) {
+    void duringChange(const std::function<void()>& body, bars::ScrollBar* bar = nullptr) {
         desktop.move((bar != nullptr ? bar : &inside.vertical())->window(), 8, 8);
         bool ran = false;
         desktop.onYield([&] {

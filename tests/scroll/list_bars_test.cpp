@@ -17,18 +17,18 @@ class ListBars : public ListFixture {
     }
 
     /// A point of the vertical bar, along it.
-    void moveOn(ScrollBar& bar, Single lengthwise) {
+    void moveOn(bars::ScrollBar& bar, Single lengthwise) {
         if (&bar == &inside.vertical())
             desktop.move(bar.window(), 8, lengthwise);
         else
             desktop.move(bar.window(), lengthwise, 8);
     }
-    void pressOn(ScrollBar& bar, Single lengthwise) {
+    void pressOn(bars::ScrollBar& bar, Single lengthwise) {
         moveOn(bar, lengthwise);
         desktop.press();
     }
-    lmVScroll& VS() { return inside.vertical(); }
-    lmHScroll& HS() { return inside.horizontal(); }
+    bars::lmVScroll& VS() { return inside.vertical(); }
+    bars::lmHScroll& HS() { return inside.horizontal(); }
     Lines take() { return std::exchange(events.log, {}); }
 };
 
@@ -75,10 +75,10 @@ TEST_F(ListBars, ATroughPressEndsWhenTheThumbArrives) {
     list.letTopIndex(45);
     pressOn(VS(), 40);
     desktop.advance(10000ms);
-    const ScrollThumb& thumb = ScrollInspector::thumb(VS());
+    const bars::ScrollThumb& thumb = bars::ScrollInspector::thumb(VS());
     EXPECT_LE(thumb.window().Top(), 40);
     EXPECT_GT(list.TopIndex(), 0);
-    EXPECT_FALSE(ScrollInspector::pressActive(VS()));
+    EXPECT_FALSE(bars::ScrollInspector::pressActive(VS()));
     EXPECT_EQ(take(), Lines{});
 }
 

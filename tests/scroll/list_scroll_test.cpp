@@ -17,7 +17,8 @@ TEST_F(ListScroll, WithoutColumnsBothBarsAreHiddenAndAtZero) {
     addRows(3);
     inside.clearColumns();
     list.CheckScroll();
-    for (ScrollBar* bar : std::initializer_list<ScrollBar*>{&inside.vertical(), &inside.horizontal()}) {
+    for (bars::ScrollBar* bar :
+         std::initializer_list<bars::ScrollBar*>{&inside.vertical(), &inside.horizontal()}) {
         EXPECT_FALSE(bar->Visible());
         EXPECT_EQ(bar->Max(), 0);
         EXPECT_EQ(bar->Value(), 0);
@@ -198,13 +199,13 @@ TEST_F(ListScroll, ABarThatComesBackHasAThumbOfItsLength) {
     addColumns({50});
     addRows(9);
     ASSERT_TRUE(inside.vertical().Visible());
-    const Single length = ScrollInspector::thumb(inside.vertical()).window().Height();
+    const Single length = bars::ScrollInspector::thumb(inside.vertical()).window().Height();
     EXPECT_EQ(length, 198 - 2 - 34) << "9 rows, 7 of which fit";
     list.window().place(100, 100, 300, 400);
     list.CheckScroll();
     list.window().place(100, 100, 300, 200);
     list.CheckScroll();
-    EXPECT_EQ(ScrollInspector::thumb(inside.vertical()).window().Height(), length);
+    EXPECT_EQ(bars::ScrollInspector::thumb(inside.vertical()).window().Height(), length);
 }
 
 TEST_F(ListScroll, TheEmptyColumnFieldAddsToTheRange) {

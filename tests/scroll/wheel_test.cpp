@@ -10,13 +10,13 @@ class WheelReceiver : public ::testing::Test {
     bool turn(Long delta, WindowHandle window = 7) { return wheel.WndProc(window, delta, 3, 40, 50); }
     Lines take() { return std::exchange(log, {}); }
 
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     Lines log;
-    Wheel wheel{desktop.runtime(), [this](Integer& Rotation, Integer& Keys, Single& X, Single& Y) {
-                    log.push_back(std::to_string(Rotation) + " " + std::to_string(Keys) + " " +
-                                  std::to_string(static_cast<int>(X)) + "," +
-                                  std::to_string(static_cast<int>(Y)));
-                }};
+    bars::Wheel wheel{desktop.runtime(), [this](Integer& Rotation, Integer& Keys, Single& X, Single& Y) {
+                          log.push_back(std::to_string(Rotation) + " " + std::to_string(Keys) + " " +
+                                        std::to_string(static_cast<int>(X)) + "," +
+                                        std::to_string(static_cast<int>(Y)));
+                      }};
 };
 
 TEST_F(WheelReceiver, TakesTheMessagesOfItsWindowAloneOnceEnabled) {
@@ -370,7 +370,7 @@ class WheelOfAParent : public ::testing::Test, public UserControl {
     }
 
     int passedOn = 0;
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     TestHost host;
     RecordingEvents events;
     std::unique_ptr<Window> form = [this] {

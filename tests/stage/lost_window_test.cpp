@@ -62,7 +62,7 @@ TEST(LostWindow, InAnyEventLeavesAListThatAnswers) {
             lmListView& list = stage->list();
             bool destroyed = false;
             stage->onEvent(event, [&] {
-                destroyed = destroyed || DestroyWindow(toHWND(list.window().hWnd())) != FALSE;
+                destroyed = destroyed || DestroyWindow(win32::toHWND(list.window().hWnd())) != FALSE;
             });
             const Played played = play(script, *stage);
             EXPECT_TRUE(destroyed) << event;

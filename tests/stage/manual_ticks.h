@@ -14,7 +14,7 @@
 namespace lumtex::testing {
 
 /// Posts the ticks as the messages that they are. Keeps a timer's rhythm from the moment it was started.
-class ManualTicks final : public TickSource {
+class ManualTicks final : public win32::TickSource {
   public:
     using Span = std::chrono::milliseconds;
 

@@ -182,7 +182,7 @@ void UserInput::keyUp(Integer keyCode) {
 
 void UserInput::type(StringView text) {
     for (const char16_t unit : text) {
-        const KeyStroke stroke = keyStrokeOf(unit);
+        const headless::KeyStroke stroke = headless::keyStrokeOf(unit);
         const bool hasKey = stroke.keyCode != keys::packet;
         const SilentKeys held(stroke.shift);
         const WORD key = hasKey ? static_cast<WORD>(stroke.keyCode) : static_cast<WORD>(unit);

@@ -21,16 +21,16 @@ namespace lumtex::testing {
 namespace {
 
 /// The system's runtime, with boxes that are noted and dismissed, and host code in its yields.
-class StageRuntime final : public Win32Runtime {
+class StageRuntime final : public win32::Win32Runtime {
   public:
-    using Win32Runtime::Win32Runtime;
+    using win32::Win32Runtime::Win32Runtime;
 
     std::function<void(StringView)> onBox;
     std::deque<std::function<void()>> yields; ///< each runs once, the first one in the next yield
     int depth = 0;                            ///< yields and boxes that are under way
 
     void DoEvents() override {
-        const NestingLevel level(depth);
+        const worlds::NestingLevel level(depth);
         if (!yields.empty()) {
             const std::function<void()> body = std::move(yields.front());
             yields.pop_front();
@@ -38,17 +38,19 @@ class StageRuntime final : public Win32Runtime {
         }
         deliver();
     }
-    bool hasPendingEvents() const override { return !yields.empty() || Win32Runtime::hasPendingEvents(); }
+    bool hasPendingEvents() const override {
+        return !yields.empty() || win32::Win32Runtime::hasPendingEvents();
+    }
     void messageBox(StringView text, BoxStyle /*style*/, StringView /*title*/) override {
-        const NestingLevel level(depth);
+        const worlds::NestingLevel level(depth);
         onBox(text);
         deliver();
     }
     /// Lets all messages through, outside of any yield.
     void deliver() {
         do
-            Win32Runtime::DoEvents();
-        while (Win32Runtime::hasPendingEvents());
+            win32::Win32Runtime::DoEvents();
+        while (win32::Win32Runtime::hasPendingEvents());
     }
 };
 
@@ -86,7 +88,7 @@ class WindowsStage final : public Stage {
     }
     void move(Single x, Single y, Integer shift) override {
         POINT to{roundToLong(x), roundToLong(y)};
-        ClientToScreen(toHWND(list_.window().hWnd()), &to);
+        ClientToScreen(win32::toHWND(list_.window().hWnd()), &to);
         input_.move(to, shift);
     }
     void press(MouseButton button, Integer shift) override { input_.press(button, shift); }
@@ -116,9 +118,9 @@ class WindowsStage final : public Stage {
     void advance(std::chrono::milliseconds span) override {
         ticks_.advance(span, [this] { runtime_.deliver(); });
     }
-    Rect editorPlace() override { return areaOf(static_cast<Win32TextBox&>(inside_.anyEditor())); }
-    bool showsGuide() override { return static_cast<Win32GuideLine&>(inside_.anyGuide()).Visible(); }
-    Bitmap picture() override { return screenPicture(toHWND(list_.window().hWnd())); }
+    Rect editorPlace() override { return areaOf(static_cast<win32::Win32TextBox&>(inside_.anyEditor())); }
+    bool showsGuide() override { return static_cast<win32::Win32GuideLine&>(inside_.anyGuide()).Visible(); }
+    Bitmap picture() override { return screenPicture(win32::toHWND(list_.window().hWnd())); }
 
   private:
     /// One for all stages, because it takes the system long to show one.
@@ -131,7 +133,7 @@ class WindowsStage final : public Stage {
 
     StageRuntime runtime_{GetModuleHandleW(nullptr)};
     ManualTicks ticks_;
-    Win32World world_{GetModuleHandleW(nullptr), programWindow(), &runtime_, ticks_};
+    win32::Win32World world_{GetModuleHandleW(nullptr), programWindow(), &runtime_, ticks_};
     UserInput input_{[this] { runtime_.deliver(); }};
     TestHost host_;
     RecordingEvents events_;

@@ -19,19 +19,19 @@ void demandWritten(HRESULT result) {
 
 void writePng(const Bitmap& picture, const std::filesystem::path& file) {
     std::filesystem::create_directories(file.parent_path());
-    ComRef<IWICImagingFactory> factory;
+    win32::ComRef<IWICImagingFactory> factory;
     demandWritten(CoCreateInstance(CLSID_WICImagingFactory,
                                    nullptr,
                                    CLSCTX_INPROC_SERVER,
                                    IID_IWICImagingFactory,
                                    reinterpret_cast<void**>(factory.out())));
-    ComRef<IWICStream> stream;
+    win32::ComRef<IWICStream> stream;
     demandWritten(factory->CreateStream(stream.out()));
     demandWritten(stream->InitializeFromFilename(file.c_str(), GENERIC_WRITE));
-    ComRef<IWICBitmapEncoder> encoder;
+    win32::ComRef<IWICBitmapEncoder> encoder;
     demandWritten(factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.out()));
     demandWritten(encoder->Initialize(stream.get(), WICBitmapEncoderNoCache));
-    ComRef<IWICBitmapFrameEncode> frame;
+    win32::ComRef<IWICBitmapFrameEncode> frame;
     demandWritten(encoder->CreateNewFrame(frame.out(), nullptr));
     demandWritten(frame->Initialize(nullptr));
     const auto width = static_cast<UINT>(picture.width);

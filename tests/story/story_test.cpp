@@ -42,12 +42,12 @@ class Story : public ListFixture {
     Story() {
         silence(false);
         container.place = {20, 20, 480, 380};
-        demand(object->SetClientSite(&container));
-        demand(control.as<IPersistPropertyBag>()->Load(&settings, nullptr));
-        demand(
+        win32::demand(object->SetClientSite(&container));
+        win32::demand(control.as<IPersistPropertyBag>()->Load(&settings, nullptr));
+        win32::demand(
             object->DoVerb(OLEIVERB_UIACTIVATE, nullptr, &container, 0, container.window, &container.place));
-        demand(point->Advise(&sink, &cookie));
-        demand(control.as<IOleWindow>()->GetWindow(&list));
+        win32::demand(point->Advise(&sink, &cookie));
+        win32::demand(control.as<IOleWindow>()->GetWindow(&list));
     }
     ~Story() override {
         point->Unadvise(cookie);
@@ -212,8 +212,8 @@ class Story : public ListFixture {
     SmallContainer container;
     MapBag settings;
     EventSink sink;
-    ComRef<IOleObject> object = control.as<IOleObject>();
-    ComRef<IConnectionPoint> point = eventPointOf(control);
+    win32::ComRef<IOleObject> object = control.as<IOleObject>();
+    win32::ComRef<IConnectionPoint> point = eventPointOf(control);
     DWORD cookie = 0;
     HWND list = nullptr;
     UserInput hands{[this] { letMessagesThrough(container.active); }};

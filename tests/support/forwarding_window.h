@@ -14,7 +14,7 @@ class ForwardingWindow : public Window {
   public:
     explicit ForwardingWindow(std::unique_ptr<Window> inner) : inner_(std::move(inner)) {}
 
-    HeadlessWindow& inner() { return static_cast<HeadlessWindow&>(*inner_); }
+    headless::HeadlessWindow& inner() { return static_cast<headless::HeadlessWindow&>(*inner_); }
 
     WindowHandle hWnd() const override { return inner_->hWnd(); }
     Surface& surface() override { return inner_->surface(); }

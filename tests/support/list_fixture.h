@@ -23,8 +23,8 @@ class ListFixture : public ::testing::Test {
         inside.makeIdle();
     }
 
-    HeadlessWindow& window() { return static_cast<HeadlessWindow&>(list.window()); }
-    RasterSurface& surface() { return window().surface(); }
+    headless::HeadlessWindow& window() { return static_cast<headless::HeadlessWindow&>(list.window()); }
+    raster::RasterSurface& surface() { return window().surface(); }
 
     /// 0xRRGGBB of one pixel of the list's own surface.
     std::uint32_t pixel(Long x, Long y) {
@@ -58,7 +58,7 @@ class ListFixture : public ::testing::Test {
                text.substr(procedure, text.find('\r', procedure) - procedure);
     }
 
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     TestHost host;
     RecordingEvents events;
     lmListView list{desktop, host, events};

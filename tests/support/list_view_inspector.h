@@ -188,16 +188,16 @@ class ListViewInspector {
     Properties& properties() { return core().properties; }
     RowArray& rows() { return core().records.rows_; }
     std::vector<std::unique_ptr<ColumnHeader>>& columns() { return core().records.columns_; }
-    lmVScroll& vertical() { return core().scroller->vertical(); }
-    lmHScroll& horizontal() { return core().scroller->horizontal(); }
+    bars::lmVScroll& vertical() { return core().scroller->vertical(); }
+    bars::lmHScroll& horizontal() { return core().scroller->horizontal(); }
     TextBox& anyEditor() { return *core().editor->txtEdit_; }
     GuideLine& anyGuide() { return *core().headerGesture->Line1_; }
     /// Of a list on a Desktop.
-    HeadlessTextBox& editor() { return static_cast<HeadlessTextBox&>(anyEditor()); }
-    HeadlessGuideLine& guide() { return static_cast<HeadlessGuideLine&>(anyGuide()); }
+    headless::HeadlessTextBox& editor() { return static_cast<headless::HeadlessTextBox&>(anyEditor()); }
+    headless::HeadlessGuideLine& guide() { return static_cast<headless::HeadlessGuideLine&>(anyGuide()); }
     Timer& mouseInTimer() { return *core().mouse->tmrMouseIn_; }
     Timer& mouseActionTimer() { return *core().mouse->tmrMouseAction_; }
-    const ListViewArtwork& artwork() { return core().painting->artwork(); }
+    const drawing::ListViewArtwork& artwork() { return core().painting->artwork(); }
     const ControlLife& life() { return core().life(); }
     bool hasTips() { return core().mouse->tips_ != nullptr; }
     Single firstColumnX() { return core().painting->firstColumnX(); }

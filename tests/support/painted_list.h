@@ -47,7 +47,7 @@ class PaintedList : public ::testing::Test {
         return drawn().lines(prefix);
     }
     std::uint32_t pixel(Long x, Long y) {
-        RasterSurface& surface = window().inner().surface();
+        raster::RasterSurface& surface = window().inner().surface();
         return surface.pixels()[static_cast<std::size_t>(y * surface.scaleWidth() + x)] & 0xFFFFFFU;
     }
     /// The mouse rests at a point of the surface.
@@ -59,7 +59,7 @@ class PaintedList : public ::testing::Test {
         return std::make_shared<BitmapPicture>(Bitmap(width, height, color));
     }
 
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     RecordingWorld world{desktop};
     TestHost host;
     RecordingEvents events;

@@ -59,7 +59,7 @@ Bitmap sideBySide(const Bitmap& actual, const Bitmap& expected) {
 
 void save(const Bitmap& bitmap, const fs::path& file) {
     fs::create_directories(file.parent_path());
-    savePng(bitmap, file);
+    pictures::savePng(bitmap, file);
 }
 
 std::string placeOf(const SourcePlace& where) {
@@ -103,7 +103,7 @@ PictureFolders usualPictureFolders() {
         return ::testing::AssertionFailure()
                << "there is no reference " << reference << "; the picture is in " << failure << advice;
     }
-    const PictureRef expected = loadPicture(reference);
+    const PictureRef expected = pictures::loadPicture(reference);
     if (expected->bitmap() == actual) {
         fs::remove(failure, unreadable);
         return ::testing::AssertionSuccess();

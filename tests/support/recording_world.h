@@ -40,7 +40,7 @@ class RecordingWindow final : public ForwardingWindow {
 
 class RecordingWorld final : public World {
   public:
-    explicit RecordingWorld(Desktop& desktop) : desktop_(desktop) {}
+    explicit RecordingWorld(headless::Desktop& desktop) : desktop_(desktop) {}
 
     Runtime& runtime() override { return desktop_.runtime(); }
     TipPlatform& tips() override { return desktop_.tips(); }
@@ -86,7 +86,7 @@ class RecordingWorld final : public World {
         return window != nullptr ? &static_cast<RecordingWindow*>(window)->inner() : nullptr;
     }
 
-    Desktop& desktop_;
+    headless::Desktop& desktop_;
 };
 
 } // namespace lumtex::testing

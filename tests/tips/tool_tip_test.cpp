@@ -35,7 +35,7 @@ class ToolTip : public ::testing::Test, private TextBoxClient {
     std::string number(Long value) const { return std::to_string(value); }
     std::string owner() const { return number(formWindow->hWnd()); }
     /// With its window, and nothing recorded yet.
-    lmToolTip& created() {
+    tips::lmToolTip& created() {
         EXPECT_TRUE(tips.Create(form));
         platform.log.clear();
         return tips;
@@ -44,7 +44,7 @@ class ToolTip : public ::testing::Test, private TextBoxClient {
     void textBoxKeyPress(Integer& /*KeyAscii*/) override {}
     void textBoxLostFocus() override {}
 
-    Desktop desktop{testFonts()};
+    headless::Desktop desktop{testFonts()};
     RecordingTips platform{desktop.tips()};
     Plain client;
     std::unique_ptr<Window> formWindow = desktop.createWindow(nullptr, client);
@@ -52,7 +52,7 @@ class ToolTip : public ::testing::Test, private TextBoxClient {
     std::shared_ptr<TestObject> form = std::make_shared<TestObject>();
     std::shared_ptr<TestObject> first;
     std::shared_ptr<TestObject> second;
-    lmToolTip tips{desktop.runtime(), platform};
+    tips::lmToolTip tips{desktop.runtime(), platform};
 };
 
 TEST_F(ToolTip, CreateMakesATipWindowOwnedByTheParent) {
@@ -102,14 +102,14 @@ TEST_F(ToolTip, CreateIsFalseWhereThePlatformGivesNoWindow) {
 
 TEST_F(ToolTip, TheWindowGoesWithTheObject) {
     {
-        lmToolTip other(desktop.runtime(), platform);
+        tips::lmToolTip other(desktop.runtime(), platform);
         other.Create(form);
         EXPECT_EQ(desktop.tips().windows().size(), 1U);
     }
     EXPECT_EQ(platform.log.back(), "destroy");
     EXPECT_EQ(desktop.tips().windows().size(), 0U);
     platform.log.clear();
-    { const lmToolTip never(desktop.runtime(), platform); }
+    { const tips::lmToolTip never(desktop.runtime(), platform); }
     EXPECT_TRUE(platform.log.empty());
 }
 
@@ -312,9 +312,9 @@ TEST_F(ToolTip, AControlWithoutAWindowIsAQuietNoOp) {
 class QiTest : public ToolTip {
   protected:
     /// The one tip window that there is.
-    const HeadlessTipWindow& tipWindow() { return *desktop.tips().windows().at(0); }
+    const headless::HeadlessTipWindow& tipWindow() { return *desktop.tips().windows().at(0); }
 
-    QI qi{desktop};
+    tips::QI qi{desktop};
 };
 
 TEST_F(QiTest, CreateMakesTheTipWithWidthDelayAndText) {

@@ -21,7 +21,7 @@ inline String textOfBox(HWND box) {
         child = FindWindowExW(box, child, L"STATIC", nullptr);
         if (child == nullptr)
             break;
-        length = GetWindowTextW(child, wide(text.data()), static_cast<int>(text.size()));
+        length = GetWindowTextW(child, win32::wide(text.data()), static_cast<int>(text.size()));
     }
     text.resize(static_cast<std::size_t>(length));
     return text;
@@ -29,7 +29,7 @@ inline String textOfBox(HWND box) {
 
 inline bool isMessageBox(HWND window) {
     wchar_t className[8] = L"";
-    return GetClassNameW(window, className, 8) != 0 && textOf(className) == u"#32770";
+    return GetClassNameW(window, className, 8) != 0 && win32::textOf(className) == u"#32770";
 }
 
 /// While one lives, a message box of this thread is dismissed as soon as it shows: it would wait for ever.

@@ -13,7 +13,7 @@ namespace lumtex::raster {
 struct FontLibrary::Implementation {};
 
 struct Typeface::Implementation {
-    explicit Implementation(const FontSpec& spec) : font(gdiFont(spec, 96)) {
+    explicit Implementation(const FontSpec& spec) : font(win32::gdiFont(spec, 96)) {
         former = SelectObject(sheet.dc(), font->handle());
         TEXTMETRICW metrics{};
         GetTextMetricsW(sheet.dc(), &metrics);
@@ -50,8 +50,8 @@ struct Typeface::Implementation {
 
     static constexpr Long margin = 8; ///< for what letters reach beyond their room, in pixels
 
-    std::shared_ptr<const GdiFont> font;
-    MemoryBitmap sheet{256, 256};
+    std::shared_ptr<const win32::GdiFont> font;
+    win32::MemoryBitmap sheet{256, 256};
     HGDIOBJ former = nullptr;
     Long ascent = 0;
     Long lineHeight = 0;

@@ -3,13 +3,13 @@
 #include "picture_check.h"
 #include "worlds/win32/ole_picture.h"
 
-namespace lumtex {
+namespace lumtex::pictures {
 
 PictureRef pictureOfImage(std::span<const Byte> image) {
-    return loadOlePicture(image);
+    return win32::loadOlePicture(image);
 }
 
-} // namespace lumtex
+} // namespace lumtex::pictures
 
 namespace lumtex::testing {
 

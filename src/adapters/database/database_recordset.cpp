@@ -8,7 +8,7 @@
 #include <limits>
 #include <optional>
 
-namespace lumtex {
+namespace lumtex::database {
 
 namespace {
 
@@ -183,4 +183,4 @@ ObjectRef openRecordset(const std::string& database, const std::string& sql) {
                                                                   : openSqliteQuery(database, sql));
 }
 
-} // namespace lumtex
+} // namespace lumtex::database

@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace lumtex {
+namespace lumtex::database {
 
 /// What a recordset reports besides the failures of its database, under the numbers that programs know from
 /// other recordsets.
@@ -31,4 +31,4 @@ constexpr Long noSuchField = 3265;
 /// database's message, here and in the members.
 ObjectRef openRecordset(const std::string& database, const std::string& sql);
 
-} // namespace lumtex
+} // namespace lumtex::database

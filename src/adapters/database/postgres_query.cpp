@@ -10,7 +10,7 @@
 
 #include <libpq-fe.h>
 
-namespace lumtex {
+namespace lumtex::database {
 
 namespace {
 
@@ -252,4 +252,4 @@ std::unique_ptr<Query> openPostgresQuery(const std::string& address, const std::
     return std::make_unique<PostgresQuery>(address, sql);
 }
 
-} // namespace lumtex
+} // namespace lumtex::database

@@ -2,7 +2,7 @@
 
 #include "values/text.h"
 
-namespace lumtex {
+namespace lumtex::database {
 
 namespace {
 
@@ -36,4 +36,4 @@ std::string countingStatement(std::string_view sql) {
     return "select count(*) from (\n" + std::string(withoutEnd(sql)) + "\n) as counted";
 }
 
-} // namespace lumtex
+} // namespace lumtex::database

@@ -9,7 +9,7 @@
 #include <memory>
 #include <string>
 
-namespace lumtex {
+namespace lumtex::database {
 
 /// What each kind of database implements. Reads alone: a statement that would change something fails. Columns
 /// count from 0, and those below `columnCount` are asked for alone. Failures are thrown as
@@ -60,4 +60,4 @@ std::unique_ptr<Query> openSqliteQuery(const std::string& file, const std::strin
 /// A server of PostgreSQL, by an address such as "postgresql://user@host/name". The same.
 std::unique_ptr<Query> openPostgresQuery(const std::string& address, const std::string& sql);
 
-} // namespace lumtex
+} // namespace lumtex::database

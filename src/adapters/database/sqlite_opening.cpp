@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
-namespace lumtex {
+namespace lumtex::database {
 
 namespace {
 
@@ -124,4 +124,4 @@ SqliteConnection openSqliteForReading(const std::string& file) {
     return database;
 }
 
-} // namespace lumtex
+} // namespace lumtex::database

@@ -9,7 +9,7 @@
 
 #include <sqlite3.h>
 
-namespace lumtex {
+namespace lumtex::database {
 
 struct SqliteCloser {
     void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
@@ -24,4 +24,4 @@ SqliteConnection openSqliteForReading(const std::string& file);
 /// What the last call failed with.
 RuntimeError sqliteFailure(sqlite3* database);
 
-} // namespace lumtex
+} // namespace lumtex::database

@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::database {
 
 namespace {
 
@@ -221,4 +221,4 @@ std::unique_ptr<Query> openSqliteQuery(const std::string& file, const std::strin
     return std::make_unique<SqliteQuery>(file, sql);
 }
 
-} // namespace lumtex
+} // namespace lumtex::database

@@ -2,7 +2,7 @@
 
 #include "values/runtime_error.h"
 
-namespace lumtex {
+namespace lumtex::json {
 
 namespace {
 
@@ -87,4 +87,4 @@ std::vector<JsonMember> membersOfObject(std::string_view text) {
     return std::move(reader.members);
 }
 
-} // namespace lumtex
+} // namespace lumtex::json

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::json {
 
 struct JsonMember {
     std::string name;
@@ -22,4 +22,4 @@ constexpr std::size_t deepestJson = 8;
 /// takes such a value apart would run out of stack.
 std::vector<JsonMember> membersOfObject(std::string_view text);
 
-} // namespace lumtex
+} // namespace lumtex::json

@@ -16,7 +16,7 @@
 
 #include <glib.h>
 
-namespace lumtex {
+namespace lumtex::json {
 
 namespace {
 
@@ -221,4 +221,4 @@ void JsonPropertyBag::WriteProperty(StringView name, const Variant& value, const
     found->known = true;
 }
 
-} // namespace lumtex
+} // namespace lumtex::json

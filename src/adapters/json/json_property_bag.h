@@ -8,7 +8,7 @@
 #include <memory>
 #include <string_view>
 
-namespace lumtex {
+namespace lumtex::json {
 
 /// Settings for programs that have no container to keep them: one JSON object with a member per property.
 ///
@@ -50,4 +50,4 @@ class JsonPropertyBag final : public PropertyBag {
     std::unique_ptr<Members> members_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::json

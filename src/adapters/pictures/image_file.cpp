@@ -5,7 +5,7 @@
 
 #include <memory>
 
-namespace lumtex {
+namespace lumtex::pictures {
 
 PictureRef loadPicture(const std::filesystem::path& file) {
     std::error_code failure;
@@ -50,4 +50,4 @@ void savePng(const Bitmap& bitmap, const std::filesystem::path& file) {
         throw RuntimeError(ErrorNumber::deviceError);
 }
 
-} // namespace lumtex
+} // namespace lumtex::pictures

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <span>
 
-namespace lumtex {
+namespace lumtex::pictures {
 
 /// BMP, GIF, JPEG, PNG, ICO and whatever else the picture library knows. Throws RuntimeError 53 if there
 /// is no such file, 481 if it holds no picture.
@@ -17,4 +17,4 @@ PictureRef loadPicture(std::span<const Byte> bytes);
 /// Throws RuntimeError 57 if the file cannot be written.
 void savePng(const Bitmap& bitmap, const std::filesystem::path& file);
 
-} // namespace lumtex
+} // namespace lumtex::pictures

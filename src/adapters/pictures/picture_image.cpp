@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-namespace lumtex {
+namespace lumtex::pictures {
 
 namespace {
 
@@ -74,4 +74,4 @@ PictureRef pictureOfImage(std::span<const Byte> image) {
     return std::make_shared<BitmapPicture>(bitmapOf(pixbuf), format.kind);
 }
 
-} // namespace lumtex
+} // namespace lumtex::pictures

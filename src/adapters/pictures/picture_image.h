@@ -6,10 +6,10 @@
 
 #include <span>
 
-namespace lumtex {
+namespace lumtex::pictures {
 
 /// Reads bitmap, icon and cursor files, of an icon file its best picture; the last two give icons. Throws
 /// RuntimeError 481 for anything else, and for an image that declares more than eight pixels to a byte.
 PictureRef pictureOfImage(std::span<const Byte> image);
 
-} // namespace lumtex
+} // namespace lumtex::pictures

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-namespace lumtex {
+namespace lumtex::pictures {
 
 Bitmap bitmapOf(const GdkPixbuf* pixbuf) {
     Bitmap bitmap(gdk_pixbuf_get_width(pixbuf), gdk_pixbuf_get_height(pixbuf));
@@ -23,4 +23,4 @@ Bitmap bitmapOf(const GdkPixbuf* pixbuf) {
     return bitmap;
 }
 
-} // namespace lumtex
+} // namespace lumtex::pictures

@@ -8,7 +8,7 @@
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
-namespace lumtex {
+namespace lumtex::pictures {
 
 struct UnrefObject {
     void operator()(void* object) const { g_object_unref(object); }
@@ -23,4 +23,4 @@ using ErrorHandle = std::unique_ptr<GError, FreeError>;
 /// The pixels, opaque if the picture has no alpha.
 Bitmap bitmapOf(const GdkPixbuf* pixbuf);
 
-} // namespace lumtex
+} // namespace lumtex::pictures

@@ -9,7 +9,7 @@
 #include <fstream>
 #include <string>
 
-namespace lumtex {
+namespace lumtex::worlds {
 
 namespace {
 
@@ -134,4 +134,4 @@ void MachineFiles::deleteFile(StringView path) {
         throw RuntimeError(ErrorNumber::pathFileAccess);
 }
 
-} // namespace lumtex
+} // namespace lumtex::worlds

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::worlds {
 
 /// Capture and keyboard; does the window take input after that?
 bool ClickSequence::begin(Target* target) {
@@ -41,4 +41,4 @@ void ClickSequence::release(Target* target, const Event& event, const std::funct
         target->click();
 }
 
-} // namespace lumtex
+} // namespace lumtex::worlds

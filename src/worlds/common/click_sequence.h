@@ -6,7 +6,7 @@
 
 #include <functional>
 
-namespace lumtex {
+namespace lumtex::worlds {
 
 /// The press that waits for its release to become a click.
 ///
@@ -70,4 +70,4 @@ class ClickSequence {
     Integer button_ = noButton;
 };
 
-} // namespace lumtex
+} // namespace lumtex::worlds

@@ -10,7 +10,7 @@
 #include <iterator>
 #include <string_view>
 
-namespace lumtex {
+namespace lumtex::worlds {
 
 namespace {
 
@@ -126,4 +126,4 @@ String MachineFiles::fullPathName(StringView file) const {
     return failure ? String() : fromUtf8(path.lexically_normal().string());
 }
 
-} // namespace lumtex
+} // namespace lumtex::worlds

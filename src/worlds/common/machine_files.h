@@ -6,7 +6,7 @@
 
 #include <memory>
 
-namespace lumtex {
+namespace lumtex::worlds {
 
 /// Texts are UTF-8 with line ends as given, and names differ by case if the machine's do.
 class MachineFiles : public Files {
@@ -27,4 +27,4 @@ class MachineFiles : public Files {
     Long lastSearch_ = 0;
 };
 
-} // namespace lumtex
+} // namespace lumtex::worlds

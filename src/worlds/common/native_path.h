@@ -6,7 +6,7 @@
 
 #include <filesystem>
 
-namespace lumtex {
+namespace lumtex::worlds {
 
 /// "\" becomes the machine's own separator.
 std::filesystem::path nativePath(StringView path);
@@ -14,4 +14,4 @@ std::filesystem::path nativePath(StringView path);
 /// Throws RuntimeError 76 if the folder of `file` does not exist.
 void demandFolderOf(const std::filesystem::path& file);
 
-} // namespace lumtex
+} // namespace lumtex::worlds

@@ -2,7 +2,7 @@
 /// How deep calls are nested.
 #pragma once
 
-namespace lumtex {
+namespace lumtex::worlds {
 
 /// Counts one level for as long as it lives, even if an exception ends it. `depth` must outlive it.
 class NestingLevel {
@@ -16,4 +16,4 @@ class NestingLevel {
     int& depth_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::worlds

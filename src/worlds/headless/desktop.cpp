@@ -5,7 +5,7 @@
 #include "worlds/headless/headless_text_box.h"
 #include "worlds/headless/headless_window.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 Desktop::Desktop(std::shared_ptr<raster::FontLibrary> fonts) : fonts_(std::move(fonts)), runtime_(*this) {
     tree_.onRemove = [this](const Pane& pane) {
@@ -68,7 +68,7 @@ void Desktop::refuseHugeSize(Long width, Long height) {
 
 std::unique_ptr<Surface> Desktop::createSurface(Long width, Long height) {
     refuseHugeSize(width, height);
-    return std::make_unique<RasterSurface>(width, height, fonts_);
+    return std::make_unique<raster::RasterSurface>(width, height, fonts_);
 }
 
 Window* Desktop::focus() const {
@@ -110,4 +110,4 @@ void Desktop::yield() {
     loop_.yield([this] { runYieldHook(); });
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

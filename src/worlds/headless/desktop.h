@@ -17,7 +17,7 @@
 #include <deque>
 #include <memory>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class HeadlessWindow;
 
@@ -177,4 +177,4 @@ class Desktop final : public World {
     std::deque<YieldHook> yieldHooks_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -2,7 +2,7 @@
 
 #include "worlds/common/nesting_level.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -26,7 +26,7 @@ void EventLoop::run() {
         return;
     if (runDepth_ == 0)
         budget_ = longestRun;
-    const NestingLevel level(runDepth_);
+    const worlds::NestingLevel level(runDepth_);
     while (budget_ > 0) {
         --budget_;
         if (!deliverOne()) {
@@ -39,7 +39,7 @@ void EventLoop::run() {
 void EventLoop::yield(const std::function<void()>& before) {
     if (yieldDepth_ == deepest)
         return;
-    const NestingLevel level(yieldDepth_);
+    const worlds::NestingLevel level(yieldDepth_);
     before();
     run();
 }
@@ -55,4 +55,4 @@ void EventLoop::advance(TimerClock::Span span) {
     clock_.moveTo(end);
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

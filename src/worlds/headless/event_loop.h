@@ -7,7 +7,7 @@
 #include <deque>
 #include <functional>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 /// Events come in the order in which they were posted, then paints, then timer ticks, as a window system
 /// ranks them.
@@ -49,4 +49,4 @@ class EventLoop {
     int yieldDepth_ = 0;
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

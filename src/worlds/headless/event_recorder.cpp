@@ -4,7 +4,7 @@
 #include "values/text.h"
 #include "worlds/headless/desktop.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -76,4 +76,4 @@ void EventRecorder::on(std::string_view name, std::function<void()> body) {
         bodies_.erase(found);
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

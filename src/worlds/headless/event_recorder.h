@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class Desktop;
 
@@ -55,4 +55,4 @@ class EventRecorder {
 /// "\r", "\n", "\"" and "\\" for what would break the line, and a word for what has no text.
 std::string logText(const Variant& value);
 
-} // namespace lumtex
+} // namespace lumtex::headless

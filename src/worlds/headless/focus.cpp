@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 void Focus::change(WindowHandle handle) {
     if (holder_ == handle)
@@ -50,4 +50,4 @@ void Focus::switchBack() {
         moveTo(*pane);
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -4,7 +4,7 @@
 
 #include "worlds/headless/window_tree.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 /// Both sides of a change hear of it before the call returns: first the one that lost the focus, then, if it
 /// still has it by then, the one that got it.
@@ -38,4 +38,4 @@ class Focus {
     WindowHandle before_ = 0; ///< who had it when the user went away
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

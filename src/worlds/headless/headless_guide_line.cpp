@@ -3,7 +3,7 @@
 #include "values/rounding.h"
 #include "values/runtime_error.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -33,4 +33,4 @@ Point HeadlessGuideLine::to() const {
     return {wholePixel(x_), wholePixel(height_)};
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

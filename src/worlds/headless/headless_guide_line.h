@@ -5,7 +5,7 @@
 #include "platform/guide_line.h"
 #include "worlds/headless/headless_window.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class HeadlessGuideLine final : public GuideLine {
   public:
@@ -31,4 +31,4 @@ class HeadlessGuideLine final : public GuideLine {
     bool visible_ = false;
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <filesystem>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -98,7 +98,7 @@ std::vector<Byte> HeadlessRuntime::imageOfPicture(const Picture& picture) const 
     return lumtex::imageOfPicture(picture);
 }
 PictureRef HeadlessRuntime::pictureOfImage(std::span<const Byte> image) const {
-    return lumtex::pictureOfImage(image);
+    return pictures::pictureOfImage(image);
 }
 
 bool HeadlessRuntime::wasPressed(MouseButton button) {
@@ -114,4 +114,4 @@ ObjectRef HeadlessRuntime::createObject(StringView programId) {
     return found->second();
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

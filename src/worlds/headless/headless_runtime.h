@@ -11,12 +11,12 @@
 #include <utility>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class Desktop;
 
 /// Files that note which searches were closed.
-class HeadlessFiles final : public MachineFiles {
+class HeadlessFiles final : public worlds::MachineFiles {
   public:
     void findClose(Long handle) override { closedSearches.push_back(handle); }
 
@@ -124,4 +124,4 @@ class HeadlessRuntime final : public Runtime,
     std::map<SettingOrder::Key, String, SettingOrder> settings_; ///< by key and name
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -179,4 +179,4 @@ Bitmap HeadlessTextBox::picture() const {
     return field->image();
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

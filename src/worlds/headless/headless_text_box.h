@@ -6,7 +6,7 @@
 #include "worlds/headless/desktop.h"
 #include "worlds/headless/pane.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 /// Places are rounded to whole pixels as those of windows are. The mouse sets the caret and drags a
 /// selection; Left, Right, Home, End (with Shift too), Delete and Backspace edit. The wheel goes to the
@@ -80,4 +80,4 @@ class HeadlessTextBox final : public TextBox, public Pane {
     std::size_t caret_ = 0;  ///< where it ends
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

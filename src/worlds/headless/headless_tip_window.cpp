@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -69,4 +69,4 @@ void HeadlessTipWindow::setDelay(TipDelay which, Long milliseconds) {
         delays_[static_cast<std::size_t>(which)] = milliseconds;
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -8,7 +8,7 @@
 #include <array>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class HeadlessTipWindow final : public TipWindow {
   public:
@@ -53,4 +53,4 @@ class HeadlessTipWindow final : public TipWindow {
     Long maxWidth_ = -1;
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

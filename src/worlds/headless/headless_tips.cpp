@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 bool HeadlessTips::isFormOrSurface(WindowHandle window) const {
     return dynamic_cast<const HeadlessWindow*>(tree_.find(window)) != nullptr;
@@ -30,4 +30,4 @@ std::optional<String> HeadlessTips::tipOf(WindowHandle window) const {
     return std::nullopt;
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class HeadlessTipWindow;
 
@@ -32,4 +32,4 @@ class HeadlessTips final : public TipPlatform {
     std::vector<HeadlessTipWindow*> windows_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

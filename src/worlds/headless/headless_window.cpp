@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -124,4 +124,4 @@ bool HeadlessWindow::wheel(Long rotation, Integer shift, Point at) {
     return client_.UserControl_Wheel(rotation, shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

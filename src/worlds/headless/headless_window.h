@@ -6,7 +6,7 @@
 #include "worlds/headless/desktop.h"
 #include "worlds/headless/pane.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class HeadlessGuideLine;
 
@@ -16,8 +16,8 @@ class HeadlessWindow final : public Window, public Pane {
     ~HeadlessWindow() override;
 
     WindowHandle hWnd() const override { return handle(); }
-    RasterSurface& surface() override { return surface_; }
-    const RasterSurface& surface() const { return surface_; }
+    raster::RasterSurface& surface() override { return surface_; }
+    const raster::RasterSurface& surface() const { return surface_; }
     Single Left() const override { return static_cast<Single>(area().Left); }
     Single Top() const override { return static_cast<Single>(area().Top); }
     Single Width() const override { return static_cast<Single>(surface_.scaleWidth()); }
@@ -73,7 +73,7 @@ class HeadlessWindow final : public Window, public Pane {
 
     Desktop& desktop_;
     UserControl& client_;
-    RasterSurface surface_;
+    raster::RasterSurface surface_;
     std::vector<HeadlessGuideLine*> guides_;
     bool paintWaits_ = false;
     Long oleDropMode_ = 0;
@@ -83,4 +83,4 @@ class HeadlessWindow final : public Window, public Pane {
     int painted_ = 0;
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

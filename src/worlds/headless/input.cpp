@@ -3,7 +3,7 @@
 #include "worlds/headless/desktop.h"
 #include "worlds/headless/headless_window.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -151,4 +151,4 @@ void Desktop::type(StringView text) {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

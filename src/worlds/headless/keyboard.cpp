@@ -1,6 +1,6 @@
 #include "worlds/headless/keyboard.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -89,4 +89,4 @@ KeyStroke keyStrokeOf(char16_t unit) {
     return {characterOf(code, 0) == code ? code : static_cast<Integer>(keys::packet), 0};
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -5,7 +5,7 @@
 #include "platform/keys.h"
 #include "worlds/headless/focus.h"
 
-namespace lumtex {
+namespace lumtex::headless {
 
 /// Keys go to the pane that has the focus when they are delivered, unless it takes no input.
 class Keyboard {
@@ -42,4 +42,4 @@ struct KeyStroke {
 /// `keys::packet` if no key of the basic block enters it.
 KeyStroke keyStrokeOf(char16_t unit);
 
-} // namespace lumtex
+} // namespace lumtex::headless

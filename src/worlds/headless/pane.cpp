@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -82,4 +82,4 @@ bool Pane::takesInput() const {
     return visible_ && enabled_ && (parent_ == nullptr || parent_->takesInput());
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

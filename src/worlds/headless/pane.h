@@ -8,7 +8,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class WindowTree;
 
@@ -84,4 +84,4 @@ class Pane {
     Rect area_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

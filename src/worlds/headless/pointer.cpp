@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class Pointer::Delivery {
   public:
@@ -21,7 +21,7 @@ class Pointer::Delivery {
     Integer outer_;
 };
 
-class Pointer::Target final : public ClickSequence::Target {
+class Pointer::Target final : public worlds::ClickSequence::Target {
   public:
     Target(Pointer& pointer, const Pane& pane) : pointer_(pointer), handle_(pane.handle()) {}
 
@@ -158,4 +158,4 @@ void Pointer::forget(const Pane& pane) {
         press_.forget();
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -8,7 +8,7 @@
 
 #include <functional>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 /// Who gets an event is decided when it is delivered, from the place where the pointer was when it happened.
 ///
@@ -17,7 +17,7 @@ namespace lumtex {
 class Pointer {
   public:
     /// Something that the mouse did, as it was at that time, in pixels of the desktop.
-    using Event = ClickSequence::Event;
+    using Event = worlds::ClickSequence::Event;
 
     Pointer(WindowTree& tree, Focus& focus) : tree_(tree), focus_(focus) {}
     Pointer(const Pointer&) = delete;
@@ -72,7 +72,7 @@ class Pointer {
     Integer shift_ = 0;               ///< of the event that is being delivered
     bool moveMadeUp_ = false;         ///< one waits
     WindowHandle captured_ = 0;
-    ClickSequence press_;
+    worlds::ClickSequence press_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

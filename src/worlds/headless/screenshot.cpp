@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -50,4 +50,4 @@ Bitmap Desktop::screenshot(const Window& window) const {
     return picture;
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

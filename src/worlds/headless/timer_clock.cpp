@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <tuple>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -96,4 +96,4 @@ void HeadlessTimer::tick() {
     handler();
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

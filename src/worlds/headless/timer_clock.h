@@ -9,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 class HeadlessTimer;
 
@@ -81,4 +81,4 @@ class HeadlessTimer final : public Timer {
     std::uint64_t arrival_ = 0;
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 namespace {
 
@@ -58,4 +58,4 @@ bool WindowTree::adopt(Pane& parent, Pane& child) {
     return true;
 }
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::headless {
 
 /// Does not own its panes; they enter and leave by themselves.
 class WindowTree {
@@ -45,4 +45,4 @@ class WindowTree {
     std::vector<Pane*> topLevel_; ///< lowest first
 };
 
-} // namespace lumtex
+} // namespace lumtex::headless

@@ -8,7 +8,7 @@
 #include <limits>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -91,4 +91,4 @@ String textFromAnsi(std::string_view text) {
     return units;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -4,11 +4,11 @@
 
 #include "values/types.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A character that the code page lacks becomes the system's substitute, mostly "?".
 std::string ansiFrom(StringView text);
 /// Never fails: bytes that mean nothing become what the system makes of them.
 String textFromAnsi(std::string_view text);
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <string>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -148,4 +148,4 @@ void Win32Files::deleteFile(StringView path) {
         throw RuntimeError(ErrorNumber::pathFileAccess);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -13,7 +13,7 @@
 
 #include <shellapi.h>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -163,4 +163,4 @@ ObjectRef carriedData(ComRef<IDataObject> data) {
     return std::make_shared<CarriedData>(std::move(data));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "values/references/object.h"
 #include "worlds/win32/com_ref.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// The data of a drag that another program or control started; it cannot be changed. Members, with the
 /// system's numbers of formats, also as negative 16-bit numbers:
@@ -17,4 +17,4 @@ namespace lumtex {
 ///   no files are dragged, 9 for an index outside.
 ObjectRef carriedData(ComRef<IDataObject> data);
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -1,6 +1,6 @@
 #include "worlds/win32/com_error.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -72,4 +72,4 @@ void demand(HRESULT result) {
         throw RuntimeError(numberOfResult(result));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "values/runtime_error.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// The number that a program knows a result by: the low half of the results that carry such a number, 438 for
 /// an unknown member, 13, 6, 450 and the like for refused arguments, else the result itself.
@@ -41,4 +41,4 @@ class CallDetails {
 /// Throws for a result that is a failure.
 void demand(HRESULT result);
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -6,7 +6,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 template <class T>
 class ComRef;
@@ -74,4 +74,4 @@ ComRef<U> queryFor(V* object) {
     return result;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

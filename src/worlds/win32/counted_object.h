@@ -7,7 +7,7 @@
 
 #include <atomic>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Starts with one reference, the caller's, and ends with the last. Keeps the module in memory meanwhile.
 template <class Interface>
@@ -43,4 +43,4 @@ class CountedObject : public Interface {
     ModuleLock lock_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

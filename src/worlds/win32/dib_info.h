@@ -5,7 +5,7 @@
 #include "values/types.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Uncompressed, without a palette. Rows run from the lowest; a negative height says from the top.
 inline BITMAPINFO dibInfo(Long width, Long height, WORD bitsPerPixel) {
@@ -19,4 +19,4 @@ inline BITMAPINFO dibInfo(Long width, Long height, WORD bitsPerPixel) {
     return info;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

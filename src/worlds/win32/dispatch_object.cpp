@@ -10,7 +10,7 @@
 
 #include <dispex.h>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -152,4 +152,4 @@ ObjectRef objectFrom(IDispatch* dispatch) {
     return std::make_shared<DispatchObject>(ComRef<IDispatch>(dispatch));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

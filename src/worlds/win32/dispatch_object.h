@@ -8,7 +8,7 @@
 #include <memory>
 #include <span>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class CallDetails;
 class OwnedVARIANT;
@@ -34,4 +34,4 @@ class DispatchObject final : public Object, public std::enable_shared_from_this<
     ComRef<IDispatch> dispatch_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -11,7 +11,7 @@
 
 #include <ole2.h>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// What the system calls. It may still do so once the window is gone.
 class DropTarget final : public CountedObject<IDropTarget> {
@@ -140,4 +140,4 @@ DropPlace::~DropPlace() {
         OleUninitialize();
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

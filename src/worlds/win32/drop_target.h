@@ -5,9 +5,12 @@
 #include "worlds/win32/com_ref.h"
 
 namespace lumtex {
+class UserControl;
+} // namespace lumtex
+
+namespace lumtex::win32 {
 
 class DropTarget;
-class UserControl;
 
 /// Has the system report to `client` what is dragged over `window` and dropped there, as long as this lives.
 /// Without effect if the system refuses: on a thread of many-threaded objects, or where somebody else
@@ -36,4 +39,4 @@ enum DragState : short {
     dragMoves = 2,
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

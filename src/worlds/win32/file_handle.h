@@ -5,7 +5,7 @@
 #include "values/runtime_error.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// The classic number for a failed call on a name: 53, 76, or 75 for any other reason.
 inline ErrorNumber fileErrorOf(DWORD failure) {
@@ -46,4 +46,4 @@ class FileHandle {
     HANDLE handle_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

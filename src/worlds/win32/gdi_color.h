@@ -5,7 +5,7 @@
 #include "values/color.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A system colour is looked up in the user's scheme as it is now; one without a number there is black.
 inline COLORREF colorRef(OLE_COLOR color) {
@@ -14,4 +14,4 @@ inline COLORREF colorRef(OLE_COLOR color) {
     return RGB(redOf(color), greenOf(color), blueOf(color));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -8,7 +8,7 @@
 #include <mutex>
 #include <tuple>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -60,4 +60,4 @@ std::shared_ptr<const GdiFont> gdiFont(const FontSpec& font, Long pixelsPerInch)
     return made;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

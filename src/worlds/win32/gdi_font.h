@@ -7,7 +7,7 @@
 
 #include <memory>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Owns a font of the system.
 class GdiFont {
@@ -28,4 +28,4 @@ class GdiFont {
 /// that going back and forth between a few is cheap. May be called from any thread.
 std::shared_ptr<const GdiFont> gdiFont(const FontSpec& font, Long pixelsPerInch);
 
-} // namespace lumtex
+} // namespace lumtex::win32

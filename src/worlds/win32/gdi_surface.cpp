@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -115,4 +115,4 @@ Bitmap GdiSurface::image() const {
     return copy;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

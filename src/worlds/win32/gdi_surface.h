@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// White and without drawing at first. Which pixels a line, a polygon or a stretched picture covers is the
 /// system's decision; this class rounds, clips and translates. Belongs to one thread.
@@ -83,4 +83,4 @@ class GdiSurface final : public Surface {
 /// A surface with the screen's pixels per inch.
 std::unique_ptr<GdiSurface> makeGdiSurface(Long width, Long height);
 
-} // namespace lumtex
+} // namespace lumtex::win32

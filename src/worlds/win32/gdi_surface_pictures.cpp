@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -120,4 +120,4 @@ void GdiSurface::stretchDIBits(Long x, Long y, Long width, Long height, const Di
                   SRCCOPY);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -117,4 +117,4 @@ Long GdiSurface::drawText(StringView whole, Rect& rect, TextFormat format) {
     return height;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 MemoryBitmap::MemoryBitmap(Long width, Long height, RowOrder order)
     : width_(std::max<Long>(width, 1)), height_(std::max<Long>(height, 1)) {
@@ -27,4 +27,4 @@ MemoryBitmap::~MemoryBitmap() {
     SelectObject(dc_.get(), former_);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

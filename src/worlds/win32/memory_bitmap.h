@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Which row of a bitmap comes first in memory.
 enum class RowOrder { fromTop, fromBottom };
@@ -41,4 +41,4 @@ class MemoryBitmap {
     std::uint32_t* pixels_ = nullptr;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

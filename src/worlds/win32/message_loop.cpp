@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -40,7 +40,7 @@ bool takeMessage(MSG& message, bool& isWide) {
 void Win32Runtime::DoEvents() {
     if (yieldDepth_ == deepestYield)
         return;
-    const NestingLevel level(yieldDepth_);
+    const worlds::NestingLevel level(yieldDepth_);
     Ticks ticks;
     MSG message{};
     bool isWide = true;
@@ -68,4 +68,4 @@ bool Win32Runtime::hasPendingEvents() const {
     return HIWORD(GetQueueStatus(QS_ALLINPUT)) != 0;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -73,4 +73,4 @@ void Win32World::showModal(Window& form) {
         form.letVisible(false);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

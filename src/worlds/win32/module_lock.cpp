@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -22,4 +22,4 @@ long moduleLocks() noexcept {
     return locks;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -158,4 +158,4 @@ ComRef<IFontDisp> makeNamedFont(FONTDESC description, NamedFontClient client) {
     return ComRef<IFontDisp>::adopting(new NamedFont(std::move(font), std::move(name), std::move(client)));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

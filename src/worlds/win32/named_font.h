@@ -6,7 +6,7 @@
 
 #include <functional>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// What the maker of a font object wants to hear of it. Must not throw.
 struct NamedFontClient {
@@ -19,4 +19,4 @@ struct NamedFontClient {
 /// be made.
 ComRef<IFontDisp> makeNamedFont(FONTDESC description, NamedFontClient client);
 
-} // namespace lumtex
+} // namespace lumtex::win32

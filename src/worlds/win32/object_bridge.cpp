@@ -12,7 +12,7 @@
 #include <new>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -151,4 +151,4 @@ ComRef<IDispatch> toIDispatch(const ObjectRef& object) {
     return ComRef<IDispatch>::adopting(new ObjectDispatch(object));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "values/references/object.h"
 #include "worlds/win32/com_ref.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// An object of the host. Keeps a reference to `dispatch`; null for null.
 ///
@@ -17,4 +17,4 @@ ObjectRef objectFrom(IDispatch* dispatch);
 /// `object`'s members. Null for null.
 ComRef<IDispatch> toIDispatch(const ObjectRef& object);
 
-} // namespace lumtex
+} // namespace lumtex::win32

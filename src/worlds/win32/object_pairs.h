@@ -9,7 +9,7 @@
 #include <mutex>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Keeps nothing alive: each side takes itself out when it ends. An object belongs to the thread that it was
 /// entered on, and is found there alone.
@@ -50,4 +50,4 @@ class ObjectPairs {
     std::map<std::pair<DWORD, const Ours*>, Theirs*> theirs_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -156,4 +156,4 @@ ComRef<IFontDisp> toIFont(const FontRef& font) {
     return made;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

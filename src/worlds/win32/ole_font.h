@@ -5,7 +5,7 @@
 #include "values/references/font.h"
 #include "worlds/win32/com_ref.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// The font object of a host as one of ours: follows every change that the host makes to it. The same object
 /// gives the same font each time, and one that `toIFont` made gives the font that it was made for. Null for
@@ -17,4 +17,4 @@ FontRef fontFrom(IFontDisp* font);
 /// RuntimeError 7 if it cannot be made.
 ComRef<IFontDisp> toIFont(const FontRef& font);
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <optional>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -291,4 +291,4 @@ PictureRef loadOlePicture(std::span<const Byte> image, std::uint64_t freePixels)
     return picture;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

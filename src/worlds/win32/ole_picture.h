@@ -8,7 +8,7 @@
 #include <span>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// The picture object of a host as one of ours, which keeps it alive. The same object gives the same picture
 /// each time, and one that `toIPicture` made gives the picture that it was made for. Null for null and for an
@@ -27,4 +27,4 @@ IPicture* hostsPicture(const Picture& picture);
 /// RuntimeError 481 for anything else.
 PictureRef loadOlePicture(std::span<const Byte> image, std::uint64_t freePixels = 0);
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -4,7 +4,7 @@
 #include "worlds/win32/ole_picture.h"
 #include "worlds/win32/owned.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -125,4 +125,4 @@ std::vector<Byte> imageOfHostsPicture(const Picture& picture) {
     return fileOfBitmap(reinterpret_cast<HBITMAP>(static_cast<INT_PTR>(static_cast<int>(handle))));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

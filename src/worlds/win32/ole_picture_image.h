@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// All bytes of the file that the system itself writes for a host's picture: a bitmap in its own depth and
 /// with its own palette, an icon with all images that it was loaded with. Where the system writes another
@@ -18,4 +18,4 @@ std::vector<Byte> imageOfHostsPicture(const Picture& picture);
 /// Whatever the system writes for a picture, in any format; no bytes if it writes none.
 std::vector<Byte> fileOfPicture(IPicture& picture);
 
-} // namespace lumtex
+} // namespace lumtex::win32

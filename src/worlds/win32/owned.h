@@ -6,7 +6,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Owns a handle, or null; `release` gives it back.
 template <class Handle, void (*release)(Handle)>
@@ -106,4 +106,4 @@ class LockedMemory {
     void* bytes_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -6,7 +6,7 @@
 #include "worlds/win32/ole_picture_image.h"
 #include "worlds/win32/win32_runtime.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 std::vector<Byte> Win32Runtime::imageOfPicture(const Picture& picture) const {
     std::vector<Byte> image = imageOfHostsPicture(picture);
@@ -20,4 +20,4 @@ PictureRef Win32Runtime::pictureOfImage(std::span<const Byte> image) const {
     return loadOlePicture(image);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

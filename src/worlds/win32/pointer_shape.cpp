@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -55,4 +55,4 @@ HCURSOR PointerShape::cursor() const {
     return LoadCursorW(nullptr, IDC_ARROW);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "values/references/picture.h"
 #include "worlds/win32/owned.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Shapes are the classic numbers: 0 and 1 the arrow, 2 cross, 3 I-beam, 5 and 15 all directions, 6 to 9 two
 /// of them, 10 up, 11 hourglass, 12 no drop, 13 arrow with hourglass, 14 arrow with question mark, 99 the
@@ -33,4 +33,4 @@ class PointerShape {
     OwnedIcon iconCursor_; ///< null if the icon could not be made into one
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -53,4 +53,4 @@ STDMETHODIMP PropertySink::OnRequestEdit(DISPID /*property*/) {
     return S_OK;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

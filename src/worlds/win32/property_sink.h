@@ -7,7 +7,7 @@
 
 #include <functional>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Calls back at each change that an object reports, with the property's number, and once when nobody holds
 /// the sink any longer: an object lets go of its sinks when it ends. The callbacks must not throw.
@@ -34,4 +34,4 @@ class PropertySink final : public CountedObject<IPropertyNotifySink> {
     std::function<void()> onGone_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

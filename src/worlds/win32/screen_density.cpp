@@ -2,7 +2,7 @@
 
 #include "worlds/win32/owned.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 PixelDensity screenDensity() {
     const ScreenContext screen;
@@ -13,4 +13,4 @@ PixelDensity screenDensity() {
     return density.x > 0 && density.y > 0 ? density : usual;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -4,7 +4,7 @@
 
 #include "values/types.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Pixels to an inch.
 struct PixelDensity {
@@ -16,4 +16,4 @@ struct PixelDensity {
 /// enlarged. The same for as long as the program runs.
 PixelDensity screenDensity();
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -6,7 +6,7 @@
 #include "platform/user_control.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// As of the message that is being dealt with.
 inline bool isKeyDown(int virtualKey) {
@@ -36,4 +36,4 @@ inline Integer shiftKeysIn(WPARAM held, bool alt) {
     return static_cast<Integer>(shift);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

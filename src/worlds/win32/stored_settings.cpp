@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -101,4 +101,4 @@ std::optional<String> StoredSettings::readOnlyText(StringView key, StringView na
     return stored ? std::optional(textOf(*stored)) : std::nullopt;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

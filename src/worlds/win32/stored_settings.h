@@ -4,7 +4,7 @@
 
 #include "platform/settings.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// The part of the registry that belongs to the current user.
 class StoredSettings final : public Settings {
@@ -17,4 +17,4 @@ class StoredSettings final : public Settings {
     static constexpr std::size_t longestText = 1024;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -1,6 +1,6 @@
 #include "worlds/win32/tick_source.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -19,4 +19,4 @@ TickSource& systemTicks() {
     return ticks;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "values/types.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A tick is a WM_TIMER with the number of its run. Serves one thread.
 class TickSource {
@@ -25,4 +25,4 @@ class TickSource {
 /// The timers of the system. One object for all threads.
 TickSource& systemTicks();
 
-} // namespace lumtex
+} // namespace lumtex::win32

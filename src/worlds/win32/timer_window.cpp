@@ -3,7 +3,7 @@
 #include "values/runtime_error.h"
 #include "worlds/win32/win32_timer.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -68,4 +68,4 @@ LRESULT CALLBACK TimerWindow::procedure(HWND window, UINT message, WPARAM wParam
     return 0;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -7,7 +7,7 @@
 
 #include <unordered_map>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class Win32Timer;
 
@@ -38,4 +38,4 @@ class TimerWindow {
     std::unordered_map<UINT_PTR, Win32Timer*> running_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

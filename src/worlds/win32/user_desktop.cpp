@@ -7,7 +7,7 @@
 #include <shellapi.h>
 #include <uxtheme.h>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 void Win32Runtime::playSound(StringView file) {
     const String name(file);
@@ -50,4 +50,4 @@ void Win32Runtime::open(const OpenRequest& request) {
                   request.maximised ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -10,7 +10,7 @@
 #include <limits>
 #include <type_traits>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -247,4 +247,4 @@ OwnedVARIANT toVARIANT(const Variant& value) {
     return OwnedVARIANT(value.visit(ToVARIANT{}));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

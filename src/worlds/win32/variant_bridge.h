@@ -7,7 +7,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Owns what a VARIANT holds.
 class OwnedVARIANT {
@@ -63,4 +63,4 @@ BSTR newBSTR(StringView text);
 /// Null is the empty text.
 StringView viewBSTR(BSTR text);
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -6,7 +6,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -101,4 +101,4 @@ LRESULT CALLBACK WheelSubclass::ownProcedure(HWND window,
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "platform/wheel_hook.h"
 #include "worlds/win32/window_class.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class Win32World;
 
@@ -34,4 +34,4 @@ class WheelSubclass final : public WheelHook {
     HWND captured_ = nullptr; ///< while the hook is in force
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

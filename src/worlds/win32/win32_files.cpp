@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 Win32Files::~Win32Files() {
     for (const auto& [number, search] : searches_)
@@ -69,4 +69,4 @@ void Win32Files::findClose(Long handle) {
     searches_.erase(search);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

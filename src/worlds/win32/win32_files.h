@@ -7,7 +7,7 @@
 
 #include <map>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Files hold text in the code page of the system.
 class Win32Files final : public Files {
@@ -32,4 +32,4 @@ class Win32Files final : public Files {
     Long lastSearch_ = 0;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -3,7 +3,7 @@
 #include "values/rounding.h"
 #include "values/runtime_error.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -48,4 +48,4 @@ void Win32GuideLine::paintOn(HDC target) const {
     SelectObject(target, old);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "platform/guide_line.h"
 #include "worlds/win32/win32_window.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class Win32GuideLine final : public GuideLine {
   public:
@@ -27,4 +27,4 @@ class Win32GuideLine final : public GuideLine {
     bool visible_ = false;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

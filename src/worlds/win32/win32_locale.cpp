@@ -7,7 +7,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -110,4 +110,4 @@ const Locale& win32UsersLocale() {
     return locale;
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

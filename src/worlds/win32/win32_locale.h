@@ -5,7 +5,7 @@
 #include "values/locale.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// The settings of the user, or those of a caller.
 class Win32Locale final : public Locale {
@@ -33,4 +33,4 @@ class Win32Locale final : public Locale {
 /// Of whoever is logged on.
 const Locale& win32UsersLocale();
 
-} // namespace lumtex
+} // namespace lumtex::win32

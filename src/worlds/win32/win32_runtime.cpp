@@ -12,7 +12,7 @@
 
 #include <tlhelp32.h>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -86,7 +86,7 @@ void Win32Runtime::messageBox(StringView text, BoxStyle style, StringView title)
     HWND focus = GetFocus();
     const ModalSpan span(*this);
     {
-        const NestingLevel level(openBoxes);
+        const worlds::NestingLevel level(openBoxes);
         MessageBoxW(owner, wide(message), wide(caption), MB_OK | icon | modal);
     }
     if (owner != nullptr && GetActiveWindow() == owner && IsChild(owner, focus))
@@ -127,4 +127,4 @@ ObjectRef Win32Runtime::createObject(StringView programId) {
     return objectFrom(object.get());
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

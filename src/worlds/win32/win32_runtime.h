@@ -9,7 +9,7 @@
 
 #include <functional>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Belongs to one thread. From the first one on, conversions follow the user's settings. Plays itself the
 /// parts that share the message loop or have no state.
@@ -93,4 +93,4 @@ class Win32Runtime : public Runtime,
     int yieldDepth_ = 0;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

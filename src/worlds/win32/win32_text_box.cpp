@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -213,4 +213,4 @@ std::optional<LRESULT> Win32TextBox::character(const WindowMessage& message) {
     return CallWindowProcW(box, message.window, message.number, entered, message.lParam);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -8,7 +8,7 @@
 
 #include <memory>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// Places are rounded to whole pixels as those of windows are. Its system window may go before it, as with a
 /// Win32Window.
@@ -71,4 +71,4 @@ class Win32TextBox final : public TextBox {
     OLE_COLOR foreColor_ = black;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 Win32Timer::Win32Timer(TimerWindow& window, std::function<void()> onTimer)
     : window_(window), onTimer_(std::move(onTimer)) {}
@@ -36,4 +36,4 @@ void Win32Timer::tick() {
     handler();
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

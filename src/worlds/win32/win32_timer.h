@@ -7,7 +7,7 @@
 
 #include <functional>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// As fine as the system's timers, some 10 to 16 milliseconds: a shorter interval ticks as often as they do.
 class Win32Timer final : public Timer {
@@ -33,4 +33,4 @@ class Win32Timer final : public Timer {
     UINT_PTR run_ = 0; ///< 0 while it does not tick
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

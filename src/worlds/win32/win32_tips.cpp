@@ -7,7 +7,7 @@
 
 #include <commctrl.h>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -124,4 +124,4 @@ std::unique_ptr<TipWindow> Win32Tips::createTipWindow(WindowHandle owner) {
     return std::make_unique<Win32TipWindow>(window);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include "platform/tip_platform.h"
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class Win32World;
 
@@ -22,4 +22,4 @@ class Win32Tips final : public TipPlatform {
     Win32World& world_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

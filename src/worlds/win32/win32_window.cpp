@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -301,4 +301,4 @@ bool Win32Window::covers(POINT at) const {
     return outer->covers(at);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 class Win32GuideLine;
 class Win32TextBox;
@@ -125,4 +125,4 @@ class Win32Window final : public Window {
     std::vector<Win32TextBox*> boxes_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

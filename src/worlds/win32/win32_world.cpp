@@ -10,7 +10,7 @@
 
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -86,4 +86,4 @@ std::unique_ptr<WheelHook> Win32World::createWheelHook(Window& parent, const Whe
     return std::make_unique<WheelSubclass>(*this, toHWND(windowOfOurs(parent).hWnd()), onWheel);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

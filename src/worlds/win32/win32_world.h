@@ -11,7 +11,7 @@
 
 #include <optional>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A message on its way to one of our windows.
 struct WindowMessage {
@@ -82,7 +82,7 @@ class Win32World final : public World {
     /// Throws RuntimeError 7 for more than `mostPixels`.
     static void refuseHugeSize(Long width, Long height);
 
-    ClickSequence press;
+    worlds::ClickSequence press;
 
     /// Gives up the capture, whoever of the thread has it. The system makes up a move then, for the window
     /// that is under the mouse when messages run next.
@@ -112,4 +112,4 @@ class Win32World final : public World {
     Win32Tips tips_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -5,7 +5,7 @@
 #include <map>
 #include <mutex>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -45,4 +45,4 @@ WindowClass::~WindowClass() {
         UnregisterClassW(name_, instance_);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

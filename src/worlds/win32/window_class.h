@@ -4,7 +4,7 @@
 
 #include "worlds/win32/windows_api.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 /// A share in a class; all shares of the same name and module hold one. The first share registers it, the
 /// last one takes it back, so that a module leaves no class behind when it is unloaded. May be made on any
@@ -24,4 +24,4 @@ class WindowClass {
     const wchar_t* name_;
 };
 
-} // namespace lumtex
+} // namespace lumtex::win32

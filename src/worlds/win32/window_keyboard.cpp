@@ -2,7 +2,7 @@
 #include "worlds/win32/shift_keys.h"
 #include "worlds/win32/win32_window.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 Win32Window::Answer Win32Window::answerKeyboard(const WindowMessage& message) {
     switch (message.number) {
@@ -35,4 +35,4 @@ Win32Window::Answer Win32Window::answerKeyboard(const WindowMessage& message) {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -2,7 +2,7 @@
 #include "worlds/win32/shift_keys.h"
 #include "worlds/win32/win32_window.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -15,7 +15,7 @@ Integer shiftOf(const WindowMessage& message) {
     return shiftKeysIn(message.wParam, isKeyDown(VK_MENU));
 }
 
-ClickSequence::Event pressEvent(MouseButton button, const WindowMessage& message) {
+worlds::ClickSequence::Event pressEvent(MouseButton button, const WindowMessage& message) {
     const POINT at = placeOf(message);
     return {{at.x, at.y}, button, buttonsIn(message.wParam), shiftOf(message)};
 }
@@ -54,7 +54,7 @@ Win32Window::Answer Win32Window::answerMouse(const WindowMessage& message) {
     }
 }
 
-class Win32Window::PressTarget final : public ClickSequence::Target {
+class Win32Window::PressTarget final : public worlds::ClickSequence::Target {
   public:
     explicit PressTarget(Win32Window& window) : window_(window), hwnd_(window.hwnd_) {}
 
@@ -67,14 +67,14 @@ class Win32Window::PressTarget final : public ClickSequence::Target {
     bool takesInput() const override { return isThere() && window_.takesInput(); }
     bool covers(Point at) const override { return isThere() && window_.covers({at.x, at.y}); }
 
-    void mouseDown(const ClickSequence::Event& event) override {
+    void mouseDown(const worlds::ClickSequence::Event& event) override {
         window_.client_.UserControl_MouseDown(
             event.button, event.shift, static_cast<Single>(event.at.x), static_cast<Single>(event.at.y));
     }
-    void doubleClick(const ClickSequence::Event& /*event*/) override {
+    void doubleClick(const worlds::ClickSequence::Event& /*event*/) override {
         window_.client_.UserControl_DblClick();
     }
-    void mouseUp(const ClickSequence::Event& event) override {
+    void mouseUp(const worlds::ClickSequence::Event& event) override {
         window_.client_.UserControl_MouseUp(
             event.button, event.shift, static_cast<Single>(event.at.x), static_cast<Single>(event.at.y));
     }
@@ -87,7 +87,7 @@ class Win32Window::PressTarget final : public ClickSequence::Target {
 
 Win32Window::Answer Win32Window::pressed(MouseButton button, bool isSecond, const WindowMessage& message) {
     PressTarget target(*this);
-    const ClickSequence::Event event = pressEvent(button, message);
+    const worlds::ClickSequence::Event event = pressEvent(button, message);
     if (isSecond)
         world_.press.pressAgain(&target, event);
     else
@@ -111,4 +111,4 @@ Win32Window::Answer Win32Window::wheelTurned(const WindowMessage& message) {
     return taken ? Answer(0) : Answer();
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

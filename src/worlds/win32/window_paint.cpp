@@ -3,7 +3,7 @@
 #include "worlds/win32/win32_text_box.h"
 #include "worlds/win32/win32_window.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 Win32Window::Answer Win32Window::answerPaint(const WindowMessage& message) {
     switch (message.number) {
@@ -77,4 +77,4 @@ Win32Window::Answer Win32Window::colorOfBox(const WindowMessage& message) {
     return {};
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

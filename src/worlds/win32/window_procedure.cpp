@@ -3,7 +3,7 @@
 #include "worlds/win32/win32_text_box.h"
 #include "worlds/win32/win32_window.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 LRESULT CALLBACK Win32Window::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     Win32Window* self = of(window);
@@ -79,4 +79,4 @@ Win32Window::Answer Win32Window::answerPlace(const WindowMessage& message) {
     }
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

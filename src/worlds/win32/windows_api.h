@@ -30,7 +30,7 @@
 
 #include "platform/window.h"
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 static_assert(sizeof(wchar_t) == sizeof(char16_t), "the system's text is UTF-16");
 
@@ -60,4 +60,4 @@ inline WindowHandle fromHWND(HWND window) {
     return static_cast<WindowHandle>(reinterpret_cast<INT_PTR>(window));
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

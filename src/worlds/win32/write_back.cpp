@@ -7,7 +7,7 @@
 #include <cstring>
 #include <utility>
 
-namespace lumtex {
+namespace lumtex::win32 {
 
 namespace {
 
@@ -94,4 +94,4 @@ void writeBack(const Variant& value, VARIANT& argument, LCID locale) {
     std::memcpy(V_BYREF(&argument), &V_I8(&fresh.get()), size);
 }
 
-} // namespace lumtex
+} // namespace lumtex::win32

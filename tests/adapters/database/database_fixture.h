@@ -66,9 +66,9 @@ class DatabaseFixture : public ListFixture {
 
     /// The content after a load of `query`, which must be the same by names and without.
     std::string load(const std::string& database, const std::string& query) {
-        list.setRecordset(std::make_shared<ByNameAlone>(openRecordset(database, query)));
+        list.setRecordset(std::make_shared<ByNameAlone>(database::openRecordset(database, query)));
         const std::string byName = content();
-        list.setRecordset(openRecordset(database, query));
+        list.setRecordset(database::openRecordset(database, query));
         EXPECT_EQ(content(), byName);
         EXPECT_TRUE(list.AutoRedraw());
         EXPECT_TRUE(list.AutoCheckScroll());

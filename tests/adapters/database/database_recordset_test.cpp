@@ -10,7 +10,7 @@ const std::string memory = ":memory:";
 
 class DatabaseRecordset : public ::testing::Test {
   protected:
-    static ObjectRef open(const std::string& sql) { return openRecordset(memory, sql); }
+    static ObjectRef open(const std::string& sql) { return database::openRecordset(memory, sql); }
 };
 
 TEST_F(DatabaseRecordset, BeginsAtItsFirstRecordAndEndsBehindItsLast) {
@@ -122,7 +122,7 @@ TEST_F(DatabaseRecordset, GivesEachStorageClassItsKindOfValue) {
 TEST_F(DatabaseRecordset, LooksAtEachValueWhateverItsColumnIsDeclaredAs) {
     SqliteFile file;
     file.run("create table t (n integer); insert into t values (1), ('text'), (2.5), (null)");
-    const ObjectRef recordset = openRecordset(file.path, "select n from t order by rowid");
+    const ObjectRef recordset = database::openRecordset(file.path, "select n from t order by rowid");
     const std::vector<Variant> expected = {Long{1}, u"text", 2.5, Null{}};
     for (const Variant& value : expected) {
         EXPECT_EQ(fieldOf(recordset, 0), value);
@@ -167,7 +167,7 @@ TEST_F(DatabaseRecordset, IsRefusedWithTheDatabasesOwnWords) {
     folder.write("plain.txt", "This is no database, however long the text of it may be made to look. ......");
     const std::string plain = (folder.path / "plain.txt").string();
     const auto refusal = [](const std::string& database, const std::string& sql) {
-        return failureOf([&] { openRecordset(database, sql); });
+        return failureOf([&] { database::openRecordset(database, sql); });
     };
     EXPECT_EQ(refusal((folder.path / "none").string(), "select 1"),
               databaseSays + "unable to open database file");
@@ -185,17 +185,17 @@ TEST_F(DatabaseRecordset, IsRefusedWithTheDatabasesOwnWords) {
 TEST_F(DatabaseRecordset, NeverWrites) {
     SqliteFile file;
     file.run("create table t (a); insert into t values (1)");
-    const ObjectRef recordset = openRecordset(file.path, "insert into t values (2) returning a");
+    const ObjectRef recordset = database::openRecordset(file.path, "insert into t values (2) returning a");
     EXPECT_EQ(failureOf([&] { recordset->call(u"MoveFirst"); }),
               databaseSays + "attempt to write a readonly database");
     EXPECT_EQ(recordset->get(u"EOF"), Variant(true));
-    EXPECT_EQ(openRecordset(file.path, "select * from t")->get(u"RecordCount"), Variant(Long{1}));
+    EXPECT_EQ(database::openRecordset(file.path, "select * from t")->get(u"RecordCount"), Variant(Long{1}));
 }
 
 TEST_F(DatabaseRecordset, CountsAndReadsTheSameDataWhateverOthersWrite) {
     SqliteFile file;
     file.run("pragma journal_mode = wal; create table t (a); insert into t values (1), (2)");
-    const ObjectRef recordset = openRecordset(file.path, "select a from t");
+    const ObjectRef recordset = database::openRecordset(file.path, "select a from t");
     EXPECT_EQ(recordset->get(u"RecordCount"), Variant(Long{2}));
     file.run("insert into t values (3)");
     Long walked = 0;
@@ -210,7 +210,7 @@ TEST_F(DatabaseRecordset, CountsAndReadsTheSameDataWhateverOthersWrite) {
 TEST_F(DatabaseRecordset, LetsOthersWriteOnceItWasRead) {
     SqliteFile file;
     file.run("create table t (a); insert into t values (1)");
-    const ObjectRef recordset = openRecordset(file.path, "select a from t");
+    const ObjectRef recordset = database::openRecordset(file.path, "select a from t");
     EXPECT_EQ(recordset->get(u"RecordCount"), Variant(Long{1}));
     EXPECT_ANY_THROW(file.run("insert into t values (2)")) << "a snapshot keeps writers out here";
     recordset->call(u"MoveNext");

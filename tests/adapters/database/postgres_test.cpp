@@ -14,7 +14,7 @@ class Postgres : public DatabaseFixture {
     static void SetUpTestSuite() { server = std::make_unique<PostgresServer>(); }
     static void TearDownTestSuite() { server.reset(); }
 
-    static ObjectRef open(const std::string& sql) { return openRecordset(server->address(), sql); }
+    static ObjectRef open(const std::string& sql) { return database::openRecordset(server->address(), sql); }
 
     static std::unique_ptr<PostgresServer> server;
 };
@@ -155,7 +155,7 @@ TEST_F(Postgres, BeginsAnewInTheMiddleOfManyRecords) {
 
 TEST_F(Postgres, IsRefusedWithTheServersOwnWords) {
     const auto refusal = [](const std::string& address, const std::string& sql) {
-        return failureOf([&] { openRecordset(address, sql); });
+        return failureOf([&] { database::openRecordset(address, sql); });
     };
     const std::string address = server->address();
     EXPECT_EQ(refusal(address, "selec 1"), databaseSays + "syntax error at or near \"selec\"");
@@ -216,7 +216,7 @@ TEST_F(Postgres, ThatLosesItsConnectionKeepsTheRowsSoFar) {
 
 TEST_F(Postgres, WhoseServerStopsKeepsTheRowsSoFar) {
     PostgresServer doomed;
-    const ObjectRef recordset = openRecordset(doomed.address(), manyWideRecords);
+    const ObjectRef recordset = database::openRecordset(doomed.address(), manyWideRecords);
     list.setRecordset(std::make_shared<Interrupted>(recordset, 500, [&] { doomed.stop(); }));
     ASSERT_GE(list.RowsCount(), 500);
     ASSERT_LT(list.RowsCount(), 200'000);

@@ -25,7 +25,7 @@ TEST_F(SqliteLoad, TakesColumnsAndRecordsOfAFile) {
 
 TEST_F(SqliteLoad, WithoutRecordsLeavesTheListAlone) {
     load(memory, "select 1 as a");
-    list.setRecordset(openRecordset(memory, "select 2 as b where 0"));
+    list.setRecordset(database::openRecordset(memory, "select 2 as b where 0"));
     EXPECT_EQ(content(), "a\n1");
     EXPECT_EQ(reports(), "");
 }
@@ -56,14 +56,14 @@ TEST_F(SqliteLoad, ThatFailsInTheMiddleKeepsTheRowsSoFar) {
 TEST_F(SqliteLoad, LetsOthersWriteWhileTheListKeepsTheObject) {
     SqliteFile file;
     file.run("create table t (a); insert into t values (1)");
-    list.setRecordset(openRecordset(file.path, "select a from t"));
+    list.setRecordset(database::openRecordset(file.path, "select a from t"));
     EXPECT_NO_THROW(file.run("drop table t"));
     EXPECT_EQ(content(), "a\n1");
 }
 
 TEST_F(SqliteLoad, TakesAMillionRecords) {
     constexpr Long many = 1'000'000;
-    const ObjectRef recordset = openRecordset(memory, numbersTo(many, "x, 'name ' || x as name"));
+    const ObjectRef recordset = database::openRecordset(memory, numbersTo(many, "x, 'name ' || x as name"));
     list.setRecordset(recordset);
     ASSERT_EQ(list.RowsCount(), many);
     EXPECT_EQ(recordset->get(u"RecordCount").toLong(), many);

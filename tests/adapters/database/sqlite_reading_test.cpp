@@ -31,7 +31,7 @@ class SqliteReading : public DatabaseFixture {
         EXPECT_EQ(load(database, "select a from t"), content);
         EXPECT_EQ(reports(), "");
         EXPECT_EQ(contentOf(folder), before) << "while the list keeps the query";
-        list.setRecordset(openRecordset(":memory:", "select 1"));
+        list.setRecordset(database::openRecordset(":memory:", "select 1"));
         EXPECT_EQ(contentOf(folder), before);
     }
 

@@ -19,7 +19,7 @@ class JsonPropertyBagTest : public ListFixture {
     }
 
     ScratchFolder folder;
-    JsonPropertyBag bag{desktop.runtime()};
+    json::JsonPropertyBag bag{desktop.runtime()};
 };
 
 PictureRef twoPixels(std::uint32_t left, std::uint32_t right) {
@@ -90,7 +90,7 @@ TEST_F(JsonPropertyBagTest, PicturesOfBothKindsComeBackWithTheirPixels) {
     const PictureRef masked = twoPixels(0xFF102030, 0);
     bag.WriteProperty(u"Skin", opaque, PictureRef{});
     bag.WriteProperty(u"BackgroundPicture", masked, PictureRef{});
-    JsonPropertyBag other(desktop.runtime());
+    json::JsonPropertyBag other(desktop.runtime());
     other.parse(bag.text());
     EXPECT_EQ(other.ReadProperty(u"Skin", PictureRef{}).toPicture()->bitmap().pixels,
               opaque->bitmap().pixels);
@@ -216,11 +216,11 @@ TEST_F(JsonPropertyBagTest, AListsSettingsComeBackFromAFile) {
     list.UserControl_WriteProperties(bag);
     bag.save(folder.pathTo("settings.json"));
 
-    JsonPropertyBag saved(desktop.runtime());
+    json::JsonPropertyBag saved(desktop.runtime());
     saved.load(folder.pathTo("settings.json"));
     lmListView other{desktop, host, events};
     other.UserControl_ReadProperties(saved);
-    JsonPropertyBag again(desktop.runtime());
+    json::JsonPropertyBag again(desktop.runtime());
     other.UserControl_WriteProperties(again);
     EXPECT_EQ(again.text(), bag.text());
     EXPECT_EQ(other.BackColor(), 0x8000000FU);

@@ -27,7 +27,7 @@ Bitmap randomBitmap(Long width, Long height, bool opaque, unsigned seed) {
 }
 
 void expectToComeBack(const BitmapPicture& picture) {
-    const PictureRef back = pictureOfImage(imageOfPicture(picture));
+    const PictureRef back = pictures::pictureOfImage(imageOfPicture(picture));
     EXPECT_EQ(back->kind(), picture.kind());
     EXPECT_EQ(back->bitmap(), picture.bitmap());
 }
@@ -76,7 +76,8 @@ TEST(PictureImage, AnIconWithHalfTransparentPixelsComesBack) {
 TEST(PictureImage, AnIconTooLargeForAnIconFileIsABitmapFileWithAlpha) {
     const std::vector<Byte> image = imageOfPicture(BitmapPicture(Bitmap(257, 1, 0x80400000U)));
     EXPECT_EQ(std::string(image.begin(), image.begin() + 2), "BM");
-    EXPECT_EQ(pictureOfImage(imageOfPicture(BitmapPicture(Bitmap(257, 1, red), PictureKind::icon)))->kind(),
+    EXPECT_EQ(pictures::pictureOfImage(imageOfPicture(BitmapPicture(Bitmap(257, 1, red), PictureKind::icon)))
+                  ->kind(),
               PictureKind::bitmap);
 }
 
@@ -103,13 +104,13 @@ TEST(PictureImage, APictureWithoutPixelsHasNone) {
 TEST(PictureImage, ACursorFileGivesAnIcon) {
     Image image = imageOfPicture(BitmapPicture(Bitmap(4, 4, red), PictureKind::icon));
     image[2] = 2;
-    EXPECT_EQ(pictureOfImage(image)->kind(), PictureKind::icon);
+    EXPECT_EQ(pictures::pictureOfImage(image)->kind(), PictureKind::icon);
 }
 
 TEST(PictureImage, OtherFormatsAndNoBytesAreRefused) {
     const Image gif{'G', 'I', 'F', '8', '9', 'a', 1, 0, 1, 0, 0, 0, 0};
     for (const Image& image : {Image{}, Image{'B'}, Image{0, 0, 1}, gif})
-        EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), ErrorNumber::invalidPicture);
+        EXPECT_EQ(errorNumberOf([&] { pictures::pictureOfImage(image); }), ErrorNumber::invalidPicture);
 }
 
 TEST(PictureImage, NoCutOrChangedByteCrashesTheReader) {
@@ -117,10 +118,11 @@ TEST(PictureImage, NoCutOrChangedByteCrashesTheReader) {
         const Image whole = imageOfPicture(BitmapPicture(randomBitmap(5, 4, opaque, 4)));
         for (std::size_t i = 0; i < whole.size(); ++i) {
             const Image cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(i));
-            EXPECT_EQ(errorNumberOf([&] { pictureOfImage(cut); }), ErrorNumber::invalidPicture) << i;
+            EXPECT_EQ(errorNumberOf([&] { pictures::pictureOfImage(cut); }), ErrorNumber::invalidPicture)
+                << i;
             Image changed = whole;
             changed[i] ^= 0xFFU;
-            const Long number = errorNumberOf([&] { pictureOfImage(changed); });
+            const Long number = errorNumberOf([&] { pictures::pictureOfImage(changed); });
             EXPECT_TRUE(number == noError || number == ErrorNumber::invalidPicture)
                 << i << " gives " << number;
         }
@@ -129,7 +131,8 @@ TEST(PictureImage, NoCutOrChangedByteCrashesTheReader) {
 
 TEST(PictureImage, DamagedImagesAreRefused) {
     for (const NamedImage& damaged : damagedImages())
-        EXPECT_EQ(errorNumberOf([&] { pictureOfImage(damaged.image); }), ErrorNumber::invalidPicture)
+        EXPECT_EQ(errorNumberOf([&] { pictures::pictureOfImage(damaged.image); }),
+                  ErrorNumber::invalidPicture)
             << damaged.name;
 }
 
@@ -139,7 +142,7 @@ TEST(PictureImage, EachHeaderByteOfAnIconWithSeveralPicturesMayBeAnything) {
         for (const int value : {0, 1, 2, 0x7F, 0x80, 0xFF}) {
             Image changed = whole;
             changed[i] = static_cast<Byte>(value);
-            const Long number = errorNumberOf([&] { pictureOfImage(changed); });
+            const Long number = errorNumberOf([&] { pictures::pictureOfImage(changed); });
             EXPECT_TRUE(number == noError || number == ErrorNumber::invalidPicture)
                 << i << " gives " << number;
         }
@@ -160,11 +163,11 @@ TEST(PictureImage, ASizeThatTheBytesCannotHoldIsRefusedBeforeItsMemoryIsAskedFor
         image[19] = image[23] = high;
     };
     letSide(92, 0); // 8464 pixels of 8640 that its 1080 bytes may have
-    EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), noError);
+    EXPECT_EQ(errorNumberOf([&] { pictures::pictureOfImage(image); }), noError);
     letSide(93, 0);
-    EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), ErrorNumber::invalidPicture);
+    EXPECT_EQ(errorNumberOf([&] { pictures::pictureOfImage(image); }), ErrorNumber::invalidPicture);
     letSide(0xFF, 0x7F);
-    EXPECT_EQ(errorNumberOf([&] { pictureOfImage(image); }), ErrorNumber::invalidPicture);
+    EXPECT_EQ(errorNumberOf([&] { pictures::pictureOfImage(image); }), ErrorNumber::invalidPicture);
 }
 
 } // namespace

@@ -9,7 +9,7 @@ namespace {
 using Log = std::vector<std::string>;
 
 /// A window that notes what is asked of it. Any step may be the one in which it goes, or takes input no more.
-class NotedWindow final : public ClickSequence::Target {
+class NotedWindow final : public worlds::ClickSequence::Target {
   public:
     NotedWindow(Log& log, WindowHandle handle) : log_(log), handle_(handle) {}
 
@@ -25,11 +25,13 @@ class NotedWindow final : public ClickSequence::Target {
     bool isThere() const override { return there_; }
     bool takesInput() const override { return there_ && enabled_; }
     bool covers(Point /*at*/) const override { return there_ && underPointer; }
-    void mouseDown(const ClickSequence::Event& event) override {
+    void mouseDown(const worlds::ClickSequence::Event& event) override {
         note("down " + std::to_string(event.button));
     }
-    void doubleClick(const ClickSequence::Event& /*event*/) override { note("double"); }
-    void mouseUp(const ClickSequence::Event& event) override { note("up " + std::to_string(event.button)); }
+    void doubleClick(const worlds::ClickSequence::Event& /*event*/) override { note("double"); }
+    void mouseUp(const worlds::ClickSequence::Event& event) override {
+        note("up " + std::to_string(event.button));
+    }
     void click() override { note("click"); }
 
     void note(const std::string& step) {
@@ -55,7 +57,7 @@ class Pressing : public ::testing::Test {
         });
     }
 
-    ClickSequence press;
+    worlds::ClickSequence press;
     Log log;
     NotedWindow a{log, 1};
     NotedWindow b{log, 2};

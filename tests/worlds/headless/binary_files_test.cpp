@@ -17,7 +17,7 @@ using Bytes = std::vector<Byte>;
 
 class BinaryFiles : public DesktopFixture {
   protected:
-    HeadlessRuntime& runtime() { return desktop.runtime(); }
+    headless::HeadlessRuntime& runtime() { return desktop.runtime(); }
     std::size_t filesInFolder() const {
         return static_cast<std::size_t>(
             std::distance(fs::directory_iterator(folder.path), fs::directory_iterator()));

@@ -16,11 +16,14 @@ namespace lumtex::testing {
 /// `events.on("a.MouseDown", ...)`.
 class Pad final : public UserControl {
   public:
-    Pad(Desktop& desktop, EventRecorder& events, std::string name, Window* parent = nullptr)
+    Pad(headless::Desktop& desktop,
+        headless::EventRecorder& events,
+        std::string name,
+        Window* parent = nullptr)
         : name_(std::move(name)), events_(events), window_(desktop.createWindow(parent, *this)) {}
 
     Window& window() { return *window_; }
-    HeadlessWindow& headless() { return dynamic_cast<HeadlessWindow&>(*window_); }
+    headless::HeadlessWindow& headless() { return dynamic_cast<headless::HeadlessWindow&>(*window_); }
     void show(Single left, Single top, Single width, Single height) {
         window_->place(left, top, width, height);
         window_->letVisible(true);
@@ -66,7 +69,7 @@ class Pad final : public UserControl {
     }
 
     std::string name_;
-    EventRecorder& events_;
+    headless::EventRecorder& events_;
     std::unique_ptr<Window> window_;
 };
 
@@ -90,8 +93,8 @@ class DesktopFixture : public ::testing::Test {
         return made;
     }
 
-    Desktop desktop{testFonts()};
-    EventRecorder events{desktop};
+    headless::Desktop desktop{testFonts()};
+    headless::EventRecorder events{desktop};
     std::unique_ptr<Pad> a = pad("a");
 };
 

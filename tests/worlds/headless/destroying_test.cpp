@@ -141,7 +141,7 @@ TEST_F(DesktopDestroying, AWindowInAYieldOfItsOwnPressIsSafe) {
 /// Takes its own box away when asked for a character, and at the loss of the focus.
 class VanishingBox final : private TextBoxClient {
   public:
-    VanishingBox(Desktop& desktop, Window& parent) : box(desktop.createTextBox(parent, *this)) {
+    VanishingBox(headless::Desktop& desktop, Window& parent) : box(desktop.createTextBox(parent, *this)) {
         box->letWidth(50);
         box->letHeight(20);
         box->letVisible(true);
@@ -178,7 +178,7 @@ TEST_F(DesktopDestroying, AWindowBeforeItsGuideLineIsSafe) {
     const auto line = desktop.createGuideLine(b->window());
     line->letVisible(true);
     b.reset();
-    EXPECT_TRUE(static_cast<HeadlessGuideLine&>(*line).Visible());
+    EXPECT_TRUE(static_cast<headless::HeadlessGuideLine&>(*line).Visible());
     EXPECT_EQ(desktop.screenshot(a->window()).at(0, 0), 0xFFFFFFFFU);
 }
 

@@ -37,11 +37,11 @@ TEST_F(Loop, AStormEndsAtTheBoundAndTheRestWaits) {
     };
     desktop.post(storm);
     desktop.run();
-    EXPECT_EQ(count, EventLoop::longestRun);
+    EXPECT_EQ(count, headless::EventLoop::longestRun);
     EXPECT_FALSE(desktop.idle());
     storm = [] {};
     desktop.run();
-    EXPECT_EQ(count, EventLoop::longestRun + 1);
+    EXPECT_EQ(count, headless::EventLoop::longestRun + 1);
     EXPECT_TRUE(desktop.idle());
 }
 
@@ -54,7 +54,7 @@ TEST_F(Loop, AStormInsideYieldsSharesTheBound) {
     };
     desktop.post(storm);
     desktop.run();
-    EXPECT_EQ(count, EventLoop::longestRun);
+    EXPECT_EQ(count, headless::EventLoop::longestRun);
     storm = [] {};
     desktop.run();
     EXPECT_TRUE(desktop.idle());
@@ -134,12 +134,12 @@ TEST_F(Yields, HostCodeThatNeverStopsYieldingEndsAtTheBound) {
         },
         1000000);
     desktop.runtime().DoEvents();
-    EXPECT_EQ(entered, EventLoop::deepest);
+    EXPECT_EQ(entered, headless::EventLoop::deepest);
     EXPECT_EQ(desktop.yieldDepth(), 0);
 }
 
 TEST_F(Yields, ManyWithNothingWaitingAreNothing) {
-    for (int i = 0; i < 2 * EventLoop::longestRun; ++i)
+    for (int i = 0; i < 2 * headless::EventLoop::longestRun; ++i)
         desktop.runtime().DoEvents();
     desktop.post([this] { events.record("event"); });
     desktop.runtime().DoEvents();

@@ -70,7 +70,7 @@ TEST_F(Recorder, EachKindOfValueHasItsText) {
     }};
     for (const LoggedValue& entry : values) {
         SCOPED_TRACE(entry.name);
-        EXPECT_EQ(logText(entry.value), entry.text);
+        EXPECT_EQ(headless::logText(entry.value), entry.text);
     }
 }
 

@@ -54,7 +54,7 @@ TEST_F(Forms, FormsThatOpenFormsEndAtTheBound) {
         desktop.showModal(window);
     };
     desktop.showModal(*form);
-    EXPECT_EQ(opened, EventLoop::deepest);
+    EXPECT_EQ(opened, headless::EventLoop::deepest);
     EXPECT_EQ(desktop.yieldDepth(), 0);
 }
 

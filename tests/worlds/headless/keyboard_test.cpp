@@ -99,7 +99,7 @@ constexpr std::array<KeyCharacter, 14> keyCharacters{{
 TEST(KeyCharacters, AreThoseThatTheKeysEnter) {
     for (const KeyCharacter& entry : keyCharacters) {
         SCOPED_TRACE(entry.name);
-        EXPECT_EQ(characterOf(entry.keyCode, entry.shift), entry.unit);
+        EXPECT_EQ(headless::characterOf(entry.keyCode, entry.shift), entry.unit);
     }
 }
 

@@ -64,13 +64,13 @@ TEST_F(MessageBoxes, BoxesThatOpenBoxesEndAtTheBound) {
         desktop.runtime().messageBox(u"again", BoxStyle::plain, u"");
     };
     desktop.runtime().messageBox(u"first", BoxStyle::plain, u"");
-    EXPECT_EQ(desktop.runtime().boxes.size(), static_cast<std::size_t>(EventLoop::deepest) + 1);
+    EXPECT_EQ(desktop.runtime().boxes.size(), static_cast<std::size_t>(headless::EventLoop::deepest) + 1);
     EXPECT_EQ(desktop.yieldDepth(), 0);
     EXPECT_TRUE(desktop.idle());
 }
 
 TEST_F(RuntimeRules, SettingsAreFoundInAnyCase) {
-    HeadlessRuntime& runtime = desktop.runtime();
+    headless::HeadlessRuntime& runtime = desktop.runtime();
     EXPECT_EQ(runtime.text(u"Software\\Lumtex", u"ErrorLog"), std::nullopt);
     runtime.letSetting(u"Software\\Lumtex", u"ErrorLog", u"C:\\Log");
     EXPECT_EQ(runtime.text(u"software\\LUMTEX", u"errorLOG"), u"C:\\Log");
@@ -92,7 +92,7 @@ TEST_F(RuntimeRules, TheComponentIsTheProjectUntilATestSaysOtherwise) {
 }
 
 TEST_F(RuntimeRules, TheRunningProgramIsTheOneProcess) {
-    HeadlessRuntime& runtime = desktop.runtime();
+    headless::HeadlessRuntime& runtime = desktop.runtime();
     const std::optional<std::vector<ProcessEntry>> processes = runtime.processes();
     ASSERT_TRUE(processes.has_value());
     ASSERT_EQ(processes->size(), 1U);
@@ -109,7 +109,7 @@ TEST_F(RuntimeRules, AFileNameIsCompletedFromTheCurrentFolder) {
 }
 
 TEST_F(RuntimeRules, TheDateMovesWithTheVirtualClock) {
-    HeadlessRuntime& runtime = desktop.runtime();
+    headless::HeadlessRuntime& runtime = desktop.runtime();
     EXPECT_EQ(currentLocale().dateText(runtime.now()), u"2000-01-01");
     EXPECT_EQ(currentLocale().timeText(runtime.now()), u"12:00:00");
     runtime.clock = Date{45000.25};
@@ -122,7 +122,7 @@ TEST_F(RuntimeRules, TextConvertsByTheInvariantRulesUntilAnotherLocaleIsGiven) {
     EXPECT_EQ(Variant(1.5).toText(), u"1.5");
     EXPECT_EQ(Variant(Date{36526}).toText(), u"2000-01-01");
     {
-        Desktop german;
+        headless::Desktop german;
         german.runtime().letLocale(germanLocale());
         EXPECT_EQ(Variant(1.5).toText(), u"1,5");
         EXPECT_EQ(Variant(Date{36526}).toText(), u"01.01.2000");
@@ -171,7 +171,7 @@ TEST_F(AppendToFile, FailsWithTheAccessWhereTheFileCannotBeOpened) {
 }
 
 TEST_F(RuntimeRules, ObjectsComeFromTheirFactories) {
-    HeadlessRuntime& runtime = desktop.runtime();
+    headless::HeadlessRuntime& runtime = desktop.runtime();
     EXPECT_EQ(errorNumberOf([&] { runtime.createObject(u"Some.Class"); }), ErrorNumber::cannotCreateObject);
     const auto object = std::make_shared<TestObject>();
     runtime.factories[u"Some.Class"] = [&] { return object; };

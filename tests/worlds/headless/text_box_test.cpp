@@ -18,8 +18,9 @@ class TextBoxRules : public DesktopFixture, private TextBoxClient {
         box->letVisible(true);
     }
 
-    static std::unique_ptr<HeadlessTextBox> headless(std::unique_ptr<TextBox> made) {
-        return std::unique_ptr<HeadlessTextBox>(static_cast<HeadlessTextBox*>(made.release()));
+    static std::unique_ptr<headless::HeadlessTextBox> headless(std::unique_ptr<TextBox> made) {
+        return std::unique_ptr<headless::HeadlessTextBox>(
+            static_cast<headless::HeadlessTextBox*>(made.release()));
     }
     /// "text|start,length"
     std::string state() const {
@@ -27,7 +28,7 @@ class TextBoxRules : public DesktopFixture, private TextBoxClient {
                std::to_string(box->SelLength());
     }
 
-    std::unique_ptr<HeadlessTextBox> box = headless(desktop.createTextBox(a->window(), *this));
+    std::unique_ptr<headless::HeadlessTextBox> box = headless(desktop.createTextBox(a->window(), *this));
     Integer swallowed = -1;
 
   private:

@@ -210,7 +210,7 @@ TEST_F(WindowAdoption, AnAdoptedWindowThatOutlivesItsParentStaysBehindHidden) {
 }
 
 TEST_F(WindowAdoption, AWindowOfAnotherDesktopIsNoParent) {
-    Desktop other(testFonts());
+    headless::Desktop other(testFonts());
     const auto elsewhere = other.createWindow(nullptr, *a);
     const auto further = other.createWindow(nullptr, *a);
     EXPECT_EQ(errorNumberOf([&] { desktop.createWindow(further.get(), *a); }),

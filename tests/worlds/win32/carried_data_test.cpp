@@ -32,7 +32,7 @@ class CarriedData : public ::testing::Test {
     }
 
     DraggedData dragged;
-    ObjectRef data = carriedData(ComRef<IDataObject>(&dragged));
+    ObjectRef data = win32::carriedData(win32::ComRef<IDataObject>(&dragged));
 };
 
 TEST_F(CarriedData, ATextIsReadInBothOfItsForms) {

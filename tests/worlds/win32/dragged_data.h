@@ -109,8 +109,8 @@ class DraggedData final : public IDataObject {
 };
 
 /// What the system would call when something is dragged over the window; none for one that takes no drops.
-inline ComRef<IDropTarget> dropTargetOf(HWND window) {
-    return ComRef<IDropTarget>(static_cast<IDropTarget*>(GetPropW(window, L"OleDropTargetInterface")));
+inline win32::ComRef<IDropTarget> dropTargetOf(HWND window) {
+    return win32::ComRef<IDropTarget>(static_cast<IDropTarget*>(GetPropW(window, L"OleDropTargetInterface")));
 }
 
 } // namespace lumtex::testing

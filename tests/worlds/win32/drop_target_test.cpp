@@ -61,12 +61,12 @@ class DropTarget : public ::testing::Test {
     ~DropTarget() override {
         window.reset();
         catcher.seen = nullptr;
-        EXPECT_EQ(moduleLocks(), 0);
+        EXPECT_EQ(win32::moduleLocks(), 0);
         EXPECT_EQ(dragged.references, 1U);
         CoUninitialize();
     }
 
-    HWND hwnd() const { return toHWND(window->hWnd()); }
+    HWND hwnd() const { return win32::toHWND(window->hWnd()); }
     POINTL onScreen(LONG x, LONG y) const {
         POINT at{x, y};
         ClientToScreen(hwnd(), &at);
@@ -74,7 +74,7 @@ class DropTarget : public ::testing::Test {
     }
 
     Catcher catcher;
-    Win32World world{GetModuleHandleW(nullptr)};
+    win32::Win32World world{GetModuleHandleW(nullptr)};
     std::unique_ptr<Window> window = world.createWindow(nullptr, catcher);
     DraggedData dragged;
     DWORD effect = DROPEFFECT_COPY | DROPEFFECT_MOVE;

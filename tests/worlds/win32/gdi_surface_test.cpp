@@ -12,21 +12,21 @@ namespace {
 constexpr OLE_COLOR red = 0x0000FFU;
 
 TEST(GdiSurface, StartsWhiteAndWithoutDrawing) {
-    const GdiSurface surface(3, 2, 96, 96);
+    const win32::GdiSurface surface(3, 2, 96, 96);
     EXPECT_EQ(surface.image(), Bitmap(3, 2, 0xFFFFFFFFU));
     EXPECT_EQ(surface.BackColor(), white);
     EXPECT_EQ(surface.ForeColor(), black);
 }
 
 TEST(GdiSurface, AssigningBackColorErasesAllThatWasDrawn) {
-    GdiSurface surface(3, 2, 96, 96);
+    win32::GdiSurface surface(3, 2, 96, 96);
     surface.fillBox(0, 0, 1, 1, red);
     surface.letBackColor(0x00FF00U);
     EXPECT_EQ(surface.image(), Bitmap(3, 2, 0xFF00FF00U));
 }
 
 TEST(GdiSurface, ASystemColorIsTheUsers) {
-    GdiSurface surface(1, 1, 96, 96);
+    win32::GdiSurface surface(1, 1, 96, 96);
     for (const int index : {COLOR_BTNFACE, COLOR_GRAYTEXT, COLOR_HIGHLIGHT, COLOR_WINDOW}) {
         surface.letBackColor(systemColorBit | static_cast<OLE_COLOR>(index));
         const COLORREF color = GetSysColor(index);
@@ -37,7 +37,7 @@ TEST(GdiSurface, ASystemColorIsTheUsers) {
 }
 
 TEST(GdiSurface, ResizingKeepsWhatStillFitsAndShowsBackColorBeyond) {
-    GdiSurface surface(4, 4, 96, 96);
+    win32::GdiSurface surface(4, 4, 96, 96);
     surface.letBackColor(0xFF0000U);
     surface.fillBox(0, 0, 3, 3, red);
     surface.resize(2, 6);
@@ -51,7 +51,7 @@ TEST(GdiSurface, ResizingKeepsWhatStillFitsAndShowsBackColorBeyond) {
 }
 
 TEST(GdiSurface, ResizingKeepsTheFontAndTheColors) {
-    GdiSurface surface(40, 40, 96, 96);
+    win32::GdiSurface surface(40, 40, 96, 96);
     surface.setFont({.Name = u"Courier New", .Size = 20});
     const Single height = surface.textHeight(u"A");
     surface.letForeColor(red);
@@ -61,7 +61,7 @@ TEST(GdiSurface, ResizingKeepsTheFontAndTheColors) {
 }
 
 TEST(GdiSurface, ASurfaceWithoutExtentTakesEveryOperation) {
-    GdiSurface surface(0, -5, 96, 96);
+    win32::GdiSurface surface(0, -5, 96, 96);
     const BitmapPicture picture(Bitmap(2, 2, 0xFF112233U));
     const Point triangle[] = {{0, 0}, {5, 0}, {0, 5}};
     Rect rect{0, 0, 10, 10};
@@ -79,7 +79,7 @@ TEST(GdiSurface, ASurfaceWithoutExtentTakesEveryOperation) {
 }
 
 TEST(GdiSurface, ASizeBeyondAllMemoryIsRefusedAndTheSurfaceStaysAsItWas) {
-    GdiSurface surface(2, 2, 96, 96);
+    win32::GdiSurface surface(2, 2, 96, 96);
     surface.letBackColor(red);
     try {
         surface.resize(1'000'000, 1'000'000);
@@ -91,7 +91,7 @@ TEST(GdiSurface, ASizeBeyondAllMemoryIsRefusedAndTheSurfaceStaysAsItWas) {
 }
 
 TEST(GdiSurface, CoordinatesThatDoNotFitThrow) {
-    GdiSurface surface(2, 2, 96, 96);
+    win32::GdiSurface surface(2, 2, 96, 96);
     const Single infinite = std::numeric_limits<Single>::infinity();
     const Single notANumber = std::numeric_limits<Single>::quiet_NaN();
     for (const Single bad : {infinite, -infinite, notANumber, 3e9F}) {
@@ -103,16 +103,16 @@ TEST(GdiSurface, CoordinatesThatDoNotFitThrow) {
 }
 
 TEST(GdiSurface, LengthsAreConvertedByThePixelsOfTheDevice) {
-    const GdiSurface usual(1, 1, 96, 96);
-    const GdiSurface fine(1, 1, 144, 192);
+    const win32::GdiSurface usual(1, 1, 96, 96);
+    const win32::GdiSurface fine(1, 1, 144, 192);
     EXPECT_EQ(scaleX(usual, 1440, Unit::twips, Unit::pixels), 96);
     EXPECT_EQ(scaleX(fine, 1440, Unit::twips, Unit::pixels), 144);
     EXPECT_EQ(scaleY(fine, 1440, Unit::twips, Unit::pixels), 192);
 }
 
 TEST(GdiSurface, TextGrowsWithThePixelsOfTheDevice) {
-    GdiSurface usual(1, 1, 96, 96);
-    GdiSurface fine(1, 1, 192, 192);
+    win32::GdiSurface usual(1, 1, 96, 96);
+    win32::GdiSurface fine(1, 1, 192, 192);
     EXPECT_NEAR(fine.textHeight(u"A"), 2 * usual.textHeight(u"A"), 3);
 }
 
@@ -120,14 +120,14 @@ TEST(GdiSurface, TheScreensPixelsCountWhereNothingElseIsAskedFor) {
     const HDC screen = GetDC(nullptr);
     const int expected = GetDeviceCaps(screen, LOGPIXELSX);
     ReleaseDC(nullptr, screen);
-    EXPECT_EQ(makeGdiSurface(1, 1)->pixelsPerInchX(), expected);
+    EXPECT_EQ(win32::makeGdiSurface(1, 1)->pixelsPerInchX(), expected);
 }
 
 TEST(GdiSurface, PresentingCopiesEveryPixel) {
-    GdiSurface surface(3, 3, 96, 96);
+    win32::GdiSurface surface(3, 3, 96, 96);
     surface.letBackColor(0x332211U);
     surface.pset(2, 1, red);
-    GdiSurface target(4, 4, 96, 96);
+    win32::GdiSurface target(4, 4, 96, 96);
     surface.present(target.memoryDc());
     const Bitmap shown = target.image();
     EXPECT_EQ(shown.at(0, 0), 0xFF112233U);
@@ -137,7 +137,7 @@ TEST(GdiSurface, PresentingCopiesEveryPixel) {
 
 TEST(GdiSurface, ManySurfacesLeaveNoDrawingObjectsBehind) {
     const auto use = [](int round) {
-        GdiSurface surface(20, 20, 96, 96);
+        win32::GdiSurface surface(20, 20, 96, 96);
         surface.setFont({.Name = u"Courier New", .Size = static_cast<Single>(8 + round % 5)});
         surface.print(0, 0, u"text");
         surface.paintPicture(BitmapPicture(Bitmap(3, 3, 0x80008000U)), 1, 1);
@@ -156,7 +156,7 @@ TEST(GdiSurface, ManySurfacesLeaveNoDrawingObjectsBehind) {
 }
 
 TEST(GdiSurface, FontsThatAreNoLongerUsedAreLetGo) {
-    GdiSurface surface(20, 20, 96, 96);
+    win32::GdiSurface surface(20, 20, 96, 96);
     const auto useSizes = [&](int first, int count) {
         for (int size = first; size < first + count; ++size) {
             surface.setFont({.Name = u"Courier New", .Size = static_cast<Single>(size)});

@@ -17,10 +17,10 @@ class HomelessList : public ::testing::Test {
             list.RowsAdd(Long{-1}, u",", u"text");
         list.Redraw();
     }
-    HWND window() { return toHWND(list.window().hWnd()); }
+    HWND window() { return win32::toHWND(list.window().hWnd()); }
 
     NotedRuntime runtime{GetModuleHandleW(nullptr)};
-    Win32World world{GetModuleHandleW(nullptr), nullptr, &runtime};
+    win32::Win32World world{GetModuleHandleW(nullptr), nullptr, &runtime};
     TestHost host;
     RecordingEvents events;
     lmListView list{world, host, events};

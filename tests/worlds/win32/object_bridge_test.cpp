@@ -14,18 +14,18 @@ namespace {
 
 /// An object of ours, seen by the host, seen by us again: both directions in one.
 ObjectRef thereAndBack(const ObjectRef& object) {
-    const ComRef<IDispatch> dispatch = toIDispatch(object);
-    return objectFrom(dispatch.get());
+    const win32::ComRef<IDispatch> dispatch = win32::toIDispatch(object);
+    return win32::objectFrom(dispatch.get());
 }
 
 TEST(ObjectBridge, GivesTheHostItsOwnObjectBack) {
-    const ComRef<IDispatch> hosts = toIDispatch(std::make_shared<TestObject>());
-    EXPECT_EQ(toIDispatch(objectFrom(hosts.get())).get(), hosts.get());
+    const win32::ComRef<IDispatch> hosts = win32::toIDispatch(std::make_shared<TestObject>());
+    EXPECT_EQ(win32::toIDispatch(win32::objectFrom(hosts.get())).get(), hosts.get());
 }
 
 TEST(ObjectBridge, KnowsNothingAsNothing) {
-    EXPECT_EQ(objectFrom(nullptr), nullptr);
-    EXPECT_FALSE(toIDispatch(nullptr));
+    EXPECT_EQ(win32::objectFrom(nullptr), nullptr);
+    EXPECT_FALSE(win32::toIDispatch(nullptr));
 }
 
 TEST(ObjectBridge, ReadsAndAssignsProperties) {
@@ -82,7 +82,7 @@ TEST(ObjectBridge, KeepsNumberAndTextOfAFailure) {
 }
 
 TEST(ObjectBridge, RefusesBadParametersOfACall) {
-    const ComRef<IDispatch> dispatch = toIDispatch(std::make_shared<TestObject>());
+    const win32::ComRef<IDispatch> dispatch = win32::toIDispatch(std::make_shared<TestObject>());
     DISPPARAMS none{};
     EXPECT_EQ(dispatch->Invoke(1, IID_IDispatch, 0, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr),
               DISP_E_UNKNOWNINTERFACE);
@@ -109,7 +109,7 @@ TEST(ObjectBridge, LetsGoOfWhatItHolds) {
 TEST(ObjectBridge, RefusesArgumentsThatLeadNowhere) {
     const auto object = std::make_shared<TestObject>();
     object->methods[u"Take"] = [](std::span<Variant>) { return Variant(); };
-    const ComRef<IDispatch> hosts = toIDispatch(object);
+    const win32::ComRef<IDispatch> hosts = win32::toIDispatch(object);
     auto* name = const_cast<wchar_t*>(L"Take");
     DISPID id = DISPID_UNKNOWN;
     ASSERT_EQ(hosts->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id), S_OK);

@@ -15,7 +15,7 @@ class OleFontTest : public ::testing::Test {
     ~OleFontTest() override { CoUninitialize(); }
 
     /// A font object as a host makes one.
-    static ComRef<IFontDisp> hostFont() {
+    static win32::ComRef<IFontDisp> hostFont() {
         wchar_t name[] = L"DejaVu Sans";
         FONTDESC description{};
         description.cbSizeofstruct = sizeof description;
@@ -26,12 +26,12 @@ class OleFontTest : public ::testing::Test {
         description.fUnderline = TRUE;
         void* made = nullptr;
         EXPECT_EQ(OleCreateFontIndirect(&description, IID_IFontDisp, &made), S_OK);
-        return ComRef<IFontDisp>::adopting(static_cast<IFontDisp*>(made));
+        return win32::ComRef<IFontDisp>::adopting(static_cast<IFontDisp*>(made));
     }
     /// As scripts read it.
     static String nameOf(IFontDisp* object) {
         DISPPARAMS none{};
-        OwnedVARIANT name;
+        win32::OwnedVARIANT name;
         EXPECT_EQ(object->Invoke(DISPID_FONT_NAME,
                                  IID_NULL,
                                  LOCALE_USER_DEFAULT,
@@ -41,7 +41,7 @@ class OleFontTest : public ::testing::Test {
                                  nullptr,
                                  nullptr),
                   S_OK);
-        return fromVARIANT(name.get()).toText();
+        return win32::fromVARIANT(name.get()).toText();
     }
     static ULONG referencesOf(IUnknown* object) {
         object->AddRef();
@@ -50,13 +50,13 @@ class OleFontTest : public ::testing::Test {
 };
 
 TEST_F(OleFontTest, NothingStaysNothing) {
-    EXPECT_EQ(fontFrom(nullptr), nullptr);
-    EXPECT_FALSE(toIFont(nullptr));
+    EXPECT_EQ(win32::fontFrom(nullptr), nullptr);
+    EXPECT_FALSE(win32::toIFont(nullptr));
 }
 
 TEST_F(OleFontTest, AHostsFontBringsItsAttributes) {
-    const ComRef<IFontDisp> host = hostFont();
-    const FontRef font = fontFrom(host.get());
+    const win32::ComRef<IFontDisp> host = hostFont();
+    const FontRef font = win32::fontFrom(host.get());
     ASSERT_NE(font, nullptr);
     EXPECT_EQ(font->spec.Name, u"DejaVu Sans");
     EXPECT_NEAR(font->spec.Size, 9, 0.5);
@@ -67,9 +67,9 @@ TEST_F(OleFontTest, AHostsFontBringsItsAttributes) {
 }
 
 TEST_F(OleFontTest, AChangeByTheHostShowsInOurs) {
-    const ComRef<IFontDisp> host = hostFont();
-    const FontRef font = fontFrom(host.get());
-    const ComRef<IFont> attributes = host.as<IFont>();
+    const win32::ComRef<IFontDisp> host = hostFont();
+    const FontRef font = win32::fontFrom(host.get());
+    const win32::ComRef<IFont> attributes = host.as<IFont>();
     attributes->put_Bold(FALSE);
     attributes->put_Italic(TRUE);
     attributes->put_Strikethrough(TRUE);
@@ -87,32 +87,32 @@ TEST_F(OleFontTest, AChangeByTheHostShowsInOurs) {
 }
 
 TEST_F(OleFontTest, TheSameObjectIsTheSameFontAndComesBack) {
-    const ComRef<IFontDisp> host = hostFont();
-    const FontRef font = fontFrom(host.get());
-    EXPECT_EQ(fontFrom(host.get()), font);
-    EXPECT_EQ(toIFont(font).as<IUnknown>().get(), host.as<IUnknown>().get());
+    const win32::ComRef<IFontDisp> host = hostFont();
+    const FontRef font = win32::fontFrom(host.get());
+    EXPECT_EQ(win32::fontFrom(host.get()), font);
+    EXPECT_EQ(win32::toIFont(font).as<IUnknown>().get(), host.as<IUnknown>().get());
 }
 
 TEST_F(OleFontTest, OursIsLetGoTogetherWithTheObject) {
-    const ComRef<IFontDisp> host = hostFont();
+    const win32::ComRef<IFontDisp> host = hostFont();
     const ULONG before = referencesOf(host.get());
-    FontRef font = fontFrom(host.get());
+    FontRef font = win32::fontFrom(host.get());
     EXPECT_GT(referencesOf(host.get()), before);
     font.reset();
     EXPECT_EQ(referencesOf(host.get()), before);
-    const ComRef<IFont> attributes = host.as<IFont>();
+    const win32::ComRef<IFont> attributes = host.as<IFont>();
     EXPECT_EQ(attributes->put_Bold(FALSE), S_OK) << "tells nobody who is gone";
 }
 
 TEST_F(OleFontTest, ACloneSharesNothing) {
-    const ComRef<IFontDisp> host = hostFont();
-    const FontRef font = fontFrom(host.get());
+    const win32::ComRef<IFontDisp> host = hostFont();
+    const FontRef font = win32::fontFrom(host.get());
     const FontRef clone = font->Clone();
     EXPECT_EQ(clone->spec, font->spec);
     host.as<IFont>()->put_Bold(FALSE);
     EXPECT_TRUE(clone->spec.Bold);
-    EXPECT_NE(toIFont(clone).as<IUnknown>().get(), host.as<IUnknown>().get());
-    toIFont(clone).as<IFont>()->put_Italic(TRUE);
+    EXPECT_NE(win32::toIFont(clone).as<IUnknown>().get(), host.as<IUnknown>().get());
+    win32::toIFont(clone).as<IFont>()->put_Italic(TRUE);
     EXPECT_TRUE(clone->spec.Italic);
     EXPECT_FALSE(font->spec.Italic);
 }
@@ -120,7 +120,7 @@ TEST_F(OleFontTest, ACloneSharesNothing) {
 TEST_F(OleFontTest, OursBecomesAnObjectWithItsAttributes) {
     const auto font = std::make_shared<Font>(FontSpec{
         .Name = u"DejaVu Sans Mono", .Size = 9.75F, .Bold = true, .Italic = true, .Strikethrough = true});
-    const ComRef<IFont> object = toIFont(font).as<IFont>();
+    const win32::ComRef<IFont> object = win32::toIFont(font).as<IFont>();
     ASSERT_TRUE(object);
     BSTR name = nullptr;
     BOOL bold = FALSE;
@@ -128,7 +128,7 @@ TEST_F(OleFontTest, OursBecomesAnObjectWithItsAttributes) {
     object->get_Name(&name);
     object->get_Bold(&bold);
     object->get_Underline(&underline);
-    EXPECT_EQ(textOf(name), u"DejaVu Sans Mono");
+    EXPECT_EQ(win32::textOf(name), u"DejaVu Sans Mono");
     EXPECT_NE(bold, FALSE);
     EXPECT_EQ(underline, FALSE);
     SysFreeString(name);
@@ -136,17 +136,17 @@ TEST_F(OleFontTest, OursBecomesAnObjectWithItsAttributes) {
 
 TEST_F(OleFontTest, WhatTheHostChangesInAnObjectOfOursShowsInOurs) {
     const auto font = std::make_shared<Font>(FontSpec{.Name = u"DejaVu Sans Mono", .Size = 9.75F});
-    const ComRef<IFontDisp> object = toIFont(font);
+    const win32::ComRef<IFontDisp> object = win32::toIFont(font);
     object.as<IFont>()->put_Underline(TRUE);
     EXPECT_TRUE(font->spec.Underline);
-    EXPECT_EQ(toIFont(font).get(), object.get()) << "one object as long as it is held";
-    EXPECT_EQ(fontFrom(object.get()), font) << "given back, it is the same font";
+    EXPECT_EQ(win32::toIFont(font).get(), object.get()) << "one object as long as it is held";
+    EXPECT_EQ(win32::fontFrom(object.get()), font) << "given back, it is the same font";
 }
 
 TEST_F(OleFontTest, AnObjectOfOursKeepsTheFontAndLetsGoOfItAtItsEnd) {
     auto font = std::make_shared<Font>(FontSpec{.Name = u"DejaVu Sans Mono", .Size = 9.75F});
     const std::weak_ptr<Font> watched = font;
-    ComRef<IFontDisp> object = toIFont(font);
+    win32::ComRef<IFontDisp> object = win32::toIFont(font);
     font.reset();
     EXPECT_FALSE(watched.expired());
     object.as<IFont>()->put_Bold(TRUE);
@@ -156,27 +156,27 @@ TEST_F(OleFontTest, AnObjectOfOursKeepsTheFontAndLetsGoOfItAtItsEnd) {
 
 TEST_F(OleFontTest, AnObjectMadeAnewKnowsTheChangesOfTheOneBefore) {
     const auto font = std::make_shared<Font>(FontSpec{.Name = u"DejaVu Sans Mono", .Size = 9.75F});
-    toIFont(font).as<IFont>()->put_Italic(TRUE);
+    win32::toIFont(font).as<IFont>()->put_Italic(TRUE);
     BOOL italic = FALSE;
-    toIFont(font).as<IFont>()->get_Italic(&italic);
+    win32::toIFont(font).as<IFont>()->get_Italic(&italic);
     EXPECT_NE(italic, FALSE);
 }
 
 TEST_F(OleFontTest, OursTellsItsNameWhereThatFaceIsNotInstalled) {
     const auto font = std::make_shared<Font>(FontSpec{.Name = u"No Such Face", .Size = 12});
-    const ComRef<IFontDisp> object = toIFont(font);
+    const win32::ComRef<IFontDisp> object = win32::toIFont(font);
     EXPECT_EQ(nameOf(object.get()), u"No Such Face");
     object.as<IFont>()->put_Italic(TRUE);
     EXPECT_EQ(nameOf(object.get()), u"No Such Face");
     EXPECT_EQ(font->spec.Name, u"No Such Face");
-    ComRef<IFont> clone;
+    win32::ComRef<IFont> clone;
     ASSERT_EQ(object.as<IFont>()->Clone(clone.out()), S_OK);
     EXPECT_EQ(nameOf(clone.as<IFontDisp>().get()), u"No Such Face");
 }
 
 TEST_F(OleFontTest, OursTellsWhatTheSystemFoundOnceTheHostNamesAnother) {
     const auto font = std::make_shared<Font>(FontSpec{.Name = u"No Such Face", .Size = 12});
-    const ComRef<IFontDisp> object = toIFont(font);
+    const win32::ComRef<IFontDisp> object = win32::toIFont(font);
     for (const wchar_t* name : {L"DejaVu Sans Mono", L"No Such Face Either"}) {
         const BSTR text = SysAllocString(name);
         EXPECT_EQ(object.as<IFont>()->put_Name(text), S_OK);
@@ -188,8 +188,8 @@ TEST_F(OleFontTest, OursTellsWhatTheSystemFoundOnceTheHostNamesAnother) {
 
 TEST_F(OleFontTest, AnObjectOfOursIsOneWithAllItsInterfaces) {
     const auto font = std::make_shared<Font>(FontSpec{.Name = u"DejaVu Sans Mono", .Size = 9.75F});
-    const ComRef<IFontDisp> object = toIFont(font);
-    const ComRef<IUnknown> identity = object.as<IUnknown>();
+    const win32::ComRef<IFontDisp> object = win32::toIFont(font);
+    const win32::ComRef<IUnknown> identity = object.as<IUnknown>();
     EXPECT_EQ(object.as<IFont>().as<IUnknown>().get(), identity.get());
     EXPECT_EQ(object.as<IDispatch>().as<IUnknown>().get(), identity.get());
     EXPECT_TRUE(object.as<IPersistStream>()) << "settings keep it by itself";
@@ -199,17 +199,18 @@ TEST_F(OleFontTest, AnObjectOfOursIsOneWithAllItsInterfaces) {
 
 TEST_F(OleFontTest, AnInterfaceOfTheSystemsMayOutliveTheObject) {
     auto font = std::make_shared<Font>(FontSpec{.Name = u"DejaVu Sans Mono", .Size = 9.75F});
-    ComRef<IFontDisp> object = toIFont(font);
+    win32::ComRef<IFontDisp> object = win32::toIFont(font);
     const auto stream = object.as<IPersistStream>();
     object = {};
     EXPECT_EQ(stream->IsDirty(), S_OK);
-    EXPECT_EQ(nameOf(toIFont(font).get()), u"DejaVu Sans Mono") << "a new object, not the one that went";
+    EXPECT_EQ(nameOf(win32::toIFont(font).get()), u"DejaVu Sans Mono")
+        << "a new object, not the one that went";
 }
 
 TEST_F(OleFontTest, SizesBeyondAllBoundsDoNoHarm) {
     for (const Single size : {-1.0F, 0.0F, 1e30F, std::numeric_limits<Single>::quiet_NaN()}) {
         const auto font = std::make_shared<Font>(FontSpec{.Name = u"DejaVu Sans Mono", .Size = size});
-        EXPECT_TRUE(toIFont(font)) << size;
+        EXPECT_TRUE(win32::toIFont(font)) << size;
     }
 }
 

@@ -24,7 +24,8 @@ class OlePictureImage : public ::testing::Test {
         description.bmp.hbitmap = bitmap;
         void* made = nullptr;
         EXPECT_EQ(OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE, &made), S_OK);
-        return pictureFrom(ComRef<IPictureDisp>::adopting(static_cast<IPictureDisp*>(made)).get());
+        return win32::pictureFrom(
+            win32::ComRef<IPictureDisp>::adopting(static_cast<IPictureDisp*>(made)).get());
     }
 
     /// One line of `bits` a pixel with these bytes, filled up to four.
@@ -48,7 +49,7 @@ class OlePictureImage : public ::testing::Test {
 
     static int depthOf(const Image& image) { return image.at(28); }
 
-    Win32Runtime runtime{GetModuleHandleW(nullptr)};
+    win32::Win32Runtime runtime{GetModuleHandleW(nullptr)};
 };
 
 TEST_F(OlePictureImage, ABitmapKeepsItsDepthAndItsPalette) {
@@ -88,13 +89,13 @@ TEST_F(OlePictureImage, AnIconKeepsAllItsImages) {
     }
     for (const Image& one : {small, large})
         image.insert(image.end(), one.begin() + 22, one.end());
-    const PictureRef picture = loadOlePicture(image);
+    const PictureRef picture = win32::loadOlePicture(image);
     EXPECT_EQ(picture->kind(), PictureKind::icon);
     EXPECT_EQ(runtime.imageOfPicture(*picture), image);
 }
 
 TEST_F(OlePictureImage, APictureOfOursIsNoneOfTheSystems) {
-    EXPECT_TRUE(imageOfHostsPicture(BitmapPicture(Bitmap(2, 2, 0xFF000000U))).empty());
+    EXPECT_TRUE(win32::imageOfHostsPicture(BitmapPicture(Bitmap(2, 2, 0xFF000000U))).empty());
 }
 
 } // namespace

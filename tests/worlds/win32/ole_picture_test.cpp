@@ -44,23 +44,23 @@ class OlePictureTest : public ::testing::Test {
 };
 
 TEST_F(OlePictureTest, NothingStaysNothing) {
-    EXPECT_EQ(pictureFrom(nullptr), nullptr);
-    EXPECT_FALSE(toIPicture(nullptr));
-    EXPECT_FALSE(toIPicture(std::make_shared<BitmapPicture>(Bitmap())));
+    EXPECT_EQ(win32::pictureFrom(nullptr), nullptr);
+    EXPECT_FALSE(win32::toIPicture(nullptr));
+    EXPECT_FALSE(win32::toIPicture(std::make_shared<BitmapPicture>(Bitmap())));
 }
 
 TEST_F(OlePictureTest, ABitmapGoesToAHostAndBackUnchanged) {
     PictureRef picture = plain();
-    const ComRef<IPictureDisp> object = toIPicture(picture);
+    const win32::ComRef<IPictureDisp> object = win32::toIPicture(picture);
     ASSERT_TRUE(object);
-    EXPECT_EQ(pictureFrom(object.get()), picture) << "the very same while somebody holds it";
+    EXPECT_EQ(win32::pictureFrom(object.get()), picture) << "the very same while somebody holds it";
     short type = 0;
     object.as<IPicture>()->get_Type(&type);
     EXPECT_EQ(type, PICTYPE_BITMAP);
 }
 
 TEST_F(OlePictureTest, AHostsBitmapShowsItsPixelsAndItsSize) {
-    const PictureRef picture = loadOlePicture(bitmapFile());
+    const PictureRef picture = win32::loadOlePicture(bitmapFile());
     EXPECT_EQ(picture->kind(), PictureKind::bitmap);
     Bitmap expected(2, 2, 0xFFFF0000U);
     expected.at(1, 0) = 0xFF00FF00U;
@@ -72,15 +72,15 @@ TEST_F(OlePictureTest, AHostsBitmapShowsItsPixelsAndItsSize) {
 }
 
 TEST_F(OlePictureTest, TheSameObjectIsTheSamePicture) {
-    const PictureRef picture = loadOlePicture(bitmapFile());
-    const ComRef<IPictureDisp> object = toIPicture(picture);
-    EXPECT_EQ(pictureFrom(object.get()), picture);
-    EXPECT_EQ(toIPicture(picture).get(), object.get());
+    const PictureRef picture = win32::loadOlePicture(bitmapFile());
+    const win32::ComRef<IPictureDisp> object = win32::toIPicture(picture);
+    EXPECT_EQ(win32::pictureFrom(object.get()), picture);
+    EXPECT_EQ(win32::toIPicture(picture).get(), object.get());
 }
 
 TEST_F(OlePictureTest, APictureWithTransparentPartsIsAnIconForTheHost) {
     const auto picture = std::make_shared<BitmapPicture>(stripes());
-    const ComRef<IPicture> object = toIPicture(picture).as<IPicture>();
+    const win32::ComRef<IPicture> object = win32::toIPicture(picture).as<IPicture>();
     short type = 0;
     object->get_Type(&type);
     EXPECT_EQ(type, PICTYPE_ICON);
@@ -89,7 +89,7 @@ TEST_F(OlePictureTest, APictureWithTransparentPartsIsAnIconForTheHost) {
 /// The object is handed over as bytes, so that nothing of where it came from is known.
 TEST_F(OlePictureTest, AnIconComesBackWithItsTransparency) {
     const auto picture = std::make_shared<BitmapPicture>(stripes());
-    const ComRef<IPicture> object = toIPicture(picture).as<IPicture>();
+    const win32::ComRef<IPicture> object = win32::toIPicture(picture).as<IPicture>();
     OLE_HANDLE handle = 0;
     ASSERT_EQ(object->get_Handle(&handle), S_OK);
     PICTDESC description{};
@@ -99,8 +99,8 @@ TEST_F(OlePictureTest, AnIconComesBackWithItsTransparency) {
         CopyIcon(reinterpret_cast<HICON>(static_cast<INT_PTR>(static_cast<int>(handle))));
     void* made = nullptr;
     ASSERT_EQ(OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE, &made), S_OK);
-    const auto stranger = ComRef<IPictureDisp>::adopting(static_cast<IPictureDisp*>(made));
-    const PictureRef back = pictureFrom(stranger.get());
+    const auto stranger = win32::ComRef<IPictureDisp>::adopting(static_cast<IPictureDisp*>(made));
+    const PictureRef back = win32::pictureFrom(stranger.get());
     ASSERT_NE(back, picture);
     EXPECT_EQ(back->kind(), PictureKind::icon);
     ASSERT_EQ(back->bitmap().width, 16);
@@ -117,8 +117,8 @@ TEST_F(OlePictureTest, AnIconComesBackWithItsTransparency) {
 TEST_F(OlePictureTest, AnObjectOfOursKeepsThePictureAndLetsGoOfItAtItsEnd) {
     PictureRef picture = plain();
     const std::weak_ptr<const Picture> watched = picture;
-    ComRef<IPictureDisp> object = toIPicture(picture);
-    EXPECT_EQ(toIPicture(picture).get(), object.get());
+    win32::ComRef<IPictureDisp> object = win32::toIPicture(picture);
+    EXPECT_EQ(win32::toIPicture(picture).get(), object.get());
     picture.reset();
     EXPECT_FALSE(watched.expired());
     object = {};
@@ -126,8 +126,8 @@ TEST_F(OlePictureTest, AnObjectOfOursKeepsThePictureAndLetsGoOfItAtItsEnd) {
 }
 
 TEST_F(OlePictureTest, OursLetsGoOfTheObjectAtItsEnd) {
-    PictureRef picture = loadOlePicture(bitmapFile());
-    const ComRef<IPictureDisp> object = toIPicture(picture);
+    PictureRef picture = win32::loadOlePicture(bitmapFile());
+    const win32::ComRef<IPictureDisp> object = win32::toIPicture(picture);
     object->AddRef();
     const ULONG before = object->Release();
     picture.reset();
@@ -141,12 +141,12 @@ TEST_F(OlePictureTest, AnObjectWithoutAPictureHasNoPixels) {
     description.picType = PICTYPE_NONE;
     void* made = nullptr;
     ASSERT_EQ(OleCreatePictureIndirect(&description, IID_IPictureDisp, TRUE, &made), S_OK);
-    const auto object = ComRef<IPictureDisp>::adopting(static_cast<IPictureDisp*>(made));
-    const PictureRef picture = pictureFrom(object.get());
+    const auto object = win32::ComRef<IPictureDisp>::adopting(static_cast<IPictureDisp*>(made));
+    const PictureRef picture = win32::pictureFrom(object.get());
     ASSERT_NE(picture, nullptr);
     EXPECT_EQ(picture->bitmap(), Bitmap());
     EXPECT_EQ(picture->Width(), 0);
-    EXPECT_EQ(toIPicture(picture).get(), object.get());
+    EXPECT_EQ(win32::toIPicture(picture).get(), object.get());
 }
 
 TEST_F(OlePictureTest, BytesThatAreNoPictureThrow481) {
@@ -155,7 +155,7 @@ TEST_F(OlePictureTest, BytesThatAreNoPictureThrow481) {
     const std::vector<Byte> words{'n', 'o', ' ', 'p', 'i', 'c', 't', 'u', 'r', 'e'};
     for (const std::vector<Byte>& bytes : {std::vector<Byte>(), words, cut}) {
         try {
-            loadOlePicture(bytes);
+            win32::loadOlePicture(bytes);
             ADD_FAILURE() << bytes.size() << " bytes were read";
         } catch (const RuntimeError& error) {
             EXPECT_EQ(error.number(), ErrorNumber::invalidPicture);
@@ -165,11 +165,11 @@ TEST_F(OlePictureTest, BytesThatAreNoPictureThrow481) {
 
 TEST_F(OlePictureTest, ManyPicturesLeaveNoDrawingObjectsBehind) {
     const auto use = [] {
-        const PictureRef loaded = loadOlePicture(bitmapFile());
-        EXPECT_EQ(pictureFrom(toIPicture(loaded).get()), loaded);
+        const PictureRef loaded = win32::loadOlePicture(bitmapFile());
+        EXPECT_EQ(win32::pictureFrom(win32::toIPicture(loaded).get()), loaded);
         for (const Bitmap& bitmap : {fourColors(), stripes()}) {
             const auto picture = std::make_shared<BitmapPicture>(bitmap);
-            EXPECT_TRUE(toIPicture(picture));
+            EXPECT_TRUE(win32::toIPicture(picture));
         }
     };
     for (int round = 0; round < 5; ++round)

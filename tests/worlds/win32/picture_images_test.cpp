@@ -23,7 +23,7 @@ class PictureImages : public ::testing::Test {
         return 0;
     }
 
-    Win32Runtime runtime{GetModuleHandleW(nullptr)};
+    win32::Win32Runtime runtime{GetModuleHandleW(nullptr)};
 };
 
 Bitmap pattern(Long width, Long height) {
@@ -77,7 +77,7 @@ TEST_F(PictureImages, AnImageThatDeclaresMorePixelsThanItsBytesCanHoldThrows481)
 TEST_F(PictureImages, DamagedImagesNeverReachTheSystem) {
     for (const NamedImage& damaged : damagedImages()) {
         EXPECT_EQ(failureOf(damaged.image), ErrorNumber::invalidPicture) << damaged.name;
-        EXPECT_THROW(loadOlePicture(damaged.image), RuntimeError) << damaged.name;
+        EXPECT_THROW(win32::loadOlePicture(damaged.image), RuntimeError) << damaged.name;
     }
 }
 
@@ -102,7 +102,7 @@ TEST_F(PictureImages, EachHeaderByteMayBeAnything) {
 TEST_F(PictureImages, OtherFormatsPassTheSystemsLoaderAlone) {
     for (const Image& image : {pngImage(), gifImage()}) {
         EXPECT_EQ(failureOf(image), ErrorNumber::invalidPicture) << "no content file holds them";
-        EXPECT_FALSE(loadOlePicture(image)->bitmap().pixels.empty());
+        EXPECT_FALSE(win32::loadOlePicture(image)->bitmap().pixels.empty());
     }
 }
 

@@ -10,10 +10,10 @@ namespace {
 
 class StoredValues : public ::testing::Test {
   protected:
-    StoredValues() { RegCreateKeyW(HKEY_CURRENT_USER, wide(path), &key_); }
+    StoredValues() { RegCreateKeyW(HKEY_CURRENT_USER, win32::wide(path), &key_); }
     ~StoredValues() override {
         RegCloseKey(key_);
-        RegDeleteKeyW(HKEY_CURRENT_USER, wide(path));
+        RegDeleteKeyW(HKEY_CURRENT_USER, win32::wide(path));
     }
 
     void store(DWORD type, const void* data, std::size_t size) {
@@ -22,7 +22,7 @@ class StoredValues : public ::testing::Test {
     void store(DWORD type, const String& text) { store(type, text.data(), text.size() * sizeof(char16_t)); }
     std::optional<String> read() const { return settings.text(path, u"Value"); }
 
-    const StoredSettings settings;
+    const win32::StoredSettings settings;
     const ScratchFolder scratch;
     /// Of this program's own, as its folder is.
     const String path = u"Software\\" + fromUtf8(scratch.path.filename().string());

@@ -58,8 +58,8 @@ class SurfacePair : public ::testing::Test {
     }
     ::testing::AssertionResult agree() { return samePixels(windows.image(), software.image()); }
 
-    GdiSurface windows{width, height, 96, 96};
-    RasterSurface software{width, height, raster::FontLibrary::ofSystem()};
+    win32::GdiSurface windows{width, height, 96, 96};
+    raster::RasterSurface software{width, height, raster::FontLibrary::ofSystem()};
 };
 
 } // namespace lumtex::testing

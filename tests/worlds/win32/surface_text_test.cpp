@@ -53,8 +53,8 @@ class SurfaceText : public ::testing::Test {
             surface->setFont({.Name = u"Courier New", .Size = 9});
     }
 
-    GdiSurface windows{220, 60, 96, 96};
-    RasterSurface software{220, 60, raster::FontLibrary::ofSystem()};
+    win32::GdiSurface windows{220, 60, 96, 96};
+    raster::RasterSurface software{220, 60, raster::FontLibrary::ofSystem()};
 };
 
 TEST_F(SurfaceText, ExtentsAreEqual) {

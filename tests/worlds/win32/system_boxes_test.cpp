@@ -20,7 +20,7 @@ class SystemBoxes : public ::testing::Test {
 
     static inline std::unique_ptr<ProgramWindow> program;
     BoxWatch watch;
-    Win32World world{GetModuleHandleW(nullptr), program->get()};
+    win32::Win32World world{GetModuleHandleW(nullptr), program->get()};
     TestHost host;
     RecordingEvents events;
     std::unique_ptr<lmListView> list;
@@ -34,7 +34,7 @@ TEST_F(SystemBoxes, LieOverTheActiveWindowAndHoldItUntilTheyAreDismissed) {
     watch.whileOpen = [&](HWND box) {
         owner = GetWindow(box, GW_OWNER);
         programTookInput = IsWindowEnabled(program->get()) != FALSE;
-        title.resize(static_cast<std::size_t>(GetWindowTextW(box, wide(title.data()), 100)));
+        title.resize(static_cast<std::size_t>(GetWindowTextW(box, win32::wide(title.data()), 100)));
         for (HWND child = GetWindow(box, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
             hasIcon = hasIcon || (GetWindowLongPtrW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
     };
@@ -50,7 +50,7 @@ TEST_F(SystemBoxes, LieOverTheActiveWindowAndHoldItUntilTheyAreDismissed) {
 TEST_F(SystemBoxes, ShowReportsAndLetEventsThroughMeanwhile) {
     events.log.clear();
     watch.whileOpen = [&](HWND /*box*/) {
-        SendMessageW(toHWND(list->hwnd()), WM_MOUSEMOVE, 0, MAKELPARAM(30, 40));
+        SendMessageW(win32::toHWND(list->hwnd()), WM_MOUSEMOVE, 0, MAKELPARAM(30, 40));
     };
     EXPECT_FALSE(list->ItemChecked(Long{1}, Long{1})) << "a list without rows has no cell";
     const std::vector<String> boxes = std::exchange(watch.boxes, {});
@@ -63,7 +63,7 @@ TEST_F(SystemBoxes, OfAReportLeaveAnOpenEditorAsItIsAndGiveItTheFocusBack) {
     list->ColumnsAdd(u"a", nullptr, nullptr, nullptr, cColumnLeft, 900);
     list->RowsAdd(Long{-1}, u",", u"x");
     list->SetEdit(Long{1}, Long{1});
-    HWND editor = toHWND(list->hwndEdit());
+    HWND editor = win32::toHWND(list->hwndEdit());
     ASSERT_EQ(GetFocus(), editor);
     SetWindowTextW(editor, L"typed");
     bool boxHadFocus = false;

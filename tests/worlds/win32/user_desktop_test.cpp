@@ -31,14 +31,14 @@ namespace {
 std::vector<std::string> asked;
 
 std::string shown(const wchar_t* text) {
-    return text != nullptr ? "'" + toUtf8(textOf(text)) + "'" : "none";
+    return text != nullptr ? "'" + toUtf8(win32::textOf(text)) + "'" : "none";
 }
 
 class UserDesktop : public ::testing::Test {
   protected:
     UserDesktop() { asked.clear(); }
 
-    Win32Runtime runtime{GetModuleHandleW(nullptr)};
+    win32::Win32Runtime runtime{GetModuleHandleW(nullptr)};
 };
 
 BOOL WINAPI noteSound(LPCWSTR file, UINT flags) {
@@ -60,8 +60,8 @@ TEST_F(UserDesktop, AMissingSoundFileIsSilence) {
 
 HINSTANCE WINAPI
 noteShell(HWND window, LPCWSTR verb, LPCWSTR file, LPCWSTR parameters, LPCWSTR folder, INT show) {
-    asked.push_back("open " + std::to_string(fromHWND(window)) + " " + shown(verb) + " " + shown(file) + " " +
-                    shown(parameters) + " " + shown(folder) + " " + std::to_string(show));
+    asked.push_back("open " + std::to_string(win32::fromHWND(window)) + " " + shown(verb) + " " +
+                    shown(file) + " " + shown(parameters) + " " + shown(folder) + " " + std::to_string(show));
     return nullptr;
 }
 
@@ -90,7 +90,7 @@ TEST_F(UserDesktop, WhatIsLeftEmptyIsLeftToTheSystem) {
 bool removed(const String& folder) {
     constexpr int tries = 1000;
     for (int i = 0; i < tries; ++i) {
-        if (RemoveDirectoryW(wide(folder)))
+        if (RemoveDirectoryW(win32::wide(folder)))
             return true;
         Sleep(20);
     }
@@ -101,7 +101,8 @@ TEST_F(UserDesktop, AProgramIsStartedWithItsParametersInItsFolder) {
     const ScratchFolder scratch;
     const String folder = fromUtf8(scratch.path.string());
     const String made = folder + u"\\made";
-    const HANDLE change = FindFirstChangeNotificationW(wide(folder), FALSE, FILE_NOTIFY_CHANGE_DIR_NAME);
+    const HANDLE change =
+        FindFirstChangeNotificationW(win32::wide(folder), FALSE, FILE_NOTIFY_CHANGE_DIR_NAME);
     runtime.open(requestFor(u"cmd.exe", u"/c mkdir made", folder));
     constexpr DWORD enough = 20000; // milliseconds
     EXPECT_EQ(WaitForSingleObject(change, enough), WAIT_OBJECT_0);

@@ -71,7 +71,7 @@ TEST(FromVARIANT, TakesEachKindOfValue) {
         {"currency", numberVARIANT(VT_CY, 12345), Currency{12345}},
     };
     for (const Row& row : table)
-        EXPECT_EQ(fromVARIANT(row.given), row.expected) << row.name;
+        EXPECT_EQ(win32::fromVARIANT(row.given), row.expected) << row.name;
 }
 
 TEST(FromVARIANT, TakesADecimalNumberWithAllItsDigits) {
@@ -83,33 +83,33 @@ TEST(FromVARIANT, TakesADecimalNumberWithAllItsDigits) {
     number.scale = 28;
     number.sign = DECIMAL_NEG;
     V_VT(&value) = VT_DECIMAL;
-    const Variant taken = fromVARIANT(value);
+    const Variant taken = win32::fromVARIANT(value);
     EXPECT_EQ(taken, Variant(Decimal{{1, 0xFFFFFFFF, 0xFFFFFFFF}, 28, true}));
-    const OwnedVARIANT back = toVARIANT(taken);
+    const win32::OwnedVARIANT back = win32::toVARIANT(taken);
     EXPECT_EQ(V_VT(&back.get()), VT_DECIMAL);
     EXPECT_EQ(std::memcmp(&back.get(), &value, sizeof(DECIMAL)), 0);
     number.scale = 29;
-    EXPECT_EQ(errorNumberOf([&] { fromVARIANT(value); }), ErrorNumber::typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { win32::fromVARIANT(value); }), ErrorNumber::typeMismatch);
 }
 
 TEST(ToVARIANT, KeepsTheKindOfExactNumbers) {
-    EXPECT_EQ(V_VT(&toVARIANT(LongLong{1}).get()), VT_I8);
-    EXPECT_EQ(V_VT(&toVARIANT(UnsignedLongLong{1}).get()), VT_UI8);
-    const OwnedVARIANT amount = toVARIANT(Currency{-12345});
+    EXPECT_EQ(V_VT(&win32::toVARIANT(LongLong{1}).get()), VT_I8);
+    EXPECT_EQ(V_VT(&win32::toVARIANT(UnsignedLongLong{1}).get()), VT_UI8);
+    const win32::OwnedVARIANT amount = win32::toVARIANT(Currency{-12345});
     EXPECT_EQ(V_VT(&amount.get()), VT_CY);
     EXPECT_EQ(V_CY(&amount.get()).int64, -12345);
 }
 
 TEST(FromVARIANT, KeepsZerosInsideAText) {
     const String text(u"a\0b", 3);
-    OwnedVARIANT value;
+    win32::OwnedVARIANT value;
     V_VT(&value.get()) = VT_BSTR;
-    V_BSTR(&value.get()) = newBSTR(text);
-    EXPECT_EQ(fromVARIANT(value.get()), Variant(text));
+    V_BSTR(&value.get()) = win32::newBSTR(text);
+    EXPECT_EQ(win32::fromVARIANT(value.get()), Variant(text));
 }
 
 TEST(FromVARIANT, TakesANullTextAsTheEmptyOne) {
-    EXPECT_EQ(fromVARIANT(numberVARIANT(VT_BSTR, 0)), Variant(u""));
+    EXPECT_EQ(win32::fromVARIANT(numberVARIANT(VT_BSTR, 0)), Variant(u""));
 }
 
 TEST(FromVARIANT, FollowsReferences) {
@@ -118,12 +118,12 @@ TEST(FromVARIANT, FollowsReferences) {
     VariantInit(&toNumber);
     V_VT(&toNumber) = VT_BYREF | VT_I4;
     V_I4REF(&toNumber) = &number;
-    EXPECT_EQ(fromVARIANT(toNumber), Variant(Long{77}));
+    EXPECT_EQ(win32::fromVARIANT(toNumber), Variant(Long{77}));
     VARIANT toVariant;
     VariantInit(&toVariant);
     V_VT(&toVariant) = VT_BYREF | VT_VARIANT;
     V_VARIANTREF(&toVariant) = &toNumber;
-    EXPECT_EQ(fromVARIANT(toVariant), Variant(Long{77}));
+    EXPECT_EQ(win32::fromVARIANT(toVariant), Variant(Long{77}));
 }
 
 TEST(FromVARIANT, TakesArraysRecordsAndErrorValuesAsWhatNothingConverts) {
@@ -132,21 +132,21 @@ TEST(FromVARIANT, TakesArraysRecordsAndErrorValuesAsWhatNothingConverts) {
     VariantInit(&value);
     V_VT(&value) = VT_ARRAY | VT_I4;
     V_ARRAY(&value) = array;
-    EXPECT_EQ(fromVARIANT(value), Variant(Unsupported{}));
+    EXPECT_EQ(win32::fromVARIANT(value), Variant(Unsupported{}));
     VARIANT reference;
     VariantInit(&reference);
     V_VT(&reference) = VT_BYREF | VT_ARRAY | VT_I4;
     V_ARRAYREF(&reference) = &array;
-    EXPECT_EQ(fromVARIANT(reference), Variant(Unsupported{}));
+    EXPECT_EQ(win32::fromVARIANT(reference), Variant(Unsupported{}));
     VariantClear(&value);
-    EXPECT_EQ(fromVARIANT(numberVARIANT(VT_RECORD, 0)), Variant(Unsupported{}));
-    EXPECT_EQ(fromVARIANT(numberVARIANT(VT_ERROR, E_FAIL)), Variant(Unsupported{}));
-    EXPECT_EQ(errorNumberOf([] { toVARIANT(Unsupported{}); }), ErrorNumber::typeMismatch);
+    EXPECT_EQ(win32::fromVARIANT(numberVARIANT(VT_RECORD, 0)), Variant(Unsupported{}));
+    EXPECT_EQ(win32::fromVARIANT(numberVARIANT(VT_ERROR, E_FAIL)), Variant(Unsupported{}));
+    EXPECT_EQ(errorNumberOf([] { win32::toVARIANT(Unsupported{}); }), ErrorNumber::typeMismatch);
 }
 
 TEST(FromVARIANT, TakesNothingAsAnEmptyReference) {
     for (const VARTYPE type : {VT_DISPATCH, VT_UNKNOWN}) {
-        const Variant value = fromVARIANT(numberVARIANT(type, 0));
+        const Variant value = win32::fromVARIANT(numberVARIANT(type, 0));
         ASSERT_TRUE(value.isObject());
         EXPECT_EQ(*value.as<ObjectRef>(), nullptr);
     }
@@ -168,29 +168,29 @@ TEST(ToVARIANT, GivesBackWhatCameIn) {
                               Variant(String(u"\0", 1)),
                               Variant(ObjectRef())};
     for (const Variant& value : values)
-        EXPECT_EQ(fromVARIANT(toVARIANT(value).get()), value);
+        EXPECT_EQ(win32::fromVARIANT(win32::toVARIANT(value).get()), value);
 }
 
 TEST(ToVARIANT, PicturesAndFontsComeBackAsTheSameOnes) {
     const PictureRef picture = std::make_shared<BitmapPicture>(Bitmap(2, 2, 0xFF00FF00U));
     const FontRef font = std::make_shared<Font>(FontSpec{.Name = u"Tahoma", .Size = 9});
-    const OwnedVARIANT pictureSeen = toVARIANT(picture);
-    const OwnedVARIANT fontSeen = toVARIANT(font);
-    EXPECT_TRUE(queryFor<IPicture>(V_DISPATCH(&pictureSeen.get())));
-    EXPECT_TRUE(queryFor<IFont>(V_DISPATCH(&fontSeen.get())));
-    EXPECT_EQ(fromVARIANT(pictureSeen.get()).toPicture(), picture);
-    EXPECT_EQ(fromVARIANT(fontSeen.get()).toFont(), font);
-    EXPECT_EQ(V_DISPATCH(&toVARIANT(Variant(PictureRef())).get()), nullptr);
+    const win32::OwnedVARIANT pictureSeen = win32::toVARIANT(picture);
+    const win32::OwnedVARIANT fontSeen = win32::toVARIANT(font);
+    EXPECT_TRUE(win32::queryFor<IPicture>(V_DISPATCH(&pictureSeen.get())));
+    EXPECT_TRUE(win32::queryFor<IFont>(V_DISPATCH(&fontSeen.get())));
+    EXPECT_EQ(win32::fromVARIANT(pictureSeen.get()).toPicture(), picture);
+    EXPECT_EQ(win32::fromVARIANT(fontSeen.get()).toFont(), font);
+    EXPECT_EQ(V_DISPATCH(&win32::toVARIANT(Variant(PictureRef())).get()), nullptr);
 }
 
 TEST(ToVARIANT, WritesTheKindsThatHostsExpect) {
-    EXPECT_EQ(V_VT(&toVARIANT(Long{1}).get()), VT_I4);
-    EXPECT_EQ(V_VT(&toVARIANT(Integer{1}).get()), VT_I2);
-    EXPECT_EQ(V_VT(&toVARIANT(true).get()), VT_BOOL);
-    EXPECT_EQ(V_BOOL(&toVARIANT(true).get()), VARIANT_TRUE);
-    EXPECT_EQ(V_VT(&toVARIANT(Variant(u"x")).get()), VT_BSTR);
-    EXPECT_EQ(V_VT(&toVARIANT(Variant(ObjectRef())).get()), VT_DISPATCH);
-    EXPECT_EQ(V_DISPATCH(&toVARIANT(Variant(ObjectRef())).get()), nullptr);
+    EXPECT_EQ(V_VT(&win32::toVARIANT(Long{1}).get()), VT_I4);
+    EXPECT_EQ(V_VT(&win32::toVARIANT(Integer{1}).get()), VT_I2);
+    EXPECT_EQ(V_VT(&win32::toVARIANT(true).get()), VT_BOOL);
+    EXPECT_EQ(V_BOOL(&win32::toVARIANT(true).get()), VARIANT_TRUE);
+    EXPECT_EQ(V_VT(&win32::toVARIANT(Variant(u"x")).get()), VT_BSTR);
+    EXPECT_EQ(V_VT(&win32::toVARIANT(Variant(ObjectRef())).get()), VT_DISPATCH);
+    EXPECT_EQ(V_DISPATCH(&win32::toVARIANT(Variant(ObjectRef())).get()), nullptr);
 }
 
 TEST(FromVARIANT, RefusesReferencesThatLeadNowhere) {
@@ -199,7 +199,7 @@ TEST(FromVARIANT, RefusesReferencesThatLeadNowhere) {
         VariantInit(&reference);
         V_VT(&reference) = static_cast<VARTYPE>(VT_BYREF | type);
         V_BYREF(&reference) = nullptr;
-        EXPECT_EQ(errorNumberOf([&] { fromVARIANT(reference); }), ErrorNumber::typeMismatch) << type;
+        EXPECT_EQ(errorNumberOf([&] { win32::fromVARIANT(reference); }), ErrorNumber::typeMismatch) << type;
     }
 }
 
@@ -210,9 +210,9 @@ TEST(FromVARIANT, FollowsReferencesToVariantsUnlessTheyGoInACircle) {
         V_VT(&chain[i]) = VT_BYREF | VT_VARIANT;
         V_VARIANTREF(&chain[i]) = i == 0 ? &value : &chain[i - 1];
     }
-    EXPECT_EQ(fromVARIANT(chain.back()), Variant(Long{5}));
+    EXPECT_EQ(win32::fromVARIANT(chain.back()), Variant(Long{5}));
     V_VARIANTREF(&chain[0]) = &chain.back();
-    EXPECT_EQ(errorNumberOf([&] { fromVARIANT(chain.back()); }), ErrorNumber::typeMismatch);
+    EXPECT_EQ(errorNumberOf([&] { win32::fromVARIANT(chain.back()); }), ErrorNumber::typeMismatch);
 }
 
 } // namespace

@@ -8,7 +8,7 @@ using Lines = std::vector<std::string>;
 
 class WheelSubclassing : public Win32List {
   protected:
-    HWND listHandle() { return toHWND(listWindow()); }
+    HWND listHandle() { return win32::toHWND(listWindow()); }
     HWND ownWindow() { return static_cast<HWND>(GetPropW(listHandle(), L"WheelWnd")); }
     LRESULT turn(int rotation) {
         return SendMessageW(listHandle(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(rotation)), 0);
@@ -61,7 +61,7 @@ TEST_F(WheelSubclassing, DoesNotHappenInADesigner) {
     designer.userMode = false;
     lmListView designed(world, designer, events);
     designed.UserControl_ReadProperties(MemoryPropertyBag{});
-    EXPECT_EQ(GetPropW(toHWND(designed.hwnd()), L"WheelWnd"), nullptr);
+    EXPECT_EQ(GetPropW(win32::toHWND(designed.hwnd()), L"WheelWnd"), nullptr);
 }
 
 TEST_F(WheelSubclassing, KeepsTwoListsApart) {
@@ -70,7 +70,7 @@ TEST_F(WheelSubclassing, KeepsTwoListsApart) {
     RecordingEvents otherEvents;
     lmListView other(world, otherHost, otherEvents);
     other.UserControl_ReadProperties(MemoryPropertyBag{});
-    EXPECT_NE(GetPropW(toHWND(other.hwnd()), L"WheelWnd"), GetPropW(listHandle(), L"WheelWnd"));
+    EXPECT_NE(GetPropW(win32::toHWND(other.hwnd()), L"WheelWnd"), GetPropW(listHandle(), L"WheelWnd"));
     turn(-120);
     EXPECT_EQ(take(), Lines{"Scroll"});
     EXPECT_TRUE(otherEvents.log.empty());

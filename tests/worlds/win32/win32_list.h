@@ -12,16 +12,16 @@
 namespace lumtex::testing {
 
 /// The system's runtime, whose boxes are noted instead of shown.
-class NotedRuntime : public Win32Runtime {
+class NotedRuntime : public win32::Win32Runtime {
   public:
-    using Win32Runtime::Win32Runtime;
+    using win32::Win32Runtime::Win32Runtime;
     void messageBox(StringView text, BoxStyle /*style*/, StringView /*title*/) override {
         boxes.emplace_back(text);
     }
     void DoEvents() override {
         if (onYield)
             std::exchange(onYield, nullptr)();
-        Win32Runtime::DoEvents();
+        win32::Win32Runtime::DoEvents();
     }
 
     std::vector<String> boxes;
@@ -64,7 +64,7 @@ class Mouse {
     /// To a point of a window. What comes of it is on its way: see `Win32List::moveTo`.
     void moveTo(WindowHandle window, int x, int y) {
         POINT at{x, y};
-        ClientToScreen(toHWND(window), &at);
+        ClientToScreen(win32::toHWND(window), &at);
         SetCursorPos(at.x, at.y);
     }
     void send(DWORD what, int data = 0) {
@@ -152,7 +152,7 @@ class Win32List : public ::testing::Test {
     /// Shared, because it takes the system long to show one.
     static inline std::unique_ptr<ProgramWindow> program;
     NotedRuntime runtime{GetModuleHandleW(nullptr)};
-    Win32World world{GetModuleHandleW(nullptr), program->get(), &runtime};
+    win32::Win32World world{GetModuleHandleW(nullptr), program->get(), &runtime};
     TestHost host;
     RecordingEvents events;
     std::unique_ptr<lmListView> list;

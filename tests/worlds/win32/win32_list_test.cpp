@@ -7,10 +7,10 @@ namespace {
 using Lines = std::vector<std::string>;
 
 TEST_F(Win32List, IsAVisibleChildOfTheProgramsWindow) {
-    EXPECT_EQ(GetParent(toHWND(listWindow())), program->get());
-    EXPECT_TRUE(IsWindowVisible(toHWND(listWindow())));
+    EXPECT_EQ(GetParent(win32::toHWND(listWindow())), program->get());
+    EXPECT_TRUE(IsWindowVisible(win32::toHWND(listWindow())));
     RECT area{};
-    GetWindowRect(toHWND(listWindow()), &area);
+    GetWindowRect(win32::toHWND(listWindow()), &area);
     EXPECT_EQ(area.left, 150);
     EXPECT_EQ(area.top, 150);
     EXPECT_EQ(area.right - area.left, 300);
@@ -42,7 +42,7 @@ TEST_F(Win32List, TakesTheFocusWithAPressAndThenTheKeys) {
     moveTo(30, 35);
     mouse.press();
     mouse.release();
-    EXPECT_EQ(GetFocus(), toHWND(listWindow()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(listWindow()));
     take();
     strike(runtime, VK_DOWN);
     EXPECT_EQ(take(), (Lines{"KeyDown KeyCode=40 Shift=0", "KeyUp KeyCode=40 Shift=0"}));
@@ -69,7 +69,7 @@ TEST_F(Win32List, ShowsOnTheScreenWhatIsOnItsSurface) {
     list->Redraw();
     runtime.DoEvents();
     const Bitmap drawn = list->window().surface().image();
-    HDC screen = GetDC(toHWND(listWindow()));
+    HDC screen = GetDC(win32::toHWND(listWindow()));
     int differences = 0;
     for (int y = 0; y < 180; y += 7) {
         for (int x = 0; x < 280; x += 5) {
@@ -79,7 +79,7 @@ TEST_F(Win32List, ShowsOnTheScreenWhatIsOnItsSurface) {
             differences += shown != expected ? 1 : 0;
         }
     }
-    ReleaseDC(toHWND(listWindow()), screen);
+    ReleaseDC(win32::toHWND(listWindow()), screen);
     EXPECT_EQ(differences, 0);
 }
 
@@ -87,7 +87,7 @@ TEST_F(Win32List, OpensItsEditorAndTakesWhatIsTyped) {
     fill(5);
     list->SetEdit(Long{2}, Long{1});
     runtime.DoEvents();
-    HWND editor = toHWND(list->hwndEdit());
+    HWND editor = win32::toHWND(list->hwndEdit());
     ASSERT_TRUE(IsWindowVisible(editor));
     EXPECT_EQ(GetFocus(), editor);
     take();
@@ -106,7 +106,7 @@ TEST_F(Win32List, DropsTheEditWhenAnotherWindowTakesTheFocus) {
     strike(runtime, 'N');
     SetFocus(program->get());
     runtime.DoEvents();
-    EXPECT_FALSE(IsWindowVisible(toHWND(list->hwndEdit())));
+    EXPECT_FALSE(IsWindowVisible(win32::toHWND(list->hwndEdit())));
     EXPECT_EQ(list->ItemText(Long{2}, Long{1}), u"x");
 }
 
@@ -114,7 +114,7 @@ TEST_F(Win32List, LivesOnWithoutItsWindowWhenTheProgramTakesThatAway) {
     fill(5);
     moveTo(30, 35);
     mouse.press();
-    DestroyWindow(toHWND(listWindow()));
+    DestroyWindow(win32::toHWND(listWindow()));
     EXPECT_EQ(listWindow(), 0);
     list->letItemText(Long{1}, Long{1}, u"still here");
     list->Redraw();
@@ -128,7 +128,7 @@ TEST_F(Win32List, LivesOnWithoutItsWindowWhenTheProgramTakesThatAway) {
 
 TEST_F(Win32List, TakesASizeThatItsContainerGives) {
     fill(5);
-    SetWindowPos(toHWND(listWindow()), nullptr, 10, 20, 250, 150, SWP_NOZORDER);
+    SetWindowPos(win32::toHWND(listWindow()), nullptr, 10, 20, 250, 150, SWP_NOZORDER);
     EXPECT_EQ(list->window().Left(), 10);
     EXPECT_EQ(list->window().Top(), 20);
     EXPECT_EQ(list->window().surface().scaleWidth(), 250);
@@ -139,7 +139,7 @@ TEST_F(Win32List, CanBeDestroyedInOneOfItsOwnEvents) {
     // The window alone goes; the list's object is its host's, which lets go of it later.
     fill(5);
     moveTo(30, 35);
-    events.on("MouseDown", [this] { DestroyWindow(toHWND(listWindow())); });
+    events.on("MouseDown", [this] { DestroyWindow(win32::toHWND(listWindow())); });
     mouse.press();
     EXPECT_EQ(listWindow(), 0);
     mouse.release();

@@ -4,7 +4,7 @@
 #include <limits>
 #include <vector>
 
-namespace lumtex {
+namespace lumtex::win32 {
 namespace {
 
 constexpr LCID american = 0x0409;
@@ -94,4 +94,4 @@ TEST(Win32Locale, WritesDatesThatItReadsAgain) {
 }
 
 } // namespace
-} // namespace lumtex
+} // namespace lumtex::win32

@@ -9,7 +9,7 @@ namespace {
 
 class Printing : public Win32List {
   protected:
-    HWND window() { return toHWND(listWindow()); }
+    HWND window() { return win32::toHWND(listWindow()); }
     Bitmap surface() { return list->window().surface().image(); }
     /// By a message that paints on the context that it is given.
     Bitmap painted(UINT message, LPARAM flags) {
@@ -29,7 +29,7 @@ TEST_F(Printing, ShowsWhatTheScreenShowsWithAllThatLiesInTheWindow) {
     guide.letVisible(true);
     list->SetEdit(Long{2}, Long{1});
     runtime.DoEvents();
-    HideCaret(toHWND(list->hwndEdit()));
+    HideCaret(win32::toHWND(list->hwndEdit()));
     const Bitmap shown = screenPicture(window());
     EXPECT_TRUE(samePixels(printedPicture(window()), shown));
     EXPECT_TRUE(samePixels(painted(WM_PRINT, PRF_CLIENT | PRF_CHILDREN), shown));

@@ -18,7 +18,7 @@ namespace {
 
 class SystemRuntime : public ::testing::Test {
   protected:
-    Win32Runtime runtime{GetModuleHandleW(nullptr)};
+    win32::Win32Runtime runtime{GetModuleHandleW(nullptr)};
     const ScratchFolder scratch;
     const String folder = scratch.pathTo("");
 };
@@ -41,7 +41,7 @@ TEST_F(SystemRuntime, ListsItselfAmongTheProcesses) {
 }
 
 TEST_F(SystemRuntime, PutsTheUsersSettingsInForce) {
-    EXPECT_EQ(&currentLocale(), &win32UsersLocale());
+    EXPECT_EQ(&currentLocale(), &win32::win32UsersLocale());
 }
 
 TEST_F(SystemRuntime, KnowsTheTimeOfTheDay) {
@@ -135,7 +135,7 @@ TEST_F(SystemRuntime, CompletesNamesFromTheCurrentFolder) {
     wchar_t current[MAX_PATH]{};
     GetCurrentDirectoryW(MAX_PATH, current);
     const String full = runtime.files().fullPathName(u"some.exe");
-    EXPECT_TRUE(full.starts_with(textOf(current)));
+    EXPECT_TRUE(full.starts_with(win32::textOf(current)));
     EXPECT_TRUE(full.ends_with(u"\\some.exe"));
 }
 

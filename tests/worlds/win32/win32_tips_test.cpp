@@ -14,31 +14,31 @@ class Win32TipWindows : public Win32List {
   protected:
     std::shared_ptr<TestObject> objectOf(HWND window) const {
         auto object = std::make_shared<TestObject>();
-        object->properties[u"hwnd"] = fromHWND(window);
+        object->properties[u"hwnd"] = win32::fromHWND(window);
         return object;
     }
     /// A control on the program's window.
     std::shared_ptr<TestObject> control() const {
-        auto made = objectOf(toHWND(list->hwnd()));
+        auto made = objectOf(win32::toHWND(list->hwnd()));
         made->properties[u"Container"] = ObjectRef(objectOf(program->get()));
         return made;
     }
 
-    lmToolTip tips{runtime, world.tips()};
+    tips::lmToolTip tips{runtime, world.tips()};
 };
 
 TEST_F(Win32TipWindows, StandOnFormsAndOurSurfacesAlone) {
-    EXPECT_TRUE(world.tips().isFormOrSurface(fromHWND(program->get())));
+    EXPECT_TRUE(world.tips().isFormOrSurface(win32::fromHWND(program->get())));
     EXPECT_TRUE(world.tips().isFormOrSurface(listWindow()));
     EXPECT_FALSE(world.tips().isFormOrSurface(list->hwndEdit()));
     EXPECT_FALSE(world.tips().isFormOrSurface(0));
-    EXPECT_FALSE(tips.Create(objectOf(toHWND(list->hwndEdit()))));
+    EXPECT_FALSE(tips.Create(objectOf(win32::toHWND(list->hwndEdit()))));
 }
 
 TEST_F(Win32TipWindows, HoldOneToolForEachControl) {
     ASSERT_TRUE(tips.Create(objectOf(program->get())));
     const WindowHandle window = tips.hwnd();
-    EXPECT_TRUE(IsWindow(toHWND(window)));
+    EXPECT_TRUE(IsWindow(win32::toHWND(window)));
     EXPECT_TRUE(tips.Create(objectOf(program->get())));
     EXPECT_EQ(tips.hwnd(), window);
     const auto tool = control();
@@ -70,9 +70,9 @@ TEST_F(Win32TipWindows, KeepTimesMarginsWidthAndColours) {
 TEST_F(Win32TipWindows, GoWithTheObjectThatMadeThem) {
     HWND window = nullptr;
     {
-        lmToolTip own(runtime, world.tips());
+        tips::lmToolTip own(runtime, world.tips());
         ASSERT_TRUE(own.Create(objectOf(program->get())));
-        window = toHWND(own.hwnd());
+        window = win32::toHWND(own.hwnd());
     }
     EXPECT_FALSE(IsWindow(window));
 }
@@ -109,7 +109,7 @@ class MessageLog {
 
 TEST_F(Win32TipWindows, SendTheMessagesOfTheSystemsClass) {
     ASSERT_TRUE(tips.Create(objectOf(program->get())));
-    const MessageLog log(toHWND(tips.hwnd()));
+    const MessageLog log(win32::toHWND(tips.hwnd()));
     const auto tool = control();
     using Lines = std::vector<std::string>;
     tips.AddTool(tool, u"a");

@@ -74,7 +74,7 @@ class Win32Windows : public ::testing::Test {
     }
 
     LRESULT send(Window& window, UINT message, WPARAM keys, int x, int y) {
-        return SendMessageW(toHWND(window.hWnd()), message, keys, MAKELPARAM(x, y));
+        return SendMessageW(win32::toHWND(window.hWnd()), message, keys, MAKELPARAM(x, y));
     }
     /// The lines of the outer window, then those of the inner one.
     Lines take() {
@@ -86,7 +86,7 @@ class Win32Windows : public ::testing::Test {
 
     static inline std::unique_ptr<ProgramWindow> program;
     NotedRuntime runtime{GetModuleHandleW(nullptr)};
-    Win32World world{GetModuleHandleW(nullptr), program->get(), &runtime};
+    win32::Win32World world{GetModuleHandleW(nullptr), program->get(), &runtime};
     NotedControl outerControl;
     NotedControl innerControl;
     std::unique_ptr<Window> outer;
@@ -128,7 +128,7 @@ TEST_F(Win32Windows, EachShowingOfAHiddenWindowIsTold) {
 
 TEST_F(Win32Windows, APressIsClickedWhereItIsReleased) {
     send(*inner, WM_LBUTTONDOWN, MK_LBUTTON, 3, 4);
-    EXPECT_EQ(GetCapture(), toHWND(inner->hWnd()));
+    EXPECT_EQ(GetCapture(), win32::toHWND(inner->hWnd()));
     send(*inner, WM_LBUTTONUP, 0, 5, 6);
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_EQ(take(), (Lines{"inner got focus", "inner down 1 3,4", "inner up 1 5,6", "inner click"}));
@@ -150,7 +150,7 @@ TEST_F(Win32Windows, TheCaptureStaysUntilTheLastButtonIsUp) {
     send(*inner, WM_LBUTTONDOWN, MK_LBUTTON, 3, 4);
     send(*inner, WM_RBUTTONDOWN, MK_LBUTTON | MK_RBUTTON, 3, 4);
     send(*inner, WM_LBUTTONUP, MK_RBUTTON, 3, 4);
-    EXPECT_EQ(GetCapture(), toHWND(inner->hWnd()));
+    EXPECT_EQ(GetCapture(), win32::toHWND(inner->hWnd()));
     send(*inner, WM_RBUTTONUP, 0, 3, 4);
     EXPECT_EQ(GetCapture(), nullptr);
 }
@@ -159,14 +159,14 @@ TEST_F(Win32Windows, ADisabledOrHiddenWindowPassesItsFocusOutwards) {
     inner->setFocus();
     take();
     inner->letVisible(false);
-    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(outer->hWnd()));
     EXPECT_EQ(take(), (Lines{"got focus", "inner lost focus"}));
     inner->setFocus();
-    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd())) << "a hidden window takes none";
+    EXPECT_EQ(GetFocus(), win32::toHWND(outer->hWnd())) << "a hidden window takes none";
     inner->letVisible(true);
     inner->setFocus();
     inner->letEnabled(false);
-    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(outer->hWnd()));
 }
 
 TEST_F(Win32Windows, HidingEndsACaptureAndAPress) {
@@ -205,7 +205,7 @@ TEST_F(Win32Windows, MayBeDestroyedInAnyOfTheirEvents) {
         inner = world.createWindow(outer.get(), innerControl);
         inner->place(0, 0, 50, 50);
         inner->letVisible(true);
-        HWND window = toHWND(inner->hWnd());
+        HWND window = win32::toHWND(inner->hWnd());
         innerControl.then = [&](const std::string& line) {
             if (line == row.line)
                 inner.reset();
@@ -221,13 +221,13 @@ TEST_F(Win32Windows, AdoptAnyWindowButThoseAroundThem) {
     NotedControl control;
     const std::unique_ptr<Window> stranger = world.createWindow(nullptr, control);
     EXPECT_TRUE(inner->adopt(stranger->hWnd()));
-    EXPECT_EQ(GetParent(toHWND(stranger->hWnd())), toHWND(inner->hWnd()));
+    EXPECT_EQ(GetParent(win32::toHWND(stranger->hWnd())), win32::toHWND(inner->hWnd()));
     EXPECT_FALSE(inner->adopt(0));
     EXPECT_FALSE(inner->adopt(0x7FFFFFF));
     EXPECT_FALSE(inner->adopt(inner->hWnd()));
     EXPECT_FALSE(inner->adopt(outer->hWnd()));
     inner.reset();
-    EXPECT_TRUE(IsWindow(toHWND(stranger->hWnd()))) << "it is its owner's to destroy";
+    EXPECT_TRUE(IsWindow(win32::toHWND(stranger->hWnd()))) << "it is its owner's to destroy";
 }
 
 TEST_F(Win32Windows, LaterChildrenLieAboveEarlierOnes) {
@@ -243,7 +243,7 @@ TEST_F(Win32Windows, LaterChildrenLieAboveEarlierOnes) {
     box->letHeight(20);
     box->letVisible(true);
     const auto topmostAt = [&](POINT at) {
-        return fromHWND(ChildWindowFromPoint(toHWND(outer->hWnd()), at));
+        return win32::fromHWND(ChildWindowFromPoint(win32::toHWND(outer->hWnd()), at));
     };
     EXPECT_EQ(topmostAt({25, 25}), inner->hWnd());
     EXPECT_EQ(topmostAt({35, 35}), later->hWnd());
@@ -257,7 +257,7 @@ TEST_F(Win32Windows, TheBoxAsksAboutEachCharacter) {
     box->letHeight(20);
     box->letVisible(true);
     for (const char16_t unit : {u'a', u'x', u'\r', u'b'})
-        SendMessageW(toHWND(box->hWnd()), WM_CHAR, unit, 0);
+        SendMessageW(win32::toHWND(box->hWnd()), WM_CHAR, unit, 0);
     EXPECT_EQ(client.keys, (std::vector<Integer>{u'a', u'x', u'\r', u'b'}));
     EXPECT_EQ(box->Text(), u"ab");
 }
@@ -265,7 +265,7 @@ TEST_F(Win32Windows, TheBoxAsksAboutEachCharacter) {
 TEST_F(Win32Windows, TheSelectionOfABoxKeepsWithinItsText) {
     NotedBox client;
     const std::unique_ptr<TextBox> made = world.createTextBox(*outer, client);
-    auto* box = static_cast<Win32TextBox*>(made.get());
+    auto* box = static_cast<win32::Win32TextBox*>(made.get());
     box->letText(u"hello");
     EXPECT_EQ(box->SelStart(), 0);
     box->letSelStart(2);
@@ -285,10 +285,10 @@ TEST_F(Win32Windows, HidingABoxPassesOnItsFocusAndDestroyingItTellsNobody) {
     std::unique_ptr<TextBox> box = world.createTextBox(*outer, client);
     box->letVisible(true);
     box->setFocus();
-    EXPECT_EQ(GetFocus(), toHWND(box->hWnd()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(box->hWnd()));
     box->letVisible(false);
     EXPECT_EQ(client.losses, 1);
-    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(outer->hWnd()));
     box->letVisible(true);
     box->setFocus();
     take();
@@ -304,11 +304,11 @@ TEST_F(Win32Windows, APressTakesTheFocusFromAWindowInItButNotFromABox) {
     inner->setFocus();
     send(*outer, WM_LBUTTONDOWN, MK_LBUTTON, 5, 5);
     send(*outer, WM_LBUTTONUP, 0, 5, 5);
-    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(outer->hWnd()));
     box->setFocus();
     send(*outer, WM_LBUTTONDOWN, MK_LBUTTON, 5, 5);
     send(*outer, WM_LBUTTONUP, 0, 5, 5);
-    EXPECT_EQ(GetFocus(), toHWND(box->hWnd()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(box->hWnd()));
     take();
 }
 
@@ -339,7 +339,7 @@ TEST_F(Win32Windows, AModalFormReturnsOnceItIsHiddenAndHoldsTheProgramMeanwhile)
         if (line != "show")
             return;
         programTookInput = IsWindowEnabled(program->get());
-        PostMessageW(toHWND(form->hWnd()), WM_CLOSE, 0, 0);
+        PostMessageW(win32::toHWND(form->hWnd()), WM_CLOSE, 0, 0);
     };
     world.showModal(*form);
     EXPECT_FALSE(programTookInput);
@@ -383,10 +383,10 @@ TEST_F(Win32Windows, APressOnAPartGivesTheFocusToTheWindowItIsAPartOf) {
     };
     SetFocus(program->get());
     clickInner();
-    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(outer->hWnd()));
     box->setFocus();
     clickInner();
-    EXPECT_EQ(GetFocus(), toHWND(box->hWnd()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(box->hWnd()));
     EXPECT_EQ(client.losses, 0);
     take();
 }
@@ -404,12 +404,12 @@ TEST_F(Win32Windows, APressTakesTheFocusFromAHostsControlInIt) {
                                    nullptr,
                                    GetModuleHandleW(nullptr),
                                    nullptr);
-    ASSERT_TRUE(outer->adopt(fromHWND(foreign)));
+    ASSERT_TRUE(outer->adopt(win32::fromHWND(foreign)));
     SetFocus(foreign);
     ASSERT_EQ(GetFocus(), foreign);
     send(*outer, WM_LBUTTONDOWN, MK_LBUTTON, 5, 5);
     send(*outer, WM_LBUTTONUP, 0, 5, 5);
-    EXPECT_EQ(GetFocus(), toHWND(outer->hWnd()));
+    EXPECT_EQ(GetFocus(), win32::toHWND(outer->hWnd()));
     DestroyWindow(foreign);
 }
 

@@ -12,7 +12,7 @@ namespace lumtex::testing {
 /// What `draw` draws on a black area of this size, opaque.
 inline Bitmap drawnPicture(Long width, Long height, const std::function<void(HDC)>& draw) {
     constexpr std::uint32_t opaque = 0xFF000000U;
-    const MemoryBitmap board(width, height);
+    const win32::MemoryBitmap board(width, height);
     draw(board.dc());
     GdiFlush();
     Bitmap picture(width, height);
