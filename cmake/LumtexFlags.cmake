@@ -25,7 +25,7 @@ target_compile_options(
               -Wnon-virtual-dtor
               -Woverloaded-virtual
               -Wimplicit-fallthrough
-              -Werror
+              $<$<BOOL:${LUMTEX_STRICT}>:-Werror>
               -ffp-contract=off)
 # Optimising, GCC 12 takes the joining of UTF-16 strings for copies that overlap or pass an end.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)

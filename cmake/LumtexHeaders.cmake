@@ -1,10 +1,13 @@
 # Every header compiles alone: the target `headers` compiles one file per header, which includes nothing else.
 # Private headers count too, therefore this stands in for CMAKE_VERIFY_INTERFACE_HEADER_SETS.
-add_custom_target(headers COMMENT "Every header compiles alone")
+# A project that adds this folder may have a target of that name itself, and no use for ours.
+if(PROJECT_IS_TOP_LEVEL)
+    add_custom_target(headers COMMENT "Every header compiles alone")
+endif()
 
 # lumtex_headers_alone(<room> <header>...): headers relative to the current folder, and to the include path.
 function(lumtex_headers_alone room)
-    if(NOT ARGN)
+    if(NOT ARGN OR NOT TARGET headers)
         return()
     endif()
     set(sources "")
