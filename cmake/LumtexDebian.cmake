@@ -1,0 +1,58 @@
+# Debian packages, by `cpack`: one for each component of the installation. Development is what C++ users build with.
+include(GNUInstallDirs)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_VENDOR "Lumtex")
+set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
+set(CPACK_PACKAGE_HOMEPAGE_URL "${LUMTEX_LINK}")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "owner-drawn, multi-column list view for C++")
+set(CPACK_PACKAGING_INSTALL_PREFIX "/usr")
+set(CPACK_COMPONENTS_ALL Development)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "LumtexListView packages <packages@lumtex.example>")
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
+# Static libraries: nothing in the package says what it links, so that is said here. What only an optional component needs
+# is recommended.
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME liblumtexlistview-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "libfreetype-dev, libharfbuzz-dev, libfontconfig-dev, libgdk-pixbuf-2.0-dev, pkg-config")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
+set(recommended "")
+if(LUMTEX_BUILD_JSON)
+    list(APPEND recommended libglib2.0-dev)
+endif()
+if(LUMTEX_BUILD_DATABASE)
+    list(APPEND recommended libsqlite3-dev libpq-dev)
+endif()
+list(JOIN recommended ", " CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS)
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
+    "Columns and rows in three colour schemes or in colours of your own, with
+fonts, colours, icons, check marks and embedded controls per cell, headers,
+scroll bars and an in-place editor of its own; sorts, searches, and saves its
+content.
+.
+This package has the headers and static libraries, with files for CMake and
+pkg-config.")
+
+# lumtex_debian_documents(<package> <component>): what a Debian package says of itself.
+function(lumtex_debian_documents package component)
+    set(changes "${PROJECT_BINARY_DIR}/package/${package}.changes")
+    configure_file("${PROJECT_SOURCE_DIR}/packaging/debian-changelog.in" "${changes}" @ONLY)
+    # The same tree gives the same file: without name and time.
+    execute_process(COMMAND gzip -9nc "${changes}" OUTPUT_FILE "${changes}.gz" COMMAND_ERROR_IS_FATAL ANY)
+    install(FILES "${changes}.gz" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${package}" RENAME changelog.Debian.gz
+            COMPONENT ${component})
+    install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${package}" RENAME copyright
+            COMPONENT ${component})
+endfunction()
+lumtex_debian_documents(liblumtexlistview-dev Development)
+
+include(CPack)
