@@ -1,4 +1,5 @@
 # What consumers link: rooms joined into one library per component, as LumtexListView::<Component>, in the tree and installed.
+
 # Where Debian looks for libraries of one architecture, under any prefix: one build serves a prefix and a package.
 if(PROJECT_IS_TOP_LEVEL AND NOT DEFINED CMAKE_INSTALL_LIBDIR AND EXISTS /etc/debian_version
    AND CMAKE_LIBRARY_ARCHITECTURE)
@@ -9,7 +10,7 @@ include(CMakePackageConfigHelpers)
 
 # Nothing that is installed knows its place: the tree may be moved.
 foreach(folder LIBDIR INCLUDEDIR)
-    if(IS_ABSOLUTE "${CMAKE_INSTALL_${folder}}")
+    if(LUMTEX_INSTALL AND IS_ABSOLUTE "${CMAKE_INSTALL_${folder}}")
         message(FATAL_ERROR "CMAKE_INSTALL_${folder} must be relative to the prefix, not ${CMAKE_INSTALL_${folder}}")
     endif()
 endforeach()
