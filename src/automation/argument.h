@@ -43,16 +43,26 @@ class Argument<T> {
     Variant& from_;
 };
 
+/// A text is read where it lies: nobody but the call has the arguments.
 template <>
 class Argument<StringView> {
   public:
-    explicit Argument(std::span<Variant> all, std::size_t position) : text_(all[position].toText()) {}
+    explicit Argument(std::span<Variant> all, std::size_t position) {
+        if (const String* text = all[position].text())
+            view_ = *text;
+        else
+            view_ = converted_ = all[position].toText();
+    }
+    Argument(const Argument&) = delete;
+    Argument& operator=(const Argument&) = delete;
+    ~Argument() = default;
 
-    StringView pass() { return text_; }
+    StringView pass() { return view_; }
     void writeBack() {}
 
   private:
-    String text_;
+    String converted_;
+    StringView view_;
 };
 
 template <>
@@ -60,14 +70,14 @@ class Argument<std::optional<StringView>> {
   public:
     explicit Argument(std::span<Variant> all, std::size_t position) {
         if (!all[position].isMissing())
-            text_ = all[position].toText();
+            text_.emplace(all, position);
     }
 
-    std::optional<StringView> pass() { return text_; }
+    std::optional<StringView> pass() { return text_ ? std::optional(text_->pass()) : std::nullopt; }
     void writeBack() {}
 
   private:
-    std::optional<String> text_;
+    std::optional<Argument<StringView>> text_;
 };
 
 /// All arguments from here to the end.
