@@ -27,7 +27,7 @@ void lmListView::ColumnsAdd(const Variant& aText,
             // The control's own counter, not a local one, as in every walk over the rows.
             for (counters.scanIndex = 0; counters.scanIndex < RowsCount(); ++counters.scanIndex) {
                 freshenItemStyle(style);
-                appendCell(records.recordAt(counters.scanIndex).items, {}, style->handle());
+                records.recordAt(counters.scanIndex).items.append({}, *style);
             }
         });
     }

@@ -236,9 +236,8 @@ class lmListView final : public ListViewRecords, public UserControl {
     bool holdsAnything() const;
     void dropContent();
     static void destroy(void* list);
-    StyleHandle emptyItemStyle();
+    void emptyItemStyle(std::optional<StyleLease>& style);
     void freshenItemStyle(std::optional<StyleLease>& style);
-    void appendCell(Items& items, StringView text, StyleHandle style);
     Long placeOfNewRow(Variant& aIndex, Procedure& p);
     void removeRow(Long Index, Procedure& p);
 

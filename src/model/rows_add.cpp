@@ -33,27 +33,23 @@ class Pieces {
 } // namespace
 
 /// The style that a cell gets at its creation: a copy of the defaults that hold now.
-StyleHandle lmListView::emptyItemStyle() {
+void lmListView::emptyItemStyle(std::optional<StyleLease>& style) {
     Procedure p = procedure(u"EmptyItem");
-    CellStyle style;
-    style.ForeColor = properties.DefaultItemForeColor;
+    const OLE_COLOR foreColor = properties.DefaultItemForeColor;
+    // Nobody can take the font away between the reading of it and its use.
+    const FontSpec* font = nullptr;
     drawing::readFontAttributes(
         properties.DefaultItemFont,
         [&](auto attribute) { return p.step(attribute); },
-        [&](const FontSpec& font) { style.font = font; });
-    return CellStyles::ofThread().acquire(style);
+        [&](const FontSpec& spec) { font = &spec; });
+    style.emplace(foreColor, font != nullptr ? *font : FontSpec{});
 }
 
 /// Readies `style` for the next new cell. As long as nothing fails all cells of a walk share one.
 void lmListView::freshenItemStyle(std::optional<StyleLease>& style) {
     // Without a font every cell has its own failures, and the host may change the defaults at each.
     if (!style || !properties.DefaultItemFont)
-        style.emplace(emptyItemStyle());
-}
-
-void lmListView::appendCell(Items& items, StringView text, StyleHandle style) {
-    CompactText compact(text);
-    items.append(std::move(compact), style);
+        emptyItemStyle(style);
 }
 
 /// Where the row goes that stands last now; a place out of range becomes that of the last row, for the caller
@@ -86,7 +82,7 @@ void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<Strin
         Pieces pieces(aItemTexts.value_or(StringView{}), aSplit);
         for (counters.scanIndex = 1; counters.scanIndex <= columns; ++counters.scanIndex) {
             freshenItemStyle(style);
-            appendCell(cells, pieces.next(), style->handle());
+            cells.append(pieces.next(), *style);
         }
     });
 

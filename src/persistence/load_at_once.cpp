@@ -107,7 +107,7 @@ bool LoadAtOnce::plainLook() {
         return true;
     const std::optional<CellStyle> style = cells_.plainStyle();
     if (style)
-        look_.style.emplace(CellStyles::ofThread().acquire(*style));
+        look_.style.emplace(*style);
     return style.has_value();
 }
 
@@ -145,7 +145,7 @@ bool LoadAtOnce::lookOf(const Record& record) {
     look_.style.reset();
     look_.beforeTag.assign(record.beforeTag.begin(), record.beforeTag.end());
     look_.behindTag.assign(record.behindTag.begin(), record.behindTag.end());
-    look_.style.emplace(CellStyles::ofThread().acquire(style));
+    look_.style.emplace(style);
     return true;
 }
 

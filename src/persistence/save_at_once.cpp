@@ -73,10 +73,8 @@ void SaveAtOnce::appendColor(std::vector<Byte>& bytes, const Variant& color) {
 
 const SaveAtOnce::Look& SaveAtOnce::lookOf(StyleHandle style) {
     if (!look_.style || look_.style->handle() != style) {
-        CellStyles& styles = CellStyles::ofThread();
         look_.style.reset();
-        encode(styles[style]);
-        styles.addReference(style);
+        encode(CellStyles::ofThread()[style]);
         look_.style.emplace(style);
     }
     return look_;

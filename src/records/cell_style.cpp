@@ -99,7 +99,23 @@ StyleHandle CellStyles::acquire(const CellStyle& style) {
     return handle;
 }
 
+StyleHandle CellStyles::acquireForNewCell(OLE_COLOR ForeColor, const FontSpec& font) {
+    if (ofNewCells_ != none) {
+        const CellStyle& last = slots_[ofNewCells_].style;
+        if (last.ForeColor == ForeColor && last.font == font) {
+            addReference(ofNewCells_);
+            return ofNewCells_;
+        }
+    }
+    CellStyle style;
+    style.ForeColor = ForeColor;
+    style.font = font;
+    return ofNewCells_ = acquire(style);
+}
+
 void CellStyles::forget(StyleHandle handle) {
+    if (handle == ofNewCells_)
+        ofNewCells_ = none;
     index_.erase(handle);
     slots_[handle].style = CellStyle{};
     free_.push_back(handle);

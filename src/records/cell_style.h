@@ -43,6 +43,8 @@ class CellStyles {
 
     /// The handle of an equal style, or a new one. The caller owns one count and gives it back by `release`.
     StyleHandle acquire(const CellStyle& style);
+    /// The same for a new cell, whose style differs from `CellStyle{}` in colour and font alone.
+    StyleHandle acquireForNewCell(OLE_COLOR ForeColor, const FontSpec& font);
     void addReference(StyleHandle handle) { ++slots_[handle].references; }
     void release(StyleHandle handle) {
         if (--slots_[handle].references == 0)
@@ -71,26 +73,41 @@ class CellStyles {
         bool operator()(StyleHandle a, const CellStyle& b) const { return (*this)(b, a); }
     };
 
+    static constexpr StyleHandle none = 0xFFFFFFFF;
+
     CellStyles();
     void forget(StyleHandle handle);
 
     std::deque<Slot> slots_;
     std::vector<StyleHandle> free_;
     std::unordered_set<StyleHandle, Hash, Equal> index_;
+    /// What `acquireForNewCell` gave last, as long as it is in use: rows are mostly added one after another.
+    StyleHandle ofNewCells_ = none;
 };
 
-/// Holds one count of a style while cells are made from it.
+/// Holds one count of a style while cells are made from it. For the thread that made it.
 class StyleLease {
   public:
-    /// Takes over a count that `acquire` gave.
-    explicit StyleLease(StyleHandle handle) : handle_(handle) {}
+    explicit StyleLease(const CellStyle& style)
+        : styles_(CellStyles::ofThread()), handle_(styles_.acquire(style)) {}
+    /// Of the style of a new cell.
+    StyleLease(OLE_COLOR ForeColor, const FontSpec& font)
+        : styles_(CellStyles::ofThread()), handle_(styles_.acquireForNewCell(ForeColor, font)) {}
+    /// A further count of a style in use.
+    explicit StyleLease(StyleHandle handle) : styles_(CellStyles::ofThread()), handle_(handle) { share(); }
     StyleLease(const StyleLease&) = delete;
     StyleLease& operator=(const StyleLease&) = delete;
-    ~StyleLease() { CellStyles::ofThread().release(handle_); }
+    ~StyleLease() { styles_.release(handle_); }
 
     StyleHandle handle() const { return handle_; }
+    /// The handle with a further count, which the caller owns.
+    StyleHandle share() const {
+        styles_.addReference(handle_);
+        return handle_;
+    }
 
   private:
+    CellStyles& styles_; ///< to ask for the thread's table costs more than what is done to it
     StyleHandle handle_;
 };
 

@@ -111,13 +111,13 @@ Items::Block* Items::grow(std::size_t capacity) {
     return block();
 }
 
-void Items::append(CompactText text, StyleHandle style) {
+void Items::append(StringView text, const StyleLease& style) {
     Block* current = block();
     if (current == nullptr)
         current = block_ = allocate(1);
     if (current->count == current->capacity)
         current = grow(static_cast<std::size_t>(current->count) + 1);
-    new (current->cells() + current->count) ListViewItem(std::move(text), style);
+    new (current->cells() + current->count) ListViewItem(text, style);
     ++current->count;
 }
 

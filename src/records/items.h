@@ -41,8 +41,9 @@ class Items {
     ListViewItem& operator[](std::size_t index);
     const ListViewItem& operator[](std::size_t index) const;
 
-    /// Appends a cell, which every holder of the collection sees. Grows where there is no room left.
-    void append(CompactText text, StyleHandle style);
+    /// Appends a cell, which every holder of the collection sees. Grows where there is no room left. Where it
+    /// throws, no cell was added.
+    void append(StringView text, const StyleLease& style);
 
     /// The cells of the same place in two collections change places, rare fields included. Both must have it.
     void exchangeCell(std::size_t index, Items& other);

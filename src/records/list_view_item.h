@@ -35,9 +35,7 @@ struct CellExtras {
 /// lie with the row's `Items`.
 class ListViewItem {
   public:
-    ListViewItem(CompactText text, StyleHandle style) : text_(std::move(text)), style_(style) {
-        CellStyles::ofThread().addReference(style);
-    }
+    ListViewItem(StringView text, const StyleLease& style) : text_(text), style_(style.share()) {}
     ListViewItem(const ListViewItem&) = delete;
     ListViewItem& operator=(const ListViewItem&) = delete;
     ListViewItem(ListViewItem&& other) noexcept;

@@ -18,7 +18,7 @@ class Rows : public ::testing::Test {
         rows.back().Height = ++made_;
         rows.back().Selected = true;
         rows.back().items = Items::create(1);
-        rows.back().items.append(CompactText(u"x"), CellStyles::ofThread().acquire({}));
+        rows.back().items.append(u"x", StyleLease(CellStyle{}));
         expected.push_back(made_);
     }
     void moveLastTo(std::size_t position) {
