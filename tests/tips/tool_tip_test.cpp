@@ -5,8 +5,8 @@
 #include "tips/qi.h"
 #include "tips/tool_tip.h"
 #include "values/color.h"
+#include "worlds/common/kept_tip_window.h"
 #include "worlds/headless/desktop.h"
-#include "worlds/headless/headless_tip_window.h"
 
 #include <gtest/gtest.h>
 
@@ -312,7 +312,7 @@ TEST_F(ToolTip, AControlWithoutAWindowIsAQuietNoOp) {
 class QiTest : public ToolTip {
   protected:
     /// The one tip window that there is.
-    const headless::HeadlessTipWindow& tipWindow() { return *desktop.tips().windows().at(0); }
+    const worlds::KeptTipWindow& tipWindow() { return *desktop.tips().windows().at(0); }
 
     tips::QI qi{desktop};
 };

@@ -1,6 +1,7 @@
 #include "worlds/headless/desktop.h"
 
 #include "values/runtime_error.h"
+#include "worlds/common/composed_picture.h"
 #include "worlds/headless/headless_guide_line.h"
 #include "worlds/headless/headless_text_box.h"
 #include "worlds/headless/headless_window.h"
@@ -8,11 +9,11 @@
 namespace lumtex::headless {
 
 Desktop::Desktop(std::shared_ptr<raster::FontLibrary> fonts) : fonts_(std::move(fonts)), runtime_(*this) {
-    tree_.onRemove = [this](const Pane& pane) {
+    tree_.onRemove = [this](const worlds::Pane& pane) {
         pointer_.forget(pane);
         focus_.forget(pane);
     };
-    pointer_.onMadeUpMove = [this](Pointer::Event event) {
+    pointer_.onMadeUpMove = [this](worlds::Pointer::Event event) {
         event.shift = withHeldKeys(event.shift);
         post([this, event] { pointer_.deliverMadeUpMove(event); });
     };
@@ -20,15 +21,15 @@ Desktop::Desktop(std::shared_ptr<raster::FontLibrary> fonts) : fonts_(std::move(
 
 Desktop::~Desktop() = default;
 
-Pane& Desktop::paneOf(WindowHandle handle) const {
-    Pane* pane = tree_.find(handle);
+worlds::Pane& Desktop::paneOf(WindowHandle handle) const {
+    worlds::Pane* pane = tree_.find(handle);
     if (pane == nullptr)
         throw RuntimeError(ErrorNumber::invalidProcedureCall);
     return *pane;
 }
 
 std::unique_ptr<Window> Desktop::createWindow(Window* parent, UserControl& client) {
-    Pane* outer = parent != nullptr ? &paneOf(parent->hWnd()) : nullptr;
+    worlds::Pane* outer = parent != nullptr ? &paneOf(parent->hWnd()) : nullptr;
     auto window = std::make_unique<HeadlessWindow>(*this, outer, client);
     window->visible_ = parent == nullptr;
     return window;
@@ -76,20 +77,26 @@ Window* Desktop::focus() const {
 }
 
 WindowHandle Desktop::focused() const {
-    const Pane* holder = focus_.holder();
+    const worlds::Pane* holder = focus_.holder();
     return holder != nullptr ? holder->handle() : 0;
 }
 
-void Desktop::inputLost(const Pane& pane) {
+void Desktop::inputLost(const worlds::Pane& pane) {
     pointer_.forget(pane);
     focus_.leave(pane);
 }
 
-void Desktop::postPaint(const Pane& pane) {
+void Desktop::postPaint(const worlds::Pane& pane) {
     loop_.postPaint([this, handle = pane.handle()] {
-        if (Pane* painted = tree_.find(handle))
+        if (worlds::Pane* painted = tree_.find(handle))
             painted->paint();
     });
+}
+
+Bitmap Desktop::screenshot(const Window& window) const {
+    Bitmap picture(static_cast<Long>(window.Width()), static_cast<Long>(window.Height()));
+    worlds::composePicture(picture, paneOf(window.hWnd()), {0, 0, picture.width, picture.height});
+    return picture;
 }
 
 void Desktop::onYield(std::function<void()> body, int times) {

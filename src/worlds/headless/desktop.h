@@ -4,14 +4,14 @@
 
 #include "platform/world.h"
 #include "raster/font_library.h"
+#include "worlds/common/focus.h"
+#include "worlds/common/kept_tips.h"
+#include "worlds/common/pointer.h"
+#include "worlds/common/window_tree.h"
 #include "worlds/headless/event_loop.h"
-#include "worlds/headless/focus.h"
 #include "worlds/headless/headless_runtime.h"
-#include "worlds/headless/headless_tips.h"
 #include "worlds/headless/keyboard.h"
-#include "worlds/headless/pointer.h"
 #include "worlds/headless/timer_clock.h"
-#include "worlds/headless/window_tree.h"
 
 #include <chrono>
 #include <deque>
@@ -37,7 +37,7 @@ class Desktop final : public World {
     ~Desktop() override;
 
     HeadlessRuntime& runtime() override { return runtime_; }
-    HeadlessTips& tips() override { return tips_; }
+    worlds::KeptTips& tips() override { return tips_; }
     /// A window without a parent is shown from the start, as if its host had done so, and no UserControl_Show
     /// comes of that.
     std::unique_ptr<Window> createWindow(Window* parent, UserControl& client) override;
@@ -140,14 +140,14 @@ class Desktop final : public World {
 
     // For what the desktop makes
 
-    WindowTree& tree() { return tree_; }
-    const WindowTree& tree() const { return tree_; }
-    Focus& keyFocus() { return focus_; }
-    Pointer& mouse() { return pointer_; }
+    worlds::WindowTree& tree() { return tree_; }
+    const worlds::WindowTree& tree() const { return tree_; }
+    worlds::Focus& keyFocus() { return focus_; }
+    worlds::Pointer& mouse() { return pointer_; }
     const std::shared_ptr<raster::FontLibrary>& fonts() const { return fonts_; }
     /// The pane, or what it lies in, was hidden or disabled.
-    void inputLost(const Pane& pane);
-    void postPaint(const Pane& pane);
+    void inputLost(const worlds::Pane& pane);
+    void postPaint(const worlds::Pane& pane);
     EventLoop& loop() { return loop_; }
     /// One yield of the control, with its hook.
     void yield();
@@ -161,19 +161,19 @@ class Desktop final : public World {
     };
 
     /// Throws RuntimeError 5 for a window or box that is not of this desktop.
-    Pane& paneOf(WindowHandle handle) const;
+    worlds::Pane& paneOf(WindowHandle handle) const;
     void runYieldHook();
     Integer withHeldKeys(Integer shift) const;
 
     std::shared_ptr<raster::FontLibrary> fonts_;
-    WindowTree tree_;
+    worlds::WindowTree tree_;
     TimerClock clock_;
     EventLoop loop_{clock_};
-    Focus focus_{tree_};
-    Pointer pointer_{tree_, focus_};
+    worlds::Focus focus_{tree_};
+    worlds::Pointer pointer_{tree_, focus_};
     Keyboard keyboard_{focus_};
     HeadlessRuntime runtime_;
-    HeadlessTips tips_{tree_};
+    worlds::KeptTips tips_{tree_};
     std::deque<YieldHook> yieldHooks_;
 };
 

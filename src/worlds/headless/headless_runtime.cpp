@@ -102,7 +102,7 @@ PictureRef HeadlessRuntime::pictureOfImage(std::span<const Byte> image) const {
 }
 
 bool HeadlessRuntime::wasPressed(MouseButton button) {
-    Pointer& mouse = desktop_.mouse();
+    worlds::Pointer& mouse = desktop_.mouse();
     const bool isDown = (mouse.buttons() & button) != 0;
     return mouse.takePressed(button) || isDown;
 }

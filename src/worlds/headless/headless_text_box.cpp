@@ -23,8 +23,8 @@ std::size_t withinText(Long position, std::size_t length) {
 
 } // namespace
 
-HeadlessTextBox::HeadlessTextBox(Desktop& desktop, Pane& parent, TextBoxClient& client)
-    : Pane(desktop.tree(), &parent), desktop_(desktop), client_(client) {}
+HeadlessTextBox::HeadlessTextBox(Desktop& desktop, worlds::Pane& parent, TextBoxClient& client)
+    : worlds::Pane(desktop.tree(), &parent), desktop_(desktop), client_(client) {}
 
 void HeadlessTextBox::letLeft(Single left) {
     letArea({roundToLong(left), area().Top}, width_, height_);
@@ -144,7 +144,7 @@ void HeadlessTextBox::keyDown(Integer keyCode, Integer shift) {
 
 void HeadlessTextBox::character(Integer unit) {
     const WindowHandle self = handle();
-    const WindowTree& tree = desktop_.tree();
+    const worlds::WindowTree& tree = desktop_.tree();
     client_.textBoxKeyPress(unit);
     // The owner may have swallowed the character, or the box.
     if (tree.find(self) == nullptr)

@@ -3,17 +3,17 @@
 #pragma once
 
 #include "platform/text_box.h"
+#include "worlds/common/pane.h"
 #include "worlds/headless/desktop.h"
-#include "worlds/headless/pane.h"
 
 namespace lumtex::headless {
 
 /// Places are rounded to whole pixels as those of windows are. The mouse sets the caret and drags a
 /// selection; Left, Right, Home, End (with Shift too), Delete and Backspace edit. The wheel goes to the
 /// window around it.
-class HeadlessTextBox final : public TextBox, public Pane {
+class HeadlessTextBox final : public TextBox, public worlds::Pane {
   public:
-    HeadlessTextBox(Desktop& desktop, Pane& parent, TextBoxClient& client);
+    HeadlessTextBox(Desktop& desktop, worlds::Pane& parent, TextBoxClient& client);
 
     WindowHandle hWnd() const override { return handle(); }
     Single Left() const { return static_cast<Single>(area().Left); }
@@ -43,6 +43,7 @@ class HeadlessTextBox final : public TextBox, public Pane {
     void letSelLength(Long length) override;
     void setFocus() override;
 
+    bool isBox() const override { return true; }
     Bitmap picture() const override;
     void mouseDown(Integer button, Integer shift, Point at) override;
     void doubleClick(Point at) override;

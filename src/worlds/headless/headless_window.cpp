@@ -15,8 +15,9 @@ constexpr std::uint32_t guideColor = 0xFF000000U; // 0xAARRGGBB
 
 } // namespace
 
-HeadlessWindow::HeadlessWindow(Desktop& desktop, Pane* parent, UserControl& client)
-    : Pane(desktop.tree(), parent), desktop_(desktop), client_(client), surface_(0, 0, desktop.fonts()) {}
+HeadlessWindow::HeadlessWindow(Desktop& desktop, worlds::Pane* parent, UserControl& client)
+    : worlds::Pane(desktop.tree(), parent), desktop_(desktop), client_(client),
+      surface_(0, 0, desktop.fonts()) {}
 
 HeadlessWindow::~HeadlessWindow() {
     for (HeadlessGuideLine* guide : guides_)
@@ -76,7 +77,7 @@ Point HeadlessWindow::pointer() const {
 }
 
 bool HeadlessWindow::adopt(WindowHandle child) {
-    Pane* pane = desktop_.tree().find(child);
+    worlds::Pane* pane = desktop_.tree().find(child);
     if (pane == nullptr || !desktop_.tree().adopt(*this, *pane))
         return false;
     if (!pane->takesInput())

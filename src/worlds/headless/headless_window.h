@@ -3,16 +3,16 @@
 #pragma once
 
 #include "raster/raster_surface.h"
+#include "worlds/common/pane.h"
 #include "worlds/headless/desktop.h"
-#include "worlds/headless/pane.h"
 
 namespace lumtex::headless {
 
 class HeadlessGuideLine;
 
-class HeadlessWindow final : public Window, public Pane {
+class HeadlessWindow final : public Window, public worlds::Pane {
   public:
-    HeadlessWindow(Desktop& desktop, Pane* parent, UserControl& client);
+    HeadlessWindow(Desktop& desktop, worlds::Pane* parent, UserControl& client);
     ~HeadlessWindow() override;
 
     WindowHandle hWnd() const override { return handle(); }

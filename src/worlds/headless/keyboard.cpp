@@ -38,23 +38,23 @@ void Keyboard::letGo(Integer keyCode) {
     shift_ = static_cast<Integer>(shift_ & ~maskOf(keyCode));
 }
 
-Pane* Keyboard::target() const {
-    Pane* pane = focus_.holder();
+worlds::Pane* Keyboard::target() const {
+    worlds::Pane* pane = focus_.holder();
     return pane != nullptr && pane->takesInput() ? pane : nullptr;
 }
 
 void Keyboard::deliverKeyDown(Integer keyCode, Integer shift) {
-    if (Pane* pane = target())
+    if (worlds::Pane* pane = target())
         pane->keyDown(keyCode, shift);
 }
 
 void Keyboard::deliverCharacter(Integer unit) {
-    if (Pane* pane = target())
+    if (worlds::Pane* pane = target())
         pane->character(unit);
 }
 
 void Keyboard::deliverKeyUp(Integer keyCode, Integer shift) {
-    if (Pane* pane = target())
+    if (worlds::Pane* pane = target())
         pane->keyUp(keyCode, shift);
 }
 

@@ -3,14 +3,14 @@
 #pragma once
 
 #include "platform/keys.h"
-#include "worlds/headless/focus.h"
+#include "worlds/common/focus.h"
 
 namespace lumtex::headless {
 
 /// Keys go to the pane that has the focus when they are delivered, unless it takes no input.
 class Keyboard {
   public:
-    explicit Keyboard(Focus& focus) : focus_(focus) {}
+    explicit Keyboard(worlds::Focus& focus) : focus_(focus) {}
     Keyboard(const Keyboard&) = delete;
     Keyboard& operator=(const Keyboard&) = delete;
 
@@ -24,9 +24,9 @@ class Keyboard {
     void deliverKeyUp(Integer keyCode, Integer shift);
 
   private:
-    Pane* target() const;
+    worlds::Pane* target() const;
 
-    Focus& focus_;
+    worlds::Focus& focus_;
     Integer shift_ = 0;
 };
 

@@ -8,7 +8,7 @@ class TipWindows : public DesktopFixture {
         return {.owner = a->window().hWnd(), .id = id, .text = String(text)};
     }
 
-    headless::HeadlessTips& tips = desktop.tips();
+    worlds::KeptTips& tips = desktop.tips();
     std::unique_ptr<TipWindow> window = tips.createTipWindow(a->window().hWnd());
 };
 

@@ -1,14 +1,14 @@
 /// \file
-/// All windows and text boxes of a simulated desktop, by number and by place.
+/// All windows and text boxes of a world, by number and by place.
 #pragma once
 
-#include "worlds/headless/pane.h"
+#include "worlds/common/pane.h"
 
 #include <functional>
 #include <unordered_map>
 #include <vector>
 
-namespace lumtex::headless {
+namespace lumtex::worlds {
 
 /// Does not own its panes; they enter and leave by themselves.
 class WindowTree {
@@ -45,4 +45,4 @@ class WindowTree {
     std::vector<Pane*> topLevel_; ///< lowest first
 };
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds

@@ -1,24 +1,25 @@
-#include "worlds/headless/focus.h"
+#include "worlds/common/focus.h"
 
 #include <utility>
 
-namespace lumtex::headless {
+namespace lumtex::worlds {
 
-void Focus::change(WindowHandle handle) {
+void Focus::change(WindowHandle handle, bool toOther) {
     if (holder_ == handle)
         return;
     const WindowHandle old = std::exchange(holder_, handle);
     before_ = 0;
     if (Pane* pane = tree_.find(old))
-        pane->lostFocus(handle != 0);
+        pane->lostFocus(toOther);
     Pane* pane = tree_.find(handle);
     if (pane != nullptr && holder_ == handle)
         pane->gotFocus();
 }
 
 void Focus::moveTo(const Pane& pane) {
-    if (pane.takesInput())
-        change(pane.handle());
+    const WindowHandle handle = pane.handle();
+    if (pane.takesInput() && mayChange(&pane) && tree_.find(handle) != nullptr)
+        change(handle, true);
 }
 
 void Focus::leave(const Pane& pane) {
@@ -28,7 +29,9 @@ void Focus::leave(const Pane& pane) {
     const Pane* outer = pane.parent();
     while (outer != nullptr && !outer->takesInput())
         outer = outer->parent();
-    change(outer != nullptr ? outer->handle() : 0);
+    const WindowHandle next = outer != nullptr ? outer->handle() : 0;
+    if (mayChange(outer) && (next == 0 || tree_.find(next) != nullptr))
+        change(next, next != 0);
 }
 
 void Focus::forget(const Pane& pane) {
@@ -37,9 +40,13 @@ void Focus::forget(const Pane& pane) {
         holder_ = 0;
 }
 
+void Focus::moveAway() {
+    change(0, true);
+}
+
 void Focus::switchAway() {
     const WindowHandle held = holder_;
-    change(0);
+    change(0, false);
     if (holder_ == 0 && held != 0)
         before_ = held;
 }
@@ -50,4 +57,4 @@ void Focus::switchBack() {
         moveTo(*pane);
 }
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds

@@ -1,11 +1,11 @@
-#include "worlds/headless/pane.h"
+#include "worlds/common/pane.h"
 
-#include "worlds/headless/window_tree.h"
+#include "worlds/common/window_tree.h"
 
 #include <algorithm>
 #include <limits>
 
-namespace lumtex::headless {
+namespace lumtex::worlds {
 
 namespace {
 
@@ -25,6 +25,10 @@ WidePoint wideOrigin(const Pane& pane) {
     for (const Pane* outer = &pane; outer != nullptr; outer = outer->parent()) {
         origin.x += outer->area().Left;
         origin.y += outer->area().Top;
+        if (outer->parent() == nullptr) {
+            origin.x += outer->base().x;
+            origin.y += outer->base().y;
+        }
     }
     return origin;
 }
@@ -71,6 +75,13 @@ bool Pane::isWithin(const Pane& outer) const {
     return pane != nullptr;
 }
 
+Pane& Pane::outermost() {
+    Pane* pane = this;
+    while (pane->parent_ != nullptr)
+        pane = pane->parent_;
+    return *pane;
+}
+
 const Pane& Pane::keyWindow() const {
     const Pane* pane = this;
     while (!pane->takesKeys_ && pane->parent_ != nullptr)
@@ -82,4 +93,4 @@ bool Pane::takesInput() const {
     return visible_ && enabled_ && (parent_ == nullptr || parent_->takesInput());
 }
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds

@@ -1,14 +1,14 @@
 /// \file
-/// The mouse of the simulated desktop: where it is, what it holds, and who hears of it.
+/// The mouse of a world: where it is, what it holds, and who hears of it.
 #pragma once
 
 #include "worlds/common/click_sequence.h"
-#include "worlds/headless/focus.h"
-#include "worlds/headless/window_tree.h"
+#include "worlds/common/focus.h"
+#include "worlds/common/window_tree.h"
 
 #include <functional>
 
-namespace lumtex::headless {
+namespace lumtex::worlds {
 
 /// Who gets an event is decided when it is delivered, from the place where the pointer was when it happened.
 ///
@@ -17,7 +17,7 @@ namespace lumtex::headless {
 class Pointer {
   public:
     /// Something that the mouse did, as it was at that time, in pixels of the desktop.
-    using Event = worlds::ClickSequence::Event;
+    using Event = ClickSequence::Event;
 
     Pointer(WindowTree& tree, Focus& focus) : tree_(tree), focus_(focus) {}
     Pointer(const Pointer&) = delete;
@@ -25,6 +25,8 @@ class Pointer {
 
     Point place() const { return place_; }
     Integer buttons() const { return buttons_; }
+    /// What the platform says is down, which it may know better: a release can get lost to another program.
+    void letButtons(Integer buttons) { buttons_ = buttons; }
     /// Was `button` pressed since it was asked for the last time?
     bool takePressed(Integer button);
 
@@ -42,7 +44,8 @@ class Pointer {
     /// In place of the second press of a double click. No click follows its release.
     void deliverDoublePress(const Event& event);
     void deliverRelease(const Event& event);
-    void deliverWheel(const Event& event, Long rotation);
+    /// Whether some window took it.
+    bool deliverWheel(const Event& event, Long rotation);
 
     WindowHandle captured() const { return captured_; }
     /// No effect for a pane that takes no input.
@@ -72,7 +75,7 @@ class Pointer {
     Integer shift_ = 0;               ///< of the event that is being delivered
     bool moveMadeUp_ = false;         ///< one waits
     WindowHandle captured_ = 0;
-    worlds::ClickSequence press_;
+    ClickSequence press_;
 };
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds

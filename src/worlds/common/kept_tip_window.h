@@ -3,18 +3,18 @@
 #pragma once
 
 #include "values/color.h"
-#include "worlds/headless/headless_tips.h"
+#include "worlds/common/kept_tips.h"
 
 #include <array>
 #include <vector>
 
-namespace lumtex::headless {
+namespace lumtex::worlds {
 
-class HeadlessTipWindow final : public TipWindow {
+class KeptTipWindow final : public TipWindow {
   public:
     /// Known to `desktop`, which must outlive it, from here on.
-    HeadlessTipWindow(HeadlessTips& desktop, WindowHandle handle);
-    ~HeadlessTipWindow() override;
+    KeptTipWindow(KeptTips& desktop, WindowHandle handle);
+    ~KeptTipWindow() override;
 
     WindowHandle hWnd() const override { return handle_; }
 
@@ -43,7 +43,7 @@ class HeadlessTipWindow final : public TipWindow {
   private:
     void setAllDelays(Long milliseconds);
 
-    HeadlessTips& desktop_;
+    KeptTips& desktop_;
     WindowHandle handle_;
     std::vector<TipTool> tools_;
     OLE_COLOR backColor_ = 0x80000018U;
@@ -53,4 +53,4 @@ class HeadlessTipWindow final : public TipWindow {
     Long maxWidth_ = -1;
 };
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds

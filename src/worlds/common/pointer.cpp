@@ -1,12 +1,10 @@
-#include "worlds/headless/pointer.h"
-
-#include "worlds/headless/headless_window.h"
+#include "worlds/common/pointer.h"
 
 #include <new>
 #include <optional>
 #include <utility>
 
-namespace lumtex::headless {
+namespace lumtex::worlds {
 
 class Pointer::Delivery {
   public:
@@ -21,7 +19,7 @@ class Pointer::Delivery {
     Integer outer_;
 };
 
-class Pointer::Target final : public worlds::ClickSequence::Target {
+class Pointer::Target final : public ClickSequence::Target {
   public:
     Target(Pointer& pointer, const Pane& pane) : pointer_(pointer), handle_(pane.handle()) {}
 
@@ -29,8 +27,7 @@ class Pointer::Target final : public worlds::ClickSequence::Target {
     void capture() override { pointer_.captured_ = handle_; }
     bool ownBoxHasKeys() const override {
         const Pane* held = pointer_.focus_.holder();
-        return held != nullptr && held->parent() == &pane()->keyWindow() &&
-               dynamic_cast<const HeadlessWindow*>(held) == nullptr;
+        return held != nullptr && held->parent() == &pane()->keyWindow() && held->isBox();
     }
     void takeKeys() override { pointer_.focus_.moveTo(pane()->keyWindow()); }
 
@@ -129,14 +126,15 @@ void Pointer::deliverRelease(const Event& event) {
         pane != nullptr ? &target.emplace(*this, *pane) : nullptr, event, [this] { endCapture(); });
 }
 
-void Pointer::deliverWheel(const Event& event, Long rotation) {
+bool Pointer::deliverWheel(const Event& event, Long rotation) {
     const Delivery delivery(*this, event);
     for (Pane* target = tree_.at(event.at); target != nullptr;) {
         const WindowHandle outer = target->parent() != nullptr ? target->parent()->handle() : 0;
         if (target->wheel(rotation, event.shift, target->fromDesktop(event.at)))
-            return;
+            return true;
         target = tree_.find(outer);
     }
+    return false;
 }
 
 void Pointer::capture(const Pane& pane) {
@@ -158,4 +156,4 @@ void Pointer::forget(const Pane& pane) {
         press_.forget();
 }
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds

@@ -1,5 +1,6 @@
 /// \file
-/// What windows and text boxes are on the simulated desktop: a place in a tree that takes input.
+/// What windows and text boxes are in a world that keeps its own tree of them: a place in a tree that takes
+/// input.
 #pragma once
 
 #include "platform/window.h"
@@ -8,7 +9,7 @@
 
 #include <vector>
 
-namespace lumtex::headless {
+namespace lumtex::worlds {
 
 class WindowTree;
 
@@ -30,8 +31,13 @@ class Pane {
     /// Lowest first.
     const std::vector<Pane*>& children() const { return children_; }
     const Rect& area() const { return area_; }
+    /// The pane that it lies in, at any depth, and that lies in none.
+    Pane& outermost();
     /// The left upper corner on the desktop.
     Point origin() const;
+    /// For a pane without a parent: where the place is, on the desktop, that its own place counts from.
+    Point base() const { return base_; }
+    void letBase(Point base) { base_ = base; }
     /// A point of the desktop in pixels of this pane.
     Point fromDesktop(Point point) const;
     /// Covers this point of the desktop, with no parent cutting it off there.
@@ -44,6 +50,8 @@ class Pane {
     const Pane& keyWindow() const;
     bool isVisible() const { return visible_; }
     bool isEnabled() const { return enabled_; }
+    /// A text box, which edits by itself what its window does not take.
+    virtual bool isBox() const { return false; }
 
     /// The pane's own pixels, without its children.
     virtual Bitmap picture() const = 0;
@@ -82,6 +90,7 @@ class Pane {
     Pane* parent_;
     std::vector<Pane*> children_;
     Rect area_;
+    Point base_;
 };
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds

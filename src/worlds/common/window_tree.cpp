@@ -1,8 +1,8 @@
-#include "worlds/headless/window_tree.h"
+#include "worlds/common/window_tree.h"
 
 #include <algorithm>
 
-namespace lumtex::headless {
+namespace lumtex::worlds {
 
 namespace {
 
@@ -58,4 +58,4 @@ bool WindowTree::adopt(Pane& parent, Pane& child) {
     return true;
 }
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds

@@ -2,9 +2,11 @@
 /// Which pane the keyboard belongs to.
 #pragma once
 
-#include "worlds/headless/window_tree.h"
+#include "worlds/common/window_tree.h"
 
-namespace lumtex::headless {
+#include <functional>
+
+namespace lumtex::worlds {
 
 /// Both sides of a change hear of it before the call returns: first the one that lost the focus, then, if it
 /// still has it by then, the one that got it.
@@ -25,17 +27,25 @@ class Focus {
     void leave(const Pane& pane);
     /// `pane` goes away: a focus within it goes too, without any event.
     void forget(const Pane& pane);
+    /// Something of the program that is no pane gets the focus.
+    void moveAway();
     /// The user goes to another program.
     void switchAway();
     /// The user comes back: what had the focus then has it again, if it still takes input.
     void switchBack();
 
+    /// For a platform with a focus of its own: brings that to a pane, or to none, before either side of the
+    /// change hears of it. False if it does not go there now; then nothing changes.
+    std::function<bool(const Pane*)> claim;
+
   private:
-    void change(WindowHandle handle);
+    bool mayChange(const Pane* to) const { return !claim || claim(to); }
+    /// `toOther`: something of the program gets it, be it a pane or not.
+    void change(WindowHandle handle, bool toOther);
 
     WindowTree& tree_;
     WindowHandle holder_ = 0;
     WindowHandle before_ = 0; ///< who had it when the user went away
 };
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds

@@ -1,9 +1,8 @@
-/// What a user would see of a window.
-#include "worlds/headless/desktop.h"
+#include "worlds/common/composed_picture.h"
 
 #include <algorithm>
 
-namespace lumtex::headless {
+namespace lumtex::worlds {
 
 namespace {
 
@@ -26,7 +25,8 @@ void lay(Bitmap& target, const Bitmap& source, std::int64_t x, std::int64_t y, c
     }
 }
 
-void compose(Bitmap& target, const Pane& pane, std::int64_t x, std::int64_t y, const Clip& outer) {
+void compose(
+    Bitmap& target, const Pane& pane, std::int64_t x, std::int64_t y, const Clip& outer, Boxes boxes) {
     const std::int64_t width = std::int64_t{pane.area().Right} - pane.area().Left;
     const std::int64_t height = std::int64_t{pane.area().Bottom} - pane.area().Top;
     const Clip clip{std::max(outer.left, x),
@@ -37,17 +37,19 @@ void compose(Bitmap& target, const Pane& pane, std::int64_t x, std::int64_t y, c
         return;
     lay(target, pane.picture(), x, y, clip);
     for (const Pane* child : pane.children()) {
-        if (child->isVisible())
-            compose(target, *child, x + child->area().Left, y + child->area().Top, clip);
+        if (child->isVisible() && (boxes == Boxes::shown || !child->isBox()))
+            compose(target, *child, x + child->area().Left, y + child->area().Top, clip, boxes);
     }
 }
 
 } // namespace
 
-Bitmap Desktop::screenshot(const Window& window) const {
-    Bitmap picture(static_cast<Long>(window.Width()), static_cast<Long>(window.Height()));
-    compose(picture, paneOf(window.hWnd()), 0, 0, {0, 0, picture.width, picture.height});
-    return picture;
+void composePicture(Bitmap& target, const Pane& pane, const Rect& part, Boxes boxes) {
+    const Clip clip{std::max(part.Left, Long{0}),
+                    std::max(part.Top, Long{0}),
+                    std::min(part.Right, target.width),
+                    std::min(part.Bottom, target.height)};
+    compose(target, pane, 0, 0, clip, boxes);
 }
 
-} // namespace lumtex::headless
+} // namespace lumtex::worlds
