@@ -88,9 +88,17 @@ void RasterSurface::setFont(const FontSpec& font) {
     typeface_.reset();
 }
 
+void RasterSurface::letPixelsPerInch(Double pixels) {
+    pixelsPerInch_ = pixels;
+    typeface_.reset();
+}
+
 Typeface& RasterSurface::typeface() {
-    if (!typeface_)
-        typeface_ = fonts_->typeface(font_);
+    if (!typeface_) {
+        FontSpec dense = font_;
+        dense.Size = static_cast<Single>(dense.Size * pixelsPerInch_ / usualPixelsPerInch);
+        typeface_ = fonts_->typeface(dense);
+    }
     return *typeface_;
 }
 

@@ -12,7 +12,8 @@
 
 namespace lumtex::raster {
 
-/// 96 pixels per inch, white and without drawing at first. Text is drawn with `fonts`, which it shares.
+/// 96 pixels per inch unless told otherwise, white and without drawing at first. Text is drawn with `fonts`,
+/// which it shares.
 class RasterSurface final : public Surface {
   public:
     RasterSurface(Long width, Long height, std::shared_ptr<FontLibrary> fonts);
@@ -26,8 +27,10 @@ class RasterSurface final : public Surface {
 
     Long scaleWidth() const override { return width_; }
     Long scaleHeight() const override { return height_; }
-    Double pixelsPerInchX() const override { return 96; }
-    Double pixelsPerInchY() const override { return 96; }
+    Double pixelsPerInchX() const override { return pixelsPerInch_; }
+    Double pixelsPerInchY() const override { return pixelsPerInch_; }
+    /// Fonts, whose sizes are points, grow with it. More than 0; what was drawn stays as it is.
+    void letPixelsPerInch(Double pixels);
 
     void Cls() override;
     OLE_COLOR BackColor() const override { return backColor_; }
@@ -51,6 +54,8 @@ class RasterSurface final : public Surface {
     Bitmap image() const override;
 
   private:
+    static constexpr Double usualPixelsPerInch = 96;
+
     /// Where to paint; carries out a clearing that was put off.
     Canvas canvas();
     void carryOutClearing();
@@ -58,6 +63,7 @@ class RasterSurface final : public Surface {
 
     Long width_;
     Long height_;
+    Double pixelsPerInch_ = usualPixelsPerInch;
     std::vector<Pixel> pixels_;
     /// The whole surface is this colour: a repaint clears twice in a row, and the second time counts.
     std::optional<Pixel> clearing_;
