@@ -1,0 +1,90 @@
+/// \file
+/// What the system around a program of Qt offers: event loop, settings, clock, files, the user's desktop.
+#pragma once
+
+#include "platform/runtime.h"
+#include "worlds/common/machine_files.h"
+#include "worlds/common/pointer.h"
+
+#include <chrono>
+#include <functional>
+#include <map>
+
+namespace lumtex::qt {
+
+/// Plays itself all parts but the files.
+class QtRuntime : public Runtime,
+                  public EventQueue,
+                  public Settings,
+                  public SystemLocale,
+                  public PictureImages,
+                  public Automation,
+                  public UserDesktop,
+                  public Program {
+  public:
+    /// Passes over the queue that one `DoEvents` makes at most. What a storm leaves over waits for the next.
+    static constexpr int mostPasses = 64;
+    /// Yields that may be inside one another; a deeper one returns at once.
+    static constexpr int deepestYield = 64;
+
+    explicit QtRuntime(worlds::Pointer& pointer);
+
+    QtRuntime& queue() override { return *this; }
+    worlds::MachineFiles& files() override { return files_; }
+    QtRuntime& settings() override { return *this; }
+    QtRuntime& locale() override { return *this; }
+    QtRuntime& pictures() override { return *this; }
+    QtRuntime& automation() override { return *this; }
+    QtRuntime& desktop() override { return *this; }
+    QtRuntime& program() override { return *this; }
+
+    /// Does nothing once the application ends.
+    void DoEvents() override;
+    /// Qt does not tell. A look right after a yield counts as one of the same moment, and finds nothing.
+    bool hasPendingEvents() const override;
+    void messageBox(StringView text, BoxStyle style, StringView title) override;
+    bool isBoxOpen() const { return openBoxes_ > 0; }
+    /// The application was told to end, or there is none.
+    bool isQuitting() const;
+
+    /// From the application's settings file: the parts of a key are groups.
+    std::optional<String> text(StringView key, StringView name) const override;
+
+    Date now() const override;
+    /// Code page 1252.
+    void toAnsi(StringView text, std::span<Byte> bytes) const override;
+    void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override;
+
+    std::vector<Byte> imageOfPicture(const Picture& picture) const override;
+    PictureRef pictureOfImage(std::span<const Byte> image) const override;
+
+    /// Made by one of `factories`.
+    ObjectRef createObject(StringView programId) override;
+    ObjectRef applicationObject() override { return nullptr; }
+
+    /// There is no player of sound files in the libraries that are asked for: the user hears the system's
+    /// bell.
+    void playSound(StringView file) override;
+    SystemVersion systemVersion() const override;
+    /// No theme of these systems has one of the names.
+    std::optional<String> colorScheme() const override { return std::nullopt; }
+    bool wasPressed(MouseButton button) override;
+    void open(const OpenRequest& request) override;
+
+    const ComponentInfo& component() const override { return component_; }
+    Long currentProcessId() const override;
+    std::optional<std::vector<ProcessEntry>> processes() const override;
+
+    /// By program identifier.
+    std::map<String, std::function<ObjectRef()>> factories;
+
+  private:
+    worlds::Pointer& pointer_;
+    ComponentInfo component_;
+    worlds::MachineFiles files_;
+    int yieldDepth_ = 0;
+    int openBoxes_ = 0;
+    std::chrono::steady_clock::time_point lastYield_;
+};
+
+} // namespace lumtex::qt

@@ -1,0 +1,77 @@
+/// Plays every script with widgets: the same logs, and after each step the same picture as the simulated
+/// desktop shows.
+#include "list_fixture.h"
+#include "log_comparison.h"
+#include "qt_stage.h"
+#include "scenarios/headless_stage.h"
+#include "scenarios/player.h"
+#include "scenarios/script_files.h"
+
+namespace lumtex::testing {
+
+namespace {
+
+class QtScenario : public ::testing::TestWithParam<std::filesystem::path> {};
+
+/// The open editor is a field of Qt, of which only the place is ours: it is left black.
+Bitmap pictureOf(Stage& stage) {
+    Bitmap picture = stage.picture();
+    if (!ListViewInspector(stage.list()).anyEditor().Visible())
+        return picture;
+    const Rect box = stage.editorPlace();
+    for (Long y = std::max(box.Top, 0); y < std::min(box.Bottom, picture.height); ++y)
+        for (Long x = std::max(box.Left, 0); x < std::min(box.Right, picture.width); ++x)
+            picture.at(x, y) = 0;
+    return picture;
+}
+
+/// Says where the first pixel differs.
+::testing::AssertionResult samePixels(const Bitmap& widgets, const Bitmap& software) {
+    if (widgets.width != software.width || widgets.height != software.height)
+        return ::testing::AssertionFailure() << "sizes: widgets " << widgets.width << " x " << widgets.height
+                                             << ", software " << software.width << " x " << software.height;
+    std::size_t count = 0;
+    std::string first;
+    for (Long y = 0; y < widgets.height; ++y) {
+        for (Long x = 0; x < widgets.width; ++x) {
+            if (widgets.at(x, y) == software.at(x, y))
+                continue;
+            if (++count > 8)
+                continue;
+            char note[80];
+            std::snprintf(note,
+                          sizeof note,
+                          "\n  (%d, %d) widgets %06X, software %06X",
+                          int{x},
+                          int{y},
+                          static_cast<unsigned>(widgets.at(x, y) & 0xFFFFFFU),
+                          static_cast<unsigned>(software.at(x, y) & 0xFFFFFFU));
+            first += note;
+        }
+    }
+    if (count == 0)
+        return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << count << " pixels differ" << first;
+}
+
+TEST_P(QtScenario, LeavesTheLogThatItSaysAndShowsTheSamePictures) {
+    const Script script = parseScript(contentOfScript(GetParam()));
+    std::vector<Bitmap> expected;
+    {
+        const std::unique_ptr<Stage> simulated = makeHeadlessStage();
+        play(script, *simulated, [&] { expected.push_back(pictureOf(*simulated)); });
+    }
+    const std::unique_ptr<Stage> stage = makeQtStage();
+    std::size_t step = 0;
+    const Played played = play(script, *stage, [&] {
+        EXPECT_TRUE(samePixels(pictureOf(*stage), expected.at(step)))
+            << "after line " << script.steps[step].line << ", " << script.steps[step].text;
+        ++step;
+    });
+    EXPECT_TRUE(sameLog(linesOf(script, played.logs), linesOf(script, expectedLogs(script))));
+}
+
+INSTANTIATE_TEST_SUITE_P(Qt, QtScenario, ::testing::ValuesIn(scriptFiles()), nameOfScript);
+
+} // namespace
+} // namespace lumtex::testing
