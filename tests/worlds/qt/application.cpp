@@ -1,4 +1,5 @@
-/// The application that all tests of this program run in. Its screen is one of memory.
+/// The application that all tests of this program run in. Its screen is one of memory, and as dense as the
+/// build says.
 #include <QApplication>
 #include <cstdlib>
 #include <memory>
@@ -13,7 +14,7 @@ class Application final : public ::testing::Environment {
   public:
     void SetUp() override {
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        setenv("QT_SCALE_FACTOR", "1", 1);
+        setenv("QT_SCALE_FACTOR", LUMTEX_SCREEN_SCALE, 1);
         application_ = std::make_unique<QApplication>(count_, words_);
         QApplication::setQuitOnLastWindowClosed(false);
     }
