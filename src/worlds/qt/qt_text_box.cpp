@@ -102,13 +102,13 @@ void QtTextBox::letVisible(bool visible) {
 }
 
 void QtTextBox::letTabStop(bool tabStop) {
-    if (field_)
+    if (field_ != nullptr)
         field_->setFocusPolicy(tabStop ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void QtTextBox::setFont(const FontSpec& font) {
     font_ = font;
-    if (!field_)
+    if (field_ == nullptr)
         return;
     constexpr Double pointsPerInch = 72;
     QFont own(toQString(font.Name));
@@ -122,7 +122,7 @@ void QtTextBox::setFont(const FontSpec& font) {
 }
 
 void QtTextBox::letForeColor(OLE_COLOR color) {
-    if (!field_)
+    if (field_ == nullptr)
         return;
     QPalette palette = field_->palette();
     palette.setColor(QPalette::Text, colorOf(color));
@@ -130,25 +130,25 @@ void QtTextBox::letForeColor(OLE_COLOR color) {
 }
 
 String QtTextBox::Text() const {
-    return field_ ? fromQString(field_->text()) : String();
+    return field_ != nullptr ? fromQString(field_->text()) : String();
 }
 
 void QtTextBox::letText(StringView text) {
-    if (!field_)
+    if (field_ == nullptr)
         return;
     field_->setText(toQString(text.substr(0, text.find(u'\0'))));
     field_->setCursorPosition(0);
 }
 
 void QtTextBox::letSelStart(Long start) {
-    if (!field_)
+    if (field_ == nullptr)
         return;
     field_->deselect();
     field_->setCursorPosition(std::max(start, Long{0}));
 }
 
 void QtTextBox::letSelLength(Long length) {
-    if (!field_)
+    if (field_ == nullptr)
         return;
     const int start = field_->hasSelectedText() ? field_->selectionStart() : field_->cursorPosition();
     field_->setSelection(start,
@@ -165,19 +165,19 @@ void QtTextBox::lostFocus(bool toOther) {
 }
 
 void QtTextBox::mouseDown(Integer /*button*/, Integer /*shift*/, Point /*at*/) {
-    if (field_)
+    if (field_ != nullptr)
         field_->takeMouseEvent();
 }
 void QtTextBox::doubleClick(Point /*at*/) {
-    if (field_)
+    if (field_ != nullptr)
         field_->takeMouseEvent();
 }
 void QtTextBox::mouseMove(Integer /*buttons*/, Integer /*shift*/, Point /*at*/) {
-    if (field_)
+    if (field_ != nullptr)
         field_->takeMouseEvent();
 }
 void QtTextBox::mouseUp(Integer /*button*/, Integer /*shift*/, Point /*at*/) {
-    if (field_)
+    if (field_ != nullptr)
         field_->takeMouseEvent();
 }
 

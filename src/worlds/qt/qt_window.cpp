@@ -52,7 +52,7 @@ void QtWindow::dropScreen() {
 }
 
 void QtWindow::placeScreen() {
-    if (!screen_)
+    if (screen_ == nullptr)
         return;
     const Double ratio = world_.ratio();
     const auto unit = [&](Long pixels) { return static_cast<int>(std::ceil(pixels / ratio)); };
@@ -89,9 +89,9 @@ void QtWindow::letVisible(bool visible) {
         world_.inputLost(*this);
     if (world.tree().find(self) == nullptr)
         return;
-    if (screen_)
+    if (screen_ != nullptr)
         screen_->setVisible(visible);
-    if (screen_ && !visible)
+    if (screen_ != nullptr && !visible)
         world_.formMayBeClosed();
     if (visible && !wasVisible)
         client_.UserControl_Show();
@@ -103,7 +103,7 @@ void QtWindow::letEnabled(bool enabled) {
     const QtWorld& world = world_;
     if (!enabled)
         world_.inputLost(*this);
-    if (world.tree().find(self) != nullptr && screen_)
+    if (world.tree().find(self) != nullptr && screen_ != nullptr)
         screen_->setEnabled(enabled);
 }
 
