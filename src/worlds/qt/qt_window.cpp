@@ -89,8 +89,12 @@ void QtWindow::letVisible(bool visible) {
         world_.inputLost(*this);
     if (world.tree().find(self) == nullptr)
         return;
-    if (screen_ != nullptr)
-        screen_->setVisible(visible);
+    if (ScreenWidget* screen = screen_) {
+        // A widget that appears may get the focus, and a handler of that may let the window go.
+        screen->setVisible(visible);
+        if (world.tree().find(self) == nullptr)
+            return;
+    }
     if (screen_ != nullptr && !visible)
         world_.formMayBeClosed();
     if (visible && !wasVisible)
