@@ -3,6 +3,7 @@
 #include "list_fixture.h"
 #include "log_comparison.h"
 #include "qt_stage.h"
+#include "same_pixels.h"
 #include "scenarios/headless_stage.h"
 #include "scenarios/player.h"
 #include "scenarios/script_files.h"
@@ -23,35 +24,6 @@ Bitmap pictureOf(Stage& stage) {
         for (Long x = std::max(box.Left, 0); x < std::min(box.Right, picture.width); ++x)
             picture.at(x, y) = 0;
     return picture;
-}
-
-/// Says where the first pixel differs.
-::testing::AssertionResult samePixels(const Bitmap& widgets, const Bitmap& software) {
-    if (widgets.width != software.width || widgets.height != software.height)
-        return ::testing::AssertionFailure() << "sizes: widgets " << widgets.width << " x " << widgets.height
-                                             << ", software " << software.width << " x " << software.height;
-    std::size_t count = 0;
-    std::string first;
-    for (Long y = 0; y < widgets.height; ++y) {
-        for (Long x = 0; x < widgets.width; ++x) {
-            if (widgets.at(x, y) == software.at(x, y))
-                continue;
-            if (++count > 8)
-                continue;
-            char note[80];
-            std::snprintf(note,
-                          sizeof note,
-                          "\n  (%d, %d) widgets %06X, software %06X",
-                          int{x},
-                          int{y},
-                          static_cast<unsigned>(widgets.at(x, y) & 0xFFFFFFU),
-                          static_cast<unsigned>(software.at(x, y) & 0xFFFFFFU));
-            first += note;
-        }
-    }
-    if (count == 0)
-        return ::testing::AssertionSuccess();
-    return ::testing::AssertionFailure() << count << " pixels differ" << first;
 }
 
 TEST_P(QtScenario, LeavesTheLogThatItSaysAndShowsTheSamePictures) {
