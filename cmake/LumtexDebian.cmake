@@ -23,7 +23,7 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME liblumtexlistview-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
-    "libfreetype-dev, libharfbuzz-dev, libfontconfig-dev, libgdk-pixbuf-2.0-dev, pkg-config")
+    "libfreetype-dev, libharfbuzz-dev, libfribidi-dev, libfontconfig-dev, libgdk-pixbuf-2.0-dev, pkg-config")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
 set(recommended "")
 if(LUMTEX_BUILD_JSON)

@@ -72,17 +72,13 @@ void TextPainter::rules(std::int64_t from, std::int64_t to, std::int64_t y, cons
         bar(typeface_.strikeTop());
 }
 
-/// Glyphs from the pen on, as long as they stay within `room`. Returns where the pen ends up.
-std::int64_t
-TextPainter::drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const Rect& clip, Long room) {
-    const std::int64_t start = x;
+/// Glyphs from the pen on. Returns where the pen ends up.
+std::int64_t TextPainter::drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const Rect& clip) {
     const std::int64_t baseLine = y + typeface_.ascent();
     while (!text.empty() && x < clip.Right) {
-        const StringView piece = text.substr(0, Typeface::longestRun);
+        const StringView piece = Typeface::firstPiece(text);
         text.remove_prefix(piece.size());
         for (const PlacedGlyph& placed : typeface_.run(piece).glyphs) {
-            if (x + placed.advance - start > room)
-                return x;
             const Glyph& glyph = *placed.glyph;
             const std::int64_t left = x + glyph.left + placed.shiftX;
             const std::int64_t top = baseLine - glyph.top + placed.shiftY;
@@ -98,27 +94,18 @@ TextPainter::drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const R
 /// What of a line is drawn in `room` pixels. In the narrowest places that is the dots alone.
 TextPainter::Shown TextPainter::shownOf(StringView line, std::int64_t room, TextFormat format) {
     if (!has(format, TextFormat::wordEllipsis))
-        return {typeface_.width(line), Typeface::maximum, false};
+        return {typeface_.width(line), line.size(), false};
     const auto most = static_cast<Long>(std::clamp<std::int64_t>(room, 0, Typeface::maximum - 1));
     const Long whole = typeface_.width(line, most);
     if (whole <= most)
-        return {whole, Typeface::maximum, false};
+        return {whole, line.size(), false};
     const Long dots = typeface_.width(ellipsis);
-    Long width = 0;
-    while (!line.empty()) {
-        const StringView piece = line.substr(0, Typeface::longestRun);
-        line.remove_prefix(piece.size());
-        for (const PlacedGlyph& placed : typeface_.run(piece).glyphs) {
-            if (width + placed.advance > most - dots)
-                return {width + dots, width, true};
-            width += placed.advance;
-        }
-    }
-    return {width + dots, width, true};
+    const Beginning letters = typeface_.beginning(line, most - dots);
+    return {letters.width + dots, letters.units, true};
 }
 
 void TextPainter::drawLine(StringView line, std::int64_t x, std::int64_t y, const Rect& clip) {
-    rules(x, drawGlyphs(line, x, y, clip, Typeface::maximum), y, clip);
+    rules(x, drawGlyphs(line, x, y, clip), y, clip);
 }
 
 void TextPainter::drawLineIn(const Line& line, const Rect& rect, std::int64_t y, TextFormat format) {
@@ -127,23 +114,22 @@ void TextPainter::drawLineIn(const Line& line, const Rect& rect, std::int64_t y,
         return;
     const std::int64_t room = std::int64_t{rect.Right} - rect.Left;
     const Shown shown = shownOf(line.text, room, format);
+    const StringView letters = line.text.substr(0, shown.units);
     std::int64_t x = rect.Left;
     if ((format & alignmentMask) == TextFormat::center)
         x += (room - shown.width) / 2;
     else if ((format & alignmentMask) == TextFormat::right)
         x += room - shown.width;
-    std::int64_t end = drawGlyphs(line.text, x, y, clip, shown.letters);
+    std::int64_t end = drawGlyphs(letters, x, y, clip);
     if (shown.cut)
-        end = drawGlyphs(ellipsis, end, y, clip, Typeface::maximum);
+        end = drawGlyphs(ellipsis, end, y, clip);
     rules(x, end, y, clip);
-    if (line.underlined >= line.text.size())
+    if (line.underlined >= letters.size())
         return;
-    const std::int64_t before = typeface_.width(line.text.substr(0, line.underlined));
-    const std::int64_t after = before + typeface_.width(line.text.substr(line.underlined, 1));
-    if (after > shown.letters)
-        return;
+    const Extent marked = typeface_.extentOf(letters, line.underlined);
     const std::int64_t top = y + typeface_.underlineTop();
-    const Rect area{clampToLong(x + before), clampToLong(top), clampToLong(x + after), clampToLong(top + 1)};
+    const Rect area{
+        clampToLong(x + marked.from), clampToLong(top), clampToLong(x + marked.to), clampToLong(top + 1)};
     fillArea(canvas_, intersection(area, clip), color_);
 }
 

@@ -27,16 +27,16 @@ class TextPainter {
         std::size_t underlined; ///< index of the unit that a prefix character marks; npos for none
     };
 
-    /// Pixels. A line that is cut ends in dots.
+    /// What is shown of a line; one that is cut ends in dots.
     struct Shown {
-        Long width;   ///< with the dots
-        Long letters; ///< without them
+        Long width;        ///< pixels, with the dots
+        std::size_t units; ///< how many of the line stand in front of the dots
         bool cut;
     };
 
     Shown shownOf(StringView line, std::int64_t room, TextFormat format);
     void drawLineIn(const Line& line, const Rect& rect, std::int64_t y, TextFormat format);
-    std::int64_t drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const Rect& clip, Long room);
+    std::int64_t drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const Rect& clip);
     void rules(std::int64_t from, std::int64_t to, std::int64_t y, const Rect& clip);
 
     Canvas canvas_;

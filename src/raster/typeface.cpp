@@ -1,5 +1,6 @@
 #include "raster/typeface.h"
 
+#include "raster/characters.h"
 #include "raster/typeface_implementation.h"
 #include "values/runtime_error.h"
 
@@ -17,31 +18,12 @@ Long ceiling(FT_Pos value) {
     return static_cast<Long>((value + 63) >> 6);
 }
 
+} // namespace
+
 bool isSimple(StringView text) {
     return std::all_of(
         text.begin(), text.end(), [](char16_t unit) { return unit < Typeface::Implementation::simpleEnd; });
 }
-
-/// Neither drawn nor given any room.
-constexpr bool isControl(char16_t unit) {
-    return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
-}
-
-char32_t characterAt(StringView text, std::size_t index) {
-    const char32_t unit = text[index];
-    if (unit >= 0xD800 && unit < 0xDC00 && index + 1 < text.size()) {
-        const char32_t next = text[index + 1];
-        if (next >= 0xDC00 && next < 0xE000)
-            return 0x10000 + ((unit - 0xD800) << 10U) + (next - 0xDC00);
-    }
-    return unit;
-}
-
-constexpr std::size_t unitsOf(char32_t character) {
-    return character >= 0x10000 ? 2 : 1;
-}
-
-} // namespace
 
 std::unique_ptr<Typeface::Implementation> Typeface::Implementation::make(std::shared_ptr<FontLibrary> library,
                                                                          FaceRequest request) {
@@ -89,59 +71,14 @@ LoadedFace& Typeface::Implementation::faceFor(char32_t character) {
         const FaceFile file = fonts.find(request, character);
         if (!file.path.empty()) {
             auto face = std::make_unique<LoadedFace>(fonts.open(file, request.pixels), file);
-            if (face->has(character)) {
+            // A face of coloured pictures has no outlines, and would leave holes.
+            if (face->has(character) && FT_IS_SCALABLE(face->face())) {
                 entry->second = face.get();
                 faces.push_back(std::move(face));
             }
         }
     }
     return *entry->second;
-}
-
-void Typeface::Implementation::shapePiece(LoadedFace& face,
-                                          StringView text,
-                                          std::size_t offset,
-                                          GlyphRun& run) {
-    hb_buffer_reset(buffer.get());
-    hb_buffer_add_utf16(buffer.get(),
-                        reinterpret_cast<const std::uint16_t*>(text.data()),
-                        static_cast<int>(text.size()),
-                        0,
-                        static_cast<int>(text.size()));
-    hb_buffer_guess_segment_properties(buffer.get());
-    hb_shape(face.shaper(), buffer.get(), nullptr, 0);
-    unsigned count = 0;
-    const hb_glyph_info_t* infos = hb_buffer_get_glyph_infos(buffer.get(), &count);
-    const hb_glyph_position_t* positions = hb_buffer_get_glyph_positions(buffer.get(), &count);
-    for (unsigned i = 0; i < count; ++i) {
-        const Long advance = static_cast<Long>((positions[i].x_advance + 32) >> 6);
-        run.glyphs.push_back({&face.glyphAt(infos[i].codepoint),
-                              advance,
-                              static_cast<Long>((positions[i].x_offset + 32) >> 6),
-                              -static_cast<Long>((positions[i].y_offset + 32) >> 6),
-                              static_cast<std::uint32_t>(offset) + infos[i].cluster});
-        run.width += advance;
-    }
-}
-
-/// Shapes stretch by stretch, each in the face that has its characters.
-void Typeface::Implementation::shape(StringView text, GlyphRun& run) {
-    std::size_t start = 0;
-    while (start < text.size()) {
-        LoadedFace& face = faceFor(characterAt(text, start));
-        std::size_t end = start;
-        while (end < text.size()) {
-            const char32_t character = characterAt(text, end);
-            // Marks and joiners stay with what they stand on.
-            const bool belongs = (character >= 0x300 && character < 0x370) || character == 0x200D ||
-                                 &faceFor(character) == &face;
-            if (end > start && !belongs)
-                break;
-            end += unitsOf(character);
-        }
-        shapePiece(face, text.substr(start, end - start), start, run);
-        start = end;
-    }
 }
 
 Typeface::Typeface(std::unique_ptr<Implementation> implementation)
@@ -193,7 +130,7 @@ Long Typeface::width(StringView text, Long enough) {
     Implementation& self = *implementation_;
     std::int64_t total = 0;
     while (!text.empty() && total <= enough) {
-        const StringView piece = text.substr(0, longestRun);
+        const StringView piece = firstPiece(text);
         text.remove_prefix(piece.size());
         if (isSimple(piece)) {
             for (const char16_t unit : piece)

@@ -35,16 +35,31 @@ struct TextHash {
     std::size_t operator()(StringView text) const { return std::hash<StringView>{}(text); }
 };
 
+/// Whether every letter stands alone: no shaping, no direction, no marks.
+bool isSimple(StringView text);
+
 struct Typeface::Implementation {
     static std::unique_ptr<Implementation> make(std::shared_ptr<FontLibrary> library, FaceRequest request);
 
-    /// Characters below this one stand alone: no shaping, no direction, no marks.
+    /// Characters below this one stand alone.
     static constexpr char16_t simpleEnd = 0x300;
 
     const Glyph& simpleGlyph(char16_t unit);
     LoadedFace& faceFor(char32_t character);
-    void shapePiece(LoadedFace& face, StringView text, std::size_t offset, GlyphRun& run);
+
+    /// Code units of a text that one face draws in one script; a control character is one without a face.
+    struct Stretch {
+        std::size_t from;
+        std::size_t length;
+        LoadedFace* face;
+        hb_script_t script;
+    };
+
+    /// Adds the glyphs of a text, leftmost first.
     void shape(StringView text, GlyphRun& run);
+    void shapePart(StringView text, std::size_t from, std::size_t length, bool rightToLeft, GlyphRun& run);
+    void shapeStretch(StringView text, const Stretch& stretch, bool rightToLeft, GlyphRun& run);
+    Stretch stretchAt(StringView text, std::size_t from);
 
     std::shared_ptr<FontLibrary> library;
     FaceRequest request;
