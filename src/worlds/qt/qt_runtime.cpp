@@ -8,6 +8,7 @@
 #include "worlds/common/nesting_level.h"
 #include "worlds/qt/qt_picture.h"
 #include "worlds/qt/qt_text.h"
+#include "worlds/qt/users_locale.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -49,7 +50,9 @@ QtRuntime::QtRuntime(worlds::Pointer& pointer)
                                     .folder = fromQString(QCoreApplication::applicationDirPath()),
                                     .major = versionMajor,
                                     .minor = versionMinor,
-                                    .revision = versionRevision} {}
+                                    .revision = versionRevision} {
+    letUsersLocale(usersLocale());
+}
 
 bool QtRuntime::isQuitting() const {
     return QCoreApplication::instance() == nullptr || QCoreApplication::closingDown();

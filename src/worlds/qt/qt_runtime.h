@@ -27,6 +27,7 @@ class QtRuntime : public Runtime,
     /// Yields that may be inside one another; a deeper one returns at once.
     static constexpr int deepestYield = 64;
 
+    /// From here on the program converts texts by the locale of its user.
     explicit QtRuntime(worlds::Pointer& pointer);
 
     QtRuntime& queue() override { return *this; }

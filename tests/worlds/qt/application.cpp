@@ -14,6 +14,7 @@ class Application final : public ::testing::Environment {
   public:
     void SetUp() override {
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        setenv("LC_ALL", "C", 1); // as on the simulated desktop
         setenv("QT_SCALE_FACTOR", LUMTEX_SCREEN_SCALE, 1);
         application_ = std::make_unique<QApplication>(count_, words_);
         QApplication::setQuitOnLastWindowClosed(false);
