@@ -1,5 +1,6 @@
 /// Mouse, keys, wheel and tips, as widgets hear of them.
 #include "worlds/qt/key_codes.h"
+#include "worlds/qt/mouse_buttons.h"
 #include "worlds/qt/qt_text.h"
 #include "worlds/qt/qt_text_box.h"
 #include "worlds/qt/qt_window.h"
@@ -17,27 +18,6 @@ namespace lumtex::qt {
 namespace {
 
 constexpr Long notch = 120;
-
-MouseButton buttonOf(Qt::MouseButton button) {
-    switch (button) {
-    case Qt::LeftButton:
-        return leftButton;
-    case Qt::RightButton:
-        return rightButton;
-    case Qt::MiddleButton:
-        return middleButton;
-    default:
-        return noButton;
-    }
-}
-
-Integer buttonsOf(Qt::MouseButtons buttons) {
-    int all = noButton;
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
-        if (buttons.testFlag(button))
-            all |= buttonOf(button);
-    return static_cast<Integer>(all);
-}
 
 bool isFocusKey(const QKeyEvent& event) {
     return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
@@ -128,6 +108,20 @@ bool QtWorld::deliver(ScreenWidget& screen, QEvent& event) {
         if (static_cast<QFocusEvent&>(event).reason() != Qt::PopupFocusReason)
             focusWent();
         return false;
+    case QEvent::DragEnter:
+    case QEvent::DragMove: {
+        auto& drag = static_cast<QDropEvent&>(event);
+        drops_.over(onDesktop(screen, *pane, drag.position()), drag);
+        return true;
+    }
+    case QEvent::DragLeave:
+        drops_.leave();
+        return true;
+    case QEvent::Drop: {
+        auto& drop = static_cast<QDropEvent&>(event);
+        drops_.drop(onDesktop(screen, *pane, drop.position()), drop);
+        return true;
+    }
     case QEvent::ToolTip: {
         const auto& help = static_cast<QHelpEvent&>(event);
         return showTip(onDesktop(screen, *pane, help.pos()), help.globalPos());

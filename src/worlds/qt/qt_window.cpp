@@ -111,6 +111,14 @@ void QtWindow::letEnabled(bool enabled) {
         screen_->setEnabled(enabled);
 }
 
+void QtWindow::letOLEDropMode(Long mode) {
+    oleDropMode_ = mode;
+    const auto* outer = dynamic_cast<QtWindow*>(&outermost());
+    // Elsewhere the widgets around may take what is dropped.
+    if (outer != nullptr && outer->screen_ != nullptr && (takesDrops() || outer == this))
+        outer->screen_->setAcceptDrops(takesDrops());
+}
+
 void QtWindow::letMousePointer(CursorShape shape) {
     mousePointer_ = shape;
     world_.showPointer();

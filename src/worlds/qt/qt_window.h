@@ -41,7 +41,8 @@ class QtWindow final : public Window, public worlds::Pane {
     /// Hiding it, or disabling it, passes on a focus and ends a capture in it.
     void letVisible(bool visible) override;
     void letEnabled(bool enabled) override;
-    void letOLEDropMode(Long mode) override { oleDropMode_ = mode; }
+    /// Mode 1 takes drops, also on what lies in the window and takes none itself.
+    void letOLEDropMode(Long mode) override;
     void letMousePointer(CursorShape shape) override;
     void setMouseIcon(PictureRef icon) override;
     void setFocus() override;
@@ -56,6 +57,8 @@ class QtWindow final : public Window, public worlds::Pane {
 
     /// The widget that shows it; null for a window that lies in another one, and once the widget has gone.
     ScreenWidget* screen() const { return screen_; }
+    UserControl& client() const { return client_; }
+    bool takesDrops() const { return oleDropMode_ == 1; }
     /// The shape of the pointer over it.
     QCursor cursor() const { return mousePointer_ == CursorShape::custom && icon_ ? *icon_ : QCursor(); }
 

@@ -8,6 +8,7 @@
 #include "worlds/common/kept_tips.h"
 #include "worlds/common/pointer.h"
 #include "worlds/common/window_tree.h"
+#include "worlds/qt/drag_target.h"
 #include "worlds/qt/qt_runtime.h"
 #include "worlds/qt/screen_widget.h"
 
@@ -136,6 +137,7 @@ class QtWorld : public World {
     worlds::Focus focus_{tree_};
     worlds::Pointer pointer_{tree_, focus_};
     worlds::KeptTips tips_{tree_};
+    DragTarget drops_{*this};
     QtRuntime ownRuntime_;
 };
 

@@ -14,6 +14,7 @@ TextField::TextField(QtTextBox& box, QWidget* parent) : QLineEdit(parent), box_(
     setMaxLength(std::numeric_limits<int>::max());
     setFocusPolicy(Qt::NoFocus);
     setContextMenuPolicy(Qt::NoContextMenu);
+    setAcceptDrops(false); // the list around it is asked
     hide();
 }
 
