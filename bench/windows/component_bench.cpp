@@ -3,7 +3,8 @@
 //
 // Prints a table for docs/performance.md: medians of three runs, in milliseconds of the wall clock. With an
 // argument it measures the component alone, in those rows of the table whose names contain the argument: for
-// profiles.
+// profiles. With --results it goes through all once, beside the system's list in both its ways, for
+// scripts/bench-peers.
 #include "LumtexListView.h"
 #include "sample_rows.h"
 
@@ -184,21 +185,40 @@ class Component final : public List {
     Text separator_{L"|"};
 };
 
+// What both kinds of the system's list have in common.
+
+void addColumns(HWND list) {
+    SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+    int place = 0;
+    for (const int pixels : {70, 200, 160, 120, 110}) {
+        LVCOLUMNW column{};
+        column.mask = LVCF_WIDTH | LVCF_TEXT;
+        column.cx = pixels;
+        column.pszText = const_cast<wchar_t*>(L"Column");
+        SendMessageW(
+            list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(place++), reinterpret_cast<LPARAM>(&column));
+    }
+}
+
+void paintList(HWND list) {
+    UpdateWindow(list);
+    GdiFlush();
+}
+
+void scrollListTo(HWND list, int row) {
+    const auto top = static_cast<int>(SendMessageW(list, LVM_GETTOPINDEX, 0, 0));
+    RECT one{};
+    SendMessageW(list, LVM_GETITEMRECT, static_cast<WPARAM>(top), reinterpret_cast<LPARAM>(&one));
+    SendMessageW(list, LVM_SCROLL, 0, static_cast<LPARAM>(row - top) * (one.bottom - one.top));
+    paintList(list);
+}
+
 /// The system's list, which keeps a copy of each text.
 class SystemList final : public List {
   public:
     explicit SystemList(HWND parent)
         : list_(window(WC_LISTVIEWW, WS_CHILD | LVS_REPORT | LVS_SHOWSELALWAYS, parent)) {
-        SendMessageW(list_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
-        int place = 0;
-        for (const int pixels : {70, 200, 160, 120, 110}) {
-            LVCOLUMNW column{};
-            column.mask = LVCF_WIDTH | LVCF_TEXT;
-            column.cx = pixels;
-            column.pszText = const_cast<wchar_t*>(L"Column");
-            SendMessageW(
-                list_, LVM_INSERTCOLUMNW, static_cast<WPARAM>(place++), reinterpret_cast<LPARAM>(&column));
-        }
+        addColumns(list_);
     }
     ~SystemList() override { DestroyWindow(list_); }
     void hold() override { SendMessageW(list_, WM_SETREDRAW, FALSE, 0); }
@@ -230,21 +250,80 @@ class SystemList final : public List {
              (row = SendMessageW(list_, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED)) >= 0;)
             SendMessageW(list_, LVM_DELETEITEM, static_cast<WPARAM>(row), 0);
     }
-    void scrollTo(int row) override {
-        const auto top = static_cast<int>(SendMessageW(list_, LVM_GETTOPINDEX, 0, 0));
-        RECT one{};
-        SendMessageW(list_, LVM_GETITEMRECT, static_cast<WPARAM>(top), reinterpret_cast<LPARAM>(&one));
-        SendMessageW(list_, LVM_SCROLL, 0, static_cast<LPARAM>(row - top) * (one.bottom - one.top));
-        paint();
-    }
-    void paint() override {
-        UpdateWindow(list_);
-        GdiFlush();
-    }
+    void scrollTo(int row) override { scrollListTo(list_, row); }
+    void paint() override { paintList(list_); }
     int count() override { return static_cast<int>(SendMessageW(list_, LVM_GETITEMCOUNT, 0, 0)); }
 
   private:
     HWND list_;
+};
+
+/// The system's list over texts that the host keeps, which it asks for as it paints.
+class VirtualList final : public List {
+  public:
+    explicit VirtualList(HWND parent)
+        : list_(window(WC_LISTVIEWW, WS_CHILD | LVS_REPORT | LVS_SHOWSELALWAYS | LVS_OWNERDATA, parent)),
+          parent_(parent) {
+        SetWindowSubclass(parent, answer, 1, reinterpret_cast<DWORD_PTR>(this));
+        addColumns(list_);
+    }
+    ~VirtualList() override {
+        RemoveWindowSubclass(parent_, answer, 1);
+        DestroyWindow(list_);
+    }
+    void hold() override { shown_ = false; }
+    void show() override {
+        shown_ = true;
+        tellCount();
+    }
+    void add(const Row& row) override {
+        rows_.push_back(row.cells);
+        if (shown_)
+            tellCount();
+    }
+    void removeFirst() override {
+        rows_.erase(rows_.begin());
+        tellCount();
+    }
+    void select(int row) override { selected_.push_back(row); }
+    void removeSelected() override {
+        std::size_t next = 0;
+        int row = 0;
+        std::erase_if(rows_, [&](const Cells&) {
+            const bool gone = next < selected_.size() && selected_[next] == row;
+            next += gone ? 1 : 0;
+            ++row;
+            return gone;
+        });
+        selected_.clear();
+        tellCount();
+    }
+    void scrollTo(int row) override { scrollListTo(list_, row); }
+    void paint() override { paintList(list_); }
+    int count() override { return static_cast<int>(rows_.size()); }
+
+  private:
+    void tellCount() {
+        SendMessageW(list_, LVM_SETITEMCOUNT, rows_.size(), LVSICF_NOINVALIDATEALL | LVSICF_NOSCROLL);
+    }
+    static LRESULT CALLBACK
+    answer(HWND parent, UINT message, WPARAM first, LPARAM second, UINT_PTR, DWORD_PTR list) {
+        const auto* notice = reinterpret_cast<const NMHDR*>(second);
+        if (message != WM_NOTIFY || notice->code != LVN_GETDISPINFOW)
+            return DefSubclassProc(parent, message, first, second);
+        LVITEMW& item = reinterpret_cast<NMLVDISPINFOW*>(second)->item;
+        auto& rows = reinterpret_cast<VirtualList*>(list)->rows_;
+        if ((item.mask & LVIF_TEXT) != 0)
+            item.pszText =
+                rows[static_cast<std::size_t>(item.iItem)][static_cast<std::size_t>(item.iSubItem)].data();
+        return 0;
+    }
+
+    HWND list_;
+    HWND parent_;
+    std::vector<Cells> rows_;
+    std::vector<int> selected_;
+    bool shown_ = false;
 };
 
 using Clock = std::chrono::steady_clock;
@@ -324,30 +403,28 @@ void dispatchWhatWaits() {
 }
 
 template <class Kind>
+double timeOnce(const Measure& measure, HWND parent, const std::vector<Row>& rows) {
+    Kind list(parent);
+    list.hold();
+    for (int row = 0; row < measure.rows; ++row)
+        list.add(rows[static_cast<std::size_t>(row)]);
+    dispatchWhatWaits();
+    const double time = measure.run(list, rows);
+    must(list.count() == measure.rowsAfter, measure.name);
+    return time;
+}
+
+template <class Kind>
 double medianOf(const Measure& measure, HWND parent, const std::vector<Row>& rows) {
     constexpr int runs = 3;
     std::vector<double> times;
-    for (int run = 0; run < runs; ++run) {
-        Kind list(parent);
-        list.hold();
-        for (int row = 0; row < measure.rows; ++row)
-            list.add(rows[static_cast<std::size_t>(row)]);
-        dispatchWhatWaits();
-        times.push_back(measure.run(list, rows));
-        must(list.count() == measure.rowsAfter, measure.name);
-    }
+    for (int run = 0; run < runs; ++run)
+        times.push_back(timeOnce<Kind>(measure, parent, rows));
     std::sort(times.begin(), times.end());
     return times[runs / 2];
 }
 
-void printTable(const char* only) {
-    const INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_LISTVIEW_CLASSES};
-    InitCommonControlsEx(&classes);
-    const auto start = reinterpret_cast<BOOL(WINAPI*)()>(
-        reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"atl.dll"), "AtlAxWinInit")));
-    must(start != nullptr && start() != FALSE, "atl.dll is not there");
-    HWND parent = window(L"STATIC", WS_POPUP | WS_CLIPCHILDREN, nullptr);
-    const std::vector<Row> rows = rowsOf(loaded);
+void printTable(const char* only, HWND parent, const std::vector<Row>& rows) {
     std::puts("| milliseconds | component | system's list |\n|---|--:|--:|");
     for (const Measure& measure : measures) {
         if (only != nullptr && std::strstr(measure.name, only) == nullptr)
@@ -360,6 +437,34 @@ void printTable(const char* only) {
                 "| %s | %.3g | %.3g |\n", measure.name, own, medianOf<SystemList>(measure, parent, rows));
         std::fflush(stdout);
     }
+}
+
+/// One turn of each measure: its name, the rows, the list, milliseconds, and 1 for the right result.
+void printResults(HWND parent, const std::vector<Row>& rows) {
+    for (const Measure& measure : measures) {
+        const auto print = [&](const char* list, double time) {
+            std::printf(
+                "%s\t%d\t%s\t%.4g\t1\n", measure.name, std::max(measure.rows, measure.rowsAfter), list, time);
+            std::fflush(stdout);
+        };
+        print("the component", timeOnce<Component>(measure, parent, rows));
+        print("system's list, storing", timeOnce<SystemList>(measure, parent, rows));
+        print("system's list, virtual", timeOnce<VirtualList>(measure, parent, rows));
+    }
+}
+
+void run(const char* what) {
+    const INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_LISTVIEW_CLASSES};
+    InitCommonControlsEx(&classes);
+    const auto start = reinterpret_cast<BOOL(WINAPI*)()>(
+        reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"atl.dll"), "AtlAxWinInit")));
+    must(start != nullptr && start() != FALSE, "atl.dll is not there");
+    HWND parent = window(L"STATIC", WS_POPUP | WS_CLIPCHILDREN, nullptr);
+    const std::vector<Row> rows = rowsOf(loaded);
+    if (what != nullptr && std::strcmp(what, "--results") == 0)
+        printResults(parent, rows);
+    else
+        printTable(what, parent, rows);
     DestroyWindow(parent);
 }
 
@@ -370,7 +475,7 @@ int main(int count, char** arguments) {
         return 1;
     int status = 0;
     try {
-        printTable(count > 1 ? arguments[1] : nullptr);
+        run(count > 1 ? arguments[1] : nullptr);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         status = 1;
