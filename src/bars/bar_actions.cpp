@@ -94,6 +94,16 @@ void ScrollBar::stepLow() {
     p.step([&] { events_.change(); });
 }
 
+void ScrollBar::drag(Long value) {
+    Procedure p = procedure(u"Drag");
+    value = std::max(std::min(value, max_), min_);
+    const bool moved = value != value_;
+    letValue(value);
+    if (moved)
+        p.step([&] { events_.scroll(); });
+    p.step([&] { events_.change(); });
+}
+
 void ScrollBar::press(ArrowButton& button, Single position, Long direction) {
     button.UC_MDown();
     pressPos_ = position;

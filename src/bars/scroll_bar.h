@@ -88,6 +88,17 @@ class ScrollBar : public UserControl {
     bool Visible() const { return window_->Visible(); }
     void letVisible(bool visible) { window_->letVisible(visible); }
     Window& window() { return *window_; }
+    const Window& lowArrow() const { return low_.window(); }
+    const Window& highArrow() const { return high_.window(); }
+    const Window& thumb() const { return thumb_.window(); }
+
+    // Without the mouse
+
+    /// A press on an arrow, and its release.
+    void pressLow() { stepLow(); }
+    void pressHigh() { stepHigh(); }
+    /// A drag of the thumb to a value, which is brought into the range, and its release.
+    void drag(Long value);
 
     /// The owner's decision that the bar is needed: "True" or "False"; empty before the first.
     String Tag;

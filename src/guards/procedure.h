@@ -80,6 +80,8 @@ class [[nodiscard]] Procedure {
     /// host gives nothing of the host's on to its caller.
     template <class Event>
     void raise(Event&& event) & {
+        if (life_ != nullptr)
+            life_->hostComes();
         try {
             event();
         } catch (const std::exception& caught) {

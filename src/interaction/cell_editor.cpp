@@ -16,6 +16,12 @@ void CellEditor::acceptIfOpen() {
     textBoxKeyPress(key);
 }
 
+void CellEditor::type(StringView text) {
+    Procedure p = procedure(u"txtEdit_Change");
+    if (isOpen())
+        p.step([&] { txtEdit_->letText(text); });
+}
+
 void CellEditor::StopEdit() {
     Procedure p = procedure(u"StopEdit");
     edit_.editActive = false;

@@ -21,7 +21,21 @@ class CellEditor : private ListPart, private TextBoxClient {
     bool isOpen() const { return txtEdit_->Visible(); }
     WindowHandle hWnd() const { return txtEdit_->hWnd(); }
     /// The open editor follows its row; pixels of the surface.
-    void letTop(Single top) { txtEdit_->letTop(top); }
+    void letTop(Single top) {
+        txtEdit_->letTop(top);
+        area_.top = top;
+    }
+    /// Where it was placed last; pixels of the surface.
+    struct Area {
+        Single left = 0;
+        Single top = 0;
+        Single width = 0;
+        Single height = 0;
+    };
+    const Area& area() const { return area_; }
+    String text() const { return txtEdit_->Text(); }
+    /// As if typed into the open editor, whose old text goes.
+    void type(StringView text);
 
     /// The cell of the last press or release on an item, or that of the editor.
     Long lastClickRow() const { return edit_.lastClickRow; }
@@ -47,6 +61,7 @@ class CellEditor : private ListPart, private TextBoxClient {
     void textBoxLostFocus() override;
 
     State edit_;
+    Area area_;
     std::unique_ptr<TextBox> txtEdit_;
 };
 

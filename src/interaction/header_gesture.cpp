@@ -23,6 +23,7 @@ HeaderGesture::HeaderGesture(ListViewCore& core)
 void HeaderGesture::beginPress() {
     state_.pressPending = true;
     state_.currentColumn = -1;
+    state_.columnHeld = false;
 }
 
 /// A header is held down from here only well inside its edges; a paint may still decide otherwise.
@@ -62,7 +63,8 @@ void HeaderGesture::trackMouse(const ColumnSpan& span, Single headerHeight) {
     const Single right = span.left + span.width;
     if (!mouse.isInside() || mouse.lastX() < span.left || mouse.lastX() >= right)
         return;
-    state_.currentColumn = span.column;
+    if (!state_.columnHeld)
+        state_.currentColumn = span.column;
     if (mouse.lastY() < 0 || mouse.lastY() > headerHeight)
         return;
 
@@ -139,6 +141,15 @@ void HeaderGesture::clickColumn(Procedure& p) {
     p.raise([&] { core_.events().ColumnClick(column); });
     if (p.condition([&] { return records_.columnAt(state_.hoverColumn).AllowSorting; }, false))
         core_.sorter->sortByClick(state_.hoverColumn);
+}
+
+void HeaderGesture::activate(Long column) {
+    Procedure p = procedure(u"Activate");
+    Long clicked = column + 1;
+    p.raise([&] { core_.events().ColumnClick(clicked); });
+    if (p.condition([&] { return records_.columnAt(column).AllowSorting; }, false))
+        core_.sorter->sortByClick(column);
+    list_.Redraw();
 }
 
 void HeaderGesture::end(Procedure& p) {

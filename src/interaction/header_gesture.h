@@ -31,6 +31,17 @@ class HeaderGesture : private ListPart {
     void moveOverHeaders(Single X, Single Y, Procedure& p);
     void release(Single X, Procedure& p);
 
+    // Without the mouse
+
+    /// What a click on the header of `column` does: the event, and where the column allows it the sort.
+    void activate(Long column);
+    /// A press without a place falls on `column`; until `endPressOn` no pass takes that of the mouse instead.
+    void pressOn(Long column) {
+        state_.currentColumn = column;
+        state_.columnHeld = true;
+    }
+    void endPressOn() { state_.columnHeld = false; }
+
     /// Under the last press or release.
     Long currentColumn() const { return state_.currentColumn; }
 
@@ -53,10 +64,11 @@ class HeaderGesture : private ListPart {
     struct State {
         bool pressPending = false; ///< the first paint after a press may turn it into a column press
         Long currentColumn = 0;
-        Long pressedColumn = 0; ///< whose header body is held down
-        Long hoverColumn = 0;   ///< in hover look
-        Long resizeColumn = 0;  ///< whose divider the cursor is on
-        bool resizing = false;  ///< a divider drag runs
+        Long pressedColumn = 0;  ///< whose header body is held down
+        Long hoverColumn = 0;    ///< in hover look
+        Long resizeColumn = 0;   ///< whose divider the cursor is on
+        bool resizing = false;   ///< a divider drag runs
+        bool columnHeld = false; ///< `currentColumn` is no business of the mouse
     };
 
     void endResize(Single X, Procedure& p);

@@ -20,6 +20,12 @@ class Mouse : private ListPart {
     void up(Integer Button, Integer Shift, Single X, Single Y);
     void doubleClick();
 
+    // Without a place
+
+    enum class Aim : Byte { body, checkBox };
+    /// What a press on a cell of an enabled row and its release do, but for the events of the mouse itself.
+    void activate(Long row, Long column, Aim aim);
+
     /// The column at `X`; none while the mouse is not known to be inside the control.
     std::optional<ColumnSpan> columnUnder(Single X);
 
@@ -55,7 +61,8 @@ class Mouse : private ListPart {
 
     void remember(Integer Button, Single X, Single Y);
     void press(Single X, Single Y, Procedure& p);
-    void pressRow(Long row, Single X, Single Y, Procedure& p);
+    template <class OnCheckBox>
+    void pressRow(Long row, OnCheckBox onCheckBox, Procedure& p);
     bool inCheckBoxZone(Single X, Single Y, Procedure& p);
     void toggleCheckBox(Procedure& p);
 

@@ -37,10 +37,30 @@ void Mouse::press(Single X, Single Y, Procedure& p) {
     if (!onBody || X >= core_.painting->columnsRight())
         return;
     if (const std::optional<Long> row = rowPressed(Y, p))
-        pressRow(*row, X, Y, p);
+        pressRow(
+            *row, [&] { return inCheckBoxZone(X, Y, p); }, p);
 }
 
-void Mouse::pressRow(Long row, Single X, Single Y, Procedure& p) {
+void Mouse::activate(Long row, Long column, Aim aim) {
+    Procedure p = procedure(u"Activate");
+    core_.headerGesture->beginPress();
+    core_.selection->beginPress();
+    core_.editor->acceptIfOpen();
+    core_.headerGesture->pressOn(column);
+    // Host code may have taken the row away, as the editor closed and again in the press.
+    const auto isThere = [&] { return row < records_.RowsCount() && column < records_.ColumnsCount(); };
+    if (isThere())
+        pressRow(
+            row, [&] { return aim == Aim::checkBox; }, p);
+    core_.selection->endPress();
+    if (isThere())
+        releaseOnRow(row, p);
+    core_.headerGesture->endPressOn();
+}
+
+/// `onCheckBox` is asked once the row is the current one.
+template <class OnCheckBox>
+void Mouse::pressRow(Long row, OnCheckBox onCheckBox, Procedure& p) {
     const bool wasSelected = p.value<bool>([&] { return records_.recordAt(row).Selected; });
     core_.selection->pressSelection(row, p);
     // Wanted: whatever MultiSelect says, Control takes the selection from the current row.
@@ -50,7 +70,7 @@ void Mouse::pressRow(Long row, Single X, Single Y, Procedure& p) {
         records_.recordAt(current).Selected = selected;
     });
 
-    if (inCheckBoxZone(X, Y, p))
+    if (onCheckBox())
         toggleCheckBox(p);
     else
         list_.Redraw();

@@ -16,14 +16,21 @@ void CellEditor::SetEdit(const Variant& Row, const Variant& Column) {
     dressEditor(Row, Column, p);
 
     // The scrolling above is not painted yet, so this is where the row was painted last.
-    p.step([&] { txtEdit_->letTop(records_.rowAt(Row).Top); });
-    p.step([&] { txtEdit_->letHeight(records_.rowAt(Row).Height); });
-    p.step([&] { txtEdit_->letWidth(core_.painting->columnWidthInPixels(zeroBased(Column)) - 1); });
+    p.step([&] { letTop(records_.rowAt(Row).Top); });
+    p.step([&] {
+        area_.height = records_.rowAt(Row).Height;
+        txtEdit_->letHeight(area_.height);
+    });
+    p.step([&] {
+        area_.width = core_.painting->columnWidthInPixels(zeroBased(Column)) - 1;
+        txtEdit_->letWidth(area_.width);
+    });
     p.step([&] {
         const Single left =
             scaleX(window_.surface(), records_.columnAt(zeroBased(Column)).Left, Unit::twips, Unit::pixels);
-        txtEdit_->letLeft(
-            static_cast<Single>(static_cast<Double>(left) - core_.scroller->horizontal().Value() + 1));
+        area_.left =
+            static_cast<Single>(static_cast<Double>(left) - core_.scroller->horizontal().Value() + 1);
+        txtEdit_->letLeft(area_.left);
     });
 
     if (core_.hasEnded())

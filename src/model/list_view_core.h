@@ -11,6 +11,10 @@
 #include "records/properties.h"
 #include "values/references/object.h"
 
+namespace lumtex::accessibility {
+class ListReader;
+} // namespace lumtex::accessibility
+
 namespace lumtex {
 
 class CellEditor;

@@ -160,6 +160,8 @@ class ListViewProperties : protected ListViewCore {
     void store(Field Properties::*field, ValueOf<Field> value);
 
   private:
+    friend class accessibility::ListReader;
+
     void storeFont(StringView name, Held<FontRef> Properties::*field, const FontRef& font);
 };
 

@@ -29,7 +29,8 @@ void PaintPass::findFirstColumn() {
 
 void PaintPass::beginHeaders() {
     penX = state.firstColumnX;
-    headerHeight = static_cast<Single>(core.painting->ColumnHeight());
+    state.headerHeight = core.painting->ColumnHeight();
+    headerHeight = static_cast<Single>(state.headerHeight);
     core.headerGesture->beginPass();
     if (!properties.DefaultColumnFont)
         throw RuntimeError(ErrorNumber::objectVariableNotSet);

@@ -6,6 +6,8 @@
 #include "render/painting.h"
 #include "scroll/scroller.h"
 
+#include <limits>
+
 namespace lumtex {
 
 PaintPass::PaintPass(ListViewCore& owner, PaintState& kept, Procedure& p)
@@ -25,12 +27,15 @@ void PaintPass::run() {
     }
     // The flag goes first, so that a paint queued meanwhile can run at once.
     state.paintBusy = false;
+    state.passes = state.passes == std::numeric_limits<Long>::max() ? 0 : state.passes + 1;
     core.yield(procedure);
 }
 
 void PaintPass::runSteps() {
     statement([&] { clear(); });
     borderWidth = properties.BorderVisible ? 1 : 0;
+    state.headerHeight = 0;
+    state.lastRow = -1;
 
     // Up to the rows a failure goes to the host as an event, and painting may be tried again.
     const std::optional<RuntimeError> failure = failureOf([&] { backgroundAndHeaders(); });

@@ -15,6 +15,10 @@ struct PaintState {
     Long firstColumn = 0;    ///< 0-based; the first column painted
     Single firstColumnX = 0; ///< pixels; its left edge on the surface
     Single columnsRight = 0; ///< pixels; right edge of the last column
+    Long headerHeight = 0;   ///< pixels, 0 without headers
+    Long firstRow = 0;       ///< 0-based; the first row painted
+    Long lastRow = -1;       ///< the last one
+    Long passes = 0;         ///< how many ran to their end
     Rect textRect;           ///< handed to `drawText`; shared by header and cells
 
     String cellText; ///< room for the text of a cell, kept so that painting allocates nothing
@@ -47,6 +51,7 @@ class Painting : private ListPart {
     Long firstColumn() const { return state_.firstColumn; }
     Single firstColumnX() const { return state_.firstColumnX; }
     Single columnsRight() const { return state_.columnsRight; }
+    const PaintState& lastPass() const { return state_; }
 
   private:
     friend class ListViewInspector; ///< how tests look inside

@@ -36,6 +36,7 @@ void PaintPass::hideObjects(Long firstRow, Long lastRow) {
 
 void PaintPass::beginRows() {
     counters.scanIndex = core.scroller->vertical().Value();
+    state.firstRow = counters.scanIndex;
     counters.scanColumn = state.firstColumn + 1;
     rowY = properties.HideColumnHeaders ? 0 : static_cast<Single>(core.painting->ColumnHeight());
     penX = state.firstColumnX;
@@ -118,6 +119,7 @@ void PaintPass::finishRow() {
         RowRecord& row = rows[static_cast<std::size_t>(counters.scanIndex)];
         row.Height = rowBandHeight;
         row.Top = rowY;
+        state.lastRow = counters.scanIndex;
     }
     rowY += rowBandHeight;
     rowBandHeight = 0;
