@@ -20,7 +20,8 @@ constexpr WORD reading = DISPATCH_PROPERTYGET | DISPATCH_METHOD;
 constexpr WORD assigning = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
 
 bool endsInList(const automation::Member& member) {
-    return member.count > 0 && member.slots[member.count - 1].type.code == automation::TypeCode::variantList;
+    return member.count > 0 &&
+           member.entries[member.count - 1].type.code == automation::TypeCode::variantList;
 }
 
 /// An argument that cannot be taken, by its place in the caller's array.
@@ -93,7 +94,7 @@ class Arguments {
     /// Where the caller's variable cannot hold a value, it keeps what it has.
     void writeBackTo(const automation::Member& member, LCID locale) {
         for (std::size_t i = 0; i < values_.size() && i < member.count; ++i)
-            if (member.slots[i].byReference && places_[i] != none)
+            if (member.entries[i].byReference && places_[i] != none)
                 ignoringErrors([&] { writeBack(values_[i], parameters_.rgvarg[places_[i]], locale); });
     }
 
@@ -163,8 +164,8 @@ UINT placeOfMisfit(const automation::Member& member, Arguments& arguments, const
     const UsingLocale asTheCallerWrites(callers);
     const auto values = arguments.values();
     for (std::size_t i = 0; i < values.size() && i < member.count; ++i)
-        if (values[i].isMissing() ? !member.slots[i].optional() && arguments.wasGiven(i)
-                                  : !fits(values[i], member.slots[i].type.code))
+        if (values[i].isMissing() ? !member.entries[i].optional() && arguments.wasGiven(i)
+                                  : !fits(values[i], member.entries[i].type.code))
             return arguments.placeOf(i);
     return 0;
 }

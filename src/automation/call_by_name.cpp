@@ -44,7 +44,7 @@ Member::Invoke needEntry(Member::Invoke entry) {
 }
 
 bool endsInList(const Member& member) {
-    return member.count > 0 && member.slots[member.count - 1].type.code == TypeCode::variantList;
+    return member.count > 0 && member.entries[member.count - 1].type.code == TypeCode::variantList;
 }
 
 } // namespace
@@ -124,13 +124,13 @@ Variant CallByName::invoke(const Member& member,
     all.resize(std::max(all.size(), fixed), Missing{});
     for (std::size_t i = 0; i < fixed; ++i)
         if (all[i].isMissing())
-            all[i] = valueOf(member.slots[i].defaultValue);
+            all[i] = valueOf(member.entries[i].defaultValue);
     if (value != nullptr)
         all.push_back(*value);
 
     Variant result = entry(object_, all, callers_);
     for (std::size_t i = 0; i < std::min(arguments.size(), fixed); ++i)
-        if (member.slots[i].byReference && !arguments[i].isMissing())
+        if (member.entries[i].byReference && !arguments[i].isMissing())
             arguments[i] = std::move(all[i]);
     return result;
 }

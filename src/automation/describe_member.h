@@ -82,19 +82,19 @@ struct Callable {
                               [[maybe_unused]] const Locale* callers,
                               std::index_sequence<positions...>) {
         // Converted from the first to the last, before the call.
-        std::tuple<std::optional<Argument<Parameters>>...> slots;
+        std::tuple<std::optional<Argument<Parameters>>...> held;
         {
             std::optional<UsingLocale> asTheCallerWrites;
             if (callers != nullptr)
                 asTheCallerWrites.emplace(*callers);
-            (std::get<positions>(slots).emplace(arguments, positions), ...);
+            (std::get<positions>(held).emplace(arguments, positions), ...);
         }
         Variant result;
         if constexpr (std::is_void_v<Result>)
-            (object.*function)(std::get<positions>(slots)->pass()...);
+            (object.*function)(std::get<positions>(held)->pass()...);
         else
-            result = resultOf((object.*function)(std::get<positions>(slots)->pass()...));
-        (std::get<positions>(slots)->writeBack(), ...);
+            result = resultOf((object.*function)(std::get<positions>(held)->pass()...));
+        (std::get<positions>(held)->writeBack(), ...);
         return result;
     }
 };
@@ -113,10 +113,10 @@ struct Function<function, Result (Class::*)(Parameters...) const>
 template <class Of>
 constexpr void nameParameters(Member& member, std::initializer_list<Named> names) {
     for (const Named& named : names) {
-        member.slots[member.count] = {named.name,
-                                      Of::types[member.count],
-                                      named.defaultValue,
-                                      named.byReference || Of::byReference[member.count]};
+        member.entries[member.count] = {named.name,
+                                        Of::types[member.count],
+                                        named.defaultValue,
+                                        named.byReference || Of::byReference[member.count]};
         ++member.count;
     }
 }

@@ -21,10 +21,10 @@ struct Enumeration {
 
     StringView name;
     Help help;
-    std::array<Enumerator, mostEnumerators> slots;
+    std::array<Enumerator, mostEnumerators> entries;
     std::size_t count;
 
-    constexpr std::span<const Enumerator> enumerators() const { return {slots.data(), count}; }
+    constexpr std::span<const Enumerator> enumerators() const { return {entries.data(), count}; }
 };
 
 /// In the order in which type libraries list them. Values are not checked anywhere: any number is stored.

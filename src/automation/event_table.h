@@ -24,10 +24,10 @@ struct EventDescription {
 
     StringView name;
     Help help;
-    std::array<EventArgument, mostArguments> slots;
+    std::array<EventArgument, mostArguments> entries;
     std::size_t count;
 
-    constexpr std::span<const EventArgument> arguments() const { return {slots.data(), count}; }
+    constexpr std::span<const EventArgument> arguments() const { return {entries.data(), count}; }
 };
 
 namespace detail {

@@ -11,6 +11,8 @@ std::vector<GeneratedFile> generatedFiles() {
         {"src/activex/error_entries.inc", dualEntries(errorClass())},
         {"src/activex/LumtexListView.manifest", sideBySideManifest()},
         {"include/LumtexListView.h", hostHeader()},
+        {"src/qt/lumtex_list_view.h", qtWidgetHeader()},
+        {"src/qt/lumtex_list_view.cpp", qtWidgetSource()},
     };
 }
 

@@ -14,7 +14,8 @@ struct GeneratedFile {
     std::string text;
 };
 
-/// The type library's source, the tables of functions, the manifest, and the header for hosts in C++.
+/// The type library's source, the tables of functions, the manifest, the header for hosts in C++, and the
+/// widget for those that use Qt.
 std::vector<GeneratedFile> generatedFiles();
 
 /// The body of a class that derives from IDispatch: one virtual function for each entry of the type library,
@@ -31,6 +32,10 @@ std::string hostHeader();
 /// assembly "LumtexListView" in a manifest of its own. The assembly's version is that of the type library, so
 /// that a newer component of the same interface fits the programs that stand.
 std::string sideBySideManifest();
+
+/// The class LumtexListView, a widget of Qt: properties, enumerations, invokable members and signals.
+std::string qtWidgetHeader();
+std::string qtWidgetSource();
 
 /// The source of the type library in the interface definition language: enumerations, the record, a dual
 /// interface for each public class with an entry for each get, let or set and call, the event interface, and

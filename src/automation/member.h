@@ -53,14 +53,14 @@ struct Member {
     Help help;     ///< units, index base, and what is surprising
     TypeInfo type; ///< of the property, or of the method's result
     Repaint repaint;
-    std::array<Parameter, mostParameters> slots;
+    std::array<Parameter, mostParameters> entries;
     std::size_t count;
     Invoke get;          ///< none for a method, or a property that cannot be read
     Invoke let;          ///< none for a method, or a property that cannot be assigned
     Invoke call;         ///< none for a property
     bool hidden = false; ///< left out where properties are listed for choice
 
-    constexpr std::span<const Parameter> parameters() const { return {slots.data(), count}; }
+    constexpr std::span<const Parameter> parameters() const { return {entries.data(), count}; }
     constexpr bool isMethod() const { return call != nullptr; }
     /// A reference is assigned with `Set`, a value with `Let`.
     constexpr bool isReference() const {

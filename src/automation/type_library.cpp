@@ -69,7 +69,7 @@ std::string parameterText(const Parameter& parameter) {
 }
 
 bool takesAnyNumber(const Member& member) {
-    return member.count > 0 && member.slots[member.count - 1].type.code == TypeCode::variantList;
+    return member.count > 0 && member.entries[member.count - 1].type.code == TypeCode::variantList;
 }
 
 const char* attributeOf(const InterfaceEntry& entry) {

@@ -5,8 +5,8 @@
 
 namespace lumtex {
 
-RowArray::Chunk RowArray::makeChunk(std::size_t slots) {
-    return {std::make_unique<RowRecord[]>(slots), 0};
+RowArray::Chunk RowArray::makeChunk(std::size_t rows) {
+    return {std::make_unique<RowRecord[]>(rows), 0};
 }
 
 /// Of the rows that are there, how many lie in that chunk.
@@ -18,7 +18,7 @@ std::size_t RowArray::rowsIn(std::size_t chunk) const {
 void RowArray::growFirst() {
     Chunk larger = makeChunk(2 * room());
     for (std::size_t i = 0; i < size_; ++i)
-        larger.slots[i] = std::move((*this)[i]);
+        larger.rows[i] = std::move((*this)[i]);
     mask_ = 2 * room() - 1;
     chunks_.front() = std::move(larger);
 }
@@ -95,7 +95,7 @@ void RowArray::reorder(std::span<const std::uint32_t> sources) {
     for (std::size_t i = 0; i < chunks_.size(); ++i)
         ordered.push_back(makeChunk(mask_ + 1));
     for (std::size_t i = 0; i < sources.size(); ++i)
-        ordered[i >> chunkBits].slots[i & mask_] = std::move((*this)[sources[i]]);
+        ordered[i >> chunkBits].rows[i & mask_] = std::move((*this)[sources[i]]);
     chunks_ = std::move(ordered);
 }
 

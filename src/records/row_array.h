@@ -71,7 +71,7 @@ class RowArray {
   private:
     /// Slots without a row hold an empty record.
     struct Chunk {
-        std::unique_ptr<RowRecord[]> slots;
+        std::unique_ptr<RowRecord[]> rows;
         std::size_t head = 0; ///< the slot of its first row
     };
 
@@ -79,11 +79,11 @@ class RowArray {
     static constexpr std::size_t chunkSize = std::size_t{1} << chunkBits;
     static constexpr std::size_t firstRoom = 4;
 
-    static Chunk makeChunk(std::size_t slots);
+    static Chunk makeChunk(std::size_t rows);
     std::size_t room() const { return chunks_.size() * (mask_ + 1); }
     /// By the row's own place: a chunk begins at a multiple of its slots.
     RowRecord& slotIn(const Chunk& chunk, std::size_t place) const {
-        return chunk.slots[(chunk.head + place) & mask_];
+        return chunk.rows[(chunk.head + place) & mask_];
     }
     RowRecord* slotOf(std::size_t position) const {
         return &slotIn(chunks_[position >> chunkBits], position);

@@ -42,7 +42,8 @@ bool isFileName(StringView parameter) {
 }
 
 bool takesList(const automation::Member& member) {
-    return member.count > 0 && member.slots[member.count - 1].type.code == automation::TypeCode::variantList;
+    return member.count > 0 &&
+           member.entries[member.count - 1].type.code == automation::TypeCode::variantList;
 }
 
 String number(std::size_t value) {
@@ -175,7 +176,7 @@ usesOf(const automation::Member& member, const SampleValues& samples, bool inThe
         ways.back().push_back(Long{1});
     }
     for (std::size_t i = 0; inTheMiddle && i + 1 < all.size(); ++i)
-        if (member.slots[i].optional()) {
+        if (member.entries[i].optional()) {
             ways.push_back(all);
             ways.back()[i] = Missing{};
         }
@@ -202,7 +203,7 @@ String programFor(ScriptLanguage language, const automation::Member& member, con
     for (std::size_t i = 0; i < use.arguments.size(); ++i) {
         const Variant& argument = use.arguments[i];
         String spelled = literal(language, argument);
-        if (i < member.count && member.slots[i].byReference && !argument.isMissing()) {
+        if (i < member.count && member.entries[i].byReference && !argument.isMissing()) {
             const String variable = u"argument" + number(i);
             head += words.variable(variable);
             body += words.assign(variable, spelled, argument.isObject());

@@ -226,7 +226,7 @@ class EachMember : public ::testing::TestWithParam<Walked> {
         }
         observed.result = read();
         for (std::size_t i = 0; i < arguments.size() && i < member().count; ++i)
-            if (member().slots[i].byReference && !arguments[i].isMissing())
+            if (member().entries[i].byReference && !arguments[i].isMissing())
                 observed.arguments.push_back(shown(arguments[i], withKind()));
         observed.state = stateOfAll(subject, *bench.coreBox);
         return observed;
@@ -235,7 +235,7 @@ class EachMember : public ::testing::TestWithParam<Walked> {
     std::vector<std::string> untouched(const MemberUse& use) {
         std::vector<std::string> arguments;
         for (std::size_t i = 0; i < use.arguments.size() && i < member().count; ++i)
-            if (member().slots[i].byReference && !use.arguments[i].isMissing())
+            if (member().entries[i].byReference && !use.arguments[i].isMissing())
                 arguments.push_back(shown(use.arguments[i], withKind()));
         return arguments;
     }
@@ -258,7 +258,7 @@ class EachMember : public ::testing::TestWithParam<Walked> {
         else
             observed.result = shownResult(value);
         for (std::size_t i = 0; i < use.arguments.size() && i < member().count; ++i)
-            if (member().slots[i].byReference && !use.arguments[i].isMissing())
+            if (member().entries[i].byReference && !use.arguments[i].isMissing())
                 observed.arguments.push_back(
                     shown(global->get(u"argument" + Variant(static_cast<Long>(i)).toText()), withKind()));
         observed.state = stateOfAll(subject, *bench.scriptBox);

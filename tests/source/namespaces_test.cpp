@@ -19,8 +19,9 @@ constexpr std::array<std::string_view, 6> lumtexItself{
 std::string spaceOf(const Layer& layer) {
     if (std::ranges::find(lumtexItself, layer.name) != lumtexItself.end())
         return "lumtex";
-    // The component is made of the same things as its world; what worlds share is named after them all.
-    const std::map<std::string, std::string> byAnotherName{{"activex", "win32"}, {"common", "worlds"}};
+    // The products are made of the same things as their worlds; what worlds share is named after them all.
+    const std::map<std::string, std::string> byAnotherName{
+        {"activex", "win32"}, {"widget", "qt"}, {"common", "worlds"}};
     const auto other = byAnotherName.find(layer.name);
     return "lumtex::" + (other != byAnotherName.end() ? other->second : layer.name);
 }

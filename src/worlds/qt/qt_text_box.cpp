@@ -1,8 +1,7 @@
 #include "worlds/qt/qt_text_box.h"
 
-#include "raster/system_colors.h"
-#include "values/color.h"
 #include "values/rounding.h"
+#include "worlds/qt/qt_color.h"
 #include "worlds/qt/qt_text.h"
 #include "worlds/qt/qt_window.h"
 #include "worlds/qt/qt_world.h"
@@ -12,17 +11,6 @@
 #include <cmath>
 
 namespace lumtex::qt {
-
-namespace {
-
-QColor colorOf(OLE_COLOR color) {
-    if (!isSystemColor(color))
-        return {redOf(color), greenOf(color), blueOf(color)};
-    const unsigned index = systemColorIndex(color);
-    return QColor::fromRgb(index < raster::systemColors.size() ? raster::systemColors[index] : 0U);
-}
-
-} // namespace
 
 QtTextBox::QtTextBox(QtWorld& world, worlds::Pane& parent, TextBoxClient& client)
     : Pane(world.tree(), &parent), world_(world), client_(client) {
@@ -125,7 +113,7 @@ void QtTextBox::letForeColor(OLE_COLOR color) {
     if (field_ == nullptr)
         return;
     QPalette palette = field_->palette();
-    palette.setColor(QPalette::Text, colorOf(color));
+    palette.setColor(QPalette::Text, toQColor(color));
     field_->setPalette(palette);
 }
 

@@ -1,18 +1,18 @@
-/// Plays every script with widgets: the same logs, and after each step the same picture as the simulated
+/// Plays every script with the widget: the same logs, and after each step the same picture as the simulated
 /// desktop shows.
 #include "list_fixture.h"
 #include "log_comparison.h"
-#include "qt_stage.h"
 #include "same_pixels.h"
 #include "scenarios/headless_stage.h"
 #include "scenarios/player.h"
 #include "scenarios/script_files.h"
+#include "widget_stage.h"
 
 namespace lumtex::testing {
 
 namespace {
 
-class QtScenario : public ::testing::TestWithParam<std::filesystem::path> {};
+class WidgetScenario : public ::testing::TestWithParam<std::filesystem::path> {};
 
 /// The open editor is a field of Qt, of which only the place is ours: it is left black.
 Bitmap pictureOf(Stage& stage) {
@@ -26,14 +26,14 @@ Bitmap pictureOf(Stage& stage) {
     return picture;
 }
 
-TEST_P(QtScenario, LeavesTheLogThatItSaysAndShowsTheSamePictures) {
+TEST_P(WidgetScenario, LeavesTheLogThatItSaysAndShowsTheSamePictures) {
     const Script script = parseScript(contentOfScript(GetParam()));
     std::vector<Bitmap> expected;
     {
         const std::unique_ptr<Stage> simulated = makeHeadlessStage();
         play(script, *simulated, [&] { expected.push_back(pictureOf(*simulated)); });
     }
-    const std::unique_ptr<Stage> stage = makeQtStage();
+    const std::unique_ptr<Stage> stage = makeWidgetStage();
     std::size_t step = 0;
     const Played played = play(script, *stage, [&] {
         EXPECT_TRUE(samePixels(pictureOf(*stage), expected.at(step)))
@@ -43,7 +43,7 @@ TEST_P(QtScenario, LeavesTheLogThatItSaysAndShowsTheSamePictures) {
     EXPECT_TRUE(sameLog(linesOf(script, played.logs), linesOf(script, expectedLogs(script))));
 }
 
-INSTANTIATE_TEST_SUITE_P(Qt, QtScenario, ::testing::ValuesIn(scriptFiles()), nameOfScript);
+INSTANTIATE_TEST_SUITE_P(Widget, WidgetScenario, ::testing::ValuesIn(scriptFiles()), nameOfScript);
 
 } // namespace
 } // namespace lumtex::testing

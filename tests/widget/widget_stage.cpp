@@ -1,11 +1,10 @@
-#include "qt_stage.h"
+#include "widget_stage.h"
 
 #include "list_fixture.h"
 #include "recording_events.h"
 #include "scenarios/report_line.h"
+#include "signal_relay.h"
 #include "test_fonts.h"
-#include "test_host.h"
-#include "user_hands.h"
 #include "values/rounding.h"
 #include "worlds/common/nesting_level.h"
 #include "worlds/headless/timer_clock.h"
@@ -14,9 +13,11 @@
 #include "worlds/qt/qt_text_box.h"
 #include "worlds/qt/qt_window.h"
 #include "worlds/qt/qt_world.h"
+#include "worlds/qt/user_hands.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QFont>
 #include <deque>
 #include <utility>
 
@@ -24,25 +25,11 @@ namespace lumtex::testing {
 
 namespace {
 
-/// The world of Qt with timers that tick by hand.
-class StageWorld final : public qt::QtWorld {
-  public:
-    using qt::QtWorld::QtWorld;
-
-    std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) override {
-        return std::make_unique<headless::HeadlessTimer>(clock, [this, tick = std::move(onTimer)] {
-            const Delivery delivery(*this);
-            tick();
-        });
-    }
-
-    headless::TimerClock clock;
-};
-
 /// The runtime of Qt, with boxes that are noted and dismissed, and host code in its yields.
 class StageRuntime final : public qt::QtRuntime {
   public:
-    explicit StageRuntime(StageWorld& world) : qt::QtRuntime(world.mouse()), clock_(world.clock) {}
+    StageRuntime(worlds::Pointer& pointer, headless::TimerClock& clock)
+        : qt::QtRuntime(pointer), clock_(clock) {}
 
     std::function<void(StringView)> onBox;
     std::deque<std::function<void()>> yields; ///< each runs once, the first one in the next yield
@@ -74,11 +61,33 @@ class StageRuntime final : public qt::QtRuntime {
     headless::TimerClock& clock_;
 };
 
+/// The world of Qt with timers that tick by hand.
+class StageWorld final : public qt::QtWorld {
+  public:
+    using qt::QtWorld::QtWorld;
+
+    std::unique_ptr<Timer> createTimer(std::function<void()> onTimer) override {
+        return std::make_unique<headless::HeadlessTimer>(clock, [this, tick = std::move(onTimer)] {
+            const Delivery delivery(*this);
+            tick();
+        });
+    }
+
+    Runtime& runtime() override { return ownRuntime; }
+
+    headless::TimerClock clock;
+    StageRuntime ownRuntime{mouse(), clock};
+};
+
 /// The window of the program, and somebody beside the list who can have the focus.
 class ProgramWindow {
   public:
     ProgramWindow() : neighbour_(&window_) {
         window_.setGeometry(0, 0, 700, 400);
+        // What a list has in a container without a font.
+        QFont font(QStringLiteral("Verdana"));
+        font.setPointSizeF(9.75);
+        window_.setFont(font);
         window_.setFocusPolicy(Qt::StrongFocus);
         neighbour_.setFocusPolicy(Qt::StrongFocus);
         neighbour_.setGeometry(600, 100, 50, 50);
@@ -96,32 +105,31 @@ class ProgramWindow {
     QWidget neighbour_;
 };
 
-class QtStage final : public Stage {
+class WidgetStage final : public Stage {
   public:
-    QtStage() {
-        events_.depth = [this] { return runtime_.depth; };
-        runtime_.onBox = [this](StringView text) { events_.log.push_back(reportLine(text)); };
-        list_.UserControl_ReadProperties(MemoryPropertyBag{});
-        list_.window().place(100, 100, 300, 200);
-        runtime_.deliver();
+    WidgetStage() {
+        events_.depth = [this] { return runtime().depth; };
+        runtime().onBox = [this](StringView text) { events_.log.push_back(reportLine(text)); };
+        widget_.setGeometry(100, 100, 300, 200);
+        widget_.show();
+        runtime().deliver();
         events_.log.clear();
     }
 
-    lmListView& list() override { return list_; }
+    lmListView& list() override { return widget_.list(); }
     std::vector<std::string>& log() override { return events_.log; }
     void onEvent(const std::string& event, std::function<void()> handler) override {
         events_.on(event, std::move(handler));
     }
-    void onYield(std::function<void()> body) override { runtime_.yields.push_back(std::move(body)); }
+    void onYield(std::function<void()> body) override { runtime().yields.push_back(std::move(body)); }
     void cancelChecks(bool cancel) override { events_.cancelCheck = cancel; }
 
     void resize(Long width, Long height) override {
-        list_.window().place(100, 100, width, height);
-        runtime_.deliver();
+        widget_.resize(width, height);
+        runtime().deliver();
     }
     void move(Single x, Single y, Integer shift) override {
-        const QPoint corner(static_cast<int>(list_.window().Left()), static_cast<int>(list_.window().Top()));
-        hands_.move(corner + QPoint(roundToLong(x), roundToLong(y)), shift);
+        hands_.move(widget_.pos() + QPoint(roundToLong(x), roundToLong(y)), shift);
     }
     void press(MouseButton button, Integer shift) override { hands_.press(button, shift); }
     void doublePress(MouseButton button, Integer shift) override { hands_.doublePress(button, shift); }
@@ -132,46 +140,51 @@ class QtStage final : public Stage {
     void type(StringView text) override { hands_.type(text); }
     void focus(bool onTheList) override {
         if (onTheList)
-            list_.window().setFocus();
+            widget_.setFocus();
         else
             program_.neighbour().setFocus();
-        runtime_.deliver();
+        runtime().deliver();
     }
     void switchProgram(bool away) override {
         QApplication::setActiveWindow(away ? nullptr : &program_.window());
-        runtime_.deliver();
+        runtime().deliver();
     }
     void advance(std::chrono::milliseconds span) override {
-        headless::TimerClock& clock = world_.clock;
+        headless::TimerClock& clock = world_->clock;
         const auto end = clock.after(span);
-        runtime_.deliver();
+        runtime().deliver();
         for (auto due = clock.nextDue(); due && *due <= end; due = clock.nextDue()) {
             clock.moveTo(*due);
-            runtime_.deliver();
+            runtime().deliver();
         }
         clock.moveTo(end);
     }
     Rect editorPlace() override { return static_cast<qt::QtTextBox&>(inside_.anyEditor()).area(); }
     bool showsGuide() override { return static_cast<qt::QtGuideLine&>(inside_.anyGuide()).Visible(); }
-    Bitmap picture() override {
-        return qt::bitmapOf(static_cast<qt::QtWindow&>(list_.window()).screen()->grab().toImage());
-    }
+    Bitmap picture() override { return qt::bitmapOf(widget_.grab().toImage()); }
 
   private:
+    StageRuntime& runtime() { return world_->ownRuntime; }
+
+    std::unique_ptr<qt::QtWorld> makeWorld(QWidget& container) {
+        auto world = std::make_unique<StageWorld>(&container, nullptr, testFonts());
+        world_ = world.get();
+        return world;
+    }
+
     ProgramWindow program_;
-    StageWorld world_{&program_.window(), &runtime_, testFonts()};
-    StageRuntime runtime_{world_};
-    TestHost host_;
+    StageWorld* world_ = nullptr; ///< of the widget
+    LumtexListView widget_{&program_.window(), [this](QWidget& container) { return makeWorld(container); }};
     RecordingEvents events_;
-    lmListView list_{world_, host_, events_};
-    ListViewInspector inside_{list_};
-    UserHands hands_{program_.window(), [this] { runtime_.deliver(); }};
+    SignalRelay relay_{widget_, events_};
+    ListViewInspector inside_{widget_.list()};
+    UserHands hands_{program_.window(), [this] { runtime().deliver(); }};
 };
 
 } // namespace
 
-std::unique_ptr<Stage> makeQtStage() {
-    return std::make_unique<QtStage>();
+std::unique_ptr<Stage> makeWidgetStage() {
+    return std::make_unique<WidgetStage>();
 }
 
 } // namespace lumtex::testing

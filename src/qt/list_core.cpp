@@ -1,0 +1,52 @@
+#include "qt/list_core.h"
+
+#include "guards/procedure.h"
+#include "qt/qt_values.h"
+#include "worlds/qt/qt_text.h"
+#include "worlds/qt/qt_window.h"
+
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QWidget>
+#include <cmath>
+
+namespace lumtex::qt {
+
+String WidgetHost::extenderName() const {
+    return widget_ != nullptr ? fromQString(widget_->objectName()) : String();
+}
+
+FontRef WidgetHost::parentFont() const {
+    if (widget_ == nullptr)
+        return nullptr;
+    return fromQVariant(widget_->font()).toFont();
+}
+
+void WidgetHost::PropertyChanged(StringView name) {
+    ++told_;
+    if (widget_ == nullptr)
+        return;
+    const QMetaObject* meta = widget_->metaObject();
+    const int index = meta->indexOfProperty(toQString(name).toUtf8().constData());
+    if (index >= 0 && meta->property(index).hasNotifySignal())
+        meta->property(index).notifySignal().invoke(widget_, Qt::DirectConnection);
+}
+
+ListCore::ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_ptr<WidgetEvents> events)
+    : host_(widget), world_(std::move(world)), events_(std::move(events)), list_(*world_, host_, *events_) {}
+
+QWidget* ListCore::screen() {
+    return static_cast<QtWindow&>(list_.window()).screen();
+}
+
+void ListCore::resize(QSize size) {
+    const auto pixels = [&](int units) { return static_cast<Single>(std::ceil(units * world_->ratio())); };
+    list_.window().place(0, 0, pixels(size.width()), pixels(size.height()));
+}
+
+Variant ListCore::entered(const automation::Member& member, const std::function<Variant()>& work) {
+    Procedure p(world_->runtime(), member.name, ModuleKind::control, u"LumtexListView");
+    return p.value<Variant>(work);
+}
+
+} // namespace lumtex::qt

@@ -1,0 +1,61 @@
+/// \file
+/// The list of a widget with its host, its world and its events.
+#pragma once
+
+#include "automation/call_by_name.h"
+#include "model/list_view.h"
+#include "platform/host.h"
+#include "qt/widget_events.h"
+#include "worlds/qt/qt_world.h"
+
+#include <QPointer>
+#include <memory>
+
+namespace lumtex::qt {
+
+/// The widget as the host of its list.
+class WidgetHost final : public Host {
+  public:
+    explicit WidgetHost(QWidget& widget) : widget_(&widget) {}
+
+    bool UserMode() const override { return !designed; }
+    String extenderName() const override;
+    FontRef parentFont() const override;
+    /// Emits the notifying signal of the property.
+    void PropertyChanged(StringView name) override;
+    /// How often a property was told of so far.
+    int told() const { return told_; }
+
+    bool designed = false;
+
+  private:
+    QPointer<QWidget> widget_;
+    int told_ = 0;
+};
+
+/// Held by the widget, and by whatever runs in it.
+class ListCore {
+  public:
+    ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_ptr<WidgetEvents> events);
+
+    lmListView& list() { return list_; }
+    WidgetHost& host() { return host_; }
+    QtWorld& world() { return *world_; }
+    /// The widget in the widget that shows the list and takes all input.
+    QWidget* screen();
+    /// From here on no signal is raised.
+    void mute() { events_->muted = true; }
+    /// Units of widgets.
+    void resize(QSize size);
+
+    /// Runs `work`, which may throw what a conversion throws: that is reported under the member's name.
+    Variant entered(const automation::Member& member, const std::function<Variant()>& work);
+
+  private:
+    WidgetHost host_;
+    std::unique_ptr<QtWorld> world_;
+    std::unique_ptr<WidgetEvents> events_;
+    lmListView list_;
+};
+
+} // namespace lumtex::qt

@@ -1,0 +1,174 @@
+#include "qt/list_widget.h"
+
+#include "automation/record_table.h"
+#include "platform/property_bag.h"
+#include "qt/list_core.h"
+#include "qt/qt_values.h"
+#include "worlds/qt/qt_color.h"
+#include "worlds/qt/qt_text.h"
+
+#include <QResizeEvent>
+#include <utility>
+#include <vector>
+
+namespace lumtex::qt {
+
+namespace {
+
+using automation::CallByName;
+using automation::Member;
+using automation::TypeCode;
+
+/// One that is invalid was left out.
+std::vector<Variant> argumentsFrom(const QVariantList& values) {
+    std::vector<Variant> arguments;
+    arguments.reserve(static_cast<std::size_t>(values.size()));
+    for (const QVariant& value : values)
+        arguments.push_back(value.isValid() ? fromQVariant(value) : Variant(Missing{}));
+    return arguments;
+}
+
+QVariant recordFrom(const Variant& value) {
+    const ObjectRef record = value.toObject();
+    QVariantMap fields;
+    for (const automation::RecordField& field : automation::findResultsFields)
+        fields.insert(toQString(field.name), toQVariant(record->get(field.name)));
+    return fields;
+}
+
+QVariant resultFrom(const Member& member, const Variant& value) {
+    if (value.isEmpty())
+        return {};
+    switch (member.type.code) {
+    case TypeCode::color:
+        return toQColor(value.toColor());
+    case TypeCode::record:
+        return recordFrom(value);
+    default:
+        return toQVariant(value);
+    }
+}
+
+const Member& memberOf(int number) {
+    return *automation::findMember(automation::listViewClass(), Long{number});
+}
+
+/// The list keeps quiet about one of its properties; a signal that never comes would be none.
+void tellOf(ListCore& core, const Member& member, int toldBefore) {
+    if (core.host().told() == toldBefore)
+        core.host().PropertyChanged(member.name);
+}
+
+} // namespace
+
+std::unique_ptr<QtWorld> worldOfQt(QWidget& container) {
+    return std::make_unique<QtWorld>(&container);
+}
+
+ListWidget::ListWidget(QWidget* parent) : QWidget(parent) {}
+
+ListWidget::~ListWidget() = default;
+
+void ListWidget::start(WorldFactory makeWorld, EventsFactory makeEvents) {
+    makeWorld_ = std::move(makeWorld);
+    makeEvents_ = std::move(makeEvents);
+    startAnew(MemoryPropertyBag(), false);
+}
+
+void ListWidget::startAnew(const PropertyBag& settings, bool designed) {
+    if (core_ != nullptr)
+        core_->mute();
+    const auto core = std::make_shared<ListCore>(*this, makeWorld_(*this), makeEvents_());
+    core_ = core;
+    core->world().owner = core;
+    core->host().designed = designed;
+    core->list().UserControl_ReadProperties(settings);
+    core->resize(size());
+    setFocusProxy(core->screen());
+}
+
+void ListWidget::finish() {
+    core_->mute();
+    core_.reset();
+}
+
+lmListView& ListWidget::list() {
+    return core_->list();
+}
+const lmListView& ListWidget::list() const {
+    return core_->list();
+}
+
+bool ListWidget::designView() const {
+    return core_->host().designed;
+}
+
+void ListWidget::setDesignView(bool designed) {
+    if (designed == designView())
+        return;
+    MemoryPropertyBag settings;
+    core_->list().UserControl_WriteProperties(settings);
+    startAnew(settings, designed);
+}
+
+QSize ListWidget::sizeHint() const {
+    constexpr QSize usual(400, 240);
+    return usual;
+}
+
+QSize ListWidget::minimumSizeHint() const {
+    constexpr QSize smallest(40, 40);
+    return smallest;
+}
+
+void ListWidget::resizeEvent(QResizeEvent* event) {
+    if (const std::shared_ptr<ListCore> core = core_)
+        core->resize(event->size());
+}
+
+QVariant ListWidget::get(int number, const QVariantList& arguments) const {
+    const std::shared_ptr<ListCore> core = core_;
+    const Member& member = memberOf(number);
+    return resultFrom(member, core->entered(member, [&] {
+        std::vector<Variant> values = argumentsFrom(arguments);
+        return CallByName(core->list()).get(member, values);
+    }));
+}
+
+void ListWidget::assign(int number, const QVariantList& arguments, const QVariant& value) {
+    const std::shared_ptr<ListCore> core = core_;
+    const Member& member = memberOf(number);
+    const int told = core->host().told();
+    core->entered(member, [&]() -> Variant {
+        std::vector<Variant> values = argumentsFrom(arguments);
+        CallByName byName(core->list());
+        if (member.isReference())
+            byName.set(member, values, fromQVariant(value));
+        else
+            byName.let(member, values, fromQVariant(value));
+        return {};
+    });
+    tellOf(*core, member, told);
+}
+
+QVariant ListWidget::call(int number, const QVariantList& arguments) {
+    const std::shared_ptr<ListCore> core = core_;
+    const Member& member = memberOf(number);
+    return resultFrom(member, core->entered(member, [&] {
+        std::vector<Variant> values = argumentsFrom(arguments);
+        return CallByName(core->list()).call(member, values);
+    }));
+}
+
+void ListWidget::reset(int number) {
+    const std::shared_ptr<ListCore> core = core_;
+    const int told = core->host().told();
+    core->list().resetProperty(Long{number});
+    tellOf(*core, memberOf(number), told);
+}
+
+QVariant ListWidget::unlessNull(const QString& text) {
+    return text.isNull() ? QVariant() : QVariant(text);
+}
+
+} // namespace lumtex::qt
