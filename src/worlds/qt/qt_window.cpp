@@ -6,6 +6,7 @@
 #include "worlds/qt/qt_picture.h"
 #include "worlds/qt/qt_text_box.h"
 #include "worlds/qt/qt_world.h"
+#include "worlds/qt/widget_object.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,9 +44,14 @@ void QtWindow::dropScreen() {
     screen_.clear();
     if (screen == nullptr)
         return;
+    // A guest that goes with it may be in an event of its own.
+    const bool later = world_.isDelivering() || screen->hasGuests();
+    const QPointer<ScreenWidget> watched(screen);
     screen->loseWindow();
     world_.formMayBeClosed();
-    if (world_.isDelivering())
+    if (watched == nullptr)
+        return;
+    if (later)
         screen->deleteLater();
     else
         delete screen;
@@ -158,7 +164,19 @@ Point QtWindow::pointer() const {
     return fromDesktop(world_.mouse().place());
 }
 
+bool QtWindow::takeIn(QWidget& guest) {
+    const auto* outer = dynamic_cast<QtWindow*>(&outermost());
+    ScreenWidget* screen = outer != nullptr ? outer->screen() : nullptr;
+    if (screen == nullptr || guest.isAncestorOf(screen) || &guest == screen)
+        return false;
+    touch();
+    screen->takeIn(guest, handle());
+    return true;
+}
+
 bool QtWindow::adopt(WindowHandle child) {
+    if (QWidget* guest = WidgetObject::find(child))
+        return takeIn(*guest);
     worlds::Pane* pane = world_.tree().find(child);
     if (pane == nullptr || !world_.tree().adopt(*this, *pane))
         return false;

@@ -52,6 +52,7 @@ class QtWindow final : public Window, public worlds::Pane {
     bool pointerStrictlyInside() const override;
     Point pointer() const override;
     bool underPointer() const override;
+    /// Also takes in the widget of a WidgetObject, which then lies below the windows in this one.
     bool adopt(WindowHandle child) override;
     void present() override;
 
@@ -84,6 +85,7 @@ class QtWindow final : public Window, public worlds::Pane {
     void touch();
     void placeScreen();
     void dropScreen();
+    bool takeIn(QWidget& guest);
 
     QtWorld& world_;
     UserControl& client_;

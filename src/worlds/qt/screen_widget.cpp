@@ -66,12 +66,17 @@ ScreenWidget::ScreenWidget(QtWorld& world, WindowHandle window, QWidget* contain
     setAttribute(Qt::WA_InputMethodEnabled);
 }
 
-ScreenWidget::~ScreenWidget() = default;
+ScreenWidget::~ScreenWidget() {
+    sendGuestsHome();
+}
 
 void ScreenWidget::loseWindow() {
     world_ = nullptr;
     window_ = 0;
+    const QPointer<ScreenWidget> self(this);
     hide();
+    if (self != nullptr)
+        sendGuestsHome();
 }
 
 void ScreenWidget::touch(const Rect& part) {
@@ -87,6 +92,7 @@ void ScreenWidget::bringUpToDate() {
     const worlds::Pane* pane = world_ != nullptr ? world_->tree().find(window_) : nullptr;
     if (pane == nullptr)
         return;
+    clipGuests();
     const Long width = pane->area().Right - pane->area().Left;
     const Long height = pane->area().Bottom - pane->area().Top;
     const bool resized = width != shown_.width || height != shown_.height;
@@ -108,12 +114,7 @@ void ScreenWidget::bringUpToDate() {
     if (isEmpty(changed))
         return;
     pixelsChanged_ += std::int64_t{changed.Right - changed.Left} * (changed.Bottom - changed.Top);
-    const Double ratio = world_->ratio();
-    const QPoint first(static_cast<int>(std::floor(changed.Left / ratio)),
-                       static_cast<int>(std::floor(changed.Top / ratio)));
-    const QPoint last(static_cast<int>(std::ceil(changed.Right / ratio)),
-                      static_cast<int>(std::ceil(changed.Bottom / ratio)));
-    update(QRect(first, last));
+    update(unitsOf(changed));
 }
 
 void ScreenWidget::paintEvent(QPaintEvent* /*event*/) {

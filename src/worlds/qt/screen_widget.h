@@ -6,7 +6,9 @@
 #include "values/bitmap.h"
 #include "values/geometry.h"
 
+#include <QPointer>
 #include <QWidget>
+#include <vector>
 
 namespace lumtex::qt {
 
@@ -27,6 +29,13 @@ class ScreenWidget final : public QWidget {
     /// How many pixels had to be painted anew so far.
     std::int64_t pixelsChanged() const { return pixelsChanged_; }
 
+    /// Takes in a widget of the program, below all that lies in the window of this number. Its own events may
+    /// end either.
+    void takeIn(QWidget& guest, WindowHandle window);
+    bool hasGuests() const { return !guests_.empty(); }
+    /// Where the window of a guest begins, in units of widgets.
+    QPoint originOfGuest(const QWidget& guest) const;
+
   protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -35,7 +44,21 @@ class ScreenWidget final : public QWidget {
     /// Brings the picture up to date, and has the widget repaint where it has changed.
     void bringUpToDate();
 
+    struct Guest {
+        QPointer<QWidget> widget;
+        QPointer<QWidget> home; ///< where it was before
+        WindowHandle window;
+    };
+
+    /// Guests show only where their window does, and nothing that lies in it is above them.
+    void clipGuests();
+    void clip(QWidget& guest, WindowHandle window) const;
+    void sendGuestsHome();
+    /// In units of widgets, with whatever it covers in part.
+    QRect unitsOf(const Rect& pixels) const;
+
     QtWorld* world_;
+    std::vector<Guest> guests_;
     WindowHandle window_;
     Bitmap shown_;
     Bitmap next_;
