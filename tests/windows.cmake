@@ -60,6 +60,11 @@ target_sources(lumtex_test_stage PRIVATE scenarios/headless_stage.cpp scenarios/
 lumtex_tests(density LINK lumtex_control lumtex_test_raster lumtex_win32)
 lumtex_tests(activex LINK lumtex_automation lumtex_win32)
 add_dependencies(lumtex_test_activex LumtexListView)
+# Who listens is another program, as it is for users.
+add_executable(screen_reader windows/screen_reader/main.cpp)
+target_link_libraries(screen_reader PRIVATE lumtex_flags oleacc ole32 oleaut32 uuid)
+lumtex_tests(spoken LINK lumtex_automation lumtex_win32 oleacc)
+add_dependencies(lumtex_test_spoken LumtexListView screen_reader)
 # Scripts find the component through the program's manifest.
 enable_language(RC)
 lumtex_tests(scripts LINK lumtex_automation lumtex_win32)

@@ -31,7 +31,7 @@ lumtex_layer(activex folders below)
 add_library(LumtexListView SHARED ${activex_sources} activex/lumtex_list_view.def
                                   "${CMAKE_CURRENT_BINARY_DIR}/component.rc" "${type_library}")
 set_target_properties(LumtexListView PROPERTIES PREFIX "" SUFFIX ".ocx")
-target_link_libraries(LumtexListView PRIVATE lumtex_flags ${below})
+target_link_libraries(LumtexListView PRIVATE lumtex_flags ${below} oleacc)
 target_link_options(LumtexListView PRIVATE -Wl,--enable-stdcall-fixup)
 target_precompile_headers(LumtexListView REUSE_FROM lumtex_precompiled)
 lumtex_headers_alone(LumtexListView ${activex_headers})

@@ -24,6 +24,7 @@ ControlCore::ControlCore(IUnknown& outer, IConnectionPointContainer& points)
     world_.ownRuntime().onQueued = [this](MSG& message) { return offerKey(message); };
     world_.ownRuntime().onModal = [this](bool open) { showModality(open); };
     world_.owner = &outer_;
+    speaker_ = std::make_unique<ListSpeaker>(*list_, outer_);
 }
 
 ControlCore::~ControlCore() {

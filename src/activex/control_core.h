@@ -7,6 +7,7 @@
 #include "activex/connection_point.h"
 #include "activex/container_host.h"
 #include "activex/event_source.h"
+#include "activex/spoken_list.h"
 #include "worlds/win32/module_lock.h"
 #include "worlds/win32/win32_world.h"
 
@@ -110,6 +111,7 @@ class ControlCore final : public AutomationTarget {
     ContainerHost host_;
     Win32World world_;
     std::unique_ptr<lmListView> list_;
+    std::unique_ptr<ListSpeaker> speaker_;
     bool initialised_ = false;
     bool painted_ = false;
     bool drawing_ = false;             ///< for the container, which knows

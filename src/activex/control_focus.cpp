@@ -31,6 +31,14 @@ bool ControlCore::hasFocus() {
 
 /// Where the focus came by the mouse or by a call, not by a verb of the container, it hears of that.
 std::optional<LRESULT> ControlCore::seeMessage(const WindowMessage& message) {
+    if (message.window == window() && speaker_) {
+        if (message.number == WM_GETOBJECT) {
+            const LRESULT spoken = speaker_->answer(message.wParam, message.lParam);
+            return spoken != 0 ? std::optional(spoken) : std::nullopt;
+        }
+        if (message.number == WM_SETFOCUS)
+            speaker_->tellFocus();
+    }
     if (!inPlaceActive_ || !host_.UserMode())
         return {};
     const auto passes = [&] { return !holds(reinterpret_cast<HWND>(message.wParam)); };
