@@ -1,14 +1,20 @@
 #include "qt/qt_values.h"
 
+#include "qt/model_recordset.h"
 #include "qt/qt_object.h"
+#include "worlds/qt/carried_data.h"
 #include "worlds/qt/qt_picture.h"
 #include "worlds/qt/qt_text.h"
+#include "worlds/qt/widget_object.h"
 
+#include <QAbstractItemModel>
 #include <QColor>
 #include <QDateTime>
 #include <QFont>
 #include <QPixmap>
+#include <QWidget>
 #include <cmath>
+#include <utility>
 
 namespace lumtex::qt {
 
@@ -55,6 +61,19 @@ PictureRef fromQImage(const QImage& image) {
     if (image.isNull())
         return nullptr;
     return std::make_shared<BitmapPicture>(bitmapOf(image));
+}
+
+/// A widget may lie over a cell, and a model be imported; what else they have is reached by name as of any
+/// object.
+ObjectRef fromQObject(QObject* object) {
+    if (object == nullptr)
+        return nullptr;
+    if (auto* model = qobject_cast<QAbstractItemModel*>(object))
+        return std::make_shared<ModelRecordset>(*model);
+    auto named = std::make_shared<QtObject>(object);
+    if (auto* widget = qobject_cast<QWidget*>(object))
+        return std::make_shared<WidgetObject>(*widget, std::move(named));
+    return named;
 }
 
 struct ToQVariant {
@@ -134,8 +153,7 @@ Variant fromQVariant(const QVariant& value) {
     if (value.metaType().flags().testFlag(QMetaType::IsEnumeration))
         return Long{value.toInt()};
     if (value.canConvert<QObject*>()) {
-        QObject* object = value.value<QObject*>();
-        return object != nullptr ? std::make_shared<QtObject>(object) : ObjectRef();
+        return fromQObject(value.value<QObject*>());
     }
     return Unsupported{};
 }
@@ -150,8 +168,15 @@ OLE_COLOR fromQColor(const QColor& color) {
 }
 
 QObject* toQObject(const ObjectRef& object) {
-    const auto* own = dynamic_cast<const QtObject*>(object.get());
-    return own != nullptr ? own->object() : nullptr;
+    if (const auto* own = dynamic_cast<const QtObject*>(object.get()))
+        return own->object();
+    if (const auto* widget = dynamic_cast<const WidgetObject*>(object.get()))
+        return widget->widget();
+    if (const auto* records = dynamic_cast<const ModelRecordset*>(object.get()))
+        return records->model();
+    if (const auto* carried = dynamic_cast<const CarriedData*>(object.get()))
+        return carried->mimeData();
+    return nullptr;
 }
 
 void takeBack(const QVariant& value, Variant& place) {

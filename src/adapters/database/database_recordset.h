@@ -8,12 +8,7 @@
 
 namespace lumtex::database {
 
-/// What a recordset reports besides the failures of its database, under the numbers that programs know from
-/// other recordsets.
-constexpr Long noCurrentRecord = 3021;
-constexpr Long noSuchField = 3265;
-
-/// Opens a query and returns it as an object with these members:
+/// Opens a query and returns it as a `RecordsetObject`:
 ///
 /// - `RecordCount`: how many records the database counts, when first asked for and after each new run.
 ///   Counting runs the query a second time, and both see the same data, unless the query itself says

@@ -101,6 +101,7 @@ class MimeData final : public CarriedData {
     Variant call(StringView name, std::span<Variant> arguments) override { return get(name, arguments); }
 
     void end() override { data_.clear(); }
+    QMimeData* mimeData() const override { return data_; }
 
   private:
     static Format formatIn(const Variant& value) {

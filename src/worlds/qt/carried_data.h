@@ -24,6 +24,8 @@ class CarriedData : public Object {
   public:
     /// The drag is over.
     virtual void end() = 0;
+    /// Null once the drag is over, or the data is gone.
+    virtual QMimeData* mimeData() const = 0;
 };
 
 std::shared_ptr<CarriedData> carriedData(const QMimeData& data);
