@@ -10,11 +10,12 @@ FindMatcher::FindMatcher(Runtime& runtime, StringView pattern, cFindCompare comp
     if (compare == cFindBinary || compare == cFindText) {
         ignoringErrors([&] {
             atOnce_.emplace(pattern, compare == cFindText ? LikePattern::folded : LikePattern::byUnit);
+            filter_ = atOnce_->filter();
         });
     }
 }
 
-bool FindMatcher::matches(const CompactText& text) const {
+bool FindMatcher::matchesWhatMay(const CompactText& text) const {
     if (atOnce_)
         return text.visit([&](auto units) { return atOnce_->matches(units); });
     return matchesStepwise(text.toString());

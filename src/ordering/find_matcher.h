@@ -17,16 +17,18 @@ class FindMatcher {
     /// An unknown `compare` matches nothing. `pattern` must live as long as this object.
     FindMatcher(Runtime& runtime, StringView pattern, cFindCompare compare);
 
-    bool matches(const CompactText& text) const;
+    bool matches(const CompactText& text) const { return filter_.mayMatch(text) && matchesWhatMay(text); }
     bool matches(StringView text) const;
 
   private:
+    bool matchesWhatMay(const CompactText& text) const;
     bool matchesStepwise(StringView text) const;
 
     Runtime& runtime_;
     StringView pattern_;
     cFindCompare compare_;
     std::optional<LikePattern> atOnce_; ///< none for a faulty pattern
+    ByteFilter filter_;                 ///< lets all texts through where there is no pattern
 };
 
 } // namespace lumtex::ordering

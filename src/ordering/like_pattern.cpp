@@ -160,6 +160,26 @@ bool LikePattern::matchesUnits(const Unit* text, std::size_t size) const {
     return true;
 }
 
+/// Literals that at most two bytes are: letters in both cases, mostly.
+ByteFilter LikePattern::filter() const {
+    ByteFilter filter;
+    // What stands at an end of the text refuses most texts as fast.
+    if (segments_.front().length + segments_.back().length != 0)
+        return filter;
+    for (const Element& element : elements_) {
+        if (element.kind != Element::literal)
+            continue;
+        std::vector<unsigned char> bytes;
+        for (unsigned byte = 0; byte < 256; ++byte) {
+            if (letter(static_cast<char16_t>(byte)) == element.unit)
+                bytes.push_back(static_cast<unsigned char>(byte));
+        }
+        if (bytes.size() == 1 || bytes.size() == 2)
+            filter.demand(bytes.front(), bytes.back());
+    }
+    return filter;
+}
+
 bool LikePattern::matches(StringView text) const {
     return matchesUnits(text.data(), text.size());
 }

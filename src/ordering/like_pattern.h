@@ -2,6 +2,7 @@
 /// The pattern language of searches.
 #pragma once
 
+#include "ordering/byte_filter.h"
 #include "values/types.h"
 
 #include <bitset>
@@ -36,6 +37,8 @@ class LikePattern {
     bool matches(StringView text) const;
     /// The same for a text that holds no unit above 255.
     bool matches(std::span<const unsigned char> text) const;
+    /// What a text must hold to match.
+    ByteFilter filter() const;
 
   private:
     struct Range {

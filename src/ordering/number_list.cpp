@@ -19,7 +19,7 @@ void NumberList::appendUnreadable() {
     ++size_;
 }
 
-Long NumberList::at(std::size_t position) const {
+Long NumberList::atOfMany(std::size_t position) const {
     if (position >= size_)
         throw RuntimeError(ErrorNumber::subscriptOutOfRange);
     const auto next =

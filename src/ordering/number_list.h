@@ -5,6 +5,7 @@
 #include "values/types.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace lumtex::ordering {
@@ -20,9 +21,16 @@ class NumberList {
 
     std::size_t size() const { return size_; }
     /// `position` counts from 0. Throws RuntimeError 9 past the end, 13 for what is not readable.
-    Long at(std::size_t position) const;
+    Long at(std::size_t position) const {
+        // As a rule all of a search's numbers are one range.
+        if (position < size_ && ranges_.size() == 1 && ranges_.front().readable)
+            return static_cast<Long>(ranges_.front().first + static_cast<std::int64_t>(position));
+        return atOfMany(position);
+    }
 
   private:
+    Long atOfMany(std::size_t position) const;
+
     struct Range {
         std::size_t start; ///< position of its first number
         Long first;

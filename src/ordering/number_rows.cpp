@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 #include <optional>
 #include <span>
 
@@ -83,10 +84,31 @@ bool datesKeepTheirTexts() {
 } // namespace
 
 NumberReader::NumberReader(cSortType type) : type_(type) {
-    if (type == cSortNumeric)
+    if (type == cSortNumeric) {
         decimalMark_ = decimalMark();
-    else
-        ignoringErrors([&] { readsBack_ = datesKeepTheirTexts(); });
+        return;
+    }
+    knownDates_.resize(std::size_t{1} << bitsOfPlace);
+    ignoringErrors([&] { readsBack_ = datesKeepTheirTexts(); });
+}
+
+/// The same text is the same date as long as the locale stays, which it does for a sort.
+Double NumberReader::readKnownDate(const CompactText& text) {
+    const unsigned char* const bytes = text.insideBytes();
+    if (bytes == nullptr || text.empty())
+        return readText(text);
+    std::array<unsigned char, 16> whole{};
+    std::copy_n(bytes, text.size(), whole.begin());
+    whole.back() = static_cast<unsigned char>(text.size());
+    std::uint64_t low = 0;
+    std::uint64_t high = 0;
+    std::memcpy(&low, whole.data(), sizeof low);
+    std::memcpy(&high, whole.data() + sizeof low, sizeof high);
+    const std::uint64_t mixed = (low ^ (high * 0x9E3779B97F4A7C15U)) * 0xC2B2AE3D27D4EB4FU;
+    KnownDate& known = knownDates_[mixed >> (64U - bitsOfPlace)];
+    if (known.low != low || known.high != high)
+        known = {low, high, readText(text)};
+    return known.key;
 }
 
 /// A date that was read has whole seconds; a number of days need not.
@@ -108,6 +130,10 @@ Double NumberReader::read(const CompactText& text) {
         if (plain)
             return *plain;
     }
+    return type_ == cSortDate ? readKnownDate(text) : readText(text);
+}
+
+Double NumberReader::readText(const CompactText& text) {
     text.copyTo(buffer_);
     Double key = unreadable;
     ignoringErrors([&] { key = type_ == cSortDate ? readDate() : numberKey(buffer_, type_); });

@@ -4,6 +4,7 @@
 
 #include "values/types.h"
 
+#include <array>
 #include <vector>
 
 namespace lumtex::ordering {
@@ -13,6 +14,54 @@ constexpr Long middleOf(Long first, Long last) {
     const Long lower = first + (last - first) / 2;
     const bool half = (last - first) % 2 != 0;
     return half && lower % 2 != 0 ? lower + 1 : lower;
+}
+
+/// Rows whose keys lie ready: asking about them has no effect, and every position of a range can be asked
+/// about.
+template <class Rows>
+concept RowsAtHand = Rows::atHand;
+
+/// Does what the scans of a partition do from `i` and `j` on as long as they stay more than two blocks apart:
+/// swaps the first row that does not lie before the pivot with the last that does not lie behind it, and so
+/// on. The questions of a block are asked one after the other, without a branch on any answer, since half of
+/// these would be guessed wrongly.
+template <class Rows>
+void swapBlocks(Rows& rows, Long& i, Long& j) {
+    constexpr Long blockSize = 64;
+    /// Rows of one side that must change places, by their distance from where the block begins.
+    struct Block {
+        std::array<Byte, blockSize> places;
+        std::size_t next = 0;
+        std::size_t count = 0;
+        bool isDone() const { return next == count; }
+    };
+    Block lower;
+    Block upper;
+    while (j - i >= 2 * blockSize) {
+        if (lower.isDone()) {
+            lower.next = lower.count = 0;
+            for (Long k = 0; k < blockSize; ++k) {
+                lower.places[lower.count] = static_cast<Byte>(k);
+                lower.count += rows.before(i + k) ? 0U : 1U;
+            }
+        }
+        if (upper.isDone()) {
+            upper.next = upper.count = 0;
+            for (Long k = 0; k < blockSize; ++k) {
+                upper.places[upper.count] = static_cast<Byte>(k);
+                upper.count += rows.behind(j - k) ? 0U : 1U;
+            }
+        }
+        while (!lower.isDone() && !upper.isDone())
+            rows.swap(i + lower.places[lower.next++], j - upper.places[upper.next++]);
+        i += lower.isDone() ? blockSize : 0;
+        j -= upper.isDone() ? blockSize : 0;
+    }
+    // At most one side has rows left that wait for one of the other.
+    if (!lower.isDone())
+        i += lower.places[lower.next];
+    if (!upper.isDone())
+        j -= upper.places[upper.next];
 }
 
 /// A quick sort after Hoare with the pivot in the middle, from `first` to `last`, both 0-based. `rows` gives
@@ -41,6 +90,8 @@ void quickSort(Rows& rows, Long first, Long last) {
         Long i = range.first;
         Long j = range.last;
         rows.choosePivot(middleOf(i, j));
+        if constexpr (RowsAtHand<Rows>)
+            swapBlocks(rows, i, j);
         do {
             while (rows.before(i))
                 ++i;

@@ -15,43 +15,65 @@ const CompactText* textOf(const RowRecord& row, std::size_t cell) {
     return cell < row.items.count() ? &row.items[cell].text() : nullptr;
 }
 
+/// Hands `take` the text of each row, null where a row is too short, until it answers False. Rows lie
+/// anywhere in memory, so each is fetched some rows before its turn, and a text outside its cell a few rows
+/// later.
+template <class Take>
+bool forEachText(const RowArray& rows, std::size_t cell, Take take) {
+    constexpr std::size_t rowAhead = 24;
+    constexpr std::size_t textAhead = 12;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        rows.prefetch(i + rowAhead, cell);
+        if (i + textAhead < rows.size()) {
+            if (const CompactText* const text = textOf(rows[i + textAhead], cell))
+                text->prefetch();
+        }
+        if (!take(textOf(rows[i], cell)))
+            return false;
+    }
+    return true;
+}
+
+enum class Reading : Byte { whole, reports, tooWide };
+
+/// Sorts texts of such units; `order` is set where all were read.
 template <class Unit, bool descending>
-Order orderOfTexts(const RowArray& rows, std::size_t cell, std::size_t units) {
-    TextRows<Unit, descending> keys(rows.size(), units);
-    for (const RowRecord& row : rows)
-        keys.add(textOf(row, cell));
-    quickSort(keys, 0, static_cast<Long>(rows.size()) - 1);
-    return keys.order();
+Reading orderOfUnits(const RowArray& rows, std::size_t cell, bool silent, Order& order) {
+    TextRows<Unit, descending> keys(rows.size());
+    Reading reading = Reading::whole;
+    forEachText(rows, cell, [&](const CompactText* text) {
+        if (text == nullptr && !silent)
+            reading = Reading::reports;
+        else if (!keys.add(text))
+            reading = Reading::tooWide;
+        return reading == Reading::whole;
+    });
+    if (reading == Reading::whole) {
+        quickSort(keys, 0, static_cast<Long>(rows.size()) - 1);
+        order = keys.order();
+    }
+    return reading;
 }
 
 template <bool descending>
 Order orderOfTexts(const RowArray& rows, std::size_t cell, bool silent) {
-    std::size_t units = 0;
-    bool wide = false;
-    for (const RowRecord& row : rows) {
-        const CompactText* text = textOf(row, cell);
-        if (text == nullptr && !silent)
-            return std::nullopt;
-        if (text != nullptr) {
-            units += text->size();
-            wide = wide || text->isWide();
-        }
-    }
-    return wide ? orderOfTexts<char16_t, descending>(rows, cell, units)
-                : orderOfTexts<unsigned char, descending>(rows, cell, units);
+    Order order;
+    if (orderOfUnits<unsigned char, descending>(rows, cell, silent, order) == Reading::tooWide)
+        orderOfUnits<char16_t, descending>(rows, cell, silent, order);
+    return order;
 }
 
 template <bool descending>
 Order orderOfNumbers(const RowArray& rows, std::size_t cell, cSortType type, bool silent) {
     NumberRows<descending> keys(rows.size(), type);
     NumberReader reader(type);
-    for (const RowRecord& row : rows) {
-        const CompactText* text = textOf(row, cell);
+    const bool whole = forEachText(rows, cell, [&](const CompactText* text) {
         const Double key = text != nullptr ? reader.read(*text) : unreadable;
-        if (key != key && !silent)
-            return std::nullopt;
         keys.add(key);
-    }
+        return key == key || silent;
+    });
+    if (!whole)
+        return std::nullopt;
     keys.letKeysAreTheirPivots(reader.readsBackItsKeys());
     quickSort(keys, 0, static_cast<Long>(rows.size()) - 1);
     if (keys.wouldReport() && !silent)

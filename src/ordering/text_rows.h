@@ -7,42 +7,65 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <utility>
 #include <vector>
 
 namespace lumtex::ordering {
 
+/// Units in blocks that stay where they are as more come.
+template <class Unit>
+class UnitStore {
+  public:
+    /// Room for so many; what was handed out before stays.
+    Unit* take(std::size_t count) {
+        if (count > left_) {
+            left_ = std::max(count, blockSize);
+            blocks_.push_back(std::make_unique_for_overwrite<Unit[]>(left_));
+            next_ = blocks_.back().get();
+        }
+        left_ -= count;
+        return std::exchange(next_, next_ + count);
+    }
+
+  private:
+    static constexpr std::size_t blockSize = 65536;
+
+    std::vector<std::unique_ptr<Unit[]>> blocks_;
+    Unit* next_ = nullptr;
+    std::size_t left_ = 0;
+};
+
 /// The rows for `quickSort`. `Unit` is `unsigned char` where no text has a code unit above 255, else
 /// char16_t.
 ///
-/// All texts lie in one block. Each key carries the first eight bytes of its own, so that most comparisons
-/// look at two numbers.
+/// Each key carries the first eight bytes of its text, so that most comparisons look at two numbers.
 template <class Unit, bool descending>
 class TextRows {
   public:
-    /// `units` is the length of all texts together.
-    TextRows(std::size_t count, std::size_t units) {
+    static constexpr bool atHand = true;
+
+    explicit TextRows(std::size_t count) {
         keys_.reserve(count);
-        texts_.reserve(units);
+        texts_.reserve(count);
     }
-    /// Null stands for the empty text. The lengths must not add up to more than the constructor was told.
-    void add(const CompactText* text) {
-        const std::size_t start = texts_.size();
+    /// Null stands for the empty text. False, with nothing done, for a text that does not fit the unit.
+    bool add(const CompactText* text) {
+        if (text != nullptr && sizeof(Unit) < sizeof(char16_t) && text->isWide())
+            return false;
+        Text lowered;
         if (text != nullptr) {
             text->visit([&](auto units) {
-                for (const auto unit : units)
-                    texts_.push_back(static_cast<Unit>(lowerCase(unit)));
+                Unit* const begin = store_.take(units.size());
+                std::transform(units.begin(), units.end(), begin, [](auto unit) {
+                    return static_cast<Unit>(lowerCase(unit));
+                });
+                lowered = {begin, static_cast<std::uint32_t>(units.size())};
             });
         }
-        Key key;
-        key.text = texts_.data() + start;
-        key.length = static_cast<std::uint32_t>(texts_.size() - start);
-        key.row = static_cast<std::uint32_t>(keys_.size());
-        for (std::size_t i = 0; i < unitsInHead; ++i) {
-            const std::uint64_t unit = i < key.length ? key.text[i] : 0;
-            key.head = (key.head << bitsOfUnit) | unit;
-        }
-        keys_.push_back(key);
+        keys_.push_back({headOf(lowered), static_cast<std::uint32_t>(keys_.size())});
+        texts_.push_back(lowered);
+        return true;
     }
 
     void choosePivot(Long index) { pivot_ = at(index); }
@@ -63,28 +86,40 @@ class TextRows {
     static constexpr std::size_t bitsOfUnit = 8 * sizeof(Unit);
     static constexpr std::size_t unitsInHead = sizeof(std::uint64_t) / sizeof(Unit);
 
-    struct Key {
-        std::uint64_t head = 0; ///< the first units, the first of them highest, padded with zeros
-        const Unit* text = nullptr;
+    struct Text {
+        const Unit* begin = nullptr;
         std::uint32_t length = 0;
-        std::uint32_t row = 0;
+    };
+    struct Key {
+        std::uint64_t head; ///< the first units, the first of them highest, padded with zeros
+        std::uint32_t row;
     };
     const Key& at(Long index) const { return keys_[static_cast<std::size_t>(index)]; }
     Key& at(Long index) { return keys_[static_cast<std::size_t>(index)]; }
 
-    static bool less(const Key& a, const Key& b) {
-        if (a.head != b.head)
-            return a.head < b.head;
+    static std::uint64_t headOf(const Text& text) {
+        std::uint64_t head = 0;
+        for (std::size_t i = 0; i < unitsInHead; ++i)
+            head = (head << bitsOfUnit) | (i < text.length ? text.begin[i] : std::uint64_t{0});
+        return head;
+    }
+    bool less(const Key& a, const Key& b) const {
+        return a.head != b.head ? a.head < b.head : lessBehindHead(a, b);
+    }
+    bool lessBehindHead(const Key& keyA, const Key& keyB) const {
+        const Text& a = texts_[keyA.row];
+        const Text& b = texts_[keyB.row];
         // Where one text ends within the head, the other goes on with zeros alone, if at all.
         if (std::min(a.length, b.length) <= unitsInHead)
             return a.length < b.length;
         return std::lexicographical_compare(
-            a.text + unitsInHead, a.text + a.length, b.text + unitsInHead, b.text + b.length);
+            a.begin + unitsInHead, a.begin + a.length, b.begin + unitsInHead, b.begin + b.length);
     }
 
     std::vector<Key> keys_;
-    std::vector<Unit> texts_; ///< never grows past its first capacity
-    Key pivot_;
+    std::vector<Text> texts_; ///< by row
+    UnitStore<Unit> store_;
+    Key pivot_{};
 };
 
 } // namespace lumtex::ordering

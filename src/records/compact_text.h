@@ -44,6 +44,14 @@ class CompactText {
         return visitor(std::span<const unsigned char>(onHeap() ? heap() : bytes_.data(), size()));
     }
 
+    /// Where the text lies inside: sixteen bytes, of which it takes the first ones; else null.
+    const unsigned char* insideBytes() const { return onHeap() ? nullptr : bytes_.data(); }
+    /// Has the machine fetch a text that is about to be looked at.
+    void prefetch() const {
+        if (onHeap())
+            __builtin_prefetch(heap());
+    }
+
   private:
     static constexpr std::size_t inlineCapacity = 15;
     /// Values of the last byte; up to `inlineCapacity` it is the length of a text kept inside.

@@ -7,30 +7,6 @@
 
 namespace lumtex {
 
-/// Header of a row's cells. A block whose cells moved to a larger one stays, as a signpost, until its last
-/// holder has followed.
-struct Items::Block {
-    using Extras = std::vector<std::unique_ptr<CellExtras>>;
-
-    static constexpr std::size_t mostCells = (std::size_t{1} << 20U) - 1;
-    static constexpr std::size_t mostReferences = (std::size_t{1} << 23U) - 1;
-
-    // Sixteen bytes in all, since every row has one. A record is held more than once while it is moved, and
-    // for good where host code took rows away meanwhile.
-    std::uint64_t references : 23 = 1;
-    std::uint64_t moved : 1 = 0;
-    std::uint64_t count : 20 = 0;
-    std::uint64_t capacity : 20 = 0;
-    union {
-        Extras* extras = nullptr; ///< owned; null while no cell has any
-        Block* successor;         ///< once moved; holds one reference
-    };
-
-    ListViewItem* cells() { return std::launder(reinterpret_cast<ListViewItem*>(this + 1)); }
-};
-
-static_assert(alignof(ListViewItem) <= alignof(std::max_align_t));
-
 Items::Block* Items::allocate(std::size_t capacity) {
     if (capacity > Block::mostCells)
         throw std::length_error("a row holds too many cells");
@@ -77,25 +53,13 @@ Items::~Items() {
     release(block_);
 }
 
-Items::Block* Items::block() const {
-    while (block_ != nullptr && block_->moved != 0) {
+Items::Block* Items::followed() const {
+    while (block_->moved != 0) {
         Block* const signpost = block_;
         block_ = shared(signpost->successor);
         release(signpost);
     }
     return block_;
-}
-
-std::size_t Items::count() const {
-    const Block* current = block();
-    return current != nullptr ? current->count : 0;
-}
-
-ListViewItem& Items::operator[](std::size_t index) {
-    return block()->cells()[index];
-}
-const ListViewItem& Items::operator[](std::size_t index) const {
-    return block()->cells()[index];
 }
 
 Items::Block* Items::grow(std::size_t capacity) {

@@ -5,7 +5,11 @@
 #include "records/list_view_item.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <new>
 #include <utility>
+#include <vector>
 
 namespace lumtex {
 
@@ -34,12 +38,22 @@ class Items {
     }
     ~Items();
 
-    std::size_t count() const;
+    std::size_t count() const {
+        const Block* current = block();
+        return current != nullptr ? current->count : 0;
+    }
     bool sharesWith(const Items& other) const { return block() == other.block(); }
 
     /// `index` counts from 0 and must lie below `count`.
-    ListViewItem& operator[](std::size_t index);
-    const ListViewItem& operator[](std::size_t index) const;
+    ListViewItem& operator[](std::size_t index) { return block()->cells()[index]; }
+    const ListViewItem& operator[](std::size_t index) const { return block()->cells()[index]; }
+
+    /// Has the machine fetch a cell that is about to be looked at, whether it is there or not.
+    void prefetch(std::size_t index) const {
+        __builtin_prefetch(block_);
+        __builtin_prefetch(reinterpret_cast<const char*>(block_) + sizeof(Block) +
+                           index * sizeof(ListViewItem));
+    }
 
     /// Appends a cell, which every holder of the collection sees. Grows where there is no room left. Where it
     /// throws, no cell was added.
@@ -58,10 +72,32 @@ class Items {
     void letTag(std::size_t index, const Variant& tag);
 
   private:
-    struct Block;
+    /// Header of a row's cells. A block whose cells moved to a larger one stays, as a signpost, until its
+    /// last holder has followed.
+    struct Block {
+        using Extras = std::vector<std::unique_ptr<CellExtras>>;
+
+        static constexpr std::size_t mostCells = (std::size_t{1} << 20U) - 1;
+        static constexpr std::size_t mostReferences = (std::size_t{1} << 23U) - 1;
+
+        // Sixteen bytes in all, since every row has one. A record is held more than once while it is moved,
+        // and for good where host code took rows away meanwhile.
+        std::uint64_t references : 23 = 1;
+        std::uint64_t moved : 1 = 0;
+        std::uint64_t count : 20 = 0;
+        std::uint64_t capacity : 20 = 0;
+        union {
+            Extras* extras = nullptr; ///< owned; null while no cell has any
+            Block* successor;         ///< once moved; holds one reference
+        };
+
+        ListViewItem* cells() { return std::launder(reinterpret_cast<ListViewItem*>(this + 1)); }
+    };
+    static_assert(alignof(ListViewItem) <= alignof(std::max_align_t));
 
     /// The block that holds the cells now; a block that grew leaves its successor's address behind.
-    Block* block() const;
+    Block* block() const { return block_ != nullptr && block_->moved != 0 ? followed() : block_; }
+    Block* followed() const;
     static Block* shared(Block* block);
     static void release(Block* block);
     static Block* allocate(std::size_t capacity);

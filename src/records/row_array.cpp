@@ -5,6 +5,13 @@
 
 namespace lumtex {
 
+namespace {
+
+/// So many rows before its turn a row is fetched.
+constexpr std::size_t ahead = 16;
+
+} // namespace
+
 RowArray::Chunk RowArray::makeChunk(std::size_t rows) {
     return {std::make_unique<RowRecord[]>(rows), 0};
 }
@@ -94,8 +101,11 @@ void RowArray::reorder(std::span<const std::uint32_t> sources) {
     ordered.reserve(chunks_.size());
     for (std::size_t i = 0; i < chunks_.size(); ++i)
         ordered.push_back(makeChunk(mask_ + 1));
-    for (std::size_t i = 0; i < sources.size(); ++i)
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        if (i + ahead < sources.size())
+            __builtin_prefetch(slotOf(sources[i + ahead]));
         ordered[i >> chunkBits].rows[i & mask_] = std::move((*this)[sources[i]]);
+    }
     chunks_ = std::move(ordered);
 }
 

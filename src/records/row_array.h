@@ -48,6 +48,11 @@ class RowArray {
     RowRecord& operator[](std::size_t position) { return *slotOf(position); }
     const RowRecord& operator[](std::size_t position) const { return *slotOf(position); }
     RowRecord& back() { return *slotOf(size_ - 1); }
+    /// Has the machine fetch a cell that is about to be looked at; `position` may lie behind the last.
+    void prefetch(std::size_t position, std::size_t cell) const {
+        if (position < size_)
+            slotOf(position)->items.prefetch(cell);
+    }
 
     auto begin() { return RowPlace<RowArray, RowRecord>(*this, 0); }
     auto end() { return RowPlace<RowArray, RowRecord>(*this, size_); }

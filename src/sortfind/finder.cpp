@@ -12,6 +12,8 @@ namespace {
 
 constexpr StringView tagMarker = u"<itemtag>";
 constexpr StringView everything = u"*";
+/// So many rows before its turn a row is fetched, if the search goes by all of them.
+constexpr std::size_t rowsAhead = 12;
 
 bool startsWithTagMarker(StringView text) {
     return text.size() >= tagMarker.size() &&
@@ -79,6 +81,7 @@ FindResults Finder::scan(Test test, Report report) {
     if (state_.findColumnPos >= columnEnd)
         return {};
     for (std::int64_t r = state_.findRowPos; r < rowEnd; ++r) {
+        records_.rows().prefetch(static_cast<std::size_t>(r) + rowsAhead, 0);
         // Wanted: each row starts at the stored column, so that a continued search leaves out those before
         // it.
         for (std::int64_t c = state_.findColumnPos; c < columnEnd; ++c) {
