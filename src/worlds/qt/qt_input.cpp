@@ -81,7 +81,8 @@ bool QtWorld::deliver(ScreenWidget& screen, QEvent& event) {
         return false;
     case QEvent::KeyPress: {
         const auto& key = static_cast<QKeyEvent&>(event);
-        if (isFocusKey(key))
+        // What a widget over a cell leaves is for those around the list.
+        if (isFocusKey(key) || !screen.hasFocus())
             return false;
         event.setAccepted(!isForDialogs(key));
         keyPressed(key);
@@ -89,6 +90,8 @@ bool QtWorld::deliver(ScreenWidget& screen, QEvent& event) {
     }
     case QEvent::KeyRelease: {
         const auto& key = static_cast<QKeyEvent&>(event);
+        if (!screen.hasFocus())
+            return false;
         event.setAccepted(!isForDialogs(key));
         keyReleased(key);
         return true;

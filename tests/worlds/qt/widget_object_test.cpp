@@ -190,13 +190,26 @@ TEST_F(QtWidgetObject, AWidgetAroundTheListIsNotTakenIn) {
     EXPECT_FALSE(list->window().adopt(own.get(u"hWnd").toLong()));
 }
 
+TEST_F(QtWidgetObject, KeysThatItLeavesGoPastTheList) {
+    embed(2);
+    button->setFocusPolicy(Qt::StrongFocus);
+    list->ItemObject(2, 2)->call(u"SetFocus");
+    events.log.clear();
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent key(type, Qt::Key_F5, Qt::NoModifier);
+        QCoreApplication::sendEvent(button, &key);
+        EXPECT_FALSE(key.isAccepted());
+    }
+    EXPECT_TRUE(events.log.empty());
+}
+
 TEST_F(QtWidgetObject, KeysAndFocusAreItsOwn) {
     embed(2);
     button->setFocusPolicy(Qt::StrongFocus);
-    std::static_pointer_cast<qt::WidgetObject>(list->ItemObject(2, 2))->call(u"SetFocus");
+    list->ItemObject(2, 2)->call(u"SetFocus");
     settle();
     EXPECT_TRUE(button->hasFocus());
-    std::static_pointer_cast<qt::WidgetObject>(list->ItemObject(2, 2))->put(u"Enabled", false);
+    list->ItemObject(2, 2)->put(u"Enabled", false);
     EXPECT_FALSE(button->isEnabled());
 }
 
