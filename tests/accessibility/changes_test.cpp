@@ -93,6 +93,10 @@ TEST_F(Changes, OfARowThatComesIntoViewAreItsSelection) {
                 ElementsAre("scrolled vertical bar", "focus row 40", "selected row 40"));
     EXPECT_THAT(toldOf([&] { list.letTopIndex(0); }), ElementsAre("scrolled vertical bar"));
     EXPECT_THAT(toldOf([&] { list.letTopIndex(39); }), ElementsAre("scrolled vertical bar"));
+    list.letAutoRedraw(false);
+    list.letRowIndex(5);
+    EXPECT_THAT(toldOf([&] { list.Redraw(); }), ElementsAre("selected row 5"))
+        << "shown and selected at once";
 }
 
 TEST_F(Changes, OfTheEditorMoveTheFocus) {

@@ -53,6 +53,8 @@ TEST_F(Tree, HasBarsAndEditorWhileTheyShow) {
               "horizontal low arrow; horizontal thumb; horizontal high arrow");
     list.letHideColumnHeaders(true);
     EXPECT_EQ(named(spoken.child(theList, 34)), "vertical bar");
+    EXPECT_EQ(spoken.numberOf(verticalBar), 34);
+    EXPECT_EQ(spoken.numberOf(theEditor), 36);
     EXPECT_FALSE(spoken.exists(headerElement(1)));
 }
 
