@@ -45,26 +45,31 @@ function(lumtex_component component)
     endif()
     install(TARGETS ${target} EXPORT LumtexListView${component}
             ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Development)
-    install(EXPORT LumtexListView${component} FILE LumtexListView${component}Targets.cmake NAMESPACE LumtexListView::
-            DESTINATION "${LUMTEX_PACKAGE_FOLDER}" COMPONENT Development)
-    lumtex_pkg_config(${name} "${PART_ABOUT}" "${PART_NEEDS}" "${PART_MODULES}")
-    set_property(GLOBAL APPEND PROPERTY LUMTEX_COMPONENTS ${component})
-    set_property(GLOBAL APPEND PROPERTY LUMTEX_PUBLIC_HEADERS ${PART_HEADERS})
-    set_property(GLOBAL APPEND_STRING PROPERTY LUMTEX_COMPONENT_NEEDS
-                 "set(lumtex_needs_${component} ${PART_NEEDS})\nset(lumtex_modules_${component} ${PART_MODULES})\n")
+    # Static libraries: whoever links one needs all that it needs, with or without pkg-config's --static.
+    list(TRANSFORM PART_NEEDS TOLOWER OUTPUT_VARIABLE required)
+    list(TRANSFORM required PREPEND lumtexlistview-)
+    lumtex_publish_component(${component} "${PART_ABOUT}" "${PART_NEEDS}" "${PART_MODULES}" "${PART_HEADERS}"
+                             lumtexlistview-${name} ${required} ${PART_MODULES})
 endfunction()
 
-# The libraries are static: whoever links one needs all that it needs, with or without pkg-config's --static.
-function(lumtex_pkg_config name about needs modules)
-    list(TRANSFORM needs TOLOWER)
-    list(TRANSFORM needs PREPEND lumtexlistview-)
-    list(JOIN needs " " needs)
-    list(JOIN modules " " modules)
-    string(STRIP "${needs} ${modules}" requires)
+# lumtex_publish_component(<Component> <about> <needs> <modules> <headers> <library> [<required by pkg-config>...]): what
+# consumers find a library by, once its target is to be installed.
+function(lumtex_publish_component component about needs modules headers library)
+    install(EXPORT LumtexListView${component} FILE LumtexListView${component}Targets.cmake NAMESPACE LumtexListView::
+            DESTINATION "${LUMTEX_PACKAGE_FOLDER}" COMPONENT Development)
+    lumtex_pkg_config(${library} "${about}" ${ARGN})
+    set_property(GLOBAL APPEND PROPERTY LUMTEX_COMPONENTS ${component})
+    set_property(GLOBAL APPEND PROPERTY LUMTEX_PUBLIC_HEADERS ${headers})
+    set_property(GLOBAL APPEND_STRING PROPERTY LUMTEX_COMPONENT_NEEDS
+                 "set(lumtex_needs_${component} ${needs})\nset(lumtex_modules_${component} ${modules})\n")
+endfunction()
+
+function(lumtex_pkg_config library about)
+    list(JOIN ARGN " " requires)
     # From the file itself to the prefix, so that the tree can be moved.
     set(pc_folder "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
     file(RELATIVE_PATH up "/${pc_folder}" "/")
-    set(pc_file "${PROJECT_BINARY_DIR}/package/lumtexlistview-${name}.pc")
+    set(pc_file "${PROJECT_BINARY_DIR}/package/${library}.pc")
     configure_file("${PROJECT_SOURCE_DIR}/packaging/component.pc.in" "${pc_file}" @ONLY)
     install(FILES "${pc_file}" DESTINATION "${pc_folder}" COMPONENT Development)
 endfunction()

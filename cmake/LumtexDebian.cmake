@@ -8,6 +8,9 @@ set(CPACK_PACKAGE_HOMEPAGE_URL "${LUMTEX_LINK}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "owner-drawn, multi-column list view for C++")
 set(CPACK_PACKAGING_INSTALL_PREFIX "/usr")
 set(CPACK_COMPONENTS_ALL Development)
+if(LUMTEX_BUILD_QT)
+    list(APPEND CPACK_COMPONENTS_ALL Qt)
+endif()
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
@@ -24,6 +27,10 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME liblumtexlistview-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "libfreetype-dev, libharfbuzz-dev, libfribidi-dev, libfontconfig-dev, libgdk-pixbuf-2.0-dev, pkg-config")
+if(LUMTEX_BUILD_QT)
+    string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+           ", liblumtexlistview-qt6 (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+endif()
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
 set(recommended "")
 if(LUMTEX_BUILD_JSON)
@@ -31,6 +38,9 @@ if(LUMTEX_BUILD_JSON)
 endif()
 if(LUMTEX_BUILD_DATABASE)
     list(APPEND recommended libsqlite3-dev libpq-dev)
+endif()
+if(LUMTEX_BUILD_QT)
+    list(APPEND recommended qt6-base-dev)
 endif()
 list(JOIN recommended ", " CPACK_DEBIAN_DEVELOPMENT_PACKAGE_RECOMMENDS)
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
@@ -41,6 +51,19 @@ content.
 .
 This package has the headers and static libraries, with files for CMake and
 pkg-config.")
+
+# The shared library says itself what it links.
+set(CPACK_DEBIAN_QT_PACKAGE_NAME liblumtexlistview-qt6)
+set(CPACK_DEBIAN_QT_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_QT_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_QT_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_COMPONENT_QT_DESCRIPTION
+    "A widget that shows columns and rows in three colour schemes or in colours of
+your own, with fonts, colours, icons, check marks and embedded widgets per
+cell.
+.
+This package has the shared library, which programs need that were built
+with it.")
 
 # lumtex_debian_documents(<package> <component>): what a Debian package says of itself.
 function(lumtex_debian_documents package component)
@@ -54,5 +77,8 @@ function(lumtex_debian_documents package component)
             COMPONENT ${component})
 endfunction()
 lumtex_debian_documents(liblumtexlistview-dev Development)
+if(LUMTEX_BUILD_QT)
+    lumtex_debian_documents(liblumtexlistview-qt6 Qt)
+endif()
 
 include(CPack)

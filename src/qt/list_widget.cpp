@@ -1,6 +1,7 @@
 #include "qt/list_widget.h"
 
 #include "automation/record_table.h"
+#include "guards/error.h"
 #include "platform/property_bag.h"
 #include "qt/list_core.h"
 #include "qt/qt_values.h"
@@ -109,6 +110,14 @@ void ListWidget::setDesignView(bool designed) {
     MemoryPropertyBag settings;
     core_->list().UserControl_WriteProperties(settings);
     startAnew(settings, designed);
+}
+
+bool ListWidget::SilentError() {
+    return silentError();
+}
+
+void ListWidget::setSilentError(bool silent) {
+    Error().letSilentError(silent);
 }
 
 QSize ListWidget::sizeHint() const {

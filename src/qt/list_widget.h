@@ -26,6 +26,8 @@ class ListWidget : public QWidget {
     /// A list in a designer shows a sample of itself and takes no input. A change of this keeps the settings,
     /// and lets rows and columns go.
     Q_PROPERTY(bool designView READ designView WRITE setDesignView DESIGNABLE false STORED false)
+    /// While true, a failing statement is skipped without a report, in all lists of the process.
+    Q_PROPERTY(bool SilentError READ SilentError WRITE setSilentError DESIGNABLE false STORED false)
 
   public:
     ListWidget(const ListWidget&) = delete;
@@ -34,6 +36,9 @@ class ListWidget : public QWidget {
 
     bool designView() const;
     void setDesignView(bool designed);
+
+    static bool SilentError();
+    static void setSilentError(bool silent);
 
     /// The list itself, for programs that use the types of the library.
     lmListView& list();

@@ -20,7 +20,11 @@ std::vector<std::string> between(const SourceFile& file, std::string_view begin,
     return last == file.lines.end() ? std::vector<std::string>() : std::vector<std::string>(first + 1, last);
 }
 
-std::vector<std::string> printedExample(const SourceFile& readme) {
+/// The first program of a page, or of what stands below a heading.
+std::vector<std::string> printedExample(SourceFile readme, std::string_view heading = {}) {
+    if (!heading.empty())
+        readme.lines.erase(readme.lines.begin(),
+                           std::find(readme.lines.begin(), readme.lines.end(), heading));
     return between(readme, "```cpp", "```");
 }
 
@@ -28,14 +32,20 @@ std::vector<std::string> compiledExample(const SourceFile& program) {
     return between(program, "// [readme", "// readme]");
 }
 
-/// Links to files of the tree, pictures included; those to other sites, and within a page, are left out.
+/// Links to files of the tree, pictures included; those to other sites, and within a page, are left out, and
+/// so is code.
 std::vector<Finding> brokenLinks(const SourceFile& file) {
     static const std::regex link(R"(\]\(([^)#\s]+)[^)]*\))");
     const std::filesystem::path root = testing::sourceFolder();
     const std::filesystem::path folder = (root / file.path).parent_path();
     std::vector<Finding> findings;
+    bool inCode = false;
     for (std::size_t i = 0; i < file.lines.size(); ++i) {
         const std::string& line = file.lines[i];
+        if (line.starts_with("```"))
+            inCode = !inCode;
+        if (inCode)
+            continue;
         for (std::sregex_iterator match(line.begin(), line.end(), link), none; match != none; ++match) {
             const std::string target = (*match)[1];
             if (target.find("://") == std::string::npos && !std::filesystem::exists(folder / target))
@@ -56,6 +66,13 @@ TEST(Readme, ShowsTheVeryExampleThatIsCompiled) {
     const auto compiled = compiledExample(readFile("tests/examples/readme_example.cpp"));
     ASSERT_FALSE(compiled.empty());
     EXPECT_EQ(printedExample(readFile("README.md")), compiled);
+}
+
+TEST(Readme, ShowsTheVeryWindowThatIsBuiltWithTheInstalledLibrary) {
+    const auto compiled = compiledExample(readFile("tests/install/qt/cities.cpp"));
+    ASSERT_FALSE(compiled.empty());
+    EXPECT_LT(compiled.size(), 20U);
+    EXPECT_EQ(printedExample(readFile("README.md"), "## A first window, with Qt"), compiled);
 }
 
 TEST(Readme, IsCaughtWhereItsExampleDiffersOrIsMissing) {

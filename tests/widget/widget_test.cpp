@@ -102,6 +102,17 @@ TEST_F(Widget, ReportsAWrongRowAndYieldsTheTypesZero) {
     EXPECT_EQ(boxes.size(), 2U);
 }
 
+TEST_F(Widget, KeepsQuietAboutFailuresWhereTheProgramWishesSo) {
+    fill(*widget);
+    ASSERT_FALSE(LumtexListView::SilentError());
+    widget->setProperty("SilentError", true);
+    EXPECT_EQ(widget->ItemText(99, 1), QString());
+    EXPECT_EQ(boxes, std::vector<std::string>());
+    LumtexListView::setSilentError(false);
+    EXPECT_EQ(widget->ItemText(99, 1), QString());
+    EXPECT_EQ(boxes.size(), 1U);
+}
+
 TEST_F(Widget, MayBeDestroyedInItsOwnSignal) {
     fill(*widget);
     QPointer<LumtexListView> watched(widget.get());
