@@ -131,6 +131,7 @@ QSize ListWidget::minimumSizeHint() const {
 }
 
 void ListWidget::resizeEvent(QResizeEvent* event) {
+    const QtRuntime::HeldYields quiet;
     if (const std::shared_ptr<ListCore> core = core_)
         core->resize(event->size());
 }

@@ -58,6 +58,23 @@ TEST_F(Widget, IsAsLargeAsItsLayoutMakesIt) {
     widget->setParent(nullptr);
 }
 
+TEST_F(Widget, LetsNothingRunInItsYieldsWhileQtPlacesWidgets) {
+    fill(*widget);
+    widget->show();
+    QCoreApplication::processEvents();
+    bool ran = false;
+    const auto post = [&] {
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [&] { ran = true; }, Qt::QueuedConnection);
+    };
+    post();
+    widget->resize(233, 144);
+    EXPECT_EQ(widget->list().window().Width(), 233);
+    EXPECT_FALSE(ran);
+    widget->Redraw();
+    EXPECT_TRUE(ran) << "a yield that the program asked for lets events through";
+}
+
 TEST_F(Widget, TakesWhatAReceiverLeavesInAReference) {
     fill(*widget);
     widget->setStyle(LumtexListView::cCheckBoxes);

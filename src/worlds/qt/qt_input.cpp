@@ -76,9 +76,11 @@ bool QtWorld::deliver(ScreenWidget& screen, QEvent& event) {
         event.setAccepted(taken);
         return true;
     }
-    case QEvent::Leave:
+    case QEvent::Leave: {
+        const QtRuntime::HeldYields quiet;
         pointerLeft(screen, *pane);
         return false;
+    }
     case QEvent::KeyPress: {
         const auto& key = static_cast<QKeyEvent&>(event);
         // What a widget over a cell leaves is for those around the list.

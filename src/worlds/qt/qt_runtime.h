@@ -39,6 +39,16 @@ class QtRuntime : public Runtime,
     QtRuntime& desktop() override { return *this; }
     QtRuntime& program() override { return *this; }
 
+    /// As long as one lives, yields let nothing through: Qt is in the middle of showing, placing or leaving
+    /// widgets, and goes on with those that it had in hand.
+    class HeldYields {
+      public:
+        HeldYields() { ++held_; }
+        HeldYields(const HeldYields&) = delete;
+        HeldYields& operator=(const HeldYields&) = delete;
+        ~HeldYields() { --held_; }
+    };
+
     /// Does nothing once the application ends.
     void DoEvents() override;
     /// Qt does not tell. A look right after a yield counts as one of the same moment, and finds nothing.
@@ -83,6 +93,7 @@ class QtRuntime : public Runtime,
     worlds::Pointer& pointer_;
     ComponentInfo component_;
     worlds::MachineFiles files_;
+    static inline int held_ = 0; ///< of the thread of the application, the only one with widgets
     int yieldDepth_ = 0;
     int openBoxes_ = 0;
     std::chrono::steady_clock::time_point lastYield_;

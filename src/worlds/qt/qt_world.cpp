@@ -177,6 +177,7 @@ bool QtWorld::claimFocus(const worlds::Pane* pane) {
 void QtWorld::focusCame(const worlds::Pane& pane) {
     if (claiming_)
         return;
+    const QtRuntime::HeldYields quiet;
     const worlds::Pane* last = tree_.find(focusedLast_);
     const bool goesOn = last != nullptr && !last->isBox() && !pane.isBox() && last->isWithin(pane);
     focus_.moveTo(goesOn ? *last : pane);
@@ -185,6 +186,7 @@ void QtWorld::focusCame(const worlds::Pane& pane) {
 void QtWorld::focusWent() {
     if (claiming_)
         return;
+    const QtRuntime::HeldYields quiet;
     const worlds::Pane* held = focus_.holder();
     const QWidget* widget = QApplication::focusWidget();
     if (held == nullptr || (widget != nullptr && widget == widgetOf(*held)))
