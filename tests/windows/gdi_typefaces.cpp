@@ -97,6 +97,29 @@ Long Typeface::width(StringView text, Long enough) {
     return static_cast<Long>(std::min<std::int64_t>(total, maximum));
 }
 
+// Every unit is a letter of its own here.
+
+StringView Typeface::firstPiece(StringView text) {
+    return text.substr(0, longestRun);
+}
+
+Beginning Typeface::beginning(StringView text, Long room) {
+    Beginning fitting;
+    for (const char16_t unit : text) {
+        const Long advance = implementation_->glyph(unit).advance;
+        if (fitting.width + advance > room)
+            break;
+        fitting.width += advance;
+        ++fitting.units;
+    }
+    return fitting;
+}
+
+Extent Typeface::extentOf(StringView text, std::size_t unit) {
+    const Long from = width(text.substr(0, unit));
+    return {from, from + implementation_->glyph(text[unit]).advance};
+}
+
 FontLibrary::FontLibrary(std::unique_ptr<Implementation> implementation)
     : implementation_(std::move(implementation)) {}
 FontLibrary::~FontLibrary() = default;
