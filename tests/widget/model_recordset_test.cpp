@@ -43,7 +43,7 @@ class QtModelRecordset : public ::testing::Test {
         model->setHorizontalHeaderLabels({QStringLiteral("City"), QStringLiteral("Country")});
         model->appendRow(
             {new QStandardItem(QStringLiteral("Lisbon")), new QStandardItem(QStringLiteral("Portugal"))});
-        model->appendRow({new QStandardItem(QStringLiteral("Oslo"))});
+        model->appendRow(new QStandardItem(QStringLiteral("Oslo")));
     }
 
     static Long failureOf(const std::function<void()>& work) {
