@@ -21,9 +21,9 @@ class ListReader {
     Long rows() const { return core_.records.RowsCount(); }
     Long columns() const { return core_.records.ColumnsCount(); }
     /// Cells of a row that columns stand over.
-    Long cells(Long row) const;
+    Long cells(Long number) const;
     bool hasHeaders() const { return !core_.properties.HideColumnHeaders && columns() > 0; }
-    bool hasCheckBox(Long column) const;
+    bool hasCheckBox(Long number) const;
     bool exists(const Element& element) const;
 
     RowRecord& row(Long row) const { return core_.records.rows()[static_cast<std::size_t>(row) - 1]; }

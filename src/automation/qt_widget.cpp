@@ -106,9 +106,9 @@ std::string defaultText(const Parameter& parameter) {
 
 /// The value of a parameter as an item of a QVariantList.
 std::string argumentText(const Parameter& parameter) {
-    const std::string name = toUtf8(parameter.name);
+    std::string name = toUtf8(parameter.name);
     if (parameter.type.code == TypeCode::variantList)
-        return name; // appended, see callText
+        return name;
     if (parameter.type.code == TypeCode::string && parameter.defaultValue.kind == DefaultValue::Kind::missing)
         return "unlessNull(" + name + ")";
     if (parameter.type.code == TypeCode::enumeration)
@@ -126,7 +126,7 @@ std::string argumentsText(const Member& member) {
         else
             list += (list.empty() ? "" : ", ") + argumentText(parameter);
     }
-    const std::string fixed = "{" + list + "}";
+    std::string fixed = "{" + list + "}";
     if (open.empty())
         return fixed;
     return list.empty() ? open : "QVariantList" + fixed + " + " + open;
@@ -280,8 +280,12 @@ std::string handlerText(const EventDescription& event, const std::string& declar
         std::string value = name;
         switch (argument.type.code) {
         case TypeCode::variant:
-            before += "        QVariant own" + name + " = toQVariant(" + name + ");\n";
-            after += "        takeBack(own" + name + ", " + name + ");\n";
+            before.append("        QVariant own")
+                .append(name)
+                .append(" = toQVariant(")
+                .append(name)
+                .append(");\n");
+            after.append("        takeBack(own").append(name).append(", ").append(name).append(");\n");
             value = "own" + name;
             break;
         case TypeCode::string:

@@ -59,11 +59,11 @@ void Sorter::forgetSort() {
 /// Looks at every row, so that each cell that cannot be read is reported.
 bool Sorter::anyTextInColumn(Long Column) {
     bool any = false;
-    constexpr Long ahead = 16;
+    constexpr std::size_t ahead = 16;
     const Long count = records_.RowsCount();
     for (Long row = 1; row <= count; ++row) {
         if (Column > 0)
-            records_.rows().prefetch(static_cast<std::size_t>(row + ahead),
+            records_.rows().prefetch(static_cast<std::size_t>(row) + ahead,
                                      static_cast<std::size_t>(Column) - 1);
         Items* const cells = row <= records_.RowsCount() ? records_.cellsOf(row, Column) : nullptr;
         if (cells != nullptr)

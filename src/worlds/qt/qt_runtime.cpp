@@ -59,7 +59,7 @@ bool QtRuntime::isQuitting() const {
 }
 
 void QtRuntime::DoEvents() {
-    if (held_ > 0 || yieldDepth_ == deepestYield || isQuitting())
+    if (held > 0 || yieldDepth_ == deepestYield || isQuitting())
         return;
     const worlds::NestingLevel level(yieldDepth_);
     for (int pass = 0; pass < mostPasses; ++pass) {

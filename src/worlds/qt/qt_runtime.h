@@ -43,10 +43,10 @@ class QtRuntime : public Runtime,
     /// widgets, and goes on with those that it had in hand.
     class HeldYields {
       public:
-        HeldYields() { ++held_; }
+        HeldYields() { ++held; }
         HeldYields(const HeldYields&) = delete;
         HeldYields& operator=(const HeldYields&) = delete;
-        ~HeldYields() { --held_; }
+        ~HeldYields() { --held; }
     };
 
     /// Does nothing once the application ends.
@@ -93,7 +93,7 @@ class QtRuntime : public Runtime,
     worlds::Pointer& pointer_;
     ComponentInfo component_;
     worlds::MachineFiles files_;
-    static inline int held_ = 0; ///< of the thread of the application, the only one with widgets
+    static inline int held = 0; ///< of the thread of the application, the only one with widgets
     int yieldDepth_ = 0;
     int openBoxes_ = 0;
     std::chrono::steady_clock::time_point lastYield_;
