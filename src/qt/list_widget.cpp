@@ -8,6 +8,7 @@
 #include "worlds/qt/qt_color.h"
 #include "worlds/qt/qt_text.h"
 
+#include <QPointer>
 #include <QResizeEvent>
 #include <utility>
 #include <vector>
@@ -79,11 +80,15 @@ void ListWidget::start(WorldFactory makeWorld, EventsFactory makeEvents) {
 void ListWidget::startAnew(const PropertyBag& settings, bool designed) {
     if (core_ != nullptr)
         core_->mute();
+    // What the settings set off may take the widget away.
+    const QPointer<ListWidget> self(this);
     const auto core = std::make_shared<ListCore>(*this, makeWorld_(*this), makeEvents_());
     core_ = core;
     core->world().owner = core;
     core->host().designed = designed;
     core->list().UserControl_ReadProperties(settings);
+    if (self == nullptr)
+        return;
     core->resize(size());
     setFocusProxy(core->screen());
 }

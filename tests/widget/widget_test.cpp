@@ -185,6 +185,14 @@ TEST_F(Widget, KeepsItsSettingsInADesigner) {
     EXPECT_EQ(widget->BackColor(), QColor(10, 20, 30));
 }
 
+TEST_F(Widget, MayBeDestroyedWhileItGoesOverToADesigner) {
+    widget->setBackColor(QColor(10, 20, 30));
+    const QPointer<LumtexListView> watched(widget.get());
+    QObject::connect(widget.get(), &LumtexListView::BackColorChanged, [&] { widget.reset(); });
+    watched->setDesignView(true);
+    EXPECT_EQ(watched, nullptr);
+}
+
 TEST_F(Widget, KeepsAFontAndAPicture) {
     QFont font(QStringLiteral("DejaVu Serif"));
     font.setPointSizeF(11.25);
