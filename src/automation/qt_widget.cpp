@@ -3,6 +3,7 @@
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
 #include "automation/generated_files.h"
+#include "automation/qt_types.h"
 #include "model/property_table.h"
 #include "values/text.h"
 
@@ -17,144 +18,6 @@ namespace {
 constexpr std::string_view madeBy =
     "Made from the tables in src/automation by scripts/reference; do not edit.";
 
-/// The type of a value, as Qt's own interfaces write it.
-std::string qtType(const TypeInfo& type) {
-    switch (type.code) {
-    case TypeCode::none:
-        return "void";
-    case TypeCode::boolean:
-        return "bool";
-    case TypeCode::integer:
-        return "short";
-    case TypeCode::longInteger:
-        return "int";
-    case TypeCode::single:
-        return "float";
-    case TypeCode::string:
-        return "QString";
-    case TypeCode::variant:
-        return "QVariant";
-    case TypeCode::color:
-        return "QColor";
-    case TypeCode::picture:
-        return "QPixmap";
-    case TypeCode::font:
-        return "QFont";
-    case TypeCode::object:
-        return "QObject*";
-    case TypeCode::variantList:
-        return "QVariantList";
-    case TypeCode::record:
-        return "QVariantMap";
-    case TypeCode::enumeration:
-        break;
-    }
-    return toUtf8(type.name);
-}
-
-bool isSmall(const TypeInfo& type) {
-    switch (type.code) {
-    case TypeCode::boolean:
-    case TypeCode::integer:
-    case TypeCode::longInteger:
-    case TypeCode::single:
-    case TypeCode::enumeration:
-    case TypeCode::object:
-    case TypeCode::color:
-        return true;
-    default:
-        return false;
-    }
-}
-
-/// "const QString& name" or "int name".
-std::string parameterText(const TypeInfo& type, std::string_view name) {
-    const std::string declared = isSmall(type) ? qtType(type) + " " : "const " + qtType(type) + "& ";
-    return declared + std::string(name);
-}
-
-std::string enumeratorOf(const TypeInfo& type, Double number) {
-    for (const Enumeration& enumeration : enumerationTable)
-        for (const Enumerator& enumerator : enumeration.enumerators())
-            if (enumeration.name == type.name && static_cast<Double>(enumerator.number) == number)
-                return toUtf8(enumerator.name);
-    return "{}";
-}
-
-/// " = 5", or nothing for a parameter that callers must give.
-std::string defaultText(const Parameter& parameter) {
-    const DefaultValue& value = parameter.defaultValue;
-    switch (value.kind) {
-    case DefaultValue::Kind::required:
-        return "";
-    case DefaultValue::Kind::boolean:
-        return value.number != 0 ? " = true" : " = false";
-    case DefaultValue::Kind::number:
-        if (parameter.type.code == TypeCode::enumeration)
-            return " = " + enumeratorOf(parameter.type, value.number);
-        if (parameter.type.code == TypeCode::color)
-            return " = QColor(0, 0, 0)";
-        return " = " + std::to_string(static_cast<Long>(value.number));
-    case DefaultValue::Kind::text:
-        return value.text.empty() ? " = QString()" : " = QStringLiteral(\"" + toUtf8(value.text) + "\")";
-    case DefaultValue::Kind::missing:
-    case DefaultValue::Kind::nothing:
-        break;
-    }
-    return " = {}";
-}
-
-/// The value of a parameter as an item of a QVariantList.
-std::string argumentText(const Parameter& parameter) {
-    std::string name = toUtf8(parameter.name);
-    if (parameter.type.code == TypeCode::variantList)
-        return name;
-    if (parameter.type.code == TypeCode::string && parameter.defaultValue.kind == DefaultValue::Kind::missing)
-        return "unlessNull(" + name + ")";
-    if (parameter.type.code == TypeCode::enumeration)
-        return "static_cast<int>(" + name + ")";
-    return "QVariant::fromValue(" + name + ")";
-}
-
-/// "{QVariant::fromValue(Row), ...}", an open list appended to the fixed arguments.
-std::string argumentsText(const Member& member) {
-    std::string list;
-    std::string open;
-    for (const Parameter& parameter : member.parameters()) {
-        if (parameter.type.code == TypeCode::variantList)
-            open = toUtf8(parameter.name);
-        else
-            list += (list.empty() ? "" : ", ") + argumentText(parameter);
-    }
-    std::string fixed = "{" + list + "}";
-    if (open.empty())
-        return fixed;
-    return list.empty() ? open : "QVariantList" + fixed + " + " + open;
-}
-
-enum class Defaults : Byte { written, leftOut };
-
-std::string parametersText(const Member& member, Defaults defaults) {
-    std::string text;
-    for (const Parameter& parameter : member.parameters())
-        text += (text.empty() ? "" : ", ") + parameterText(parameter.type, toUtf8(parameter.name)) +
-                (defaults == Defaults::written ? defaultText(parameter) : "");
-    return text;
-}
-
-std::string convertedResult(const TypeInfo& type, const std::string& value) {
-    switch (type.code) {
-    case TypeCode::none:
-        return value;
-    case TypeCode::variant:
-        return "return " + value;
-    case TypeCode::enumeration:
-        return "return static_cast<" + qtType(type) + ">(" + value + ".toInt())";
-    default:
-        return "return " + value + ".value<" + qtType(type) + ">()";
-    }
-}
-
 /// A property that reads and assigns one value, for the meta-object; others are pairs of functions.
 bool isPlainProperty(const Member& member) {
     return !member.isMethod() && member.count == 0;
@@ -166,20 +29,50 @@ bool isSetting(const Member& member) {
                       property_table::rows);
 }
 
-std::string setterName(const Member& member) {
-    return "set" + toUtf8(member.name);
+/// A property that is no member: the bag has it, and the widget.
+struct BagProperty {
+    StringView name;
+    TypeInfo type;
+    Help help;
+};
+
+template <class Row>
+void addIfBagOnly(std::vector<BagProperty>& properties, const Row& row) {
+    using Value = ValueOf<std::remove_cvref_t<decltype(std::declval<Properties&>().*row.field)>>;
+    if constexpr (std::is_null_pointer_v<decltype(row.get)>)
+        properties.push_back({row.name, typeOf<Value>(), row.help});
+}
+
+std::vector<BagProperty> bagProperties() {
+    std::vector<BagProperty> properties;
+    std::apply([&](const auto&... row) { (addIfBagOnly(properties, row), ...); }, property_table::rows);
+    return properties;
+}
+
+std::string setterName(StringView property) {
+    return "set" + toUtf8(property);
+}
+
+std::string settingAttributes(const std::string& name) {
+    return " RESET reset" + name + " NOTIFY " + name + "Changed";
 }
 
 std::string propertyText(const Member& member) {
     const std::string name = toUtf8(member.name);
     std::string text = "    Q_PROPERTY(" + qtType(member.type) + " " + name + " READ " + name;
     if (member.let != nullptr)
-        text += " WRITE " + setterName(member);
+        text += " WRITE " + setterName(member.name);
     if (isSetting(member))
-        text += " RESET reset" + name + " NOTIFY " + name + "Changed";
+        text += settingAttributes(name);
     else
         text += " DESIGNABLE false STORED false";
     return text + ")\n";
+}
+
+std::string propertyText(const BagProperty& property) {
+    const std::string name = toUtf8(property.name);
+    return "    Q_PROPERTY(" + qtType(property.type) + " " + name + " READ " + name + " WRITE " +
+           setterName(property.name) + settingAttributes(name) + ")\n";
 }
 
 std::string commentText(const Help& help) {
@@ -198,12 +91,24 @@ std::string declarationText(const Member& member) {
                 parametersText(member, Defaults::leftOut) + ") const;\n";
     if (member.let != nullptr) {
         const std::string others = parametersText(member, Defaults::leftOut);
-        text += "    " + std::string(member.count != 0 ? "Q_INVOKABLE " : "") + "void " + setterName(member) +
-                "(" + others + (others.empty() ? "" : ", ") + parameterText(member.type, "value") + ");\n";
+        text += "    " + std::string(member.count != 0 ? "Q_INVOKABLE " : "") + "void " +
+                setterName(member.name) + "(" + others + (others.empty() ? "" : ", ") +
+                parameterText(member.type, "value") + ");\n";
         if (isSetting(member))
             text += "    void reset" + name + "();\n";
     }
     return text;
+}
+
+std::string declarationText(const BagProperty& property) {
+    const std::string name = toUtf8(property.name);
+    return commentText(property.help) + "    " + qtType(property.type) + " " + name + "() const;\n    void " +
+           setterName(property.name) + "(" + parameterText(property.type, "value") + ");\n    void reset" +
+           name + "();\n";
+}
+
+std::string resetDefinition(const std::string& name) {
+    return "void LumtexListView::reset" + name + "() {\n    reset(u\"" + name + "\");\n}\n";
 }
 
 std::string definitionText(const Member& member) {
@@ -225,13 +130,23 @@ std::string definitionText(const Member& member) {
         const std::string value = member.type.code == TypeCode::enumeration ? "static_cast<int>(value)"
                                   : member.type.code == TypeCode::variant   ? "value"
                                                                             : "QVariant::fromValue(value)";
-        text += "void LumtexListView::" + setterName(member) + "(" + others + (others.empty() ? "" : ", ") +
-                parameterText(member.type, "value") + ") {\n    assign(" + number + ", " +
-                (member.count != 0 ? arguments : "{}") + ", " + value + ");\n}\n";
+        text += "void LumtexListView::" + setterName(member.name) + "(" + others +
+                (others.empty() ? "" : ", ") + parameterText(member.type, "value") + ") {\n    assign(" +
+                number + ", " + (member.count != 0 ? arguments : "{}") + ", " + value + ");\n}\n";
         if (isSetting(member))
-            text += "void LumtexListView::reset" + name + "() {\n    reset(" + number + ");\n}\n";
+            text += resetDefinition(name);
     }
     return text;
+}
+
+std::string definitionText(const BagProperty& property) {
+    const std::string name = toUtf8(property.name);
+    const std::string key = "(u\"" + name + "\"";
+    return qtType(property.type) + " LumtexListView::" + name + "() const {\n    " +
+           convertedResult(property.type, "setting" + key + ")") +
+           ";\n}\nvoid LumtexListView::" + setterName(property.name) + "(" +
+           parameterText(property.type, "value") + ") {\n    letSetting" + key +
+           ", QVariant::fromValue(value));\n}\n" + resetDefinition(name);
 }
 
 /// The enumerations that members of the list name.
@@ -353,6 +268,8 @@ std::string qtWidgetHeader() {
     for (const Member& member : members)
         if (isPlainProperty(member))
             text += propertyText(member);
+    for (const BagProperty& property : bagProperties())
+        text += propertyText(property);
     text += "\n  public:\n";
     const std::set<StringView> used = usedEnumerations(members);
     for (const Enumeration& enumeration : enumerationTable)
@@ -364,12 +281,16 @@ std::string qtWidgetHeader() {
             "    using QWidget::setStyle; // beside the list's own one\n\n";
     for (const Member& member : members)
         text += declarationText(member);
+    for (const BagProperty& property : bagProperties())
+        text += declarationText(property);
     text += "\n  Q_SIGNALS:\n";
     for (const EventDescription& event : eventTable)
         text += signalText(event);
     for (const Member& member : members)
         if (isSetting(member))
             text += "    void " + toUtf8(member.name) + "Changed();\n";
+    for (const BagProperty& property : bagProperties())
+        text += "    void " + toUtf8(property.name) + "Changed();\n";
     return text + "};\n";
 }
 
@@ -396,6 +317,8 @@ std::string qtWidgetSource() {
         "LumtexListView::~LumtexListView() {\n    finish();\n}\n\n";
     for (const Member& member : members)
         text += definitionText(member);
+    for (const BagProperty& property : bagProperties())
+        text += definitionText(property);
     return text;
 }
 

@@ -42,8 +42,6 @@ class lmListView final : public ListViewRecords, public UserControl {
 
     /// A new instance without saved state. Paints nothing; the first resize does.
     void UserControl_InitProperties();
-    /// Assigns what the property with this dispatch number is in a new list; nothing if there is none.
-    void resetProperty(Long number);
     /// A saved instance, or a new one that starts in its full idle state: an empty bag gives the same values.
     /// The list is empty afterwards.
     void UserControl_ReadProperties(const PropertyBag& bag);
@@ -226,6 +224,7 @@ class lmListView final : public ListViewRecords, public UserControl {
 
   private:
     friend class ListViewInspector; ///< how tests look inside
+    friend class SettingsByKey;
 
     void takeContainersFont();
     void recogniseProgram();

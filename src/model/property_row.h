@@ -10,6 +10,15 @@
 
 namespace lumtex {
 
+/// Under what property windows of designers list a property.
+enum class Group : Byte {
+    appearance,
+    behaviour,
+    columns,
+    scrollBars, ///< and the wheel
+    data,       ///< what the user may do to the content, and what is dragged in and out
+};
+
 /// What follows once the value of a property is stored and the host was told.
 enum class After : Byte {
     store,             ///< nothing
@@ -47,7 +56,8 @@ template <class Get, class Let, class Field>
 struct PropertyRow {
     StringView name;
     Long number; ///< the dispatch number; it never changes once a version has been given out
-    Get get;     ///< null for a property that the bag alone reaches
+    Group group;
+    Get get; ///< null for a property that the bag alone reaches
     Let let;
     Field Properties::*field;
     After after;
@@ -65,18 +75,18 @@ constexpr bool checksForRedraw(After after) {
 }
 
 template <class Get, class Let, class Field>
-PropertyRow(StringView, Long, Get, Let, Field Properties::*, After, Start, Help)
+PropertyRow(StringView, Long, Group, Get, Let, Field Properties::*, After, Start, Help)
     -> PropertyRow<Get, Let, Field>;
 
 namespace property_table {
 
 template <auto get, auto let, auto field>
-constexpr auto row(StringView name, Long number, After after, Start start, Help help) {
-    return PropertyRow{name, number, get, let, field, after, start, help};
+constexpr auto row(StringView name, Long number, Group group, After after, Start start, Help help) {
+    return PropertyRow{name, number, group, get, let, field, after, start, help};
 }
 template <auto field>
-constexpr auto bagOnly(StringView name, After after, Start start) {
-    return PropertyRow{name, 0, nullptr, nullptr, field, after, start, {}};
+constexpr auto bagOnly(StringView name, Group group, After after, Start start, Help help) {
+    return PropertyRow{name, 0, group, nullptr, nullptr, field, after, start, help};
 }
 constexpr Start shortNumber(int number) {
     Start start(number);

@@ -44,8 +44,8 @@ void ListCore::resize(QSize size) {
     list_.window().place(0, 0, pixels(size.width()), pixels(size.height()));
 }
 
-Variant ListCore::entered(const automation::Member& member, const std::function<Variant()>& work) {
-    Procedure p(world_->runtime(), member.name, ModuleKind::control, u"LumtexListView");
+Variant ListCore::entered(StringView member, const std::function<Variant()>& work) {
+    Procedure p(world_->runtime(), member, ModuleKind::control, u"LumtexListView");
     return p.value<Variant>(work);
 }
 

@@ -2,7 +2,6 @@
 /// The list of a widget with its host, its world and its events.
 #pragma once
 
-#include "automation/call_by_name.h"
 #include "model/list_view.h"
 #include "platform/host.h"
 #include "qt/widget_events.h"
@@ -48,8 +47,8 @@ class ListCore {
     /// Units of widgets.
     void resize(QSize size);
 
-    /// Runs `work`, which may throw what a conversion throws: that is reported under the member's name.
-    Variant entered(const automation::Member& member, const std::function<Variant()>& work);
+    /// Runs `work`, which may throw what a conversion throws: that is reported under the name of the member.
+    Variant entered(StringView member, const std::function<Variant()>& work);
 
   private:
     WidgetHost host_;

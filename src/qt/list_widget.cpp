@@ -1,7 +1,9 @@
 #include "qt/list_widget.h"
 
+#include "automation/call_by_name.h"
 #include "automation/record_table.h"
 #include "guards/error.h"
+#include "persistence/settings_by_key.h"
 #include "platform/property_bag.h"
 #include "qt/list_core.h"
 #include "qt/qt_values.h"
@@ -56,9 +58,9 @@ const Member& memberOf(int number) {
 }
 
 /// The list keeps quiet about one of its properties; a signal that never comes would be none.
-void tellOf(ListCore& core, const Member& member, int toldBefore) {
+void tellOf(ListCore& core, StringView property, int toldBefore) {
     if (core.host().told() == toldBefore)
-        core.host().PropertyChanged(member.name);
+        core.host().PropertyChanged(property);
 }
 
 } // namespace
@@ -144,7 +146,7 @@ void ListWidget::resizeEvent(QResizeEvent* event) {
 QVariant ListWidget::get(int number, const QVariantList& arguments) const {
     const std::shared_ptr<ListCore> core = core_;
     const Member& member = memberOf(number);
-    return resultFrom(member, core->entered(member, [&] {
+    return resultFrom(member, core->entered(member.name, [&] {
         std::vector<Variant> values = argumentsFrom(arguments);
         return CallByName(core->list()).get(member, values);
     }));
@@ -154,7 +156,7 @@ void ListWidget::assign(int number, const QVariantList& arguments, const QVarian
     const std::shared_ptr<ListCore> core = core_;
     const Member& member = memberOf(number);
     const int told = core->host().told();
-    core->entered(member, [&]() -> Variant {
+    core->entered(member.name, [&]() -> Variant {
         std::vector<Variant> values = argumentsFrom(arguments);
         CallByName byName(core->list());
         if (member.isReference())
@@ -163,23 +165,35 @@ void ListWidget::assign(int number, const QVariantList& arguments, const QVarian
             byName.let(member, values, fromQVariant(value));
         return {};
     });
-    tellOf(*core, member, told);
+    tellOf(*core, member.name, told);
 }
 
 QVariant ListWidget::call(int number, const QVariantList& arguments) {
     const std::shared_ptr<ListCore> core = core_;
     const Member& member = memberOf(number);
-    return resultFrom(member, core->entered(member, [&] {
+    return resultFrom(member, core->entered(member.name, [&] {
         std::vector<Variant> values = argumentsFrom(arguments);
         return CallByName(core->list()).call(member, values);
     }));
 }
 
-void ListWidget::reset(int number) {
+QVariant ListWidget::setting(std::u16string_view key) const {
+    return toQVariant(SettingsByKey(core_->list()).value(key));
+}
+
+void ListWidget::letSetting(std::u16string_view key, const QVariant& value) {
+    const std::shared_ptr<ListCore> core = core_;
+    core->entered(key, [&]() -> Variant {
+        SettingsByKey(core->list()).let(key, fromQVariant(value));
+        return {};
+    });
+}
+
+void ListWidget::reset(std::u16string_view key) {
     const std::shared_ptr<ListCore> core = core_;
     const int told = core->host().told();
-    core->list().resetProperty(Long{number});
-    tellOf(*core, memberOf(number), told);
+    SettingsByKey(core->list()).reset(key);
+    tellOf(*core, key, told);
 }
 
 QVariant ListWidget::unlessNull(const QString& text) {

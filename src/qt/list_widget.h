@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 namespace lumtex {
 class lmListView;
@@ -62,8 +63,13 @@ class ListWidget : public QWidget {
     QVariant get(int number, const QVariantList& arguments = {}) const;
     void assign(int number, const QVariantList& arguments, const QVariant& value);
     QVariant call(int number, const QVariantList& arguments = {});
-    /// Gives a property the value that it has in a new list.
-    void reset(int number);
+
+    // Settings by their keys, which are the names of the properties.
+
+    QVariant setting(std::u16string_view key) const;
+    void letSetting(std::u16string_view key, const QVariant& value);
+    /// Gives the property the value that it has in a new list.
+    void reset(std::u16string_view key);
 
     /// Nothing, which stands for an argument that was left out, for a null text.
     static QVariant unlessNull(const QString& text);

@@ -282,7 +282,7 @@ void LumtexListView::setDefaultItemFont(const QFont& value) {
     assign(100, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetDefaultItemFont() {
-    reset(100);
+    reset(u"DefaultItemFont");
 }
 QColor LumtexListView::DefaultItemForeColor() const {
     return get(101).value<QColor>();
@@ -291,7 +291,7 @@ void LumtexListView::setDefaultItemForeColor(QColor value) {
     assign(101, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetDefaultItemForeColor() {
-    reset(101);
+    reset(u"DefaultItemForeColor");
 }
 QColor LumtexListView::BackColor() const {
     return get(102).value<QColor>();
@@ -300,7 +300,7 @@ void LumtexListView::setBackColor(QColor value) {
     assign(102, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetBackColor() {
-    reset(102);
+    reset(u"BackColor");
 }
 QColor LumtexListView::BackColorDisabled() const {
     return get(103).value<QColor>();
@@ -309,7 +309,7 @@ void LumtexListView::setBackColorDisabled(QColor value) {
     assign(103, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetBackColorDisabled() {
-    reset(103);
+    reset(u"BackColorDisabled");
 }
 bool LumtexListView::Enabled() const {
     return get(104).value<bool>();
@@ -318,7 +318,7 @@ void LumtexListView::setEnabled(bool value) {
     assign(104, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetEnabled() {
-    reset(104);
+    reset(u"Enabled");
 }
 bool LumtexListView::ClickOnIndexChange() const {
     return get(105).value<bool>();
@@ -327,7 +327,7 @@ void LumtexListView::setClickOnIndexChange(bool value) {
     assign(105, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetClickOnIndexChange() {
-    reset(105);
+    reset(u"ClickOnIndexChange");
 }
 LumtexListView::cColorStyle LumtexListView::ColorStyle() const {
     return static_cast<cColorStyle>(get(106).toInt());
@@ -336,7 +336,7 @@ void LumtexListView::setColorStyle(cColorStyle value) {
     assign(106, {}, static_cast<int>(value));
 }
 void LumtexListView::resetColorStyle() {
-    reset(106);
+    reset(u"ColorStyle");
 }
 QColor LumtexListView::BorderColor() const {
     return get(107).value<QColor>();
@@ -345,7 +345,7 @@ void LumtexListView::setBorderColor(QColor value) {
     assign(107, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetBorderColor() {
-    reset(107);
+    reset(u"BorderColor");
 }
 LumtexListView::cListViewStyle LumtexListView::Style() const {
     return static_cast<cListViewStyle>(get(108).toInt());
@@ -354,7 +354,7 @@ void LumtexListView::setStyle(cListViewStyle value) {
     assign(108, {}, static_cast<int>(value));
 }
 void LumtexListView::resetStyle() {
-    reset(108);
+    reset(u"Style");
 }
 bool LumtexListView::FullRowSelect() const {
     return get(109).value<bool>();
@@ -363,7 +363,7 @@ void LumtexListView::setFullRowSelect(bool value) {
     assign(109, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetFullRowSelect() {
-    reset(109);
+    reset(u"FullRowSelect");
 }
 bool LumtexListView::AllowEdit() const {
     return get(110).value<bool>();
@@ -372,7 +372,7 @@ void LumtexListView::setAllowEdit(bool value) {
     assign(110, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetAllowEdit() {
-    reset(110);
+    reset(u"AllowEdit");
 }
 QColor LumtexListView::ValueColor() const {
     return get(111).value<QColor>();
@@ -381,7 +381,7 @@ void LumtexListView::setValueColor(QColor value) {
     assign(111, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetValueColor() {
-    reset(111);
+    reset(u"ValueColor");
 }
 bool LumtexListView::BorderVisible() const {
     return get(112).value<bool>();
@@ -390,7 +390,7 @@ void LumtexListView::setBorderVisible(bool value) {
     assign(112, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetBorderVisible() {
-    reset(112);
+    reset(u"BorderVisible");
 }
 float LumtexListView::IndentTop() const {
     return get(113).value<float>();
@@ -399,7 +399,7 @@ void LumtexListView::setIndentTop(float value) {
     assign(113, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIndentTop() {
-    reset(113);
+    reset(u"IndentTop");
 }
 float LumtexListView::IndentLeft() const {
     return get(114).value<float>();
@@ -408,7 +408,7 @@ void LumtexListView::setIndentLeft(float value) {
     assign(114, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIndentLeft() {
-    reset(114);
+    reset(u"IndentLeft");
 }
 float LumtexListView::IndentRight() const {
     return get(115).value<float>();
@@ -417,7 +417,7 @@ void LumtexListView::setIndentRight(float value) {
     assign(115, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIndentRight() {
-    reset(115);
+    reset(u"IndentRight");
 }
 float LumtexListView::IndentBottom() const {
     return get(116).value<float>();
@@ -426,7 +426,7 @@ void LumtexListView::setIndentBottom(float value) {
     assign(116, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIndentBottom() {
-    reset(116);
+    reset(u"IndentBottom");
 }
 float LumtexListView::DistPicText() const {
     return get(117).value<float>();
@@ -435,7 +435,7 @@ void LumtexListView::setDistPicText(float value) {
     assign(117, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetDistPicText() {
-    reset(117);
+    reset(u"DistPicText");
 }
 bool LumtexListView::AutoCheckScroll() const {
     return get(118).value<bool>();
@@ -444,7 +444,7 @@ void LumtexListView::setAutoCheckScroll(bool value) {
     assign(118, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetAutoCheckScroll() {
-    reset(118);
+    reset(u"AutoCheckScroll");
 }
 bool LumtexListView::AutoRedraw() const {
     return get(119).value<bool>();
@@ -453,7 +453,7 @@ void LumtexListView::setAutoRedraw(bool value) {
     assign(119, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetAutoRedraw() {
-    reset(119);
+    reset(u"AutoRedraw");
 }
 bool LumtexListView::IconSelect() const {
     return get(120).value<bool>();
@@ -462,7 +462,7 @@ void LumtexListView::setIconSelect(bool value) {
     assign(120, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIconSelect() {
-    reset(120);
+    reset(u"IconSelect");
 }
 float LumtexListView::IconW() const {
     return get(121).value<float>();
@@ -471,7 +471,7 @@ void LumtexListView::setIconW(float value) {
     assign(121, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIconW() {
-    reset(121);
+    reset(u"IconW");
 }
 float LumtexListView::IconH() const {
     return get(122).value<float>();
@@ -480,7 +480,7 @@ void LumtexListView::setIconH(float value) {
     assign(122, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIconH() {
-    reset(122);
+    reset(u"IconH");
 }
 float LumtexListView::ColumnIconW() const {
     return get(123).value<float>();
@@ -489,7 +489,7 @@ void LumtexListView::setColumnIconW(float value) {
     assign(123, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetColumnIconW() {
-    reset(123);
+    reset(u"ColumnIconW");
 }
 float LumtexListView::ColumnIconH() const {
     return get(124).value<float>();
@@ -498,7 +498,7 @@ void LumtexListView::setColumnIconH(float value) {
     assign(124, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetColumnIconH() {
-    reset(124);
+    reset(u"ColumnIconH");
 }
 LumtexListView::cScrollColorStyle LumtexListView::ScrollColorStyle() const {
     return static_cast<cScrollColorStyle>(get(125).toInt());
@@ -507,7 +507,7 @@ void LumtexListView::setScrollColorStyle(cScrollColorStyle value) {
     assign(125, {}, static_cast<int>(value));
 }
 void LumtexListView::resetScrollColorStyle() {
-    reset(125);
+    reset(u"ScrollColorStyle");
 }
 bool LumtexListView::GridLines() const {
     return get(126).value<bool>();
@@ -516,7 +516,7 @@ void LumtexListView::setGridLines(bool value) {
     assign(126, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetGridLines() {
-    reset(126);
+    reset(u"GridLines");
 }
 QColor LumtexListView::GridLineColor() const {
     return get(127).value<QColor>();
@@ -525,7 +525,7 @@ void LumtexListView::setGridLineColor(QColor value) {
     assign(127, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetGridLineColor() {
-    reset(127);
+    reset(u"GridLineColor");
 }
 bool LumtexListView::MultiSelect() const {
     return get(128).value<bool>();
@@ -534,7 +534,7 @@ void LumtexListView::setMultiSelect(bool value) {
     assign(128, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetMultiSelect() {
-    reset(128);
+    reset(u"MultiSelect");
 }
 bool LumtexListView::HideColumnHeaders() const {
     return get(129).value<bool>();
@@ -543,7 +543,7 @@ void LumtexListView::setHideColumnHeaders(bool value) {
     assign(129, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetHideColumnHeaders() {
-    reset(129);
+    reset(u"HideColumnHeaders");
 }
 int LumtexListView::ColumnTextY() const {
     return get(130).value<int>();
@@ -552,7 +552,7 @@ void LumtexListView::setColumnTextY(int value) {
     assign(130, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetColumnTextY() {
-    reset(130);
+    reset(u"ColumnTextY");
 }
 bool LumtexListView::MoveColumnTextAtDown() const {
     return get(131).value<bool>();
@@ -561,7 +561,7 @@ void LumtexListView::setMoveColumnTextAtDown(bool value) {
     assign(131, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetMoveColumnTextAtDown() {
-    reset(131);
+    reset(u"MoveColumnTextAtDown");
 }
 QFont LumtexListView::DefaultColumnFont() const {
     return get(132).value<QFont>();
@@ -570,7 +570,7 @@ void LumtexListView::setDefaultColumnFont(const QFont& value) {
     assign(132, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetDefaultColumnFont() {
-    reset(132);
+    reset(u"DefaultColumnFont");
 }
 QColor LumtexListView::DefaultColumnForeColor() const {
     return get(133).value<QColor>();
@@ -579,7 +579,7 @@ void LumtexListView::setDefaultColumnForeColor(QColor value) {
     assign(133, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetDefaultColumnForeColor() {
-    reset(133);
+    reset(u"DefaultColumnForeColor");
 }
 float LumtexListView::EmptyColumnFieldWidth() const {
     return get(134).value<float>();
@@ -588,7 +588,7 @@ void LumtexListView::setEmptyColumnFieldWidth(float value) {
     assign(134, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetEmptyColumnFieldWidth() {
-    reset(134);
+    reset(u"EmptyColumnFieldWidth");
 }
 QColor LumtexListView::ColumnBackColor() const {
     return get(135).value<QColor>();
@@ -597,7 +597,7 @@ void LumtexListView::setColumnBackColor(QColor value) {
     assign(135, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetColumnBackColor() {
-    reset(135);
+    reset(u"ColumnBackColor");
 }
 QColor LumtexListView::ColumnHoverColor() const {
     return get(136).value<QColor>();
@@ -606,7 +606,7 @@ void LumtexListView::setColumnHoverColor(QColor value) {
     assign(136, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetColumnHoverColor() {
-    reset(136);
+    reset(u"ColumnHoverColor");
 }
 QColor LumtexListView::ColumnDownColor() const {
     return get(137).value<QColor>();
@@ -615,7 +615,7 @@ void LumtexListView::setColumnDownColor(QColor value) {
     assign(137, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetColumnDownColor() {
-    reset(137);
+    reset(u"ColumnDownColor");
 }
 bool LumtexListView::RowsDynamic() const {
     return get(138).value<bool>();
@@ -624,7 +624,7 @@ void LumtexListView::setRowsDynamic(bool value) {
     assign(138, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetRowsDynamic() {
-    reset(138);
+    reset(u"RowsDynamic");
 }
 float LumtexListView::RowHeight() const {
     return get(139).value<float>();
@@ -633,7 +633,7 @@ void LumtexListView::setRowHeight(float value) {
     assign(139, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetRowHeight() {
-    reset(139);
+    reset(u"RowHeight");
 }
 QColor LumtexListView::ScrollBackColor() const {
     return get(140).value<QColor>();
@@ -642,7 +642,7 @@ void LumtexListView::setScrollBackColor(QColor value) {
     assign(140, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollBackColor() {
-    reset(140);
+    reset(u"ScrollBackColor");
 }
 QColor LumtexListView::ScrollArrows() const {
     return get(141).value<QColor>();
@@ -651,7 +651,7 @@ void LumtexListView::setScrollArrows(QColor value) {
     assign(141, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollArrows() {
-    reset(141);
+    reset(u"ScrollArrows");
 }
 QColor LumtexListView::ScrollButtons() const {
     return get(142).value<QColor>();
@@ -660,7 +660,7 @@ void LumtexListView::setScrollButtons(QColor value) {
     assign(142, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollButtons() {
-    reset(142);
+    reset(u"ScrollButtons");
 }
 QColor LumtexListView::ScrollBar() const {
     return get(143).value<QColor>();
@@ -669,7 +669,7 @@ void LumtexListView::setScrollBar(QColor value) {
     assign(143, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollBar() {
-    reset(143);
+    reset(u"ScrollBar");
 }
 QColor LumtexListView::ScrollArrowsDown() const {
     return get(144).value<QColor>();
@@ -678,7 +678,7 @@ void LumtexListView::setScrollArrowsDown(QColor value) {
     assign(144, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollArrowsDown() {
-    reset(144);
+    reset(u"ScrollArrowsDown");
 }
 QColor LumtexListView::ScrollButtonsDown() const {
     return get(145).value<QColor>();
@@ -687,7 +687,7 @@ void LumtexListView::setScrollButtonsDown(QColor value) {
     assign(145, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollButtonsDown() {
-    reset(145);
+    reset(u"ScrollButtonsDown");
 }
 QColor LumtexListView::ScrollBarDown() const {
     return get(146).value<QColor>();
@@ -696,7 +696,7 @@ void LumtexListView::setScrollBarDown(QColor value) {
     assign(146, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollBarDown() {
-    reset(146);
+    reset(u"ScrollBarDown");
 }
 QColor LumtexListView::ScrollArrowsHover() const {
     return get(147).value<QColor>();
@@ -705,7 +705,7 @@ void LumtexListView::setScrollArrowsHover(QColor value) {
     assign(147, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollArrowsHover() {
-    reset(147);
+    reset(u"ScrollArrowsHover");
 }
 QColor LumtexListView::ScrollButtonsHover() const {
     return get(148).value<QColor>();
@@ -714,7 +714,7 @@ void LumtexListView::setScrollButtonsHover(QColor value) {
     assign(148, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollButtonsHover() {
-    reset(148);
+    reset(u"ScrollButtonsHover");
 }
 QColor LumtexListView::ScrollBarHover() const {
     return get(149).value<QColor>();
@@ -723,7 +723,7 @@ void LumtexListView::setScrollBarHover(QColor value) {
     assign(149, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollBarHover() {
-    reset(149);
+    reset(u"ScrollBarHover");
 }
 QColor LumtexListView::EmptyColumnFieldColor() const {
     return get(150).value<QColor>();
@@ -732,7 +732,7 @@ void LumtexListView::setEmptyColumnFieldColor(QColor value) {
     assign(150, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetEmptyColumnFieldColor() {
-    reset(150);
+    reset(u"EmptyColumnFieldColor");
 }
 LumtexListView::cWheelFunction LumtexListView::WheelFunction() const {
     return static_cast<cWheelFunction>(get(151).toInt());
@@ -741,7 +741,7 @@ void LumtexListView::setWheelFunction(cWheelFunction value) {
     assign(151, {}, static_cast<int>(value));
 }
 void LumtexListView::resetWheelFunction() {
-    reset(151);
+    reset(u"WheelFunction");
 }
 int LumtexListView::WheelScrollLines() const {
     return get(152).value<int>();
@@ -750,7 +750,7 @@ void LumtexListView::setWheelScrollLines(int value) {
     assign(152, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetWheelScrollLines() {
-    reset(152);
+    reset(u"WheelScrollLines");
 }
 bool LumtexListView::DefaultIconSelectedIsIcon() const {
     return get(153).value<bool>();
@@ -759,7 +759,7 @@ void LumtexListView::setDefaultIconSelectedIsIcon(bool value) {
     assign(153, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetDefaultIconSelectedIsIcon() {
-    reset(153);
+    reset(u"DefaultIconSelectedIsIcon");
 }
 int LumtexListView::ScrollButtonJumpLines() const {
     return get(154).value<int>();
@@ -768,7 +768,7 @@ void LumtexListView::setScrollButtonJumpLines(int value) {
     assign(154, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetScrollButtonJumpLines() {
-    reset(154);
+    reset(u"ScrollButtonJumpLines");
 }
 LumtexListView::cTextPosition LumtexListView::TextPositionDefault() const {
     return static_cast<cTextPosition>(get(155).toInt());
@@ -777,7 +777,7 @@ void LumtexListView::setTextPositionDefault(cTextPosition value) {
     assign(155, {}, static_cast<int>(value));
 }
 void LumtexListView::resetTextPositionDefault() {
-    reset(155);
+    reset(u"TextPositionDefault");
 }
 bool LumtexListView::DrawItemIcons() const {
     return get(156).value<bool>();
@@ -786,7 +786,7 @@ void LumtexListView::setDrawItemIcons(bool value) {
     assign(156, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetDrawItemIcons() {
-    reset(156);
+    reset(u"DrawItemIcons");
 }
 bool LumtexListView::DrawColumnIcons() const {
     return get(157).value<bool>();
@@ -795,7 +795,7 @@ void LumtexListView::setDrawColumnIcons(bool value) {
     assign(157, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetDrawColumnIcons() {
-    reset(157);
+    reset(u"DrawColumnIcons");
 }
 QPixmap LumtexListView::BackgroundPicture() const {
     return get(158).value<QPixmap>();
@@ -804,7 +804,7 @@ void LumtexListView::setBackgroundPicture(const QPixmap& value) {
     assign(158, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetBackgroundPicture() {
-    reset(158);
+    reset(u"BackgroundPicture");
 }
 QPixmap LumtexListView::Skin() const {
     return get(159).value<QPixmap>();
@@ -813,7 +813,7 @@ void LumtexListView::setSkin(const QPixmap& value) {
     assign(159, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetSkin() {
-    reset(159);
+    reset(u"Skin");
 }
 bool LumtexListView::FixColumns() const {
     return get(160).value<bool>();
@@ -822,7 +822,7 @@ void LumtexListView::setFixColumns(bool value) {
     assign(160, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetFixColumns() {
-    reset(160);
+    reset(u"FixColumns");
 }
 bool LumtexListView::CheckMouseOver() const {
     return get(161).value<bool>();
@@ -831,7 +831,7 @@ void LumtexListView::setCheckMouseOver(bool value) {
     assign(161, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetCheckMouseOver() {
-    reset(161);
+    reset(u"CheckMouseOver");
 }
 int LumtexListView::OLEDragMode() const {
     return get(162).value<int>();
@@ -840,7 +840,7 @@ void LumtexListView::setOLEDragMode(int value) {
     assign(162, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetOLEDragMode() {
-    reset(162);
+    reset(u"OLEDragMode");
 }
 int LumtexListView::OLEDropMode() const {
     return get(163).value<int>();
@@ -849,7 +849,7 @@ void LumtexListView::setOLEDropMode(int value) {
     assign(163, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetOLEDropMode() {
-    reset(163);
+    reset(u"OLEDropMode");
 }
 bool LumtexListView::AutoRowColor() const {
     return get(164).value<bool>();
@@ -858,7 +858,7 @@ void LumtexListView::setAutoRowColor(bool value) {
     assign(164, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetAutoRowColor() {
-    reset(164);
+    reset(u"AutoRowColor");
 }
 QColor LumtexListView::RowColorFirst() const {
     return get(165).value<QColor>();
@@ -867,7 +867,7 @@ void LumtexListView::setRowColorFirst(QColor value) {
     assign(165, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetRowColorFirst() {
-    reset(165);
+    reset(u"RowColorFirst");
 }
 QColor LumtexListView::RowColorSecond() const {
     return get(166).value<QColor>();
@@ -876,7 +876,7 @@ void LumtexListView::setRowColorSecond(QColor value) {
     assign(166, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetRowColorSecond() {
-    reset(166);
+    reset(u"RowColorSecond");
 }
 bool LumtexListView::HideSelection() const {
     return get(167).value<bool>();
@@ -885,7 +885,7 @@ void LumtexListView::setHideSelection(bool value) {
     assign(167, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetHideSelection() {
-    reset(167);
+    reset(u"HideSelection");
 }
 QObject* LumtexListView::Recordset() const {
     return get(168).value<QObject*>();
@@ -1165,4 +1165,13 @@ void LumtexListView::setItemObject(const QVariant& Row, const QVariant& Column, 
 }
 int LumtexListView::ItemsCheckedCount(int Column) {
     return call(424, {QVariant::fromValue(Column)}).value<int>();
+}
+bool LumtexListView::AllowItemMoving() const {
+    return setting(u"AllowItemMoving").value<bool>();
+}
+void LumtexListView::setAllowItemMoving(bool value) {
+    letSetting(u"AllowItemMoving", QVariant::fromValue(value));
+}
+void LumtexListView::resetAllowItemMoving() {
+    reset(u"AllowItemMoving");
 }

@@ -89,6 +89,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     Q_PROPERTY(QColor RowColorSecond READ RowColorSecond WRITE setRowColorSecond RESET resetRowColorSecond NOTIFY RowColorSecondChanged)
     Q_PROPERTY(bool HideSelection READ HideSelection WRITE setHideSelection RESET resetHideSelection NOTIFY HideSelectionChanged)
     Q_PROPERTY(QObject* Recordset READ Recordset WRITE setRecordset DESIGNABLE false STORED false)
+    Q_PROPERTY(bool AllowItemMoving READ AllowItemMoving WRITE setAllowItemMoving RESET resetAllowItemMoving NOTIFY AllowItemMovingChanged)
 
   public:
     /// Scheme of headers, selection and border.
@@ -651,6 +652,10 @@ class LumtexListView : public lumtex::qt::ListWidget {
     Q_INVOKABLE void setItemObject(const QVariant& Row, const QVariant& Column, QObject* value);
     /// Checked cells of a column; of all columns for a number that no column has.
     Q_INVOKABLE int ItemsCheckedCount(int Column = 0);
+    /// Whether the user drags the current row to another place, instead of selecting rows.
+    bool AllowItemMoving() const;
+    void setAllowItemMoving(bool value);
+    void resetAllowItemMoving();
 
   Q_SIGNALS:
     /// The list was clicked, or, with ClickOnIndexChange, its current row is about to change.
@@ -775,4 +780,5 @@ class LumtexListView : public lumtex::qt::ListWidget {
     void RowColorFirstChanged();
     void RowColorSecondChanged();
     void HideSelectionChanged();
+    void AllowItemMovingChanged();
 };

@@ -3,6 +3,7 @@
 #include "automation/class_table.h"
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
+#include "model/property_table.h"
 #include "widget_fixture.h"
 
 #include <QColor>
@@ -97,6 +98,17 @@ TEST(MetaObject, EachEnumerationOfAPropertyHasItsNames) {
         }
     }
     EXPECT_GT(compared, 20);
+}
+
+TEST(MetaObject, EachPropertyOfTheBagIsASettingThatCanBeTakenBackAndTellsOfItself) {
+    forEachProperty<readingOrder>([](const auto& row) {
+        const std::string name = toUtf8(row.name);
+        const int index = meta().indexOfProperty(name.c_str());
+        ASSERT_GE(index, meta().propertyOffset()) << name;
+        const QMetaProperty property = meta().property(index);
+        EXPECT_TRUE(property.isReadable() && property.isWritable() && property.isStored()) << name;
+        EXPECT_TRUE(property.isResettable() && property.hasNotifySignal()) << name;
+    });
 }
 
 // Settings
