@@ -78,7 +78,7 @@ std::string qtType(const TypeInfo& type) {
     case TypeCode::longInteger:
         return "int";
     case TypeCode::single:
-        return "float";
+        return "double"; // designers know of no other
     case TypeCode::string:
         return "QString";
     case TypeCode::variant:

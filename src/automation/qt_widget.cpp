@@ -174,7 +174,8 @@ std::string enumerationText(const Enumeration& enumeration) {
 
 std::string eventParameter(const EventArgument& argument, std::string_view name) {
     if (argument.byReference && argument.type.code != TypeCode::object)
-        return qtType(argument.type) + "& " + std::string(name);
+        return (argument.type.code == TypeCode::single ? "float" : qtType(argument.type)) + "& " +
+               std::string(name);
     return parameterText(argument.type, name);
 }
 

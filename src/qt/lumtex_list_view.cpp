@@ -173,7 +173,7 @@ LumtexListView::~LumtexListView() {
     finish();
 }
 
-void LumtexListView::ColumnsAdd(const QVariant& aText, const QPixmap& aIcon, const QPixmap& aIconHover, const QPixmap& aIconDown, cColumnHeaderAlign aAlignment, float aWidth, bool aAllowSorting, QColor aForeColor, const QString& aKey, const QString& aTag, QColor aForeColorHover, QColor aForeColorDown) {
+void LumtexListView::ColumnsAdd(const QVariant& aText, const QPixmap& aIcon, const QPixmap& aIconHover, const QPixmap& aIconDown, cColumnHeaderAlign aAlignment, double aWidth, bool aAllowSorting, QColor aForeColor, const QString& aKey, const QString& aTag, QColor aForeColorHover, QColor aForeColorDown) {
     call(1, {QVariant::fromValue(aText), QVariant::fromValue(aIcon), QVariant::fromValue(aIconHover), QVariant::fromValue(aIconDown), static_cast<int>(aAlignment), QVariant::fromValue(aWidth), QVariant::fromValue(aAllowSorting), QVariant::fromValue(aForeColor), QVariant::fromValue(aKey), QVariant::fromValue(aTag), QVariant::fromValue(aForeColorHover), QVariant::fromValue(aForeColorDown)});
 }
 void LumtexListView::ColumnsClear() {
@@ -392,46 +392,46 @@ void LumtexListView::setBorderVisible(bool value) {
 void LumtexListView::resetBorderVisible() {
     reset(u"BorderVisible");
 }
-float LumtexListView::IndentTop() const {
-    return get(113).value<float>();
+double LumtexListView::IndentTop() const {
+    return get(113).value<double>();
 }
-void LumtexListView::setIndentTop(float value) {
+void LumtexListView::setIndentTop(double value) {
     assign(113, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIndentTop() {
     reset(u"IndentTop");
 }
-float LumtexListView::IndentLeft() const {
-    return get(114).value<float>();
+double LumtexListView::IndentLeft() const {
+    return get(114).value<double>();
 }
-void LumtexListView::setIndentLeft(float value) {
+void LumtexListView::setIndentLeft(double value) {
     assign(114, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIndentLeft() {
     reset(u"IndentLeft");
 }
-float LumtexListView::IndentRight() const {
-    return get(115).value<float>();
+double LumtexListView::IndentRight() const {
+    return get(115).value<double>();
 }
-void LumtexListView::setIndentRight(float value) {
+void LumtexListView::setIndentRight(double value) {
     assign(115, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIndentRight() {
     reset(u"IndentRight");
 }
-float LumtexListView::IndentBottom() const {
-    return get(116).value<float>();
+double LumtexListView::IndentBottom() const {
+    return get(116).value<double>();
 }
-void LumtexListView::setIndentBottom(float value) {
+void LumtexListView::setIndentBottom(double value) {
     assign(116, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIndentBottom() {
     reset(u"IndentBottom");
 }
-float LumtexListView::DistPicText() const {
-    return get(117).value<float>();
+double LumtexListView::DistPicText() const {
+    return get(117).value<double>();
 }
-void LumtexListView::setDistPicText(float value) {
+void LumtexListView::setDistPicText(double value) {
     assign(117, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetDistPicText() {
@@ -464,37 +464,37 @@ void LumtexListView::setIconSelect(bool value) {
 void LumtexListView::resetIconSelect() {
     reset(u"IconSelect");
 }
-float LumtexListView::IconW() const {
-    return get(121).value<float>();
+double LumtexListView::IconW() const {
+    return get(121).value<double>();
 }
-void LumtexListView::setIconW(float value) {
+void LumtexListView::setIconW(double value) {
     assign(121, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIconW() {
     reset(u"IconW");
 }
-float LumtexListView::IconH() const {
-    return get(122).value<float>();
+double LumtexListView::IconH() const {
+    return get(122).value<double>();
 }
-void LumtexListView::setIconH(float value) {
+void LumtexListView::setIconH(double value) {
     assign(122, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetIconH() {
     reset(u"IconH");
 }
-float LumtexListView::ColumnIconW() const {
-    return get(123).value<float>();
+double LumtexListView::ColumnIconW() const {
+    return get(123).value<double>();
 }
-void LumtexListView::setColumnIconW(float value) {
+void LumtexListView::setColumnIconW(double value) {
     assign(123, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetColumnIconW() {
     reset(u"ColumnIconW");
 }
-float LumtexListView::ColumnIconH() const {
-    return get(124).value<float>();
+double LumtexListView::ColumnIconH() const {
+    return get(124).value<double>();
 }
-void LumtexListView::setColumnIconH(float value) {
+void LumtexListView::setColumnIconH(double value) {
     assign(124, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetColumnIconH() {
@@ -581,10 +581,10 @@ void LumtexListView::setDefaultColumnForeColor(QColor value) {
 void LumtexListView::resetDefaultColumnForeColor() {
     reset(u"DefaultColumnForeColor");
 }
-float LumtexListView::EmptyColumnFieldWidth() const {
-    return get(134).value<float>();
+double LumtexListView::EmptyColumnFieldWidth() const {
+    return get(134).value<double>();
 }
-void LumtexListView::setEmptyColumnFieldWidth(float value) {
+void LumtexListView::setEmptyColumnFieldWidth(double value) {
     assign(134, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetEmptyColumnFieldWidth() {
@@ -626,10 +626,10 @@ void LumtexListView::setRowsDynamic(bool value) {
 void LumtexListView::resetRowsDynamic() {
     reset(u"RowsDynamic");
 }
-float LumtexListView::RowHeight() const {
-    return get(139).value<float>();
+double LumtexListView::RowHeight() const {
+    return get(139).value<double>();
 }
-void LumtexListView::setRowHeight(float value) {
+void LumtexListView::setRowHeight(double value) {
     assign(139, {}, QVariant::fromValue(value));
 }
 void LumtexListView::resetRowHeight() {
@@ -917,13 +917,13 @@ QPixmap LumtexListView::ColumnIconDown(const QVariant& Index) const {
 void LumtexListView::setColumnIconDown(const QVariant& Index, const QPixmap& value) {
     assign(203, {QVariant::fromValue(Index)}, QVariant::fromValue(value));
 }
-float LumtexListView::ColumnLeft(const QVariant& Index) const {
-    return get(204, {QVariant::fromValue(Index)}).value<float>();
+double LumtexListView::ColumnLeft(const QVariant& Index) const {
+    return get(204, {QVariant::fromValue(Index)}).value<double>();
 }
-float LumtexListView::ColumnWidth(const QVariant& Index) const {
-    return get(205, {QVariant::fromValue(Index)}).value<float>();
+double LumtexListView::ColumnWidth(const QVariant& Index) const {
+    return get(205, {QVariant::fromValue(Index)}).value<double>();
 }
-void LumtexListView::setColumnWidth(const QVariant& Index, float value) {
+void LumtexListView::setColumnWidth(const QVariant& Index, double value) {
     assign(205, {QVariant::fromValue(Index)}, QVariant::fromValue(value));
 }
 QString LumtexListView::ColumnTag(const QVariant& Index) const {
@@ -1046,10 +1046,10 @@ bool LumtexListView::ItemFontStrikethrough(const QVariant& Row, const QVariant& 
 void LumtexListView::setItemFontStrikethrough(const QVariant& Row, const QVariant& Column, bool value) {
     assign(403, {QVariant::fromValue(Row), QVariant::fromValue(Column)}, QVariant::fromValue(value));
 }
-float LumtexListView::ItemFontSize(const QVariant& Row, const QVariant& Column) const {
-    return get(404, {QVariant::fromValue(Row), QVariant::fromValue(Column)}).value<float>();
+double LumtexListView::ItemFontSize(const QVariant& Row, const QVariant& Column) const {
+    return get(404, {QVariant::fromValue(Row), QVariant::fromValue(Column)}).value<double>();
 }
-void LumtexListView::setItemFontSize(const QVariant& Row, const QVariant& Column, float value) {
+void LumtexListView::setItemFontSize(const QVariant& Row, const QVariant& Column, double value) {
     assign(404, {QVariant::fromValue(Row), QVariant::fromValue(Column)}, QVariant::fromValue(value));
 }
 QString LumtexListView::ItemFontName(const QVariant& Row, const QVariant& Column) const {
@@ -1154,8 +1154,8 @@ QString LumtexListView::ItemToolTip(const QVariant& Row, const QVariant& Column)
 void LumtexListView::setItemToolTip(const QVariant& Row, const QVariant& Column, const QString& value) {
     assign(421, {QVariant::fromValue(Row), QVariant::fromValue(Column)}, QVariant::fromValue(value));
 }
-float LumtexListView::ItemTextWidth(const QVariant& Row, const QVariant& Column) const {
-    return get(422, {QVariant::fromValue(Row), QVariant::fromValue(Column)}).value<float>();
+double LumtexListView::ItemTextWidth(const QVariant& Row, const QVariant& Column) const {
+    return get(422, {QVariant::fromValue(Row), QVariant::fromValue(Column)}).value<double>();
 }
 QObject* LumtexListView::ItemObject(const QVariant& Row, const QVariant& Column) const {
     return get(423, {QVariant::fromValue(Row), QVariant::fromValue(Column)}).value<QObject*>();

@@ -33,18 +33,18 @@ class LumtexListView : public lumtex::qt::ListWidget {
     Q_PROPERTY(bool AllowEdit READ AllowEdit WRITE setAllowEdit RESET resetAllowEdit NOTIFY AllowEditChanged)
     Q_PROPERTY(QColor ValueColor READ ValueColor WRITE setValueColor RESET resetValueColor NOTIFY ValueColorChanged)
     Q_PROPERTY(bool BorderVisible READ BorderVisible WRITE setBorderVisible RESET resetBorderVisible NOTIFY BorderVisibleChanged)
-    Q_PROPERTY(float IndentTop READ IndentTop WRITE setIndentTop RESET resetIndentTop NOTIFY IndentTopChanged)
-    Q_PROPERTY(float IndentLeft READ IndentLeft WRITE setIndentLeft RESET resetIndentLeft NOTIFY IndentLeftChanged)
-    Q_PROPERTY(float IndentRight READ IndentRight WRITE setIndentRight RESET resetIndentRight NOTIFY IndentRightChanged)
-    Q_PROPERTY(float IndentBottom READ IndentBottom WRITE setIndentBottom RESET resetIndentBottom NOTIFY IndentBottomChanged)
-    Q_PROPERTY(float DistPicText READ DistPicText WRITE setDistPicText RESET resetDistPicText NOTIFY DistPicTextChanged)
+    Q_PROPERTY(double IndentTop READ IndentTop WRITE setIndentTop RESET resetIndentTop NOTIFY IndentTopChanged)
+    Q_PROPERTY(double IndentLeft READ IndentLeft WRITE setIndentLeft RESET resetIndentLeft NOTIFY IndentLeftChanged)
+    Q_PROPERTY(double IndentRight READ IndentRight WRITE setIndentRight RESET resetIndentRight NOTIFY IndentRightChanged)
+    Q_PROPERTY(double IndentBottom READ IndentBottom WRITE setIndentBottom RESET resetIndentBottom NOTIFY IndentBottomChanged)
+    Q_PROPERTY(double DistPicText READ DistPicText WRITE setDistPicText RESET resetDistPicText NOTIFY DistPicTextChanged)
     Q_PROPERTY(bool AutoCheckScroll READ AutoCheckScroll WRITE setAutoCheckScroll RESET resetAutoCheckScroll NOTIFY AutoCheckScrollChanged)
     Q_PROPERTY(bool AutoRedraw READ AutoRedraw WRITE setAutoRedraw RESET resetAutoRedraw NOTIFY AutoRedrawChanged)
     Q_PROPERTY(bool IconSelect READ IconSelect WRITE setIconSelect RESET resetIconSelect NOTIFY IconSelectChanged)
-    Q_PROPERTY(float IconW READ IconW WRITE setIconW RESET resetIconW NOTIFY IconWChanged)
-    Q_PROPERTY(float IconH READ IconH WRITE setIconH RESET resetIconH NOTIFY IconHChanged)
-    Q_PROPERTY(float ColumnIconW READ ColumnIconW WRITE setColumnIconW RESET resetColumnIconW NOTIFY ColumnIconWChanged)
-    Q_PROPERTY(float ColumnIconH READ ColumnIconH WRITE setColumnIconH RESET resetColumnIconH NOTIFY ColumnIconHChanged)
+    Q_PROPERTY(double IconW READ IconW WRITE setIconW RESET resetIconW NOTIFY IconWChanged)
+    Q_PROPERTY(double IconH READ IconH WRITE setIconH RESET resetIconH NOTIFY IconHChanged)
+    Q_PROPERTY(double ColumnIconW READ ColumnIconW WRITE setColumnIconW RESET resetColumnIconW NOTIFY ColumnIconWChanged)
+    Q_PROPERTY(double ColumnIconH READ ColumnIconH WRITE setColumnIconH RESET resetColumnIconH NOTIFY ColumnIconHChanged)
     Q_PROPERTY(cScrollColorStyle ScrollColorStyle READ ScrollColorStyle WRITE setScrollColorStyle RESET resetScrollColorStyle NOTIFY ScrollColorStyleChanged)
     Q_PROPERTY(bool GridLines READ GridLines WRITE setGridLines RESET resetGridLines NOTIFY GridLinesChanged)
     Q_PROPERTY(QColor GridLineColor READ GridLineColor WRITE setGridLineColor RESET resetGridLineColor NOTIFY GridLineColorChanged)
@@ -54,12 +54,12 @@ class LumtexListView : public lumtex::qt::ListWidget {
     Q_PROPERTY(bool MoveColumnTextAtDown READ MoveColumnTextAtDown WRITE setMoveColumnTextAtDown RESET resetMoveColumnTextAtDown NOTIFY MoveColumnTextAtDownChanged)
     Q_PROPERTY(QFont DefaultColumnFont READ DefaultColumnFont WRITE setDefaultColumnFont RESET resetDefaultColumnFont NOTIFY DefaultColumnFontChanged)
     Q_PROPERTY(QColor DefaultColumnForeColor READ DefaultColumnForeColor WRITE setDefaultColumnForeColor RESET resetDefaultColumnForeColor NOTIFY DefaultColumnForeColorChanged)
-    Q_PROPERTY(float EmptyColumnFieldWidth READ EmptyColumnFieldWidth WRITE setEmptyColumnFieldWidth RESET resetEmptyColumnFieldWidth NOTIFY EmptyColumnFieldWidthChanged)
+    Q_PROPERTY(double EmptyColumnFieldWidth READ EmptyColumnFieldWidth WRITE setEmptyColumnFieldWidth RESET resetEmptyColumnFieldWidth NOTIFY EmptyColumnFieldWidthChanged)
     Q_PROPERTY(QColor ColumnBackColor READ ColumnBackColor WRITE setColumnBackColor RESET resetColumnBackColor NOTIFY ColumnBackColorChanged)
     Q_PROPERTY(QColor ColumnHoverColor READ ColumnHoverColor WRITE setColumnHoverColor RESET resetColumnHoverColor NOTIFY ColumnHoverColorChanged)
     Q_PROPERTY(QColor ColumnDownColor READ ColumnDownColor WRITE setColumnDownColor RESET resetColumnDownColor NOTIFY ColumnDownColorChanged)
     Q_PROPERTY(bool RowsDynamic READ RowsDynamic WRITE setRowsDynamic RESET resetRowsDynamic NOTIFY RowsDynamicChanged)
-    Q_PROPERTY(float RowHeight READ RowHeight WRITE setRowHeight RESET resetRowHeight NOTIFY RowHeightChanged)
+    Q_PROPERTY(double RowHeight READ RowHeight WRITE setRowHeight RESET resetRowHeight NOTIFY RowHeightChanged)
     Q_PROPERTY(QColor ScrollBackColor READ ScrollBackColor WRITE setScrollBackColor RESET resetScrollBackColor NOTIFY ScrollBackColorChanged)
     Q_PROPERTY(QColor ScrollArrows READ ScrollArrows WRITE setScrollArrows RESET resetScrollArrows NOTIFY ScrollArrowsChanged)
     Q_PROPERTY(QColor ScrollButtons READ ScrollButtons WRITE setScrollButtons RESET resetScrollButtons NOTIFY ScrollButtonsChanged)
@@ -175,7 +175,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     using QWidget::setStyle; // beside the list's own one
 
     /// Appends a column, and an empty cell to every row. The width is in twips; a colour of 0 is black.
-    Q_INVOKABLE void ColumnsAdd(const QVariant& aText, const QPixmap& aIcon = {}, const QPixmap& aIconHover = {}, const QPixmap& aIconDown = {}, cColumnHeaderAlign aAlignment = cColumnLeft, float aWidth = 1000, bool aAllowSorting = false, QColor aForeColor = QColor(0, 0, 0), const QString& aKey = QString(), const QString& aTag = QString(), QColor aForeColorHover = QColor(0, 0, 0), QColor aForeColorDown = QColor(0, 0, 0));
+    Q_INVOKABLE void ColumnsAdd(const QVariant& aText, const QPixmap& aIcon = {}, const QPixmap& aIconHover = {}, const QPixmap& aIconDown = {}, cColumnHeaderAlign aAlignment = cColumnLeft, double aWidth = 1000, bool aAllowSorting = false, QColor aForeColor = QColor(0, 0, 0), const QString& aKey = QString(), const QString& aTag = QString(), QColor aForeColorHover = QColor(0, 0, 0), QColor aForeColorDown = QColor(0, 0, 0));
     /// Removes all columns. Rows keep their cells, so clear the rows first for an empty list.
     Q_INVOKABLE void ColumnsClear();
     /// Checks the scroll bars and repaints. The columns stay: a single column cannot be removed.
@@ -292,24 +292,24 @@ class LumtexListView : public lumtex::qt::ListWidget {
     void setBorderVisible(bool value);
     void resetBorderVisible();
     /// Kept for the host in pixels; painting does not use it.
-    float IndentTop() const;
-    void setIndentTop(float value);
+    double IndentTop() const;
+    void setIndentTop(double value);
     void resetIndentTop();
     /// Kept for the host in pixels; painting does not use it.
-    float IndentLeft() const;
-    void setIndentLeft(float value);
+    double IndentLeft() const;
+    void setIndentLeft(double value);
     void resetIndentLeft();
     /// Kept for the host in pixels; painting does not use it.
-    float IndentRight() const;
-    void setIndentRight(float value);
+    double IndentRight() const;
+    void setIndentRight(double value);
     void resetIndentRight();
     /// Kept for the host in pixels; painting does not use it.
-    float IndentBottom() const;
-    void setIndentBottom(float value);
+    double IndentBottom() const;
+    void setIndentBottom(double value);
     void resetIndentBottom();
     /// Pixels between icon and text.
-    float DistPicText() const;
-    void setDistPicText(float value);
+    double DistPicText() const;
+    void setDistPicText(double value);
     void resetDistPicText();
     /// Whether a change of the content checks the scroll bars. Switching it on checks them at once.
     bool AutoCheckScroll() const;
@@ -324,20 +324,20 @@ class LumtexListView : public lumtex::qt::ListWidget {
     void setIconSelect(bool value);
     void resetIconSelect();
     /// Width of cell icons in pixels, for columns added later.
-    float IconW() const;
-    void setIconW(float value);
+    double IconW() const;
+    void setIconW(double value);
     void resetIconW();
     /// Height of cell icons in pixels, for columns added later.
-    float IconH() const;
-    void setIconH(float value);
+    double IconH() const;
+    void setIconH(double value);
     void resetIconH();
     /// Width of header icons in pixels.
-    float ColumnIconW() const;
-    void setColumnIconW(float value);
+    double ColumnIconW() const;
+    void setColumnIconW(double value);
     void resetColumnIconW();
     /// Height of header icons in pixels.
-    float ColumnIconH() const;
-    void setColumnIconH(float value);
+    double ColumnIconH() const;
+    void setColumnIconH(double value);
     void resetColumnIconH();
     /// Scheme of the scroll bars.
     cScrollColorStyle ScrollColorStyle() const;
@@ -376,8 +376,8 @@ class LumtexListView : public lumtex::qt::ListWidget {
     void setDefaultColumnForeColor(QColor value);
     void resetDefaultColumnForeColor();
     /// Twips of free space behind the last column, where the columns reach past the right edge.
-    float EmptyColumnFieldWidth() const;
-    void setEmptyColumnFieldWidth(float value);
+    double EmptyColumnFieldWidth() const;
+    void setEmptyColumnFieldWidth(double value);
     void resetEmptyColumnFieldWidth();
     /// Background of headers in the custom scheme.
     QColor ColumnBackColor() const;
@@ -396,8 +396,8 @@ class LumtexListView : public lumtex::qt::ListWidget {
     void setRowsDynamic(bool value);
     void resetRowsDynamic();
     /// Height of a row in twips, where RowsDynamic is False.
-    float RowHeight() const;
-    void setRowHeight(float value);
+    double RowHeight() const;
+    void setRowHeight(double value);
     void resetRowHeight();
     /// Trough of the scroll bars in the custom scheme.
     QColor ScrollBackColor() const;
@@ -527,10 +527,10 @@ class LumtexListView : public lumtex::qt::ListWidget {
     Q_INVOKABLE QPixmap ColumnIconDown(const QVariant& Index) const;
     Q_INVOKABLE void setColumnIconDown(const QVariant& Index, const QPixmap& value);
     /// Left edge of the header in twips. Goes stale when a column before it is resized by code.
-    Q_INVOKABLE float ColumnLeft(const QVariant& Index) const;
+    Q_INVOKABLE double ColumnLeft(const QVariant& Index) const;
     /// Width in twips. The columns to the right keep their ColumnLeft.
-    Q_INVOKABLE float ColumnWidth(const QVariant& Index) const;
-    Q_INVOKABLE void setColumnWidth(const QVariant& Index, float value);
+    Q_INVOKABLE double ColumnWidth(const QVariant& Index) const;
+    Q_INVOKABLE void setColumnWidth(const QVariant& Index, double value);
     /// Text that the control keeps for the host.
     Q_INVOKABLE QString ColumnTag(const QVariant& Index) const;
     Q_INVOKABLE void setColumnTag(const QVariant& Index, const QString& value);
@@ -592,8 +592,8 @@ class LumtexListView : public lumtex::qt::ListWidget {
     Q_INVOKABLE bool ItemFontStrikethrough(const QVariant& Row, const QVariant& Column) const;
     Q_INVOKABLE void setItemFontStrikethrough(const QVariant& Row, const QVariant& Column, bool value);
     /// Size of the text in points.
-    Q_INVOKABLE float ItemFontSize(const QVariant& Row, const QVariant& Column) const;
-    Q_INVOKABLE void setItemFontSize(const QVariant& Row, const QVariant& Column, float value);
+    Q_INVOKABLE double ItemFontSize(const QVariant& Row, const QVariant& Column) const;
+    Q_INVOKABLE void setItemFontSize(const QVariant& Row, const QVariant& Column, double value);
     /// Typeface of the text.
     Q_INVOKABLE QString ItemFontName(const QVariant& Row, const QVariant& Column) const;
     Q_INVOKABLE void setItemFontName(const QVariant& Row, const QVariant& Column, const QString& value);
@@ -646,7 +646,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     Q_INVOKABLE QString ItemToolTip(const QVariant& Row, const QVariant& Column) const;
     Q_INVOKABLE void setItemToolTip(const QVariant& Row, const QVariant& Column, const QString& value);
     /// Width of the text in pixels, as the last paint measured it; 0 for a cell never painted.
-    Q_INVOKABLE float ItemTextWidth(const QVariant& Row, const QVariant& Column) const;
+    Q_INVOKABLE double ItemTextWidth(const QVariant& Row, const QVariant& Column) const;
     /// Control of the host that is shown over the cell. One with a window becomes a child of the list. A failure while it is assigned raises ListViewError and is then reported.
     Q_INVOKABLE QObject* ItemObject(const QVariant& Row, const QVariant& Column) const;
     Q_INVOKABLE void setItemObject(const QVariant& Row, const QVariant& Column, QObject* value);
