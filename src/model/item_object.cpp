@@ -45,6 +45,7 @@ void lmListView::setItemObject(const Variant& Row, const Variant& Column, Object
     }
     statement([&] {
         const Cell cell = records.cellAt(Row, Column);
+        records.noteObject();
         cell.items.needExtras(cell.index).setObject(std::move(object));
     });
     CheckForRedraw();

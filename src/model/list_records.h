@@ -47,6 +47,10 @@ class ListRecords {
         return column >= 1 && static_cast<std::size_t>(column) <= cells.count() ? &cells : nullptr;
     }
 
+    /// An object was put into a cell here at some time; paints look for none before.
+    bool mayHoldObjects() const { return mayHoldObjects_; }
+    void noteObject() { mayHoldObjects_ = true; }
+
     /// All elements, the blank one of an emptied array too.
     RowArray& rows() { return rows_; }
     std::size_t columnSlots() const { return columns_.size(); }
@@ -69,6 +73,7 @@ class ListRecords {
     std::vector<std::unique_ptr<ColumnHeader>> columns_;
     bool rowsAllocated_ = false;    ///< from the first row added until `clearRows`
     bool columnsAllocated_ = false; ///< from the first column added until `clearColumns`
+    bool mayHoldObjects_ = false;
 };
 
 } // namespace lumtex

@@ -14,7 +14,7 @@ namespace lumtex {
 /// Hides the host's controls in rows that are out of view; rows count from 1. An object without Visible is
 /// passed over.
 void PaintPass::hideObjects(Long firstRow, Long lastRow) {
-    if (CellExtras::objectsInCells() == 0)
+    if (!core.records.mayHoldObjects() || CellExtras::objectsInCells() == 0)
         return;
     // The bar may stand anywhere, but no object is in a row that is not there.
     const Long last = std::min(lastRow, core.records.RowsCount());
