@@ -40,6 +40,7 @@ void readQueryOf(const Subject& subject, lmListView& list) {
         readQuery(subject.database, subject.sql, list, [&](Long records) {
             std::fprintf(stderr, "\r%ld records", static_cast<long>(records));
             told = true;
+            return true;
         });
     } catch (const Failure&) {
         endLine();

@@ -12,12 +12,12 @@ namespace lumtex::gallery {
 
 namespace {
 
-constexpr Long recordsBetweenReports = 50'000;
+constexpr Long recordsBetweenReports = 10'000;
 
 /// Hands all calls on, counts the records, and keeps the first failure.
 class WatchedRecordset final : public Object, public RecordSource {
   public:
-    WatchedRecordset(ObjectRef recordset, const std::function<void(Long)>& progress)
+    WatchedRecordset(ObjectRef recordset, const std::function<bool(Long)>& progress)
         : recordset_(std::move(recordset)), records_(dynamic_cast<RecordSource&>(*recordset_)),
           progress_(progress) {}
 
@@ -38,9 +38,9 @@ class WatchedRecordset final : public Object, public RecordSource {
     void moveNext() override {
         watched([&] { records_.moveNext(); });
         if (reached_++ % recordsBetweenReports == 0)
-            progress_(reached_ - 1);
+            wanted_ = progress_(reached_ - 1);
     }
-    bool atEnd() override { return records_.atEnd(); }
+    bool atEnd() override { return !wanted_ || records_.atEnd(); }
 
     /// How many records came before it failed.
     Long reached() const { return reached_; }
@@ -60,8 +60,9 @@ class WatchedRecordset final : public Object, public RecordSource {
 
     ObjectRef recordset_;
     RecordSource& records_;
-    std::function<void(Long)> progress_;
+    std::function<bool(Long)> progress_;
     Long reached_ = 0;
+    bool wanted_ = true;
     std::optional<RuntimeError> failure_;
 };
 
@@ -93,7 +94,7 @@ ObjectRef openedQuery(const std::string& database, const std::string& sql) {
 void readQuery(const std::string& database,
                const std::string& sql,
                lmListView& list,
-               const std::function<void(Long)>& progress) {
+               const std::function<bool(Long)>& progress) {
     const auto recordset = std::make_shared<WatchedRecordset>(openedQuery(database, sql), progress);
     {
         const Silence silence;

@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <limits>
 
 #include <sys/wait.h>
 
@@ -16,7 +17,10 @@ class GalleryQuery : public ListFixture {
   protected:
     std::string failureOf(const std::string& database, const std::string& sql) {
         try {
-            gallery::readQuery(database, sql, list, [this](Long records) { heard.push_back(records); });
+            gallery::readQuery(database, sql, list, [this](Long records) {
+                heard.push_back(records);
+                return records < wanted;
+            });
         } catch (const gallery::Failure& failure) {
             return failure.what();
         }
@@ -24,6 +28,7 @@ class GalleryQuery : public ListFixture {
     }
 
     std::vector<Long> heard;
+    Long wanted = std::numeric_limits<Long>::max(); ///< with as many it is enough
 };
 
 TEST_F(GalleryQuery, FillsTheListAndFitsItsColumns) {
@@ -39,10 +44,20 @@ TEST_F(GalleryQuery, FillsTheListAndFitsItsColumns) {
 
 TEST_F(GalleryQuery, TellsHowFarItGot) {
     EXPECT_EQ(failureOf(":memory:",
-                        "with recursive n(x) as (select 1 union all select x + 1 from n where x < 120000) "
+                        "with recursive n(x) as (select 1 union all select x + 1 from n where x < 31000) "
                         "select x from n"),
               "no failure");
-    EXPECT_EQ(heard, (std::vector<Long>{50'000, 100'000}));
+    EXPECT_EQ(heard, (std::vector<Long>{10'000, 20'000, 30'000}));
+}
+
+TEST_F(GalleryQuery, EndsWhereItIsStopped) {
+    wanted = 20'000;
+    EXPECT_EQ(failureOf(":memory:",
+                        "with recursive n(x) as (select 1 union all select x + 1 from n where x < 31000) "
+                        "select x from n"),
+              "no failure");
+    EXPECT_EQ(list.RowsCount(), 20'000);
+    EXPECT_EQ(list.ItemText(20'000, 1), u"20000");
 }
 
 TEST_F(GalleryQuery, SaysInOneLineWhatIsWrong) {
