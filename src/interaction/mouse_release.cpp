@@ -24,9 +24,9 @@ void Mouse::up(Integer Button, Integer Shift, Single X, Single Y) {
 }
 
 /// `row` counts from 0. The cell of a release is remembered as that of a press is, so a press on it counts as
-/// the second one. But the press that opened the editor is often held until a tick of the hover timer finds the
-/// editor under the pointer, so that its release hits no column: what is typed still belongs to the cell under
-/// edit.
+/// the second one. But the press that opened the editor is often held until a tick of the hover timer finds
+/// the editor under the pointer, so that its release hits no column: what is typed still belongs to the cell
+/// under edit.
 void Mouse::releaseOnRow(Long row, Procedure& p) {
     // Host code may press elsewhere meanwhile.
     const auto column = [&] { return core_.headerGesture->currentColumn(); };

@@ -398,12 +398,12 @@ TEST_F(GalleryWindowTest, TheLogShowsEventsWithTheirArgumentsAndCanBeFiltered) {
     Q_EMIT page.list().ItemCheck(2, 1, true, cancel);
     Q_EMIT page.list().ListViewError(u"A"_s, 5, u"what"_s);
     ASSERT_EQ(page.log().RowsCount(), 3);
-    EXPECT_EQ(page.log().ItemText(1, 2), u"Click"_s);
+    EXPECT_EQ(page.log().ItemText(3, 2), u"Click"_s);
     EXPECT_EQ(page.log().ItemText(2, 3), u"Row=2, Column=1, NewValue=true, Cancel=false"_s);
-    EXPECT_EQ(page.log().ItemText(3, 3), u"eSub=\"A\", eNumber=5, eDescription=\"what\""_s);
+    EXPECT_EQ(page.log().ItemText(1, 3), u"eSub=\"A\", eNumber=5, eDescription=\"what\""_s);
     page.filter(u"check error"_s);
     ASSERT_EQ(page.log().RowsCount(), 2);
-    EXPECT_EQ(page.log().ItemText(1, 2), u"ItemCheck"_s);
+    EXPECT_EQ(page.log().ItemText(2, 2), u"ItemCheck"_s);
     Q_EMIT page.list().SortDone();
     EXPECT_EQ(page.log().RowsCount(), 2);
     page.filter({});

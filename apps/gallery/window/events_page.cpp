@@ -38,7 +38,8 @@ bool isEvent(const QMetaMethod& signal) {
 
 EventsPage::EventsPage()
     : Page(u"Events"_s,
-           u"What the list above tells while you use it, with the arguments. Words in the field leave the "
+           u"What the list above tells while you use it, with the arguments, newest first. Words in the "
+           u"field leave the "
            u"events alone "
            "whose names hold one of them."_s) {
     LumtexListView* list = addList();
@@ -120,17 +121,20 @@ bool EventsPage::isWanted(const Entry& entry) const {
            });
 }
 
+QStringList EventsPage::textsOf(const Entry& entry) {
+    return {QString::number(entry.number), entry.name, entry.arguments};
+}
+
 void EventsPage::display(const Entry& entry) {
-    addRow(*log_, {QString::number(entry.number), entry.name, entry.arguments});
-    log_->setListIndex(log_->NewIndex()); // scrolls to it
+    addRow(*log_, textsOf(entry), 0);
 }
 
 void EventsPage::displayAll() {
     const PaintOnce once(*log_);
     log_->RowsClear();
-    for (const Entry& entry : entries_) {
-        if (isWanted(entry))
-            addRow(*log_, {QString::number(entry.number), entry.name, entry.arguments});
+    for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
+        if (isWanted(*entry))
+            addRow(*log_, textsOf(*entry));
     }
 }
 

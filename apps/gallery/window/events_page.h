@@ -32,6 +32,7 @@ class EventsPage final : public Page {
 
     void hear(const QMetaMethod& signal, const QVariantList& arguments);
     bool isWanted(const Entry& entry) const;
+    static QStringList textsOf(const Entry& entry);
     void display(const Entry& entry);
     void displayAll();
 

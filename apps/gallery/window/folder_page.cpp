@@ -126,7 +126,7 @@ void FolderPage::openParent() {
     read();
     for (int row = 1; row <= list().RowsCount(); ++row) {
         if (nameIn(row) == from)
-            list().setListIndex(row - 1);
+            goToRow(list(), row);
     }
 }
 

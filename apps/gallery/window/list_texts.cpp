@@ -1,5 +1,7 @@
 #include "list_texts.h"
 
+#include <algorithm>
+
 namespace lumtex::gallery {
 
 namespace {
@@ -19,8 +21,8 @@ void addColumn(LumtexListView& list,
     list.ColumnsAdd(escaped(title), {}, {}, {}, alignment, static_cast<float>(pixels * twipsPerPixel));
 }
 
-void addRow(LumtexListView& list, const QStringList& texts) {
-    list.RowsAdd(-1, unitSeparator, escaped(texts.join(unitSeparator)));
+void addRow(LumtexListView& list, const QStringList& texts, int before) {
+    list.RowsAdd(before, unitSeparator, escaped(texts.join(unitSeparator)));
     for (int column = 1; column <= list.ColumnsCount(); ++column) {
         if (list.ColumnAlignment(column) == LumtexListView::cColumnRight)
             list.setItemAlignment(list.NewIndex() + 1, column, LumtexListView::cItemRight);
@@ -44,6 +46,14 @@ PaintOnce::~PaintOnce() {
     list_.setAutoCheckScroll(true);
     list_.setAutoRedraw(true);
     list_.CheckScroll();
+}
+
+void goToRow(LumtexListView& list, int row) {
+    constexpr int rowsAbove = 3; // which tell where in the list it is
+    list.setListIndex(row - 1);
+    const int inView = static_cast<int>(list.height() / (list.RowHeight() / twipsPerPixel)) - rowsAbove;
+    if (row - 1 < list.TopIndex() || row - 1 >= list.TopIndex() + inView)
+        list.setTopIndex(std::max(0, row - 1 - rowsAbove));
 }
 
 void sortByHeader(LumtexListView& list, int column, LumtexListView::cSortType type) {

@@ -13,8 +13,9 @@ void addColumn(LumtexListView& list,
                const QString& title,
                int pixels,
                LumtexListView::cColumnHeaderAlign alignment = LumtexListView::cColumnLeft);
-/// Numbers, in header and cells: the list aligns the cells of a row when the row is added.
-void addRow(LumtexListView& list, const QStringList& texts);
+/// In front of the row `before`, which counts from 0, or behind the last one. Its cells are aligned as their
+/// headers are.
+void addRow(LumtexListView& list, const QStringList& texts, int before = -1);
 
 /// The list takes "&" for the mark of a prefix and "&&" for the character.
 QString escaped(QString text);
@@ -31,6 +32,9 @@ class PaintOnce {
   private:
     LumtexListView& list_;
 };
+
+/// Makes the row the current one, and has the list scroll where it is out of view; it counts from 1.
+void goToRow(LumtexListView& list, int row);
 
 /// Sorts by a column as its type asks, and the other way round the next time.
 void sortByHeader(LumtexListView& list, int column, LumtexListView::cSortType type);

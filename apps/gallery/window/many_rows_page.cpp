@@ -63,6 +63,7 @@ ManyRowsPage::ManyRowsPage()
     auto* next = new QPushButton(u"Find &next"_s);
     sought_->setPlaceholderText(u"Find"_s);
     sought_->setAccessibleName(u"Find"_s);
+    sought_->setObjectName(u"sought"_s);
     anyCase_->setChecked(true);
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(sought_);
@@ -184,7 +185,7 @@ bool ManyRowsPage::find(const QString& text) {
         say(u"No cell holds it (%1 ms)"_s.arg(clock.elapsed()));
         return false;
     }
-    list().setListIndex(row - 1);
+    goToRow(list(), row);
     say(u"Row %1 (%2 ms)"_s.arg(QLocale().toString(row)).arg(clock.elapsed()));
     return true;
 }
