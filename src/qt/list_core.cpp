@@ -35,7 +35,7 @@ void WidgetHost::PropertyChanged(StringView name) {
 ListCore::ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_ptr<WidgetEvents> events)
     : host_(widget), world_(std::move(world)), events_(std::move(events)), list_(*world_, host_, *events_) {}
 
-QWidget* ListCore::screen() {
+ScreenWidget* ListCore::screen() {
     return static_cast<QtWindow&>(list_.window()).screen();
 }
 

@@ -40,8 +40,8 @@ class ListCore {
     lmListView& list() { return list_; }
     WidgetHost& host() { return host_; }
     QtWorld& world() { return *world_; }
-    /// The widget in the widget that shows the list and takes all input.
-    QWidget* screen();
+    /// The widget in the widget that shows the list and takes all input; null once it has gone.
+    ScreenWidget* screen();
     /// From here on no signal is raised.
     void mute() { events_->muted = true; }
     /// Units of widgets.

@@ -6,6 +6,7 @@
 #include "persistence/settings_by_key.h"
 #include "platform/property_bag.h"
 #include "qt/list_core.h"
+#include "qt/list_speaker.h"
 #include "qt/qt_values.h"
 #include "worlds/qt/qt_color.h"
 #include "worlds/qt/qt_text.h"
@@ -84,6 +85,7 @@ void ListWidget::startAnew(const PropertyBag& settings, bool designed) {
         core_->mute();
     // What the settings set off may take the widget away.
     const QPointer<ListWidget> self(this);
+    speaker_.reset();
     const auto core = std::make_shared<ListCore>(*this, makeWorld_(*this), makeEvents_());
     core_ = core;
     core->world().owner = core;
@@ -93,10 +95,12 @@ void ListWidget::startAnew(const PropertyBag& settings, bool designed) {
         return;
     core->resize(size());
     setFocusProxy(core->screen());
+    speaker_ = std::make_unique<ListSpeaker>(*this, core);
 }
 
 void ListWidget::finish() {
     core_->mute();
+    speaker_.reset();
     core_.reset();
 }
 

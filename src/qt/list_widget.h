@@ -18,6 +18,7 @@ class PropertyBag;
 namespace lumtex::qt {
 
 class ListCore;
+class ListSpeaker;
 class WidgetEvents;
 
 /// Lays the list out as large as itself, and carries calls by dispatch numbers. A widget that is destroyed in
@@ -77,12 +78,15 @@ class ListWidget : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    friend class ListSpeaker;
+
     /// A list as it is read from these settings, in place of the one before.
     void startAnew(const PropertyBag& settings, bool designed);
 
     WorldFactory makeWorld_;
     EventsFactory makeEvents_;
     std::shared_ptr<ListCore> core_;
+    std::unique_ptr<ListSpeaker> speaker_;
 };
 
 } // namespace lumtex::qt

@@ -47,6 +47,14 @@ void ScreenWidget::takeIn(QWidget& guest, WindowHandle window) {
         watched->lower();
 }
 
+std::vector<QWidget*> ScreenWidget::guests() const {
+    std::vector<QWidget*> there;
+    for (const Guest& guest : guests_)
+        if (guest.widget != nullptr && guest.widget->parentWidget() == this)
+            there.push_back(guest.widget);
+    return there;
+}
+
 QPoint ScreenWidget::originOfGuest(const QWidget& guest) const {
     for (const Guest& known : guests_) {
         worlds::Pane* pane = world_ != nullptr ? world_->tree().find(known.window) : nullptr;

@@ -33,6 +33,8 @@ class ScreenWidget final : public QWidget {
     /// end either.
     void takeIn(QWidget& guest, WindowHandle window);
     bool hasGuests() const { return !guests_.empty(); }
+    /// Those that are there still, in the order in which they came.
+    std::vector<QWidget*> guests() const;
     /// Where the window of a guest begins, in units of widgets.
     QPoint originOfGuest(const QWidget& guest) const;
 

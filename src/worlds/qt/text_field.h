@@ -19,6 +19,9 @@ class TextField final : public QLineEdit {
     /// The mouse event that is under way is for the field.
     void takeMouseEvent() { takesMouseEvent_ = true; }
 
+    /// Of the caret, in the field.
+    using QLineEdit::cursorRect;
+
   protected:
     bool event(QEvent* event) override;
 
