@@ -3,6 +3,7 @@
 #include "guards/procedure.h"
 #include "qt/qt_values.h"
 #include "worlds/qt/qt_text.h"
+#include "worlds/qt/qt_text_box.h"
 #include "worlds/qt/qt_window.h"
 
 #include <QMetaMethod>
@@ -37,6 +38,11 @@ ListCore::ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_
 
 ScreenWidget* ListCore::screen() {
     return static_cast<QtWindow&>(list_.window()).screen();
+}
+
+QLineEdit* ListCore::field() {
+    const auto* box = dynamic_cast<QtTextBox*>(world_->tree().find(list_.hwndEdit()));
+    return box != nullptr ? box->field() : nullptr;
 }
 
 void ListCore::resize(QSize size) {

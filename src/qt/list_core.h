@@ -7,6 +7,7 @@
 #include "qt/widget_events.h"
 #include "worlds/qt/qt_world.h"
 
+#include <QLineEdit>
 #include <QPointer>
 #include <memory>
 
@@ -42,6 +43,8 @@ class ListCore {
     QtWorld& world() { return *world_; }
     /// The widget in the widget that shows the list and takes all input; null once it has gone.
     ScreenWidget* screen();
+    /// The field of the list's editor, open or not; null once it has gone.
+    QLineEdit* field();
     /// From here on no signal is raised.
     void mute() { events_->muted = true; }
     /// Units of widgets.

@@ -27,11 +27,20 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
     return new SpokenGuests(*screen);
 }
 
+void letGoOfInterfaceOf(QObject* object) {
+    if (QAccessibleInterface* made =
+            object != nullptr ? QAccessible::queryAccessibleInterface(object) : nullptr)
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(made));
+}
+
 } // namespace
 
 ListSpeaker::ListSpeaker(ListWidget& widget, const std::shared_ptr<ListCore>& core)
     : widget_(widget), core_(core) {
     QAccessible::installFactory(makeInterface);
+    // While they were being made, Qt could not tell what they are.
+    letGoOfInterfaceOf(core->screen());
+    letGoOfInterfaceOf(core->field());
     QAccessible::installActivationObserver(this);
     accessibilityActiveChanged(QAccessible::isActive());
 }

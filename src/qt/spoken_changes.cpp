@@ -67,10 +67,13 @@ void SpokenList::tellOfRows() {
     rowsWait_ = false;
     const Long now = list_.rowCount();
     const Long before = std::exchange(rowsTold_, now);
-    if (now > before)
+    if (now > before) {
         notifyOfModel(ModelChange::RowsInserted, before, now - 1);
-    else if (now < before)
+        // Changes of a table leave Qt 6.4 in a form that nobody on the bus of AT-SPI understands.
+        notify(QAccessible::ObjectCreated, accessibility::rowElement(now));
+    } else if (now < before) {
         notifyOfModel(ModelChange::RowsRemoved, now, before - 1);
+    }
     if (const Long both = std::min(now, before); both > 0)
         notifyOfModel(ModelChange::DataChanged, 0, both - 1);
 }

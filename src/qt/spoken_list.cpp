@@ -2,7 +2,6 @@
 
 #include "qt/list_core.h"
 #include "qt/spoken_element.h"
-#include "worlds/qt/qt_text_box.h"
 
 #include <QApplication>
 #include <QWindow>
@@ -47,10 +46,7 @@ ScreenWidget* SpokenList::screen() const {
 
 QLineEdit* SpokenList::field() const {
     const std::shared_ptr<ListCore> core = core_.lock();
-    if (core == nullptr || list_.hasEnded())
-        return nullptr;
-    const auto* box = dynamic_cast<QtTextBox*>(core->world().tree().find(core->list().hwndEdit()));
-    return box != nullptr ? box->field() : nullptr;
+    return core != nullptr && !list_.hasEnded() ? core->field() : nullptr;
 }
 
 bool SpokenList::hasKeyboard() const {

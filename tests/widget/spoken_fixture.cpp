@@ -70,7 +70,9 @@ std::string inWords(const QAccessible::State& state) {
 }
 
 SpokenWidget::SpokenWidget() {
+    // What tells of itself while it is being made is not what it will be.
     switchAccessibility(true);
+    widget = makeWidget();
     widget->setObjectName(QStringLiteral("cities"));
     widget->setRowsDynamic(false);
     widget->setRowHeight(300);
