@@ -11,6 +11,9 @@ set(CPACK_COMPONENTS_ALL Development)
 if(LUMTEX_BUILD_QT)
     list(APPEND CPACK_COMPONENTS_ALL Qt)
 endif()
+if(LUMTEX_BUILD_DESIGNER)
+    list(APPEND CPACK_COMPONENTS_ALL Designer)
+endif()
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
@@ -65,6 +68,17 @@ cell.
 This package has the shared library, which programs need that were built
 with it.")
 
+# The library of the package above is not installed while this one is packed, so that dependency is said here.
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_NAME liblumtexlistview-qt6-designer)
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/src")
+set(CPACK_DEBIAN_DESIGNER_PACKAGE_DEPENDS
+    "liblumtexlistview-qt6 (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+set(CPACK_COMPONENT_DESIGNER_DESCRIPTION
+    "A plugin that shows the widget LumtexListView in the form editor of Qt 6, with
+its properties under headings, and that makes it for programs that load forms.")
+
 # lumtex_debian_documents(<package> <component>): what a Debian package says of itself.
 function(lumtex_debian_documents package component)
     set(changes "${PROJECT_BINARY_DIR}/package/${package}.changes")
@@ -79,6 +93,9 @@ endfunction()
 lumtex_debian_documents(liblumtexlistview-dev Development)
 if(LUMTEX_BUILD_QT)
     lumtex_debian_documents(liblumtexlistview-qt6 Qt)
+endif()
+if(LUMTEX_BUILD_DESIGNER)
+    lumtex_debian_documents(liblumtexlistview-qt6-designer Designer)
 endif()
 
 include(CPack)

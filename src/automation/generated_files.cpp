@@ -13,6 +13,7 @@ std::vector<GeneratedFile> generatedFiles() {
         {"include/LumtexListView.h", hostHeader()},
         {"src/qt/lumtex_list_view.h", qtWidgetHeader()},
         {"src/qt/lumtex_list_view.cpp", qtWidgetSource()},
+        {"src/designer/property_groups.inc", propertyGroups()},
     };
 }
 

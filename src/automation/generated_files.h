@@ -14,8 +14,8 @@ struct GeneratedFile {
     std::string text;
 };
 
-/// The type library's source, the tables of functions, the manifest, the header for hosts in C++, and the
-/// widget for those that use Qt.
+/// The type library's source, the tables of functions, the manifest, the header for hosts in C++, the
+/// widget for those that use Qt, and what their designer shows.
 std::vector<GeneratedFile> generatedFiles();
 
 /// The body of a class that derives from IDispatch: one virtual function for each entry of the type library,
@@ -36,6 +36,9 @@ std::string sideBySideManifest();
 /// The class LumtexListView, a widget of Qt: properties, enumerations, invokable members and signals.
 std::string qtWidgetHeader();
 std::string qtWidgetSource();
+
+/// Rows of a table: each property of the bag, and the heading under which designers list it.
+std::string propertyGroups();
 
 /// The source of the type library in the interface definition language: enumerations, the record, a dual
 /// interface for each public class with an entry for each get, let or set and call, the event interface, and

@@ -3,14 +3,12 @@
 #include "automation/class_table.h"
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
+#include "changed_settings.h"
 #include "model/property_table.h"
 #include "widget_fixture.h"
 
-#include <QColor>
-#include <QFont>
 #include <QMetaMethod>
 #include <QMetaProperty>
-#include <QPixmap>
 #include <QSignalSpy>
 #include <set>
 
@@ -112,52 +110,6 @@ TEST(MetaObject, EachPropertyOfTheBagIsASettingThatCanBeTakenBackAndTellsOfItsel
 }
 
 // Settings
-
-/// A value that the property has not.
-QVariant anotherThan(const QMetaProperty& property, const QVariant& value) {
-    switch (property.typeId()) {
-    case QMetaType::Bool:
-        return !value.toBool();
-    case QMetaType::QColor:
-        return QColor(1, 2, 3);
-    case QMetaType::QFont: {
-        QFont font(QStringLiteral("DejaVu Serif"), 17);
-        font.setBold(true);
-        return font;
-    }
-    case QMetaType::QPixmap: {
-        QPixmap picture(3, 2);
-        picture.fill(Qt::red);
-        return picture;
-    }
-    case QMetaType::QString:
-        return value.toString() + QStringLiteral("x");
-    default:
-        break;
-    }
-    if (property.isEnumType())
-        return property.enumerator().value(value.toInt() == property.enumerator().value(0) ? 1 : 0);
-    QVariant other = value.toInt() + 1;
-    other.convert(property.metaType());
-    return other;
-}
-
-/// Pictures compare by their sizes.
-QVariant comparable(const QVariant& value) {
-    if (value.typeId() == QMetaType::QPixmap)
-        return value.value<QPixmap>().size();
-    if (value.typeId() == QMetaType::QFont)
-        return value.value<QFont>().toString();
-    return value.metaType().flags().testFlag(QMetaType::IsEnumeration) ? QVariant(value.toInt()) : value;
-}
-
-std::vector<std::string> settings() {
-    std::vector<std::string> names;
-    for (int i = meta().propertyOffset(); i < meta().propertyCount(); ++i)
-        if (meta().property(i).isResettable() && meta().property(i).isWritable())
-            names.emplace_back(meta().property(i).name());
-    return names;
-}
 
 class MetaSetting : public WidgetTest, public ::testing::WithParamInterface<std::string> {};
 
