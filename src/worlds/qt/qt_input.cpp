@@ -1,6 +1,5 @@
 /// Mouse, keys, wheel and tips, as widgets hear of them.
 #include "worlds/qt/key_codes.h"
-#include "worlds/qt/mouse_buttons.h"
 #include "worlds/qt/qt_text.h"
 #include "worlds/qt/qt_text_box.h"
 #include "worlds/qt/qt_window.h"
@@ -51,7 +50,7 @@ void QtWorld::mouseOver(const QWidget& field, const worlds::Pane& pane, QEvent& 
     const Delivery delivery(*this);
     try {
         const auto& mouse = static_cast<const QMouseEvent&>(event);
-        mouseEvent(onDesktop(field, pane, mouse.position()), mouse);
+        mouseEvent(onDesktop(field, pane, mouse.position()), mouse, 0);
     } catch (...) {
         return;
     }
@@ -67,7 +66,7 @@ bool QtWorld::deliver(ScreenWidget& screen, QEvent& event) {
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease: {
         const auto& mouse = static_cast<QMouseEvent&>(event);
-        mouseEvent(onDesktop(screen, *pane, mouse.position()), mouse);
+        mouseEvent(onDesktop(screen, *pane, mouse.position()), mouse, pane->handle());
         return true;
     }
     case QEvent::Wheel: {
@@ -147,37 +146,6 @@ Point QtWorld::onDesktop(const QWidget& widget, const worlds::Pane& pane, QPoint
     const Point origin = pane.origin();
     return {origin.x + static_cast<Long>(std::floor(at.x() * ratio_)),
             origin.y + static_cast<Long>(std::floor(at.y() * ratio_))};
-}
-
-void QtWorld::mouseEvent(Point at, const QMouseEvent& event) {
-    const Integer shift = shiftOf(event.modifiers());
-    const MouseButton button = buttonOf(event.button());
-    const Integer others = static_cast<Integer>(buttonsOf(event.buttons()) & ~button);
-    worlds::Pointer::Event told = pointer_.moveTo(at, shift);
-    switch (event.type()) {
-    case QEvent::MouseMove:
-        pointer_.letButtons(buttonsOf(event.buttons()));
-        pointer_.deliverMove(pointer_.moveTo(at, shift));
-        break;
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        if (button == noButton)
-            return;
-        pointer_.letButtons(others);
-        told = pointer_.press(button, shift);
-        if (event.type() == QEvent::MouseButtonPress)
-            pointer_.deliverPress(told);
-        else
-            pointer_.deliverDoublePress(told);
-        break;
-    default:
-        if (button == noButton)
-            return;
-        pointer_.letButtons(static_cast<Integer>(others | button));
-        pointer_.deliverRelease(pointer_.release(button, shift));
-        break;
-    }
-    showPointer();
 }
 
 bool QtWorld::wheelEvent(Point at, const QWheelEvent& event) {

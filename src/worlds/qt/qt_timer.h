@@ -6,13 +6,16 @@
 
 #include <QTimer>
 #include <functional>
+#include <vector>
 
 namespace lumtex::qt {
 
 /// Precise to the millisecond where the system is.
 class QtTimer final : public Timer {
   public:
-    explicit QtTimer(std::function<void()> onTimer);
+    /// `among` lists it as long as it lives, and must outlive it; null for none.
+    explicit QtTimer(std::function<void()> onTimer, std::vector<QtTimer*>* among = nullptr);
+    ~QtTimer() override;
 
     bool Enabled() const override { return enabled_; }
     void letEnabled(bool enabled) override;
@@ -20,10 +23,18 @@ class QtTimer final : public Timer {
     /// Starts over, also for the interval that it has; a negative one counts as 0.
     void letInterval(Long milliseconds) override;
 
+    bool runs() const { return timer_.isActive(); }
+    /// Whether it ticked since it was started.
+    bool hasTicked() const { return ticked_; }
+    void tick();
+
   private:
     void restart();
 
     QTimer timer_;
+    std::function<void()> onTimer_;
+    std::vector<QtTimer*>* among_;
+    bool ticked_ = false;
     bool enabled_ = false;
     Long interval_ = 0;
 };

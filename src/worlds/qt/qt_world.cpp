@@ -116,10 +116,12 @@ std::unique_ptr<GuideLine> QtWorld::createGuideLine(Window& parent) {
 }
 
 std::unique_ptr<Timer> QtWorld::createTimer(std::function<void()> onTimer) {
-    return std::make_unique<QtTimer>([this, tick = std::move(onTimer)] {
-        const Delivery delivery(*this);
-        tick();
-    });
+    return std::make_unique<QtTimer>(
+        [this, tick = std::move(onTimer)] {
+            const Delivery delivery(*this);
+            tick();
+        },
+        &timers_);
 }
 
 void QtWorld::refuseHugeSize(Long width, Long height) {

@@ -4,6 +4,7 @@
 
 #include "platform/world.h"
 #include "raster/font_library.h"
+#include "worlds/common/early_presses.h"
 #include "worlds/common/focus.h"
 #include "worlds/common/kept_tips.h"
 #include "worlds/common/pointer.h"
@@ -22,8 +23,11 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace lumtex::qt {
+
+class QtTimer;
 
 /// Belongs to the thread of the application object, as do all things made by it.
 ///
@@ -112,7 +116,14 @@ class QtWorld : public World {
 
     bool deliver(ScreenWidget& screen, QEvent& event);
     Point onDesktop(const QWidget& widget, const worlds::Pane& pane, QPointF at) const;
-    void mouseEvent(Point at, const QMouseEvent& event);
+    /// `window` is the outermost one; 0 for an event that must be told before this returns.
+    void mouseEvent(Point at, const QMouseEvent& event, WindowHandle window);
+    void tellPress(Point at, const QMouseEvent& event);
+    void tellRelease(Point at, const QMouseEvent& event);
+    /// The timers by which controls notice the mouse.
+    std::vector<QtTimer*> quickTimers() const;
+    worlds::EarlyPresses::Noticed noticed() const;
+    void tickQuickTimers();
     bool wheelEvent(Point at, const QWheelEvent& event);
     void pointerLeft(const ScreenWidget& screen, const worlds::Pane& pane);
     void keyPressed(const QKeyEvent& event);
@@ -129,9 +140,12 @@ class QtWorld : public World {
     Runtime* runtime_;
     QEventLoop* modal_ = nullptr; ///< the innermost form's that is open
     int depth_ = 0;
-    bool claiming_ = false;          ///< the platform's focus moves because ours does
-    WindowHandle focusedLast_ = 0;   ///< has the focus again when its window is back
-    Long wheelRest_ = 0;             ///< of a notch
+    bool claiming_ = false;        ///< the platform's focus moves because ours does
+    WindowHandle focusedLast_ = 0; ///< has the focus again when its window is back
+    Long wheelRest_ = 0;           ///< of a notch
+    bool moveIsFresh_ = false;     ///< no event but those of the mouse has come since it was told
+    std::vector<QtTimer*> timers_;
+    worlds::EarlyPresses presses_{[this] { return noticed(); }, [this] { tickQuickTimers(); }};
     std::deque<Integer> characters_; ///< of a key that went down, waiting for what the key itself sets off
     worlds::WindowTree tree_;
     worlds::Focus focus_{tree_};

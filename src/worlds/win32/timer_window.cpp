@@ -3,6 +3,9 @@
 #include "values/runtime_error.h"
 #include "worlds/win32/win32_timer.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace lumtex::win32 {
 
 namespace {
@@ -29,7 +32,7 @@ UINT_PTR TimerWindow::start(Win32Timer& timer, Long milliseconds) {
     const UINT_PTR run = ++lastRun_;
     if (!ticks_.start(window_, run, milliseconds))
         return 0;
-    running_.emplace(run, &timer);
+    running_.emplace(run, Run{&timer});
     return run;
 }
 
@@ -40,8 +43,36 @@ void TimerWindow::stop(UINT_PTR run) {
 
 void TimerWindow::tick(UINT_PTR run) {
     const auto found = running_.find(run);
-    if (found != running_.end())
-        found->second->tick();
+    if (found == running_.end())
+        return;
+    found->second.hasTicked = true;
+    found->second.timer->tick();
+}
+
+bool TimerWindow::Run::isQuick() const {
+    return timer->Interval() <= worlds::EarlyPresses::handsGap;
+}
+
+worlds::EarlyPresses::Noticed TimerWindow::noticed() const {
+    auto found = worlds::EarlyPresses::Noticed::nothing;
+    for (const auto& [number, run] : running_) {
+        if (run.isQuick() && !run.hasTicked)
+            return worlds::EarlyPresses::Noticed::soon;
+        if (run.isQuick())
+            found = worlds::EarlyPresses::Noticed::already;
+    }
+    return found;
+}
+
+void TimerWindow::tickQuickOnes() {
+    std::vector<UINT_PTR> due;
+    for (const auto& [number, run] : running_)
+        if (run.isQuick() && !run.hasTicked)
+            due.push_back(number);
+    // In the order in which they were started; a tick may end another timer.
+    std::ranges::sort(due);
+    for (const UINT_PTR number : due)
+        tick(number);
 }
 
 bool TimerWindow::post(void (*work)(void*), void* argument) const {

@@ -2,6 +2,7 @@
 /// The window that the timers of a world tick through. It is never shown.
 #pragma once
 
+#include "worlds/common/early_presses.h"
 #include "worlds/win32/tick_source.h"
 #include "worlds/win32/window_class.h"
 
@@ -22,6 +23,10 @@ class TimerWindow {
     /// Begins to tick; the number names this run of the timer. 0 if there is no timer left.
     UINT_PTR start(Win32Timer& timer, Long milliseconds);
     void stop(UINT_PTR run);
+    /// What the timers by which controls notice the mouse have done.
+    worlds::EarlyPresses::Noticed noticed() const;
+    /// Lets each of these tick that has not since it was started.
+    void tickQuickOnes();
     /// Has the thread of the window call `work` with `argument` when its messages run next. May be called
     /// from any thread, and `work` may end the window. False if the thread has gone, or takes no more
     /// messages.
@@ -35,7 +40,13 @@ class TimerWindow {
     WindowClass class_;
     HWND window_ = nullptr;
     UINT_PTR lastRun_ = 0;
-    std::unordered_map<UINT_PTR, Win32Timer*> running_;
+    struct Run {
+        Win32Timer* timer;
+        bool hasTicked = false;
+
+        bool isQuick() const;
+    };
+    std::unordered_map<UINT_PTR, Run> running_;
 };
 
 } // namespace lumtex::win32

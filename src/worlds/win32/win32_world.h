@@ -4,6 +4,7 @@
 
 #include "platform/world.h"
 #include "worlds/common/click_sequence.h"
+#include "worlds/common/early_presses.h"
 #include "worlds/win32/timer_window.h"
 #include "worlds/win32/win32_runtime.h"
 #include "worlds/win32/win32_tips.h"
@@ -83,6 +84,8 @@ class Win32World final : public World {
     static void refuseHugeSize(Long width, Long height);
 
     worlds::ClickSequence press;
+    worlds::EarlyPresses earlyPresses{[this] { return timers_.noticed(); },
+                                      [this] { timers_.tickQuickOnes(); }};
 
     /// Gives up the capture, whoever of the thread has it. The system makes up a move then, for the window
     /// that is under the mouse when messages run next.

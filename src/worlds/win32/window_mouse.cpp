@@ -11,6 +11,13 @@ POINT placeOf(const WindowMessage& message) {
     return {static_cast<Integer>(LOWORD(message.lParam)), static_cast<Integer>(HIWORD(message.lParam))};
 }
 
+/// The message that is dealt with came of a finger or a pen: so the system signs those.
+bool isMadeFromTouch() {
+    constexpr LPARAM signature = 0xFF515700;
+    constexpr LPARAM signedPart = 0xFFFFFF00;
+    return (GetMessageExtraInfo() & signedPart) == signature;
+}
+
 Integer shiftOf(const WindowMessage& message) {
     return shiftKeysIn(message.wParam, isKeyDown(VK_MENU));
 }
@@ -25,11 +32,13 @@ worlds::ClickSequence::Event pressEvent(MouseButton button, const WindowMessage&
 Win32Window::Answer Win32Window::answerMouse(const WindowMessage& message) {
     switch (message.number) {
     case WM_MOUSEMOVE: {
-        const POINT at = placeOf(message);
-        client_.UserControl_MouseMove(buttonsIn(message.wParam),
-                                      shiftOf(message),
-                                      static_cast<Single>(at.x),
-                                      static_cast<Single>(at.y));
+        const Integer shift = shiftOf(message);
+        world_.earlyPresses.move(hWnd(), [message, shift] {
+            const POINT at = placeOf(message);
+            if (Win32Window* const self = of(message.window))
+                self->client_.UserControl_MouseMove(
+                    buttonsIn(message.wParam), shift, static_cast<Single>(at.x), static_cast<Single>(at.y));
+        });
         return 0;
     }
     case WM_LBUTTONDOWN:
@@ -86,18 +95,29 @@ class Win32Window::PressTarget final : public worlds::ClickSequence::Target {
 };
 
 Win32Window::Answer Win32Window::pressed(MouseButton button, bool isSecond, const WindowMessage& message) {
-    PressTarget target(*this);
     const worlds::ClickSequence::Event event = pressEvent(button, message);
-    if (isSecond)
-        world_.press.pressAgain(&target, event);
-    else
-        world_.press.press(&target, event);
+    world_.earlyPresses.press(hWnd(), isMadeFromTouch(), [event, isSecond, window = message.window] {
+        Win32Window* const self = of(window);
+        if (self == nullptr)
+            return;
+        PressTarget target(*self);
+        if (isSecond)
+            self->world_.press.pressAgain(&target, event);
+        else
+            self->world_.press.press(&target, event);
+    });
     return 0;
 }
 
 Win32Window::Answer Win32Window::released(MouseButton button, const WindowMessage& message) {
-    PressTarget target(*this);
-    world_.press.release(&target, pressEvent(button, message), Win32World::giveUpCapture);
+    const worlds::ClickSequence::Event event = pressEvent(button, message);
+    world_.earlyPresses.other(hWnd(), [event, window = message.window] {
+        Win32Window* const self = of(window);
+        if (self == nullptr)
+            return;
+        PressTarget target(*self);
+        self->world_.press.release(&target, event, Win32World::giveUpCapture);
+    });
     return 0;
 }
 
