@@ -2,6 +2,7 @@
 #include "activex/class_factory.h"
 
 #include "activex/com_guard.h"
+#include "activex/general_page.h"
 #include "activex/guid.h"
 #include "activex/helper_object.h"
 #include "activex/list_control.h"
@@ -20,6 +21,9 @@ using Make = IUnknown* (*)(IUnknown* outer);
 IUnknown* makeControl(IUnknown* outer) {
     return &(new ListControl(outer))->inner();
 }
+IUnknown* makeGeneralPage(IUnknown* /*outer*/) {
+    return new GeneralPage;
+}
 IUnknown* makeSpEv(IUnknown* /*outer*/) {
     return new HelperObject<SpEvTarget>;
 }
@@ -37,6 +41,7 @@ constexpr PublicObject publicObjects[] = {
     {guidOf("lmListView"), makeControl, true},
     {guidOf("SpEv"), makeSpEv, false},
     {guidOf("Error"), makeError, false},
+    {guidFrom(automation::generalPageUuid), makeGeneralPage, false},
 };
 
 /// Locks of the host, which outlive the factory that took them and may come from any thread.

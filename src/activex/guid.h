@@ -22,9 +22,8 @@ constexpr unsigned long hexNumber(std::string_view digits) {
 
 } // namespace detail
 
-/// The identifier of a name of the type library, see `identifiers`.
-constexpr GUID guidOf(std::string_view name) {
-    const std::string_view text = automation::uuidOf(name);
+/// `text` is in lower case, without braces.
+constexpr GUID guidFrom(std::string_view text) {
     GUID guid{detail::hexNumber(text.substr(0, 8)),
               static_cast<unsigned short>(detail::hexNumber(text.substr(9, 4))),
               static_cast<unsigned short>(detail::hexNumber(text.substr(14, 4))),
@@ -33,6 +32,11 @@ constexpr GUID guidOf(std::string_view name) {
         guid.Data4[i] =
             static_cast<unsigned char>(detail::hexNumber(text.substr(i < 2 ? 19 + 2 * i : 20 + 2 * i, 2)));
     return guid;
+}
+
+/// The identifier of a name of the type library, see `identifiers`.
+constexpr GUID guidOf(std::string_view name) {
+    return guidFrom(automation::uuidOf(name));
 }
 
 /// "{5BDC0D33-...}"

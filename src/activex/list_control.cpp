@@ -10,7 +10,8 @@ ListControl::ListControl(IUnknown* outer)
       core_(outer_, connections_), automation_(outer_, core_), object_(outer_, *this),
       control_(outer_, core_), inPlace_(outer_, core_), active_(outer_, core_), view_(outer_, core_),
       data_(outer_, core_), bag_(outer_, core_), stream_(outer_, core_), storage_(outer_, core_),
-      classInfo_(outer_), quick_(outer_, *this), errorInfo_(outer_, guidOf("_lmListView")) {}
+      classInfo_(outer_), quick_(outer_, *this), errorInfo_(outer_, guidOf("_lmListView")), pages_(outer_),
+      browsing_(outer_, core_) {}
 
 HRESULT ListControl::Inner::QueryInterface(REFIID iid, void** found) {
     if (found == nullptr)
@@ -76,6 +77,8 @@ IUnknown* ListControl::face(REFIID iid) {
         {IID_IConnectionPointContainer, connections_},
         {IID_IQuickActivate, quick_},
         {IID_ISupportErrorInfo, errorInfo_},
+        {IID_ISpecifyPropertyPages, pages_},
+        {IID_IPerPropertyBrowsing, browsing_},
     };
     for (const Entry& entry : entries)
         if (IsEqualIID(iid, entry.iid))

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "activex/class_faces.h"
+#include "activex/designer_faces.h"
 #include "activex/in_place_faces.h"
 #include "activex/list_view_face.h"
 #include "activex/ole_object_face.h"
@@ -68,6 +69,8 @@ class ListControl {
     ClassInfoFace classInfo_;
     QuickFace quick_;
     ErrorInfoFace errorInfo_;
+    PagesFace pages_;
+    BrowsingFace browsing_;
 };
 
 } // namespace lumtex::win32

@@ -1,9 +1,11 @@
 /// Site, verbs and size.
 #include "activex/ole_object_face.h"
 
+#include "activex/designer_faces.h"
 #include "activex/guid.h"
 #include "activex/list_control.h"
 #include "activex/snapshot_enum.h"
+#include "activex/task_memory.h"
 
 namespace lumtex::win32 {
 
@@ -56,12 +58,8 @@ HRESULT OleObjectFace::GetClipboardData(DWORD /*reserved*/, IDataObject** data) 
     return outer().QueryInterface(IID_IDataObject, reinterpret_cast<void**>(data));
 }
 
-HRESULT OleObjectFace::DoVerb(LONG verb,
-                              LPMSG /*message*/,
-                              IOleClientSite* /*site*/,
-                              LONG /*index*/,
-                              HWND /*parent*/,
-                              LPCRECT /*place*/) {
+HRESULT OleObjectFace::DoVerb(
+    LONG verb, LPMSG /*message*/, IOleClientSite* /*site*/, LONG /*index*/, HWND parent, LPCRECT /*place*/) {
     const ComRef<IUnknown> alive(&outer());
     return control_.core().entered([&]() -> HRESULT {
         ControlCore& core = control_.core();
@@ -76,6 +74,8 @@ HRESULT OleObjectFace::DoVerb(LONG verb,
             core.deactivateUI();
             core.list().window().letVisible(false);
             return S_OK;
+        case OLEIVERB_PROPERTIES:
+            return showProperties(core, parent);
         case OLEIVERB_OPEN:
         case OLEIVERB_DISCARDUNDOSTATE:
             return E_NOTIMPL;
@@ -96,8 +96,12 @@ HRESULT OleObjectFace::EnumVerbs(IEnumOLEVERB** verbs) {
     *verbs = nullptr;
     return control_.core().entered([&] {
         std::vector<OLEVERB> items;
-        for (const LONG verb :
-             {OLEIVERB_PRIMARY, OLEIVERB_SHOW, OLEIVERB_HIDE, OLEIVERB_UIACTIVATE, OLEIVERB_INPLACEACTIVATE})
+        for (const LONG verb : {OLEIVERB_PRIMARY,
+                                OLEIVERB_SHOW,
+                                OLEIVERB_HIDE,
+                                OLEIVERB_UIACTIVATE,
+                                OLEIVERB_INPLACEACTIVATE,
+                                OLEIVERB_PROPERTIES})
             items.push_back({verb, nullptr, 0, 0});
         *verbs = new SnapshotEnum<IEnumOLEVERB, OLEVERB, VerbPolicy>(std::move(items));
         return S_OK;
@@ -114,12 +118,11 @@ HRESULT OleObjectFace::GetUserClassID(CLSID* id) {
 HRESULT OleObjectFace::GetUserType(DWORD /*form*/, LPOLESTR* type) {
     if (type == nullptr)
         return E_POINTER;
-    constexpr wchar_t name[] = L"LumtexListView.lmListView";
-    *type = static_cast<LPOLESTR>(CoTaskMemAlloc(sizeof(name)));
-    if (*type == nullptr)
-        return E_OUTOFMEMORY;
-    std::copy(std::begin(name), std::end(name), *type);
-    return S_OK;
+    *type = nullptr;
+    return guarded([&] {
+        *type = newTaskText(u"LumtexListView.lmListView").release();
+        return S_OK;
+    });
 }
 
 HRESULT OleObjectFace::SetExtent(DWORD aspect, SIZEL* extent) {

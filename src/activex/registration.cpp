@@ -106,6 +106,17 @@ void appendClass(std::vector<Entry>& entries, const RegisteredClass& registered)
     entries.push_back({key + u"\\ToolboxBitmap32", u"", modulePath() + u", 102"});
 }
 
+String pageKey() {
+    return u"CLSID\\" + textOfGuid(guidFrom(automation::generalPageUuid));
+}
+
+/// Frames make it by its identifier alone.
+void appendPage(std::vector<Entry>& entries) {
+    entries.push_back({pageKey(), u"", u"LumtexListView property page"});
+    entries.push_back({pageKey() + u"\\InprocServer32", u"", modulePath()});
+    entries.push_back({pageKey() + u"\\InprocServer32", u"ThreadingModel", u"Apartment"});
+}
+
 void appendLibrary(std::vector<Entry>& entries) {
     const String version = libraryKey() + u"\\" + libraryVersion();
     const String path = modulePath();
@@ -129,6 +140,7 @@ std::vector<Entry> allEntries() {
     std::vector<Entry> entries;
     for (const RegisteredClass& registered : classes)
         appendClass(entries, registered);
+    appendPage(entries);
     appendLibrary(entries);
     return entries;
 }
@@ -211,6 +223,7 @@ HRESULT unregisterComponent(Registry registry) noexcept {
         }
         for (const RegisteredInterface& registered : interfaces)
             trees.push_back(keyOf(registered));
+        trees.push_back(pageKey());
         trees.push_back(ownFileKey());
         HRESULT result = S_OK;
         for (const String& tree : trees)

@@ -20,6 +20,11 @@ const ClassDescription& errorClass();
 inline constexpr Help libraryHelp{u"LumtexListView, a list of rows and columns.",
                                   u"LumtexListView, eine Liste aus Zeilen und Spalten."};
 
+/// What designers offer first: the property that they select, and the event that a double click writes a
+/// handler for.
+inline constexpr StringView firstProperty = u"ColorStyle";
+inline constexpr StringView firstEvent = u"ItemClick";
+
 /// All of them: the control first, then the classes that hosts create beside it.
 std::span<const ClassDescription> classTable();
 

@@ -42,6 +42,9 @@ constexpr auto identifiers = std::to_array<Identifier>({
 });
 // clang-format on
 
+/// The class of the control's page in sheets of properties, which is no class of the library.
+constexpr std::string_view generalPageUuid = "f77b79e6-2a83-47dd-ae2a-e08447b908a2";
+
 /// Version of the type library; a host that was built against one major version finds no other.
 constexpr int typeLibraryMajor = 1;
 constexpr int typeLibraryMinor = 0;

@@ -41,6 +41,12 @@ std::string classElement(const ClassDescription& description) {
            classTraits(description) + "/>\n";
 }
 
+/// No program asks for a page by name.
+std::string pageElement() {
+    return "    <comClass" + attribute("clsid", braced(generalPageUuid)) + "\n       " +
+           attribute("threadingModel", "Apartment") + "/>\n";
+}
+
 std::string interfaceElement(const std::string& name, std::string_view marshaller) {
     return "  <comInterfaceExternalProxyStub" + attribute("name", name) +
            attribute("iid", braced(uuidOf(name))) + "\n     " +
@@ -58,6 +64,7 @@ std::string sideBySideManifest() {
                        libraryVersion() + ".0.0\"/>\n  <file name=\"LumtexListView.ocx\">\n";
     for (const ClassDescription& description : classTable())
         text += classElement(description);
+    text += pageElement();
     text += "    <typelib" + attribute("tlbid", braced(uuidOf("LumtexListView"))) +
             attribute("version", libraryVersion()) + attribute("helpdir", "") + "/>\n  </file>\n";
     for (const ClassDescription& description : classTable())

@@ -1,4 +1,5 @@
 /// The type library's source.
+#include "automation/call_by_name.h"
 #include "automation/class_table.h"
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
@@ -86,12 +87,18 @@ const char* attributeOf(const InterfaceEntry& entry) {
     return takesAnyNumber(*entry.member) ? "vararg, " : "";
 }
 
+/// Whether designers offer the property first.
+bool comesFirst(const Member& member) {
+    return &member == findMember(listViewClass(), firstProperty);
+}
+
 std::string entryText(const InterfaceEntry& entry) {
     using enum InterfaceEntry::Kind;
     const Member& member = *entry.member;
     std::string text = "        [" + std::string(attributeOf(entry)) + "id(" + std::to_string(member.number) +
-                       "), " + helpText(member.help) + (member.hidden ? ", nonbrowsable]" : "]") +
-                       "\n        HRESULT " + toUtf8(member.name) + "(";
+                       "), " + helpText(member.help) + (comesFirst(member) ? ", uidefault" : "") +
+                       (member.hidden ? ", nonbrowsable]" : "]") + "\n        HRESULT " +
+                       toUtf8(member.name) + "(";
     const char* separator = "";
     for (const Parameter& parameter : member.parameters()) {
         text += separator + parameterText(parameter);
@@ -120,8 +127,8 @@ std::string eventsText() {
                        "    properties:\n    methods:\n";
     int number = 0;
     for (const EventDescription& event : eventTable) {
-        text += "        [id(" + std::to_string(++number) + "), " + helpText(event.help) + "] void " +
-                toUtf8(event.name) + "(";
+        text += "        [id(" + std::to_string(++number) + "), " + helpText(event.help) +
+                (event.name == firstEvent ? ", uidefault] void " : "] void ") + toUtf8(event.name) + "(";
         const char* separator = "";
         for (const EventArgument& argument : event.arguments()) {
             text += std::string(separator) + (argument.byReference ? "[in, out] " : "[in] ") +

@@ -57,6 +57,7 @@ class SmallContainer final : public IOleClientSite,
     std::vector<std::string> told;
     ULONG references = 1;
     HRESULT mayTakeOver = S_OK;         ///< what OnUIActivate answers
+    HRESULT propertyFrame = E_NOTIMPL;  ///< whether it shows a sheet of its own
     std::function<void()> onUIActivate; ///< what the container does then, once
     std::function<void()> onTab;        ///< the same for that key
     bool takesTab = false;              ///< keeps Tab for itself
@@ -183,7 +184,10 @@ class SmallContainer final : public IOleClientSite,
         focused.push_back(got != FALSE);
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override {
+        note("ShowPropertyFrame");
+        return propertyFrame;
+    }
 
     // IDispatch
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {

@@ -42,6 +42,14 @@ TEST_F(Verbs, AnUnknownVerbIsThePrimaryOneOrRefusedByItsSign) {
     EXPECT_EQ(verb(OLEIVERB_DISCARDUNDOSTATE), E_NOTIMPL);
 }
 
+TEST_F(Verbs, AContainerWithASheetOfItsOwnShowsTheProperties) {
+    place();
+    container.propertyFrame = S_OK;
+    EXPECT_EQ(verb(OLEIVERB_PROPERTIES), S_OK);
+    EXPECT_EQ(container.told.back(), "ShowPropertyFrame");
+    EXPECT_TRUE(watch.boxes.empty());
+}
+
 TEST_F(Verbs, TheVerbsCanBeListed) {
     win32::ComRef<IEnumOLEVERB> verbs;
     ASSERT_EQ(object->EnumVerbs(verbs.out()), S_OK);
@@ -49,14 +57,14 @@ TEST_F(Verbs, TheVerbsCanBeListed) {
     OLEVERB item{};
     while (verbs->Next(1, &item, nullptr) == S_OK)
         numbers.push_back(item.lVerb);
-    EXPECT_EQ(numbers, (std::vector<LONG>{0, -1, -3, -4, -5}));
+    EXPECT_EQ(numbers, (std::vector<LONG>{0, -1, -3, -4, -5, -7}));
     ASSERT_EQ(verbs->Reset(), S_OK);
     EXPECT_EQ(verbs->Skip(4), S_OK);
     win32::ComRef<IEnumOLEVERB> copy;
     ASSERT_EQ(verbs->Clone(copy.out()), S_OK);
     EXPECT_EQ(copy->Next(1, &item, nullptr), S_OK);
     EXPECT_EQ(item.lVerb, OLEIVERB_INPLACEACTIVATE);
-    EXPECT_EQ(copy->Skip(1), S_FALSE);
+    EXPECT_EQ(copy->Skip(2), S_FALSE);
 }
 
 TEST_F(Verbs, ASiteThatGoesTakesTheControlOutOfItsWindow) {

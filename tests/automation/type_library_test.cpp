@@ -53,6 +53,8 @@ TEST(TypeLibrary, EveryIdentifierIsWellFormedAndUsedOnce) {
         EXPECT_TRUE(names.insert(identifier.name).second) << identifier.name;
         EXPECT_TRUE(uuids.insert(identifier.uuid).second) << identifier.name;
     }
+    EXPECT_TRUE(std::regex_match(std::string(automation::generalPageUuid), form));
+    EXPECT_TRUE(uuids.insert(automation::generalPageUuid).second);
 }
 
 TEST(TypeLibrary, EveryIdentifierStandsInTheSource) {
@@ -108,6 +110,16 @@ TEST(TypeLibrary, EveryEntryOfEveryMemberIsDeclared) {
                 holds(source, "HRESULT " + toUtf8(member.name) + "("))
                 << toUtf8(member.name);
         }
+}
+
+TEST(TypeLibrary, OnePropertyAndOneEventComeFirstInDesigners) {
+    const std::string source = automation::typeLibrarySource();
+    std::vector<std::string> first;
+    const std::regex mark(", uidefault\\]\\s*(?:HRESULT|void) (\\w+)\\(");
+    for (std::sregex_iterator found(source.begin(), source.end(), mark), end; found != end; ++found)
+        first.push_back((*found)[1]);
+    EXPECT_EQ(first, (std::vector<std::string>{"ColorStyle", "ColorStyle", "ItemClick"}))
+        << "reading and assigning the property, and the event";
 }
 
 TEST(TypeLibrary, APropertysGetComesBeforeItsLet) {
