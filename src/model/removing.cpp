@@ -36,7 +36,7 @@ void lmListView::removeRow(Long Index, Procedure& p) {
     QueueWatch watch(runtime().queue());
     for (Long row = Index; row <= last; ++row) {
         // While nothing waits for the host, nobody sees that the others move at once.
-        if (!watch.eventWaits() && records.upperBoundOfRows() == last) {
+        if (!watch.eventWaits() && records.RowsCount() == last + 1) {
             records.rows().remove(static_cast<std::size_t>(row) - 1);
             return;
         }

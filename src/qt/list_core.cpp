@@ -34,20 +34,26 @@ void WidgetHost::PropertyChanged(StringView name) {
 }
 
 ListCore::ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_ptr<WidgetEvents> events)
-    : host_(widget), world_(std::move(world)), events_(std::move(events)), list_(*world_, host_, *events_) {}
+    : host_(widget), world_(std::move(world)), events_(std::move(events)),
+      list_(std::make_unique<lmListView>(*world_, host_, *events_)) {}
+
+void ListCore::end() {
+    events_->muted = true;
+    list_.reset();
+}
 
 ScreenWidget* ListCore::screen() {
-    return static_cast<QtWindow&>(list_.window()).screen();
+    return static_cast<QtWindow&>(list_->window()).screen();
 }
 
 QLineEdit* ListCore::field() {
-    const auto* box = dynamic_cast<QtTextBox*>(world_->tree().find(list_.hwndEdit()));
+    const auto* box = dynamic_cast<QtTextBox*>(world_->tree().find(list_->hwndEdit()));
     return box != nullptr ? box->field() : nullptr;
 }
 
 void ListCore::resize(QSize size) {
     const auto pixels = [&](int units) { return static_cast<Single>(std::ceil(units * world_->ratio())); };
-    list_.window().place(0, 0, pixels(size.width()), pixels(size.height()));
+    list_->window().place(0, 0, pixels(size.width()), pixels(size.height()));
 }
 
 Variant ListCore::entered(StringView member, const std::function<Variant()>& work) {

@@ -38,15 +38,17 @@ class ListCore {
   public:
     ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_ptr<WidgetEvents> events);
 
-    lmListView& list() { return list_; }
+    /// There until `end`.
+    lmListView& list() { return *list_; }
     WidgetHost& host() { return host_; }
     QtWorld& world() { return *world_; }
     /// The widget in the widget that shows the list and takes all input; null once it has gone.
     ScreenWidget* screen();
     /// The field of the list's editor, open or not; null once it has gone.
     QLineEdit* field();
-    /// From here on no signal is raised.
-    void mute() { events_->muted = true; }
+    /// The widget goes, or has another list from now on: no signal is raised any more, nothing is reported,
+    /// and the list ends as soon as its last call has returned.
+    void end();
     /// Units of widgets.
     void resize(QSize size);
 
@@ -57,7 +59,7 @@ class ListCore {
     WidgetHost host_;
     std::unique_ptr<QtWorld> world_;
     std::unique_ptr<WidgetEvents> events_;
-    lmListView list_;
+    std::unique_ptr<lmListView> list_;
 };
 
 } // namespace lumtex::qt

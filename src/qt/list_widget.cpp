@@ -81,17 +81,17 @@ void ListWidget::start(WorldFactory makeWorld, EventsFactory makeEvents) {
 }
 
 void ListWidget::startAnew(const PropertyBag& settings, bool designed) {
-    if (core_ != nullptr)
-        core_->mute();
-    // What the settings set off may take the widget away.
-    const QPointer<ListWidget> self(this);
     speaker_.reset();
+    if (core_ != nullptr)
+        core_->end();
+    // What the settings set off may take the widget away, or make another list.
+    const QPointer<ListWidget> self(this);
     const auto core = std::make_shared<ListCore>(*this, makeWorld_(*this), makeEvents_());
     core_ = core;
     core->world().owner = core;
     core->host().designed = designed;
     core->list().UserControl_ReadProperties(settings);
-    if (self == nullptr)
+    if (self == nullptr || core_ != core)
         return;
     core->resize(size());
     setFocusProxy(core->screen());
@@ -99,8 +99,9 @@ void ListWidget::startAnew(const PropertyBag& settings, bool designed) {
 }
 
 void ListWidget::finish() {
-    core_->mute();
+    // What speaks of the list asks it.
     speaker_.reset();
+    core_->end();
     core_.reset();
 }
 

@@ -45,6 +45,13 @@ TEST_F(EndedList, ReportsNothingMore) {
     EXPECT_EQ(list, nullptr);
 }
 
+TEST_F(EndedList, LetsNoFailureOutOfTheRemovalThatItEndsIn) {
+    makeList();
+    desktop.onYield([&] { list.reset(); });
+    EXPECT_NO_THROW(list->RowsRemove(1));
+    EXPECT_EQ(list, nullptr);
+}
+
 TEST_F(EndedList, TellsItsHostNothingMore) {
     makeList();
     bool told = false;

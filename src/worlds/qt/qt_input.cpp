@@ -75,11 +75,9 @@ bool QtWorld::deliver(ScreenWidget& screen, QEvent& event) {
         event.setAccepted(taken);
         return true;
     }
-    case QEvent::Leave: {
-        const QtRuntime::HeldYields quiet;
+    case QEvent::Leave:
         pointerLeft(screen, *pane);
         return false;
-    }
     case QEvent::KeyPress: {
         const auto& key = static_cast<QKeyEvent&>(event);
         // What a widget over a cell leaves is for those around the list.
@@ -171,8 +169,16 @@ void QtWorld::pointerLeft(const ScreenWidget& screen, const worlds::Pane& pane) 
     const QPoint outside = screen.rect().contains(at) ? QPoint(-1, -1) : at;
     const worlds::Pointer::Event event =
         pointer_.moveTo(onDesktop(screen, pane, outside), shiftOf(QGuiApplication::keyboardModifiers()));
-    if (pointer_.captured() != 0)
-        pointer_.deliverMove(event);
+    // Qt walks on through the widgets that were left, which must not go meanwhile: so hosts hear of it behind
+    // that.
+    QMetaObject::invokeMethod(
+        &context_,
+        [this, event] {
+            const Delivery delivery(*this);
+            if (pointer_.captured() != 0)
+                pointer_.deliverMove(event);
+        },
+        Qt::QueuedConnection);
 }
 
 worlds::Pane* QtWorld::keyTarget() const {

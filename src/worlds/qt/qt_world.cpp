@@ -85,8 +85,9 @@ void QtWorld::showModal(Window& form) {
     QEventLoop loop;
     QEventLoop* const outer = std::exchange(modal_, &loop);
     const auto isOpen = [&] {
-        const worlds::Pane* pane = tree_.find(handle);
-        return pane != nullptr && pane->isVisible();
+        worlds::Pane* pane = tree_.find(handle);
+        // The widget around may have taken what shows it along.
+        return pane != nullptr && pane->isVisible() && windowOfOurs(*pane).screen() != nullptr;
     };
     // Anything else ends it because the application is told to end: its own loop hears of that too.
     while (isOpen() && loop.exec() == formClosed)

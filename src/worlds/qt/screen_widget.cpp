@@ -68,6 +68,8 @@ ScreenWidget::ScreenWidget(QtWorld& world, WindowHandle window, QWidget* contain
 
 ScreenWidget::~ScreenWidget() {
     sendGuestsHome();
+    if (world_ != nullptr)
+        world_->formMayBeClosed();
 }
 
 void ScreenWidget::loseWindow() {
