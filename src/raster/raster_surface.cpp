@@ -15,14 +15,14 @@ namespace lumtex::raster {
 
 namespace {
 
-constexpr Pixel opaque = 0xFF000000U;
+constexpr Pixel fullAlpha = 0xFF000000U;
 
 Pixel pixelOf(OLE_COLOR color) {
     if (isSystemColor(color)) {
         const unsigned index = systemColorIndex(color);
-        return opaque | (index < systemColors.size() ? systemColors[index] : 0U);
+        return fullAlpha | (index < systemColors.size() ? systemColors[index] : 0U);
     }
-    return opaque | (static_cast<Pixel>(redOf(color)) << 16U) | (static_cast<Pixel>(greenOf(color)) << 8U) |
+    return fullAlpha | (static_cast<Pixel>(redOf(color)) << 16U) | (static_cast<Pixel>(greenOf(color)) << 8U) |
            blueOf(color);
 }
 
@@ -137,7 +137,7 @@ void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const
         Pixel* pixels = target.row(static_cast<Long>(row));
         for (std::int64_t column = std::max<std::int64_t>(x, 0); column < right; ++column) {
             const Byte* pixel = bytes + nearestSource(column - x, width, source.width) * 3;
-            pixels[column] = opaque | (Pixel{pixel[2]} << 16U) | (Pixel{pixel[1]} << 8U) | Pixel{pixel[0]};
+            pixels[column] = fullAlpha | (Pixel{pixel[2]} << 16U) | (Pixel{pixel[1]} << 8U) | Pixel{pixel[0]};
         }
     }
 }

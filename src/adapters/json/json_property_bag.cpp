@@ -20,7 +20,7 @@ namespace lumtex::json {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
+using OrderedJson = nlohmann::ordered_json;
 
 struct GFree {
     void operator()(void* memory) const { g_free(memory); }
@@ -35,14 +35,14 @@ Double shortestDouble(Single value) {
     return wide;
 }
 
-Json jsonOfNumber(Double value) {
+OrderedJson jsonOfNumber(Double value) {
     if (!std::isfinite(value))
         throw RuntimeError(ErrorNumber::typeMismatch);
     return value;
 }
 
-Json jsonOfFont(const FontSpec& font) {
-    Json json = {{"Name", toUtf8(font.Name)}, {"Size", jsonOfNumber(shortestDouble(font.Size))}};
+OrderedJson jsonOfFont(const FontSpec& font) {
+    OrderedJson json = {{"Name", toUtf8(font.Name)}, {"Size", jsonOfNumber(shortestDouble(font.Size))}};
     for (const auto& [name, isSet] : {std::pair{"Bold", font.Bold},
                                       std::pair{"Italic", font.Italic},
                                       std::pair{"Underline", font.Underline},
@@ -53,7 +53,7 @@ Json jsonOfFont(const FontSpec& font) {
     return json;
 }
 
-Variant fontOfJson(const Json& json) {
+Variant fontOfJson(const OrderedJson& json) {
     FontSpec font{.Name = fromUtf8(json.at("Name").get<std::string>()),
                   .Size = Variant(json.at("Size").get<Double>()).toSingle()};
     font.Bold = json.value("Bold", false);
@@ -63,13 +63,13 @@ Variant fontOfJson(const Json& json) {
     return std::make_shared<Font>(std::move(font));
 }
 
-Json jsonOfPicture(const PictureImages& pictures, const Picture& picture) {
+OrderedJson jsonOfPicture(const PictureImages& pictures, const Picture& picture) {
     const std::vector<Byte> image = pictures.imageOfPicture(picture);
     const std::unique_ptr<char, GFree> base64(g_base64_encode(image.data(), image.size()));
     return {{"Picture", base64.get()}};
 }
 
-Variant pictureOfJson(const PictureImages& pictures, const Json& json) {
+Variant pictureOfJson(const PictureImages& pictures, const OrderedJson& json) {
     const auto& base64 = json.at("Picture").get_ref<const std::string&>();
     gsize size = 0;
     const std::unique_ptr<guchar, GFree> image(g_base64_decode(base64.c_str(), &size));
@@ -77,8 +77,8 @@ Variant pictureOfJson(const PictureImages& pictures, const Json& json) {
 }
 
 /// Throws 13 where there is nothing that JSON could say.
-Json jsonOf(const PictureImages& pictures, const Variant& value) {
-    return value.visit([&]<class T>(const T& held) -> Json {
+OrderedJson jsonOf(const PictureImages& pictures, const Variant& value) {
+    return value.visit([&]<class T>(const T& held) -> OrderedJson {
         if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, Byte> || std::is_same_v<T, Integer> ||
                       std::is_same_v<T, Long>)
             return held;
@@ -93,35 +93,35 @@ Json jsonOf(const PictureImages& pictures, const Variant& value) {
         else if constexpr (std::is_same_v<T, String>)
             return toUtf8(held);
         else if constexpr (std::is_same_v<T, FontRef>)
-            return held != nullptr ? jsonOfFont(held->spec) : Json();
+            return held != nullptr ? jsonOfFont(held->spec) : OrderedJson();
         else if constexpr (std::is_same_v<T, PictureRef>)
-            return held != nullptr ? jsonOfPicture(pictures, *held) : Json();
+            return held != nullptr ? jsonOfPicture(pictures, *held) : OrderedJson();
         else
             throw RuntimeError(ErrorNumber::typeMismatch);
     });
 }
 
 /// Throws 13 for what no value looks like.
-Variant valueOf(const PictureImages& pictures, const Json& json) {
+Variant valueOf(const PictureImages& pictures, const OrderedJson& json) {
     switch (json.type()) {
-    case Json::value_t::null:
+    case OrderedJson::value_t::null:
         return PictureRef{};
-    case Json::value_t::boolean:
+    case OrderedJson::value_t::boolean:
         return json.get<bool>();
-    case Json::value_t::number_integer:
-    case Json::value_t::number_unsigned:
-    case Json::value_t::number_float: {
+    case OrderedJson::value_t::number_integer:
+    case OrderedJson::value_t::number_unsigned:
+    case OrderedJson::value_t::number_float: {
         const auto number = json.get<Double>();
         const bool isLong = number >= std::numeric_limits<Long>::min() &&
                             number <= std::numeric_limits<Long>::max() && number == std::trunc(number);
         return isLong ? Variant(static_cast<Long>(number)) : Variant(number);
     }
-    case Json::value_t::string:
+    case OrderedJson::value_t::string:
         return fromUtf8(json.get_ref<const std::string&>());
-    case Json::value_t::object:
+    case OrderedJson::value_t::object:
         try {
             return json.contains("Picture") ? pictureOfJson(pictures, json) : fontOfJson(json);
-        } catch (const Json::exception&) {
+        } catch (const OrderedJson::exception&) {
             throw RuntimeError(ErrorNumber::typeMismatch);
         }
     default:
@@ -141,7 +141,7 @@ String keyOf(StringView name) {
 struct JsonPropertyBag::Members {
     struct Member {
         std::string name;
-        Json json;
+        OrderedJson json;
         bool known = false; ///< somebody asked for it, or wrote it
     };
 
@@ -150,7 +150,7 @@ struct JsonPropertyBag::Members {
         return found != places.end() ? &members[found->second] : nullptr;
     }
     /// Of several spellings the first counts.
-    void add(const std::string& name, Json json, bool known) {
+    void add(const std::string& name, OrderedJson json, bool known) {
         if (places.emplace(keyOf(fromUtf8(name)), members.size()).second)
             members.push_back({name, std::move(json), known});
     }
@@ -175,12 +175,12 @@ JsonPropertyBag::~JsonPropertyBag() = default;
 void JsonPropertyBag::parse(std::string_view json) {
     Members members;
     for (const JsonMember& member : membersOfObject(json))
-        members.add(member.name, Json(member.value), false);
+        members.add(member.name, OrderedJson(member.value), false);
     *members_ = std::move(members);
 }
 
 std::string JsonPropertyBag::text() const {
-    Json json = Json::object();
+    OrderedJson json = OrderedJson::object();
     for (const Members::Member& member : members_->members) {
         if (member.known)
             json[member.name] = member.json;
@@ -213,7 +213,7 @@ Variant JsonPropertyBag::ReadProperty(StringView name, const Variant& defaultVal
 void JsonPropertyBag::WriteProperty(StringView name, const Variant& value, const Variant& defaultValue) {
     if (sameValue(value, defaultValue))
         return members_->remove(name);
-    Json json = jsonOf(runtime_.pictures(), value);
+    OrderedJson json = jsonOf(runtime_.pictures(), value);
     Members::Member* const found = members_->find(name);
     if (found == nullptr)
         return members_->add(toUtf8(name), std::move(json), true);
