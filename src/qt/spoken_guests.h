@@ -5,6 +5,7 @@
 #include "worlds/qt/screen_widget.h"
 
 #include <QAccessibleWidget>
+#include <vector>
 
 namespace lumtex::qt {
 

@@ -5,6 +5,7 @@
 #include "qt/spoken_list.h"
 
 #include <QAccessibleWidget>
+#include <vector>
 
 namespace lumtex::qt {
 
