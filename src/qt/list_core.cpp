@@ -35,7 +35,9 @@ void WidgetHost::PropertyChanged(StringView name) {
 
 ListCore::ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_ptr<WidgetEvents> events)
     : host_(widget), world_(std::move(world)), events_(std::move(events)),
-      list_(std::make_unique<lmListView>(*world_, host_, *events_)) {}
+      list_(std::make_unique<lmListView>(*world_, host_, *events_)) {
+    world_->onDensity = [this] { followDensity(); };
+}
 
 void ListCore::end() {
     events_->muted = true;
@@ -51,7 +53,17 @@ QLineEdit* ListCore::field() {
     return box != nullptr ? box->field() : nullptr;
 }
 
+void ListCore::followDensity() {
+    if (list_ == nullptr)
+        return;
+    resize(size_);
+    // The reach of the bars is counted in pixels.
+    if (list_ != nullptr && list_->AutoCheckScroll())
+        list_->CheckScroll();
+}
+
 void ListCore::resize(QSize size) {
+    size_ = size;
     const auto pixels = [&](int units) { return static_cast<Single>(std::ceil(units * world_->ratio())); };
     list_->window().place(0, 0, pixels(size.width()), pixels(size.height()));
 }

@@ -9,6 +9,7 @@
 
 #include <QLineEdit>
 #include <QPointer>
+#include <QSize>
 #include <memory>
 
 namespace lumtex::qt {
@@ -56,7 +57,10 @@ class ListCore {
     Variant entered(StringView member, const std::function<Variant()>& work);
 
   private:
+    void followDensity();
+
     WidgetHost host_;
+    QSize size_;
     std::unique_ptr<QtWorld> world_;
     std::unique_ptr<WidgetEvents> events_;
     std::unique_ptr<lmListView> list_;

@@ -84,7 +84,7 @@ void ListWidget::startAnew(const PropertyBag& settings, bool designed) {
     speaker_.reset();
     if (core_ != nullptr)
         core_->end();
-    // What the settings set off may take the widget away, or make another list.
+    // What the settings set off may take the widget away, or give it yet another list.
     const QPointer<ListWidget> self(this);
     const auto core = std::make_shared<ListCore>(*this, makeWorld_(*this), makeEvents_());
     core_ = core;

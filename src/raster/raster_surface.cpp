@@ -15,6 +15,8 @@ namespace lumtex::raster {
 
 namespace {
 
+constexpr Double usualPixelsPerInch = 96;
+
 constexpr Pixel fullAlpha = 0xFF000000U;
 
 Pixel pixelOf(OLE_COLOR color) {
@@ -30,10 +32,16 @@ Point rounded(Single x, Single y) {
     return {roundToLong(x), roundToLong(y)};
 }
 
+/// Of all surfaces that are told of no other.
+const std::shared_ptr<const Double>& usualDensity() {
+    static const auto density = std::make_shared<const Double>(usualPixelsPerInch);
+    return density;
+}
+
 } // namespace
 
 RasterSurface::RasterSurface(Long width, Long height, std::shared_ptr<FontLibrary> fonts)
-    : width_(std::max<Long>(width, 0)), height_(std::max<Long>(height, 0)),
+    : width_(std::max<Long>(width, 0)), height_(std::max<Long>(height, 0)), pixelsPerInch_(usualDensity()),
       pixels_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_)),
       clearing_(pixelOf(white)), fonts_(std::move(fonts)) {}
 
@@ -88,16 +96,12 @@ void RasterSurface::setFont(const FontSpec& font) {
     typeface_.reset();
 }
 
-void RasterSurface::letPixelsPerInch(Double pixels) {
-    pixelsPerInch_ = pixels;
-    typeface_.reset();
-}
-
 Typeface& RasterSurface::typeface() {
-    if (!typeface_) {
+    if (!typeface_ || typefaceDensity_ != *pixelsPerInch_) {
         FontSpec dense = font_;
-        dense.Size = static_cast<Single>(dense.Size * pixelsPerInch_ / usualPixelsPerInch);
+        dense.Size = static_cast<Single>(dense.Size * *pixelsPerInch_ / usualPixelsPerInch);
         typeface_ = fonts_->typeface(dense);
+        typefaceDensity_ = *pixelsPerInch_;
     }
     return *typeface_;
 }

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace lumtex::raster {
@@ -27,10 +28,11 @@ class RasterSurface final : public Surface {
 
     Long scaleWidth() const override { return width_; }
     Long scaleHeight() const override { return height_; }
-    Double pixelsPerInchX() const override { return pixelsPerInch_; }
-    Double pixelsPerInchY() const override { return pixelsPerInch_; }
-    /// Fonts, whose sizes are points, grow with it. More than 0; what was drawn stays as it is.
-    void letPixelsPerInch(Double pixels);
+    Double pixelsPerInchX() const override { return *pixelsPerInch_; }
+    Double pixelsPerInchY() const override { return *pixelsPerInch_; }
+    /// Fonts, whose sizes are points, grow with it. More than 0, and read anew whenever it is asked for, so
+    /// that all surfaces of a screen may share it; what was drawn stays as it is.
+    void letPixelsPerInch(std::shared_ptr<const Double> pixels) { pixelsPerInch_ = std::move(pixels); }
 
     void Cls() override;
     OLE_COLOR BackColor() const override { return backColor_; }
@@ -54,8 +56,6 @@ class RasterSurface final : public Surface {
     Bitmap image() const override;
 
   private:
-    static constexpr Double usualPixelsPerInch = 96;
-
     /// Where to paint; carries out a clearing that was put off.
     Canvas canvas();
     void carryOutClearing();
@@ -63,7 +63,7 @@ class RasterSurface final : public Surface {
 
     Long width_;
     Long height_;
-    Double pixelsPerInch_ = usualPixelsPerInch;
+    std::shared_ptr<const Double> pixelsPerInch_; ///< never null
     std::vector<Pixel> pixels_;
     /// The whole surface is this colour: a repaint clears twice in a row, and the second time counts.
     std::optional<Pixel> clearing_;
@@ -72,6 +72,7 @@ class RasterSurface final : public Surface {
     FontSpec font_{.Name = u"Verdana", .Size = 9.75F};
     std::shared_ptr<FontLibrary> fonts_;
     std::shared_ptr<Typeface> typeface_; ///< of `font_`; found when first needed
+    Double typefaceDensity_ = 0;         ///< pixels per inch that it was found for
     String scratch_;
 };
 

@@ -193,6 +193,16 @@ TEST_F(Widget, MayBeDestroyedWhileItGoesOverToADesigner) {
     EXPECT_EQ(watched, nullptr);
 }
 
+TEST_F(Widget, MayComeBackFromADesignerWhileItGoesThere) {
+    widget->setGridLines(true);
+    QObject::connect(
+        widget.get(), &LumtexListView::HideSelectionChanged, [this] { widget->setDesignView(false); });
+    widget->setDesignView(true);
+    EXPECT_FALSE(widget->designView());
+    EXPECT_TRUE(widget->GridLines());
+    widget->disconnect();
+}
+
 TEST_F(Widget, KeepsAFontAndAPicture) {
     QFont font(QStringLiteral("DejaVu Serif"));
     font.setPointSizeF(11.25);

@@ -45,6 +45,11 @@ Pane* WindowTree::find(WindowHandle handle) const {
     return found != panes_.end() ? found->second : nullptr;
 }
 
+void WindowTree::forEach(const std::function<void(Pane&)>& visit) const {
+    for (const auto& [handle, pane] : panes_)
+        visit(*pane);
+}
+
 Pane* WindowTree::at(Point onDesktop) const {
     return topmost(topLevel_, onDesktop);
 }

@@ -30,6 +30,9 @@ class WindowTree {
     /// the point through to what lies below.
     Pane* at(Point onDesktop) const;
 
+    /// Calls `visit` with each pane, in no order that callers may rely on. It must let all panes stay.
+    void forEach(const std::function<void(Pane&)>& visit) const;
+
     /// Puts `child` on top of the children of `parent`. Refused if `parent` lies within it.
     bool adopt(Pane& parent, Pane& child);
 

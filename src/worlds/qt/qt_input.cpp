@@ -103,6 +103,13 @@ bool QtWorld::deliver(ScreenWidget& screen, QEvent& event) {
         if (auto* window = dynamic_cast<QtWindow*>(pane))
             window->letVisible(false);
         return false;
+    case QEvent::Show:
+    case QEvent::ScreenChangeInternal:
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+    case QEvent::DevicePixelRatioChange:
+#endif
+        lookAtDensity();
+        return false;
     case QEvent::FocusIn:
         focusCame(*pane);
         return false;

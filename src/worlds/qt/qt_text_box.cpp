@@ -57,6 +57,14 @@ void QtTextBox::placeField() {
     field_->setGeometry(first.x(), first.y(), last.x() - first.x(), last.y() - first.y());
 }
 
+void QtTextBox::stretch(Double factor) {
+    const auto stretched = [&](Long pixels) { return static_cast<Long>(std::lround(pixels * factor)); };
+    width_ = stretched(width_);
+    height_ = stretched(height_);
+    letArea({stretched(area().Left), stretched(area().Top)}, width_, height_);
+    placeField();
+}
+
 void QtTextBox::letLeft(Single left) {
     letArea({roundToLong(left), area().Top}, width_, height_);
     placeField();
@@ -100,7 +108,7 @@ void QtTextBox::setFont(const FontSpec& font) {
         return;
     constexpr Double pointsPerInch = 72;
     QFont own(toQString(font.Name));
-    const Double pixels = font.Size * world_.pixelsPerInch() / world_.ratio() / pointsPerInch;
+    const Double pixels = font.Size * *world_.pixelsPerInch() / world_.ratio() / pointsPerInch;
     own.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
     own.setBold(font.Bold);
     own.setItalic(font.Italic);

@@ -45,6 +45,8 @@ class QtTextBox final : public TextBox, public worlds::Pane {
     static bool isField(const QWidget* widget);
     /// Puts the field where the box is, on the widget that shows the window around it.
     void placeField();
+    /// The screen is denser by this factor, and so is the cell that the box lies over.
+    void stretch(Double factor);
 
     bool isBox() const override { return true; }
     Bitmap picture() const override { return {}; }

@@ -31,8 +31,8 @@ constexpr int formClosed = 4711;
 } // namespace
 
 QtWorld::QtWorld(QWidget* container, Runtime* runtime, std::shared_ptr<raster::FontLibrary> fonts)
-    : ratio_(container != nullptr ? container->devicePixelRatioF() : qApp->devicePixelRatio()),
-      fonts_(std::move(fonts)), container_(container), runtime_(runtime), ownRuntime_(pointer_) {
+    : fonts_(std::move(fonts)), container_(container), runtime_(runtime), ownRuntime_(pointer_) {
+    letRatio(container != nullptr ? container->devicePixelRatioF() : qApp->devicePixelRatio());
     tree_.onRemove = [this](const worlds::Pane& pane) {
         pointer_.forget(pane);
         focus_.forget(pane);
@@ -52,9 +52,25 @@ QtWorld::QtWorld(QWidget* container, Runtime* runtime, std::shared_ptr<raster::F
 
 QtWorld::~QtWorld() = default;
 
-Double QtWorld::pixelsPerInch() const {
-    constexpr Double usual = 96;
-    return usual * ratio_;
+void QtWorld::letRatio(Double ratio) {
+    constexpr Double usualPixelsPerInch = 96;
+    ratio_ = ratio;
+    *density_ = usualPixelsPerInch * ratio;
+}
+
+void QtWorld::lookAtDensity() {
+    const Double ratio = container_ != nullptr ? container_->devicePixelRatioF() : ratio_;
+    if (ratio == ratio_)
+        return;
+    const QtRuntime::HeldYields quiet;
+    const Double factor = ratio / ratio_;
+    letRatio(ratio);
+    tree_.forEach([&](worlds::Pane& pane) {
+        if (auto* box = dynamic_cast<QtTextBox*>(&pane))
+            box->stretch(factor);
+    });
+    if (onDensity)
+        onDensity();
 }
 
 worlds::Pane& QtWorld::paneOf(WindowHandle handle) const {
@@ -133,7 +149,7 @@ void QtWorld::refuseHugeSize(Long width, Long height) {
 std::unique_ptr<Surface> QtWorld::createSurface(Long width, Long height) {
     refuseHugeSize(width, height);
     auto surface = std::make_unique<raster::RasterSurface>(width, height, fonts_);
-    surface->letPixelsPerInch(pixelsPerInch());
+    surface->letPixelsPerInch(pixelsPerInch_);
     return surface;
 }
 

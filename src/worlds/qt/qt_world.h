@@ -39,8 +39,9 @@ class QtWorld : public World {
     /// Pixels that one surface may have at most.
     static constexpr std::int64_t mostPixels = std::int64_t{1} << 26U;
 
-    /// Windows without a parent lie in `container`; with none, each stands by itself. Its screen says, once
-    /// and for all, how dense pixels are. `runtime` stands in for the world's own one and must outlive it.
+    /// Windows without a parent lie in `container`; with none, each stands by itself. How dense pixels are,
+    /// the screen of `container` says, from one to the next; without a container, that of the application
+    /// once and for all. `runtime` stands in for the world's own one and must outlive it.
     explicit QtWorld(QWidget* container = nullptr,
                      Runtime* runtime = nullptr,
                      std::shared_ptr<raster::FontLibrary> fonts = raster::FontLibrary::ofSystem());
@@ -66,7 +67,11 @@ class QtWorld : public World {
 
     /// Pixels to a unit of widgets.
     Double ratio() const { return ratio_; }
-    Double pixelsPerInch() const;
+    /// What all surfaces share.
+    const std::shared_ptr<const Double>& pixelsPerInch() const { return pixelsPerInch_; }
+    /// The container stands on a denser screen, or on one less dense, and surfaces know it. Whoever placed an
+    /// outermost window does so anew.
+    std::function<void()> onDensity;
 
     // For what the world makes
 
@@ -115,6 +120,9 @@ class QtWorld : public World {
     bool claimFocus(const worlds::Pane* pane);
 
     bool deliver(ScreenWidget& screen, QEvent& event);
+    /// Pixels to a unit of widgets are others once the container stands on another screen.
+    void lookAtDensity();
+    void letRatio(Double ratio);
     Point onDesktop(const QWidget& widget, const worlds::Pane& pane, QPointF at) const;
     /// `window` is the outermost one; 0 for an event that must be told before this returns.
     void mouseEvent(Point at, const QMouseEvent& event, WindowHandle window);
@@ -133,7 +141,9 @@ class QtWorld : public World {
     worlds::Pane* keyTarget() const;
     bool showTip(Point at, QPoint onScreen);
 
-    Double ratio_;
+    Double ratio_ = 1;
+    std::shared_ptr<Double> density_ = std::make_shared<Double>(96);
+    std::shared_ptr<const Double> pixelsPerInch_ = density_;
     std::shared_ptr<raster::FontLibrary> fonts_;
     QObject context_; ///< what is posted goes with it
     QPointer<QWidget> container_;

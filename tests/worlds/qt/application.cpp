@@ -1,5 +1,5 @@
-/// The application that all tests of this program run in. Its screen is one of memory, and as dense as the
-/// build says.
+/// The application that all tests of this program run in. Its screens are in memory, and as the build
+/// says.
 #include <QApplication>
 #include <cstdlib>
 #include <memory>
@@ -13,7 +13,7 @@ namespace {
 class Application final : public ::testing::Environment {
   public:
     void SetUp() override {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        setenv("QT_QPA_PLATFORM", LUMTEX_PLATFORM, 1);
         setenv("LC_ALL", "C", 1); // as on the simulated desktop
         setenv("QT_SCALE_FACTOR", LUMTEX_SCREEN_SCALE, 1);
         application_ = std::make_unique<QApplication>(count_, words_);
