@@ -35,9 +35,12 @@ constexpr StringView onPage[] = {
     u"HideColumnHeaders",
 };
 
+INT_PTR CALLBACK nothing(HWND /*dialog*/, UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) {
+    return FALSE;
+}
+
 /// Pixels. A dialog is made to be measured: its units follow the user's font.
 SIZE dialogSize() {
-    const auto nothing = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
     HWND const dialog =
         CreateDialogParamW(moduleInstance(), MAKEINTRESOURCEW(dialogNumber), GetDesktopWindow(), nothing, 0);
     RECT place{};

@@ -260,18 +260,17 @@ TEST_F(GeneralPage, WhatComesAtTheWrongTimeIsRefused) {
     EXPECT_EQ(page->SetObjects(1, nullptr), E_POINTER);
 }
 
+BOOL CALLBACK takeIfPage(HWND child, LPARAM found) {
+    const bool isPage = FindWindowExW(child, nullptr, L"Button", L"GridLines") != nullptr;
+    if (isPage)
+        *reinterpret_cast<HWND*>(found) = child;
+    return isPage ? FALSE : TRUE;
+}
+
 /// The page in a frame; null where it does not show.
 HWND pageIn(HWND frame) {
     HWND page = nullptr;
-    EnumChildWindows(
-        frame,
-        [](HWND child, LPARAM found) -> BOOL {
-            const bool isPage = FindWindowExW(child, nullptr, L"Button", L"GridLines") != nullptr;
-            if (isPage)
-                *reinterpret_cast<HWND*>(found) = child;
-            return !isPage;
-        },
-        reinterpret_cast<LPARAM>(&page));
+    EnumChildWindows(frame, takeIfPage, reinterpret_cast<LPARAM>(&page));
     return page;
 }
 
