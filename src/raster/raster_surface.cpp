@@ -24,8 +24,8 @@ Pixel pixelOf(OLE_COLOR color) {
         const unsigned index = systemColorIndex(color);
         return fullAlpha | (index < systemColors.size() ? systemColors[index] : 0U);
     }
-    return fullAlpha | (static_cast<Pixel>(redOf(color)) << 16U) | (static_cast<Pixel>(greenOf(color)) << 8U) |
-           blueOf(color);
+    return fullAlpha | (static_cast<Pixel>(redOf(color)) << 16U) |
+           (static_cast<Pixel>(greenOf(color)) << 8U) | blueOf(color);
 }
 
 Point rounded(Single x, Single y) {
