@@ -12,6 +12,11 @@ Page::Page(const QString& title, const QString& hint) : title_(title), rows_(new
     rows_->addWidget(label);
 }
 
+/// The focus leaves a page that ends, which then is no page any more.
+Page::~Page() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 LumtexListView* Page::addList() {
     auto* list = new LumtexListView(this);
     list->setRowsDynamic(false);

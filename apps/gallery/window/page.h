@@ -17,6 +17,9 @@ class Page : public QWidget {
 
   public:
     Page(const QString& title, const QString& hint);
+    Page(const Page&) = delete;
+    Page& operator=(const Page&) = delete;
+    ~Page() override;
 
     const QString& title() const { return title_; }
     /// The list that the property panel shows and changes.
