@@ -16,7 +16,7 @@ namespace lumtex::gallery {
 
 using namespace Qt::StringLiterals;
 
-GalleryWindow::GalleryWindow(std::vector<Page*> pages) {
+GalleryWindow::GalleryWindow(const std::vector<Page*>& pages) {
     setWindowTitle(u"LumtexListView gallery"_s);
     for (Page* page : pages) {
         tabs_->addTab(page, page->title());
@@ -42,6 +42,7 @@ GalleryWindow::GalleryWindow(std::vector<Page*> pages) {
 
 std::vector<Page*> GalleryWindow::pages() const {
     std::vector<Page*> all;
+    all.reserve(static_cast<std::size_t>(tabs_->count()));
     for (int i = 0; i < tabs_->count(); ++i)
         all.push_back(static_cast<Page*>(tabs_->widget(i)));
     return all;

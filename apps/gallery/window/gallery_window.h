@@ -17,7 +17,7 @@ class GalleryWindow final : public QMainWindow {
 
   public:
     /// Takes the pages over, in the order of their tabs.
-    explicit GalleryWindow(std::vector<Page*> pages);
+    explicit GalleryWindow(const std::vector<Page*>& pages);
 
     std::vector<Page*> pages() const;
     Page* page() const;

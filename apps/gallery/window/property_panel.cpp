@@ -84,10 +84,12 @@ PropertyPanel::PropertyPanel() : filter_(new QLineEdit) {
     area->setFocusPolicy(Qt::NoFocus);
 
     auto* cpp = new QPushButton(u"Copy as C&++"_s);
-    connect(cpp, &QPushButton::clicked, this, [this] { copy(list_ ? settingsAsCpp(*list_) : QString()); });
+    connect(cpp, &QPushButton::clicked, this, [this] {
+        copy(list_ != nullptr ? settingsAsCpp(*list_) : QString());
+    });
     auto* script = new QPushButton(u"Copy as &VBScript"_s);
     connect(script, &QPushButton::clicked, this, [this] {
-        copy(list_ ? settingsAsVbScript(*list_) : QString());
+        copy(list_ != nullptr ? settingsAsVbScript(*list_) : QString());
     });
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(cpp);
