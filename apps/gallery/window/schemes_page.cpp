@@ -76,10 +76,10 @@ void SchemesPage::fill() {
     for (LumtexListView* list : lists_) {
         const PaintOnce once(*list);
         list->setMultiSelect(true);
-        addColumn(*list, u"Name"_s, 130);
-        addColumn(*list, u"City"_s, 80);
-        addColumn(*list, u"Amount"_s, 80, LumtexListView::cColumnRight);
-        addColumn(*list, u"Date"_s, 90);
+        addColumn(*list, u"Name"_s, 118);
+        addColumn(*list, u"City"_s, 65);
+        addColumn(*list, u"Amount"_s, 75, LumtexListView::cColumnRight);
+        addColumn(*list, u"Date"_s, 98);
         for (int column = 1; column <= 4; ++column)
             list->setColumnAllowSorting(column, true);
         for (int i = 1; i <= count; ++i) {
