@@ -37,6 +37,9 @@ class lmListView final : public ListViewRecords, public UserControl {
     /// reports nothing more, and lets go of all that it held. Its memory goes when the last of the calls
     /// returns.
     static void operator delete(lmListView* list, std::destroying_delete_t /*tag*/);
+    /// Holds `world`, or what it is part of, until the memory of the list has gone: for a host that ends both
+    /// at once, from within a call of the list.
+    void outlivedBy(std::shared_ptr<const void> world) { goesLast_ = std::move(world); }
 
     // Lifecycle
 

@@ -6,6 +6,7 @@
 #include "guards/release_bin.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 
 namespace lumtex {
@@ -26,6 +27,8 @@ class ListViewLife {
     /// To be called once, as the members are about to go.
     void releaseBehindMembers() { releasesBehind_ = ReleaseBin::ofThread().enter(); }
 
+    /// What goes only behind all else of the list: the world in which its last call still runs.
+    std::shared_ptr<const void> goesLast_;
     mutable ControlLife life_;
 
   private:

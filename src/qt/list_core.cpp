@@ -10,6 +10,7 @@
 #include <QMetaProperty>
 #include <QWidget>
 #include <cmath>
+#include <utility>
 
 namespace lumtex::qt {
 
@@ -40,8 +41,13 @@ ListCore::ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_
 }
 
 void ListCore::end() {
+    if (std::exchange(ends_, true))
+        return;
+    const std::shared_ptr<ListCore> self = shared_from_this();
     events_->muted = true;
-    list_.reset();
+    list_->outlivedBy(self);
+    delete list_.get();
+    static_cast<void>(list_.release());
 }
 
 ScreenWidget* ListCore::screen() {

@@ -35,11 +35,11 @@ class WidgetHost final : public Host {
 };
 
 /// Held by the widget, and by whatever runs in it.
-class ListCore {
+class ListCore : public std::enable_shared_from_this<ListCore> {
   public:
     ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_ptr<WidgetEvents> events);
 
-    /// There until `end`.
+    /// There until `end` returns.
     lmListView& list() { return *list_; }
     WidgetHost& host() { return host_; }
     QtWorld& world() { return *world_; }
@@ -48,8 +48,10 @@ class ListCore {
     /// The field of the list's editor, open or not; null once it has gone.
     QLineEdit* field();
     /// The widget goes, or has another list from now on: no signal is raised any more, nothing is reported,
-    /// and the list ends as soon as its last call has returned.
+    /// and the list ends as soon as its last call has returned, which holds the core until then. Host code
+    /// that runs meanwhile finds the list that ends.
     void end();
+    bool isEnding() const { return ends_; }
     /// Units of widgets.
     void resize(QSize size);
 
@@ -64,6 +66,7 @@ class ListCore {
     std::unique_ptr<QtWorld> world_;
     std::unique_ptr<WidgetEvents> events_;
     std::unique_ptr<lmListView> list_;
+    bool ends_ = false;
 };
 
 } // namespace lumtex::qt

@@ -81,11 +81,17 @@ void ListWidget::start(WorldFactory makeWorld, EventsFactory makeEvents) {
 }
 
 void ListWidget::startAnew(const PropertyBag& settings, bool designed) {
-    speaker_.reset();
-    if (core_ != nullptr)
-        core_->end();
-    // What the settings set off may take the widget away, or give it yet another list.
+    // What the old list lets go of, and what the settings set off, may take the widget away, or give it yet
+    // another list.
     const QPointer<ListWidget> self(this);
+    speaker_.reset();
+    if (const std::shared_ptr<ListCore> before = core_) {
+        if (before->isEnding())
+            return;
+        before->end();
+        if (self == nullptr)
+            return;
+    }
     const auto core = std::make_shared<ListCore>(*this, makeWorld_(*this), makeEvents_());
     core_ = core;
     core->world().owner = core;
@@ -119,9 +125,11 @@ bool ListWidget::designView() const {
 void ListWidget::setDesignView(bool designed) {
     if (designed == designView())
         return;
+    const QPointer<ListWidget> self(this);
     MemoryPropertyBag settings;
     core_->list().UserControl_WriteProperties(settings);
-    startAnew(settings, designed);
+    if (self != nullptr)
+        startAnew(settings, designed);
 }
 
 bool ListWidget::SilentError() {
@@ -183,7 +191,8 @@ QVariant ListWidget::call(int number, const QVariantList& arguments) {
 }
 
 QVariant ListWidget::setting(std::u16string_view key) const {
-    return toQVariant(SettingsByKey(core_->list()).value(key));
+    const std::shared_ptr<ListCore> core = core_;
+    return toQVariant(SettingsByKey(core->list()).value(key));
 }
 
 void ListWidget::letSetting(std::u16string_view key, const QVariant& value) {

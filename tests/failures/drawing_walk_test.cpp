@@ -6,7 +6,7 @@ namespace lumtex::testing {
 
 class DrawingWalk : public FailureWalk {
   protected:
-    DrawingWalk() { world = &failing_; }
+    DrawingWalk() { memory.world = &failing_; }
     ~DrawingWalk() override { list.reset(); }
 
     long walkScenes(const std::vector<Scene>& scenes, Steps steps, bool onwards = false) {

@@ -4,7 +4,7 @@
 
 #include "failures/failure_point.h"
 #include "hostcode/member_uses.h"
-#include "hostcode/odd_moments.h"
+#include "hostcode/odd_moments_in_memory.h"
 #include "list_fixture.h"
 #include "scratch_folder.h"
 #include "test_recordset.h"
@@ -32,7 +32,7 @@ class EmbeddedControl final : public Object {
     }
 };
 
-class FailureWalk : public OddMoments {
+class FailureWalk : public OddMomentsInMemory {
   protected:
     static constexpr StringView longText = u"a text that no room inside a string or a cell can hold";
 

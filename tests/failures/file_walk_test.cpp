@@ -11,7 +11,7 @@ namespace lumtex::testing {
 
 class FileWalk : public FailureWalk {
   protected:
-    FileWalk() { world = &world_; }
+    FileWalk() { memory.world = &world_; }
     ~FileWalk() override { list.reset(); }
 
     /// Nothing but what a file can hold.

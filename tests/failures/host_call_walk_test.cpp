@@ -87,7 +87,7 @@ class FailingBag final : public PropertyBag {
 class HostCallWalk : public FailureWalk {
   protected:
     HostCallWalk() {
-        container = &host_;
+        memory.container = &host_;
         embedded->onCall = [this] { point.pass(hostError); };
     }
     ~HostCallWalk() override { list.reset(); }

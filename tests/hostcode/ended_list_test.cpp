@@ -1,9 +1,9 @@
 /// What a list still does that ended within its own call.
-#include "hostcode/odd_moments.h"
+#include "hostcode/odd_moments_in_memory.h"
 
 namespace lumtex::testing {
 
-class EndedList : public OddMoments {};
+class EndedList : public OddMomentsInMemory {};
 
 TEST_F(EndedList, LetsGoOfAllThatItHeldBeforeTheDeleteReturns) {
     makeList();
@@ -80,8 +80,7 @@ TEST_F(EndedList, LetsGoOfWhatHostCodeGivesItMeanwhile) {
         if (given++ < 5)
             list->setBackgroundPicture(std::make_shared<CallingPicture>(releases));
     };
-    delete list.get();
-    static_cast<void>(list.release());
+    endListInSight();
     EXPECT_GT(given, 5);
     EXPECT_EQ(releases.alive, 0);
 }
@@ -94,8 +93,7 @@ TEST_F(EndedList, LetsGoOfWhatHostCodeGivesItForEver) {
         if (releases.gone < forEver)
             list->setBackgroundPicture(std::make_shared<CallingPicture>(releases));
     };
-    delete list.get();
-    static_cast<void>(list.release());
+    endListInSight();
     EXPECT_EQ(releases.alive, 0);
 }
 

@@ -12,68 +12,68 @@ class EventWalk : public OddMoments {
         using std::chrono::milliseconds;
         const std::function<void()> steps[] = {
             [&] {
-                desktop.move({20, 40});
+                home.move({20, 40});
             },
-            [&] { desktop.advance(milliseconds(2)); },
-            [&] { desktop.press(); },
-            [&] { desktop.release(); },
-            [&] { desktop.doubleClick(); },
-            [&] { desktop.type(u"x\r"); },
+            [&] { home.advance(milliseconds(2)); },
+            [&] { home.press(); },
+            [&] { home.release(); },
+            [&] { home.doubleClick(); },
+            [&] { home.type(u"x\r"); },
             [&] {
-                desktop.move({8, 40});
+                home.move({8, 40});
             },
-            [&] { desktop.press(); },
+            [&] { home.press(); },
             [&] {
-                desktop.move({8, 300});
+                home.move({8, 300});
             },
-            [&] { desktop.advance(milliseconds(3)); },
-            [&] { desktop.release(); },
+            [&] { home.advance(milliseconds(3)); },
+            [&] { home.release(); },
             [&] {
-                desktop.move({20, 10});
+                home.move({20, 10});
             },
-            [&] { desktop.advance(milliseconds(2)); },
-            [&] { desktop.click(); },
+            [&] { home.advance(milliseconds(2)); },
+            [&] { home.click(); },
             [&] {
-                desktop.move({38, 10});
+                home.move({38, 10});
             },
-            [&] { desktop.press(); },
+            [&] { home.press(); },
             [&] {
-                desktop.move({50, 10});
+                home.move({50, 10});
             },
-            [&] { desktop.release(); },
-            [&] { desktop.wheel(-120); },
-            [&] { desktop.wheel(120); },
+            [&] { home.release(); },
+            [&] { home.wheel(-120); },
+            [&] { home.wheel(120); },
             [&] {
                 list->StopEdit();
-                list->window().setFocus();
+                home.focus();
             },
-            [&] { desktop.key(40); },
-            [&] { desktop.type(u"k"); },
+            [&] { home.key(40); },
+            [&] { home.type(u"k"); },
             [&] { list->letListIndex(99); },
             [&] { list->setItemObject(99, 1, std::make_shared<CallingObject>(releases)); },
             [&] { list->Sort(1, cAscending, cSortText); },
             [&] { list->letAutoRedraw(true); },
             [&] {
-                desktop.move({width - 8, height - 8}); // the arrow of the bar
-                desktop.advance(milliseconds(2));
+                home.move({width - 8, height - 8}); // the arrow of the bar
+                home.advance(milliseconds(2));
             },
-            [&] { desktop.press(); },
-            [&] { desktop.advance(milliseconds(400)); },
-            [&] { desktop.release(); },
+            [&] { home.press(); },
+            [&] { home.advance(milliseconds(400)); },
+            [&] { home.release(); },
             [&] {
-                desktop.move({width - 8, 22});
+                home.move({width - 8, 22});
             },
-            [&] { desktop.press(); },
+            [&] { home.press(); },
             [&] {
-                desktop.move({width - 8, 40});
+                home.move({width - 8, 40});
             },
-            [&] { desktop.release(); },
+            [&] { home.release(); },
         };
         for (const auto& step : steps)
             if (list)
                 step();
-        desktop.release();
-        desktop.run();
+        home.release();
+        home.run();
     }
     void makeLongList() {
         makeList();
@@ -140,7 +140,7 @@ TEST_F(EventWalk, NoYieldIsHarmedByWhatRunsInIt) {
             makeLongList();
             int yields = 0;
             const auto code = once(named.code);
-            desktop.onYield(
+            home.onYield(
                 [&, code] {
                     if (yields++ == nth)
                         code();
@@ -152,7 +152,7 @@ TEST_F(EventWalk, NoYieldIsHarmedByWhatRunsInIt) {
             if (list)
                 list->RowsRemove(1);
             while (yields <= nth)
-                desktop.runtime().DoEvents();
+                home.yield();
             expectServes();
         }
     }
@@ -161,12 +161,13 @@ TEST_F(EventWalk, NoYieldIsHarmedByWhatRunsInIt) {
 TEST_F(EventWalk, AHandlerThatThrowsIsReportedAndTheNextStatementRuns) {
     Error().letSilentError(false);
     makeList();
-    desktop.runtime().boxes.clear();
+    home.clearBoxes();
     events.on("SortDone", [] { throw std::runtime_error("of the host's own"); });
     list->Sort(1, cAscending, cSortText);
-    ASSERT_EQ(desktop.runtime().boxes.size(), 1U);
-    EXPECT_NE(desktop.runtime().boxes.front().text.find(u"Error no.: 440"), String::npos);
-    EXPECT_NE(desktop.runtime().boxes.front().text.find(u"of the host's own"), String::npos);
+    const std::vector<String> boxes = home.boxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_NE(boxes.front().find(u"Error no.: 440"), String::npos);
+    EXPECT_NE(boxes.front().find(u"of the host's own"), String::npos);
     events.on("SortDone", {});
     expectServes();
 }

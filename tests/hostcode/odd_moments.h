@@ -4,13 +4,11 @@
 
 #include "guards/error.h"
 #include "hostcode/calling_things.h"
+#include "hostcode/list_home.h"
 #include "model/list_view.h"
 #include "platform/property_bag.h"
 #include "recording_events.h"
-#include "test_fonts.h"
-#include "test_host.h"
 #include "values/text.h"
-#include "worlds/headless/desktop.h"
 
 #include <gtest/gtest.h>
 
@@ -50,8 +48,7 @@ constexpr HeldKind heldKinds[] = {HeldKind::tag,
                                   HeldKind::columnFont,
                                   HeldKind::recordset};
 
-/// Columns and rows with texts, on a desktop of its own. The list is made by `new`, so that host code may end
-/// it.
+/// Columns and rows with texts, in a home of their own.
 class OddMoments : public ::testing::Test {
   public:
     // Small, since thousands of them are made.
@@ -151,7 +148,10 @@ class OddMoments : public ::testing::Test {
     void ends() { list.reset(); }
 
   protected:
-    OddMoments() { Error().letSilentError(true); }
+    explicit OddMoments(std::unique_ptr<ListHome> listsHome = makeListHome())
+        : ownHome_(std::move(listsHome)), home(*ownHome_) {
+        Error().letSilentError(true);
+    }
     ~OddMoments() override {
         releases.code = {};
         list.reset();
@@ -162,10 +162,7 @@ class OddMoments : public ::testing::Test {
     void makeList() {
         releases.code = {};
         list.reset();
-        list.reset(new lmListView(*world, *container, events));
-        list->UserControl_ReadProperties(MemoryPropertyBag{});
-        list->window().place(0, 0, static_cast<Single>(width), static_cast<Single>(height));
-        list->window().letVisible(true);
+        list.reset(home.make(events, width, height));
         fill();
     }
     void fill() {
@@ -274,7 +271,7 @@ class OddMoments : public ::testing::Test {
     /// Whatever happened, a list that is still there works as on its first day.
     void expectServes() {
         releases.code = {};
-        desktop.release();
+        home.release();
         if (!list)
             return;
         list->UserControl_ReadProperties(MemoryPropertyBag{});
@@ -287,14 +284,24 @@ class OddMoments : public ::testing::Test {
         EXPECT_EQ(list->ItemsCheckedCount(), 0);
     }
 
+    /// As its host does, while host code can still call it.
+    void endListInSight() {
+        home.end(list.get());
+        static_cast<void>(list.release());
+    }
+
+  private:
+    struct EndsAtHome {
+        OddMoments* moments;
+        void operator()(lmListView* ending) const { moments->home.end(ending); }
+    };
+    std::unique_ptr<ListHome> ownHome_;
+
+  protected:
     Releases releases;
-    headless::Desktop desktop{testFonts()};
-    TestHost host;
-    // What the next list is made in; a test may put something in front of both.
-    World* world = &desktop;
-    Host* container = &host;
+    ListHome& home;
     RecordingEvents events;
-    std::unique_ptr<lmListView> list;
+    std::unique_ptr<lmListView, EndsAtHome> list{nullptr, {this}};
 
   private:
     /// Each call may end the list for those behind it.

@@ -22,7 +22,7 @@ class ReleaseWalk : public OddMoments {
             releasing_ += released ? 1 : 0;
             expectServes();
             list.reset();
-            desktop.run();
+            home.run();
             EXPECT_EQ(releases.alive, 0);
             return released;
         };
@@ -53,32 +53,32 @@ TEST_F(ReleaseWalk, NoPlatformEventIsHarmedByWhatRunsAtARelease) {
     const std::pair<const char*, Input> inputs[] = {
         {"a click on a cell",
          [&] {
-             desktop.move({20, 40});
-             desktop.advance(std::chrono::milliseconds(2));
-             desktop.click();
+             home.move({20, 40});
+             home.advance(std::chrono::milliseconds(2));
+             home.click();
          }},
         {"a click on a header",
          [&] {
-             desktop.move({20, 10});
-             desktop.advance(std::chrono::milliseconds(2));
-             desktop.click();
+             home.move({20, 10});
+             home.advance(std::chrono::milliseconds(2));
+             home.click();
          }},
         {"a typed text",
          [&] {
              edits();
-             desktop.type(u"x\r");
+             home.type(u"x\r");
          }},
         {"an arrow key",
          [&] {
-             list->window().setFocus();
-             desktop.key(40);
+             home.focus();
+             home.key(40);
          }},
         {"a wheel",
          [&] {
-             desktop.move({20, 40});
-             desktop.wheel(-120);
+             home.move({20, 40});
+             home.wheel(-120);
          }},
-        {"a new size", [&] { list->window().place(0, 0, 90, 70); }},
+        {"a new size", [&] { home.resize(90, 70); }},
     };
     for (const auto& [name, input] : inputs) {
         SCOPED_TRACE(name);
@@ -87,7 +87,7 @@ TEST_F(ReleaseWalk, NoPlatformEventIsHarmedByWhatRunsAtARelease) {
                 holdAll();
                 // The host replaces what the list holds in the middle of it, so that the list holds the last
                 // reference.
-                desktop.onYield([&] { restyles(); });
+                home.onYield([&] { restyles(); });
             },
             input);
     }
@@ -160,8 +160,7 @@ TEST_F(ReleaseWalk, AListThatGoesMayBeCalledByWhatItLetsGo) {
             hold(kind);
             const int before = releases.gone;
             releases.code = once(named.code);
-            delete list.get();
-            static_cast<void>(list.release());
+            endListInSight();
             EXPECT_EQ(releases.alive, 0);
             EXPECT_GT(releases.gone, before);
         }

@@ -12,17 +12,16 @@ class ReportWalk : public OddMoments {
 
     /// Runs `action` with `code` while the first box is open. Says whether there was one.
     bool reports(const NamedCode& named, const std::function<void()>& action) {
-        headless::HeadlessRuntime& runtime = desktop.runtime();
-        runtime.boxes.clear();
+        home.clearBoxes();
         const auto code = once(named.code);
-        runtime.whileBoxIsOpen = [&, code] {
+        home.whileBoxIsOpen([&, code] {
             Error().letSilentError(true);
             code();
             Error().letSilentError(false);
-        };
+        });
         action();
-        runtime.whileBoxIsOpen = {};
-        return !runtime.boxes.empty();
+        home.whileBoxIsOpen({});
+        return !home.boxes().empty();
     }
     void quietly(const std::function<void()>& action) {
         Error().letSilentError(true);

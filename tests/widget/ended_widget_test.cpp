@@ -111,6 +111,25 @@ TEST_P(EndOf, ComesWhileAFormOfTheListIsOpen) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+TEST_P(EndOf, ComesWhileABoxIsOpenThatANewSizeBrought) {
+    LumtexListView::setSilentError(true);
+    list->setItemBackColor(1, 1, QStringLiteral("no colour"));
+    LumtexListView::setSilentError(false);
+    QTimer closing; // each paint brings one
+    QObject::connect(&closing, &QTimer::timeout, closeBox);
+    play([&] {
+        QTimer::singleShot(50, [&] {
+            end();
+            closing.start(5);
+        });
+        list->resize(280, 180);
+        while (QApplication::activeModalWidget() == nullptr && !reached)
+            QTest::qWait(1);
+        QTest::qWait(100);
+    });
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST_P(EndOf, ComesInAYieldInsideABox) {
     play([this] {
         post([this] {

@@ -1,9 +1,12 @@
 /// The widget as programs use it.
+#include "hostcode/calling_things.h"
 #include "model/list_view.h"
 #include "widget_fixture.h"
 #include "worlds/qt/user_hands.h"
 
+#include <QMetaMethod>
 #include <QMetaObject>
+#include <QMetaProperty>
 #include <QPainter>
 #include <QPixmap>
 #include <QPointer>
@@ -201,6 +204,48 @@ TEST_F(Widget, MayComeBackFromADesignerWhileItGoesThere) {
     EXPECT_FALSE(widget->designView());
     EXPECT_TRUE(widget->GridLines());
     widget->disconnect();
+}
+
+/// All that its meta-object lets a host read or call without arguments.
+int callAll(QObject& widget) {
+    int calls = 0;
+    const QMetaObject& meta = LumtexListView::staticMetaObject;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i, ++calls)
+        meta.property(i).read(&widget);
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        if (method.methodType() != QMetaMethod::Method || method.parameterCount() != 0 ||
+            method.name() == "About")
+            continue;
+        EXPECT_TRUE(method.invoke(&widget, Qt::DirectConnection));
+        ++calls;
+    }
+    return calls;
+}
+
+TEST_F(Widget, MayBeCalledByWhatItLetsGoOfAsItEnds) {
+    fill(*widget);
+    Releases releases;
+    int calls = 0;
+    LumtexListView* const ending = widget.get();
+    releases.code = [&] {
+        calls = callAll(*ending);
+        ending->RowsAdd(-1, QStringLiteral(","), QStringLiteral("a3,b3"));
+        ending->setDesignView(true);
+    };
+    widget->list().letItemTag(1, 1, ObjectRef(std::make_shared<CallingObject>(releases)));
+    widget.reset();
+    EXPECT_EQ(releases.alive, 0);
+    EXPECT_GT(calls, 80);
+}
+
+TEST_F(Widget, MayBeDestroyedByWhatItLetsGoOfForADesigner) {
+    fill(*widget);
+    Releases releases;
+    releases.code = [&] { widget.reset(); };
+    widget->list().letItemTag(1, 1, ObjectRef(std::make_shared<CallingObject>(releases)));
+    widget.get()->setDesignView(true);
+    EXPECT_EQ(widget, nullptr);
 }
 
 TEST_F(Widget, KeepsAFontAndAPicture) {

@@ -59,7 +59,7 @@ bool QtRuntime::isQuitting() const {
 }
 
 void QtRuntime::DoEvents() {
-    if (held > 0 || yieldDepth_ == deepestYield || isQuitting())
+    if (areYieldsHeld() || yieldDepth_ == deepestYield || isQuitting())
         return;
     const worlds::NestingLevel level(yieldDepth_);
     for (int pass = 0; pass < mostPasses; ++pass) {
@@ -78,7 +78,18 @@ bool QtRuntime::hasPendingEvents() const {
 void QtRuntime::messageBox(StringView text, BoxStyle style, StringView title) {
     if (isQuitting())
         return;
-    const worlds::NestingLevel level(openBoxes_);
+    if (!areYieldsHeld()) {
+        showBox(text, style, title);
+        return;
+    }
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [shown = String(text), style, heading = String(title)] { showBox(shown, style, heading); },
+        Qt::QueuedConnection);
+}
+
+void QtRuntime::showBox(StringView text, BoxStyle style, StringView title) {
+    const worlds::NestingLevel level(openBoxes);
     // Not on the stack: the widget that it lies over may take it along.
     const QPointer<QMessageBox> box(new QMessageBox(QApplication::activeWindow()));
     box->setText(toQString(text));

@@ -48,13 +48,16 @@ class QtRuntime : public Runtime,
         HeldYields& operator=(const HeldYields&) = delete;
         ~HeldYields() { --held; }
     };
+    static bool areYieldsHeld() { return held > 0; }
 
     /// Does nothing once the application ends.
     void DoEvents() override;
     /// Qt does not tell. A look right after a yield counts as one of the same moment, and finds nothing.
     bool hasPendingEvents() const override;
+    /// Waits until the user has closed it. Where yields are held, the box is shown behind what holds them,
+    /// and nobody waits: its loop would be one more yield.
     void messageBox(StringView text, BoxStyle style, StringView title) override;
-    bool isBoxOpen() const { return openBoxes_ > 0; }
+    static bool isBoxOpen() { return openBoxes > 0; }
     /// The application was told to end, or there is none.
     bool isQuitting() const;
 
@@ -90,12 +93,16 @@ class QtRuntime : public Runtime,
     std::map<String, std::function<ObjectRef()>> factories;
 
   private:
+    static void showBox(StringView text, BoxStyle style, StringView title);
+
     worlds::Pointer& pointer_;
     ComponentInfo component_;
     worlds::MachineFiles files_;
-    static inline int held = 0; ///< of the thread of the application, the only one with widgets
+    // Of the thread of the application, the only one with widgets.
+    static inline int held = 0;
+    static inline int openBoxes = 0;
+
     int yieldDepth_ = 0;
-    int openBoxes_ = 0;
     std::chrono::steady_clock::time_point lastYield_;
 };
 

@@ -214,7 +214,7 @@ void QtWorld::focusWent() {
     // What else of ours gets it says so itself.
     if (dynamic_cast<const ScreenWidget*>(widget) != nullptr || QtTextBox::isField(widget))
         return;
-    if (QApplication::activeWindow() == nullptr || ownRuntime_.isBoxOpen())
+    if (QApplication::activeWindow() == nullptr || QtRuntime::isBoxOpen())
         focus_.switchAway();
     else
         focus_.moveAway();
