@@ -34,14 +34,15 @@ constexpr Pixel mixed(Pixel under, Pixel color, std::uint32_t coverage) {
 
 } // namespace
 
-void blendPicture(const Canvas& canvas, const Bitmap& source, const Rect& part, const Rect& target) {
+void blendPicture(
+    const Canvas& canvas, const Rect& clip, const Bitmap& source, const Rect& part, const Rect& target) {
     const std::int64_t targetWidth = std::int64_t{target.Right} - target.Left;
     const std::int64_t targetHeight = std::int64_t{target.Bottom} - target.Top;
     const std::int64_t partWidth = std::int64_t{part.Right} - part.Left;
     const std::int64_t partHeight = std::int64_t{part.Bottom} - part.Top;
     if (targetWidth <= 0 || targetHeight <= 0 || partWidth <= 0 || partHeight <= 0)
         return;
-    const Rect visible = intersection(target, canvas.bounds());
+    const Rect visible = intersection(target, intersection(clip, canvas.bounds()));
     for (Long y = visible.Top; y < visible.Bottom; ++y) {
         const PixelSpan rows = sourceSpan(std::int64_t{y} - target.Top, targetHeight, part.Top, partHeight);
         Pixel* row = canvas.row(y);

@@ -36,8 +36,10 @@ void drawLine(const Canvas& canvas, Point from, Point to, Pixel color);
 void fillPolygon(const Canvas& canvas, std::span<const Point> points, Pixel color);
 
 /// The part of `source` that `part` names, which must lie inside it, over `target`, blended. Enlarging
-/// repeats the nearest pixel; reducing averages all pixels that fall into one.
-void blendPicture(const Canvas& canvas, const Bitmap& source, const Rect& part, const Rect& target);
+/// repeats the nearest pixel; reducing averages all pixels that fall into one. Only what lies in `clip` is
+/// touched.
+void blendPicture(
+    const Canvas& canvas, const Rect& clip, const Bitmap& source, const Rect& part, const Rect& target);
 
 /// `mask` holds coverage, one byte a pixel, rows of `maskWidth`; only what lies in `clip` is touched.
 void blendMask(const Canvas& canvas,

@@ -26,4 +26,10 @@ constexpr bool isControl(char32_t character) {
     return character < 0x20 || (character >= 0x7F && character < 0xA0);
 }
 
+/// People, things, flags: what is a picture in colours where any face has it so. The blocks from "Mahjong
+/// Tiles" to "Symbols and Pictographs Extended-A".
+constexpr bool isPictograph(char32_t character) {
+    return character >= 0x1F000 && character < 0x1FB00;
+}
+
 } // namespace lumtex::raster

@@ -27,6 +27,20 @@ Long pixelsOf(Single points) {
     return pixels >= smallest ? roundToLong(std::min(pixels, largest)) : static_cast<Long>(smallest);
 }
 
+/// The smallest of its sizes that need not be enlarged; the largest one if all must be.
+FT_Int pictureSizeFor(FT_Face face, Long pixels) {
+    const auto heightOf = [&](FT_Int size) { return face->available_sizes[size].y_ppem; };
+    FT_Int best = 0;
+    for (FT_Int size = 1; size < face->num_fixed_sizes; ++size) {
+        const bool isEnough = heightOf(size) >= FT_Pos{pixels} * 64;
+        const bool bestIsEnough = heightOf(best) >= FT_Pos{pixels} * 64;
+        const bool isNearer = isEnough ? heightOf(size) < heightOf(best) : heightOf(size) > heightOf(best);
+        if (isEnough == bestIsEnough ? isNearer : isEnough)
+            best = size;
+    }
+    return best;
+}
+
 } // namespace
 
 std::size_t FaceRequestHash::operator()(const FaceRequest& request) const {
@@ -35,13 +49,16 @@ std::size_t FaceRequestHash::operator()(const FaceRequest& request) const {
     return std::hash<String>{}(request.name) ^ (style * 0x9E3779B97F4A7C15ULL);
 }
 
-FaceFile FontLibrary::Implementation::find(const FaceRequest& request, char32_t character) const {
+FaceFile
+FontLibrary::Implementation::find(const FaceRequest& request, char32_t character, Coloring coloring) const {
     const FcPatternHandle pattern(FcPatternCreate());
     const std::string family = toUtf8(request.name);
     FcPatternAddString(pattern.get(), FC_FAMILY, reinterpret_cast<const FcChar8*>(family.c_str()));
     FcPatternAddInteger(pattern.get(), FC_WEIGHT, request.bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
     FcPatternAddInteger(pattern.get(), FC_SLANT, request.italic ? FC_SLANT_ITALIC : FC_SLANT_ROMAN);
     FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue);
+    if (coloring == Coloring::colored)
+        FcPatternAddBool(pattern.get(), FC_COLOR, FcTrue);
     if (character != 0) {
         const FcCharSetHandle characters(FcCharSetCreate());
         FcCharSetAddChar(characters.get(), character);
@@ -71,7 +88,10 @@ FtFaceHandle FontLibrary::Implementation::open(const FaceFile& file, Long pixels
     if (FT_New_Face(freetype.get(), file.path.c_str(), file.index, &face) != 0)
         throw RuntimeError(ErrorNumber::fileNotFound);
     FtFaceHandle handle(face);
-    FT_Set_Pixel_Sizes(face, 0, static_cast<FT_UInt>(pixels));
+    if (FT_IS_SCALABLE(face))
+        FT_Set_Pixel_Sizes(face, 0, static_cast<FT_UInt>(pixels));
+    else
+        FT_Select_Size(face, pictureSizeFor(face, pixels));
     return handle;
 }
 

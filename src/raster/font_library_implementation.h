@@ -37,9 +37,13 @@ struct FontLibrary::Implementation {
     FtLibraryHandle freetype;
     std::unordered_map<FaceRequest, std::shared_ptr<Typeface>, FaceRequestHash> typefaces;
 
-    /// The best file; with a character, the best one that has it. An empty path if there is none.
-    FaceFile find(const FaceRequest& request, char32_t character = 0) const;
-    /// Throws RuntimeError 53 if the file cannot be opened.
+    /// The best file; with a character, the best one that has it, in colours if it shall. An empty path if
+    /// there is none.
+    enum class Coloring { any, colored };
+    FaceFile
+    find(const FaceRequest& request, char32_t character = 0, Coloring coloring = Coloring::any) const;
+    /// A face of pictures has the size of theirs that comes nearest. Throws RuntimeError 53 if the file
+    /// cannot be opened.
     FtFaceHandle open(const FaceFile& file, Long pixels) const;
 };
 

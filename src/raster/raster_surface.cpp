@@ -122,7 +122,7 @@ void RasterSurface::polygon(std::span<const Point> points, OLE_COLOR fill) {
 }
 
 void RasterSurface::blendPicture(const Bitmap& source, const Rect& part, const Rect& target) {
-    raster::blendPicture(canvas(), source, part, target);
+    raster::blendPicture(canvas(), canvas().bounds(), source, part, target);
 }
 
 void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const Dib24& source) {

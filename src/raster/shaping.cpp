@@ -112,11 +112,11 @@ void Typeface::Implementation::shapeStretch(StringView text,
     const hb_glyph_info_t* infos = hb_buffer_get_glyph_infos(buffer.get(), &count);
     const hb_glyph_position_t* positions = hb_buffer_get_glyph_positions(buffer.get(), &count);
     for (unsigned i = 0; i < count; ++i) {
-        const Long advance = static_cast<Long>((positions[i].x_advance + 32) >> 6);
+        const Long advance = stretch.face->pixelsOf(positions[i].x_advance);
         run.glyphs.push_back({&stretch.face->glyphAt(infos[i].codepoint),
                               advance,
-                              static_cast<Long>((positions[i].x_offset + 32) >> 6),
-                              -static_cast<Long>((positions[i].y_offset + 32) >> 6),
+                              stretch.face->pixelsOf(positions[i].x_offset),
+                              -stretch.face->pixelsOf(positions[i].y_offset),
                               infos[i].cluster});
         run.width += advance;
     }

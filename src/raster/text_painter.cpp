@@ -72,6 +72,21 @@ void TextPainter::rules(std::int64_t from, std::int64_t to, std::int64_t y, cons
         bar(typeface_.strikeTop());
 }
 
+void TextPainter::drawGlyph(const Glyph& glyph, Point at, const Rect& clip) {
+    const Bitmap& picture = glyph.picture;
+    if (picture.width == 0)
+        blendMask(canvas_, clip, at, glyph.mask, glyph.width, color_);
+    else
+        blendPicture(canvas_,
+                     clip,
+                     picture,
+                     {0, 0, picture.width, picture.height},
+                     {at.x,
+                      at.y,
+                      clampToLong(std::int64_t{at.x} + picture.width),
+                      clampToLong(std::int64_t{at.y} + picture.height)});
+}
+
 /// Glyphs from the pen on. Returns where the pen ends up.
 std::int64_t TextPainter::drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const Rect& clip) {
     const std::int64_t baseLine = y + typeface_.ascent();
@@ -83,8 +98,7 @@ std::int64_t TextPainter::drawGlyphs(StringView text, std::int64_t x, std::int64
             const std::int64_t left = x + glyph.left + placed.shiftX;
             const std::int64_t top = baseLine - glyph.top + placed.shiftY;
             if (left < clip.Right && left + glyph.width > clip.Left)
-                blendMask(
-                    canvas_, clip, {clampToLong(left), clampToLong(top)}, glyph.mask, glyph.width, color_);
+                drawGlyph(glyph, {clampToLong(left), clampToLong(top)}, clip);
             x += placed.advance;
         }
     }

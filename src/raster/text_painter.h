@@ -36,6 +36,7 @@ class TextPainter {
 
     Shown shownOf(StringView line, std::int64_t room, TextFormat format);
     void drawLineIn(const Line& line, const Rect& rect, std::int64_t y, TextFormat format);
+    void drawGlyph(const Glyph& glyph, Point at, const Rect& clip);
     std::int64_t drawGlyphs(StringView text, std::int64_t x, std::int64_t y, const Rect& clip);
     void rules(std::int64_t from, std::int64_t to, std::int64_t y, const Rect& clip);
 

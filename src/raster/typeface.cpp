@@ -32,7 +32,8 @@ std::unique_ptr<Typeface::Implementation> Typeface::Implementation::make(std::sh
     made->request = std::move(request);
     const FontLibrary::Implementation& fonts = made->library->implementation();
     FaceFile file = fonts.find(made->request);
-    made->faces.push_back(std::make_unique<LoadedFace>(fonts.open(file, made->request.pixels), file));
+    made->faces.push_back(
+        std::make_unique<LoadedFace>(fonts.open(file, made->request.pixels), file, made->request.pixels));
     const FT_Face face = made->faces.front()->face();
     const FT_Size_Metrics& metrics = face->size->metrics;
     made->ascent = ceiling(metrics.ascender);
@@ -59,26 +60,43 @@ const Glyph& Typeface::Implementation::simpleGlyph(char16_t unit) {
     return *slot;
 }
 
-/// The first face that has the character; the main one where none has.
 LoadedFace& Typeface::Implementation::faceFor(char32_t character) {
-    for (const auto& face : faces) {
+    const auto [entry, isNew] = found.try_emplace(character, faces.front().get());
+    if (isNew)
+        entry->second = &findFaceFor(character);
+    return *entry->second;
+}
+
+/// The first face that has the character; the main one where none has. People and things are drawn in their
+/// colours where a face has them, even if the main one has outlines of some.
+LoadedFace& Typeface::Implementation::findFaceFor(char32_t character) {
+    using Coloring = FontLibrary::Implementation::Coloring;
+    if (isPictograph(character)) {
+        for (const auto& face : faces)
+            if (face->isOfPictures() && face->has(character))
+                return *face;
+        if (LoadedFace* const colored = loadFaceFor(character, Coloring::colored))
+            return *colored;
+    }
+    for (const auto& face : faces)
         if (face->has(character))
             return *face;
-    }
-    const auto [entry, isNew] = fallbacks.try_emplace(character, faces.front().get());
-    if (isNew) {
-        const FontLibrary::Implementation& fonts = library->implementation();
-        const FaceFile file = fonts.find(request, character);
-        if (!file.path.empty()) {
-            auto face = std::make_unique<LoadedFace>(fonts.open(file, request.pixels), file);
-            // A face of coloured pictures has no outlines, and would leave holes.
-            if (face->has(character) && FT_IS_SCALABLE(face->face())) {
-                entry->second = face.get();
-                faces.push_back(std::move(face));
-            }
-        }
-    }
-    return *entry->second;
+    LoadedFace* const other = loadFaceFor(character, Coloring::any);
+    return other != nullptr ? *other : *faces.front();
+}
+
+LoadedFace* Typeface::Implementation::loadFaceFor(char32_t character,
+                                                  FontLibrary::Implementation::Coloring coloring) {
+    const FontLibrary::Implementation& fonts = library->implementation();
+    const FaceFile file = fonts.find(request, character, coloring);
+    if (file.path.empty())
+        return nullptr;
+    auto face = std::make_unique<LoadedFace>(fonts.open(file, request.pixels), file, request.pixels);
+    const bool isWanted = coloring == FontLibrary::Implementation::Coloring::any || face->isOfPictures();
+    if (!isWanted || !face->has(character) || !face->canDraw())
+        return nullptr;
+    faces.push_back(std::move(face));
+    return faces.back().get();
 }
 
 Typeface::Typeface(std::unique_ptr<Implementation> implementation)

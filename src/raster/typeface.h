@@ -1,8 +1,8 @@
 /// \file
-/// One font at one size: its measures and its glyphs as coverage masks.
+/// One font at one size: its measures and its glyphs as coverage masks, or as pictures.
 #pragma once
 
-#include "values/types.h"
+#include "values/bitmap.h"
 
 #include <memory>
 #include <span>
@@ -17,6 +17,7 @@ struct Glyph {
     Long top = 0;  ///< from the base line up to the mask's upper edge
     Long width = 0;
     std::vector<Byte> mask; ///< coverage, rows of `width`
+    Bitmap picture;         ///< in place of the mask, where a glyph has colours of its own
 };
 
 struct PlacedGlyph {

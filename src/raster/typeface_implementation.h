@@ -13,19 +13,29 @@ namespace lumtex::raster {
 /// An opened face whose glyphs are drawn once and kept.
 class LoadedFace {
   public:
-    LoadedFace(FtFaceHandle face, FaceFile file);
+    /// `pixels` is the size that was asked for.
+    LoadedFace(FtFaceHandle face, FaceFile file, Long pixels);
 
     bool has(char32_t character) const;
     const Glyph& glyphOf(char32_t character);
     const Glyph& glyphAt(std::uint32_t index);
+    /// Glyphs are pictures in colours, of a size of their own, and not outlines.
+    bool isOfPictures() const { return FT_HAS_COLOR(face_.get()) && !FT_IS_SCALABLE(face_.get()); }
+    bool canDraw() const { return FT_IS_SCALABLE(face_.get()) || isOfPictures(); }
+    /// A distance in the face's own size, in 26.6 fixed point, as pixels of the size that was asked for.
+    Long pixelsOf(FT_Pos distance) const;
     FT_Face face() const { return face_.get(); }
     hb_font_t* shaper();
 
   private:
     Glyph draw(std::uint32_t index);
+    Glyph drawOutline(std::uint32_t index);
+    Glyph drawPicture(std::uint32_t index);
+    FT_Int32 loadFlags() const;
 
     FtFaceHandle face_;
     FaceFile file_;
+    Double reduction_ = 1; ///< of its pictures
     HbFontHandle shaper_;
     std::unordered_map<std::uint32_t, std::unique_ptr<Glyph>> glyphs_;
 };
@@ -46,6 +56,9 @@ struct Typeface::Implementation {
 
     const Glyph& simpleGlyph(char16_t unit);
     LoadedFace& faceFor(char32_t character);
+    LoadedFace& findFaceFor(char32_t character);
+    /// Looks for a face among all files, and keeps it if it draws the character; null if none does.
+    LoadedFace* loadFaceFor(char32_t character, FontLibrary::Implementation::Coloring coloring);
 
     /// Code units of a text that one face draws in one script; a control character is one without a face.
     struct Stretch {
@@ -65,7 +78,7 @@ struct Typeface::Implementation {
     FaceRequest request;
     /// The face itself, then those that were needed for characters it lacks.
     std::vector<std::unique_ptr<LoadedFace>> faces;
-    std::unordered_map<char32_t, LoadedFace*> fallbacks;
+    std::unordered_map<char32_t, LoadedFace*> found; ///< what each character is drawn with
     std::array<const Glyph*, simpleEnd> simple{};
     std::unordered_map<String, GlyphRun, TextHash, std::equal_to<>> shaped;
     HbBufferHandle buffer;
