@@ -4,20 +4,33 @@ rem
 rem   register.cmd
 rem   register.cmd user
 setlocal
+rem A 32-bit prompt of a 64-bit Windows sees the 32-bit half of it alone.
+if /i not "%PROCESSOR_ARCHITEW6432%"=="AMD64" goto native
+"%SystemRoot%\Sysnative\cmd.exe" /c ""%~f0" %*"
+exit /b %errorlevel%
+:native
 set flags=/s
 if /i "%~1"=="user" set flags=/s /n /i:user
 set status=0
 if /i not "%PROCESSOR_ARCHITECTURE%"=="AMD64" goto narrow
-"%SystemRoot%\System32\regsvr32.exe" %flags% "%~dp0x64\LumtexListView.ocx"
-if errorlevel 1 set status=1
+call :component x64 System32
 rem 32-bit programs of a 64-bit Windows have a registry of their own.
-if not exist "%SystemRoot%\SysWOW64\regsvr32.exe" goto done
-"%SystemRoot%\SysWOW64\regsvr32.exe" %flags% "%~dp0x86\LumtexListView.ocx"
-if errorlevel 1 set status=1
+if exist "%SystemRoot%\SysWOW64\regsvr32.exe" call :component x86 SysWOW64
 goto done
 :narrow
-"%SystemRoot%\System32\regsvr32.exe" %flags% "%~dp0x86\LumtexListView.ocx"
-if errorlevel 1 set status=1
+call :component x86 System32
+goto done
+
+:component
+"%SystemRoot%\%2\regsvr32.exe" %flags% "%~dp0%1\LumtexListView.ocx"
+if not errorlevel 1 goto :eof
+echo Registering %1\LumtexListView.ocx failed: regsvr32 returned %errorlevel%.
+set status=1
+goto :eof
+
 :done
-if %status%==0 (echo LumtexListView is registered.) else (echo LumtexListView could not be registered.)
-exit /b %status%
+if %status%==0 echo LumtexListView is registered.
+if %status%==0 exit /b 0
+echo LumtexListView could not be registered.
+if /i not "%~1"=="user" echo For all users this takes an administrator. For you alone: register.cmd user
+exit /b 1
