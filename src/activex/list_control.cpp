@@ -11,7 +11,7 @@ ListControl::ListControl(IUnknown* outer)
       control_(outer_, core_), inPlace_(outer_, core_), active_(outer_, core_), view_(outer_, core_),
       data_(outer_, core_), bag_(outer_, core_), stream_(outer_, core_), storage_(outer_, core_),
       classInfo_(outer_), quick_(outer_, *this), errorInfo_(outer_, guidOf("_lmListView")), pages_(outer_),
-      browsing_(outer_, core_) {}
+      browsing_(outer_, core_), categories_(outer_) {}
 
 HRESULT ListControl::Inner::QueryInterface(REFIID iid, void** found) {
     if (found == nullptr)
@@ -79,6 +79,7 @@ IUnknown* ListControl::face(REFIID iid) {
         {IID_ISupportErrorInfo, errorInfo_},
         {IID_ISpecifyPropertyPages, pages_},
         {IID_IPerPropertyBrowsing, browsing_},
+        {ICategorizeProperties::interfaceId, categories_},
     };
     for (const Entry& entry : entries)
         if (IsEqualIID(iid, entry.iid))

@@ -2,6 +2,7 @@
 /// The control as one object with many interfaces.
 #pragma once
 
+#include "activex/categories_face.h"
 #include "activex/class_faces.h"
 #include "activex/designer_faces.h"
 #include "activex/in_place_faces.h"
@@ -71,6 +72,7 @@ class ListControl {
     ErrorInfoFace errorInfo_;
     PagesFace pages_;
     BrowsingFace browsing_;
+    CategoriesFace categories_;
 };
 
 } // namespace lumtex::win32

@@ -19,6 +19,23 @@ enum class Group : Byte {
     data,       ///< what the user may do to the content, and what is dragged in and out
 };
 
+/// The heading of the group.
+constexpr Help groupName(Group group) {
+    switch (group) {
+    case Group::appearance:
+        return {u"Appearance", u"Darstellung"};
+    case Group::behaviour:
+        return {u"Behaviour", u"Verhalten"};
+    case Group::columns:
+        return {u"Columns", u"Spalten"};
+    case Group::scrollBars:
+        return {u"Scroll bars", u"Bildlaufleisten"};
+    case Group::data:
+        break;
+    }
+    return {u"Data", u"Daten"};
+}
+
 /// What follows once the value of a property is stored and the host was told.
 enum class After : Byte {
     store,             ///< nothing
