@@ -5,6 +5,7 @@
 #include "accessibility/change.h"
 #include "accessibility/element.h"
 #include "guards/control_life.h"
+#include "platform/window.h"
 #include "values/geometry.h"
 
 #include <functional>
@@ -66,6 +67,8 @@ class AccessibleList final : private ControlWatcher {
     std::optional<Rect> place(const Element& element) const;
     /// The innermost element; nothing outside the list.
     Element at(Long x, Long y) const;
+    /// The window that is the element's alone; 0 for one that is painted on a window of another.
+    WindowHandle window(const Element& element) const;
 
     // What it says (words.cpp, states.cpp)
 
@@ -84,6 +87,8 @@ class AccessibleList final : private ControlWatcher {
         Long least = 0;
         Long value = 0;
         Long most = 0;
+        Long step = 0; ///< of a press on an arrow
+        Long page = 0; ///< of a press on the trough
     };
     /// Of a bar.
     std::optional<Range> range(const Element& element) const;

@@ -89,10 +89,14 @@ class Places {
     }
     Rect partOfBar(const Element& element) const {
         const bars::ScrollBar& bar = reader_.bar(element);
-        const Window& part = element.kind == Kind::thumb      ? bar.thumb()
-                             : element.kind == Kind::lowArrow ? bar.lowArrow()
-                                                              : bar.highArrow();
+        const Window& part = partWindow(element);
         return around(bar.Left() + part.Left(), bar.Top() + part.Top(), part.Width(), part.Height());
+    }
+    const Window& partWindow(const Element& element) const {
+        const bars::ScrollBar& bar = reader_.bar(element);
+        return element.kind == Kind::thumb      ? bar.thumb()
+               : element.kind == Kind::lowArrow ? bar.lowArrow()
+                                                : bar.highArrow();
     }
     bool shows(const Element& element) const {
         return element.kind != Kind::thumb || reader_.bar(element).thumb().Visible();
@@ -236,6 +240,26 @@ Element AccessibleList::at(Long x, Long y) const {
         return row;
     const Element box = checkBoxElement(cell.row, cell.column);
     return contains(place(box), x, y) ? box : cell;
+}
+
+WindowHandle AccessibleList::window(const Element& element) const {
+    if (!exists(element))
+        return 0;
+    switch (element.kind) {
+    case Kind::list:
+        return core_->listWindow->hWnd();
+    case Kind::verticalBar:
+    case Kind::horizontalBar:
+        return ListReader(*core_).bar(element).window().hWnd();
+    case Kind::lowArrow:
+    case Kind::thumb:
+    case Kind::highArrow:
+        return Places(*core_).partWindow(element).hWnd();
+    case Kind::editor:
+        return core_->editor->hWnd();
+    default:
+        return 0;
+    }
 }
 
 } // namespace lumtex::accessibility

@@ -94,7 +94,7 @@ std::optional<AccessibleList::Range> AccessibleList::range(const Element& elemen
     if (!exists(element) || (element.kind != Kind::verticalBar && element.kind != Kind::horizontalBar))
         return std::nullopt;
     const bars::ScrollBar& bar = ListReader(*core_).bar(element);
-    return Range{bar.Min(), bar.Value(), bar.Max()};
+    return Range{bar.Min(), bar.Value(), bar.Max(), bar.SmallChange(), bar.LargeChange()};
 }
 
 } // namespace lumtex::accessibility

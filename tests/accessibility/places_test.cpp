@@ -133,6 +133,23 @@ TEST_F(Places, OfTheEditorAreThoseOfItsBox) {
     EXPECT_EQ(hit(theEditor), "editor");
 }
 
+TEST_F(Places, SomeAreWindowsOfTheirOwn) {
+    addCities();
+    EXPECT_EQ(spoken.window(verticalBar), 0) << "there is none";
+    for (int row = 0; row < 30; ++row)
+        list.RowsAdd(Long{-1}, u",", u"Porto,868,Portugal");
+    settle();
+    list.SetEdit(2, 2);
+    EXPECT_EQ(spoken.window(theList), list.hwnd());
+    EXPECT_EQ(spoken.window(verticalBar), inside.vertical().window().hWnd());
+    EXPECT_EQ(spoken.window({Kind::lowArrow}), inside.vertical().lowArrow().hWnd());
+    EXPECT_EQ(spoken.window({Kind::thumb}), inside.vertical().thumb().hWnd());
+    EXPECT_EQ(spoken.window({Kind::highArrow}), inside.vertical().highArrow().hWnd());
+    EXPECT_EQ(spoken.window(theEditor), inside.editor().hWnd());
+    for (const Element& painted : {rowElement(1), cellElement(1, 1), theHeaders, headerElement(1)})
+        EXPECT_EQ(spoken.window(painted), 0) << named(painted);
+}
+
 TEST_F(Places, OutsideTheListAreNothing) {
     addCities();
     EXPECT_EQ(spoken.at(-1, 10), nothing);

@@ -102,6 +102,8 @@ TEST_F(Words, OfBarsAreTheirPlace) {
     EXPECT_EQ(range->least, 0);
     EXPECT_EQ(range->value, 4);
     EXPECT_EQ(range->most, inside.vertical().Max());
+    EXPECT_EQ(range->step, inside.vertical().SmallChange());
+    EXPECT_EQ(range->page, inside.vertical().LargeChange());
     EXPECT_FALSE(spoken.range(theList));
 }
 
