@@ -65,6 +65,13 @@ add_executable(screen_reader windows/screen_reader/main.cpp)
 target_link_libraries(screen_reader PRIVATE lumtex_flags oleacc ole32 oleaut32 uuid)
 lumtex_tests(spoken LINK lumtex_automation lumtex_win32 oleacc)
 add_dependencies(lumtex_test_spoken LumtexListView screen_reader)
+# The elements of UI Automation, and in place of the system's library one that notes what it is told.
+lumtex_tests(uia LINK lumtex_accessibility lumtex_test_raster lumtex_win32 oleacc)
+target_sources(
+    lumtex_test_uia
+    PRIVATE ${rooms}/activex/com_guard.cpp ${rooms}/activex/spoken_element.cpp ${rooms}/activex/spoken_list.cpp
+            ${rooms}/activex/uia_acts.cpp ${rooms}/activex/uia_element.cpp ${rooms}/activex/uia_events.cpp
+            ${rooms}/activex/uia_library.cpp ${rooms}/activex/uia_properties.cpp ${rooms}/activex/uia_table.cpp)
 # Scripts find the component through the program's manifest.
 enable_language(RC)
 lumtex_tests(scripts LINK lumtex_automation lumtex_win32)

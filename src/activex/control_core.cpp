@@ -35,6 +35,7 @@ ControlCore::~ControlCore() {
     world_.ownRuntime().onQueued = nullptr;
     world_.ownRuntime().onModal = nullptr;
     events_.freeze(true);
+    speaker_.reset();
     list_.reset();
 }
 

@@ -31,6 +31,8 @@ bool ControlCore::hasFocus() {
 
 /// Where the focus came by the mouse or by a call, not by a verb of the container, it hears of that.
 std::optional<LRESULT> ControlCore::seeMessage(const WindowMessage& message) {
+    // Who hears of the focus may let go of the control.
+    const ComRef<IUnknown> heard(message.number == WM_SETFOCUS ? &outer_ : nullptr);
     if (message.window == window() && speaker_) {
         if (message.number == WM_GETOBJECT) {
             const LRESULT spoken = speaker_->answer(message.wParam, message.lParam);
@@ -38,6 +40,8 @@ std::optional<LRESULT> ControlCore::seeMessage(const WindowMessage& message) {
         }
         if (message.number == WM_SETFOCUS)
             speaker_->tellFocus();
+        if (message.number == WM_DESTROY)
+            speaker_->tellEnd();
     }
     if (!inPlaceActive_ || !host_.UserMode())
         return {};

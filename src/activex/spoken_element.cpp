@@ -144,14 +144,7 @@ Element SpokenElement::elementOf(const VARIANT& id) const {
 
 template <class Body>
 HRESULT SpokenElement::about(const VARIANT& id, Body&& body) noexcept {
-    if (GetCurrentThreadId() != spoken_->thread)
-        return RPC_E_WRONG_THREAD;
-    if (spoken_->hasEnded())
-        return CO_E_OBJNOTCONNECTED;
-    // Host code in an act may let go of the control, and of this object.
-    const ComRef<IUnknown> alive(spoken_->outer);
-    const ComRef<IAccessible> self(this);
-    return guarded([&]() -> HRESULT {
+    return spoken_->entered(static_cast<IAccessible&>(*this), CO_E_OBJNOTCONNECTED, [&]() -> HRESULT {
         const Element element = elementOf(id);
         if (element.kind == Kind::nothing)
             return E_INVALIDARG;
@@ -341,13 +334,11 @@ HRESULT SpokenElement::accLocation(LONG* left, LONG* top, LONG* width, LONG* hei
         return E_POINTER;
     *left = *top = *width = *height = 0;
     return about(id, [&](const Element& element) {
-        const std::optional<Rect> place = spoken_->list.place(element);
-        const HWND window = spoken_->window();
-        POINT corner{};
-        if (!place || window == nullptr || ClientToScreen(window, &corner) == FALSE)
+        const std::optional<Rect> place = spoken_->place(element);
+        if (!place)
             return S_FALSE;
-        *left = corner.x + place->Left;
-        *top = corner.y + place->Top;
+        *left = place->Left;
+        *top = place->Top;
         *width = place->Right - place->Left;
         *height = place->Bottom - place->Top;
         return S_OK;
@@ -369,12 +360,8 @@ HRESULT SpokenElement::accHitTest(LONG x, LONG y, VARIANT* hit) {
         return E_POINTER;
     VariantInit(hit);
     return aboutSelf([&]() -> HRESULT {
-        const HWND window = spoken_->window();
-        POINT at{x, y};
-        if (window == nullptr || ScreenToClient(window, &at) == FALSE)
-            return S_FALSE;
         const auto& list = spoken_->list;
-        const Element found = list.at(at.x, at.y);
+        const Element found = spoken_->at(x, y);
         if (found == element_) {
             *hit = numberVARIANT(CHILDID_SELF);
             return S_OK;

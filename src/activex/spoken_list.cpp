@@ -1,6 +1,8 @@
 #include "activex/spoken_list.h"
 
 #include "activex/spoken_element.h"
+#include "activex/uia_element.h"
+#include "activex/uia_events.h"
 #include "model/list_view.h"
 
 namespace lumtex::win32 {
@@ -57,14 +59,15 @@ void notify(const SpokenList& spoken, DWORD event, const Element& element) {
         NotifyWinEvent(event, spoken.handle, OBJID_CLIENT, eventNumberOf(element));
 }
 
-void tell(const SpokenList& spoken, const Change& change) {
+void tell(const std::shared_ptr<SpokenList>& spoken, const Change& change) {
     // Who has the keyboard elsewhere must not be called here.
-    if (change.kind == ChangeKind::focus && !spoken.hasKeyboard())
+    if (change.kind == ChangeKind::focus && !spoken->hasKeyboard())
         return;
     const bool sorted = change.kind == ChangeKind::sorted;
-    notify(spoken, eventOf(change.kind), sorted ? accessibility::theList : change.element);
+    notify(*spoken, eventOf(change.kind), sorted ? accessibility::theList : change.element);
     if (sorted && change.element.kind == Kind::header)
-        notify(spoken, EVENT_OBJECT_DESCRIPTIONCHANGE, change.element);
+        notify(*spoken, EVENT_OBJECT_DESCRIPTIONCHANGE, change.element);
+    raiseUiaEvents(spoken, change);
 }
 
 } // namespace
@@ -100,24 +103,66 @@ bool SpokenList::hasKeyboard() const {
     return window() != nullptr && focus != nullptr && (focus == handle || IsChild(handle, focus) != FALSE);
 }
 
-ListSpeaker::ListSpeaker(lmListView& list, IUnknown& control)
-    : spoken_(std::make_shared<SpokenList>(list, control)) {
+std::optional<Rect> SpokenList::place(const Element& element) const {
+    std::optional<Rect> place = list.place(element);
+    POINT corner{};
+    if (!place || window() == nullptr || ClientToScreen(window(), &corner) == FALSE)
+        return std::nullopt;
+    place->Left += corner.x;
+    place->Right += corner.x;
+    place->Top += corner.y;
+    place->Bottom += corner.y;
+    return place;
+}
+
+Element SpokenList::at(LONG x, LONG y) const {
+    POINT at{x, y};
+    if (window() == nullptr || ScreenToClient(window(), &at) == FALSE)
+        return accessibility::nothing;
+    return list.at(at.x, at.y);
+}
+
+ListSpeaker::ListSpeaker(lmListView& list, IUnknown& control, FindUia findUia)
+    : spoken_(std::make_shared<SpokenList>(list, control)), findUia_(findUia) {
     spoken_->handle = toHWND(list.hwnd());
-    SpokenList* const spoken = spoken_.get();
-    spoken_->list.listen([spoken](const Change& change) { tell(*spoken, change); });
+    spoken_->list.listen([weak = std::weak_ptr(spoken_)](const Change& change) {
+        if (const auto spoken = weak.lock())
+            tell(spoken, change);
+    });
 }
 
 LRESULT ListSpeaker::answer(WPARAM wParam, LPARAM lParam) {
-    if (static_cast<LONG>(lParam) != OBJID_CLIENT || spoken_->hasEnded())
+    const auto spoken = spoken_;
+    if (spoken->hasEnded())
         return 0;
-    const auto list = ComRef<IAccessible>::adopting(new SpokenElement(spoken_, accessibility::theList));
-    // The import library knows the identifier of the interface by a wrong address.
-    return LresultFromObject(__uuidof(IAccessible), wParam, list.get());
+    switch (static_cast<LONG>(lParam)) {
+    case OBJID_CLIENT: {
+        const auto list = ComRef<IAccessible>::adopting(new SpokenElement(spoken, accessibility::theList));
+        // The import library knows the identifier of the interface by a wrong address.
+        return LresultFromObject(__uuidof(IAccessible), wParam, list.get());
+    }
+    case uiaRootObject: {
+        if (spoken->uia == nullptr)
+            spoken->uia = findUia_();
+        if (spoken->uia == nullptr)
+            return 0;
+        const ComRef<IRawElementProviderSimple> list = uiaProvider(spoken, accessibility::theList);
+        return spoken->uia->returnProvider(spoken->handle, wParam, lParam, list.get());
+    }
+    default:
+        return 0;
+    }
 }
 
 void ListSpeaker::tellFocus() const {
-    if (!spoken_->hasEnded())
-        notify(*spoken_, EVENT_OBJECT_FOCUS, spoken_->list.focus());
+    const auto spoken = spoken_;
+    if (!spoken->hasEnded())
+        tell(spoken, {ChangeKind::focus, spoken->list.focus()});
+}
+
+void ListSpeaker::tellEnd() const {
+    if (spoken_->uia != nullptr && spoken_->window() != nullptr)
+        spoken_->uia->returnProvider(spoken_->handle, 0, 0, nullptr);
 }
 
 } // namespace lumtex::win32

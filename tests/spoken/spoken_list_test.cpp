@@ -198,6 +198,10 @@ TEST_F(Spoken, TheKeyboardBringsTheFocusOfTheRow) {
     EXPECT_THAT(heard, ::testing::Contains("focus 2"));
 }
 
+TEST_F(Spoken, ProgramsOfUiAutomationFindTheList) {
+    EXPECT_THAT(asked("automation"), ElementsAre("50028 \"cities\""));
+}
+
 TEST_F(Spoken, NumbersOfEventsNameTheirElements) {
     const auto list = accessible();
     ASSERT_TRUE(list);

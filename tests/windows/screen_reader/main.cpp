@@ -7,6 +7,7 @@
 ///   screen_reader WINDOW value STEPS TEXT
 ///   screen_reader WINDOW select STEPS FLAGS
 ///   screen_reader WINDOW listen READY DONE  events, between one named event and another
+///   screen_reader WINDOW automation       type of control and name of the list, by UI Automation
 ///
 /// A number names the window. Elements are written as role, name, value, description, states, action.
 #include "worlds/win32/windows_api.h"
@@ -17,6 +18,8 @@
 #include <string>
 
 #include <oleacc.h>
+#include <uiautomationclient.h>
+#include <uiautomationcore.h>
 
 namespace {
 
@@ -255,11 +258,42 @@ void listen(HWND window, const char* ready, const char* done) {
     CloseHandle(doneEvent);
 }
 
+/// By the functions of the system's library, which the system's headers lack.
+void automation(HWND window) {
+    const HMODULE library = LoadLibraryW(L"uiautomationcore.dll");
+    const auto function = [&](const char* name) {
+        return reinterpret_cast<void*>(GetProcAddress(library, name));
+    };
+    using Node = void*;
+    const auto ofWindow = reinterpret_cast<HRESULT(WINAPI*)(HWND, Node*)>(function("UiaNodeFromHandle"));
+    const auto valueOf =
+        reinterpret_cast<HRESULT(WINAPI*)(Node, PROPERTYID, VARIANT*)>(function("UiaGetPropertyValue"));
+    const auto release = reinterpret_cast<WINBOOL(WINAPI*)(Node)>(function("UiaNodeRelease"));
+    Node list = nullptr;
+    if (FAILED(ofWindow(window, &list))) {
+        std::printf("nothing\n");
+        return;
+    }
+    VARIANT type;
+    VariantInit(&type);
+    valueOf(list, UIA_ControlTypePropertyId, &type);
+    VARIANT name;
+    VariantInit(&name);
+    valueOf(list, UIA_NamePropertyId, &name);
+    std::printf("%ld \"%s\"\n", type.lVal, name.vt == VT_BSTR ? plain(name.bstrVal).c_str() : "?");
+    release(list);
+    FreeLibrary(library);
+}
+
 int run(int count, char** arguments) {
     const HWND window = lumtex::win32::toHWND(std::atoi(arguments[1]));
     const std::string what = arguments[2];
     if (what == "listen" && count > 4) {
         listen(window, arguments[3], arguments[4]);
+        return 0;
+    }
+    if (what == "automation") {
+        automation(window);
         return 0;
     }
     void* found = nullptr;
