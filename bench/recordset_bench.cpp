@@ -5,15 +5,13 @@
 #include "adapters/database/database_recordset.h"
 #include "list_on_desktop.h"
 #include "platform/record_source.h"
+#include "record_file.h"
 #include "values/runtime_error.h"
-#include "values/text.h"
 
-#include <filesystem>
 #include <stdexcept>
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
-#include <unistd.h>
 
 namespace {
 
@@ -22,60 +20,13 @@ using namespace lumtex::bench;
 
 constexpr const char* query = "select * from records";
 
-void run(sqlite3* database, const char* sql) {
-    if (sqlite3_exec(database, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sqlite3_errmsg(database));
-}
-
-/// A file with the rows of the other benchmarks, gone with the object.
-class RecordFile {
-  public:
-    explicit RecordFile(std::int64_t count)
-        : path_((std::filesystem::temp_directory_path() /
-                 ("lumtex-bench-" + std::to_string(getpid()) + "-" + std::to_string(count) + ".sqlite"))
-                    .string()) {
-        sqlite3* database = nullptr;
-        if (sqlite3_open(path_.c_str(), &database) != SQLITE_OK)
-            throw std::runtime_error("no file " + path_);
-        run(database, "create table records (number integer, name text, city text, amount real, day text)");
-        run(database, "begin");
-        sqlite3_stmt* insert = nullptr;
-        sqlite3_prepare_v2(database, "insert into records values (?, ?, ?, ?, ?)", -1, &insert, nullptr);
-        for (const String& row : rowsOf(count)) {
-            StringView rest = row;
-            for (int i = 1; i <= columns; ++i) {
-                const std::size_t end = rest.find(separator);
-                const std::string field = toUtf8(rest.substr(0, end));
-                sqlite3_bind_text(insert, i, field.data(), static_cast<int>(field.size()), SQLITE_TRANSIENT);
-                rest.remove_prefix(end == StringView::npos ? rest.size() : end + 1);
-            }
-            sqlite3_step(insert);
-            sqlite3_reset(insert);
-        }
-        sqlite3_finalize(insert);
-        run(database, "commit");
-        sqlite3_close(database);
-    }
-    RecordFile(const RecordFile&) = delete;
-    RecordFile& operator=(const RecordFile&) = delete;
-    ~RecordFile() {
-        std::error_code failure;
-        std::filesystem::remove(path_, failure);
-    }
-
-    const std::string& path() const { return path_; }
-
-  private:
-    std::string path_;
-};
-
 const RecordFile& fileOf(std::int64_t count) {
     static std::vector<std::pair<std::int64_t, std::unique_ptr<RecordFile>>> files;
     for (const auto& [size, file] : files) {
         if (size == count)
             return *file;
     }
-    return *files.emplace_back(count, std::make_unique<RecordFile>(count)).second;
+    return *files.emplace_back(count, std::make_unique<RecordFile>(rowsOf(count))).second;
 }
 
 /// Hides that the records can be had without a call by name for each value.

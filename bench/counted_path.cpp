@@ -1,0 +1,9 @@
+#include "counted_path.h"
+
+namespace lumtex::bench {
+
+void countedPath(const std::function<void()>& work) {
+    work();
+}
+
+} // namespace lumtex::bench
