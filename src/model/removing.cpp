@@ -32,7 +32,8 @@ void lmListView::removeRow(Long Index, Procedure& p) {
         if (ItemChecked(Index, slot + 1))
             p.step([&] { --records.columnAt(slot).ItemsChecked; });
     }
-    const Long last = records.upperBoundOfRows();
+    // A report above may have let host code end the list, which leaves none.
+    const Long last = p.value<Long>([&] { return records.upperBoundOfRows(); });
     QueueWatch watch(runtime().queue());
     for (Long row = Index; row <= last; ++row) {
         // While nothing waits for the host, nobody sees that the others move at once.

@@ -1,6 +1,8 @@
 /// What a list still does that ended within its own call.
 #include "hostcode/odd_moments_in_memory.h"
 
+#include <utility>
+
 namespace lumtex::testing {
 
 class EndedList : public OddMomentsInMemory {};
@@ -49,6 +51,26 @@ TEST_F(EndedList, LetsNoFailureOutOfTheRemovalThatItEndsIn) {
     makeList();
     desktop.onYield([&] { list.reset(); });
     EXPECT_NO_THROW(list->RowsRemove(1));
+    EXPECT_EQ(list, nullptr);
+}
+
+TEST_F(EndedList, LetsNoFailureOutOfTheRemovalInWhoseReportItEnds) {
+    Error().letSilentError(false);
+    makeList();
+    // A row added while another one comes in ends the walk over that one's cells.
+    list->setDefaultItemFont(nullptr);
+    bool added = false;
+    desktop.runtime().whileBoxIsOpen = [&] {
+        if (!std::exchange(added, true))
+            list->RowsAdd(Long{-1}, u",", u"whole");
+    };
+    list->RowsAdd(Long{-1}, u",", u"short");
+    desktop.runtime().boxes.clear();
+    desktop.runtime().whileBoxIsOpen = [&] { list.reset(); };
+    // It asks for check marks of cells that are not there.
+    EXPECT_NO_THROW(list->RowsRemove(rows + 1));
+    desktop.runtime().whileBoxIsOpen = {};
+    EXPECT_EQ(desktop.runtime().boxes.size(), 1U);
     EXPECT_EQ(list, nullptr);
 }
 
