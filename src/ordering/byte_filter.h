@@ -6,6 +6,8 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <span>
 #include <type_traits>
 
@@ -17,8 +19,13 @@ class ByteFilter {
   public:
     /// Takes the demand unless there are two already. The bytes may be the same.
     void demand(unsigned char one, unsigned char other) {
-        if (count_ < demands_.size())
-            demands_[count_++] = {one, other};
+        const Demand demand = {everywhere(one), everywhere(other)};
+        // One alone is asked for twice.
+        if (count_ == 0)
+            demands_ = {demand, demand};
+        else if (count_ == 1)
+            demands_[1] = demand;
+        ++count_;
     }
 
     /// True also for texts that are not kept in bytes.
@@ -27,37 +34,46 @@ class ByteFilter {
             return true;
         // Bytes behind the text may meet a demand as well, which costs no more than a look.
         if (const unsigned char* inside = text.insideBytes())
-            return meets(std::span<const unsigned char, 16>(inside, 16));
+            return meetsAll({inside, sizeof(Lanes)});
         return text.visit([&](auto units) {
             if constexpr (std::is_same_v<decltype(units), StringView>)
                 return true;
             else
-                return meets(units);
+                return meetsAll(units);
         });
     }
 
   private:
+    using Lanes [[gnu::vector_size(16)]] = unsigned char;
+
+    /// In each lane the byte that is looked for.
     struct Demand {
-        unsigned char one;
-        unsigned char other;
+        Lanes one;
+        Lanes other;
     };
 
-    /// Goes through all bytes without a branch, so that wide instructions take many at a time.
-    template <class Bytes>
-    static bool meets(Bytes bytes, Demand demand) {
-        unsigned char found = 0;
-        for (const unsigned char byte : bytes)
-            found = static_cast<unsigned char>(found | static_cast<unsigned char>(byte == demand.one) |
-                                               static_cast<unsigned char>(byte == demand.other));
+    static Lanes everywhere(unsigned char byte) { return Lanes{} + byte; }
+    /// Not 0 if one of sixteen bytes is what is looked for.
+    static std::uint64_t meets(const unsigned char* bytes, const Demand& demand) {
+        Lanes lanes;
+        std::memcpy(&lanes, bytes, sizeof lanes);
+        const auto found = (lanes == demand.one) | (lanes == demand.other);
+        std::array<std::uint64_t, 2> halves;
+        std::memcpy(halves.data(), &found, sizeof halves);
+        return halves[0] | halves[1];
+    }
+    /// Of sixteen bytes and more, as texts outside a cell are longer than those inside.
+    static bool meets(std::span<const unsigned char> bytes, const Demand& demand) {
+        const std::size_t last = bytes.size() - sizeof(Lanes);
+        std::uint64_t found = meets(bytes.data() + last, demand);
+        for (std::size_t i = 0; i < last; i += sizeof(Lanes))
+            found |= meets(bytes.data() + i, demand);
         return found != 0;
     }
-    template <class Bytes>
-    bool meets(Bytes bytes) const {
-        for (std::size_t i = 0; i < count_; ++i) {
-            if (!meets(bytes, demands_[i]))
-                return false;
-        }
-        return true;
+    /// Asks for both without a branch between: nobody foresees one that hangs on a letter in a text.
+    bool meetsAll(std::span<const unsigned char> bytes) const {
+        return (static_cast<unsigned>(meets(bytes, demands_[0])) &
+                static_cast<unsigned>(meets(bytes, demands_[1]))) != 0;
     }
 
     std::array<Demand, 2> demands_{};

@@ -17,7 +17,9 @@ class FindMatcher {
     /// An unknown `compare` matches nothing. `pattern` must live as long as this object.
     FindMatcher(Runtime& runtime, StringView pattern, cFindCompare compare);
 
-    bool matches(const CompactText& text) const { return filter_.mayMatch(text) && matchesWhatMay(text); }
+    bool matches(const CompactText& text) const { return !refuses(text) && matchesWhatMay(text); }
+    /// No match, by a look that runs no code of the host. What is not refused must be asked for.
+    bool refuses(const CompactText& text) const { return !filter_.mayMatch(text); }
     bool matches(StringView text) const;
 
   private:

@@ -163,9 +163,6 @@ bool LikePattern::matchesUnits(const Unit* text, std::size_t size) const {
 /// Literals that at most two bytes are: letters in both cases, mostly.
 ByteFilter LikePattern::filter() const {
     ByteFilter filter;
-    // What stands at an end of the text refuses most texts as fast.
-    if (segments_.front().length + segments_.back().length != 0)
-        return filter;
     for (const Element& element : elements_) {
         if (element.kind != Element::literal)
             continue;

@@ -73,15 +73,18 @@ bool Finder::readNotation(
 }
 
 /// Goes through the cells of the lists from the stored place on, until `test` says that one is a hit. A cell
-/// that is not there is read through `report`, by whose name the failure goes, and ends the search.
-template <class Test, class Report>
-FindResults Finder::scan(Test test, Report report) {
+/// that is not there is read through `report`, by whose name the failure goes, and ends the search. What
+/// `refuses` says of a cell, without host code, spares its row a test of each cell.
+template <class Refuses, class Test, class Report>
+FindResults Finder::scan(Refuses refuses, Test test, Report report) {
     const auto rowEnd = static_cast<std::int64_t>(state_.findRowList.size());
     const auto columnEnd = static_cast<std::int64_t>(state_.findColumnList.size());
     if (state_.findColumnPos >= columnEnd)
         return {};
     for (std::int64_t r = state_.findRowPos; r < rowEnd; ++r) {
         records_.rows().prefetch(static_cast<std::size_t>(r) + rowsAhead, 0);
+        if (rowRefused(state_.findRowList.at(static_cast<std::size_t>(r)), refuses))
+            continue;
         // Wanted: each row starts at the stored column, so that a continued search leaves out those before
         // it.
         for (std::int64_t c = state_.findColumnPos; c < columnEnd; ++c) {
@@ -100,6 +103,23 @@ FindResults Finder::scan(Test test, Report report) {
     return {};
 }
 
+/// Whether each cell that is searched in the row is there and no hit.
+template <class Refuses>
+bool Finder::rowRefused(Long row, Refuses refuses) {
+    const Items* const cells = records_.cellsOf(row, 1);
+    if (cells == nullptr)
+        return false;
+    const std::size_t count = cells->count();
+    const auto columnEnd = static_cast<std::int64_t>(state_.findColumnList.size());
+    for (std::int64_t c = state_.findColumnPos; c < columnEnd; ++c) {
+        const Long column = state_.findColumnList.at(static_cast<std::size_t>(c));
+        if (column < 1 || static_cast<std::size_t>(column) > count ||
+            !refuses(*cells, static_cast<std::size_t>(column) - 1))
+            return false;
+    }
+    return true;
+}
+
 /// `r` and `c` are positions in the lists, from 0.
 FindResults Finder::noteHit(Long r, Long c) {
     // Wanted: the last column is told by its place in the list, and the stored row goes up by one from
@@ -115,20 +135,22 @@ FindResults Finder::noteHit(Long r, Long c) {
 }
 
 FindResults Finder::scanTexts(const ordering::FindMatcher& matcher) {
-    return scan([&](const Items& items, std::size_t cell) { return matcher.matches(items[cell].text()); },
+    return scan([&](const Items& items, std::size_t cell) { return matcher.refuses(items[cell].text()); },
+                [&](const Items& items, std::size_t cell) { return matcher.matches(items[cell].text()); },
                 [&](Long row, Long column) { list_.ItemText(row, column); });
 }
 
 /// A tag without a text form is reported and no hit.
 FindResults Finder::scanTags(const ordering::FindMatcher& matcher, Procedure& p) {
-    return scan(
-        [&](const Items& items, std::size_t cell) {
-            const CellExtras* extras = items.extras(cell);
-            String tag;
-            const bool hasText = extras == nullptr || p.step([&] { tag = extras->Tag.get().toText(); });
-            return hasText && matcher.matches(tag);
-        },
-        [&](Long row, Long column) { list_.ItemTag(row, column); });
+    return scan([](const Items& /*items*/, std::size_t /*cell*/) { return false; },
+                [&](const Items& items, std::size_t cell) {
+                    const CellExtras* extras = items.extras(cell);
+                    String tag;
+                    const bool hasText =
+                        extras == nullptr || p.step([&] { tag = extras->Tag.get().toText(); });
+                    return hasText && matcher.matches(tag);
+                },
+                [&](Long row, Long column) { list_.ItemTag(row, column); });
 }
 
 } // namespace lumtex

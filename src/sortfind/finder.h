@@ -35,8 +35,10 @@ class Finder : private ListPart {
         StringView text, Long limit, String& cachedText, ordering::NumberList& cachedList, Procedure& p);
     FindResults scanTexts(const ordering::FindMatcher& matcher);
     FindResults scanTags(const ordering::FindMatcher& matcher, Procedure& p);
-    template <class Test, class Report>
-    FindResults scan(Test test, Report report);
+    template <class Refuses, class Test, class Report>
+    FindResults scan(Refuses refuses, Test test, Report report);
+    template <class Refuses>
+    bool rowRefused(Long row, Refuses refuses);
     FindResults noteHit(Long r, Long c);
 
     State state_;
