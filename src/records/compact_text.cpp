@@ -1,6 +1,7 @@
 #include "records/compact_text.h"
 
-#include <algorithm>
+#include "values/unit_blocks.h"
+
 #include <cstring>
 #include <limits>
 #include <stdexcept>
@@ -11,17 +12,13 @@ namespace {
 
 constexpr std::size_t longestText = std::numeric_limits<std::uint32_t>::max();
 
-bool fitsBytes(StringView text) {
-    // Gathering the bits of all units lets the compiler use wide instructions.
-    char16_t seen = 0;
-    for (const char16_t unit : text)
-        seen = static_cast<char16_t>(seen | unit);
-    return seen < 256;
+constexpr bool fitsBytes(char16_t bits) {
+    return bits < 256;
 }
 
-void narrow(StringView text, unsigned char* target) {
-    std::transform(
-        text.begin(), text.end(), target, [](char16_t unit) { return static_cast<unsigned char>(unit); });
+void demandStorable(std::size_t length) {
+    if (length > longestText)
+        throw std::length_error("a cell's text is too long");
 }
 
 } // namespace
@@ -43,23 +40,32 @@ void CompactText::setHeap(unsigned char* memory, std::size_t length, unsigned ch
 }
 
 void CompactText::store(StringView text) {
-    const bool inBytes = fitsBytes(text);
-    if (inBytes && text.size() <= inlineCapacity) {
-        narrow(text, bytes_.data());
+    if (text.size() <= inlineCapacity && fitsBytes(copyUnits(text.data(), text.size(), bytes_.data()))) {
         bytes_[inlineCapacity] = static_cast<unsigned char>(text.size());
         return;
     }
-    if (text.size() > longestText)
-        throw std::length_error("a cell's text is too long");
-    if (inBytes) {
+    demandStorable(text.size());
+    if (fitsBytes(bitsOf(text.data(), text.size()))) {
         auto* memory = new unsigned char[text.size()];
-        narrow(text, memory);
+        copyUnits(text.data(), text.size(), memory);
         setHeap(memory, text.size(), narrowOnHeap);
     } else {
         auto* memory = new unsigned char[text.size() * sizeof(char16_t)];
         std::memcpy(memory, text.data(), text.size() * sizeof(char16_t));
         setHeap(memory, text.size(), wideOnHeap);
     }
+}
+
+void CompactText::store(std::span<const unsigned char> units) {
+    if (units.size() <= inlineCapacity) {
+        copyUnits(units.data(), units.size(), bytes_.data());
+        bytes_[inlineCapacity] = static_cast<unsigned char>(units.size());
+        return;
+    }
+    demandStorable(units.size());
+    auto* memory = new unsigned char[units.size()];
+    std::memcpy(memory, units.data(), units.size());
+    setHeap(memory, units.size(), narrowOnHeap);
 }
 
 void CompactText::release() {
@@ -77,7 +83,7 @@ void CompactText::copyTo(String& target) const {
     // Assigning from bytes would go through a text of its own.
     visit([&](auto units) {
         target.resize(units.size());
-        std::copy(units.begin(), units.end(), target.begin());
+        copyUnits(units.data(), units.size(), target.data());
     });
 }
 

@@ -18,6 +18,8 @@ class CompactText {
     CompactText() = default;
     /// Throws std::bad_alloc, or std::length_error for more than 2^32 - 1 code units.
     explicit CompactText(StringView text) { store(text); }
+    /// The same of bytes that are a code unit each.
+    explicit CompactText(std::span<const unsigned char> units) { store(units); }
     CompactText(const CompactText&) = delete;
     CompactText& operator=(const CompactText&) = delete;
     CompactText(CompactText&& other) noexcept : bytes_(other.bytes_) { other.forget(); }
@@ -26,6 +28,7 @@ class CompactText {
 
     /// The old text stays where storing the new one fails.
     void assign(StringView text) { *this = CompactText(text); }
+    void assign(std::span<const unsigned char> units) { *this = CompactText(units); }
 
     std::size_t size() const { return onHeap() ? heapLength() : tag(); } ///< code units
     bool empty() const { return size() == 0; }
@@ -75,6 +78,7 @@ class CompactText {
     void setHeap(unsigned char* memory, std::size_t length, unsigned char tag);
 
     void store(StringView text);
+    void store(std::span<const unsigned char> units);
     void release();
     void forget() { bytes_[inlineCapacity] = 0; }
 

@@ -1,5 +1,7 @@
 #include "values/text.h"
 
+#include "values/unit_blocks.h"
+
 #include <algorithm>
 
 namespace lumtex {
@@ -97,14 +99,20 @@ String fromUtf8(std::string_view text) {
 }
 
 void appendFromUtf8(String& target, std::string_view text) {
+    const std::size_t before = target.size();
     // Most texts are plain ASCII from end to end, or nearly so.
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(text.data());
+    if (bitsOf(bytes, text.size()) < 0x80) {
+        target.resize(before + text.size());
+        copyUnits(bytes, text.size(), target.data() + before);
+        return;
+    }
     const auto plain = static_cast<std::size_t>(
         std::find_if(text.begin(), text.end(), [](char byte) { return static_cast<signed char>(byte) < 0; }) -
         text.begin());
-    const std::size_t before = target.size();
     target.reserve(std::max(target.capacity(), before + text.size()));
     target.resize(before + plain);
-    std::copy_n(text.begin(), plain, target.begin() + static_cast<std::ptrdiff_t>(before));
+    copyUnits(bytes, plain, target.data() + before);
     for (std::size_t i = plain; i < text.size();) {
         const Lead lead = leadOf(static_cast<unsigned char>(text[i++]));
         char32_t point = lead.bits;
