@@ -2,6 +2,7 @@
 /// The text of a cell in sixteen bytes.
 #pragma once
 
+#include "values/prefetching.h"
 #include "values/types.h"
 
 #include <array>
@@ -50,7 +51,7 @@ class CompactText {
     /// Where the text lies inside: sixteen bytes, of which it takes the first ones; else null.
     const unsigned char* insideBytes() const { return onHeap() ? nullptr : bytes_.data(); }
     /// Has the machine fetch a text that is about to be looked at.
-    void prefetch() const {
+    LUMTEX_PREFETCHING void prefetch() const {
         if (onHeap())
             __builtin_prefetch(heap());
     }

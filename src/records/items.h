@@ -3,6 +3,7 @@
 #pragma once
 
 #include "records/list_view_item.h"
+#include "values/prefetching.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -49,7 +50,7 @@ class Items {
     const ListViewItem& operator[](std::size_t index) const { return block()->cells()[index]; }
 
     /// Has the machine fetch a cell that is about to be looked at, whether it is there or not.
-    void prefetch(std::size_t index) const {
+    LUMTEX_PREFETCHING void prefetch(std::size_t index) const {
         __builtin_prefetch(block_);
         __builtin_prefetch(reinterpret_cast<const char*>(block_) + sizeof(Block) +
                            index * sizeof(ListViewItem));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "records/row_record.h"
+#include "values/prefetching.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -49,7 +50,7 @@ class RowArray {
     const RowRecord& operator[](std::size_t position) const { return *slotOf(position); }
     RowRecord& back() { return *slotOf(size_ - 1); }
     /// Has the machine fetch a cell that is about to be looked at; `position` may lie behind the last.
-    void prefetch(std::size_t position, std::size_t cell) const {
+    LUMTEX_PREFETCHING void prefetch(std::size_t position, std::size_t cell) const {
         if (position < size_)
             slotOf(position)->items.prefetch(cell);
     }
