@@ -240,6 +240,7 @@ class lmListView final : public ListViewRecords, public UserControl {
     bool holdsAnything() const;
     void dropContent();
     static void destroy(void* list);
+    void addEmptyRows(Long count);
     void emptyItemStyle(std::optional<StyleLease>& style);
     void freshenItemStyle(std::optional<StyleLease>& style);
     Long placeOfNewRow(Variant& aIndex, Procedure& p);

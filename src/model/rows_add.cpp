@@ -1,6 +1,8 @@
 /// Adding a row, and the cells that come with it.
 #include "drawing/font_attributes.h"
+#include "guards/failure_of.h"
 #include "model/list_view.h"
+#include "values/unit_blocks.h"
 
 namespace lumtex {
 
@@ -15,7 +17,9 @@ class Pieces {
         if (exhausted_)
             return {};
         // An empty separator separates nothing.
-        const std::size_t end = separator_.empty() ? StringView::npos : rest_.find(separator_);
+        const std::size_t end = separator_.empty()       ? StringView::npos
+                                : separator_.size() == 1 ? indexOfUnit(rest_, separator_.front())
+                                                         : rest_.find(separator_);
         const StringView piece = rest_.substr(0, end);
         if (end == StringView::npos)
             exhausted_ = true;
@@ -29,6 +33,13 @@ class Pieces {
     StringView separator_;
     bool exhausted_ = false;
 };
+
+void makeNew(RowRecord& row, cTextPosition position) {
+    row.Enabled = true;
+    row.Selected = false;
+    row.Checked = false;
+    row.TextPosition = position;
+}
 
 } // namespace
 
@@ -66,6 +77,34 @@ Long lmListView::placeOfNewRow(Variant& aIndex, Procedure& p) {
     return place;
 }
 
+/// As many rows behind the last, as `RowsAdd` adds them without texts.
+void lmListView::addEmptyRows(Long count) {
+    Long added = 0;
+    // Then nothing between two of them is painted, reported or asked of the host.
+    if (ColumnsCount() > 0 && properties.DefaultItemFont && !properties.AutoCheckScroll &&
+        !properties.AutoRedraw && !designMode()) {
+        // Where memory runs out, the other way tells.
+        ignoringErrors([&] {
+            const Long columns = ColumnsCount();
+            std::optional<StyleLease> style;
+            freshenItemStyle(style);
+            for (; added < count; ++added) {
+                Items cells = Items::create(static_cast<std::size_t>(columns));
+                for (Long column = 1; column <= columns; ++column)
+                    cells.append({}, *style);
+                records.growRows();
+                RowRecord& row = records.rows().back();
+                row.items = std::move(cells);
+                makeNew(row, properties.TextPositionDefault);
+                counters.scanIndex = columns + 1;
+                properties.NewIndex = records.upperBoundOfRows();
+            }
+        });
+    }
+    for (; added < count; ++added)
+        RowsAdd(Long{-1}, u",", u"");
+}
+
 void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<StringView> aItemTexts) {
     if (ColumnsCount() == 0)
         return;
@@ -92,11 +131,7 @@ void lmListView::RowsAdd(Variant& aIndex, StringView aSplit, std::optional<Strin
         if (place < 0 || place > records.upperBoundOfRows())
             throw RuntimeError(ErrorNumber::subscriptOutOfRange);
         records.rows().moveLastTo(static_cast<std::size_t>(place));
-        RowRecord& row = records.recordAt(place);
-        row.Enabled = true;
-        row.Selected = false;
-        row.Checked = false;
-        row.TextPosition = properties.TextPositionDefault;
+        makeNew(records.recordAt(place), properties.TextPositionDefault);
     });
     if (placed)
         properties.NewIndex = place;

@@ -4,6 +4,7 @@
 
 #include "model/list_view_core.h"
 #include "records/cell_style.h"
+#include "values/prefetching.h"
 
 #include <optional>
 
@@ -19,12 +20,20 @@ class ContentCells {
     Items* cellsOf(Long row, Long column) const {
         return row <= core_.records.RowsCount() ? core_.records.cellsOf(row, column) : nullptr;
     }
+    /// Has the machine fetch the cells that a walk down the column comes to after that one: they lie far
+    /// apart.
+    LUMTEX_PREFETCHING void prefetch(Long row, Long column) const {
+        core_.records.rows().prefetch(static_cast<std::size_t>(row) + rowsAhead,
+                                      static_cast<std::size_t>(column) - 1);
+    }
     /// Assigning to a cell changes that cell and nothing else.
     bool assignSilently() const { return !core_.properties.AutoRedraw && !core_.designMode(); }
     /// What cells of a file without properties look like; none where their font is missing.
     std::optional<CellStyle> plainStyle() const;
 
   private:
+    static constexpr std::size_t rowsAhead = 16;
+
     ListViewCore& core_;
 };
 

@@ -160,8 +160,7 @@ bool lmListView::ContentInput(StringView sFilename, bool bReadItemPropertiesIfEx
             throw RuntimeError(ErrorNumber::outOfMemory);
     });
     if (possible && header.rowCount > 0) {
-        for (Long row = 1; row <= header.rowCount; ++row)
-            RowsAdd(Long{-1}, u",", u"");
+        addEmptyRows(header.rowCount);
         const bool readsProperties = header.hasItemProperties && bReadItemPropertiesIfExists;
         const RecordForm form = readsProperties            ? RecordForm::readProperties
                                 : header.hasItemProperties ? RecordForm::dropProperties

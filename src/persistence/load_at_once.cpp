@@ -4,6 +4,7 @@
 #include "guards/error.h"
 #include "guards/failure_of.h"
 #include "persistence/content_fields.h"
+#include "values/unit_blocks.h"
 
 #include <algorithm>
 
@@ -58,6 +59,11 @@ class Fields {
 
 std::span<const Byte> between(const Byte* first, const Byte* last) {
     return {first, static_cast<std::size_t>(last - first)};
+}
+
+/// The lower half of a byte's values is the same in every ANSI code page.
+bool isPlain(std::span<const Byte> bytes) {
+    return bitsOf(bytes.data(), bytes.size()) < 0x80;
 }
 
 bool sameBytes(std::span<const Byte> a, const std::vector<Byte>& b) {
@@ -152,13 +158,9 @@ bool LoadAtOnce::lookOf(const Record& record) {
 /// Valid until the next call.
 const String& LoadAtOnce::textOf(std::span<const Byte> bytes) {
     scratch_.resize(bytes.size());
-    // The lower half of a byte's values is the same in every ANSI code page.
-    Byte all = 0;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        scratch_[i] = bytes[i];
-        all |= bytes[i];
-    }
-    if (all >= 0x80)
+    if (isPlain(bytes))
+        copyUnits(bytes.data(), bytes.size(), scratch_.data());
+    else
         locale_.fromAnsi(bytes, scratch_);
     return scratch_;
 }
@@ -167,6 +169,7 @@ bool LoadAtOnce::read(Long row, Long column) {
     bool done = false;
     // Where memory runs out, the other way tells.
     static_cast<void>(failureOf([&] {
+        cells_.prefetch(row, column);
         Items* const cells = cells_.cellsOf(row, column);
         const auto index = static_cast<std::size_t>(column) - 1;
         // A new cell has nothing rare, unless host code gave it something at a report.
@@ -196,11 +199,14 @@ bool LoadAtOnce::read(Long row, Long column) {
         const bool keepsTag = form_ == RecordForm::readProperties && !record->tag.empty();
         if (keepsTag)
             cells->letTag(index, textOf(record->tag));
-        else
-            cells->letTag(index, u"");
         ListViewItem& item = (*cells)[index];
-        item.letText(textOf(record->text));
-        item.letStyle(look_.style->handle());
+        if (!keepsTag)
+            item.letTagIsEmptyText(true);
+        if (isPlain(record->text))
+            item.letText(record->text);
+        else
+            item.letText(textOf(record->text));
+        item.letStyle(*look_.style);
         file_.taken(record->size);
         done = true;
     }));

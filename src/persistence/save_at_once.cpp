@@ -3,6 +3,7 @@
 #include "content/content_colors.h"
 #include "guards/failure_of.h"
 #include "persistence/content_fields.h"
+#include "values/unit_blocks.h"
 
 #include <algorithm>
 
@@ -86,12 +87,7 @@ void SaveAtOnce::encodeText(const CompactText& text, Byte* target) {
             return false;
         } else {
             // The lower half of a byte's values is the same in every ANSI code page.
-            Byte all = 0;
-            for (std::size_t i = 0; i < units.size(); ++i) {
-                target[i] = units[i];
-                all |= units[i];
-            }
-            return all < 0x80;
+            return copyUnits(units.data(), units.size(), target) < 0x80;
         }
     });
     if (copied)
@@ -104,6 +100,7 @@ bool SaveAtOnce::write(Long row, Long column) {
     bool written = false;
     // Where memory runs out, the other way tells.
     static_cast<void>(failureOf([&] {
+        cells_.prefetch(row, column);
         const Items* cells = cells_.cellsOf(row, column);
         if (cells == nullptr)
             return;

@@ -45,7 +45,9 @@ class CellStyles {
     StyleHandle acquire(const CellStyle& style);
     /// The same for a new cell, whose style differs from `CellStyle{}` in colour and font alone.
     StyleHandle acquireForNewCell(OLE_COLOR ForeColor, const FontSpec& font);
-    void addReference(StyleHandle handle) { ++slots_[handle].references; }
+    /// How many counts there are of it, in a place that stays until the last is given back.
+    std::uint32_t& references(StyleHandle handle) { return slots_[handle].references; }
+    void addReference(StyleHandle handle) { ++references(handle); }
     void release(StyleHandle handle) {
         if (--slots_[handle].references == 0)
             forget(handle);
@@ -89,12 +91,17 @@ class CellStyles {
 class StyleLease {
   public:
     explicit StyleLease(const CellStyle& style)
-        : styles_(CellStyles::ofThread()), handle_(styles_.acquire(style)) {}
+        : styles_(CellStyles::ofThread()), handle_(styles_.acquire(style)),
+          references_(styles_.references(handle_)) {}
     /// Of the style of a new cell.
     StyleLease(OLE_COLOR ForeColor, const FontSpec& font)
-        : styles_(CellStyles::ofThread()), handle_(styles_.acquireForNewCell(ForeColor, font)) {}
+        : styles_(CellStyles::ofThread()), handle_(styles_.acquireForNewCell(ForeColor, font)),
+          references_(styles_.references(handle_)) {}
     /// A further count of a style in use.
-    explicit StyleLease(StyleHandle handle) : styles_(CellStyles::ofThread()), handle_(handle) { share(); }
+    explicit StyleLease(StyleHandle handle)
+        : styles_(CellStyles::ofThread()), handle_(handle), references_(styles_.references(handle_)) {
+        share();
+    }
     StyleLease(const StyleLease&) = delete;
     StyleLease& operator=(const StyleLease&) = delete;
     ~StyleLease() { styles_.release(handle_); }
@@ -102,13 +109,16 @@ class StyleLease {
     StyleHandle handle() const { return handle_; }
     /// The handle with a further count, which the caller owns.
     StyleHandle share() const {
-        styles_.addReference(handle_);
+        ++references_;
         return handle_;
     }
+    /// Gives back a count of any style.
+    void releaseOther(StyleHandle other) const { styles_.release(other); }
 
   private:
     CellStyles& styles_; ///< to ask for the thread's table costs more than what is done to it
     StyleHandle handle_;
+    std::uint32_t& references_; ///< so does the way through the table
 };
 
 } // namespace lumtex

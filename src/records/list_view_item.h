@@ -45,15 +45,16 @@ class ListViewItem {
     String Text() const { return text_.toString(); }
     const CompactText& text() const { return text_; }
     void letText(StringView text) { text_.assign(text); }
+    /// Of bytes that are a code unit each.
+    void letText(std::span<const unsigned char> units) { text_.assign(units); }
 
     const CellStyle& style() const { return CellStyles::ofThread()[style_]; }
     StyleHandle styleHandle() const { return style_; }
     /// Takes a share of another style.
-    void letStyle(StyleHandle style) {
-        CellStyles::ofThread().addReference(style);
+    void letStyle(const StyleLease& style) {
         const StyleHandle before = style_;
-        style_ = style;
-        CellStyles::ofThread().release(before);
+        style_ = style.share();
+        style.releaseOther(before);
     }
     /// Applies `change` to a copy of the style and shares the result.
     template <class Change>

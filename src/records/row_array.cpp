@@ -49,6 +49,8 @@ void RowArray::dropLast() noexcept {
 }
 
 void RowArray::moveLastTo(std::size_t position) noexcept {
+    if (position == size_ - 1)
+        return;
     RowRecord row = std::exchange(back(), RowRecord());
     const std::size_t target = position >> chunkBits;
     for (std::size_t i = (size_ - 1) >> chunkBits; i > target; --i) {
