@@ -77,7 +77,9 @@ std::string addressOf(const std::string& file, const std::string& options) {
 
 SqliteConnection opened(const std::string& name, int flags) {
     sqlite3* made = nullptr;
-    const int outcome = sqlite3_open_v2(name.c_str(), &made, SQLITE_OPEN_READONLY | flags, nullptr);
+    // A connection belongs to its recordset, and that to one thread at a time: locks would only cost time.
+    const int outcome =
+        sqlite3_open_v2(name.c_str(), &made, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX | flags, nullptr);
     SqliteConnection database(made);
     if (!database)
         throw RuntimeError(ErrorNumber::outOfMemory);
