@@ -8,7 +8,7 @@ import time
 
 import bench_report
 
-PROGRAMS = ["list", "plain", "qt", "gtk", "fltk"]
+PROGRAMS = ["list", "widget", "plain", "qt", "gtk", "fltk"]
 ON_A_DISPLAY = {"gtk", "fltk"}
 FOLDER = "build/release/bin/lumtex_peer_"
 # Without other toolkits, which take too long, a size only shows how the list grows.

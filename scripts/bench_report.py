@@ -8,6 +8,7 @@ PLOT = "docs/images/scaling.svg"
 BEGIN = "<!-- scripts/bench-peers writes from here -->"
 END = "<!-- to here -->"
 LIST, FLOOR, COMPONENT = "the list", "plain C++", "the component"
+WIDGET = "the widget"  # the list again, which is no peer of itself
 PLOTTED = ["load", "sort names", "sort numbers", "sort dates", "find nothing", "save a file", "load a file",
            "1,000 inserts at the front", "scroll by a page and repaint"]
 COLORS = ["#1f4e9c", "#b03a2e", "#d68910", "#7d6608", "#1e8449", "#6c3483", "#117a65", "#5d6d7e", "#000000"]
@@ -56,7 +57,7 @@ def table(values, rows, own, floor):
         found = values[kind, rows]
         middle = {name: statistics.median(found[name]) for name in found}
         cells = [f"{number(middle[name])} {spread(found[name])}".strip() if name in found else "" for name in columns]
-        peers = [middle[name] for name in others if name in middle]
+        peers = [middle[name] for name in others if name in middle and name != WIDGET]
         cells.append(f"{middle[own] / min(peers):.2g}" if peers and min(peers) > 0 else "")
         if floor:
             cells.append(f"{middle[own] / middle[floor]:.2g}" if middle.get(floor) else "")
