@@ -217,17 +217,17 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_BorderColor(OLE_COLOR* result) = 0;
     /// Colour of the border in the custom scheme.
     virtual HRESULT STDMETHODCALLTYPE put_BorderColor(OLE_COLOR value) = 0;
-    /// cCheckBoxes shows check boxes in the columns with ColumnCheckBoxes. What they show is ItemChecked.
+    /// cCheckBoxes shows check boxes in the columns with ColumnCheckBoxes. What they show is ItemChecked. A press at the place of a box changes that even where none is drawn.
     virtual HRESULT STDMETHODCALLTYPE get_Style(cListViewStyle* result) = 0;
-    /// cCheckBoxes shows check boxes in the columns with ColumnCheckBoxes. What they show is ItemChecked.
+    /// cCheckBoxes shows check boxes in the columns with ColumnCheckBoxes. What they show is ItemChecked. A press at the place of a box changes that even where none is drawn.
     virtual HRESULT STDMETHODCALLTYPE put_Style(cListViewStyle value) = 0;
     /// Whether the selection covers all columns or the first alone.
     virtual HRESULT STDMETHODCALLTYPE get_FullRowSelect(VARIANT_BOOL* result) = 0;
     /// Whether the selection covers all columns or the first alone.
     virtual HRESULT STDMETHODCALLTYPE put_FullRowSelect(VARIANT_BOOL value) = 0;
-    /// Whether a second press opens the in-place editor, in cells that allow it too.
+    /// Whether a second press opens the in-place editor, in cells that allow it too. A double click asks the cell alone.
     virtual HRESULT STDMETHODCALLTYPE get_AllowEdit(VARIANT_BOOL* result) = 0;
-    /// Whether a second press opens the in-place editor, in cells that allow it too.
+    /// Whether a second press opens the in-place editor, in cells that allow it too. A double click asks the cell alone.
     virtual HRESULT STDMETHODCALLTYPE put_AllowEdit(VARIANT_BOOL value) = 0;
     /// Background of selected cells in the custom scheme.
     virtual HRESULT STDMETHODCALLTYPE get_ValueColor(OLE_COLOR* result) = 0;
@@ -429,17 +429,17 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_FixColumns(VARIANT_BOOL* result) = 0;
     /// Whether columns keep their widths under the mouse.
     virtual HRESULT STDMETHODCALLTYPE put_FixColumns(VARIANT_BOOL value) = 0;
-    /// Kept for the host; it has no visible effect.
+    /// Kept for the host; it has no visible effect, and ItemOver is never raised.
     virtual HRESULT STDMETHODCALLTYPE get_CheckMouseOver(VARIANT_BOOL* result) = 0;
-    /// Kept for the host; it has no visible effect.
+    /// Kept for the host; it has no visible effect, and ItemOver is never raised.
     virtual HRESULT STDMETHODCALLTYPE put_CheckMouseOver(VARIANT_BOOL value) = 0;
     /// Kept for the host; the list never starts a drag by itself.
     virtual HRESULT STDMETHODCALLTYPE get_OLEDragMode(long* result) = 0;
     /// Kept for the host; the list never starts a drag by itself.
     virtual HRESULT STDMETHODCALLTYPE put_OLEDragMode(long value) = 0;
-    /// Whether the control takes drops.
+    /// 1 takes what is dragged over the list, with OLEDragOver and OLEDragDrop; any other number takes nothing.
     virtual HRESULT STDMETHODCALLTYPE get_OLEDropMode(long* result) = 0;
-    /// Whether the control takes drops.
+    /// 1 takes what is dragged over the list, with OLEDragOver and OLEDragDrop; any other number takes nothing.
     virtual HRESULT STDMETHODCALLTYPE put_OLEDropMode(long value) = 0;
     /// Whether rows take turns with two background colours, in place of those of their cells.
     virtual HRESULT STDMETHODCALLTYPE get_AutoRowColor(VARIANT_BOOL* result) = 0;
@@ -539,9 +539,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_RowSelected(VARIANT Index, VARIANT_BOOL* result) = 0;
     /// Whether the row is selected. Selecting scrolls to a row out of view, and without MultiSelect drops the other rows. ListIndex does not follow.
     virtual HRESULT STDMETHODCALLTYPE put_RowSelected(VARIANT Index, VARIANT_BOOL value) = 0;
-    /// Check mark that the control keeps for the host. Nothing shows it: what check boxes show is ItemChecked.
+    /// Check mark that the control keeps for the host. Nothing shows it: boxes stand in columns with ColumnCheckBoxes alone, and what they show is ItemChecked.
     virtual HRESULT STDMETHODCALLTYPE get_RowChecked(VARIANT Index, VARIANT_BOOL* result) = 0;
-    /// Check mark that the control keeps for the host. Nothing shows it: what check boxes show is ItemChecked.
+    /// Check mark that the control keeps for the host. Nothing shows it: boxes stand in columns with ColumnCheckBoxes alone, and what they show is ItemChecked.
     virtual HRESULT STDMETHODCALLTYPE put_RowChecked(VARIANT Index, VARIANT_BOOL value) = 0;
     /// Vertical place of the text in the row. Without effect while RowsDynamic is True.
     virtual HRESULT STDMETHODCALLTYPE get_TextPosition(VARIANT Index, cTextPosition* result) = 0;
@@ -611,9 +611,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ItemIconSelected(VARIANT Row, VARIANT Column, IPictureDisp** result) = 0;
     /// Icon of the cell while selected.
     virtual HRESULT STDMETHODCALLTYPE putref_ItemIconSelected(VARIANT Row, VARIANT Column, IPictureDisp* value) = 0;
-    /// Whether the cell may be edited in place.
+    /// Whether the cell may be edited in place. A double click opens the editor, AllowEdit a second press too.
     virtual HRESULT STDMETHODCALLTYPE get_ItemAllowEdit(VARIANT Row, VARIANT Column, VARIANT_BOOL* result) = 0;
-    /// Whether the cell may be edited in place.
+    /// Whether the cell may be edited in place. A double click opens the editor, AllowEdit a second press too.
     virtual HRESULT STDMETHODCALLTYPE put_ItemAllowEdit(VARIANT Row, VARIANT Column, VARIANT_BOOL value) = 0;
     /// Check mark of the cell. The count of its column follows; no event is raised.
     virtual HRESULT STDMETHODCALLTYPE get_ItemChecked(VARIANT Row, VARIANT Column, VARIANT_BOOL* result) = 0;
@@ -631,9 +631,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ItemText(VARIANT Row, VARIANT Column, BSTR* result) = 0;
     /// Text of the cell.
     virtual HRESULT STDMETHODCALLTYPE put_ItemText(VARIANT Row, VARIANT Column, BSTR value) = 0;
-    /// Text that the control keeps for the host. It is never shown.
+    /// Text that the control keeps for the host. The list never shows it; screen readers speak it.
     virtual HRESULT STDMETHODCALLTYPE get_ItemToolTip(VARIANT Row, VARIANT Column, BSTR* result) = 0;
-    /// Text that the control keeps for the host. It is never shown.
+    /// Text that the control keeps for the host. The list never shows it; screen readers speak it.
     virtual HRESULT STDMETHODCALLTYPE put_ItemToolTip(VARIANT Row, VARIANT Column, BSTR value) = 0;
     /// Width of the text in pixels, as the last paint measured it; 0 for a cell never painted.
     virtual HRESULT STDMETHODCALLTYPE get_ItemTextWidth(VARIANT Row, VARIANT Column, float* result) = 0;

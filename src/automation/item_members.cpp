@@ -115,8 +115,10 @@ constexpr auto members = std::to_array<Member>({
         416,
         u"ItemAllowEdit",
         Repaint::asAutoRedraw,
-        {u"Whether the cell may be edited in place.",
-         u"Gibt an, ob sich die Zelle im Eingabefeld bearbeiten lässt."},
+        {u"Whether the cell may be edited in place. A double click opens the editor, AllowEdit a second "
+         u"press too.",
+         u"Gibt an, ob sich die Zelle im Eingabefeld bearbeiten lässt. Ein Doppelklick öffnet es, mit "
+         u"AllowEdit auch ein zweites Drücken."},
         {u"Row", u"Column"}),
     property<&lmListView::ItemChecked, &lmListView::letItemChecked>(
         417,
@@ -146,8 +148,9 @@ constexpr auto members = std::to_array<Member>({
         421,
         u"ItemToolTip",
         Repaint::asAutoRedraw,
-        {u"Text that the control keeps for the host. It is never shown.",
-         u"Text, den das Steuerelement für das Programm aufbewahrt. Er wird nie angezeigt."},
+        {u"Text that the control keeps for the host. The list never shows it; screen readers speak it.",
+         u"Text, den das Steuerelement für das Programm aufbewahrt. Die Liste zeigt ihn nie an; "
+         u"Vorleseprogramme sprechen ihn."},
         {u"Row", u"Column"}),
     readOnly<&lmListView::ItemTextWidth>(
         422,

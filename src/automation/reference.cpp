@@ -1,51 +1,50 @@
 /// Pages in Markdown for people who program against the control.
 #include "automation/reference.h"
 
+#include "automation/argument_notes.h"
 #include "automation/class_table.h"
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
+#include "automation/page_details.h"
+#include "automation/related_pages.h"
+#include "model/property_table.h"
 #include "values/text.h"
 
 #include <algorithm>
+#include <iomanip>
+#include <sstream>
 
 namespace lumtex::automation {
 
 namespace {
 
-struct Note {
-    StringView parameter;
-    TypeCode type;
-    const char* text;
-};
+const char* baseText(CountsFrom base) {
+    switch (base) {
+    case CountsFrom::zero:
+        return "Counts from 0.";
+    case CountsFrom::one:
+        return "Counts from 1.";
+    case CountsFrom::nowhere:
+        break;
+    }
+    return "";
+}
 
-/// What parameters mean wherever they occur; the rest is told by the member's help.
-constexpr auto notes = std::to_array<Note>({
-    {u"Index", TypeCode::variant, "Counts from 1. A number, or a text that converts to one."},
-    {u"Row", TypeCode::variant, "Counts from 1. A number, or a text that converts to one."},
-    {u"Column", TypeCode::variant, "Counts from 1. A number; any text fails."},
-    {u"Column", TypeCode::longInteger, "Counts from 1."},
-    {u"aIndex", TypeCode::variant, "Counts from 0."},
-    {u"aText", TypeCode::variant, "Text of the header; whatever converts to a text."},
-    {u"aIcon", TypeCode::picture, "Icon of the header."},
-    {u"aIconHover", TypeCode::picture, "Its icon while the pointer is over it; Nothing for none."},
-    {u"aIconDown", TypeCode::picture, "Its icon while it is pressed; Nothing for none."},
-    {u"aAlignment", TypeCode::enumeration, "Place of the text in the header; cells do not take it on."},
-    {u"aWidth", TypeCode::single, "Twips."},
-    {u"aAllowSorting", TypeCode::boolean, "Whether a click on the header sorts."},
-    {u"aForeColor", TypeCode::color, "Colour of the header text; 0 is black."},
-    {u"aKey", TypeCode::string, "Kept for the host; no column is found by it."},
-    {u"aTag", TypeCode::string, "Kept for the host."},
-    {u"aForeColorHover",
-     TypeCode::color,
-     "Colour of the header text while the pointer is over it; 0 is black."},
-    {u"aForeColorDown", TypeCode::color, "Colour of the header text while it is pressed; 0 is black."},
-});
+std::string noteText(const ArgumentNote* note) {
+    if (note == nullptr)
+        return "";
+    const std::string base = baseText(note->base);
+    return base.empty() || *note->text == 0 ? base + note->text : base + " " + note->text;
+}
 
-std::string noteOn(const Parameter& parameter) {
-    const auto* const found = std::ranges::find_if(notes, [&](const Note& note) {
-        return note.parameter == parameter.name && note.type == parameter.type.code;
-    });
-    return found == notes.end() ? "" : found->text;
+std::string fileNameOf(const Member& member) {
+    return toUtf8(member.name) + ".md";
+}
+
+std::string eventLink(StringView event) {
+    std::string anchor = toUtf8(event);
+    std::ranges::transform(anchor, anchor.begin(), [](char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; });
+    return "events.md#" + anchor;
 }
 
 std::string typeText(const TypeInfo& type) {
@@ -53,7 +52,34 @@ std::string typeText(const TypeInfo& type) {
     return type.code == TypeCode::enumeration ? "[" + name + "](enumerations.md)" : name;
 }
 
-std::string defaultText(const DefaultValue& value) {
+std::string inHex(Double number) {
+    std::ostringstream text;
+    text << "0x" << std::hex << std::uppercase << std::setfill('0') << std::setw(6)
+         << static_cast<std::uint32_t>(number);
+    return text.str();
+}
+
+/// A number as the type writes its values: the name of an enumerator, a colour by its bytes.
+std::string numberText(const TypeInfo& type, Double number) {
+    switch (type.code) {
+    case TypeCode::boolean:
+        return number != 0 ? "True" : "False";
+    case TypeCode::color:
+        return inHex(number);
+    case TypeCode::enumeration:
+        for (const Enumeration& enumeration : enumerationTable)
+            for (const Enumerator& each : enumeration.enumerators())
+                if (enumeration.name == type.name && each.number == number)
+                    return "`" + toUtf8(each.name) + "`";
+        break;
+    default:
+        break;
+    }
+    return toUtf8(textFromNumber(number));
+}
+
+std::string defaultText(const Parameter& parameter) {
+    const DefaultValue& value = parameter.defaultValue;
     switch (value.kind) {
     case DefaultValue::Kind::required:
         return "";
@@ -64,7 +90,7 @@ std::string defaultText(const DefaultValue& value) {
     case DefaultValue::Kind::boolean:
         return value.number != 0 ? "True" : "False";
     case DefaultValue::Kind::number:
-        return toUtf8(textFromNumber(value.number));
+        return numberText(parameter.type, value.number);
     case DefaultValue::Kind::text:
         break;
     }
@@ -121,11 +147,8 @@ std::string parameterTable(const Member& member) {
         return "";
     std::string text = "\n| parameter | type | default | |\n|---|---|---|---|\n";
     for (const Parameter& parameter : member.parameters()) {
-        std::string note = noteOn(parameter);
-        if (parameter.byReference)
-            note += note.empty() ? "Written back." : " Written back.";
         text += "| `" + toUtf8(parameter.name) + "` | " + typeText(parameter.type) + " | " +
-                defaultText(parameter.defaultValue) + " | " + note + " |\n";
+                defaultText(parameter) + " | " + noteText(noteOn(member, parameter)) + " |\n";
     }
     return text;
 }
@@ -152,10 +175,64 @@ std::string failureText(const Member& member) {
     return std::string("\nA failure is reported and yields ") + zeroOf(member.type.code) + ".\n";
 }
 
-std::string describe(const Member& member) {
-    return "# " + toUtf8(member.name) + "\n\n    " + syntaxOf(member) + "\n\n" + kindOf(member) + "\n\n" +
-           toUtf8(member.help.english) + "\n" + parameterTable(member) + repaintText(member) +
-           failureText(member) + "\nDispatch number " + std::to_string(member.number) +
+std::string startText(const Member& member) {
+    const Start* start = nullptr;
+    const auto look = [&](const auto& row) {
+        if (row.name == member.name)
+            start = &row.start;
+    };
+    std::apply([&](const auto&... row) { (look(row), ...); }, property_table::rows);
+    if (start == nullptr)
+        return "";
+    const auto has = [](const std::string& what) { return "\nA new list has " + what + ".\n"; };
+    switch (start->kind) {
+    case Start::Kind::containersFont:
+        return has("the font of its container");
+    case Start::Kind::sixteenPixels:
+        return has("as many twips as 16 pixels are");
+    case Start::Kind::jumpLines:
+        return has("1, and 4 in a few programs that it knows");
+    case Start::Kind::noPicture:
+        return has("Nothing");
+    case Start::Kind::number:
+    case Start::Kind::shortNumber:
+        break;
+    }
+    if (start->inNewList || start->value == 0)
+        return has(numberText(member.type, start->value));
+    return has(numberText(member.type, 0)) + "Where saved settings do not have it, it becomes " +
+           numberText(member.type, start->value) + ".\n";
+}
+
+void addTo(std::string& list, const std::string& link) {
+    if (list.find(link) == std::string::npos)
+        list += (list.empty() ? "" : ", ") + link;
+}
+
+/// What belongs to the member or the event `name`; that one itself is left out. Members are other pages.
+std::string seeAlso(StringView name, bool isEvent) {
+    std::string links;
+    for (const Family& family : families()) {
+        const auto own = isEvent ? family.events : family.members;
+        if (std::ranges::find(own, name) == own.end())
+            continue;
+        for (const StringView member : family.members)
+            if (isEvent || member != name)
+                addTo(links, "[" + toUtf8(member) + "](" + toUtf8(member) + ".md)");
+        for (const StringView event : family.events)
+            if (!isEvent || event != name)
+                addTo(links, "[" + toUtf8(event) + " (event)](" + eventLink(event) + ")");
+    }
+    return links.empty() ? "" : "\nSee also " + links + ".\n";
+}
+
+/// `level`: the heading's, as many signs.
+std::string describe(const Member& member, const char* level = "#") {
+    return std::string(level) + " " + toUtf8(member.name) + "\n\n    " + syntaxOf(member) + "\n\n" +
+           kindOf(member) + "\n\n" + toUtf8(member.help.english) + "\n" + parameterTable(member) +
+           startText(member) + repaintText(member) + failureText(member) +
+           std::string(detailsOf(toUtf8(member.name))) + seeAlso(member.name, false) + "\nDispatch number " +
+           std::to_string(member.number) +
            (member.hidden ? ". Hidden where properties are listed for choice.\n" : ".\n");
 }
 
@@ -163,23 +240,52 @@ std::string describe(const Member& member) {
 std::string pageOf(const ClassDescription& description) {
     std::string text = "# " + toUtf8(description.name) + "\n\n" + toUtf8(description.help.english) + "\n";
     for (const Member& member : description.members)
-        text += "\n#" + describe(member);
+        text += "\n" + describe(member, "##");
     return text;
 }
 
 std::string eventsPage() {
     std::string text =
         "# Events\n\nIn the order of their interface. Rows and columns count from 1, positions are pixels.\n";
+    text += detailsOf("Events");
     for (const EventDescription& event : eventTable) {
         text += "\n## " + toUtf8(event.name) + "\n\n" + toUtf8(event.help.english) + "\n\n";
         if (event.count == 0)
             text += "No arguments.\n";
         else
-            text += "| argument | type | |\n|---|---|---|\n";
+            text += "| argument | type | | |\n|---|---|---|---|\n";
         for (const EventArgument& argument : event.arguments())
             text += "| `" + toUtf8(argument.name) + "` | " + typeText(argument.type) + " | " +
-                    (argument.byReference ? "by reference" : "") + " |\n";
+                    (argument.byReference ? "by reference" : "") + " | " + noteText(noteOn(event, argument)) +
+                    " |\n";
+        text += seeAlso(event.name, true);
     }
+    return text;
+}
+
+/// Every index of the interface with its base, so that nobody has to guess.
+std::string indicesPage() {
+    std::string text = "# Where indices count from\n\n"
+                       "Rows and columns count from 1, but for the few below that count from 0.\n\n"
+                       "| member or event | index | counts from |\n|---|---|---|\n";
+    const auto add = [&](const std::string& link, const std::string& what, CountsFrom base) {
+        if (base != CountsFrom::nowhere)
+            text += "| " + link + " | " + what + " | " + (base == CountsFrom::zero ? "**0**" : "1") + " |\n";
+    };
+    const auto baseIn = [](const ArgumentNote* note) {
+        return note == nullptr ? CountsFrom::nowhere : note->base;
+    };
+    for (const Member& member : memberTable()) {
+        const std::string link = "[" + toUtf8(member.name) + "](" + fileNameOf(member) + ")";
+        for (const Parameter& parameter : member.parameters())
+            add(link, "`" + toUtf8(parameter.name) + "`", baseIn(noteOn(member, parameter)));
+        add(link, member.isMethod() ? "the answer" : "its value", baseOf(member));
+    }
+    for (const EventDescription& event : eventTable)
+        for (const EventArgument& argument : event.arguments())
+            add("[" + toUtf8(event.name) + " (event)](" + eventLink(event.name) + ")",
+                "`" + toUtf8(argument.name) + "`",
+                baseIn(noteOn(event, argument)));
     return text;
 }
 
@@ -194,16 +300,12 @@ std::string enumerationsPage() {
     return text;
 }
 
-std::string fileNameOf(const Member& member) {
-    return toUtf8(member.name) + ".md";
-}
-
 std::string indexPage() {
     std::string text = "# Interface reference\n\n"
                        "Made from the tables in `src/automation` by `scripts/reference`; do not edit.\n\n"
-                       "[Events](events.md), [enumerations](enumerations.md), the classes [SpEv](SpEv.md) "
-                       "and [Error](Error.md), and the "
-                       "members of `lmListView`:\n";
+                       "[Events](events.md), [enumerations](enumerations.md), "
+                       "[where indices count from](indices.md), the classes [SpEv](SpEv.md) and "
+                       "[Error](Error.md), and the members of `lmListView`:\n";
     const auto group = [&](const char* title, std::span<const Member> members) {
         text += std::string("\n## ") + title + "\n\n| member | |\n|---|---|\n";
         for (const Member& member : members)
@@ -221,8 +323,10 @@ std::string indexPage() {
 } // namespace
 
 std::vector<ReferencePage> referencePages() {
-    std::vector<ReferencePage> pages{
-        {"README.md", indexPage()}, {"events.md", eventsPage()}, {"enumerations.md", enumerationsPage()}};
+    std::vector<ReferencePage> pages{{"README.md", indexPage()},
+                                     {"events.md", eventsPage()},
+                                     {"enumerations.md", enumerationsPage()},
+                                     {"indices.md", indicesPage()}};
     for (const Member& member : memberTable())
         pages.push_back({fileNameOf(member), describe(member)});
     for (const ClassDescription& description : {spEvClass(), errorClass()})

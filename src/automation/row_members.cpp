@@ -30,10 +30,10 @@ constexpr auto members = std::to_array<Member>({
         302,
         u"RowChecked",
         Repaint::asAutoRedraw,
-        {u"Check mark that the control keeps for the host. Nothing shows it: what check boxes show is "
-         u"ItemChecked.",
+        {u"Check mark that the control keeps for the host. Nothing shows it: boxes stand in columns with "
+         u"ColumnCheckBoxes alone, and what they show is ItemChecked.",
          u"Häkchen, das das Steuerelement für das Programm aufbewahrt. Nichts zeigt es an: Kontrollkästchen "
-         u"zeigen ItemChecked."},
+         u"stehen nur in Spalten mit ColumnCheckBoxes, und sie zeigen ItemChecked."},
         {u"Index"}),
     property<&lmListView::TextPosition, &lmListView::letTextPosition>(
         303,

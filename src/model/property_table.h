@@ -59,16 +59,19 @@ inline constexpr auto rows = std::tuple{
     row<&lmListView::Style, &lmListView::letStyle, &Properties::Style>(
         u"Style", 108, Group::appearance, After::checkForRedraw, cDefault,
         {u"cCheckBoxes shows check boxes in the columns with ColumnCheckBoxes. What they show is "
-         u"ItemChecked.",
-         u"cCheckBoxes zeigt Kontrollkästchen in den Spalten mit ColumnCheckBoxes. Sie zeigen ItemChecked."}),
+         u"ItemChecked. A press at the place of a box changes that even where none is drawn.",
+         u"cCheckBoxes zeigt Kontrollkästchen in den Spalten mit ColumnCheckBoxes. Sie zeigen ItemChecked. "
+         u"Ein Mausdruck an der Stelle eines Kästchens ändert es auch dort, wo keines gezeichnet wird."}),
     row<&lmListView::FullRowSelect, &lmListView::letFullRowSelect, &Properties::FullRowSelect>(
         u"FullRowSelect", 109, Group::behaviour, After::checkForRedraw, true,
         {u"Whether the selection covers all columns or the first alone.",
          u"Gibt an, ob die Auswahl alle Spalten umfasst oder nur die erste."}),
     row<&lmListView::AllowEdit, &lmListView::letAllowEdit, &Properties::AllowEdit>(
         u"AllowEdit", 110, Group::data, After::store, false,
-        {u"Whether a second press opens the in-place editor, in cells that allow it too.",
-         u"Gibt an, ob ein zweites Drücken das Eingabefeld öffnet; die Zelle muss es ebenfalls erlauben."}),
+        {u"Whether a second press opens the in-place editor, in cells that allow it too. A double click asks "
+         u"the cell alone.",
+         u"Gibt an, ob ein zweites Drücken das Eingabefeld öffnet; die Zelle muss es ebenfalls erlauben. Ein "
+         u"Doppelklick richtet sich allein nach der Zelle."}),
     row<&lmListView::ValueColor, &lmListView::letValueColor, &Properties::ValueColor>(
         u"ValueColor", 111, Group::appearance, After::checkForRedraw, 0xFF0000,
         {u"Background of selected cells in the custom scheme.",
@@ -269,16 +272,19 @@ inline constexpr auto rows = std::tuple{
          u"Gibt an, ob sich die Spaltenbreiten mit der Maus nicht ändern lassen."}),
     row<&lmListView::CheckMouseOver, &lmListView::letCheckMouseOver, &Properties::CheckMouseOver>(
         u"CheckMouseOver", 161, Group::behaviour, After::store, false,
-        {u"Kept for the host; it has no visible effect.",
-         u"Wird für das Programm aufbewahrt; der Wert hat keine sichtbare Wirkung."}),
+        {u"Kept for the host; it has no visible effect, and ItemOver is never raised.",
+         u"Wird für das Programm aufbewahrt; der Wert hat keine sichtbare Wirkung, und ItemOver wird nie "
+         u"ausgelöst."}),
     row<&lmListView::OLEDragMode, &lmListView::letOLEDragMode, &Properties::OLEDragMode>(
         u"OLEDragMode", 162, Group::data, After::store, shortNumber(0),
         {u"Kept for the host; the list never starts a drag by itself.",
          u"Wird für das Programm aufbewahrt; die Liste beginnt von sich aus nie ein Ziehen."}),
     row<&lmListView::OLEDropMode, &lmListView::letOLEDropMode, &Properties::OLEDropMode>(
         u"OLEDropMode", 163, Group::data, After::own, shortNumber(0),
-        {u"Whether the control takes drops.",
-         u"Gibt an, ob sich etwas auf dem Steuerelement ablegen lässt."}),
+        {u"1 takes what is dragged over the list, with OLEDragOver and OLEDragDrop; any other number takes "
+         u"nothing.",
+         u"1 nimmt an, was über die Liste gezogen wird, mit OLEDragOver und OLEDragDrop; jeder andere Wert "
+         u"nimmt nichts an."}),
     row<&lmListView::AutoRowColor, &lmListView::letAutoRowColor, &Properties::AutoRowColor>(
         u"AutoRowColor", 164, Group::appearance, After::checkForRedraw, onlyInBag(false),
         {u"Whether rows take turns with two background colours, in place of those of their cells.",

@@ -271,7 +271,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     QColor BorderColor() const;
     void setBorderColor(QColor value);
     void resetBorderColor();
-    /// cCheckBoxes shows check boxes in the columns with ColumnCheckBoxes. What they show is ItemChecked.
+    /// cCheckBoxes shows check boxes in the columns with ColumnCheckBoxes. What they show is ItemChecked. A press at the place of a box changes that even where none is drawn.
     cListViewStyle Style() const;
     void setStyle(cListViewStyle value);
     void resetStyle();
@@ -279,7 +279,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     bool FullRowSelect() const;
     void setFullRowSelect(bool value);
     void resetFullRowSelect();
-    /// Whether a second press opens the in-place editor, in cells that allow it too.
+    /// Whether a second press opens the in-place editor, in cells that allow it too. A double click asks the cell alone.
     bool AllowEdit() const;
     void setAllowEdit(bool value);
     void resetAllowEdit();
@@ -483,7 +483,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     bool FixColumns() const;
     void setFixColumns(bool value);
     void resetFixColumns();
-    /// Kept for the host; it has no visible effect.
+    /// Kept for the host; it has no visible effect, and ItemOver is never raised.
     bool CheckMouseOver() const;
     void setCheckMouseOver(bool value);
     void resetCheckMouseOver();
@@ -491,7 +491,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     int OLEDragMode() const;
     void setOLEDragMode(int value);
     void resetOLEDragMode();
-    /// Whether the control takes drops.
+    /// 1 takes what is dragged over the list, with OLEDragOver and OLEDragDrop; any other number takes nothing.
     int OLEDropMode() const;
     void setOLEDropMode(int value);
     void resetOLEDropMode();
@@ -573,7 +573,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     /// Whether the row is selected. Selecting scrolls to a row out of view, and without MultiSelect drops the other rows. ListIndex does not follow.
     Q_INVOKABLE bool RowSelected(const QVariant& Index) const;
     Q_INVOKABLE void setRowSelected(const QVariant& Index, bool value);
-    /// Check mark that the control keeps for the host. Nothing shows it: what check boxes show is ItemChecked.
+    /// Check mark that the control keeps for the host. Nothing shows it: boxes stand in columns with ColumnCheckBoxes alone, and what they show is ItemChecked.
     Q_INVOKABLE bool RowChecked(const QVariant& Index) const;
     Q_INVOKABLE void setRowChecked(const QVariant& Index, bool value);
     /// Vertical place of the text in the row. Without effect while RowsDynamic is True.
@@ -627,7 +627,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     /// Icon of the cell while selected.
     Q_INVOKABLE QPixmap ItemIconSelected(const QVariant& Row, const QVariant& Column) const;
     Q_INVOKABLE void setItemIconSelected(const QVariant& Row, const QVariant& Column, const QPixmap& value);
-    /// Whether the cell may be edited in place.
+    /// Whether the cell may be edited in place. A double click opens the editor, AllowEdit a second press too.
     Q_INVOKABLE bool ItemAllowEdit(const QVariant& Row, const QVariant& Column) const;
     Q_INVOKABLE void setItemAllowEdit(const QVariant& Row, const QVariant& Column, bool value);
     /// Check mark of the cell. The count of its column follows; no event is raised.
@@ -642,7 +642,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     /// Text of the cell.
     Q_INVOKABLE QString ItemText(const QVariant& Row, const QVariant& Column) const;
     Q_INVOKABLE void setItemText(const QVariant& Row, const QVariant& Column, const QString& value);
-    /// Text that the control keeps for the host. It is never shown.
+    /// Text that the control keeps for the host. The list never shows it; screen readers speak it.
     Q_INVOKABLE QString ItemToolTip(const QVariant& Row, const QVariant& Column) const;
     Q_INVOKABLE void setItemToolTip(const QVariant& Row, const QVariant& Column, const QString& value);
     /// Width of the text in pixels, as the last paint measured it; 0 for a cell never painted.
