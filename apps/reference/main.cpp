@@ -1,11 +1,13 @@
 /// Writes what is made from the tables of the public interface: the reference, and the generated
-/// sources.
+/// sources. Also brings the code that other pages quote up to date.
 #include "automation/generated_files.h"
 #include "automation/reference.h"
+#include "quotes.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 
 namespace {
 
@@ -25,6 +27,27 @@ void writeReference(const std::filesystem::path& folder) {
         write(folder / page.fileName, page.text);
 }
 
+std::string read(const std::filesystem::path& path) {
+    std::ifstream file;
+    file.exceptions(std::ios::badbit | std::ios::failbit);
+    file.open(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void writeQuotes(const std::filesystem::path& docs) {
+    const auto codeOf = [&](const std::string& name) {
+        return lumtex::reference::shownCode(read(docs / "examples" / (name + ".cpp")));
+    };
+    for (const auto& entry : std::filesystem::directory_iterator(docs)) {
+        if (entry.path().extension() != ".md")
+            continue;
+        const std::string page = read(entry.path());
+        const std::string quoting = lumtex::reference::withQuotes(page, codeOf);
+        if (quoting != page)
+            write(entry.path(), quoting);
+    }
+}
+
 } // namespace
 
 int main(int count, char** arguments) {
@@ -35,6 +58,7 @@ int main(int count, char** arguments) {
     const std::filesystem::path tree = arguments[1];
     try {
         writeReference(tree / "docs" / "reference");
+        writeQuotes(tree / "docs");
         for (const lumtex::automation::GeneratedFile& file : lumtex::automation::generatedFiles())
             write(tree / file.path, file.text);
     } catch (const std::exception& failure) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <regex>
+#include <set>
 
 #include <gtest/gtest.h>
 
@@ -32,10 +33,37 @@ std::vector<std::string> compiledExample(const SourceFile& program) {
     return between(program, "// [readme", "// readme]");
 }
 
-/// Links to files of the tree, pictures included; those to other sites, and within a page, are left out, and
+/// What a heading is reached by: small letters, digits, hyphens for blanks, and nothing else.
+std::string anchorOf(const std::string& heading) {
+    std::string anchor;
+    for (const char c : heading) {
+        if (c >= 'A' && c <= 'Z')
+            anchor += static_cast<char>(c - 'A' + 'a');
+        else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '_')
+            anchor += c;
+        else if (c == ' ')
+            anchor += '-';
+    }
+    return anchor;
+}
+
+std::set<std::string> anchorsOf(const std::vector<std::string>& lines) {
+    std::set<std::string> anchors;
+    bool inCode = false;
+    for (const std::string& line : lines) {
+        if (line.starts_with("```"))
+            inCode = !inCode;
+        const std::size_t text = line.find_first_not_of('#');
+        if (!inCode && text != 0 && text != std::string::npos && line[text] == ' ')
+            anchors.insert(anchorOf(line.substr(text + 1)));
+    }
+    return anchors;
+}
+
+/// Links to files of the tree and places in pages, pictures included; those to other sites are left out, and
 /// so is code.
 std::vector<Finding> brokenLinks(const SourceFile& file) {
-    static const std::regex link(R"(\]\(([^)#\s]+)[^)]*\))");
+    static const std::regex link(R"(\]\(([^)#\s]*)(#[^)\s]*)?[^)]*\))");
     const std::filesystem::path root = testing::sourceFolder();
     const std::filesystem::path folder = (root / file.path).parent_path();
     std::vector<Finding> findings;
@@ -44,13 +72,38 @@ std::vector<Finding> brokenLinks(const SourceFile& file) {
         const std::string& line = file.lines[i];
         if (line.starts_with("```"))
             inCode = !inCode;
-        if (inCode)
+        if (inCode || line.starts_with("    "))
             continue;
         for (std::sregex_iterator match(line.begin(), line.end(), link), none; match != none; ++match) {
             const std::string target = (*match)[1];
-            if (target.find("://") == std::string::npos && !std::filesystem::exists(folder / target))
+            const std::string place = (*match)[2];
+            if (target.find("://") != std::string::npos)
+                continue;
+            if (!std::filesystem::exists(folder / target)) {
                 findings.push_back({file.path, i + 1, "there is no " + target});
+                continue;
+            }
+            if (place.empty() || !(target.empty() || target.ends_with(".md")))
+                continue;
+            const auto path = (folder / target).lexically_normal().lexically_relative(root);
+            const auto anchors =
+                anchorsOf(target.empty() ? file.lines : readFile(path.generic_string()).lines);
+            if (!anchors.contains(place.substr(1)))
+                findings.push_back({file.path, i + 1, "there is no " + target + place});
         }
+    }
+    return findings;
+}
+
+/// Blocks of C++ that no test compiles and that are not marked as pieces either.
+std::vector<Finding> uncompiledCode(const SourceFile& file) {
+    std::vector<Finding> findings;
+    for (std::size_t i = 0; i < file.lines.size(); ++i) {
+        if (file.lines[i] != "```cpp")
+            continue;
+        const std::string before = i == 0 ? "" : file.lines[i - 1];
+        if (!before.starts_with("<!-- example ") && before != "<!-- fragment -->")
+            findings.push_back({file.path, i + 1, "neither an example nor a fragment"});
     }
     return findings;
 }
@@ -97,7 +150,30 @@ TEST(Documents, WithBrokenLinksAreCaught) {
         "![a picture](images/none.png#small), [a site](https://example.org/x.md), [below](#below).\n");
     EXPECT_EQ(report(brokenLinks(sample)),
               "docs/sample.md:1: there is no nothing.md\n"
-              "docs/sample.md:2: there is no images/none.png\n");
+              "docs/sample.md:2: there is no images/none.png\n"
+              "docs/sample.md:2: there is no #below\n");
+}
+
+TEST(Documents, AreSearchedForPlacesByTheirHeadings) {
+    const SourceFile sample(
+        "docs/sample.md",
+        "# Rows, columns and `Cells`\n[here](#rows-columns-and-cells) [there](qt.md#signals) "
+        "[nowhere](qt.md#birds)\n```\n# no heading\n```\n[either](#no-heading)\n");
+    EXPECT_EQ(report(brokenLinks(sample)),
+              "docs/sample.md:2: there is no qt.md#birds\n"
+              "docs/sample.md:6: there is no #no-heading\n");
+}
+
+/// The README has its own rules above.
+TEST(Documents, ShowCodeThatIsCompiledOrSayThatItIsAPiece) {
+    EXPECT_EQ(offenders(readTree("docs", {".md"}), uncompiledCode), "");
+}
+
+TEST(Documents, WithCodeThatNobodyCompilesAreCaught) {
+    const SourceFile sample(
+        "docs/sample.md",
+        "<!-- example one -->\n```cpp\n```\n<!-- fragment -->\n```cpp\n```\n\n```cpp\n```\n");
+    EXPECT_EQ(report(uncompiledCode(sample)), "docs/sample.md:8: neither an example nor a fragment\n");
 }
 
 } // namespace
