@@ -39,6 +39,19 @@ TEST_F(Sorting, TenStandsBeforeNineAsTextAndBehindItAsANumber) {
     EXPECT_EQ(column(), "9 10 ");
 }
 
+TEST_F(Sorting, EqualTextsAloneAreTurnedRoundAndMoreThanThreeAreMixed) {
+    fill({u"a|1", u"a|2", u"a|3"});
+    list.Sort(1, cAscending);
+    EXPECT_EQ(column(2), "3 2 1 ");
+    fill({u"a|4"});
+    list.Sort(1, cAscending);
+    EXPECT_EQ(column(2), "1 4 3 2 ") << "all are turned round, then each half";
+    list.RowsClear();
+    fill({u"a|1", u"a|2"});
+    list.Sort(1, cDescending);
+    EXPECT_EQ(column(2), "2 1 ");
+}
+
 TEST_F(Sorting, NumbersAndDatesAreReadAsTheUserWritesThem) {
     desktop.runtime().letLocale(germanLocale());
     fill({u"1.234,56|29.02.2024", u"2,5|1.12.2023", u"-1.000|31.01.1999", u"10|05.06.2024"});

@@ -72,5 +72,64 @@ TEST(WantedSurprises, ThatNoTestRepeatsAreCaught) {
               "src/scroll/bar.cpp:1: no test repeats: the bar's Width, not its Height.\n");
 }
 
+/// The sentences that the page for hosts tells, each in a remark behind its entry.
+std::set<std::string> sentencesTold(const SourceFile& page) {
+    constexpr std::string_view begin = "<!-- wanted: ";
+    constexpr std::string_view end = " -->";
+    std::set<std::string> told;
+    for (const std::string& line : page.lines) {
+        const std::size_t at = line.find(begin);
+        if (at != std::string::npos && line.ends_with(end))
+            told.insert(line.substr(at + begin.size(), line.size() - at - begin.size() - end.size()));
+    }
+    return told;
+}
+
+/// What is marked in the code and neither told nor listed as of no concern, and what is told or listed
+/// without a mark.
+std::string
+differences(const std::vector<SourceFile>& code, const SourceFile& page, const SourceFile& inner) {
+    std::set<std::string> marked;
+    for (const SourceFile& file : code)
+        for (Sentence& sentence : wantedSentences(file))
+            marked.insert(std::move(sentence.text));
+    const std::set<std::string> told = sentencesTold(page);
+    std::set<std::string> listed;
+    for (const std::string& line : inner.lines)
+        if (!line.empty() && !line.starts_with("#"))
+            listed.insert(line);
+    std::string text;
+    for (const std::string& sentence : marked)
+        if (!told.contains(sentence) && !listed.contains(sentence))
+            text += "nobody is told: " + sentence + "\n";
+    for (const auto& sentences : {told, listed})
+        for (const std::string& sentence : sentences)
+            if (!marked.contains(sentence))
+                text += "nothing is marked: " + sentence + "\n";
+    for (const std::string& sentence : told)
+        if (listed.contains(sentence))
+            text += "told and listed: " + sentence + "\n";
+    return text;
+}
+
+TEST(WantedSurprises, AreToldToHostsOrOfNoConcernToThem) {
+    EXPECT_EQ(differences(readTree("src", {".h", ".cpp"}),
+                          readFile("docs/surprises.md"),
+                          readFile("tests/source/inner_surprises.txt")),
+              "");
+}
+
+TEST(WantedSurprises, ThatNobodyIsToldOfAreCaught) {
+    const std::vector<SourceFile> code{
+        {"src/a.cpp",
+         "// Wanted: the first.\nint a;\n// Wanted: the second.\nint b;\n// Wanted: the third.\n"}};
+    const SourceFile page("docs/surprises.md",
+                          "- One. <!-- wanted: the first. -->\n- Gone. <!-- wanted: the fourth. -->\n");
+    EXPECT_EQ(differences(code, page, {"inner.txt", "# why\n\nthe second.\nthe first.\n"}),
+              "nobody is told: the third.\n"
+              "nothing is marked: the fourth.\n"
+              "told and listed: the first.\n");
+}
+
 } // namespace
 } // namespace lumtex::source
