@@ -1,5 +1,6 @@
 /// What the documents promise about the tree.
 #include "folders.h"
+#include "layers.h"
 #include "source_tree.h"
 
 #include <algorithm>
@@ -174,6 +175,14 @@ TEST(Documents, WithCodeThatNobodyCompilesAreCaught) {
         "docs/sample.md",
         "<!-- example one -->\n```cpp\n```\n<!-- fragment -->\n```cpp\n```\n\n```cpp\n```\n");
     EXPECT_EQ(report(uncompiledCode(sample)), "docs/sample.md:8: neither an example nor a fragment\n");
+}
+
+TEST(House, IsDrawnWithEveryLibrary) {
+    const std::vector<std::string> drawn = readFile("docs/images/house.svg").lines;
+    for (const Layer& layer : layersOf(readFile("src/layers.txt")))
+        EXPECT_TRUE(std::any_of(drawn.begin(), drawn.end(), [&](const std::string& line) {
+            return line.ends_with(">" + layer.name + "</text>");
+        })) << layer.name;
 }
 
 } // namespace
