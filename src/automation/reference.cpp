@@ -6,6 +6,7 @@
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
 #include "automation/page_details.h"
+#include "automation/page_pictures.h"
 #include "automation/related_pages.h"
 #include "model/property_table.h"
 #include "values/text.h"
@@ -204,6 +205,20 @@ std::string startText(const Member& member) {
            numberText(member.type, start->value) + ".\n";
 }
 
+std::string pictureText(const Member& member) {
+    const auto pictures = pagePictures();
+    const auto picture = std::ranges::find(pictures, member.name, &PagePicture::member);
+    if (picture == pictures.end())
+        return "";
+    const auto says = [&](const PictureValue& value) {
+        return value.text.empty() ? numberText(member.type, value.number) : "\"" + toUtf8(value.text) + "\"";
+    };
+    const std::string name = toUtf8(member.name);
+    const std::string caption = name + " at two values";
+    return "\n![" + caption + "](../images/reference/" + name + ".png)\n\nAt the left " +
+           says(picture->left) + ", at the right " + says(picture->right) + ".\n";
+}
+
 void addTo(std::string& list, const std::string& link) {
     if (list.find(link) == std::string::npos)
         list += (list.empty() ? "" : ", ") + link;
@@ -229,8 +244,8 @@ std::string seeAlso(StringView name, bool isEvent) {
 /// `level`: the heading's, as many signs.
 std::string describe(const Member& member, const char* level = "#") {
     return std::string(level) + " " + toUtf8(member.name) + "\n\n    " + syntaxOf(member) + "\n\n" +
-           kindOf(member) + "\n\n" + toUtf8(member.help.english) + "\n" + parameterTable(member) +
-           startText(member) + repaintText(member) + failureText(member) +
+           kindOf(member) + "\n\n" + toUtf8(member.help.english) + "\n" + pictureText(member) +
+           parameterTable(member) + startText(member) + repaintText(member) + failureText(member) +
            std::string(detailsOf(toUtf8(member.name))) + seeAlso(member.name, false) + "\nDispatch number " +
            std::to_string(member.number) +
            (member.hidden ? ". Hidden where properties are listed for choice.\n" : ".\n");
