@@ -34,11 +34,11 @@ std::string read(const std::filesystem::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-void writeQuotes(const std::filesystem::path& docs) {
+void writeQuotes(const std::filesystem::path& docs, const std::filesystem::path& folder) {
     const auto codeOf = [&](const std::string& name) {
         return lumtex::reference::shownCode(read(docs / "examples" / (name + ".cpp")));
     };
-    for (const auto& entry : std::filesystem::directory_iterator(docs)) {
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         if (entry.path().extension() != ".md")
             continue;
         const std::string page = read(entry.path());
@@ -58,7 +58,8 @@ int main(int count, char** arguments) {
     const std::filesystem::path tree = arguments[1];
     try {
         writeReference(tree / "docs" / "reference");
-        writeQuotes(tree / "docs");
+        writeQuotes(tree / "docs", tree / "docs");
+        writeQuotes(tree / "docs", tree / "docs" / "reference");
         for (const lumtex::automation::GeneratedFile& file : lumtex::automation::generatedFiles())
             write(tree / file.path, file.text);
     } catch (const std::exception& failure) {

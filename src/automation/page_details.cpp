@@ -94,11 +94,53 @@ for each. These are the ones that count:
 )"},
 });
 
+struct Quoted {
+    std::string_view page;
+    std::string_view example;
+};
+
+constexpr auto quoted = std::to_array<Quoted>({
+    {"ColumnsAdd", "fill_a_list"},
+    {"RowsAdd", "fill_a_list"},
+    {"AutoRedraw", "many_rows"},
+    {"AutoCheckScroll", "many_rows"},
+    {"ItemAlignment", "numbers_to_the_right"},
+    {"ColumnAlignment", "numbers_to_the_right"},
+    {"AutoRowColor", "rows_in_two_colours"},
+    {"ItemFontBold", "a_cell_that_stands_out"},
+    {"ItemForeColor", "a_cell_that_stands_out"},
+    {"ItemBackColor", "a_cell_that_stands_out"},
+    {"GridLines", "grid_lines"},
+    {"RowHeight", "higher_rows"},
+    {"TextPosition", "higher_rows"},
+    {"ColorStyle", "own_colours"},
+    {"ItemIcon", "icons"},
+    {"Style", "check_boxes"},
+    {"ItemChecked", "check_boxes"},
+    {"ItemsCheckedCount", "check_boxes"},
+    {"RowSelected", "select_several_rows"},
+    {"MultiSelect", "select_several_rows"},
+    {"RowsSelectedRemove", "remove_selected_rows"},
+    {"Sort", "sort_by_number"},
+    {"FindItem", "find_a_text"},
+    {"ItemTag", "find_by_tag"},
+    {"ItemAllowEdit", "edit_in_place"},
+    {"ContentSave", "save_and_load"},
+    {"ContentInput", "save_and_load"},
+    {"AutoColumnSize", "fit_columns"},
+    {"Recordset", "import_a_query"},
+});
+
 } // namespace
 
 std::string_view detailsOf(std::string_view page) {
     const auto* const found = std::ranges::find(all, page, &Details::page);
     return found == all.end() ? std::string_view() : found->text;
+}
+
+std::string_view exampleOf(std::string_view page) {
+    const auto* const found = std::ranges::find(quoted, page, &Quoted::page);
+    return found == quoted.end() ? std::string_view() : found->example;
 }
 
 } // namespace lumtex::automation

@@ -241,13 +241,21 @@ std::string seeAlso(StringView name, bool isEvent) {
     return links.empty() ? "" : "\nSee also " + links + ".\n";
 }
 
+/// Whoever writes the page fills the block.
+std::string exampleText(const Member& member) {
+    const std::string_view example = exampleOf(toUtf8(member.name));
+    if (example.empty())
+        return "";
+    return "\n## Example\n\n<!-- example " + std::string(example) + " -->\n```cpp\n```\n";
+}
+
 /// `level`: the heading's, as many signs.
 std::string describe(const Member& member, const char* level = "#") {
     return std::string(level) + " " + toUtf8(member.name) + "\n\n    " + syntaxOf(member) + "\n\n" +
            kindOf(member) + "\n\n" + toUtf8(member.help.english) + "\n" + pictureText(member) +
            parameterTable(member) + startText(member) + repaintText(member) + failureText(member) +
-           std::string(detailsOf(toUtf8(member.name))) + seeAlso(member.name, false) + "\nDispatch number " +
-           std::to_string(member.number) +
+           std::string(detailsOf(toUtf8(member.name))) + exampleText(member) + seeAlso(member.name, false) +
+           "\nDispatch number " + std::to_string(member.number) +
            (member.hidden ? ". Hidden where properties are listed for choice.\n" : ".\n");
 }
 

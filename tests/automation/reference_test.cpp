@@ -24,11 +24,26 @@ std::string contentOf(const std::filesystem::path& path) {
     return text.str();
 }
 
+/// The page with its blocks of C++ empty, as the tables give it.
+std::string withoutCode(const std::string& page) {
+    std::istringstream lines(page);
+    std::string text;
+    bool inCode = false;
+    for (std::string line; std::getline(lines, line);) {
+        inCode = inCode && line != "```";
+        if (!inCode)
+            text += line + "\n";
+        inCode = inCode || line == "```cpp";
+    }
+    return text;
+}
+
 TEST(Reference, InTheTreeIsTheOneThatTheTablesGive) {
     std::set<std::string> expected;
     for (const automation::ReferencePage& page : automation::referencePages()) {
         expected.insert(page.fileName);
-        EXPECT_EQ(contentOf(folder / page.fileName), page.text) << page.fileName << ": run scripts/reference";
+        EXPECT_EQ(withoutCode(contentOf(folder / page.fileName)), page.text)
+            << page.fileName << ": run scripts/reference";
     }
     std::set<std::string> found;
     for (const auto& entry : std::filesystem::directory_iterator(folder))

@@ -33,11 +33,13 @@ std::string allPages() {
 }
 
 TEST(Pages, QuoteTheExamplesAsTheyAre) {
-    for (const auto& entry : fs::directory_iterator(docs))
-        if (entry.path().extension() == ".md") {
-            const std::string page = contentOf(entry.path());
-            EXPECT_EQ(reference::withQuotes(page, codeOf), page) << entry.path() << ": run scripts/reference";
-        }
+    for (const fs::path& folder : {docs, docs / "reference"})
+        for (const auto& entry : fs::directory_iterator(folder))
+            if (entry.path().extension() == ".md") {
+                const std::string page = contentOf(entry.path());
+                EXPECT_EQ(reference::withQuotes(page, codeOf), page)
+                    << entry.path() << ": run scripts/reference";
+            }
 }
 
 TEST(Pages, QuoteEachExampleAndShowItsPicture) {
