@@ -337,9 +337,9 @@ struct _lmListView : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE get_ColumnDownColor(OLE_COLOR* result) = 0;
     /// Background of the pressed header in the custom scheme.
     virtual HRESULT STDMETHODCALLTYPE put_ColumnDownColor(OLE_COLOR value) = 0;
-    /// Whether each row is as high as its content needs, or RowHeight.
+    /// Whether rows are as high as the default font, and from the first icon or check box shown on as high as their content needs; else RowHeight.
     virtual HRESULT STDMETHODCALLTYPE get_RowsDynamic(VARIANT_BOOL* result) = 0;
-    /// Whether each row is as high as its content needs, or RowHeight.
+    /// Whether rows are as high as the default font, and from the first icon or check box shown on as high as their content needs; else RowHeight.
     virtual HRESULT STDMETHODCALLTYPE put_RowsDynamic(VARIANT_BOOL value) = 0;
     /// Height of a row in twips, where RowsDynamic is False.
     virtual HRESULT STDMETHODCALLTYPE get_RowHeight(float* result) = 0;

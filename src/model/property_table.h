@@ -177,8 +177,10 @@ inline constexpr auto rows = std::tuple{
          u"Hintergrundfarbe des gedrückten Spaltenkopfs im benutzerdefinierten Schema."}),
     row<&lmListView::RowsDynamic, &lmListView::letRowsDynamic, &Properties::RowsDynamic>(
         u"RowsDynamic", 138, Group::appearance, After::ownCheckForRedraw, true,
-        {u"Whether each row is as high as its content needs, or RowHeight.",
-         u"Gibt an, ob jede Zeile so hoch ist, wie ihr Inhalt es braucht, oder so hoch wie RowHeight."}),
+        {u"Whether rows are as high as the default font, and from the first icon or check box shown on as high "
+         u"as their content needs; else RowHeight.",
+         u"Gibt an, ob die Zeilen so hoch sind wie die Standardschrift und vom ersten gezeigten Symbol oder "
+         u"Kontrollkästchen an so hoch, wie ihr Inhalt es braucht; sonst gilt RowHeight."}),
     row<&lmListView::RowHeight, &lmListView::letRowHeight, &Properties::RowHeight>(
         u"RowHeight", 139, Group::appearance, After::checkForRedraw, sixteenPixels,
         {u"Height of a row in twips, where RowsDynamic is False.",

@@ -391,7 +391,7 @@ class LumtexListView : public lumtex::qt::ListWidget {
     QColor ColumnDownColor() const;
     void setColumnDownColor(QColor value);
     void resetColumnDownColor();
-    /// Whether each row is as high as its content needs, or RowHeight.
+    /// Whether rows are as high as the default font, and from the first icon or check box shown on as high as their content needs; else RowHeight.
     bool RowsDynamic() const;
     void setRowsDynamic(bool value);
     void resetRowsDynamic();
