@@ -1,13 +1,11 @@
 /// Each example of the pages runs without a failure, prints what it says and leaves the picture beside it.
-#include "folders.h"
+#include "doc_files.h"
 #include "picture_check.h"
 #include "program.h"
 #include "quotes.h"
 #include "report_catcher.h"
 #include "scratch_folder.h"
 #include "test_fonts.h"
-
-#include <fstream>
 
 #include <gtest/gtest.h>
 
@@ -25,16 +23,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path docs = fs::path(sourceFolder()) / "docs";
-
-std::string contentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 /// What the lines `/// Prints: ...` of its file say.
 std::string promisedBy(const std::string& name) {
-    std::istringstream lines(contentOf(docs / "examples" / (name + ".cpp")));
+    std::istringstream lines(sourceOf(name));
     constexpr std::string_view promise = "/// Prints: ";
     std::string text;
     for (std::string line; std::getline(lines, line);)
@@ -66,7 +57,7 @@ TEST_P(EachExample, RunsPrintsAndLooksAsItsPageSays) {
     EXPECT_EQ(toUtf8(reports->reports()), "");
     EXPECT_EQ(program.out.str(), promisedBy(GetParam()));
     PictureFolders folders = usualPictureFolders();
-    folders.references = docs / "images" / "examples";
+    folders.references = docsFolder / "images" / "examples";
     EXPECT_TRUE(showsPicture(GetParam(), program.desktop.screenshot(program.list.window()), folders));
 }
 
@@ -76,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Docs, EachExample, ::testing::ValuesIn(names()), [](con
 
 TEST(Examples, AreOneOfEachFile) {
     std::vector<std::string> files;
-    for (const auto& entry : fs::directory_iterator(docs / "examples"))
+    for (const auto& entry : fs::directory_iterator(docsFolder / "examples"))
         if (entry.path().extension() == ".cpp")
             files.push_back(entry.path().stem().string());
     std::sort(files.begin(), files.end());

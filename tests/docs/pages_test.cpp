@@ -1,9 +1,8 @@
 /// Pages quote the examples as they are, and leave none out.
-#include "folders.h"
+#include "doc_files.h"
 #include "program.h"
 #include "quotes.h"
 
-#include <fstream>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -13,27 +12,20 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path docs = fs::path(sourceFolder()) / "docs";
-
-std::string contentOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 std::string codeOf(const std::string& name) {
-    return reference::shownCode(contentOf(docs / "examples" / (name + ".cpp")));
+    return reference::shownCode(sourceOf(name));
 }
 
 std::string allPages() {
     std::string text;
-    for (const auto& entry : fs::directory_iterator(docs))
+    for (const auto& entry : fs::directory_iterator(docsFolder))
         if (entry.path().extension() == ".md")
             text += contentOf(entry.path());
     return text;
 }
 
 TEST(Pages, QuoteTheExamplesAsTheyAre) {
-    for (const fs::path& folder : {docs, docs / "reference"})
+    for (const fs::path& folder : {docsFolder, docsFolder / "reference"})
         for (const auto& entry : fs::directory_iterator(folder))
             if (entry.path().extension() == ".md") {
                 const std::string page = contentOf(entry.path());
@@ -51,7 +43,7 @@ TEST(Pages, QuoteEachExampleAndShowItsPicture) {
 }
 
 TEST(Pages, HaveNoPictureOfAnExampleThatIsGone) {
-    for (const auto& entry : fs::directory_iterator(docs / "images" / "examples"))
+    for (const auto& entry : fs::directory_iterator(docsFolder / "images" / "examples"))
         EXPECT_TRUE(examples::examples().contains(entry.path().stem().string())) << entry.path();
 }
 

@@ -1,7 +1,7 @@
 /// The pictures of the reference are what the list shows at the values that stand below them.
 #include "automation/call_by_name.h"
 #include "automation/page_pictures.h"
-#include "folders.h"
+#include "doc_files.h"
 #include "picture_check.h"
 #include "program.h"
 #include "report_catcher.h"
@@ -104,7 +104,7 @@ Bitmap besideEachOther(const Bitmap& left, const Bitmap& right) {
 
 TEST(Pictures, OfTheReferenceShowTheirMembersAtTwoValues) {
     PictureFolders folders = usualPictureFolders();
-    folders.references = fs::path(sourceFolder()) / "docs" / "images" / "reference";
+    folders.references = docsFolder / "images" / "reference";
     std::set<std::string> names;
     for (const PagePicture& picture : automation::pagePictures()) {
         const Bitmap left = listWith(picture, picture.left);
