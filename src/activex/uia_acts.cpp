@@ -8,17 +8,6 @@ using accessibility::Element;
 using accessibility::Kind;
 using List = accessibility::AccessibleList;
 
-template <class Body>
-HRESULT UiaElement::act(Body&& body) noexcept {
-    return about([&]() -> HRESULT {
-        if (is(accessibility::unavailable))
-            return uiaNotEnabled;
-        if (body(spoken_->list))
-            return S_OK;
-        return spoken_->hasEnded() ? uiaNotAvailable : uiaInvalidOperation;
-    });
-}
-
 HRESULT UiaElement::SetFocus() {
     return act([&](List& list) { return list.takeFocus(element_); });
 }

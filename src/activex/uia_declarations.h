@@ -41,6 +41,9 @@ enum class UiaEvent : EVENTID {
 };
 
 enum class ToggleMark : int { off, on };
+enum class ScrollAmount : int { largeDecrement, smallDecrement, none, largeIncrement, smallIncrement };
+/// In place of a percentage: not that way.
+constexpr double uiaNoScroll = -1;
 enum class TableOrder : int { rows, columns };
 enum class StructureChange : int { childAdded, childRemoved, invalidated, manyAdded, manyRemoved, reordered };
 
@@ -92,6 +95,20 @@ struct IRangeValueProvider : UiaPattern {
     virtual HRESULT STDMETHODCALLTYPE get_Minimum(double* least) = 0;
     virtual HRESULT STDMETHODCALLTYPE get_LargeChange(double* page) = 0;
     virtual HRESULT STDMETHODCALLTYPE get_SmallChange(double* step) = 0;
+};
+
+/// Percent of what can be scrolled, and of what is shown.
+struct IScrollProvider : UiaPattern {
+    static constexpr GUID interfaceId = guidFrom("b38b8077-1fc3-42a5-8cae-d40c2215055a");
+
+    virtual HRESULT STDMETHODCALLTYPE Scroll(ScrollAmount horizontal, ScrollAmount vertical) = 0;
+    virtual HRESULT STDMETHODCALLTYPE SetScrollPercent(double horizontal, double vertical) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_HorizontalScrollPercent(double* percentage) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_VerticalScrollPercent(double* percentage) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_HorizontalViewSize(double* percentage) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_VerticalViewSize(double* percentage) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_HorizontallyScrollable(WINBOOL* can) = 0;
+    virtual HRESULT STDMETHODCALLTYPE get_VerticallyScrollable(WINBOOL* can) = 0;
 };
 
 struct IScrollItemProvider : UiaPattern {

@@ -32,7 +32,7 @@ std::optional<Direction> wayOf(NavigateDirection direction) {
 
 } // namespace
 
-std::array<UiaElement::Face, 14> UiaElement::faces() {
+std::array<UiaElement::Face, 15> UiaElement::faces() {
     return {
         {{__uuidof(IRawElementProviderSimple), 0, static_cast<IRawElementProviderSimple*>(this)},
          {__uuidof(IRawElementProviderFragment), 0, static_cast<IRawElementProviderFragment*>(this)},
@@ -48,6 +48,7 @@ std::array<UiaElement::Face, 14> UiaElement::faces() {
          {IToggleProvider::interfaceId, UIA_TogglePatternId, static_cast<IToggleProvider*>(this)},
          {IValueProvider::interfaceId, UIA_ValuePatternId, static_cast<IValueProvider*>(this)},
          {IRangeValueProvider::interfaceId, UIA_RangeValuePatternId, static_cast<IRangeValueProvider*>(this)},
+         {IScrollProvider::interfaceId, UIA_ScrollPatternId, static_cast<IScrollProvider*>(this)},
          {IScrollItemProvider::interfaceId, UIA_ScrollItemPatternId, static_cast<IScrollItemProvider*>(this)},
          {IInvokeProvider::interfaceId, UIA_InvokePatternId, static_cast<IInvokeProvider*>(this)}}};
 }

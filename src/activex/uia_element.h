@@ -28,6 +28,7 @@ class UiaElement final : public IRawElementProviderSimple,
                          public IToggleProvider,
                          public IValueProvider,
                          public IRangeValueProvider,
+                         public IScrollProvider,
                          public IScrollItemProvider,
                          public IInvokeProvider {
   public:
@@ -64,7 +65,7 @@ class UiaElement final : public IRawElementProviderSimple,
     /// Null where it is the list itself, or none of it.
     HRESULT STDMETHODCALLTYPE GetFocus(IRawElementProviderFragment** found) override;
 
-    // What it can do (uia_table.cpp, uia_acts.cpp)
+    // What it can do (uia_table.cpp, uia_scroll.cpp, uia_acts.cpp)
 
     HRESULT STDMETHODCALLTYPE GetItem(int row, int column, IRawElementProviderSimple** cell) override;
     HRESULT STDMETHODCALLTYPE get_RowCount(int* count) override;
@@ -110,6 +111,17 @@ class UiaElement final : public IRawElementProviderSimple,
     HRESULT STDMETHODCALLTYPE get_LargeChange(double* page) override;
     HRESULT STDMETHODCALLTYPE get_SmallChange(double* step) override;
 
+    /// E_INVALIDARG for what is no amount or percentage, and UIA_E_INVALIDOPERATION without a bar for it;
+    /// nothing moves then.
+    HRESULT STDMETHODCALLTYPE Scroll(ScrollAmount horizontal, ScrollAmount vertical) override;
+    HRESULT STDMETHODCALLTYPE SetScrollPercent(double horizontal, double vertical) override;
+    HRESULT STDMETHODCALLTYPE get_HorizontalScrollPercent(double* percentage) override;
+    HRESULT STDMETHODCALLTYPE get_VerticalScrollPercent(double* percentage) override;
+    HRESULT STDMETHODCALLTYPE get_HorizontalViewSize(double* percentage) override;
+    HRESULT STDMETHODCALLTYPE get_VerticalViewSize(double* percentage) override;
+    HRESULT STDMETHODCALLTYPE get_HorizontallyScrollable(WINBOOL* can) override;
+    HRESULT STDMETHODCALLTYPE get_VerticallyScrollable(WINBOOL* can) override;
+
     HRESULT STDMETHODCALLTYPE ScrollIntoView() override;
     HRESULT STDMETHODCALLTYPE Invoke() override;
 
@@ -124,7 +136,7 @@ class UiaElement final : public IRawElementProviderSimple,
 
     ~UiaElement() = default;
 
-    std::array<Face, 14> faces();
+    std::array<Face, 15> faces();
     /// Runs `body`, which gives an HRESULT, if the element is there.
     template <class Body>
     HRESULT about(Body&& body) noexcept;
@@ -138,6 +150,11 @@ class UiaElement final : public IRawElementProviderSimple,
     UiaElement* give(const accessibility::Element& element) const;
     SAFEARRAY* arrayOf(const std::vector<accessibility::Element>& elements) const;
     HRESULT range(double* to, Long List::Range::*part) noexcept;
+    template <class Wish, class Move>
+    HRESULT scrollBoth(Wish horizontal, Wish vertical, Wish none, Move&& move) noexcept;
+    HRESULT percent(double* to, const accessibility::Element& bar) noexcept;
+    HRESULT viewSize(double* to, const accessibility::Element& bar) noexcept;
+    HRESULT scrollable(WINBOOL* to, const accessibility::Element& bar) noexcept;
     bool is(accessibility::State state) const { return (spoken_->list.states(element_) & state) != 0; }
 
     std::atomic<ULONG> references_{1};
@@ -152,6 +169,17 @@ HRESULT UiaElement::about(Body&& body) noexcept {
         static_cast<IRawElementProviderSimple&>(*this), uiaNotAvailable, [&]() -> HRESULT {
             return spoken_->list.exists(element_) ? body() : uiaNotAvailable;
         });
+}
+
+template <class Body>
+HRESULT UiaElement::act(Body&& body) noexcept {
+    return about([&]() -> HRESULT {
+        if (is(accessibility::unavailable))
+            return uiaNotEnabled;
+        if (body(spoken_->list))
+            return S_OK;
+        return spoken_->hasEnded() ? uiaNotAvailable : uiaInvalidOperation;
+    });
 }
 
 template <class Value, class Body>

@@ -47,6 +47,7 @@ constexpr Pattern patterns[] = {
     {Kind::list, UIA_GridPatternId},
     {Kind::list, UIA_TablePatternId},
     {Kind::list, UIA_SelectionPatternId},
+    {Kind::list, UIA_ScrollPatternId},
     {Kind::row, UIA_SelectionItemPatternId},
     {Kind::row, UIA_ScrollItemPatternId},
     {Kind::cell, UIA_GridItemPatternId},

@@ -29,6 +29,7 @@ class Patterns : public ProvidedList {
             {UIA_TogglePatternId, win32::IToggleProvider::interfaceId, "toggle "},
             {UIA_ValuePatternId, win32::IValueProvider::interfaceId, "value "},
             {UIA_RangeValuePatternId, win32::IRangeValueProvider::interfaceId, "range "},
+            {UIA_ScrollPatternId, win32::IScrollProvider::interfaceId, "scrolled "},
             {UIA_ScrollItemPatternId, win32::IScrollItemProvider::interfaceId, "scroll "},
             {UIA_InvokePatternId, win32::IInvokeProvider::interfaceId, "invoke "},
         };
@@ -70,7 +71,7 @@ class Patterns : public ProvidedList {
 TEST_F(Patterns, EachKindHasItsOwn) {
     addRows();
     list->SetEdit(1, 1);
-    EXPECT_EQ(patternsOf(theList), "grid table selection ");
+    EXPECT_EQ(patternsOf(theList), "grid table selection scrolled ");
     EXPECT_EQ(patternsOf(rowElement(1)), "selected scroll ");
     EXPECT_EQ(patternsOf(cellElement(1, 1)), "gridItem tableItem value scroll invoke ");
     EXPECT_EQ(patternsOf(checkBoxElement(1, 2)), "toggle scroll ");
@@ -248,6 +249,63 @@ TEST_F(Patterns, ABarIsARange) {
     WINBOOL readOnly = TRUE;
     EXPECT_EQ(vertical->get_IsReadOnly(&readOnly), S_OK);
     EXPECT_FALSE(readOnly);
+}
+
+TEST_F(Patterns, TheListIsScrolledByAmountsAndPercentages) {
+    using win32::ScrollAmount;
+    addRows();
+    const auto scrolled = pattern<win32::IScrollProvider>(theList, UIA_ScrollPatternId);
+    const auto range = *spoken->list.range(verticalBar);
+    const auto read = [&](HRESULT (STDMETHODCALLTYPE win32::IScrollProvider::*part)(double*)) {
+        double value = -7;
+        EXPECT_EQ((scrolled.get()->*part)(&value), S_OK);
+        return value;
+    };
+    EXPECT_EQ(scrolled->Scroll(ScrollAmount::none, ScrollAmount::smallIncrement), S_OK);
+    EXPECT_EQ(list->TopIndex(), range.step);
+    EXPECT_EQ(scrolled->Scroll(ScrollAmount::none, ScrollAmount::largeIncrement), S_OK);
+    EXPECT_EQ(list->TopIndex(), range.step + range.page);
+    EXPECT_EQ(scrolled->Scroll(ScrollAmount::none, ScrollAmount::smallDecrement), S_OK);
+    EXPECT_EQ(list->TopIndex(), range.page);
+    for (int i = 0; i < 100; ++i)
+        scrolled->Scroll(ScrollAmount::none, ScrollAmount::largeDecrement);
+    EXPECT_EQ(list->TopIndex(), 0);
+    EXPECT_EQ(read(&win32::IScrollProvider::get_VerticalScrollPercent), 0);
+
+    EXPECT_EQ(scrolled->SetScrollPercent(-1, 100), S_OK);
+    EXPECT_EQ(list->TopIndex(), range.most);
+    EXPECT_EQ(read(&win32::IScrollProvider::get_VerticalScrollPercent), 100);
+    EXPECT_EQ(scrolled->SetScrollPercent(-1, 50), S_OK);
+    EXPECT_NEAR(list->TopIndex(), range.most / 2.0, 0.5);
+    const double shown = read(&win32::IScrollProvider::get_VerticalViewSize);
+    EXPECT_GT(shown, 0);
+    EXPECT_LT(shown, 100);
+    WINBOOL can = FALSE;
+    EXPECT_EQ(scrolled->get_VerticallyScrollable(&can), S_OK);
+    EXPECT_TRUE(can);
+}
+
+TEST_F(Patterns, AListIsNotScrolledWhereItHasNoBarOrByWhatIsNoAmount) {
+    using win32::ScrollAmount;
+    addRows();
+    const auto scrolled = pattern<win32::IScrollProvider>(theList, UIA_ScrollPatternId);
+    EXPECT_EQ(scrolled->Scroll(ScrollAmount::smallIncrement, ScrollAmount::smallIncrement),
+              win32::uiaInvalidOperation);
+    EXPECT_EQ(scrolled->SetScrollPercent(50, 50), win32::uiaInvalidOperation);
+    EXPECT_EQ(scrolled->Scroll(ScrollAmount::none, static_cast<ScrollAmount>(5)), E_INVALIDARG);
+    for (const double percentage : {-0.5, 100.5, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_EQ(scrolled->SetScrollPercent(-1, percentage), E_INVALIDARG) << percentage;
+    EXPECT_EQ(list->TopIndex(), 0);
+    double percentage = 0;
+    EXPECT_EQ(scrolled->get_HorizontalScrollPercent(&percentage), S_OK);
+    EXPECT_EQ(percentage, -1);
+    EXPECT_EQ(scrolled->get_HorizontalViewSize(&percentage), S_OK);
+    EXPECT_EQ(percentage, 100);
+    WINBOOL can = TRUE;
+    EXPECT_EQ(scrolled->get_HorizontallyScrollable(&can), S_OK);
+    EXPECT_FALSE(can);
+    list->letEnabled(false);
+    EXPECT_EQ(scrolled->Scroll(ScrollAmount::none, ScrollAmount::smallIncrement), win32::uiaNotEnabled);
 }
 
 TEST_F(Patterns, AnArrowStepsAndARowIsScrolledTo) {
