@@ -4,7 +4,7 @@
 
 #include "model/list_view.h"
 #include "values/text.h"
-#include "worlds/headless/desktop.h"
+#include "worlds/headless/person.h"
 
 #include <filesystem>
 #include <functional>
@@ -35,12 +35,8 @@ class Program {
                                      u"Cuenca,Ecuador,361000"})
             list.RowsAdd(-1, u",", city);
     }
-    /// Clicks where a user's pointer has rested for a while. Pixels of the list.
-    void clickAt(float x, float y) {
-        desktop.move(list.window(), x, y);
-        desktop.advance(std::chrono::seconds(1)); // the list looks where the pointer is by a timer
-        desktop.click(list.window(), x, y);
-    }
+    /// Pixels of the list.
+    void clickAt(float x, float y) { person.click(list.window(), x, y); }
     /// Into the middle of a cell that is shown; rows and columns count from 1.
     void clickOn(Long row, Long column) {
         const float left = list.ColumnLeft(column) + list.ColumnWidth(column) / 2;
@@ -48,6 +44,7 @@ class Program {
     }
 
     headless::Desktop desktop;
+    headless::Person person{desktop};
     Host host;
     std::unique_ptr<lmListViewEvents> events;
     lmListView list{desktop, host, *events};

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -12,14 +13,22 @@ namespace {
 
 using namespace lumtex;
 
+std::string contentOf(const std::filesystem::path& file) {
+    std::ifstream stream(file);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
 TEST(ReadmeExample, RunsAndLeavesAPictureOfItsList) {
     const std::filesystem::path folder = std::filesystem::path(LUMTEX_PROGRAMS) / "readme_example_out";
     std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
-    const std::string command = "cd '" + folder.string() + "' && '" LUMTEX_PROGRAMS "/readme_example'";
+    const std::string command =
+        "cd '" + folder.string() + "' && '" LUMTEX_PROGRAMS "/readme_example' >heard.txt 2>reported.txt";
 
     ASSERT_EQ(std::system(command.c_str()), 0);
 
+    EXPECT_EQ(contentOf(folder / "heard.txt"), "2, 1\n");
+    EXPECT_EQ(contentOf(folder / "reported.txt"), "");
     const PictureRef picture = pictures::loadPicture(folder / "cities.png");
     const Bitmap& pixels = picture->bitmap();
     ASSERT_EQ(pixels.width, 320);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <ostream>
 
 namespace lumtex::headless {
 
@@ -67,6 +68,11 @@ bool HeadlessRuntime::hasPendingEvents() const {
 
 void HeadlessRuntime::messageBox(StringView text, BoxStyle style, StringView title) {
     boxes.push_back({String(text), style, String(title)});
+    if (boxesTo != nullptr) {
+        std::string lines = toUtf8(title) + ": " + toUtf8(text) + '\n';
+        std::erase(lines, '\r');
+        *boxesTo << lines << std::flush;
+    }
     // A copy, since the host may replace it while it runs.
     desktop_.loop().yield([answer = whileBoxIsOpen] {
         if (answer)

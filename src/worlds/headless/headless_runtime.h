@@ -7,6 +7,7 @@
 #include "worlds/common/machine_files.h"
 
 #include <functional>
+#include <iosfwd>
 #include <map>
 #include <utility>
 #include <vector>
@@ -98,6 +99,9 @@ class HeadlessRuntime final : public Runtime,
 
     std::vector<Box> boxes;               ///< all that were shown, in order
     std::function<void()> whileBoxIsOpen; ///< host code, with the box as the last of `boxes`
+    /// Where title and text of each box are written as well, in UTF-8; null for nowhere. Must outlive the
+    /// desktop.
+    std::ostream* boxesTo = nullptr;
     /// At first the project's name and version, and the folder of the running program.
     ComponentInfo componentInfo;
     /// The program of this machine that runs the desktop, under a number that is the same in every run.

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <filesystem>
+#include <sstream>
 
 namespace lumtex::testing {
 
@@ -22,6 +23,13 @@ TEST_F(MessageBoxes, AreNotedWithTextStyleAndTitle) {
     EXPECT_EQ(desktop.runtime().boxes[0].style, BoxStyle::critical);
     EXPECT_EQ(desktop.runtime().boxes[0].title, u"");
     EXPECT_EQ(desktop.runtime().boxes[1].title, u"Error");
+}
+
+TEST_F(MessageBoxes, AreWrittenWhereTheProgramWishes) {
+    std::ostringstream written;
+    desktop.runtime().boxesTo = &written;
+    desktop.runtime().messageBox(u"Error no.: 9\r\nSubscript größer", BoxStyle::critical, u"Title");
+    EXPECT_EQ(written.str(), "Title: Error no.: 9\nSubscript größer\n");
 }
 
 TEST_F(MessageBoxes, LetHostCodeAndWaitingEventsRunWhileTheyAreOpen) {
