@@ -10,6 +10,7 @@
 #include "worlds/win32/win32_locale.h"
 #include "worlds/win32/write_back.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace lumtex::win32 {

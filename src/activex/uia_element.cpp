@@ -3,6 +3,7 @@
 
 #include "values/rounding.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace lumtex::win32 {
