@@ -116,9 +116,15 @@ class ContentRoundTrip : public ContentFixture {
         }
         return bytes;
     }
-    /// Every cell's fields, and whether its tag is a text.
+    /// Every cell's fields, whether its tag is a text, the rows' own fields, and the number of the
+    /// newest.
     std::string content() {
         std::string all = expectedFile(true);
+        for (const RowRecord& row : inside.rows())
+            all += std::to_string(row.items.count()) + (row.Enabled ? "e" : "-") +
+                   (row.Selected ? "s" : "-") + (row.Checked ? "c" : "-") + std::to_string(row.TextPosition) +
+                   " ";
+        all += "new " + std::to_string(list.NewIndex());
         for (Long column = 1; column <= list.ColumnsCount(); ++column)
             for (Long row = 1; row <= list.RowsCount(); ++row)
                 all += list.ItemTag(row, column).isString() ? "t" : "-";
@@ -159,6 +165,7 @@ TEST_F(ContentRoundTrip, AListComesBackAsItWas) {
 TEST_F(ContentRoundTrip, CellByCellOrValueByValueTheSameIsLoaded) {
     list.letAllowEdit(true);
     list.letAutoRedraw(false);
+    list.letTextPositionDefault(cTextPosBottom);
     for (int i = 0; i < lists; ++i) {
         fill();
         save(i % 3 != 0);
