@@ -80,6 +80,14 @@ TEST_F(FindingPair, AtOnceAndByTheModuleTheSameCellsAreFound) {
         for (const cFindCompare compare : {cFindBinary, cFindText}) {
             const std::string expected = foundStepwise(sought, compare);
             ASSERT_EQ(foundAtOnce(sought, compare), expected) << toUtf8(sought);
+            // Over all cells, rows may be refused whole.
+            const FindResults first = list.FindItem(sought, cFindStart, compare);
+            const std::string place =
+                std::to_string(first.FindRow) + "," + std::to_string(first.FindColumn) + " ";
+            if (first.FindSuccessful)
+                ASSERT_TRUE(expected.starts_with(place)) << toUtf8(sought) << ": " << place << expected;
+            else
+                ASSERT_EQ(expected.front(), 'r') << toUtf8(sought) << ": " << expected;
             hits += expected.front() != 'r' ? 1 : 0;
             faulty += expected.ends_with("reports 36") ? 1 : 0;
         }
