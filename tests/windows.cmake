@@ -71,7 +71,8 @@ target_sources(
     lumtex_test_uia
     PRIVATE ${rooms}/activex/com_guard.cpp ${rooms}/activex/spoken_element.cpp ${rooms}/activex/spoken_list.cpp
             ${rooms}/activex/uia_acts.cpp ${rooms}/activex/uia_element.cpp ${rooms}/activex/uia_events.cpp
-            ${rooms}/activex/uia_library.cpp ${rooms}/activex/uia_properties.cpp ${rooms}/activex/uia_table.cpp)
+            ${rooms}/activex/uia_library.cpp ${rooms}/activex/uia_properties.cpp ${rooms}/activex/uia_scroll.cpp
+            ${rooms}/activex/uia_table.cpp)
 # Scripts find the component through the program's manifest.
 enable_language(RC)
 lumtex_tests(scripts LINK lumtex_automation lumtex_win32)

@@ -8,6 +8,7 @@ namespace {
 class AtTheDesktop : public ListFixture {
   protected:
     AtTheDesktop() {
+        list.UserControl_ReadProperties(MemoryPropertyBag{});
         addColumns({100, 100});
         addRows(20, u"a,b");
         list.CheckScroll();
@@ -46,8 +47,8 @@ TEST_F(AtTheDesktop, ADragMovesTheEdgeOfAColumn) {
 }
 
 TEST_F(AtTheDesktop, ATurnOfTheWheelScrolls) {
-    person.wheel(list.window(), 50, 50, -1);
-    EXPECT_GT(list.TopIndex(), 0);
+    person.wheel(list.window(), 50, 50, -2);
+    EXPECT_EQ(list.TopIndex(), 2); // a row a notch
 }
 
 } // namespace

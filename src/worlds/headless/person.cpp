@@ -8,9 +8,15 @@ constexpr Long notch = 120;
 
 } // namespace
 
-void Person::goTo(const Window& window, Single x, Single y) {
-    desktop_.move(window, x, y);
+/// No hand keeps still: the last move finds what the list made of the one before.
+void Person::goTo(Point place, Integer shift) {
+    desktop_.move(place, shift);
     rest();
+    desktop_.move(place, shift);
+}
+
+void Person::goTo(const Window& window, Single x, Single y) {
+    goTo(desktop_.onDesktop(window, x, y), 0);
 }
 
 void Person::click(const Window& window, Single x, Single y, MouseButton button, Integer shift) {
@@ -31,16 +37,17 @@ void Person::drag(const Window& window, Point from, Point to, MouseButton button
     goTo(window, static_cast<Single>(from.x), static_cast<Single>(from.y));
     desktop_.press(button, shift);
     rest();
-    desktop_.move(target, shift);
-    rest();
+    goTo(target, shift);
     desktop_.release(button, shift);
     rest();
 }
 
 void Person::wheel(const Window& window, Single x, Single y, Long notches) {
     goTo(window, x, y);
-    desktop_.wheel(notches * notch);
-    rest();
+    for (; notches != 0; notches += notches < 0 ? 1 : -1) {
+        desktop_.wheel(notches < 0 ? -notch : notch);
+        rest();
+    }
 }
 
 void Person::type(StringView text) {

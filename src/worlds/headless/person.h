@@ -6,10 +6,10 @@
 
 namespace lumtex::headless {
 
-/// Uses mouse and keyboard as people do: goes somewhere, rests there for a moment, and then presses. The
-/// verbs of the desktop itself take no time, and a press that comes with its move finds a list that has not
-/// looked yet where the pointer is. Points are pixels of the window's surface. The desktop must outlive the
-/// person.
+/// Uses mouse and keyboard as people do: goes somewhere, in more than one move, rests there for a moment, and
+/// then presses. The verbs of the desktop itself take no time, and a press that comes with its move finds a
+/// list that has not looked yet where the pointer is. Points are pixels of the window's surface. The desktop
+/// must outlive the person.
 class Person {
   public:
     /// How long a person rests on the way, which is longer than any list takes to look.
@@ -31,6 +31,7 @@ class Person {
     void key(Integer keyCode, Integer shift = 0);
 
   private:
+    void goTo(Point place, Integer shift);
     void rest() { desktop_.advance(moment); }
 
     Desktop& desktop_;
