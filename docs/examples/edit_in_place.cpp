@@ -28,8 +28,9 @@ void run(Program& program) {
     // shown]
     program.clickOn(1, 1);
     program.clickOn(1, 1);
-    program.desktop.type(u" (old)");
-    program.desktop.key(13);
+    program.person.key(keys::end); // the whole text is selected at first
+    program.person.type(u" (old)");
+    program.person.key(keys::enter);
 }
 
 const bool isKnown = known<HearsOfEdits>(__FILE__, run);

@@ -19,7 +19,7 @@ class Program {
   public:
     Program(std::shared_ptr<raster::FontLibrary> fonts, std::unique_ptr<lmListViewEvents> heard)
         : desktop(std::move(fonts)), events(std::move(heard)) {
-        list.UserControl_InitProperties();
+        list.UserControl_ReadProperties(MemoryPropertyBag{}); // no saved settings
         list.window().place(0, 0, 420, 150);
     }
 
