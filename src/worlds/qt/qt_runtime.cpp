@@ -14,7 +14,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QPointer>
 #include <QSettings>
@@ -144,8 +143,7 @@ ObjectRef QtRuntime::createObject(StringView programId) {
 }
 
 void QtRuntime::playSound(StringView file) {
-    if (QFileInfo::exists(toQString(file)))
-        QApplication::beep();
+    sounds_.play(toQString(file));
 }
 
 SystemVersion QtRuntime::systemVersion() const {

@@ -5,6 +5,7 @@
 #include "platform/runtime.h"
 #include "worlds/common/machine_files.h"
 #include "worlds/common/pointer.h"
+#include "worlds/qt/sound_player.h"
 
 #include <chrono>
 #include <functional>
@@ -76,8 +77,7 @@ class QtRuntime : public Runtime,
     ObjectRef createObject(StringView programId) override;
     ObjectRef applicationObject() override { return nullptr; }
 
-    /// There is no player of sound files in the libraries that are asked for: the user hears the system's
-    /// bell.
+    /// Nothing is heard where there is neither sound server nor device.
     void playSound(StringView file) override;
     SystemVersion systemVersion() const override;
     /// No theme of these systems has one of the names.
@@ -97,6 +97,7 @@ class QtRuntime : public Runtime,
 
     worlds::Pointer& pointer_;
     ComponentInfo component_;
+    SoundPlayer sounds_;
     worlds::MachineFiles files_;
     // Of the thread of the application, the only one with widgets.
     static inline int held = 0;
