@@ -9,9 +9,12 @@ find_file(
     PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-windows
     NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 get_filename_component(stdole2_folder "${LUMTEX_STDOLE2}" DIRECTORY)
+# The compiler writes the moment of its run into the library, and knows no way to leave it out.
+find_program(LUMTEX_FAKETIME faketime REQUIRED)
 add_custom_command(
     OUTPUT "${type_library}"
-    COMMAND ${LUMTEX_WIDL} -m${pointer_bits} -I "${activex_folder}" -L "${stdole2_folder}" -t -o "${type_library}"
+    COMMAND "${CMAKE_COMMAND}" -E env TZ=UTC "${LUMTEX_FAKETIME}" -f "2026-01-01 00:00:00"
+            ${LUMTEX_WIDL} -m${pointer_bits} -I "${activex_folder}" -L "${stdole2_folder}" -t -o "${type_library}"
             "${activex_folder}/lumtex_list_view.idl"
     # The compiler refuses a text as the default of a by-reference parameter. Where it wrote the mark instead, stand
     # eight bytes: the kind, the length or mark, and fill.
@@ -32,7 +35,8 @@ add_library(LumtexListView SHARED ${activex_sources} activex/lumtex_list_view.de
                                   "${CMAKE_CURRENT_BINARY_DIR}/component.rc" "${type_library}")
 set_target_properties(LumtexListView PROPERTIES PREFIX "" SUFFIX ".ocx")
 target_link_libraries(LumtexListView PRIVATE lumtex_flags ${below} oleacc)
-target_link_options(LumtexListView PRIVATE -Wl,--enable-stdcall-fixup)
+# Without the moment of its making in it, so that the same sources give the same file.
+target_link_options(LumtexListView PRIVATE -Wl,--enable-stdcall-fixup -Wl,--no-insert-timestamp)
 target_precompile_headers(LumtexListView REUSE_FROM lumtex_precompiled)
 lumtex_headers_alone(LumtexListView ${activex_headers})
 # Programs find the component by the manifest beside it, where nothing is registered.
