@@ -43,7 +43,7 @@ ListCore::ListCore(QWidget& widget, std::unique_ptr<QtWorld> world, std::unique_
 void ListCore::end() {
     if (std::exchange(ends_, true))
         return;
-    const std::shared_ptr<ListCore> self = shared_from_this();
+    const std::shared_ptr<ListCore> self = weak_from_this().lock();
     events_->muted = true;
     list_->outlivedBy(self);
     delete list_.get();
