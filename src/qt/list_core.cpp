@@ -75,6 +75,9 @@ void ListCore::resize(QSize size) {
 }
 
 Variant ListCore::entered(StringView member, const std::function<Variant()>& work) {
+    // Of a list that ends, only half may be left.
+    if (ends_)
+        return {};
     Procedure p(world_->runtime(), member, ModuleKind::control, u"LumtexListView");
     return p.value<Variant>(work);
 }

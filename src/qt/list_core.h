@@ -48,14 +48,14 @@ class ListCore : public std::enable_shared_from_this<ListCore> {
     /// The field of the list's editor, open or not; null once it has gone.
     QLineEdit* field();
     /// The widget goes, or has another list from now on: no signal is raised any more, nothing is reported,
-    /// and the list ends as soon as its last call has returned, which holds the core until then. Host code
-    /// that runs meanwhile finds the list that ends.
+    /// and the list ends as soon as its last call has returned, which holds the core until then.
     void end();
     bool isEnding() const { return ends_; }
     /// Units of widgets.
     void resize(QSize size);
 
     /// Runs `work`, which may throw what a conversion throws: that is reported under the name of the member.
+    /// Does nothing once the list is ending.
     Variant entered(StringView member, const std::function<Variant()>& work);
 
   private:

@@ -126,6 +126,8 @@ void ListWidget::setDesignView(bool designed) {
     if (designed == designView())
         return;
     const QPointer<ListWidget> self(this);
+    if (core_->isEnding())
+        return;
     MemoryPropertyBag settings;
     core_->list().UserControl_WriteProperties(settings);
     if (self != nullptr)
@@ -192,7 +194,7 @@ QVariant ListWidget::call(int number, const QVariantList& arguments) {
 
 QVariant ListWidget::setting(std::u16string_view key) const {
     const std::shared_ptr<ListCore> core = core_;
-    return toQVariant(SettingsByKey(core->list()).value(key));
+    return core->isEnding() ? QVariant() : toQVariant(SettingsByKey(core->list()).value(key));
 }
 
 void ListWidget::letSetting(std::u16string_view key, const QVariant& value) {
@@ -205,6 +207,8 @@ void ListWidget::letSetting(std::u16string_view key, const QVariant& value) {
 
 void ListWidget::reset(std::u16string_view key) {
     const std::shared_ptr<ListCore> core = core_;
+    if (core->isEnding())
+        return;
     const int told = core->host().told();
     SettingsByKey(core->list()).reset(key);
     tellOf(*core, key, told);

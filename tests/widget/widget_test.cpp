@@ -239,6 +239,18 @@ TEST_F(Widget, MayBeCalledByWhatItLetsGoOfAsItEnds) {
     EXPECT_GT(calls, 80);
 }
 
+TEST_F(Widget, GivesZeroToWhatItLetsGoOfAsItEnds) {
+    fill(*widget);
+    widget->setGridLines(true);
+    Releases releases;
+    bool seen = true;
+    LumtexListView* const ending = widget.get();
+    releases.code = [&] { seen = ending->GridLines(); };
+    widget->list().letItemTag(1, 1, ObjectRef(std::make_shared<CallingObject>(releases)));
+    widget.reset();
+    EXPECT_FALSE(seen);
+}
+
 TEST_F(Widget, MayBeDestroyedByWhatItLetsGoOfForADesigner) {
     fill(*widget);
     Releases releases;
