@@ -12,7 +12,7 @@ function(lumtex_qt_plugins variable)
 endfunction()
 
 function(lumtex_designer_plugin)
-    add_library(lumtex_component_designer MODULE $<TARGET_OBJECTS:lumtex_designer>)
+    add_library(lumtex_component_designer MODULE $<TARGET_OBJECTS:lumtex_designer> $<TARGET_OBJECTS:lumtex_words>)
     set_target_properties(
         lumtex_component_designer
         PROPERTIES LINKER_LANGUAGE CXX

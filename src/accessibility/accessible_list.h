@@ -23,7 +23,8 @@ class ChangeStream;
 
 /// Works everything out when it is asked, from the records and from what the last pass painted: no call but
 /// `childCount` for the count of rows knows how many rows there are, and none takes longer for more of them.
-/// Children are had by number. Texts are those of the list; what the product says itself is English.
+/// Children are had by number. Texts are those of the list; what the product says itself is in the language
+/// of the system's user.
 ///
 /// Asking reports nothing, and runs no code of the host but for the name that it gave the list. Acting does
 /// what the user's own act does, with the same events of the list, but for those of the mouse itself; the
@@ -77,6 +78,8 @@ class AccessibleList final : private ControlWatcher {
     String description(const Element& element) const;
     /// The tip of a cell.
     String help(const Element& element) const;
+    /// What kind of thing it is, in a word; empty where readers have a word of their own.
+    String kind(const Element& element) const;
     /// What `act` would do, in a word; empty for nothing.
     String action(const Element& element) const;
     /// The keys that do the same, as far as there are any.

@@ -5,6 +5,7 @@
 #include "interaction/cell_editor.h"
 #include "scroll/scroller.h"
 #include "values/text.h"
+#include "words/phrase.h"
 
 namespace lumtex::accessibility {
 
@@ -67,14 +68,23 @@ String nameOfEditor(const ListReader& reader) {
     return column >= 1 && column <= reader.columns() ? reader.column(column).Text : String{};
 }
 
-String nameOfPart(const Element& part) {
+/// Words of the product itself, in the language of the system's user.
+String spoken(const ListReader& reader, words::Phrase phrase) {
+    return String(phrase.in(reader.core().world().runtime().locale().language()));
+}
+
+consteval words::Phrase word(StringView name) {
+    return words::phrase(u"spoken", name);
+}
+
+words::Phrase nameOfPart(const Element& part) {
     switch (part.kind) {
     case Kind::lowArrow:
-        return part.horizontal ? u"Column left" : u"Line up";
+        return part.horizontal ? word(u"columnLeft") : word(u"lineUp");
     case Kind::highArrow:
-        return part.horizontal ? u"Column right" : u"Line down";
+        return part.horizontal ? word(u"columnRight") : word(u"lineDown");
     default:
-        return u"Position";
+        return word(u"position");
     }
 }
 
@@ -99,17 +109,17 @@ String AccessibleList::name(const Element& element) const {
     case Kind::checkBox:
         return nameOfBox(reader, element);
     case Kind::headers:
-        return u"Headers";
+        return spoken(reader, word(u"headers"));
     case Kind::header:
         return reader.column(element.column).Text;
     case Kind::verticalBar:
-        return u"Vertical";
+        return spoken(reader, word(u"vertical"));
     case Kind::horizontalBar:
-        return u"Horizontal";
+        return spoken(reader, word(u"horizontal"));
     case Kind::lowArrow:
     case Kind::thumb:
     case Kind::highArrow:
-        return nameOfPart(element);
+        return spoken(reader, nameOfPart(element));
     case Kind::editor:
         return nameOfEditor(reader);
     }
@@ -147,9 +157,9 @@ String AccessibleList::description(const Element& element) const {
         return reader.column(element.column).Text;
     case Kind::header: {
         const States state = states(element);
-        return (state & sortedUp) != 0     ? u"sorted, ascending"
-               : (state & sortedDown) != 0 ? u"sorted, descending"
-                                           : u"";
+        return (state & sortedUp) != 0     ? spoken(reader, word(u"sortedAscending"))
+               : (state & sortedDown) != 0 ? spoken(reader, word(u"sortedDescending"))
+                                           : String{};
     }
     default:
         return {};
@@ -162,22 +172,28 @@ String AccessibleList::help(const Element& element) const {
     return toolTip(ListReader(*core_), element);
 }
 
+String AccessibleList::kind(const Element& element) const {
+    return exists(element) && element.kind == Kind::cell ? spoken(ListReader(*core_), word(u"cell"))
+                                                         : String{};
+}
+
 String AccessibleList::action(const Element& element) const {
     const States state = states(element);
     if ((state & (gone | unavailable)) != 0)
         return {};
+    const ListReader reader(*core_);
     switch (element.kind) {
     case Kind::row:
-        return u"Select";
+        return spoken(reader, word(u"select"));
     case Kind::cell:
-        return (state & editable) != 0 ? u"Edit" : u"Press";
+        return spoken(reader, (state & editable) != 0 ? word(u"edit") : word(u"press"));
     case Kind::checkBox:
-        return (state & checked) != 0 ? u"Uncheck" : u"Check";
+        return spoken(reader, (state & checked) != 0 ? word(u"uncheck") : word(u"check"));
     case Kind::header:
-        return ListReader(*core_).column(element.column).AllowSorting ? u"Sort" : u"Press";
+        return spoken(reader, reader.column(element.column).AllowSorting ? word(u"sort") : word(u"press"));
     case Kind::lowArrow:
     case Kind::highArrow:
-        return u"Press";
+        return spoken(reader, word(u"press"));
     default:
         return {};
     }
@@ -189,9 +205,9 @@ String AccessibleList::keys(const Element& element) const {
         return {};
     switch (element.kind) {
     case Kind::row:
-        return u"Up, Down";
+        return spoken(ListReader(*core_), word(u"keysOfRows"));
     case Kind::editor:
-        return u"Enter";
+        return spoken(ListReader(*core_), word(u"keyOfTheEditor"));
     default:
         return {};
     }

@@ -2,9 +2,9 @@
 
 #include "activex/com_guard.h"
 #include "activex/property_choices.h"
-#include "activex/words.h"
 #include "model/property_table.h"
 #include "worlds/win32/variant_bridge.h"
+#include "worlds/win32/win32_locale.h"
 
 #include <optional>
 
@@ -59,7 +59,7 @@ HRESULT CategoriesFace::GetCategoryName(int category, LCID locale, BSTR* name) {
     return guarded([&] {
         for (const Category& each : categories)
             if (each.number == category) {
-                *name = newBSTR(inLanguage(groupName(each.group), locale));
+                *name = newBSTR(groupName(each.group).in(languageOf(LANGIDFROMLCID(locale))));
                 return S_OK;
             }
         return E_INVALIDARG;

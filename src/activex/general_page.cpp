@@ -5,8 +5,9 @@
 #include "activex/module.h"
 #include "activex/property_choices.h"
 #include "activex/task_memory.h"
-#include "activex/words.h"
+#include "words/phrase.h"
 #include "worlds/win32/object_bridge.h"
+#include "worlds/win32/win32_locale.h"
 
 #include <algorithm>
 
@@ -15,7 +16,7 @@ namespace lumtex::win32 {
 namespace {
 
 constexpr int dialogNumber = 201; // in the resources
-constexpr lumtex::Help title{u"General", u"Allgemein"};
+constexpr words::Phrase title = words::phrase(u"page", u"general");
 
 constexpr StringView onPage[] = {
     u"ColorStyle",
@@ -122,7 +123,7 @@ HRESULT GeneralPage::GetPageInfo(PROPPAGEINFO* info) {
     *info = {};
     info->cb = sizeof(*info);
     return guarded([&] {
-        info->pszTitle = newTaskText(inLanguage(title, locale())).release();
+        info->pszTitle = newTaskText(title.in(languageOf(LANGIDFROMLCID(locale())))).release();
         info->size = dialogSize();
         return S_OK;
     });

@@ -97,7 +97,7 @@ Variant uiaProperty(const SpokenList& spoken, const Element& element, PROPERTYID
     case UIA_ControlTypePropertyId:
         return static_cast<Long>(controlTypeOf(element.kind));
     case UIA_LocalizedControlTypePropertyId:
-        return element.kind == Kind::cell ? Variant(u"cell") : Variant();
+        return unlessEmpty(list.kind(element));
     case UIA_NamePropertyId:
         return list.name(element);
     case UIA_HelpTextPropertyId:

@@ -8,7 +8,7 @@ namespace lumtex::automation {
 
 struct ClassDescription {
     StringView name;
-    Help help;
+    words::Phrase help;
     std::span<const Member> members;
 };
 
@@ -17,8 +17,7 @@ const ClassDescription& spEvClass();
 const ClassDescription& errorClass();
 
 /// Of the whole library, whose name stands in lists of libraries.
-inline constexpr Help libraryHelp{u"LumtexListView, a list of rows and columns.",
-                                  u"LumtexListView, eine Liste aus Zeilen und Spalten."};
+inline constexpr words::Phrase libraryHelp = words::phrase(u"library", u"LumtexListView");
 
 /// What designers offer first: the property that they select, and the event that a double click writes a
 /// handler for.

@@ -62,9 +62,16 @@ constexpr Named orMissing(const char16_t* name) {
 template <class Class>
 using Reached = std::conditional_t<std::is_base_of_v<Class, lmListView>, lmListView, Class>;
 
+/// What hosts, and the catalogues of words, call a public class.
+template <class Class>
+inline constexpr StringView className;
+template <>
+inline constexpr StringView className<lmListView> = u"lmListView";
+
 /// The pieces of a member function's type, and the call through Variants.
-template <class Class, auto function, class Returned, class... Parameters>
+template <class Declaring, auto function, class Returned, class... Parameters>
 struct Callable {
+    using Class = Reached<Declaring>;
     using Result = Returned;
     static constexpr std::size_t count = sizeof...(Parameters);
     static constexpr std::array<TypeInfo, count> types{typeOf<Parameters>()...};
@@ -72,12 +79,12 @@ struct Callable {
 
     static Variant invoke(void* object, std::span<Variant> arguments, const Locale* callers) {
         return invokeWith(
-            *static_cast<Reached<Class>*>(object), arguments, callers, std::make_index_sequence<count>{});
+            *static_cast<Class*>(object), arguments, callers, std::make_index_sequence<count>{});
     }
 
   private:
     template <std::size_t... positions>
-    static Variant invokeWith(Reached<Class>& object,
+    static Variant invokeWith(Class& object,
                               [[maybe_unused]] std::span<Variant> arguments,
                               [[maybe_unused]] const Locale* callers,
                               std::index_sequence<positions...>) {
@@ -130,12 +137,12 @@ constexpr void sameCount(std::size_t names, std::size_t parameters) {
 // A new member takes a number that its class has not used yet.
 
 template <auto get>
-constexpr Member readOnly(Long number, StringView name, Help help, std::initializer_list<Named> names = {}) {
+constexpr Member readOnly(Long number, StringView name, std::initializer_list<Named> names = {}) {
     using Get = Function<get>;
     sameCount(names.size(), Get::count);
     Member member{number,
                   name,
-                  help,
+                  words::phrase(className<typename Get::Class>, name),
                   typeOf<typename Get::Result>(),
                   Repaint::never,
                   {},
@@ -149,10 +156,10 @@ constexpr Member readOnly(Long number, StringView name, Help help, std::initiali
 
 template <auto get, auto let>
 constexpr Member
-property(Long number, StringView name, Repaint repaint, Help help, std::initializer_list<Named> names = {}) {
+property(Long number, StringView name, Repaint repaint, std::initializer_list<Named> names = {}) {
     using Let = Function<let>;
     sameCount(names.size() + 1, Let::count);
-    Member member = readOnly<get>(number, name, help, names);
+    Member member = readOnly<get>(number, name, names);
     if (member.type != Let::types.back())
         throw "what is read has the type of what is assigned";
     member.repaint = repaint;
@@ -168,11 +175,19 @@ constexpr Member hidden(Member member) {
 
 template <auto function>
 constexpr Member
-method(Long number, StringView name, Repaint repaint, Help help, std::initializer_list<Named> names = {}) {
+method(Long number, StringView name, Repaint repaint, std::initializer_list<Named> names = {}) {
     using Call = Function<function>;
     sameCount(names.size(), Call::count);
-    Member member{
-        number, name, help, typeOf<typename Call::Result>(), repaint, {}, 0, nullptr, nullptr, &Call::invoke};
+    Member member{number,
+                  name,
+                  words::phrase(className<typename Call::Class>, name),
+                  typeOf<typename Call::Result>(),
+                  repaint,
+                  {},
+                  0,
+                  nullptr,
+                  nullptr,
+                  &Call::invoke};
     nameParameters<Call>(member, names);
     return member;
 }

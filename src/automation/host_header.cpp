@@ -32,8 +32,8 @@ std::string hostType(const TypeInfo& type) {
     return type.code == TypeCode::variantList ? "SAFEARRAY*" : interfaceType(type);
 }
 
-std::string commentText(const std::string& indent, const Help& help) {
-    return indent + "/// " + toUtf8(help.english) + "\n";
+std::string commentText(const std::string& indent, const words::Phrase& help) {
+    return indent + "/// " + toUtf8(help.in(words::Language::english)) + "\n";
 }
 
 std::string enumerationText(const Enumeration& enumeration) {

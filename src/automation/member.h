@@ -3,8 +3,8 @@
 #pragma once
 
 #include "automation/type_info.h"
-#include "model/help.h"
 #include "values/locale.h"
+#include "words/phrase.h"
 
 #include <array>
 #include <span>
@@ -50,8 +50,8 @@ struct Member {
 
     Long number; ///< the dispatch number; it never changes once a version has been given out
     StringView name;
-    Help help;     ///< units, index base, and what is surprising
-    TypeInfo type; ///< of the property, or of the method's result
+    words::Phrase help; ///< units, index base, and what is surprising
+    TypeInfo type;      ///< of the property, or of the method's result
     Repaint repaint;
     std::array<Parameter, mostParameters> entries;
     std::size_t count;

@@ -9,9 +9,9 @@ std::string propertyGroups() {
     const auto add = [&](const auto& row) {
         text.append("{\"")
             .append(toUtf8(row.name))
-            .append("\", \"")
-            .append(toUtf8(groupName(row.group).english))
-            .append("\"},\n");
+            .append("\", words::phrase(u\"group\", u\"")
+            .append(toUtf8(groupKey(row.group)))
+            .append("\")},\n");
     };
     std::apply([&](const auto&... row) { (add(row), ...); }, property_table::rows);
     return text;

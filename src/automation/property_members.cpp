@@ -19,19 +19,11 @@ constexpr Repaint repaintOf(After after) {
 template <std::size_t place>
 constexpr Member memberOf() {
     constexpr const auto& row = std::get<place>(property_table::rows);
-    return property<row.get, row.let>(row.number, row.name, repaintOf(row.after), row.help);
+    return property<row.get, row.let>(row.number, row.name, repaintOf(row.after));
 }
 
-constexpr Member recordset = hidden(property<&lmListView::Recordset, &lmListView::setRecordset>(
-    168,
-    u"Recordset",
-    Repaint::always,
-    {u"Assigning an object with RecordCount, fields, MoveFirst, MoveNext and EOF takes its fields as "
-     u"columns and its records as rows, once. A comma in a value splits it. RecordCount not above 0 "
-     u"changes nothing and repaints nothing.",
-     u"Die Zuweisung eines Objekts mit RecordCount, fields, MoveFirst, MoveNext und EOF übernimmt "
-     u"einmalig dessen Felder als Spalten und dessen Datensätze als Zeilen. Ein Komma teilt einen Wert. "
-     u"Ist RecordCount nicht größer als 0, ändert sich nichts, und nichts wird gezeichnet."}));
+constexpr Member recordset =
+    hidden(property<&lmListView::Recordset, &lmListView::setRecordset>(168, u"Recordset", Repaint::always));
 
 /// The last row of the table is reached by the property bag alone.
 template <std::size_t... places>

@@ -33,7 +33,7 @@ bool isSetting(const Member& member) {
 struct BagProperty {
     StringView name;
     TypeInfo type;
-    Help help;
+    words::Phrase help;
 };
 
 template <class Row>
@@ -75,8 +75,8 @@ std::string propertyText(const BagProperty& property) {
            setterName(property.name) + settingAttributes(name) + ")\n";
 }
 
-std::string commentText(const Help& help) {
-    return "    /// " + toUtf8(help.english) + "\n";
+std::string commentText(const words::Phrase& help) {
+    return "    /// " + toUtf8(help.in(words::Language::english)) + "\n";
 }
 
 std::string declarationText(const Member& member) {
@@ -262,7 +262,7 @@ std::string qtWidgetHeader() {
         "/// \\file\n/// The list as a widget. " + std::string(madeBy) +
         "\n#pragma once\n\n// clang-format off\n\n#include \"qt/list_widget.h\"\n\n"
         "/// " +
-        toUtf8(listViewClass().help.english) +
+        toUtf8(listViewClass().help.in(words::Language::english)) +
         "\n/// See docs/reference for units and index bases. A signal's references travel back to the "
         "list, in direct connections.\n"
         "class LumtexListView : public lumtex::qt::ListWidget {\n    Q_OBJECT\n";

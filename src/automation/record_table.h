@@ -3,7 +3,7 @@
 #pragma once
 
 #include "automation/type_info.h"
-#include "model/help.h"
+#include "words/phrase.h"
 
 #include <array>
 
@@ -14,9 +14,7 @@ struct RecordField {
     TypeInfo type;
 };
 
-inline constexpr Help findResultsHelp{
-    u"What FindItem found. Row and column count from 1 in the lists that were searched.",
-    u"Was FindItem gefunden hat. Zeile und Spalte zählen ab 1 in den durchsuchten Listen."};
+inline constexpr words::Phrase findResultsHelp = words::phrase(u"record", u"FindResults");
 
 /// The fields of `FindResults`, in their order.
 constexpr auto findResultsFields = std::to_array<RecordField>({

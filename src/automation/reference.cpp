@@ -252,16 +252,17 @@ std::string exampleText(const Member& member) {
 /// `level`: the heading's, as many signs.
 std::string describe(const Member& member, const char* level = "#") {
     return std::string(level) + " " + toUtf8(member.name) + "\n\n    " + syntaxOf(member) + "\n\n" +
-           kindOf(member) + "\n\n" + toUtf8(member.help.english) + "\n" + pictureText(member) +
-           parameterTable(member) + startText(member) + repaintText(member) + failureText(member) +
-           std::string(detailsOf(toUtf8(member.name))) + exampleText(member) + seeAlso(member.name, false) +
-           "\nDispatch number " + std::to_string(member.number) +
+           kindOf(member) + "\n\n" + toUtf8(member.help.in(words::Language::english)) + "\n" +
+           pictureText(member) + parameterTable(member) + startText(member) + repaintText(member) +
+           failureText(member) + std::string(detailsOf(toUtf8(member.name))) + exampleText(member) +
+           seeAlso(member.name, false) + "\nDispatch number " + std::to_string(member.number) +
            (member.hidden ? ". Hidden where properties are listed for choice.\n" : ".\n");
 }
 
 /// A small class has one page for all of its members.
 std::string pageOf(const ClassDescription& description) {
-    std::string text = "# " + toUtf8(description.name) + "\n\n" + toUtf8(description.help.english) + "\n";
+    std::string text = "# " + toUtf8(description.name) + "\n\n" +
+                       toUtf8(description.help.in(words::Language::english)) + "\n";
     for (const Member& member : description.members)
         text += "\n" + describe(member, "##");
     return text;
@@ -272,7 +273,8 @@ std::string eventsPage() {
         "# Events\n\nIn the order of their interface. Rows and columns count from 1, positions are pixels.\n";
     text += detailsOf("Events");
     for (const EventDescription& event : eventTable) {
-        text += "\n## " + toUtf8(event.name) + "\n\n" + toUtf8(event.help.english) + "\n\n";
+        text +=
+            "\n## " + toUtf8(event.name) + "\n\n" + toUtf8(event.help.in(words::Language::english)) + "\n\n";
         if (event.count == 0)
             text += "No arguments.\n";
         else
@@ -315,8 +317,8 @@ std::string indicesPage() {
 std::string enumerationsPage() {
     std::string text = "# Enumerations\n\nValues are not checked: any number is stored.\n";
     for (const Enumeration& enumeration : enumerationTable) {
-        text += "\n## " + toUtf8(enumeration.name) + "\n\n" + toUtf8(enumeration.help.english) +
-                "\n\n| name | number |\n|---|---|\n";
+        text += "\n## " + toUtf8(enumeration.name) + "\n\n" +
+                toUtf8(enumeration.help.in(words::Language::english)) + "\n\n| name | number |\n|---|---|\n";
         for (const Enumerator& member : enumeration.enumerators())
             text += "| `" + toUtf8(member.name) + "` | " + std::to_string(member.number) + " |\n";
     }
@@ -333,7 +335,7 @@ std::string indexPage() {
         text += std::string("\n## ") + title + "\n\n| member | |\n|---|---|\n";
         for (const Member& member : members)
             text += "| [" + toUtf8(member.name) + "](" + fileNameOf(member) + ") | " +
-                    toUtf8(member.help.english) + " |\n";
+                    toUtf8(member.help.in(words::Language::english)) + " |\n";
     };
     group("The list", listMembers());
     group("Properties", propertyMembers());

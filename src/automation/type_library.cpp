@@ -28,8 +28,8 @@ std::string quoted(StringView text) {
     return result + "\"";
 }
 
-std::string helpText(const Help& help) {
-    return "helpstring(" + quoted(help.german) + ")";
+std::string helpText(const words::Phrase& help) {
+    return "helpstring(" + quoted(help.in(words::Language::german)) + ")";
 }
 
 std::string uuid(const std::string& name) {

@@ -1,6 +1,8 @@
 #include "designer/designer_plugin.h"
 
 #include "qt/lumtex_list_view.h"
+#include "words/phrase.h"
+#include "worlds/qt/users_language.h"
 
 #include <QIcon>
 #include <QPixmap>
@@ -14,12 +16,17 @@ namespace {
 
 struct PropertyGroup {
     const char* property;
-    const char* heading;
+    words::Phrase heading;
 };
 
 constexpr PropertyGroup propertyGroups[] = {
 #include "designer/property_groups.inc"
 };
+
+QString inUsersLanguage(words::Phrase phrase) {
+    const StringView text = phrase.in(qt::usersLanguage());
+    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 /// The widget's own sheet, under other headings.
 void groupProperties(const QDesignerFormEditorInterface& editor, QWidget& list) {
@@ -28,7 +35,7 @@ void groupProperties(const QDesignerFormEditorInterface& editor, QWidget& list) 
         return;
     for (const PropertyGroup& group : propertyGroups)
         sheet->setPropertyGroup(sheet->indexOf(QString::fromLatin1(group.property)),
-                                QString::fromLatin1(group.heading));
+                                inUsersLanguage(group.heading));
 }
 
 } // namespace
@@ -42,15 +49,11 @@ QString DesignerPlugin::group() const {
 }
 
 QString DesignerPlugin::toolTip() const {
-    return tr("A list of rows and columns");
+    return inUsersLanguage(words::phrase(u"designer", u"tip"));
 }
 
 QString DesignerPlugin::whatsThis() const {
-    return tr(
-        "Shows rows and columns in one of three colour schemes or in colours of your own. The user sorts by "
-        "a "
-        "click on a header, changes the width of columns, selects rows, ticks check boxes and edits cells. "
-        "Columns and rows are added by the program.");
+    return inUsersLanguage(words::phrase(u"designer", u"about"));
 }
 
 QString DesignerPlugin::includeFile() const {

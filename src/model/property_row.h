@@ -2,8 +2,8 @@
 /// What a row of the property table says.
 #pragma once
 
-#include "model/help.h"
 #include "records/properties.h"
+#include "words/phrase.h"
 
 #include <cstddef>
 #include <type_traits>
@@ -19,21 +19,26 @@ enum class Group : Byte {
     data,       ///< what the user may do to the content, and what is dragged in and out
 };
 
-/// The heading of the group.
-constexpr Help groupName(Group group) {
+/// What the catalogues of words call it.
+constexpr StringView groupKey(Group group) {
     switch (group) {
     case Group::appearance:
-        return {u"Appearance", u"Darstellung"};
+        return u"appearance";
     case Group::behaviour:
-        return {u"Behaviour", u"Verhalten"};
+        return u"behaviour";
     case Group::columns:
-        return {u"Columns", u"Spalten"};
+        return u"columns";
     case Group::scrollBars:
-        return {u"Scroll bars", u"Bildlaufleisten"};
+        return u"scrollBars";
     case Group::data:
         break;
     }
-    return {u"Data", u"Daten"};
+    return u"data";
+}
+
+/// The heading of the group.
+constexpr words::Phrase groupName(Group group) {
+    return words::phrase(u"group", groupKey(group));
 }
 
 /// What follows once the value of a property is stored and the host was told.
@@ -79,7 +84,7 @@ struct PropertyRow {
     Field Properties::*field;
     After after;
     Start start;
-    Help help;
+    words::Phrase help;
 };
 
 /// What assigning the property repaints.
@@ -92,18 +97,22 @@ constexpr bool checksForRedraw(After after) {
 }
 
 template <class Get, class Let, class Field>
-PropertyRow(StringView, Long, Group, Get, Let, Field Properties::*, After, Start, Help)
+PropertyRow(StringView, Long, Group, Get, Let, Field Properties::*, After, Start, words::Phrase)
     -> PropertyRow<Get, Let, Field>;
 
 namespace property_table {
 
+constexpr words::Phrase helpFor(StringView name) {
+    return words::phrase(u"lmListView", name);
+}
+
 template <auto get, auto let, auto field>
-constexpr auto row(StringView name, Long number, Group group, After after, Start start, Help help) {
-    return PropertyRow{name, number, group, get, let, field, after, start, help};
+constexpr auto row(StringView name, Long number, Group group, After after, Start start) {
+    return PropertyRow{name, number, group, get, let, field, after, start, helpFor(name)};
 }
 template <auto field>
-constexpr auto bagOnly(StringView name, Group group, After after, Start start, Help help) {
-    return PropertyRow{name, 0, group, nullptr, nullptr, field, after, start, help};
+constexpr auto bagOnly(StringView name, Group group, After after, Start start) {
+    return PropertyRow{name, 0, group, nullptr, nullptr, field, after, start, helpFor(name)};
 }
 constexpr Start shortNumber(int number) {
     Start start(number);

@@ -1,8 +1,9 @@
 /// \file
-/// The system's clock and the code page of its old texts.
+/// The system's clock, the language of its user and the code page of its old texts.
 #pragma once
 
 #include "values/variant.h"
+#include "words/language.h"
 
 #include <span>
 
@@ -18,6 +19,9 @@ class SystemLocale {
 
     /// Today's date and the time of the day.
     virtual Date now() const = 0;
+
+    /// What the user reads and hears; English where the product does not speak the user's language.
+    virtual words::Language language() const = 0;
 
     // Text in the system's ANSI code page, one byte for each UTF-16 code unit. `bytes` and `text` are of the
     // same length. What one byte cannot say becomes "?".

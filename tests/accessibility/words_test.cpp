@@ -117,6 +117,27 @@ TEST_F(Words, OfTheEditorAreItsColumnAndItsText) {
     EXPECT_EQ(toUtf8(spoken.value(theEditor)), "Sweden");
 }
 
+TEST_F(Words, OfTheProductAreInTheUsersLanguage) {
+    addCities();
+    list.Sort(2, cAscending);
+    addRows(30);
+    list.letStyle(cCheckBoxes);
+    list.letColumnCheckBoxes(2, true);
+    settle();
+    desktop.runtime().usersLanguage = words::Language::german;
+    EXPECT_EQ(name(theHeaders), "Spaltenköpfe");
+    EXPECT_EQ(name(verticalBar), "Vertikal");
+    EXPECT_EQ(name(spoken.child(verticalBar, 1)), "Zeile nach oben");
+    EXPECT_EQ(name(spoken.child(verticalBar, 3)), "Zeile nach unten");
+    EXPECT_EQ(described(headerElement(2)), "aufsteigend sortiert");
+    EXPECT_EQ(does(rowElement(1)), "Auswählen");
+    EXPECT_EQ(does(checkBoxElement(1, 2)), "Aktivieren");
+    EXPECT_EQ(does(headerElement(1)), "Sortieren");
+    EXPECT_EQ(toUtf8(spoken.keys(rowElement(1))), "Nach oben, Nach unten");
+    EXPECT_EQ(toUtf8(spoken.kind(cellElement(1, 1))), "Zelle");
+    EXPECT_EQ(name(rowElement(1)), "Oslo"); // the text of the list stays
+}
+
 TEST_F(Words, AskingChangesNothing) {
     addCities();
     const int paints = window().presented();
@@ -125,6 +146,7 @@ TEST_F(Words, AskingChangesNothing) {
         spoken.value(element);
         spoken.description(element);
         spoken.help(element);
+        spoken.kind(element);
         spoken.action(element);
         spoken.keys(element);
         spoken.states(element);

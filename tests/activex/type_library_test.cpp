@@ -142,7 +142,7 @@ TEST_F(TypeLibrary, TheEventsStandInTheirOrder) {
     MEMBERID number = 0;
     for (const automation::EventDescription& event : automation::eventTable) {
         EXPECT_EQ(nameOf(info.get(), ++number), event.name);
-        EXPECT_EQ(helpOf(info.get(), number), event.help.german);
+        EXPECT_EQ(helpOf(info.get(), number), event.help.in(words::Language::german));
     }
 }
 
@@ -150,21 +150,26 @@ TEST_F(TypeLibrary, TheHelpIsGermanWithItsUmlauts) {
     bool umlaut = false;
     for (const automation::ClassDescription& description : automation::classTable()) {
         const std::string name = toUtf8(description.name);
-        EXPECT_EQ(helpOf(type(name).get(), MEMBERID_NIL), description.help.german) << name;
+        EXPECT_EQ(helpOf(type(name).get(), MEMBERID_NIL), description.help.in(words::Language::german))
+            << name;
         const win32::ComRef<ITypeInfo> table = type("_" + name);
-        EXPECT_EQ(helpOf(table.get(), MEMBERID_NIL), description.help.german) << name;
+        EXPECT_EQ(helpOf(table.get(), MEMBERID_NIL), description.help.in(words::Language::german)) << name;
         for (const automation::Member& member : description.members) {
-            EXPECT_EQ(helpOf(table.get(), member.number), member.help.german) << toUtf8(member.name);
-            umlaut = umlaut || member.help.german.find(u'ü') != StringView::npos;
+            EXPECT_EQ(helpOf(table.get(), member.number), member.help.in(words::Language::german))
+                << toUtf8(member.name);
+            umlaut = umlaut || member.help.in(words::Language::german).find(u'ü') != StringView::npos;
         }
     }
     EXPECT_TRUE(umlaut) << "or nothing was tried";
     for (const automation::Enumeration& enumeration : automation::enumerationTable) {
         const std::string name = toUtf8(enumeration.name);
-        EXPECT_EQ(helpOf(type(name).get(), MEMBERID_NIL), enumeration.help.german) << name;
+        EXPECT_EQ(helpOf(type(name).get(), MEMBERID_NIL), enumeration.help.in(words::Language::german))
+            << name;
     }
-    EXPECT_EQ(helpOf(type("FindResults").get(), MEMBERID_NIL), automation::findResultsHelp.german);
-    EXPECT_EQ(helpOf(type("__lmListView").get(), MEMBERID_NIL), automation::eventsHelp.german);
+    EXPECT_EQ(helpOf(type("FindResults").get(), MEMBERID_NIL),
+              automation::findResultsHelp.in(words::Language::german));
+    EXPECT_EQ(helpOf(type("__lmListView").get(), MEMBERID_NIL),
+              automation::eventsHelp.in(words::Language::german));
 }
 
 TEST_F(TypeLibrary, TheRecordHasItsFields) {

@@ -13,7 +13,7 @@ namespace {
 
 struct Explained {
     std::string name;
-    Help help;
+    words::Phrase help;
 };
 
 std::vector<Explained> everything() {
@@ -74,7 +74,8 @@ const std::vector<std::string> germanWords = {
 
 TEST(Help, StandsInBothLanguagesInOneLine) {
     for (const auto& [name, help] : everything())
-        for (const StringView text : {help.english, help.german}) {
+        for (const words::Language language : words::languages) {
+            const StringView text = help.in(language);
             EXPECT_GT(text.size(), 10U) << name;
             EXPECT_TRUE(text.ends_with(u'.')) << name;
             EXPECT_EQ(text.find(u'\n'), StringView::npos) << name;
@@ -83,8 +84,10 @@ TEST(Help, StandsInBothLanguagesInOneLine) {
 
 TEST(Help, IsInTheLanguageThatItIsSaidToBeIn) {
     for (const auto& [name, help] : everything()) {
-        EXPECT_EQ(foreignWord(help.german, englishWords), "") << name << ": " << toUtf8(help.german);
-        EXPECT_EQ(foreignWord(help.english, germanWords), "") << name << ": " << toUtf8(help.english);
+        EXPECT_EQ(foreignWord(help.in(words::Language::german), englishWords), "")
+            << name << ": " << toUtf8(help.in(words::Language::german));
+        EXPECT_EQ(foreignWord(help.in(words::Language::english), germanWords), "")
+            << name << ": " << toUtf8(help.in(words::Language::english));
     }
 }
 
@@ -97,13 +100,14 @@ TEST(Help, InTheWrongLanguageIsCaught) {
 /// The type library has a byte for each letter.
 TEST(Help, InGermanFitsTheCodePageOfTheTypeLibrary) {
     for (const auto& [name, help] : everything())
-        for (const char16_t unit : help.german)
-            EXPECT_TRUE(unit == u'?' || toWindows1252(unit) != '?') << name << ": " << toUtf8(help.german);
+        for (const char16_t unit : help.in(words::Language::german))
+            EXPECT_TRUE(unit == u'?' || toWindows1252(unit) != '?')
+                << name << ": " << toUtf8(help.in(words::Language::german));
 }
 
 TEST(Help, InEnglishNeedsNoOtherLetters) {
     for (const auto& [name, help] : everything())
-        for (const char16_t unit : help.english)
+        for (const char16_t unit : help.in(words::Language::english))
             EXPECT_LT(unit, 0x80) << name;
 }
 

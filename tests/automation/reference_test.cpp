@@ -57,7 +57,7 @@ TEST(Reference, HasAPageForEachMemberThatNamesItsParameters) {
         const auto page =
             std::ranges::find(pages, toUtf8(member.name) + ".md", &automation::ReferencePage::fileName);
         ASSERT_NE(page, pages.end()) << toUtf8(member.name);
-        EXPECT_NE(page->text.find(toUtf8(member.help.english)), std::string::npos);
+        EXPECT_NE(page->text.find(toUtf8(member.help.in(words::Language::english))), std::string::npos);
         for (const automation::Parameter& parameter : member.parameters())
             EXPECT_NE(page->text.find("| `" + toUtf8(parameter.name) + "` |"), std::string::npos)
                 << page->text;

@@ -123,6 +123,7 @@ class FakeRuntime final : public Runtime, EventQueue, Settings, SystemLocale, Au
     }
 
     Date now() const override { return {45351.5}; }
+    words::Language language() const override { return words::Language::english; }
     void toAnsi(StringView /*text*/, std::span<Byte> /*bytes*/) const override {}
     void fromAnsi(std::span<const Byte> /*bytes*/, std::span<char16_t> /*text*/) const override {}
 

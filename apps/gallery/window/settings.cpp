@@ -197,7 +197,7 @@ void withRowOf(const QMetaProperty& setting, Use use) {
 
 QString helpOf(const QMetaProperty& setting) {
     QString help;
-    withRowOf(setting, [&](const auto& row) { help = qt::toQString(row.help.english); });
+    withRowOf(setting, [&](const auto& row) { help = qt::toQString(row.help.in(words::Language::english)); });
     return help;
 }
 

@@ -68,6 +68,7 @@ class HeadlessRuntime final : public Runtime,
 
     /// `clock`, and the virtual time that has passed.
     Date now() const override;
+    words::Language language() const override { return usersLanguage; }
     /// Code page 1252.
     void toAnsi(StringView text, std::span<Byte> bytes) const override;
     void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override;
@@ -107,6 +108,7 @@ class HeadlessRuntime final : public Runtime,
     /// The program of this machine that runs the desktop, under a number that is the same in every run.
     static constexpr Long processId = 4711;
     std::optional<std::vector<ProcessEntry>> processList;
+    words::Language usersLanguage = words::Language::english;
     Date clock{36526.5}; ///< the moment at which the virtual clock started; at first noon of 2000-01-01
     /// By program identifier.
     std::map<String, std::function<ObjectRef()>, NameOrder> factories;

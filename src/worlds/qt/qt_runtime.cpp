@@ -8,6 +8,7 @@
 #include "worlds/common/nesting_level.h"
 #include "worlds/qt/qt_picture.h"
 #include "worlds/qt/qt_text.h"
+#include "worlds/qt/users_language.h"
 #include "worlds/qt/users_locale.h"
 
 #include <QAbstractEventDispatcher>
@@ -110,6 +111,10 @@ Date QtRuntime::now() const {
     const QDateTime moment = QDateTime::currentDateTime();
     const qint64 days = QDate(1899, 12, 30).daysTo(moment.date());
     return {static_cast<Double>(days) + moment.time().msecsSinceStartOfDay() / millisecondsPerDay};
+}
+
+words::Language QtRuntime::language() const {
+    return usersLanguage();
 }
 
 void QtRuntime::toAnsi(StringView text, std::span<Byte> bytes) const {

@@ -66,6 +66,7 @@ class QtRuntime : public Runtime,
     std::optional<String> text(StringView key, StringView name) const override;
 
     Date now() const override;
+    words::Language language() const override;
     /// Code page 1252.
     void toAnsi(StringView text, std::span<Byte> bytes) const override;
     void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override;

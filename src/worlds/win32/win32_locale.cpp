@@ -110,4 +110,8 @@ const Locale& win32UsersLocale() {
     return locale;
 }
 
+words::Language languageOf(LANGID language) {
+    return PRIMARYLANGID(language) == LANG_GERMAN ? words::Language::german : words::Language::english;
+}
+
 } // namespace lumtex::win32

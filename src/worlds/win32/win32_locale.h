@@ -3,6 +3,7 @@
 #pragma once
 
 #include "values/locale.h"
+#include "words/language.h"
 #include "worlds/win32/windows_api.h"
 
 namespace lumtex::win32 {
@@ -32,5 +33,8 @@ class Win32Locale final : public Locale {
 
 /// Of whoever is logged on.
 const Locale& win32UsersLocale();
+
+/// English for a language that the product does not speak.
+words::Language languageOf(LANGID language);
 
 } // namespace lumtex::win32

@@ -127,4 +127,8 @@ ObjectRef Win32Runtime::createObject(StringView programId) {
     return objectFrom(object.get());
 }
 
+words::Language Win32Runtime::language() const {
+    return languageOf(GetUserDefaultUILanguage());
+}
+
 } // namespace lumtex::win32

@@ -47,6 +47,7 @@ class Win32Runtime : public Runtime,
     static bool isBoxOpen();
 
     Date now() const override;
+    words::Language language() const override;
     /// A character of more than one byte counts as no character.
     void toAnsi(StringView text, std::span<Byte> bytes) const override;
     void fromAnsi(std::span<const Byte> bytes, std::span<char16_t> text) const override;

@@ -1,5 +1,6 @@
-/// Numbers and dates as users write them.
+/// Numbers and dates as users write them, and the language that they read.
 #include "values/runtime_error.h"
+#include "worlds/qt/users_language.h"
 #include "worlds/qt/users_locale.h"
 
 #include <gtest/gtest.h>
@@ -56,6 +57,16 @@ TEST(QtLocale, ReadsWhatItWrites) {
             EXPECT_NEAR(read->days, days, 1e-9) << QLocale(language).name().toStdString();
         }
     }
+}
+
+TEST(UsersLanguage, IsTheDearestThatTheProductSpeaks) {
+    using words::Language;
+    EXPECT_EQ(qt::languageOf({"de-AT", "en"}), Language::german);
+    EXPECT_EQ(qt::languageOf({"fr-FR", "de", "en"}), Language::german);
+    EXPECT_EQ(qt::languageOf({"en-GB", "de"}), Language::english);
+    EXPECT_EQ(qt::languageOf({"fr"}), Language::english);
+    EXPECT_EQ(qt::languageOf({"C"}), Language::english);
+    EXPECT_EQ(qt::languageOf({}), Language::english);
 }
 
 TEST(QtLocale, ReadsTheFormsThatEverybodyKnows) {

@@ -93,5 +93,11 @@ TEST(Win32Locale, WritesDatesThatItReadsAgain) {
     EXPECT_TRUE(Win32Locale(american).textOf(Date{45351}).starts_with(u"2/29/"));
 }
 
+TEST(UsersLanguage, IsEnglishUnlessTheProductSpeaksIt) {
+    EXPECT_EQ(languageOf(MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN_AUSTRIAN)), words::Language::german);
+    EXPECT_EQ(languageOf(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_UK)), words::Language::english);
+    EXPECT_EQ(languageOf(MAKELANGID(LANG_FRENCH, SUBLANG_FRENCH)), words::Language::english);
+}
+
 } // namespace
 } // namespace lumtex::win32
