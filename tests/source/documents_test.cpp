@@ -22,16 +22,73 @@ std::vector<std::string> between(const SourceFile& file, std::string_view begin,
     return last == file.lines.end() ? std::vector<std::string>() : std::vector<std::string>(first + 1, last);
 }
 
-/// The first program of a page, or of what stands below a heading.
-std::vector<std::string> printedExample(SourceFile readme, std::string_view heading = {}) {
-    if (!heading.empty())
-        readme.lines.erase(readme.lines.begin(),
-                           std::find(readme.lines.begin(), readme.lines.end(), heading));
-    return between(readme, "```cpp", "```");
+/// What a page may quote of a file: what stands between its marks, or all of it, with ends of lines as pages
+/// have them.
+std::vector<std::string> quotable(SourceFile file) {
+    for (std::string& line : file.lines)
+        if (line.ends_with('\r'))
+            line.pop_back();
+    const std::vector<std::string> marked = between(file, "// [readme", "// readme]");
+    return marked.empty() ? file.lines : marked;
 }
 
-std::vector<std::string> compiledExample(const SourceFile& program) {
-    return between(program, "// [readme", "// readme]");
+/// Whether the lines of a block stand in a text one below the other, all of them equally far to the right. A
+/// program that has marks is quoted as a whole.
+bool quotes(const std::vector<std::string>& block, const SourceFile& file) {
+    const std::vector<std::string> text = quotable(file);
+    if (text.size() != file.lines.size())
+        return block == text;
+    const auto first = block.empty() ? std::string() : block.front();
+    for (std::size_t start = 0; start + block.size() <= text.size() && !first.empty(); ++start) {
+        if (!text[start].ends_with(first))
+            continue;
+        const std::string margin = text[start].substr(0, text[start].size() - first.size());
+        const bool allThere = margin.find_first_not_of(' ') == std::string::npos &&
+                              std::equal(block.begin(),
+                                         block.end(),
+                                         text.begin() + static_cast<std::ptrdiff_t>(start),
+                                         [&](const std::string& quoted, const std::string& line) {
+                                             return line == (quoted.empty() ? quoted : margin + quoted);
+                                         });
+        if (allThere)
+            return true;
+    }
+    return false;
+}
+
+/// Blocks of a program that say not whose lines they are (`<!-- from FILE -->`), or say so and differ.
+std::vector<Finding> misquotes(const SourceFile& page) {
+    static const std::regex begin("```(cpp|vbscript|vb)");
+    static const std::regex source("<!-- from (.+) -->");
+    std::vector<Finding> findings;
+    for (std::size_t i = 0; i < page.lines.size(); ++i) {
+        if (!std::regex_match(page.lines[i], begin))
+            continue;
+        const auto end =
+            std::find(page.lines.begin() + static_cast<std::ptrdiff_t>(i), page.lines.end(), "```");
+        const std::vector<std::string> block(page.lines.begin() + static_cast<std::ptrdiff_t>(i) + 1, end);
+        std::smatch from;
+        if (i == 0 || !std::regex_match(page.lines[i - 1], from, source))
+            findings.push_back({page.path, i + 1, "comes from no file"});
+        else if (end == page.lines.end() || !quotes(block, readFile(from[1])))
+            findings.push_back({page.path, i + 1, "does not stand in " + from[1].str()});
+    }
+    return findings;
+}
+
+/// Files of the tree that commands name and that are not there.
+std::vector<Finding> missingScripts(const SourceFile& page) {
+    static const std::regex script(R"((^|[\s`(])((scripts/|\./)[a-z0-9.-]*[a-z0-9])(?=[\s`,.;:)]|$))");
+    std::vector<Finding> findings;
+    for (std::size_t i = 0; i < page.lines.size(); ++i)
+        for (std::sregex_iterator match(page.lines[i].begin(), page.lines[i].end(), script), none;
+             match != none;
+             ++match)
+            if (const std::string name = (*match)[2];
+                !name.ends_with("/cities") &&
+                !std::filesystem::exists(testing::sourceFolder() + ("/" + name)))
+                findings.push_back({page.path, i + 1, "there is no " + name});
+    return findings;
 }
 
 /// What a heading is reached by: small letters, digits, hyphens for blanks, and nothing else.
@@ -116,28 +173,59 @@ std::vector<SourceFile> documents() {
     return files;
 }
 
-TEST(Readme, ShowsTheVeryExampleThatIsCompiled) {
-    const auto compiled = compiledExample(readFile("tests/examples/readme_example.cpp"));
-    ASSERT_FALSE(compiled.empty());
-    EXPECT_EQ(printedExample(readFile("README.md")), compiled);
+TEST(Readme, QuotesProgramsThatAreRun) {
+    const SourceFile readme = readFile("README.md");
+    EXPECT_EQ(report(misquotes(readme)), "");
+    for (const char* program : {"tests/install/qt/cities.cpp", // built with what is installed
+                                "tests/examples/readme_example.cpp",
+                                "samples/vbscript/cities.vbs",
+                                "samples/visual-basic/CitiesForm.frm",
+                                "samples/cpp-host/cities.cpp"})
+        EXPECT_EQ(std::count(
+                      readme.lines.begin(), readme.lines.end(), "<!-- from " + std::string(program) + " -->"),
+                  1)
+            << program;
 }
 
-TEST(Readme, ShowsTheVeryWindowThatIsBuiltWithTheInstalledLibrary) {
-    const auto compiled = compiledExample(readFile("tests/install/qt/cities.cpp"));
-    ASSERT_FALSE(compiled.empty());
-    EXPECT_LT(compiled.size(), 20U);
-    EXPECT_EQ(printedExample(readFile("README.md"), "## A first window, with Qt"), compiled);
+TEST(Readme, IsCaughtWhereItsCodeComesFromNowhereOrDiffers) {
+    const auto found = [](const std::string& block) {
+        return report(misquotes({"README.md", "<!-- from tests/source/file_name_test.cpp -->\n" + block}));
+    };
+    const SourceFile whole = readFile("tests/source/file_name_test.cpp");
+    const std::string first = whole.lines[1];
+    const std::string second = whole.lines[2];
+    const std::string differs = "README.md:2: does not stand in tests/source/file_name_test.cpp\n";
+    EXPECT_EQ(found("```cpp\n" + first + "\n" + second + "\n```\n"), "");
+    EXPECT_EQ(found("```cpp\n" + second + "\n" + first + "\n```\n"), differs);
+    EXPECT_EQ(found("```cpp\n" + first + " \n" + second + "\n```\n"), differs);
+    EXPECT_EQ(found("```cpp\n```\n"), differs) << "nothing is quoted";
+    EXPECT_EQ(found("```cpp\n" + first + "\n" + second + "\n"), differs) << "the block does not end";
+    EXPECT_EQ(report(misquotes({"README.md", "Text\n```vb\nDim Row\n```\n"})),
+              "README.md:2: comes from no file\n");
 }
 
-TEST(Readme, IsCaughtWhereItsExampleDiffersOrIsMissing) {
+TEST(Readme, QuotesAProgramWithMarksAsAWhole) {
     const SourceFile program("a.cpp", "// [readme\nint a;\n\nint b;\n// readme]\nint c;\n");
-    const auto compiled = compiledExample(program);
-    EXPECT_EQ(compiled, (std::vector<std::string>{"int a;", "", "int b;"}));
-    EXPECT_EQ(printedExample({"README.md", "Text\n```cpp\nint a;\n\nint b;\n```\nmore\n"}), compiled);
-    EXPECT_NE(printedExample({"README.md", "```cpp\nint a;\nint b;\n```\n"}), compiled);
-    EXPECT_NE(printedExample({"README.md", "```cpp\nint a;\n\nint b;\n"}), compiled)
-        << "the block does not end";
-    EXPECT_NE(printedExample({"README.md", "int a;\n"}), compiled);
+    EXPECT_TRUE(quotes({"int a;", "", "int b;"}, program));
+    EXPECT_FALSE(quotes({"int a;"}, program));
+    EXPECT_FALSE(quotes({"int c;"}, program));
+}
+
+TEST(Readme, QuotesLinesFurtherToTheLeft) {
+    const SourceFile program("a.cpp", "{\n    int a;\n\n        int b;\n}\n");
+    EXPECT_TRUE(quotes({"int a;", "", "    int b;"}, program));
+    EXPECT_FALSE(quotes({"int a;", "", "int b;"}, program));
+    EXPECT_FALSE(quotes({"a;"}, program));
+}
+
+TEST(Documents, NameScriptsThatAreThere) {
+    EXPECT_EQ(offenders(documents(), missingScripts), "");
+}
+
+TEST(Documents, ThatNameNoScriptAreCaught) {
+    const SourceFile sample("README.md", "Run `scripts/setup`, then ./check.\n./chek\nor (scripts/mend).\n");
+    EXPECT_EQ(report(missingScripts(sample)),
+              "README.md:2: there is no ./chek\nREADME.md:3: there is no scripts/mend\n");
 }
 
 TEST(Documents, LinkToFilesThatAreThere) {
