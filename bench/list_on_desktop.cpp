@@ -1,6 +1,5 @@
 #include "list_on_desktop.h"
 
-#include "sample_rows.h"
 #include "values/text.h"
 
 #include <map>

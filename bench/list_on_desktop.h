@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/list_view.h"
+#include "sample_rows.h"
 #include "worlds/headless/desktop.h"
 #include "worlds/headless/headless_window.h"
 
@@ -16,19 +17,20 @@ constexpr StringView separator = u"|";
 /// That many rows of one seed, made once. The reference lives as long as the program.
 const std::vector<String>& rowsOf(std::int64_t count);
 
-/// A list with five columns, as large as the screen of the painting benchmarks.
+/// A list with five columns, or these several times, as large as the screen of the painting benchmarks.
 struct ListOnDesktop {
     headless::Desktop desktop;
     Host host;
     lmListViewEvents events;
     lmListView list{desktop, host, events};
 
-    ListOnDesktop() {
+    explicit ListOnDesktop(int count = columns) {
         list.UserControl_ReadProperties(MemoryPropertyBag());
         list.letAutoRedraw(false);
         list.letAutoCheckScroll(false);
-        for (const Single width : {70, 200, 160, 120, 110})
-            list.ColumnsAdd(u"Column", nullptr, nullptr, nullptr, cColumnLeft, width * 15);
+        constexpr Single widths[columns] = {70, 200, 160, 120, 110};
+        for (int i = 0; i < count; ++i)
+            list.ColumnsAdd(u"Column", nullptr, nullptr, nullptr, cColumnLeft, widths[i % columns] * 15);
         list.window().place(0, 0, 1280, 800);
     }
     void fill(const std::vector<String>& rows) {
