@@ -65,6 +65,7 @@ void ListRecords::clearRows() {
     rows_.clear();
     rows_.append();
     rowsAllocated_ = false;
+    mayHaveHeights_ = false;
 }
 
 void ListRecords::clearColumns() {

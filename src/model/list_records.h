@@ -51,6 +51,10 @@ class ListRecords {
     bool mayHoldObjects() const { return mayHoldObjects_; }
     void noteObject() { mayHoldObjects_ = true; }
 
+    /// A paint measured a row at some time since there were none; before, all heights are zero.
+    bool mayHaveHeights() const { return mayHaveHeights_; }
+    void noteHeight() { mayHaveHeights_ = true; }
+
     /// All elements, the blank one of an emptied array too.
     RowArray& rows() { return rows_; }
     std::size_t columnSlots() const { return columns_.size(); }
@@ -74,6 +78,7 @@ class ListRecords {
     bool rowsAllocated_ = false;    ///< from the first row added until `clearRows`
     bool columnsAllocated_ = false; ///< from the first column added until `clearColumns`
     bool mayHoldObjects_ = false;
+    bool mayHaveHeights_ = false;
 };
 
 } // namespace lumtex

@@ -118,6 +118,7 @@ void PaintPass::finishRow() {
     if (counters.scanIndex >= 0 && static_cast<std::size_t>(counters.scanIndex) < rows.size()) {
         RowRecord& row = rows[static_cast<std::size_t>(counters.scanIndex)];
         row.Height = rowBandHeight;
+        core.records.noteHeight();
         row.Top = rowY;
         state.lastRow = counters.scanIndex;
     }

@@ -32,6 +32,12 @@ Long Scroller::VisibleItems() {
             // Wanted: the walk starts at row 0 whatever the top row is, and a row never painted has no
             // height.
             auto y = static_cast<Single>(core_.painting->ColumnHeight());
+            // Rows without a height all fit, however many.
+            if (!records_.mayHaveHeights()) {
+                if (y <= available)
+                    state_.visibleRowCount = records_.upperBoundOfRows() + 1;
+                return state_.visibleRowCount;
+            }
             while (y <= available) {
                 ++state_.visibleRowCount;
                 if (state_.visibleRowCount > records_.upperBoundOfRows())

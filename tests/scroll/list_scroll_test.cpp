@@ -270,6 +270,37 @@ TEST_F(ListScroll, TwoDynamicRowsNeedTheBarHoweverTallTheSurface) {
     EXPECT_EQ(inside.vertical().Max(), 1);
 }
 
+// Wanted: rows that were never painted have no height, and all of them fit.
+TEST_F(ListScroll, RowsOfTheirOwnHeightFitByWhatTheLastPaintsMeasured) {
+    addColumns({50});
+    const auto walk = [&] {
+        auto y = static_cast<Single>(inside.ColumnHeight());
+        Long fitting = -1;
+        while (y <= 200 && ++fitting < list.RowsCount())
+            y += inside.rows()[static_cast<std::size_t>(fitting)].Height;
+        return fitting;
+    };
+    list.letAutoRedraw(false);
+    list.letAutoCheckScroll(false);
+    const auto expectTheWalk = [&](const char* when) { EXPECT_EQ(inside.VisibleItems(), walk()) << when; };
+    addRows(500);
+    EXPECT_EQ(inside.VisibleItems(), 500);
+    expectTheWalk("never painted");
+    list.Redraw();
+    EXPECT_LT(inside.VisibleItems(), 20);
+    expectTheWalk("painted");
+    list.letItemText(1, 1, u"zzz");
+    list.Sort(1);
+    expectTheWalk("sorted");
+    list.RowsRemove(3);
+    expectTheWalk("removed");
+    list.RowsClear();
+    addRows(400);
+    EXPECT_EQ(inside.VisibleItems(), 400);
+    list.window().place(0, 0, 300, 20);
+    EXPECT_EQ(inside.VisibleItems(), -1) << "not even the headers fit";
+}
+
 // Wanted: scrolling sideways raises no event.
 TEST_F(ListScroll, OnlyScrollingUpAndDownIsTold) {
     addColumns({50});
