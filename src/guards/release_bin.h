@@ -29,6 +29,9 @@ class ReleaseBin {
     /// reserved place.
     void take(Reference reference) noexcept;
 
+    /// How many references wait.
+    std::size_t waiting() const noexcept { return waiting_.size(); }
+
     /// What a procedure does at its begin, and at its end with the number that it got.
     std::size_t enter() noexcept {
         ++procedures_;

@@ -245,6 +245,7 @@ class lmListView final : public ListViewRecords, public UserControl {
     void freshenItemStyle(std::optional<StyleLease>& style);
     Long placeOfNewRow(Variant& aIndex, Procedure& p);
     void removeRow(Long Index, Procedure& p);
+    Long sweepSelected(Long row, bool& sweeps);
 
     Held<ObjectRef> recordset_; ///< as it was assigned; the list has taken its records already
     std::shared_ptr<about::LumtexAbout> about_; ///< the form of the world, from the first `About` on

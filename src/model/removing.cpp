@@ -1,4 +1,5 @@
 /// Removing rows, and the entry for columns.
+#include "guards/failure_of.h"
 #include "model/list_view.h"
 #include "platform/queue_watch.h"
 #include "render/painting.h"
@@ -53,6 +54,43 @@ void lmListView::removeRow(Long Index, Procedure& p) {
         records.rows().dropLast();
 }
 
+/// Goes over the rows from `row` on, which counts from 1, and takes the selected ones away at once. Gives the
+/// row from which on they must go one by one: where something waits for the host or would be reported, where
+/// the last row goes, and behind a row that held something of the host's, which may run its code as the sweep
+/// ends. Then others are likely to hold such things too, and `sweeps` turns False.
+Long lmListView::sweepSelected(Long row, bool& sweeps) {
+    if (!sweeps || row > RowsCount() || !records.hasColumns() || designMode())
+        return row;
+    std::vector<ColumnHeader*> headers;
+    ignoringErrors([&] {
+        for (std::size_t column = 0; column < records.columnSlots(); ++column)
+            headers.push_back(&records.columnAt(static_cast<Long>(column)));
+    });
+    if (headers.size() != records.columnSlots())
+        return row;
+    using enum RowArray::Verdict;
+    Procedure p = procedure(u"RowsRemove");
+    QueueWatch watch(runtime().queue());
+    const ReleaseBin& bin = ReleaseBin::ofThread();
+    const std::size_t heldBefore = bin.waiting();
+    auto left = static_cast<std::size_t>(RowsCount());
+    const std::size_t next =
+        records.rows().sweep(static_cast<std::size_t>(row) - 1, [&](const RowRecord& record) {
+            if (bin.waiting() != heldBefore)
+                return leave;
+            if (!record.Selected)
+                return stay;
+            if (left == 1 || record.items.count() < headers.size() || watch.eventWaits())
+                return leave;
+            for (std::size_t column = 0; column < headers.size(); ++column)
+                headers[column]->ItemsChecked -= record.items[column].Checked() ? 1 : 0;
+            --left;
+            return go;
+        });
+    sweeps = bin.waiting() == heldBefore;
+    return static_cast<Long>(next) + 1;
+}
+
 void lmListView::RowsSelectedRemove() {
     Procedure p = procedure(u"RowsSelectedRemove");
     const bool autoCheckScroll = properties.AutoCheckScroll;
@@ -61,8 +99,12 @@ void lmListView::RowsSelectedRemove() {
     properties.AutoRedraw = false;
     painting->hold();
     Long row = 1;
+    bool sweeps = true;
     // Wanted: the first row is looked at before the count, so a list that never had rows reports its absence.
     do {
+        row = sweepSelected(row, sweeps);
+        if (row > 1 && row > RowsCount())
+            break;
         if (RowSelected(row))
             RowsRemove(row);
         else

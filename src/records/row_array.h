@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace lumtex {
@@ -67,6 +68,12 @@ class RowArray {
     void moveLastTo(std::size_t position) noexcept;
     /// Those behind `position` move up by one.
     void remove(std::size_t position) noexcept;
+    /// Asks `verdict` about each row from `position` on: a row goes away, or moves up to those that stayed.
+    /// Where it says `leave`, that row and those behind it move up unasked. Gives the position of the first
+    /// row that was not asked about. `verdict` must not touch the array.
+    enum class Verdict : unsigned char { stay, go, leave };
+    template <class Judge>
+    std::size_t sweep(std::size_t position, Judge verdict);
     /// Row `sources[i]` goes to position `i`; each row is named once. Throws std::bad_alloc and is as it was
     /// then.
     void reorder(std::span<const std::uint32_t> sources);
@@ -102,5 +109,32 @@ class RowArray {
     std::size_t mask_ =
         0; ///< slots of a chunk less 1; a chunk that is the only one may have fewer than the others
 };
+
+template <class Judge>
+std::size_t RowArray::sweep(std::size_t position, Judge verdict) {
+    std::size_t stayed = position;
+    const auto moveUp = [&](std::size_t from) {
+        if (from != stayed)
+            (*this)[stayed] = std::exchange((*this)[from], RowRecord());
+        ++stayed;
+    };
+    std::size_t asked = position;
+    for (; asked < size_; ++asked) {
+        const Verdict judged = verdict(std::as_const(*this)[asked]);
+        if (judged == Verdict::leave)
+            break;
+        if (judged == Verdict::go)
+            (*this)[asked] = RowRecord();
+        else
+            moveUp(asked);
+    }
+    const std::size_t unasked = stayed;
+    if (stayed != asked) {
+        for (; asked < size_; ++asked)
+            moveUp(asked);
+        size_ = stayed;
+    }
+    return unasked;
+}
 
 } // namespace lumtex

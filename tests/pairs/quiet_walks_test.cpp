@@ -3,6 +3,7 @@
 /// nobody can tell the two apart.
 #include "list_fixture.h"
 
+#include <memory>
 #include <random>
 #include <sstream>
 
@@ -41,10 +42,34 @@ class WalkedList : public ListFixture {
         return out.str();
     }
 
+    /// Ends with the walk's list.
+    std::shared_ptr<int> walking = std::make_shared<int>();
+
     using ListFixture::desktop;
     using ListFixture::events;
     using ListFixture::inside;
     using ListFixture::list;
+};
+
+/// An object of a host that takes a row away as the list lets go of it.
+class RemovesOnEnd final : public Object {
+  public:
+    explicit RemovesOnEnd(WalkedList& of) : of_(of), walking_(of.walking) {}
+    RemovesOnEnd(const RemovesOnEnd&) = delete;
+    RemovesOnEnd& operator=(const RemovesOnEnd&) = delete;
+    ~RemovesOnEnd() override {
+        if (walking_.expired())
+            return;
+        of_.events.log.push_back("gone with " + std::to_string(of_.list.RowsCount()) + " rows");
+        of_.list.RowsRemove(2);
+    }
+    Variant get(StringView /*name*/, std::span<Variant> /*arguments*/) override { return {}; }
+    void put(StringView /*name*/, const Variant& /*value*/) override {}
+    Variant call(StringView /*name*/, std::span<Variant> /*arguments*/) override { return {}; }
+
+  private:
+    WalkedList& of_;
+    std::weak_ptr<int> walking_;
 };
 
 using Step = std::function<void(WalkedList&)>;
@@ -67,6 +92,34 @@ const std::vector<std::pair<const char*, Step>> walks{
      [](WalkedList& of) {
          for (int row = 1; row < rows; row += 3)
              of.list.letRowSelected(row, true);
+         of.list.RowsSelectedRemove();
+     }},
+    {"remove all but the last",
+     [](WalkedList& of) {
+         for (int row = 1; row < rows; ++row)
+             of.list.letRowSelected(row, true);
+         of.list.RowsSelectedRemove();
+     }},
+    {"remove all",
+     [](WalkedList& of) {
+         for (int row = 1; row <= rows; ++row)
+             of.list.letRowSelected(row, true);
+         of.list.RowsSelectedRemove();
+     }},
+    {"remove selected rows of which some miss a cell",
+     [](WalkedList& of) {
+         for (int row = 2; row < rows; row += 2)
+             of.list.letRowSelected(row, true);
+         for (std::size_t row = 5; row < rows; row += 9)
+             of.inside.rows()[row].items = Items::create(1);
+         of.list.RowsSelectedRemove();
+     }},
+    {"remove selected rows whose tags remove rows",
+     [](WalkedList& of) {
+         for (int row = 3; row < rows; row += 2)
+             of.list.letRowSelected(row, true);
+         for (int row = 25; row < rows; row += 40)
+             of.list.letItemTag(row, 1, Variant(ObjectRef(std::make_shared<RemovesOnEnd>(of))));
          of.list.RowsSelectedRemove();
      }},
     {"select one alone", [](WalkedList& of) { of.inside.SetNewSelected(17); }},

@@ -117,6 +117,41 @@ TEST_F(Rows, TakeTheOrderThatTheyAreGiven) {
     }
 }
 
+TEST_F(Rows, AreSweptLikeThoseOfAVector) {
+    for (int round = 0; round < 60; ++round) {
+        while (rows.size() < 3000) {
+            append();
+            moveLastTo(below(rows.size()));
+        }
+        const std::size_t from = below(2) * below(3000);
+        const std::size_t end = from + below(4000);
+        const std::size_t oneOf = 1 + below(4);
+        std::vector<Single> left(expected.begin(), expected.begin() + static_cast<std::ptrdiff_t>(from));
+        std::size_t asked = from;
+        std::size_t firstUnasked = from;
+        for (std::size_t i = from; i < expected.size(); ++i) {
+            const bool goes = i < end && static_cast<std::size_t>(expected[i]) % oneOf == 0;
+            if (!goes)
+                left.push_back(expected[i]);
+            firstUnasked += i < end && !goes ? 1 : 0;
+        }
+        const std::size_t next = rows.sweep(from, [&](const RowRecord& row) {
+            using enum RowArray::Verdict;
+            EXPECT_EQ(row.Height, expected[asked]);
+            if (asked++ == end)
+                return leave;
+            return static_cast<std::size_t>(row.Height) % oneOf == 0 ? go : stay;
+        });
+        EXPECT_EQ(next, firstUnasked);
+        expected = left;
+        check();
+        append();
+        check();
+        if (HasFatalFailure())
+            return;
+    }
+}
+
 TEST_F(Rows, GoAllAndComeAgain) {
     for (const std::size_t count : {0U, 3U, 2500U, 40U}) {
         while (rows.size() < count)
