@@ -26,8 +26,8 @@ class Sampler {
         const std::string amount = std::to_string(between(0, 99999)) + "." + twoDigits(between(0, 99));
         const std::string date = std::to_string(between(1990, 2026)) + "-" + twoDigits(between(1, 12)) + "-" +
                                  twoDigits(between(1, 28));
-        columns[0].push_back(isLong_ ? word(between(40, 200)) : word(between(8, 20)));
         columns[1].push_back(cities_[static_cast<std::size_t>(between(0, 199))]);
+        columns[0].push_back(isLong_ ? word(between(40, 200)) : word(between(8, 20)));
         columns[2].push_back(amount);
         columns[3].push_back(date);
     }
