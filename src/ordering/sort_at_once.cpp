@@ -4,7 +4,15 @@
 #include "ordering/quick_sort.h"
 #include "ordering/text_rows.h"
 
+#include <algorithm>
+
 namespace lumtex::ordering {
+
+bool holdsMoreThanBlanks(const CompactText& text) {
+    return text.visit([](auto units) {
+        return std::any_of(units.begin(), units.end(), [](char16_t unit) { return unit != u' '; });
+    });
+}
 
 namespace {
 
@@ -18,8 +26,9 @@ const CompactText* textOf(const RowRecord& row, std::size_t cell) {
 /// Hands `take` the text of each row, null where a row is too short, until it answers False. Rows lie
 /// anywhere in memory, so each is fetched some rows before its turn, and a text outside its cell a few rows
 /// later.
+/// `anyText` tells whether one of them holds more than blanks.
 template <class Take>
-bool forEachText(const RowArray& rows, std::size_t cell, Take take) {
+bool forEachText(const RowArray& rows, std::size_t cell, bool& anyText, Take take) {
     constexpr std::size_t rowAhead = 24;
     constexpr std::size_t textAhead = 12;
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -28,7 +37,9 @@ bool forEachText(const RowArray& rows, std::size_t cell, Take take) {
             if (const CompactText* const text = textOf(rows[i + textAhead], cell))
                 text->prefetch();
         }
-        if (!take(textOf(rows[i], cell)))
+        const CompactText* const text = textOf(rows[i], cell);
+        anyText = anyText || (text != nullptr && holdsMoreThanBlanks(*text));
+        if (!take(text))
             return false;
     }
     return true;
@@ -41,14 +52,17 @@ template <class Unit, bool descending>
 Reading orderOfUnits(const RowArray& rows, std::size_t cell, bool silent, Order& order) {
     TextRows<Unit, descending> keys(rows.size());
     Reading reading = Reading::whole;
-    forEachText(rows, cell, [&](const CompactText* text) {
+    bool anyText = false;
+    forEachText(rows, cell, anyText, [&](const CompactText* text) {
         if (text == nullptr && !silent)
             reading = Reading::reports;
         else if (!keys.add(text))
             reading = Reading::tooWide;
         return reading == Reading::whole;
     });
-    if (reading == Reading::whole) {
+    if (reading == Reading::whole && !anyText) {
+        order.emplace();
+    } else if (reading == Reading::whole) {
         quickSort(keys, 0, static_cast<Long>(rows.size()) - 1);
         order = keys.order();
     }
@@ -67,13 +81,16 @@ template <bool descending>
 Order orderOfNumbers(const RowArray& rows, std::size_t cell, cSortType type, bool silent) {
     NumberRows<descending> keys(rows.size(), type);
     NumberReader reader(type);
-    const bool whole = forEachText(rows, cell, [&](const CompactText* text) {
+    bool anyText = false;
+    const bool whole = forEachText(rows, cell, anyText, [&](const CompactText* text) {
         const Double key = text != nullptr ? reader.read(*text) : unreadable;
         keys.add(key);
         return key == key || silent;
     });
     if (!whole)
         return std::nullopt;
+    if (!anyText)
+        return Order(std::in_place);
     keys.letKeysAreTheirPivots(reader.readsBackItsKeys());
     quickSort(keys, 0, static_cast<Long>(rows.size()) - 1);
     if (keys.wouldReport() && !silent)

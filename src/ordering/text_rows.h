@@ -47,7 +47,8 @@ class TextRows {
 
     explicit TextRows(std::size_t count) {
         keys_.reserve(count);
-        texts_.reserve(count);
+        texts_.reserve(count + 1);
+        texts_.push_back({});
     }
     /// Null stands for the empty text. False, with nothing done, for a text that does not fit the unit.
     bool add(const CompactText* text) {
@@ -58,13 +59,16 @@ class TextRows {
             text->visit([&](auto units) {
                 Unit* const begin = store_.take(units.size());
                 std::transform(units.begin(), units.end(), begin, [](auto unit) {
-                    return static_cast<Unit>(lowerCase(unit));
+                    if constexpr (sizeof unit == 1)
+                        return static_cast<Unit>(lowerCaseOfByte(unit));
+                    else
+                        return static_cast<Unit>(lowerCase(unit));
                 });
                 lowered = {begin, static_cast<std::uint32_t>(units.size())};
             });
         }
-        keys_.push_back({headOf(lowered), static_cast<std::uint32_t>(keys_.size())});
-        texts_.push_back(lowered);
+        const std::uint64_t head = headOf(lowered);
+        keys_.push_back({head, static_cast<std::uint32_t>(keys_.size()), known(head, lowered)});
         return true;
     }
 
@@ -93,7 +97,16 @@ class TextRows {
     struct Key {
         std::uint64_t head; ///< the first units, the first of them highest, padded with zeros
         std::uint32_t row;
+        std::uint32_t text; ///< which of `texts_`
     };
+    /// A text that came lately, by its first and last units.
+    struct Known {
+        std::uint64_t head = 0;
+        std::uint64_t tail = 0;
+        std::uint32_t text = 0;
+    };
+    static constexpr unsigned bitsOfPlace = 12;
+
     const Key& at(Long index) const { return keys_[static_cast<std::size_t>(index)]; }
     Key& at(Long index) { return keys_[static_cast<std::size_t>(index)]; }
 
@@ -103,12 +116,29 @@ class TextRows {
             head = (head << bitsOfUnit) | (i < text.length ? text.begin[i] : std::uint64_t{0});
         return head;
     }
+    /// Where the text lies in `texts_`; one that came lately has its place already. So most comparisons of
+    /// equal texts, and each of a row with itself, need no look at them.
+    std::uint32_t known(std::uint64_t head, const Text& text) {
+        const std::uint64_t tail = text.length > unitsInHead
+                                       ? headOf({text.begin + text.length - unitsInHead, unitsInHead})
+                                       : text.length;
+        const std::uint64_t mixed = (head ^ (tail * 0x9E3779B97F4A7C15U)) * 0xC2B2AE3D27D4EB4FU;
+        Known& slot = known_[mixed >> (64U - bitsOfPlace)];
+        if (slot.head != head || slot.tail != tail || !same(texts_[slot.text], text)) {
+            slot = {head, tail, static_cast<std::uint32_t>(texts_.size())};
+            texts_.push_back(text);
+        }
+        return slot.text;
+    }
+    static bool same(const Text& a, const Text& b) {
+        return a.length == b.length && std::equal(a.begin, a.begin + a.length, b.begin);
+    }
     bool less(const Key& a, const Key& b) const {
-        return a.head != b.head ? a.head < b.head : lessBehindHead(a, b);
+        return a.head != b.head ? a.head < b.head : a.text != b.text && lessBehindHead(a, b);
     }
     bool lessBehindHead(const Key& keyA, const Key& keyB) const {
-        const Text& a = texts_[keyA.row];
-        const Text& b = texts_[keyB.row];
+        const Text& a = texts_[keyA.text];
+        const Text& b = texts_[keyB.text];
         // Where one text ends within the head, the other goes on with zeros alone, if at all.
         if (std::min(a.length, b.length) <= unitsInHead)
             return a.length < b.length;
@@ -117,7 +147,9 @@ class TextRows {
     }
 
     std::vector<Key> keys_;
-    std::vector<Text> texts_; ///< by row
+    std::vector<Text> texts_; ///< the empty one first
+    std::vector<Known> known_ =
+        std::vector<Known>(std::size_t{1} << bitsOfPlace); ///< by what heads and tails mix to
     UnitStore<Unit> store_;
     Key pivot_{};
 };

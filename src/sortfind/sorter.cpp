@@ -11,17 +11,6 @@
 
 namespace lumtex {
 
-namespace {
-
-/// Whether anything is left of a text whose outer blanks are cut.
-bool holdsMoreThanBlanks(const CompactText& text) {
-    return text.visit([](auto units) {
-        return std::any_of(units.begin(), units.end(), [](char16_t unit) { return unit != u' '; });
-    });
-}
-
-} // namespace
-
 void Sorter::Sort(Long Column, cSortMode SortMode, cSortType SortType) {
     if (records_.ColumnsCount() == 0 || records_.RowsCount() == 0 || Column > records_.ColumnsCount())
         return;
@@ -33,9 +22,14 @@ void Sorter::Sort(Long Column, cSortMode SortMode, cSortType SortType) {
         core_.CheckForRedraw();
         return;
     }
-    state_.hasSortableText = anyTextInColumn(Column);
-    if (state_.hasSortableText && (SortMode == cAscending || SortMode == cDescending)) {
-        quickSort(Column, SortType, SortMode);
+    const bool inOrder = SortMode == cAscending || SortMode == cDescending;
+    // At once, the rows are looked at one time, else twice: so each cell that cannot be read is reported.
+    if (!inOrder || !sortAtOnce(Column, SortType, SortMode)) {
+        state_.hasSortableText = anyTextInColumn(Column);
+        if (state_.hasSortableText && inOrder)
+            quickSort(Column, SortType, SortMode);
+    }
+    if (state_.hasSortableText && inOrder) {
         state_.sortAscending = SortMode == cAscending ? 1 : 0;
         state_.sortColumn = Column - 1;
     }
@@ -67,7 +61,7 @@ bool Sorter::anyTextInColumn(Long Column) {
                                      static_cast<std::size_t>(Column) - 1);
         Items* const cells = row <= records_.RowsCount() ? records_.cellsOf(row, Column) : nullptr;
         if (cells != nullptr)
-            any = holdsMoreThanBlanks((*cells)[static_cast<std::size_t>(Column) - 1].text()) || any;
+            any = ordering::holdsMoreThanBlanks((*cells)[static_cast<std::size_t>(Column) - 1].text()) || any;
         else
             list_.ItemText(row, Column);
     }
@@ -75,7 +69,7 @@ bool Sorter::anyTextInColumn(Long Column) {
 }
 
 void Sorter::quickSort(Long Column, cSortType SortType, cSortMode order) {
-    // Wanted: ListIndex, NewIndex, the top row and the anchors of the selection keep their numbers.
+    // A report may have let the host mend what was reported.
     if (sortAtOnce(Column, SortType, order))
         return;
     Procedure p = procedure(order == cDescending ? u"QuickSortDesc" : u"QuickSortAsc");
@@ -96,7 +90,10 @@ bool Sorter::sortAtOnce(Long Column, cSortType SortType, cSortMode order) {
         const auto sources = ordering::orderAtOnce(records_.rows(), cell, SortType, order, silentError());
         if (!sources)
             return;
-        records_.rows().reorder(*sources);
+        // Wanted: ListIndex, NewIndex, the top row and the anchors of the selection keep their numbers.
+        if (!sources->empty())
+            records_.rows().reorder(*sources);
+        state_.hasSortableText = !sources->empty();
         sorted = true;
     });
     return sorted;

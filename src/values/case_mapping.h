@@ -26,6 +26,13 @@ struct CaseMapping {
 /// Unicode's simple lower-case mapping (UnicodeData.txt of version 14). A unit below 256 stays below 256.
 extern const CaseMapping lowerCase;
 
+/// The same of a unit below 256, reckoned and not looked up, so that the compiler does a whole run at a time.
+constexpr unsigned char lowerCaseOfByte(unsigned char unit) {
+    const bool isAscii = unit >= u'A' && unit <= u'Z';
+    const bool isLatin = unit >= 0xC0 && unit <= 0xDE && unit != 0xD7;
+    return static_cast<unsigned char>(unit + (isAscii || isLatin ? 0x20 : 0));
+}
+
 /// Unicode's simple case folding (statuses C and S of CaseFolding.txt, version 14): units that differ in case
 /// alone map to the same one.
 extern const CaseMapping foldCase;

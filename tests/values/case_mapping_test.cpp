@@ -54,6 +54,8 @@ TEST(CaseMapping, MapsAsManyUnitsAsTheStandardLists) {
         EXPECT_EQ(lowerCase(lowerCase(from)), lowerCase(from)) << unit;
         EXPECT_EQ(foldCase(foldCase(from)), foldCase(from)) << unit;
         EXPECT_TRUE(unit > 255 || lowerCase(from) < 256) << unit;
+        EXPECT_TRUE(unit > 255 || lowerCase(from) == lowerCaseOfByte(static_cast<unsigned char>(unit)))
+            << unit;
     }
     EXPECT_EQ(lowered, 1173);
     EXPECT_EQ(folded, 1194);
