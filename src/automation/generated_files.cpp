@@ -11,6 +11,7 @@ std::vector<GeneratedFile> generatedFiles() {
         {"src/activex/error_entries.inc", dualEntries(errorClass())},
         {"src/activex/LumtexListView.manifest", sideBySideManifest()},
         {"include/LumtexListView.h", hostHeader()},
+        {"include/LumtexListView.hpp", hostWrapper()},
         {"src/qt/lumtex_list_view.h", qtWidgetHeader()},
         {"src/qt/lumtex_list_view.cpp", qtWidgetSource()},
         {"src/designer/property_groups.inc", propertyGroups()},

@@ -14,7 +14,7 @@ struct GeneratedFile {
     std::string text;
 };
 
-/// The type library's source, the tables of functions, the manifest, the header for hosts in C++, the
+/// The type library's source, the tables of functions, the manifest, the headers for hosts in C++, the
 /// widget for those that use Qt, and what their designer shows.
 std::vector<GeneratedFile> generatedFiles();
 
@@ -26,6 +26,11 @@ std::string dualEntries(const ClassDescription& description);
 /// Enumerations, the record, the interfaces with each entry and its help, and the numbers of the events, in a
 /// namespace of their own. It stands on the system's headers alone.
 std::string hostHeader();
+
+/// The classes over that header for hosts who would rather have the language's own texts, defaults and
+/// exceptions: one for each public class, one with a function for each event, and what connects the two.
+/// Values and conversions stand in include/LumtexListViewValues.hpp, which is written by hand.
+std::string hostWrapper();
 
 /// The text of LumtexListView.manifest, which lies beside the component: classes with their program
 /// identifiers, the type library, and how calls to its interfaces travel between threads. A program names the

@@ -1,6 +1,7 @@
 /// Types, order and signatures of a table of functions.
 #include "automation/interface_types.h"
 
+#include "automation/enumeration_table.h"
 #include "values/text.h"
 
 namespace lumtex::automation {
@@ -56,9 +57,21 @@ std::string interfaceType(const TypeInfo& type) {
     return toUtf8(type.name);
 }
 
+std::string enumeratorText(const TypeInfo& type, Double number, std::string_view otherwise) {
+    for (const Enumeration& enumeration : enumerationTable)
+        for (const Enumerator& enumerator : enumeration.enumerators())
+            if (enumeration.name == type.name && static_cast<Double>(enumerator.number) == number)
+                return toUtf8(enumerator.name);
+    return std::string(otherwise);
+}
+
 bool givesResult(const InterfaceEntry& entry) {
     using enum InterfaceEntry::Kind;
     return entry.kind == get || (entry.kind == call && entry.member->type.code != TypeCode::none);
+}
+
+std::string entryName(const InterfaceEntry& entry) {
+    return prefixOf(entry.kind) + toUtf8(entry.member->name);
 }
 
 std::string entrySignature(const InterfaceEntry& entry, std::string (*typeText)(const TypeInfo&)) {
@@ -73,8 +86,7 @@ std::string entrySignature(const InterfaceEntry& entry, std::string (*typeText)(
         add(typeText(member.type) + "*", "result");
     else if (entry.kind != InterfaceEntry::Kind::call)
         add(typeText(member.type), "value");
-    return "virtual HRESULT STDMETHODCALLTYPE " + (prefixOf(entry.kind) + toUtf8(member.name)) + "(" +
-           parameters + ")";
+    return "virtual HRESULT STDMETHODCALLTYPE " + entryName(entry) + "(" + parameters + ")";
 }
 
 std::vector<InterfaceEntry> interfaceEntries(std::span<const Member> members) {

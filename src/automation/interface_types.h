@@ -5,12 +5,16 @@
 #include "automation/member.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lumtex::automation {
 
 /// The type of a value, "VARIANT_BOOL".
 std::string interfaceType(const TypeInfo& type);
+
+/// The name of an enumerator; `otherwise` for a number that the enumeration has not.
+std::string enumeratorText(const TypeInfo& type, Double number, std::string_view otherwise);
 
 /// One entry of a table of functions.
 struct InterfaceEntry {
@@ -22,6 +26,9 @@ struct InterfaceEntry {
 
 /// Whether the entry gives a value through its last parameter.
 bool givesResult(const InterfaceEntry& entry);
+
+/// "get_X", or the name alone for a method.
+std::string entryName(const InterfaceEntry& entry);
 
 /// The entry as a virtual function of C++, without its body: "virtual HRESULT STDMETHODCALLTYPE get_X(long*
 /// result)". `typeText` writes the types.

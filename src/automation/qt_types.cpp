@@ -1,6 +1,6 @@
 #include "automation/qt_types.h"
 
-#include "automation/enumeration_table.h"
+#include "automation/interface_types.h"
 #include "values/text.h"
 
 namespace lumtex::automation {
@@ -22,14 +22,6 @@ bool isSmall(const TypeInfo& type) {
     }
 }
 
-std::string enumeratorOf(const TypeInfo& type, Double number) {
-    for (const Enumeration& enumeration : enumerationTable)
-        for (const Enumerator& enumerator : enumeration.enumerators())
-            if (enumeration.name == type.name && static_cast<Double>(enumerator.number) == number)
-                return toUtf8(enumerator.name);
-    return "{}";
-}
-
 /// " = 5", or nothing for a parameter that callers must give.
 std::string defaultText(const Parameter& parameter) {
     const DefaultValue& value = parameter.defaultValue;
@@ -40,7 +32,7 @@ std::string defaultText(const Parameter& parameter) {
         return value.number != 0 ? " = true" : " = false";
     case DefaultValue::Kind::number:
         if (parameter.type.code == TypeCode::enumeration)
-            return " = " + enumeratorOf(parameter.type, value.number);
+            return " = " + enumeratorText(parameter.type, value.number, "{}");
         if (parameter.type.code == TypeCode::color)
             return " = QColor(0, 0, 0)";
         return " = " + std::to_string(static_cast<Long>(value.number));
