@@ -77,6 +77,7 @@ target_sources(
 enable_language(RC)
 lumtex_tests(scripts LINK lumtex_automation lumtex_win32)
 target_sources(lumtex_test_scripts PRIVATE scripts/scripts.rc)
+target_include_directories(lumtex_test_scripts PRIVATE "${PROJECT_SOURCE_DIR}/include")
 set_source_files_properties(scripts/scripts.rc PROPERTIES OBJECT_DEPENDS
                                                           "${CMAKE_CURRENT_SOURCE_DIR}/scripts/scripts.manifest")
 add_dependencies(lumtex_test_scripts LumtexListView)

@@ -1,6 +1,11 @@
 // Fills a list, sorts it in two ways, and looks something up.
 //
 //   cscript //nologo cities.js
+
+// A report waits in a box until somebody closes it, and nobody sees a box of a script that runs by itself: one wrong index
+// would stop it for ever. While you write a script, leave this out: the box names what went wrong.
+new ActiveXObject("LumtexListView.Error").SilentError = true;
+
 var cAscending = 1, cDescending = 2;
 var cSortText = 0, cSortNumeric = 1;
 var cFindStart = 0, cFindText = 1;

@@ -1,6 +1,11 @@
 // Reads a table from a text file into a list: the first line names the columns, the others are rows.
 //
 //   cscript //nologo rivers.js [FILE]
+
+// A report waits in a box until somebody closes it, and nobody sees a box of a script that runs by itself: one wrong index
+// would stop it for ever. While you write a script, leave this out: the box names what went wrong.
+new ActiveXObject("LumtexListView.Error").SilentError = true;
+
 var cDescending = 2, cSortNumeric = 1;
 var separator = ";";
 

@@ -1,6 +1,11 @@
 // Marks what runs short, saves the list with all its looks, loads it again, and exports the marked rows as text.
 //
 //   cscript //nologo stock.js [FOLDER]
+
+// A report waits in a box until somebody closes it, and nobody sees a box of a script that runs by itself: one wrong index
+// would stop it for ever. While you write a script, leave this out: the box names what went wrong.
+new ActiveXObject("LumtexListView.Error").SilentError = true;
+
 var lowestStock = 10;
 var temporaryFolder = 2;
 
@@ -22,13 +27,20 @@ for (var row = 1; row <= list.RowsCount; ++row)
 WScript.Echo(list.ItemsCheckedCount(1) + " of " + list.RowsCount + " articles run short.");
 
 // The content file keeps texts, colours, fonts, tags and icons.
-if (!list.ContentSave(folder + "\\stock.lst", true))
-    WScript.Quit(1);
-var copy = newList();
-if (!copy.ContentInput(folder + "\\stock.lst", true))
-    WScript.Quit(1);
-
+// ContentSave says true whatever happened, and ContentInput wherever there is a file: look at what came of them.
+list.ContentSave(folder + "\\stock.lst", true);
 var helper = new ActiveXObject("LumtexListView.SpEv");
+if (!helper.FileExists(folder + "\\stock.lst")) {
+    WScript.Echo("Nothing can be written to " + folder);
+    WScript.Quit(1);
+}
+var copy = newList();
+copy.ContentInput(folder + "\\stock.lst", true);
+if (copy.RowsCount != list.RowsCount) {
+    WScript.Echo("The list came back with " + copy.RowsCount + " rows.");
+    WScript.Quit(1);
+}
+
 helper.TextSave(folder + "\\order.txt", orderFrom(copy));
 WScript.Echo(helper.TextRead(folder + "\\order.txt"));
 

@@ -3,6 +3,10 @@
 '   cscript //nologo cities.vbs
 Option Explicit
 
+' A report waits in a box until somebody closes it, and nobody sees a box of a script that runs by itself: one wrong index
+' would stop it for ever. While you write a script, leave this out: the box names what went wrong.
+CreateObject("LumtexListView.Error").SilentError = True
+
 Const cAscending = 1, cDescending = 2
 Const cSortText = 0, cSortNumeric = 1
 Const cFindStart = 0, cFindText = 1

@@ -3,6 +3,10 @@
 '   cscript //nologo stock.vbs [FOLDER]
 Option Explicit
 
+' A report waits in a box until somebody closes it, and nobody sees a box of a script that runs by itself: one wrong index
+' would stop it for ever. While you write a script, leave this out: the box names what went wrong.
+CreateObject("LumtexListView.Error").SilentError = True
+
 Const lowestStock = 10
 Const temporaryFolder = 2
 
@@ -25,11 +29,20 @@ Next
 WScript.Echo list.ItemsCheckedCount(1) & " of " & list.RowsCount & " articles run short."
 
 ' The content file keeps texts, colours, fonts, tags and icons.
-If Not list.ContentSave(folder & "\stock.lst", True) Then WScript.Quit 1
-Set copy = NewList
-If Not copy.ContentInput(folder & "\stock.lst", True) Then WScript.Quit 1
-
+' ContentSave says True whatever happened, and ContentInput wherever there is a file: look at what came of them.
+list.ContentSave folder & "\stock.lst", True
 Set helper = CreateObject("LumtexListView.SpEv")
+If Not helper.FileExists(folder & "\stock.lst") Then
+    WScript.Echo "Nothing can be written to " & folder
+    WScript.Quit 1
+End If
+Set copy = NewList
+copy.ContentInput folder & "\stock.lst", True
+If copy.RowsCount <> list.RowsCount Then
+    WScript.Echo "The list came back with " & copy.RowsCount & " rows."
+    WScript.Quit 1
+End If
+
 helper.TextSave folder & "\order.txt", OrderFrom(copy)
 WScript.Echo helper.TextRead(folder & "\order.txt")
 

@@ -1,4 +1,5 @@
-/// The form among the samples names what the control has, as the control has it.
+/// The forms and handlers among the samples name what the control has, as the control has it. Their hosts run
+/// on Windows alone.
 #include "automation/enumeration_table.h"
 #include "automation/event_table.h"
 #include "automation/identifiers.h"
@@ -18,8 +19,7 @@ namespace lumtex::testing {
 namespace {
 
 std::string contentOf(const char* name) {
-    std::ifstream file(std::filesystem::path(sourceFolder()) / "samples" / "visual-basic" / name,
-                       std::ios::binary);
+    std::ifstream file(std::filesystem::path(sourceFolder()) / "samples" / name, std::ios::binary);
     std::ostringstream text;
     text << file.rdbuf();
     return std::regex_replace(text.str(), std::regex("\r\n"), "\n");
@@ -50,23 +50,63 @@ std::string parameterText(const automation::EventDescription& event) {
     return text;
 }
 
+const automation::EventDescription* eventNamed(const std::string& name) {
+    for (const automation::EventDescription& event : automation::eventTable)
+        if (toUtf8(event.name) == name)
+            return &event;
+    return nullptr;
+}
+
+/// The same without types, as in scripts.
+std::string namesText(const automation::EventDescription& event) {
+    std::string text;
+    for (const automation::EventArgument& argument : event.arguments())
+        text += (text.empty() ? "" : ", ") + toUtf8(argument.name);
+    return text;
+}
+
+std::string inCapitals(std::string_view text) {
+    std::string capitals(text);
+    std::transform(capitals.begin(), capitals.end(), capitals.begin(), [](char c) {
+        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    });
+    return capitals;
+}
+
+constexpr const char* forms[] = {"visual-basic/CitiesForm.frm", "office/CitiesForm.txt"};
+constexpr const char* page = "hta/cities.hta";
+
 TEST(FormSample, CallsMembersThatTheListHas) {
-    const auto calls = allOf(contentOf("CitiesForm.frm"), R"(Cities\.(\w+))");
-    ASSERT_GT(calls.size(), 10U);
-    for (const auto& call : calls)
-        EXPECT_NE(memberNamed(call[1]), nullptr) << call[1];
+    for (const char* form : {forms[0], forms[1], page}) {
+        const auto calls = allOf(contentOf(form), R"(\b[Cc]ities\.(?!lst)(\w+))");
+        ASSERT_GT(calls.size(), 10U) << form;
+        for (const auto& call : calls)
+            EXPECT_NE(memberNamed(call[1]), nullptr) << form << ": " << call[1];
+    }
 }
 
 TEST(FormSample, HandlesEventsWithTheirOwnArguments) {
-    const auto handlers = allOf(contentOf("CitiesForm.frm"), R"(Private Sub Cities_(\w+)\((.*)\))");
-    ASSERT_GE(handlers.size(), 4U);
-    for (const auto& handler : handlers) {
-        const auto event =
-            std::find_if(automation::eventTable.begin(),
-                         automation::eventTable.end(),
-                         [&](const auto& candidate) { return toUtf8(candidate.name) == handler[1]; });
-        ASSERT_NE(event, automation::eventTable.end()) << handler[1];
-        EXPECT_EQ(handler[2], parameterText(*event)) << handler[1];
+    for (const char* form : forms) {
+        const auto handlers = allOf(contentOf(form), R"(Private Sub Cities_(\w+)\((.*)\))");
+        ASSERT_GE(handlers.size(), 3U) << form;
+        for (const auto& handler : handlers) {
+            const automation::EventDescription* event = eventNamed(handler[1]);
+            ASSERT_NE(event, nullptr) << form << ": " << handler[1];
+            EXPECT_EQ(handler[2], parameterText(*event)) << form << ": " << handler[1];
+        }
+    }
+}
+
+TEST(FormSample, HandlesEventsInScriptsByTheirNames) {
+    for (const char* script : {page, "vbscript/events.vbs", "jscript/events.js"}) {
+        const auto handlers =
+            allOf(contentOf(script), R"((?:Sub|function) (?:cities|list)_(\w+)(?:\((.*)\))?)");
+        ASSERT_GE(handlers.size(), 3U) << script;
+        for (const auto& handler : handlers) {
+            const automation::EventDescription* event = eventNamed(handler[1]);
+            ASSERT_NE(event, nullptr) << script << ": " << handler[1];
+            EXPECT_EQ(handler[2], namesText(*event)) << script << ": " << handler[1];
+        }
     }
 }
 
@@ -75,14 +115,16 @@ TEST(FormSample, UsesEnumeratorsThatExist) {
     for (const automation::Enumeration& enumeration : automation::enumerationTable)
         for (const automation::Enumerator& enumerator : enumeration.enumerators())
             known.insert(toUtf8(enumerator.name));
-    const auto used = allOf(contentOf("CitiesForm.frm"), R"(\b(c[A-Z]\w+)\b)");
-    ASSERT_GT(used.size(), 5U);
-    for (const auto& enumerator : used)
-        EXPECT_TRUE(known.contains(enumerator[1])) << enumerator[1];
+    for (const char* form : {forms[0], forms[1], page}) {
+        const auto used = allOf(contentOf(form), R"(\b(c[A-Z][a-z]\w+)\b)");
+        ASSERT_GT(used.size(), 5U) << form;
+        for (const auto& enumerator : used)
+            EXPECT_TRUE(known.contains(enumerator[1])) << form << ": " << enumerator[1];
+    }
 }
 
 TEST(FormSample, SetsPropertiesThatTheListKeeps) {
-    const std::string form = contentOf("CitiesForm.frm");
+    const std::string form = contentOf(forms[0]);
     const std::size_t from = form.find("Begin LumtexListView.lmListView Cities");
     ASSERT_NE(from, std::string::npos);
     // What the container keeps for every control.
@@ -100,14 +142,16 @@ TEST(FormSample, SetsPropertiesThatTheListKeeps) {
 }
 
 TEST(FormSample, RefersToTheLibraryByItsIdentifier) {
-    std::string library(automation::uuidOf("LumtexListView"));
-    std::transform(library.begin(), library.end(), library.begin(), [](char c) {
-        return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    });
-    const std::string reference = "{" + library + "}#" + std::to_string(automation::typeLibraryMajor) + "." +
+    const std::string reference = "{" + inCapitals(automation::uuidOf("LumtexListView")) + "}#" +
+                                  std::to_string(automation::typeLibraryMajor) + "." +
                                   std::to_string(automation::typeLibraryMinor) + "#0";
-    for (const char* file : {"CitiesForm.frm", "Cities.vbp"})
+    for (const char* file : {forms[0], "visual-basic/Cities.vbp"})
         EXPECT_NE(contentOf(file).find(reference), std::string::npos) << file;
+}
+
+TEST(FormSample, NamesTheClassInAPageByItsIdentifier) {
+    EXPECT_NE(contentOf(page).find("clsid:" + inCapitals(automation::uuidOf("lmListView"))),
+              std::string::npos);
 }
 
 } // namespace

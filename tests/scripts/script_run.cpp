@@ -1,6 +1,7 @@
 /// Script files in a host of ours.
 #include "scripts/script_run.h"
 
+#include "LumtexListView.hpp"
 #include "scripts/script_console.h"
 #include "scripts/script_user.h"
 #include "values/text.h"
@@ -65,6 +66,8 @@ ScriptOutcome runScript(const std::filesystem::path& script, const std::vector<S
     outcome.boxes = std::exchange(watch.boxes, {});
     console->disconnect();
     user->close();
+    // A script may silence its process, and this one goes on.
+    LumtexListView::Error::make().letSilentError(false);
     return outcome;
 }
 
