@@ -125,13 +125,15 @@ class Value {
         value_.vt = VT_BOOL;
         value_.boolVal = from ? VARIANT_TRUE : VARIANT_FALSE;
     }
-    Value(long from) : Value() {
+    /// Any whole number, as a Long: no list has more rows. A colour keeps its bits.
+    template <
+        class From,
+        std::enable_if_t<(std::is_integral_v<From> && !std::is_same_v<From, bool>) || std::is_enum_v<From>,
+                         long> = 0>
+    Value(From from) : Value() {
         value_.vt = VT_I4;
-        value_.lVal = from;
+        value_.lVal = static_cast<long>(from);
     }
-    Value(int from) : Value(static_cast<long>(from)) {}
-    /// A colour keeps its bits.
-    Value(unsigned long from) : Value(static_cast<long>(from)) {}
     Value(double from) : Value() {
         value_.vt = VT_R8;
         value_.dblVal = from;

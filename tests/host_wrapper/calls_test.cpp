@@ -118,6 +118,16 @@ TEST_F(HostWrapper, KeepsValuesOfEveryKind) {
     EXPECT_EQ(list.ItemBackColor(2, 1).toLong(), 0x030201);
 }
 
+TEST_F(HostWrapper, CountsRowsByWholeNumbersOfAnyType) {
+    fill();
+    for (const Value& row : {Value(2), Value(2L), Value(short{2}), Value(std::size_t{2}), Value(2U)}) {
+        EXPECT_EQ(row.type(), VT_I4);
+        EXPECT_EQ(list.ItemText(row, 1), L"Bern");
+    }
+    EXPECT_EQ(Value(LumtexListView::cDescending).toLong(), 2);
+    EXPECT_EQ(Value(0x80000005UL).toLong(), static_cast<long>(0x80000005UL)) << "a colour of the system's";
+}
+
 TEST_F(HostWrapper, KeepsObjectsWithTheirOwnReferences) {
     fill();
     FONTDESC description{};
