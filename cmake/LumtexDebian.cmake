@@ -79,7 +79,8 @@ set(CPACK_COMPONENT_DESIGNER_DESCRIPTION
     "A plugin that shows the widget LumtexListView in the form editor of Qt 6, with
 its properties under headings, and that makes it for programs that load forms.")
 
-# lumtex_debian_documents(<package> <component>): what a Debian package says of itself.
+# lumtex_debian_documents(<package> <component> [PARTS...]): what a Debian package says of itself. PARTS are packages whose
+# code is compiled into its libraries. What a shared library has of the compiler's own, that one's exception leaves free.
 function(lumtex_debian_documents package component)
     set(changes "${PROJECT_BINARY_DIR}/package/${package}.changes")
     configure_file("${PROJECT_SOURCE_DIR}/packaging/debian-changelog.in" "${changes}" @ONLY)
@@ -87,10 +88,25 @@ function(lumtex_debian_documents package component)
     execute_process(COMMAND gzip -9nc "${changes}" OUTPUT_FILE "${changes}.gz" COMMAND_ERROR_IS_FATAL ANY)
     install(FILES "${changes}.gz" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${package}" RENAME changelog.Debian.gz
             COMPONENT ${component})
-    install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${package}" RENAME copyright
+    file(READ "${PROJECT_SOURCE_DIR}/LICENSE" copyright)
+    foreach(part IN LISTS ARGN)
+        # Other systems install, too, and pack nothing.
+        if(NOT EXISTS "/usr/share/doc/${part}/copyright")
+            continue()
+        endif()
+        file(READ "/usr/share/doc/${part}/copyright" notice)
+        string(APPEND copyright "\nThe libraries of this package have code of ${part} in them, whose notice is:\n\n${notice}")
+    endforeach()
+    set(copyright_file "${PROJECT_BINARY_DIR}/package/${package}.copyright")
+    file(WRITE "${copyright_file}" "${copyright}")
+    install(FILES "${copyright_file}" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${package}" RENAME copyright
             COMPONENT ${component})
 endfunction()
-lumtex_debian_documents(liblumtexlistview-dev Development)
+set(compiled_in "")
+if(LUMTEX_BUILD_JSON)
+    set(compiled_in nlohmann-json3-dev)
+endif()
+lumtex_debian_documents(liblumtexlistview-dev Development ${compiled_in})
 if(LUMTEX_BUILD_QT)
     lumtex_debian_documents(liblumtexlistview-qt6 Qt)
 endif()

@@ -7,12 +7,46 @@ from mkdocs.exceptions import PluginError
 
 LINK = re.compile(r"(?<!!)\[([^\]]*)\]\(([^)#\s]+)(#[^)\s]*)?\)")
 SCRIPT = re.compile(r'<script src="([^"]*?)js/([^"/]+\.js)"[^>]*></script>')
+IMAGE = re.compile(r"!\[[^\]]*\]\(([^)#\s]+)")
 TARGET = re.compile(r'(?:href|src)="([^"#?:]+)["#?]')
+
+
+def pages_in(nav):
+    """The paths of all pages below a piece of nav."""
+    if isinstance(nav, str):
+        return {nav}
+    parts = nav.values() if isinstance(nav, dict) else nav
+    return set().union(*(pages_in(part) for part in parts))
+
+
+def on_files(files, config):
+    """Where some folders alone are taken whole, other pages are those of nav, and other files what these show."""
+    folders = config["extra"].get("whole_folders")
+    if folders is None:
+        return files
+    wanted = pages_in(config["nav"])
+    own = [file for file in files if pathlib.Path(file.abs_src_path).is_relative_to(config["docs_dir"])]
+    pages = [
+        file
+        for file in own
+        if file.is_documentation_page()
+        and (file.src_uri in wanted or posixpath.dirname(file.src_uri) in folders)
+    ]
+    kept = {page.src_uri for page in pages}
+    for page in pages:
+        for image in IMAGE.findall(pathlib.Path(page.abs_src_path).read_text(encoding="utf-8")):
+            kept.add(posixpath.normpath(posixpath.join(posixpath.dirname(page.src_uri), image)))
+    for file in own:
+        if file.src_uri not in kept:
+            files.remove(file)
+    return files
 
 
 def on_page_markdown(markdown, page, config, files):
     """Links to files of the tree that are no pages become their text."""
     here = posixpath.dirname(page.file.src_uri)
+    if page.is_homepage and "index" in config["extra"]:
+        markdown = pathlib.Path(config["extra"]["index"]).read_text(encoding="utf-8")
 
     def kept(match):
         target = match.group(2)

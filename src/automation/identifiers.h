@@ -45,7 +45,9 @@ constexpr auto identifiers = std::to_array<Identifier>({
 /// The class of the control's page in sheets of properties, which is no class of the library.
 constexpr std::string_view generalPageUuid = "f77b79e6-2a83-47dd-ae2a-e08447b908a2";
 
-/// Version of the type library; a host that was built against one major version finds no other.
+/// Version of the type library; a host that was built against one major version finds no other. The first
+/// moves with the tables of functions, be it by a member more, the second with what nobody bound early
+/// notices. The assembly's version is made of it.
 constexpr int typeLibraryMajor = 1;
 constexpr int typeLibraryMinor = 0;
 
