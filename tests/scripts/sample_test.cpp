@@ -4,6 +4,7 @@
 #include "scripts/script_run.h"
 
 #include <algorithm>
+#include <array>
 
 namespace lumtex::testing {
 namespace {
@@ -37,8 +38,9 @@ std::string nameOf(const ::testing::TestParamInfo<fs::path>& info) {
 class Sample : public ::testing::TestWithParam<fs::path> {
   protected:
     Sample() {
-        // This one writes, and the temporary folder is everybody's.
-        if (GetParam().stem() == "stock")
+        // These write, and the temporary folder is everybody's.
+        constexpr std::array<std::string_view, 3> writers{"log", "stock", "tasks"};
+        if (std::ranges::find(writers, GetParam().stem().string()) != writers.end())
             arguments.push_back(fromUtf8(folder.path.string()));
     }
 
