@@ -2,6 +2,7 @@
 
 #include "worlds/common/nesting_level.h"
 
+#include <exception>
 #include <utility>
 
 namespace lumtex::worlds {
@@ -20,6 +21,26 @@ class Raised {
     bool& flag_;
 };
 
+/// Lets what comes behind a failure happen before the failure goes on: what waits would wait for ever.
+class FirstFailure {
+  public:
+    void catchOf(const std::function<void()>& work) {
+        try {
+            work();
+        } catch (...) {
+            if (!failure_)
+                failure_ = std::current_exception();
+        }
+    }
+    void pass() const {
+        if (failure_)
+            std::rethrow_exception(failure_);
+    }
+
+  private:
+    std::exception_ptr failure_;
+};
+
 } // namespace
 
 EarlyPresses::EarlyPresses(std::function<Noticed()> noticed, std::function<void()> tick)
@@ -35,12 +56,14 @@ void EarlyPresses::move(WindowHandle window, const std::function<void()>& tell) 
         held_.push_back(tell);
         return;
     }
+    FirstFailure failure;
     {
         const NestingLevel level(depth_);
-        tell();
+        failure.catchOf(tell);
     }
     if (depth_ == 0)
-        tellHeld();
+        failure.catchOf([this] { tellHeld(); });
+    failure.pass();
 }
 
 void EarlyPresses::press(WindowHandle window, bool isEarly, const std::function<void()>& tell) {
@@ -50,8 +73,9 @@ void EarlyPresses::press(WindowHandle window, bool isEarly, const std::function<
         return;
     }
     const Noticed noticed = noticed_();
+    const bool isNoticed = inMove ? noticed == Noticed::already : noticed != Noticed::soon;
     const bool isWaiting = telling_ || !held_.empty();
-    if (isWaiting || (!isEarly && (!inMove || noticed == Noticed::already))) {
+    if (isWaiting || (isNoticed && !isEarly)) {
         tell();
         return;
     }
@@ -72,12 +96,14 @@ void EarlyPresses::tellHeld() {
     if (telling_ || held_.empty())
         return;
     const Raised telling(telling_);
-    tick_();
+    FirstFailure failure;
+    failure.catchOf(tick_);
     while (!held_.empty()) {
         const std::function<void()> tell = std::move(held_.front());
         held_.pop_front();
-        tell();
+        failure.catchOf(tell);
     }
+    failure.pass();
 }
 
 } // namespace lumtex::worlds

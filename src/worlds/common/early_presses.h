@@ -1,5 +1,5 @@
 /// \file
-/// Presses that arrive together with the move that leads to them.
+/// Presses that arrive before anything has noticed the move that leads to them.
 #pragma once
 
 #include "platform/window.h"
@@ -11,9 +11,10 @@ namespace lumtex::worlds {
 
 /// A hand is slower than the timers by which controls notice the mouse: they tick between its move and its
 /// press, and its release comes when the press has been told. A touch or a pen that the system makes mouse
-/// events of, and programs that test or control others, send all of that at once. A press of these waits
-/// until its move has been told and those ticks have come, and what follows on the same window waits for the
-/// press. Everything else is told as it comes.
+/// events of, and programs that test or control others, send all of that at once; and what a hand did while
+/// the program was busy arrives at once, too, before any timer. Such a press waits until its move has been
+/// told and those ticks have come, and what follows on the same window waits for the press. Everything else
+/// is told as it comes.
 class EarlyPresses {
   public:
     /// Milliseconds that lie between a move and a press of any hand.
@@ -28,8 +29,8 @@ class EarlyPresses {
 
     /// Tells a move, and behind it what had to wait for that.
     void move(WindowHandle window, const std::function<void()>& tell);
-    /// Tells a press. `isEarly`: it came with its move, or of a touch or a pen. One that comes in a yield of
-    /// a move before anything has noticed the mouse does so too.
+    /// Tells a press. `isEarly`: it came with its move, or of a touch or a pen. One that comes before those
+    /// timers have ticked, or in a yield of a move before any of them runs, did so too.
     void press(WindowHandle window, bool isEarly, const std::function<void()>& tell);
     /// Tells whatever else the mouse does, in its turn.
     void other(WindowHandle window, const std::function<void()>& tell);

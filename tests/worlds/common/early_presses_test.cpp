@@ -35,6 +35,26 @@ TEST_F(EarlyPresses, AHandsPressIsToldAsItComes) {
     EXPECT_THAT(log, ElementsAre("move", "release", "press"));
 }
 
+TEST_F(EarlyPresses, AHandsPressInABusyProgramComesBehindTheTick) {
+    presses.move(list, says("move"));
+    noticed = Noticed::soon;
+    presses.press(list, false, [this] {
+        presses.other(list, says("release"));
+        log.emplace_back("press");
+    });
+    EXPECT_THAT(log, ElementsAre("move", "tick", "press", "release"));
+}
+
+TEST_F(EarlyPresses, AHandsPressThatHasBeenNoticedIsToldAsItComes) {
+    presses.move(list, says("move"));
+    noticed = Noticed::already;
+    presses.press(list, false, [this] {
+        presses.other(list, says("release"));
+        log.emplace_back("press");
+    });
+    EXPECT_THAT(log, ElementsAre("move", "release", "press"));
+}
+
 TEST_F(EarlyPresses, OneThatCameWithItsMoveComesBehindTheTick) {
     presses.move(list, says("move"));
     noticed = Noticed::soon;
@@ -105,6 +125,35 @@ TEST_F(EarlyPresses, AFailureEndsNoWait) {
     EXPECT_THROW(presses.press(list, true, [] { throw 1; }), int);
     presses.press(list, false, says("press"));
     EXPECT_THAT(log, ElementsAre("tick", "press"));
+}
+
+TEST_F(EarlyPresses, AFailureOfAPressLosesNothingBehindIt) {
+    EXPECT_THROW(presses.press(list,
+                               true,
+                               [this] {
+                                   presses.other(list, says("release"));
+                                   throw 1;
+                               }),
+                 int);
+    presses.press(list, false, says("press"));
+    EXPECT_THAT(log, ElementsAre("tick", "release", "press"));
+}
+
+TEST_F(EarlyPresses, AFailureOfAMoveLosesNoPress) {
+    EXPECT_THROW(presses.move(list,
+                              [this] {
+                                  presses.press(list, false, says("press"));
+                                  throw 1;
+                              }),
+                 int);
+    presses.move(list, says("move"));
+    EXPECT_THAT(log, ElementsAre("tick", "press", "move"));
+}
+
+TEST_F(EarlyPresses, AFailureOfATickLosesNoPress) {
+    worlds::EarlyPresses failing{[] { return Noticed::soon; }, [] { throw 1; }};
+    EXPECT_THROW(failing.press(list, false, says("press")), int);
+    EXPECT_THAT(log, ElementsAre("press"));
 }
 
 } // namespace

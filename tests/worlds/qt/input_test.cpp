@@ -36,6 +36,19 @@ TEST_F(QtInput, APressTakesTheFocusBeforeItIsTold) {
     EXPECT_EQ(control.heard, (Words{"focus", "down 5 7", "up", "click"}));
 }
 
+TEST_F(QtInput, ATimerThatLooksForTheMouseTicksBeforeAPress) {
+    hands.move({15, 27}, 0);
+    std::unique_ptr<Timer> looking;
+    looking = world.createTimer([&] {
+        control.heard.emplace_back("tick");
+        looking->letEnabled(false);
+    });
+    looking->letInterval(10);
+    looking->letEnabled(true);
+    hands.press(leftButton, 0);
+    EXPECT_EQ(control.heard, (Words{"tick", "focus", "down 5 7"}));
+}
+
 TEST_F(QtInput, AHandlerOfTheKeyThatYieldsLetsItsCharacterThrough) {
     window->setFocus();
     control.onKeyDown = [&] {

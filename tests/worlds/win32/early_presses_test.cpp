@@ -79,6 +79,15 @@ TEST_F(Win32EarlyPresses, OneThatIsSentWithItsMoveFindsItsCell) {
     mouse.release();
 }
 
+TEST_F(Win32EarlyPresses, AHandsPressFindsItsCellWhereTheProgramWasBusySinceItsMove) {
+    mouse.moveTo(listWindow(), 30, 55);
+    SendMessageW(target(), WM_MOUSEMOVE, 0, at);
+    SendMessageW(target(), WM_LBUTTONDOWN, MK_LBUTTON, at);
+    EXPECT_EQ(takePresses(), (Lines{"ItemDown Row=2 Column=1", "MouseDown Button=1 Shift=0 X=30 Y=55"}));
+    EXPECT_EQ(runtime.boxes, std::vector<String>{});
+    SendMessageW(target(), WM_LBUTTONUP, 0, at);
+}
+
 TEST_F(Win32EarlyPresses, AFingerFindsItsCell) {
     mouse.moveTo(listWindow(), 30, 55);
     SendMessageW(target(), WM_MOUSEMOVE, 0, at);
