@@ -14,6 +14,8 @@ FOLDER = "build/release/bin/lumtex_peer_"
 # Without other toolkits, which take too long, a size only shows how the list grows.
 MOST_ROWS_OF_TOOLKITS = 1_000_000
 TIME_LIMIT = 600  # seconds for all measures of one list
+USUAL = "usual"
+ROWS_OF_OTHER_DATA = 100_000
 
 
 def run(command, **environment):
@@ -40,39 +42,46 @@ def peers():
             yield program, name, int(most)
 
 
-def rows_of(options):
-    return [int(number) for number in options.rows.split(",")]
+def parts(text):
+    return text.split(",") if text else []
+
+
+def tables_of(options):
+    """Number of rows and kind of data of each table that all lists are filled with."""
+    yield from ((int(number), USUAL) for number in parts(options.rows))
+    yield from ((ROWS_OF_OTHER_DATA, data) for data in parts(options.data))
 
 
 def measure(options, results):
     everybody = list(peers())
-    for rows in rows_of(options):
+    for rows, data in tables_of(options):
         with tempfile.TemporaryDirectory() as folder:
             records = os.path.join(folder, "records.sqlite")
-            subprocess.run([FOLDER + "plain", "--records", records, str(rows)], check=True)
+            subprocess.run([FOLDER + "plain", "--records", records, str(rows), data], check=True)
             for turn in range(options.rounds if rows <= MOST_ROWS_OF_TOOLKITS else 1):
                 for program, name, most in everybody:
                     if rows > most:
                         continue
-                    print(f"{rows} rows, round {turn + 1}: {name}", flush=True)
-                    lines = run(prefix_of(program) + [FOLDER + program, name, str(rows)], LUMTEX_PEER_RECORDS=records)
-                    results += [[kind, size, name, str(turn), value, check] for kind, size, value, check in lines]
+                    print(f"{rows} rows, {data} data, round {turn + 1}: {name}", flush=True)
+                    lines = run(prefix_of(program) + [FOLDER + program, name, str(rows), data],
+                                LUMTEX_PEER_RECORDS=records)
+                    results += [[kind, data, size, name, str(turn), value, check] for kind, size, value, check in lines]
 
 
 def measure_component(options, results):
     command = ["scripts/on-display", "scripts/wine-run", "build/win64/bin/lumtex_bench_component.exe", "--results"]
     for turn in range(options.rounds):
         print(f"the component under Wine, round {turn + 1}", flush=True)
-        results += [[kind, rows, name, str(turn), value, check] for kind, rows, name, value, check in run(command)]
+        results += [[kind, USUAL, rows, name, str(turn), value, check] for kind, rows, name, value, check in run(command)]
 
 
 def disagreements(results):
     """Measures of which two lists did not arrive at the same result."""
     first = {}
-    for kind, rows, name, _, _, check in results:
-        other = first.setdefault((kind, rows), (name, check))
+    for kind, data, rows, name, _, _, check in results:
+        other = first.setdefault((kind, data, rows), (name, check))
         if other[1] != check or check == "0" and kind != "bytes a cell":
-            yield f"{kind}, {rows} rows: {name} has {check}, {other[0]} has {other[1]}"
+            yield f"{kind}, {rows} rows of {data} data: {name} has {check}, {other[0]} has {other[1]}"
 
 
 def machine():
@@ -87,6 +96,7 @@ def machine():
 def main():
     parser = argparse.ArgumentParser(prog="scripts/bench-peers")
     parser.add_argument("--rows", default="10000,100000,1000000,10000000")
+    parser.add_argument("--data", default="long,few,sorted,reversed")
     parser.add_argument("--rounds", type=int, default=3)
     parser.add_argument("--without-wine", action="store_true")
     parser.add_argument("--write", action="store_true")

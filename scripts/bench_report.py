@@ -8,6 +8,10 @@ PLOT = "docs/images/scaling.svg"
 BEGIN = "<!-- scripts/bench-peers writes from here -->"
 END = "<!-- to here -->"
 LIST, FLOOR, COMPONENT = "the list", "plain C++", "the component"
+USUAL = "usual"
+OTHER_DATA = {"long": "of names and cities of 40 to 200 letters", "few": "of 20 names, 5 cities, 20 amounts and 12 dates",
+              "sorted": "with each column in ascending order", "reversed": "with each column in descending order",
+              "organ": "whose columns ascend to the middle and descend from there", "ten": "cut off behind five of ten columns"}
 WIDGET = "the widget"  # the list again, which is no peer of itself
 PLOTTED = ["load", "sort names", "sort numbers", "sort dates", "find nothing", "save a file", "load a file",
            "1,000 inserts at the front", "scroll by a page and repaint"]
@@ -16,18 +20,18 @@ COLORS = ["#1f4e9c", "#b03a2e", "#d68910", "#7d6608", "#1e8449", "#6c3483", "#11
 
 def keep(where, results):
     with open(RESULTS, "w", encoding="utf-8") as file:
-        file.write(f"# {where}\n# measure\trows\tlist\tround\tmilliseconds, or bytes\twhat came out\n")
+        file.write(f"# {where}\n# measure\tdata\trows\tlist\tround\tmilliseconds, or bytes\twhat came out\n")
         file.writelines("\t".join(line) + "\n" for line in results)
 
 
 def read():
-    """The machine, and by measure and rows the values of each list, both in the order in which they came."""
+    """The machine, and by kind of data the values of each list by measure and rows, in the order in which they came."""
     with open(RESULTS, encoding="utf-8") as file:
         lines = file.read().splitlines()
     values = {}
     for line in lines[2:]:
-        kind, rows, name, _, value, _ = line.split("\t")
-        values.setdefault((kind, int(rows)), {}).setdefault(name, []).append(float(value))
+        kind, data, rows, name, _, value, _ = line.split("\t")
+        values.setdefault(data, {}).setdefault((kind, int(rows)), {}).setdefault(name, []).append(float(value))
     return lines[0][2:], values
 
 
@@ -69,10 +73,14 @@ def sizes(values, own):
     return sorted({rows for kind, rows in values if own in values[kind, rows]})
 
 
-def page(where, values):
+def page(where, of_data):
+    values = of_data.get(USUAL, {})
     lines = [f"{where}. `scripts/bench-peers`: medians of its rounds, behind them half the spread in percent.", ""]
     for rows in sizes(values, LIST):
         lines += [f"### {rows:,} rows", ""] + table(values, rows, LIST, FLOOR) + [""]
+    for data in (data for data in of_data if data != USUAL):
+        for rows in sizes(of_data[data], LIST):
+            lines += [f"### {rows:,} rows {OTHER_DATA[data]}", ""] + table(of_data[data], rows, LIST, FLOOR) + [""]
     if sizes(values, COMPONENT):
         lines += ["### The component under Wine, beside the system's list", ""]
         for rows in sizes(values, COMPONENT):
@@ -123,12 +131,12 @@ def plot(values):
 
 
 def write_documents():
-    where, values = read()
+    where, of_data = read()
     with open(PAGE, encoding="utf-8") as file:
         text = file.read()
     before, rest = text.split(BEGIN)
     _, after = rest.split(END)
     with open(PAGE, "w", encoding="utf-8") as file:
-        file.write("\n".join([before + BEGIN] + page(where, values) + [END]) + after)
+        file.write("\n".join([before + BEGIN] + page(where, of_data) + [END]) + after)
     with open(PLOT, "w", encoding="utf-8") as file:
-        file.write(plot(values))
+        file.write(plot(of_data[USUAL]))

@@ -52,8 +52,9 @@ struct PeerKind {
     int mostRows = 1'000'000'000; ///< above these, whoever waits gives up
 };
 
-/// Runs the measures on the list that the first argument names, with as many rows as the second one says, and
-/// prints a line for each: measure, rows, value, what came out. Values are milliseconds, or bytes.
+/// Runs the measures on the list that the first argument names, with as many rows as the second one says of
+/// the kind that the third one names, and prints a line for each: measure, rows, value, what came out. Values
+/// are milliseconds, or bytes.
 int runMeasures(int count, char** arguments, const std::vector<PeerKind>& kinds);
 
 } // namespace lumtex::bench

@@ -219,8 +219,8 @@ void must(int status, sqlite3* database) {
 }
 
 /// The file that `import` reads.
-void writeRecords(const std::string& path, int rows) {
-    const Table table(rows);
+void writeRecords(const std::string& path, int rows, SampleData data) {
+    const Table table(rows, data);
     sqlite3* database = nullptr;
     must(sqlite3_open(path.c_str(), &database), database);
     must(sqlite3_exec(database,
@@ -251,8 +251,8 @@ void writeRecords(const std::string& path, int rows) {
 
 int main(int count, char** arguments) {
     using namespace lumtex::bench;
-    if (count == 4 && std::string(arguments[1]) == "--records") {
-        writeRecords(arguments[2], std::stoi(arguments[3]));
+    if (count == 5 && std::string(arguments[1]) == "--records") {
+        writeRecords(arguments[2], std::stoi(arguments[3]), sampleDataNamed(arguments[4]));
         return 0;
     }
     return runMeasures(count, arguments, {{"plain C++", []() -> std::unique_ptr<Peer> {

@@ -2,6 +2,8 @@
 /// The rows that all peers are filled with.
 #pragma once
 
+#include "sample_rows.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -21,7 +23,8 @@ constexpr int screenHeight = 800;
 /// handed the form that it takes. Rows and columns count from 0.
 class Table {
   public:
-    explicit Table(int rows);
+    /// Of rows with more columns the first five.
+    Table(int rows, SampleData data);
 
     int rows() const { return static_cast<int>(starts_.size() / tableColumns); }
     std::string_view cell(int row, int column) const;
