@@ -124,6 +124,19 @@ void setTopIndex(benchmark::State& state) {
     scrolled.list.letAutoRedraw(false);
 }
 
+/// Few rows have a height, and a sort took them anywhere.
+void selectAfterSort(benchmark::State& state) {
+    ListOnDesktop sorted;
+    sorted.list.letRowsDynamic(true);
+    sorted.list.letMultiSelect(true);
+    sorted.fill(rowsOf(state.range(0)));
+    sorted.list.Redraw();
+    sorted.list.Sort(2, cAscending, cSortText);
+    Long row = 0;
+    for (auto _ : state)
+        sorted.list.letRowSelected(row = row % 1000 + 1, true);
+}
+
 void bothKindsOfRows(benchmark::internal::Benchmark* benchmark) {
     benchmark->ArgNames({"rows", "dynamic"})->Unit(benchmark::kMicrosecond);
     for (const std::int64_t dynamic : {0, 1}) {
@@ -140,3 +153,4 @@ BENCHMARK(clickArrow)->Apply(bothKindsOfRows);
 BENCHMARK(holdArrow)->Apply(bothKindsOfRows);
 BENCHMARK(dragThumb)->Apply(bothKindsOfRows);
 BENCHMARK(setTopIndex)->Apply(bothKindsOfRows);
+BENCHMARK(selectAfterSort)->ArgName("rows")->Arg(1'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);

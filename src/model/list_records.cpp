@@ -16,10 +16,24 @@ Long ListRecords::upperBoundOfColumns() const {
     return static_cast<Long>(columns_.size()) - 1;
 }
 
-RowRecord& ListRecords::recordAt(Long position) {
+std::size_t ListRecords::existing(Long position) const {
     if (position < 0 || static_cast<std::size_t>(position) >= rows_.size())
         throw RuntimeError(ErrorNumber::subscriptOutOfRange);
-    return rows_[static_cast<std::size_t>(position)];
+    return static_cast<std::size_t>(position);
+}
+
+RowRecord& ListRecords::recordAt(Long position) {
+    return rows_[existing(position)];
+}
+
+void ListRecords::swapRows(Long one, Long other) {
+    const std::size_t first = existing(one);
+    rows_.swap(first, existing(other));
+}
+
+void ListRecords::copyRow(Long from, Long to) {
+    const std::size_t source = existing(from);
+    rows_.copy(source, existing(to));
 }
 
 RowRecord& ListRecords::rowAt(const Variant& Index) {
@@ -65,7 +79,6 @@ void ListRecords::clearRows() {
     rows_.clear();
     rows_.append();
     rowsAllocated_ = false;
-    mayHaveHeights_ = false;
 }
 
 void ListRecords::clearColumns() {

@@ -30,6 +30,9 @@ class ListRecords {
 
     RowRecord& recordAt(Long position);
     RowRecord& rowAt(const Variant& Index);
+    void swapRows(Long one, Long other);
+    /// Puts a row that shares the cells of the one at `from` in the place of that at `to`.
+    void copyRow(Long from, Long to);
     /// Makes the column where its slot holds none.
     ColumnHeader& columnAt(Long position);
 
@@ -51,10 +54,6 @@ class ListRecords {
     bool mayHoldObjects() const { return mayHoldObjects_; }
     void noteObject() { mayHoldObjects_ = true; }
 
-    /// A paint measured a row at some time since there were none; before, all heights are zero.
-    bool mayHaveHeights() const { return mayHaveHeights_; }
-    void noteHeight() { mayHaveHeights_ = true; }
-
     /// All elements, the blank one of an emptied array too.
     RowArray& rows() { return rows_; }
     std::size_t columnSlots() const { return columns_.size(); }
@@ -71,6 +70,9 @@ class ListRecords {
     bool holdsAnything() const { return rowsExist() || columnsExist(); }
 
   private:
+    /// Fails behind the last one.
+    std::size_t existing(Long position) const;
+
     friend class ListViewInspector; ///< how tests look inside
 
     RowArray rows_;
@@ -78,7 +80,6 @@ class ListRecords {
     bool rowsAllocated_ = false;    ///< from the first row added until `clearRows`
     bool columnsAllocated_ = false; ///< from the first column added until `clearColumns`
     bool mayHoldObjects_ = false;
-    bool mayHaveHeights_ = false;
 };
 
 } // namespace lumtex

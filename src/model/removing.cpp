@@ -42,7 +42,7 @@ void lmListView::removeRow(Long Index, Procedure& p) {
             records.rows().remove(static_cast<std::size_t>(row) - 1);
             return;
         }
-        if (!p.step([&] { records.recordAt(row - 1) = records.recordAt(row); }))
+        if (!p.step([&] { records.copyRow(row, row - 1); }))
             watch.hostRan();
         // Wanted: the host gets its turn after each row, and sees the row behind the gap twice.
         yield(p, watch);

@@ -13,7 +13,7 @@ constexpr std::size_t ahead = 16;
 } // namespace
 
 RowArray::Chunk RowArray::makeChunk(std::size_t rows) {
-    return {std::make_unique<RowRecord[]>(rows), 0};
+    return {std::make_unique<RowRecord[]>(rows)};
 }
 
 /// Of the rows that are there, how many lie in that chunk.
@@ -24,6 +24,7 @@ std::size_t RowArray::rowsIn(std::size_t chunk) const {
 /// Doubles the only chunk there is, so that short lists take little.
 void RowArray::growFirst() {
     Chunk larger = makeChunk(2 * room());
+    larger.hasHeights = chunks_.front().hasHeights;
     for (std::size_t i = 0; i < size_; ++i)
         larger.rows[i] = std::move((*this)[i]);
     mask_ = 2 * room() - 1;
@@ -56,7 +57,7 @@ void RowArray::moveLastTo(std::size_t position) noexcept {
     for (std::size_t i = (size_ - 1) >> chunkBits; i > target; --i) {
         Chunk& chunk = chunks_[i];
         chunk.head = (chunk.head + mask_) & mask_;
-        slotIn(chunk, 0) = std::move(slotIn(chunks_[i - 1], mask_));
+        put(chunk, 0, std::move(slotIn(chunks_[i - 1], mask_)));
     }
     // The slot behind the chunk's last row is free, which in a ring is also the one in front of its first.
     Chunk& chunk = chunks_[target];
@@ -70,7 +71,7 @@ void RowArray::moveLastTo(std::size_t position) noexcept {
         for (std::size_t i = last; i > place; --i)
             slotIn(chunk, i) = std::move(slotIn(chunk, i - 1));
     }
-    slotIn(chunk, place) = std::move(row);
+    put(chunk, place, std::move(row));
 }
 
 void RowArray::remove(std::size_t position) noexcept {
@@ -92,7 +93,7 @@ void RowArray::remove(std::size_t position) noexcept {
     const std::size_t lastChunk = (size_ - 1) >> chunkBits;
     for (std::size_t i = target + 1; i <= lastChunk; ++i) {
         Chunk& behind = chunks_[i];
-        slotIn(chunks_[i - 1], mask_) = std::exchange(slotIn(behind, 0), RowRecord());
+        put(chunks_[i - 1], mask_, std::exchange(slotIn(behind, 0), RowRecord()));
         behind.head = (behind.head + 1) & mask_;
     }
     --size_;
@@ -106,9 +107,25 @@ void RowArray::reorder(std::span<const std::uint32_t> sources) {
     for (std::size_t i = 0; i < sources.size(); ++i) {
         if (i + ahead < sources.size())
             __builtin_prefetch(slotOf(sources[i + ahead]));
-        ordered[i >> chunkBits].rows[i & mask_] = std::move((*this)[sources[i]]);
+        put(ordered[i >> chunkBits], i, std::move((*this)[sources[i]]));
     }
     chunks_ = std::move(ordered);
+}
+
+void RowArray::swap(std::size_t one, std::size_t other) noexcept {
+    RowRecord row = std::move((*this)[one]);
+    put(chunkOf(one), one, std::move((*this)[other]));
+    put(chunkOf(other), other, std::move(row));
+}
+
+void RowArray::copy(std::size_t from, std::size_t position) noexcept {
+    put(chunkOf(position), position, (*this)[from]);
+}
+
+std::size_t RowArray::nextWithHeight(std::size_t position) const noexcept {
+    while (position < size_ && !chunks_[position >> chunkBits].hasHeights)
+        position = ((position >> chunkBits) + 1) << chunkBits;
+    return std::min(position, size_);
 }
 
 void RowArray::clear() noexcept {
@@ -118,6 +135,7 @@ void RowArray::clear() noexcept {
         return;
     for (std::size_t i = 0; i < kept; ++i)
         slotIn(chunks_.front(), i) = RowRecord();
+    chunks_.front().hasHeights = false;
     chunks_.resize(1);
 }
 

@@ -77,6 +77,15 @@ class RowArray {
     /// Row `sources[i]` goes to position `i`; each row is named once. Throws std::bad_alloc and is as it was
     /// then.
     void reorder(std::span<const std::uint32_t> sources);
+    void swap(std::size_t one, std::size_t other) noexcept;
+    /// The row at `position` becomes like another one, and shares its cells.
+    void copy(std::size_t from, std::size_t position) noexcept;
+
+    /// Whoever gives a row a height says so here.
+    void noteHeight(std::size_t position) noexcept { chunkOf(position).hasHeights = true; }
+    /// The first row from `position` on, which may lie behind the last, that may have a height; behind the
+    /// last if none does.
+    std::size_t nextWithHeight(std::size_t position) const noexcept;
     /// Keeps the room for the first row, so that an emptied list needs no memory.
     void clear() noexcept;
     void release() noexcept;
@@ -85,7 +94,8 @@ class RowArray {
     /// Slots without a row hold an empty record.
     struct Chunk {
         std::unique_ptr<RowRecord[]> rows;
-        std::size_t head = 0; ///< the slot of its first row
+        std::size_t head = 0;    ///< the slot of its first row
+        bool hasHeights = false; ///< or had rows with one
     };
 
     static constexpr std::size_t chunkBits = 10;
@@ -93,6 +103,12 @@ class RowArray {
     static constexpr std::size_t firstRoom = 4;
 
     static Chunk makeChunk(std::size_t rows);
+    Chunk& chunkOf(std::size_t position) { return chunks_[position >> chunkBits]; }
+    /// Into the slot of a place; whole rows go in nowhere else.
+    void put(Chunk& chunk, std::size_t place, RowRecord row) noexcept {
+        chunk.hasHeights = chunk.hasHeights || row.Height != 0;
+        slotIn(chunk, place) = std::move(row);
+    }
     std::size_t room() const { return chunks_.size() * (mask_ + 1); }
     /// By the row's own place: a chunk begins at a multiple of its slots.
     RowRecord& slotIn(const Chunk& chunk, std::size_t place) const {
@@ -115,7 +131,7 @@ std::size_t RowArray::sweep(std::size_t position, Judge verdict) {
     std::size_t stayed = position;
     const auto moveUp = [&](std::size_t from) {
         if (from != stayed)
-            (*this)[stayed] = std::exchange((*this)[from], RowRecord());
+            put(chunkOf(stayed), stayed, std::exchange((*this)[from], RowRecord()));
         ++stayed;
     };
     std::size_t asked = position;

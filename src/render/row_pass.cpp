@@ -116,9 +116,10 @@ void PaintPass::finishRow() {
     }
     RowArray& rows = core.records.rows();
     if (counters.scanIndex >= 0 && static_cast<std::size_t>(counters.scanIndex) < rows.size()) {
-        RowRecord& row = rows[static_cast<std::size_t>(counters.scanIndex)];
+        const auto position = static_cast<std::size_t>(counters.scanIndex);
+        RowRecord& row = rows[position];
         row.Height = rowBandHeight;
-        core.records.noteHeight();
+        rows.noteHeight(position);
         row.Top = rowY;
         state.lastRow = counters.scanIndex;
     }

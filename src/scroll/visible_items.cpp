@@ -32,14 +32,11 @@ Long Scroller::VisibleItems() {
             // Wanted: the walk starts at row 0 whatever the top row is, and a row never painted has no
             // height.
             auto y = static_cast<Single>(core_.painting->ColumnHeight());
-            // Rows without a height all fit, however many.
-            if (!records_.mayHaveHeights()) {
-                if (y <= available)
-                    state_.visibleRowCount = records_.upperBoundOfRows() + 1;
-                return state_.visibleRowCount;
-            }
+            const RowArray& rows = records_.rows();
             while (y <= available) {
-                ++state_.visibleRowCount;
+                // Rows without a height fit wherever the one before does.
+                state_.visibleRowCount = static_cast<Long>(
+                    rows.nextWithHeight(static_cast<std::size_t>(state_.visibleRowCount + 1)));
                 if (state_.visibleRowCount > records_.upperBoundOfRows())
                     break;
                 y += records_.recordAt(state_.visibleRowCount).Height;

@@ -48,11 +48,7 @@ bool SortStepwise::compare(Long index, bool greater) {
 }
 
 void SortStepwise::swap(Long i, Long j) {
-    procedure_.step([&] {
-        RowRecord& first = records_.recordAt(i);
-        RowRecord& second = records_.recordAt(j);
-        std::swap(first, second);
-    });
+    procedure_.step([&] { records_.swapRows(i, j); });
 }
 
 } // namespace lumtex

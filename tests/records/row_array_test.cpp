@@ -1,5 +1,6 @@
 #include "records/row_array.h"
 
+#include <algorithm>
 #include <numeric>
 #include <random>
 
@@ -150,6 +151,86 @@ TEST_F(Rows, AreSweptLikeThoseOfAVector) {
         if (HasFatalFailure())
             return;
     }
+}
+
+/// Few rows have a height, as where a list of many was painted.
+class MeasuredRows : public ::testing::Test {
+  protected:
+    std::size_t below(std::size_t limit) { return random_() % limit; }
+    void measure(std::size_t position) {
+        rows[position].Height = 20;
+        rows.noteHeight(position);
+    }
+    void change() {
+        using enum RowArray::Verdict;
+        const std::size_t size = rows.size();
+        switch (below(7)) {
+        case 0:
+            rows.append();
+            rows.moveLastTo(below(size + 1));
+            break;
+        case 1:
+            rows.remove(below(size));
+            break;
+        case 2:
+            rows.swap(below(size), below(size));
+            break;
+        case 3:
+            rows.copy(below(size), below(size));
+            break;
+        case 4:
+            rows.sweep(below(size), [&](const RowRecord&) { return below(50) == 0 ? go : stay; });
+            break;
+        case 5: {
+            std::vector<std::uint32_t> sources(size);
+            std::iota(sources.begin(), sources.end(), 0U);
+            std::shuffle(sources.begin(), sources.end(), random_);
+            rows.reorder(sources);
+            break;
+        }
+        default:
+            measure(below(size));
+        }
+    }
+    /// Where walks that stop at each row that may have a height have been.
+    std::vector<bool> reached() const {
+        std::vector<bool> seen(rows.size());
+        for (std::size_t i = rows.nextWithHeight(0); i < rows.size(); i = rows.nextWithHeight(i + 1))
+            seen[i] = true;
+        return seen;
+    }
+
+    RowArray rows;
+
+  private:
+    std::mt19937 random_{20261123};
+};
+
+TEST_F(MeasuredRows, AreFoundWhereverTheyWent) {
+    for (int round = 0; round < 300; ++round) {
+        while (rows.size() < 20'000)
+            rows.append();
+        if (round % 30 == 0) {
+            rows.clear();
+            EXPECT_EQ(rows.nextWithHeight(0), 0U);
+            continue;
+        }
+        change();
+        const std::vector<bool> seen = reached();
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            ASSERT_TRUE(seen[i] || rows[i].Height == 0) << "row " << i << " in round " << round;
+    }
+}
+
+TEST_F(MeasuredRows, LetWalksPassTheOthersByTheThousand) {
+    while (rows.size() < 10'000)
+        rows.append();
+    EXPECT_EQ(rows.nextWithHeight(0), 10'000U);
+    measure(5'000);
+    EXPECT_GT(rows.nextWithHeight(0), 3'000U);
+    EXPECT_LE(rows.nextWithHeight(0), 5'000U);
+    EXPECT_EQ(rows.nextWithHeight(9'000), 10'000U);
+    EXPECT_EQ(rows.nextWithHeight(10'000), 10'000U);
 }
 
 TEST_F(Rows, GoAllAndComeAgain) {

@@ -1,6 +1,8 @@
 #include "bars/bar_fixture.h"
 #include "list_fixture.h"
 
+#include <random>
+
 namespace lumtex::testing {
 
 /// 300 x 200 pixels; headers are 25 tall.
@@ -131,6 +133,28 @@ TEST_F(ListScroll, VisibleRowsAreCountedFromTheTopOfTheList) {
     // (200 - 25) / 17 is a little over 10; the rows below the view have no height yet.
     inside.vertical().letValue(15);
     EXPECT_EQ(inside.VisibleItems(), 10);
+}
+
+TEST_F(ListScroll, ThePaintedRowsCountWhereverASortPutThem) {
+    list.letAutoRedraw(false);
+    addColumns({50});
+    addRows(9'000);
+    inside.vertical().letValue(4'000);
+    list.Redraw();
+    std::mt19937 random(20261123);
+    for (Long row = 1; row <= list.RowsCount(); ++row)
+        list.letItemText(row, 1, fromUtf8(std::to_string(random())));
+    list.Sort(1, cAscending, cSortNumeric);
+    Single y = 25;
+    Long fitting = -1;
+    for (Long row = 0; y <= 200; ++row) {
+        ++fitting;
+        if (row == list.RowsCount())
+            break;
+        y += inside.rows()[static_cast<std::size_t>(row)].Height;
+    }
+    EXPECT_EQ(inside.VisibleItems(), fitting);
+    EXPECT_GT(fitting, 1'000) << "few rows have a height, and they are scattered";
 }
 
 // Wanted: twice in a row, and never compared with the bar's end.
