@@ -77,6 +77,26 @@ class Ref {
     T* object_ = nullptr;
 };
 
+/// Gives a control that was just made the settings of a new one, as containers do for a document that saved
+/// them. Programs that save none call it all the same, before anything is asked of the control: a list hears
+/// of the wheel only once its settings have come.
+inline void loadUsualSettings(IUnknown* control) {
+    Ref<IPersistStreamInit> loading;
+    demand(control->QueryInterface(IID_IPersistStreamInit, loading.anyPlace()), "loadUsualSettings");
+    CLSID itsClass{};
+    demand(loading->GetClassID(&itsClass), "loadUsualSettings");
+    Ref<IPersistStreamInit> usual;
+    demand(
+        CoCreateInstance(itsClass, nullptr, CLSCTX_INPROC_SERVER, IID_IPersistStreamInit, usual.anyPlace()),
+        "loadUsualSettings");
+    Ref<IStream> settings;
+    demand(CreateStreamOnHGlobal(nullptr, TRUE, settings.place()), "loadUsualSettings");
+    demand(usual->InitNew(), "loadUsualSettings");
+    demand(usual->Save(settings, FALSE), "loadUsualSettings");
+    demand(settings->Seek(LARGE_INTEGER{}, STREAM_SEEK_SET, nullptr), "loadUsualSettings");
+    demand(loading->Load(settings), "loadUsualSettings");
+}
+
 /// A text on its way to a call or back. The units are UTF-16, under whichever name.
 class Text {
   public:

@@ -168,6 +168,18 @@ TEST_F(HostWrapper, SortsFindsAndFitsColumns) {
     EXPECT_LT(list.ColumnWidth(1), 9000);
 }
 
+TEST_F(HostWrapper, GivesAListTheSettingsOfANewOne) {
+    Lists made = Lists::make();
+    LumtexListView::loadUsualSettings(made.face());
+    EXPECT_EQ(made.RowHeight(), list.RowHeight());
+    EXPECT_EQ(made.BackColor(), list.BackColor());
+    EXPECT_EQ(made.WheelScrollLines(), list.WheelScrollLines());
+    EXPECT_TRUE(FAILED(resultOf([&] { LumtexListView::loadUsualSettings(made.face()); })))
+        << "they come once";
+    EXPECT_EQ(resultOf([] { LumtexListView::loadUsualSettings(LumtexListView::SpEv::make().face()); }),
+              E_NOINTERFACE);
+}
+
 TEST_F(HostWrapper, SharesTheListWithItsCopies) {
     Lists copy = list;
     copy.ColumnsAdd(L"City");
