@@ -180,7 +180,7 @@ TEST(Readme, QuotesProgramsThatAreRun) {
                                 "tests/examples/readme_example.cpp",
                                 "samples/vbscript/cities.vbs",
                                 "samples/visual-basic/CitiesForm.frm",
-                                "samples/cpp-host/cities.cpp"})
+                                "samples/cpp-host/minimal.cpp"})
         EXPECT_EQ(std::count(
                       readme.lines.begin(), readme.lines.end(), "<!-- from " + std::string(program) + " -->"),
                   1)
