@@ -16,9 +16,12 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
+#include <QTimer>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -273,6 +276,44 @@ TEST_F(GalleryWindowTest, AFolderIsBrowsedAndItsFilesRenamed) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
     EXPECT_EQ(page.list().RowsCount(), 2);
     EXPECT_EQ(page.list().ListIndex(), 0);
+}
+
+TEST_F(GalleryWindowTest, ADoubleClickOpensAFolderWithoutAReportAndLeavesNoEditor) {
+    std::filesystem::create_directories(folder_.path / "a" / "b");
+    FolderPage page(folder());
+    showFilled(page);
+    LumtexListView& list = page.list();
+    LumtexListView::setSilentError(false);
+    QStringList boxes;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            boxes << box->text();
+            box->close();
+        }
+    });
+    watch.start(20);
+    constexpr int rest = 60; // milliseconds, longer than the list takes to look where the mouse is
+    const QPoint firstRow = list.mapTo(list.window(), QPoint(100, 32));
+    const auto doubleClick = [&] {
+        QTest::mouseMove(page.windowHandle(), firstRow - QPoint(1, 1));
+        QTest::mouseMove(page.windowHandle(), firstRow);
+        QTest::qWait(rest);
+        QTest::mouseDClick(page.windowHandle(), Qt::LeftButton, {}, firstRow);
+        QTest::qWait(rest);
+    };
+    const auto editorIsOpen = [&] {
+        const auto fields = list.findChildren<QLineEdit*>();
+        return std::any_of(fields.begin(), fields.end(), [](QLineEdit* field) { return field->isVisible(); });
+    };
+    doubleClick();
+    ASSERT_EQ(list.RowsCount(), 1);
+    EXPECT_EQ(list.ItemText(1, 1), u"b"_s);
+    EXPECT_FALSE(editorIsOpen());
+    doubleClick();
+    EXPECT_EQ(list.RowsCount(), 0) << "it is empty";
+    EXPECT_FALSE(editorIsOpen());
+    EXPECT_EQ(boxes.join(u"; "_s).toStdString(), "");
 }
 
 TEST_F(GalleryWindowTest, ANameThatIsTakenIsRefusedAndTheOldOneStays) {

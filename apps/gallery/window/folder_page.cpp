@@ -58,7 +58,6 @@ FolderPage::FolderPage(const QString& folder)
     rows().addWidget(list, 1);
     rows().addWidget(status_);
 
-    list->setAllowEdit(true);
     addColumn(*list, u"Name"_s, 300);
     addColumn(*list, u"Size"_s, 90, LumtexListView::cColumnRight);
     addColumn(*list, u"Type"_s, 110);
@@ -67,7 +66,13 @@ FolderPage::FolderPage(const QString& folder)
         if (column >= nameColumn && column <= changedColumn)
             sortByHeader(this->list(), column, sortTypes.at(static_cast<std::size_t>(column) - 1));
     });
-    connect(list, &LumtexListView::ItemDblClick, this, [this](int row, int) { openRow(row); });
+    // Queued: behind this signal the list asks the row that was pressed whether it may be edited.
+    connect(
+        list,
+        &LumtexListView::ItemDblClick,
+        this,
+        [this](int row, int) { openRow(row); },
+        Qt::QueuedConnection);
     connect(list, &LumtexListView::KeyDown, this, [this](short& keyCode, short&) { keyPressed(keyCode); });
     connect(list, &LumtexListView::ItemChanged, this, [this](int row, int, const QString& text) {
         rename(row, text);
@@ -100,7 +105,6 @@ void FolderPage::read() {
         addRow(list(), textsOf(file));
         const int row = list().NewIndex() + 1;
         list().setItemIcon(row, nameColumn, file.isDir() ? folderPixmap() : documentPixmap());
-        list().setItemAllowEdit(row, nameColumn, true);
         list().setItemTag(row, nameColumn, file.fileName());
     }
     status_->setText(folder_.isReadable() ? u"%1 entries"_s.arg(files.size())
@@ -136,7 +140,7 @@ void FolderPage::keyPressed(short& keyCode) {
         openParent();
     else if (keyCode == 13 && row > 0) // Enter
         openRow(row);
-    else if (keyCode == 113 && row > 0) // F2
+    else if (keyCode == 113 && row > 0) // F2, and nothing else: a double click would open the editor, too
         list().SetEdit(row, nameColumn);
 }
 
