@@ -71,7 +71,8 @@ top. For the first hit of a new question say `cFindStart`.
 | `cSortDate` | the date that the text stands for, as the user writes dates |
 
 A text that is no number or date, an empty one too, is reported. The order of rows with equal keys is not kept: two or
-three of them come out reversed, more of them mixed. A sort paints nothing by itself, so call `Redraw` behind it. `ListIndex`, `NewIndex`
+three of them come out reversed, more of them mixed; [sort by a column whose keys differ](../cookbook.md#sort-by-two-columns)
+where it matters. A sort paints nothing by itself, so call `Redraw` behind it. `ListIndex`, `NewIndex`
 and `TopIndex` keep their numbers, so the current row is another one afterwards, while rows take their
 selection with them.
 )"},
