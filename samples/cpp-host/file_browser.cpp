@@ -13,8 +13,8 @@
 #include "program.h"
 
 #include <algorithm>
+#include <cwchar>
 #include <memory>
-#include <tuple>
 
 namespace {
 

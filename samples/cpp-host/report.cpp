@@ -13,7 +13,6 @@
 // clang-format on
 #include "program.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -167,7 +166,7 @@ void print(const std::vector<Row>& report, const std::wstring& pictures) {
     for (std::size_t first = 0; first < report.size(); first += rowsPerPage) {
         list.letAutoRedraw(false);
         list.RowsClear();
-        for (std::size_t i = first; i < std::min(first + rowsPerPage, report.size()); ++i)
+        for (std::size_t i = first; i < first + rowsPerPage && i < report.size(); ++i)
             add(list, report[i]);
         list.letAutoRedraw(true);
         page.draw(list);
