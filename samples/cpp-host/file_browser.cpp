@@ -112,7 +112,8 @@ class FileBrowser : public program::ListWindow {
         });
     }
 
-    void open(const std::wstring& folder) {
+    /// The row of a name is the current one then.
+    void open(const std::wstring& folder, const std::wstring& current = {}) {
         folder_ = folder;
         std::vector<File> files = filesIn(folder);
         sort(files);
@@ -126,7 +127,15 @@ class FileBrowser : public program::ListWindow {
         list.letAutoCheckScroll(true);
         list.CheckScroll();
         list.letAutoRedraw(true);
+        for (long row = 1; row <= list.RowsCount(); ++row)
+            if (list.ItemTag(row, nameColumn).toText() == current)
+                goTo(row);
         letTitle(folder + L": " + std::to_wstring(files.size()) + L" entries");
+    }
+
+    void goTo(long row) {
+        list.letListIndex(row - 1); // where the keys go on
+        list.letRowSelected(row, true);
     }
 
     void sort(std::vector<File>& files) const {
@@ -165,19 +174,10 @@ class FileBrowser : public program::ListWindow {
             ShellExecuteW(nullptr, nullptr, path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
     }
 
-    /// Selects the folder that it comes from.
     void openParent() {
         const std::size_t end = folder_.rfind(L'\\');
-        if (end == std::wstring::npos)
-            return;
-        const std::wstring from = folder_.substr(end + 1);
-        open(folder_.substr(0, end));
-        for (long row = 1; row <= list.RowsCount(); ++row) {
-            if (list.ItemTag(row, nameColumn).toText() != from)
-                continue;
-            list.letListIndex(row - 1); // where the keys go on
-            list.letRowSelected(row, true);
-        }
+        if (end != std::wstring::npos)
+            open(folder_.substr(0, end), folder_.substr(end + 1));
     }
 
     std::wstring folder_;
