@@ -30,63 +30,46 @@ class FileBrowserSample : public ProgramSample {
 };
 
 TEST_F(FileBrowserSample, OpensAFolderByADoubleClickAndComesBackToIt) {
-    const ToldProgram running(program().wstring(), words());
-    HWND window = running.window(L"Files");
-    ASSERT_NE(window, nullptr);
-    EXPECT_EQ(wholeTitle(window), title(shown, 3));
-    HWND list = listIn(window);
-    ASSERT_NE(list, nullptr);
-    ListUser user(list);
+    ProgramInUse used(program(), words(), L"Files");
+    EXPECT_EQ(used.title(), title(shown, 3));
     const auto says = [&](const std::filesystem::path& of, int entries) {
-        return wholeTitle(window) == title(of, entries);
+        return used.title() == title(of, entries);
     };
 
     EXPECT_TRUE(
-        repeatUntil([&] { user.doubleClick(60, secondRow); }, [&] { return says(shown / "zoo", 0); }));
-    user.press(VK_BACK);
+        repeatUntil([&] { used.user.doubleClick(60, secondRow); }, [&] { return says(shown / "zoo", 0); }));
+    used.user.press(VK_BACK);
     EXPECT_TRUE(until([&] { return says(shown, 3); }));
     // Where it came from is the current row, so that the one above it is the other folder.
-    user.press(VK_UP);
-    user.press(VK_RETURN);
+    used.user.press(VK_UP);
+    used.user.press(VK_RETURN);
     EXPECT_TRUE(until([&] { return says(shown / "attic", 1); }));
-    user.press(VK_BACK);
+    used.user.press(VK_BACK);
     EXPECT_TRUE(until([&] { return says(shown, 3); }));
 
-    PostMessageW(window, WM_CLOSE, 0, 0);
-    EXPECT_EQ(running.exitCode(), 0U);
+    EXPECT_EQ(used.close(), 0U);
 }
 
 TEST_F(FileBrowserSample, TurnsTheOrderByASecondClickAndKeepsFoldersInFront) {
-    const ToldProgram running(program().wstring(), words());
-    HWND window = running.window(L"Files");
-    ASSERT_NE(window, nullptr);
-    HWND list = listIn(window);
-    ASSERT_NE(list, nullptr);
-    ListUser user(list);
+    ProgramInUse used(program(), words(), L"Files");
     // In the first order the first row is the folder with an entry.
     EXPECT_TRUE(repeatUntil(
         [&] {
-            if (wholeTitle(window) != title(shown, 3))
-                user.press(VK_BACK); // out of the folder of the last try
-            user.click(60, headerMiddle);
-            user.doubleClick(60, firstRow);
+            if (used.title() != title(shown, 3))
+                used.user.press(VK_BACK); // out of the folder of the last try
+            used.user.click(60, headerMiddle);
+            used.user.doubleClick(60, firstRow);
         },
-        [&] { return wholeTitle(window) == title(shown / "zoo", 0); }));
-    PostMessageW(window, WM_CLOSE, 0, 0);
-    EXPECT_EQ(running.exitCode(), 0U);
+        [&] { return used.title() == title(shown / "zoo", 0); }));
+    EXPECT_EQ(used.close(), 0U);
 }
 
 TEST_F(FileBrowserSample, ShowsTheIconOfTheSystemsFolders) {
-    const ToldProgram running(program().wstring(), words());
-    HWND window = running.window(L"Files");
-    ASSERT_NE(window, nullptr);
-    HWND list = listIn(window);
-    ASSERT_NE(list, nullptr);
-    const ListUser user(list);
+    ProgramInUse used(program(), words(), L"Files");
     // Wine's and Windows' folders are many-coloured; letters have shades between black and white alone.
     EXPECT_TRUE(until([&] {
         for (LONG x = 2; x < 18; ++x) {
-            const COLORREF color = user.color(x, firstRow);
+            const COLORREF color = used.user.color(x, firstRow);
             if (GetRValue(color) != GetBValue(color))
                 return true;
         }

@@ -30,36 +30,28 @@ class LogViewerSample : public ProgramSample {
 
 TEST_F(LogViewerSample, FollowsItsFileUntilTheReaderScrollsUp) {
     append(lines(100));
-    const ToldProgram running(program().wstring(), words());
-    HWND window = running.window(L"Log");
-    ASSERT_NE(window, nullptr);
-    HWND list = listIn(window);
-    ASSERT_NE(list, nullptr);
-    const auto says = [&](int count) { return until([&] { return wholeTitle(window) == title(count); }); };
+    ProgramInUse used(program(), words(), L"Log");
+    const auto says = [&](int count) { return until([&] { return used.title() == title(count); }); };
     EXPECT_TRUE(says(100));
-    ListUser user(list);
-    EXPECT_FALSE(user.shows(errorColor));
+    EXPECT_FALSE(used.user.shows(errorColor));
     append("12:00:01 ERROR disk is full\n");
     EXPECT_TRUE(says(101));
-    EXPECT_TRUE(until([&] { return user.shows(errorColor); })) << "the last line is in view";
+    EXPECT_TRUE(until([&] { return used.user.shows(errorColor); })) << "the last line is in view";
 
-    user.click(200, 60); // the wheel turns what has the keyboard
-    EXPECT_TRUE(repeatUntil([&] { user.wheel(120); }, [&] { return !user.shows(errorColor); }));
+    used.user.click(200, 60); // the wheel turns what has the keyboard
+    EXPECT_TRUE(repeatUntil([&] { used.user.wheel(120); }, [&] { return !used.user.shows(errorColor); }));
     append("12:00:02 ERROR still full\n");
     EXPECT_TRUE(says(102));
     Sleep(500);
-    EXPECT_FALSE(user.shows(errorColor)) << "who reads further up stays there";
+    EXPECT_FALSE(used.user.shows(errorColor)) << "who reads further up stays there";
 
-    PostMessageW(window, WM_CLOSE, 0, 0);
-    EXPECT_EQ(running.exitCode(), 0U);
+    EXPECT_EQ(used.close(), 0U);
 }
 
 TEST_F(LogViewerSample, WaitsForItsFileAndBeginsAnewWhereThatWasCutShort) {
-    const ToldProgram running(program().wstring(), words());
-    HWND window = running.window(L"Log");
-    ASSERT_NE(window, nullptr);
+    ProgramInUse used(program(), words(), L"Log");
     const auto says = [&](const std::wstring& wanted) {
-        return until([&] { return wholeTitle(window) == wanted; });
+        return until([&] { return used.title() == wanted; });
     };
     EXPECT_TRUE(says(L"Waiting for " + log.wstring()));
     append(lines(50) + "without an end");
@@ -69,42 +61,32 @@ TEST_F(LogViewerSample, WaitsForItsFileAndBeginsAnewWhereThatWasCutShort) {
     EXPECT_TRUE(says(title(52)));
     folder.write("service.log", "anew\n");
     EXPECT_TRUE(says(title(1)));
-    PostMessageW(window, WM_CLOSE, 0, 0);
-    EXPECT_EQ(running.exitCode(), 0U);
+    EXPECT_EQ(used.close(), 0U);
 }
 
 TEST_F(LogViewerSample, TakesAMillionLinesAndGoesOnFollowing) {
     constexpr int million = 1'000'000;
     append(lines(million));
-    const ToldProgram running(program().wstring(), words());
-    HWND window = running.window(L"Log");
-    ASSERT_NE(window, nullptr);
+    ProgramInUse used(program(), words(), L"Log");
     const auto says = [&](int count) {
         // A machine that does other things, too, may need minutes.
         for (int tries = 0; tries < 10; ++tries)
-            if (until([&] { return wholeTitle(window) == title(count); }))
+            if (until([&] { return used.title() == title(count); }))
                 return true;
         return false;
     };
     EXPECT_TRUE(says(million));
     append("12:00:01 ERROR one more\n");
     EXPECT_TRUE(says(million + 1));
-    HWND list = listIn(window);
-    ASSERT_NE(list, nullptr);
-    const ListUser user(list);
-    EXPECT_TRUE(until([&] { return user.shows(errorColor); }));
-    PostMessageW(window, WM_CLOSE, 0, 0);
-    EXPECT_EQ(running.exitCode(), 0U);
+    EXPECT_TRUE(until([&] { return used.user.shows(errorColor); }));
+    EXPECT_EQ(used.close(), 0U);
 }
 
 TEST_F(LogViewerSample, IsClosedInTheMiddleOfLoading) {
     append(lines(300'000));
-    const ToldProgram running(program().wstring(), words());
-    HWND window = running.window(L"Log");
-    ASSERT_NE(window, nullptr);
-    EXPECT_TRUE(until([&] { return wholeTitle(window).find(L" lines") != std::wstring::npos; }));
-    PostMessageW(window, WM_CLOSE, 0, 0);
-    EXPECT_EQ(running.exitCode(), 0U);
+    ProgramInUse used(program(), words(), L"Log");
+    EXPECT_TRUE(until([&] { return used.title().find(L" lines") != std::wstring::npos; }));
+    EXPECT_EQ(used.close(), 0U);
 }
 
 TEST_F(LogViewerSample, AsksForAFile) {

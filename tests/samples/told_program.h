@@ -5,8 +5,8 @@
 #include "samples/program_sample.h"
 #include "stage/user_input.h"
 
+#include <filesystem>
 #include <string>
-#include <vector>
 
 namespace lumtex::testing {
 
@@ -66,6 +66,28 @@ class ListUser {
 
     HWND list_;
     UserInput hands_{[] {}};
+};
+
+/// A program that is waited for until its window shows, with its user.
+class ProgramInUse {
+  public:
+    ProgramInUse(const std::filesystem::path& path, const std::wstring& words, const wchar_t* windowClass)
+        : running_(path.wstring(), words), window(running_.window(windowClass)), user(listIn(window)) {
+        EXPECT_NE(listIn(window), nullptr);
+    }
+    std::wstring title() const { return wholeTitle(window); }
+    /// As its user closes it. What it returns.
+    DWORD close() const {
+        PostMessageW(window, WM_CLOSE, 0, 0);
+        return running_.exitCode();
+    }
+
+  private:
+    ToldProgram running_;
+
+  public:
+    const HWND window;
+    ListUser user;
 };
 
 } // namespace lumtex::testing
