@@ -5,17 +5,14 @@
 // argument it measures the component alone, in those rows of the table whose names contain the argument: for
 // profiles. With --results it goes through all once, beside the system's list in both its ways, for
 // scripts/bench-peers.
-#include "LumtexListView.h"
-#include "sample_rows.h"
+#include "hosted_list.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <exception>
 #include <functional>
-#include <sstream>
-#include <stdexcept>
-#include <string>
 #include <vector>
 
 #include <commctrl.h>
@@ -23,71 +20,7 @@
 
 namespace {
 
-using namespace LumtexListView;
-using lumtex::bench::sampleRows;
-
-constexpr int columns = 5;
-constexpr int width = 1280;
-constexpr int height = 800;
-
-using Cells = std::vector<std::wstring>;
-
-/// The texts of one row, and all of them in one.
-struct Row {
-    std::wstring whole;
-    Cells cells;
-};
-
-std::vector<Row> rowsOf(int count) {
-    std::vector<Row> rows;
-    for (const std::string& text : sampleRows(count)) {
-        Row row{std::wstring(text.begin(), text.end()), {}};
-        std::wistringstream pieces(row.whole);
-        for (std::wstring cell; std::getline(pieces, cell, L'|');)
-            row.cells.push_back(cell);
-        rows.push_back(std::move(row));
-    }
-    return rows;
-}
-
-void must(bool done, const char* what) {
-    if (!done)
-        throw std::runtime_error(what);
-}
-
-/// A text for the length of a call.
-class Text {
-  public:
-    explicit Text(const std::wstring& text)
-        : text_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
-    Text(const Text&) = delete;
-    Text& operator=(const Text&) = delete;
-    ~Text() { SysFreeString(text_); }
-    operator BSTR() const { return text_; }
-    operator VARIANT() const {
-        VARIANT value;
-        value.vt = VT_BSTR;
-        value.bstrVal = text_;
-        return value;
-    }
-
-  private:
-    BSTR text_;
-};
-
-VARIANT number(long value) {
-    VARIANT result;
-    result.vt = VT_I4;
-    result.lVal = value;
-    return result;
-}
-
-HWND window(const wchar_t* className, DWORD style, HWND parent) {
-    HWND made = CreateWindowExW(
-        0, className, L"", style | WS_VISIBLE, 0, 0, width, height, parent, nullptr, nullptr, nullptr);
-    must(made != nullptr, "a window could not be made");
-    return made;
-}
+using namespace lumtex::bench;
 
 /// What each list can do; times are taken around these calls.
 class List {
@@ -108,54 +41,10 @@ class List {
 
 class Component final : public List {
   public:
-    explicit Component(HWND parent) : host_(window(L"AtlAxWin", WS_CHILD | WS_CLIPCHILDREN, parent)) {
-        const HMODULE library = LoadLibraryW(L"LumtexListView.ocx");
-        must(library != nullptr, "LumtexListView.ocx must lie beside this program");
-        const auto getClass = reinterpret_cast<HRESULT(WINAPI*)(REFCLSID, REFIID, void**)>(
-            reinterpret_cast<void*>(GetProcAddress(library, "DllGetClassObject")));
-        const auto attach = reinterpret_cast<HRESULT(WINAPI*)(IUnknown*, HWND, IUnknown**)>(
-            reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"atl.dll"), "AtlAxAttachControl")));
-        void* factory = nullptr;
-        must(SUCCEEDED(getClass(CLSID_lmListView, IID_IClassFactory, &factory)), "no class factory");
-        void* list = nullptr;
-        const HRESULT made =
-            static_cast<IClassFactory*>(factory)->CreateInstance(nullptr, IID__lmListView, &list);
-        static_cast<IClassFactory*>(factory)->Release();
-        must(SUCCEEDED(made), "no control");
-        list_ = static_cast<_lmListView*>(list);
-        must(attach != nullptr && SUCCEEDED(attach(list_, host_, nullptr)), "the container takes no control");
-        hold();
-        list_->put_RowsDynamic(VARIANT_FALSE);
-        for (const float pixels : {70, 200, 160, 120, 110})
-            list_->ColumnsAdd(Text(L"Column"),
-                              nullptr,
-                              nullptr,
-                              nullptr,
-                              cColumnLeft,
-                              pixels * 15,
-                              VARIANT_TRUE,
-                              0,
-                              Text(L""),
-                              Text(L""),
-                              0,
-                              0);
-    }
-    ~Component() override {
-        list_->Release();
-        DestroyWindow(host_);
-    }
-    void hold() override {
-        list_->put_AutoRedraw(VARIANT_FALSE);
-        list_->put_AutoCheckScroll(VARIANT_FALSE);
-    }
-    void show() override {
-        list_->put_AutoRedraw(VARIANT_TRUE);
-        list_->put_AutoCheckScroll(VARIANT_TRUE);
-    }
-    void add(const Row& row) override {
-        VARIANT atTheEnd = number(-1);
-        list_->RowsAdd(&atTheEnd, separator_, Text(row.whole));
-    }
+    explicit Component(HWND parent) : list_(parent) {}
+    void hold() override { list_.hold(); }
+    void show() override { list_.show(); }
+    void add(const Row& row) override { list_.add(row); }
     void removeFirst() override {
         VARIANT first = number(1);
         list_->RowsRemove(&first);
@@ -170,19 +59,13 @@ class Component final : public List {
         paint();
     }
     void paint() override {
-        UpdateWindow(host_);
+        UpdateWindow(list_.container());
         GdiFlush();
     }
-    int count() override {
-        long rows = 0;
-        list_->get_RowsCount(&rows);
-        return static_cast<int>(rows);
-    }
+    int count() override { return list_.count(); }
 
   private:
-    HWND host_;
-    _lmListView* list_ = nullptr;
-    Text separator_{L"|"};
+    HostedList list_;
 };
 
 // What both kinds of the system's list have in common.
@@ -394,14 +277,6 @@ const Measure measures[] = {
      removals},
 };
 
-/// Hosts call from their message loops, when nothing else waits there.
-void dispatchWhatWaits() {
-    for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE;) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
-}
-
 template <class Kind>
 double timeOnce(const Measure& measure, HWND parent, const std::vector<Row>& rows) {
     Kind list(parent);
@@ -456,9 +331,7 @@ void printResults(HWND parent, const std::vector<Row>& rows) {
 void run(const char* what) {
     const INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&classes);
-    const auto start = reinterpret_cast<BOOL(WINAPI*)()>(
-        reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"atl.dll"), "AtlAxWinInit")));
-    must(start != nullptr && start() != FALSE, "atl.dll is not there");
+    startContainers();
     HWND parent = window(L"STATIC", WS_POPUP | WS_CLIPCHILDREN, nullptr);
     const std::vector<Row> rows = rowsOf(loaded);
     if (what != nullptr && std::strcmp(what, "--results") == 0)
