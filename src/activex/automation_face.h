@@ -6,6 +6,7 @@
 #include "activex/com_guard.h"
 #include "activex/dual_arguments.h"
 #include "activex/face.h"
+#include "automation/argument_list.h"
 #include "worlds/win32/com_ref.h"
 
 #include <algorithm>
@@ -39,7 +40,7 @@ class AutomationFace : public Face<IDispatch> {
     HRESULT getBy(Long number, Result* result, Arguments... arguments) noexcept {
         return giving(
             result,
-            [&](automation::CallByName& byName, std::vector<Variant>& values) {
+            [&](automation::CallByName& byName, std::span<Variant> values) {
                 return byName.get(memberOf(number), values);
             },
             arguments...);
@@ -48,7 +49,7 @@ class AutomationFace : public Face<IDispatch> {
     HRESULT callBy(Long number, Result* result, Arguments... arguments) noexcept {
         return giving(
             result,
-            [&](automation::CallByName& byName, std::vector<Variant>& values) {
+            [&](automation::CallByName& byName, std::span<Variant> values) {
                 return byName.call(memberOf(number), values);
             },
             arguments...);
@@ -57,7 +58,7 @@ class AutomationFace : public Face<IDispatch> {
     HRESULT callBy(Long number, NoResult /*none*/, Arguments... arguments) noexcept {
         return entered([&] {
             passing([&](automation::CallByName& byName,
-                        std::vector<Variant>& values) { return byName.call(memberOf(number), values); },
+                        std::span<Variant> values) { return byName.call(memberOf(number), values); },
                     arguments...);
         });
     }
@@ -72,9 +73,7 @@ class AutomationFace : public Face<IDispatch> {
     }
 
   private:
-    using Assign = void (automation::CallByName::*)(const automation::Member&,
-                                                    std::span<Variant>,
-                                                    const Variant&);
+    using Assign = void (automation::CallByName::*)(const automation::Member&, std::span<Variant>, Variant);
 
     const automation::Member& memberOf(Long number) const;
     HRESULT told(const RuntimeError& error) const noexcept;
@@ -99,8 +98,8 @@ class AutomationFace : public Face<IDispatch> {
 
     template <class Call, class... Arguments>
     Variant passing(Call&& call, Arguments... arguments) {
-        std::vector<Variant> values;
-        values.reserve(sizeof...(Arguments));
+        automation::ArgumentList list;
+        auto& values = list.values();
         (appendArgument(values, arguments), ...);
         automation::CallByName byName = target_.byName();
         Variant value = call(byName, values);
@@ -122,12 +121,13 @@ class AutomationFace : public Face<IDispatch> {
     template <class... Arguments>
     HRESULT assigning(Assign assign, Long number, Arguments... arguments) noexcept {
         return entered([&] {
-            std::vector<Variant> values;
+            automation::ArgumentList list;
+            auto& values = list.values();
             (appendArgument(values, arguments), ...);
-            const Variant value = std::move(values.back());
+            Variant value = std::move(values.back());
             values.pop_back();
             automation::CallByName byName = target_.byName();
-            (byName.*assign)(memberOf(number), values, value);
+            (byName.*assign)(memberOf(number), values, std::move(value));
         });
     }
 

@@ -3,6 +3,7 @@
 
 #include "activex/argument_bridge.h"
 #include "activex/com_guard.h"
+#include "automation/argument_list.h"
 #include "guards/failure_of.h"
 #include "values/text.h"
 #include "values/variant_conversion.h"
@@ -11,6 +12,8 @@
 #include "worlds/win32/write_back.h"
 
 #include <algorithm>
+#include <memory_resource>
+#include <utility>
 #include <vector>
 
 namespace lumtex::win32 {
@@ -71,6 +74,7 @@ class Arguments {
     /// and RefusedArgument.
     Arguments(const automation::Member& member, const DISPPARAMS& parameters, UINT from)
         : parameters_(parameters) {
+        places_.reserve(automation::Member::mostParameters);
         const UINT named = parameters.cNamedArgs;
         const UINT positional = parameters.cArgs - named;
         if (!endsInList(member) && positional > member.count)
@@ -116,8 +120,11 @@ class Arguments {
     }
 
     const DISPPARAMS& parameters_;
-    std::vector<Variant> values_;
-    std::vector<UINT> places_;
+    automation::ArgumentList list_;
+    std::pmr::vector<Variant>& values_ = list_.values();
+    std::byte room_[automation::Member::mostParameters * sizeof(UINT)];
+    std::pmr::monotonic_buffer_resource beyond_{room_, sizeof(room_)};
+    std::pmr::vector<UINT> places_ = std::pmr::vector<UINT>(&beyond_);
 };
 
 /// Whether the value converts to the type; the control would refuse it else.
@@ -175,14 +182,14 @@ void assign(automation::CallByName& byName,
             const automation::Member& member,
             const DispatchCall& call,
             Arguments& arguments) {
-    const Variant value = valueAt(*call.parameters, 0);
+    Variant value = valueAt(*call.parameters, 0);
     const bool asReference = (call.kind & DISPATCH_PROPERTYPUTREF) != 0;
     // Some script languages have one way to assign for everything.
     if (asReference ? member.isReference() || (call.kind & DISPATCH_PROPERTYPUT) == 0
                     : member.isReference() && value.isObject())
-        byName.set(member, arguments.values(), value);
+        byName.set(member, arguments.values(), std::move(value));
     else
-        byName.let(member, arguments.values(), value);
+        byName.let(member, arguments.values(), std::move(value));
 }
 
 void describe(const RuntimeError& error, EXCEPINFO* details) {

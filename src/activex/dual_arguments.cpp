@@ -41,7 +41,7 @@ Variant dualArgument(IDispatch* object) {
     return fromVARIANT(value);
 }
 
-void appendArgument(std::vector<Variant>& arguments, SAFEARRAY* list) {
+void appendArgument(std::pmr::vector<Variant>& arguments, SAFEARRAY* list) {
     if (list == nullptr)
         return;
     if (SafeArrayGetDim(list) != 1)
@@ -58,7 +58,8 @@ void appendArgument(std::vector<Variant>& arguments, SAFEARRAY* list) {
 }
 
 void storeResult(const Variant& value, BSTR& place) {
-    place = newBSTR(value.toText());
+    const String* const text = value.text();
+    place = text != nullptr ? newBSTR(*text) : newBSTR(value.toText());
 }
 
 void storeResult(const Variant& value, VARIANT& place) {

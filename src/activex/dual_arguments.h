@@ -5,6 +5,7 @@
 #include "activex/argument_bridge.h"
 #include "worlds/win32/variant_bridge.h"
 
+#include <memory_resource>
 #include <vector>
 
 namespace lumtex::win32 {
@@ -53,10 +54,10 @@ Variant dualArgument(T* place) {
 
 /// Appends one argument, or each item of an array. A null array has no items.
 template <class T>
-void appendArgument(std::vector<Variant>& arguments, T value) {
+void appendArgument(std::pmr::vector<Variant>& arguments, T value) {
     arguments.push_back(dualArgument(value));
 }
-void appendArgument(std::vector<Variant>& arguments, SAFEARRAY* list);
+void appendArgument(std::pmr::vector<Variant>& arguments, SAFEARRAY* list);
 
 // What the control gave, put to where a caller wants it. What stood there before is not freed.
 

@@ -19,7 +19,7 @@ class Argument {
     T pass() { return static_cast<T>(value_); }
     void writeBack() {
         if constexpr (travelsBack<T>)
-            from_ = toVariant(value_);
+            from_ = toVariant(std::move(value_));
     }
 
   private:

@@ -1,10 +1,11 @@
 /// Calls by member names over Variants.
 #include "automation/call_by_name.h"
 
+#include "automation/argument_list.h"
 #include "values/runtime_error.h"
 
-#include <algorithm>
-#include <unordered_map>
+#include <optional>
+#include <utility>
 
 namespace lumtex::automation {
 
@@ -28,15 +29,6 @@ Variant valueOf(const DefaultValue& value) {
     return {};
 }
 
-/// Names hold no letters but A to Z.
-String inLowerCase(StringView name) {
-    String lower(name);
-    for (char16_t& unit : lower)
-        if (unit >= u'A' && unit <= u'Z')
-            unit = static_cast<char16_t>(unit - u'A' + u'a');
-    return lower;
-}
-
 Member::Invoke needEntry(Member::Invoke entry) {
     if (entry == nullptr)
         throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
@@ -47,25 +39,56 @@ bool endsInList(const Member& member) {
     return member.count > 0 && member.entries[member.count - 1].type.code == TypeCode::variantList;
 }
 
+/// The caller's arguments on their way through a call, complete with defaults. They are moved and not copied,
+/// since the copy of a text needs memory, and return to the caller when the call has ended, however it does.
+class LentArguments {
+  public:
+    LentArguments(const Member& member, std::span<Variant> callers)
+        : member_(member), callers_(callers), fixed_(endsInList(member) ? member.count - 1 : member.count) {
+        if (callers.size() > fixed_ && !endsInList(member))
+            throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
+    }
+    LentArguments(const LentArguments&) = delete;
+    LentArguments& operator=(const LentArguments&) = delete;
+    ~LentArguments() {
+        for (std::size_t i = 0; i < lent_; ++i)
+            // One that was left out stays so, whatever its default.
+            if (i >= fixed_ || !callers_[i].isMissing())
+                callers_[i] = std::move(all_.values()[i]);
+    }
+
+    /// `value` is what an assignment assigns; it comes last.
+    std::span<Variant> complete(std::optional<Variant> value) {
+        auto& all = all_.values();
+        for (; lent_ < callers_.size(); ++lent_)
+            all.push_back(std::move(callers_[lent_]));
+        for (std::size_t i = 0; i < fixed_; ++i) {
+            if (i == all.size())
+                all.emplace_back(Missing{});
+            if (all[i].isMissing())
+                all[i] = valueOf(member_.entries[i].defaultValue);
+        }
+        if (value)
+            all.push_back(std::move(*value));
+        return all;
+    }
+
+  private:
+    const Member& member_;
+    std::span<Variant> callers_;
+    std::size_t fixed_; ///< parameters that are no list
+    std::size_t lent_ = 0;
+    ArgumentList all_;
+};
+
 } // namespace
 
 const Member* findMember(const ClassDescription& of, StringView name) {
-    using Names = std::unordered_map<String, const Member*>;
-    static const auto byClass = [] {
-        std::unordered_map<StringView, Names> classes;
-        for (const ClassDescription& description : classTable())
-            for (const Member& member : description.members)
-                classes[description.name].emplace(inLowerCase(member.name), &member);
-        return classes;
-    }();
-    const Names& names = byClass.at(of.name);
-    const auto found = names.find(inLowerCase(name));
-    return found == names.end() ? nullptr : found->second;
+    return of.index.find(name);
 }
 
 const Member* findMember(const ClassDescription& of, Long number) {
-    const auto found = std::ranges::find(of.members, number, &Member::number);
-    return found == of.members.end() ? nullptr : &*found;
+    return of.index.find(number);
 }
 
 const Member& CallByName::needMember(StringView name) const {
@@ -79,12 +102,12 @@ Variant CallByName::get(StringView name, std::span<Variant> arguments) {
     return get(needMember(name), arguments);
 }
 
-void CallByName::let(StringView name, std::span<Variant> arguments, const Variant& value) {
-    let(needMember(name), arguments, value);
+void CallByName::let(StringView name, std::span<Variant> arguments, Variant value) {
+    let(needMember(name), arguments, std::move(value));
 }
 
-void CallByName::set(StringView name, std::span<Variant> arguments, const Variant& value) {
-    set(needMember(name), arguments, value);
+void CallByName::set(StringView name, std::span<Variant> arguments, Variant value) {
+    set(needMember(name), arguments, std::move(value));
 }
 
 Variant CallByName::call(StringView name, std::span<Variant> arguments) {
@@ -92,47 +115,32 @@ Variant CallByName::call(StringView name, std::span<Variant> arguments) {
 }
 
 Variant CallByName::get(const Member& member, std::span<Variant> arguments) {
-    return invoke(member, needEntry(member.get), arguments, nullptr);
+    return invoke(member, needEntry(member.get), arguments, std::nullopt);
 }
 
-void CallByName::let(const Member& member, std::span<Variant> arguments, const Variant& value) {
+void CallByName::let(const Member& member, std::span<Variant> arguments, Variant value) {
     if (member.isReference())
         throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
-    invoke(member, needEntry(member.let), arguments, &value);
+    invoke(member, needEntry(member.let), arguments, std::move(value));
 }
 
-void CallByName::set(const Member& member, std::span<Variant> arguments, const Variant& value) {
+void CallByName::set(const Member& member, std::span<Variant> arguments, Variant value) {
     if (!member.isReference())
         throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
-    invoke(member, needEntry(member.let), arguments, &value);
+    invoke(member, needEntry(member.let), arguments, std::move(value));
 }
 
 Variant CallByName::call(const Member& member, std::span<Variant> arguments) {
-    return invoke(member, needEntry(member.call), arguments, nullptr);
+    return invoke(member, needEntry(member.call), arguments, std::nullopt);
 }
 
 /// `value` is what an assignment assigns.
 Variant CallByName::invoke(const Member& member,
                            Member::Invoke entry,
                            std::span<Variant> arguments,
-                           const Variant* value) {
-    const std::size_t fixed = endsInList(member) ? member.count - 1 : member.count;
-    if (arguments.size() > fixed && !endsInList(member))
-        throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
-
-    std::vector<Variant> all(arguments.begin(), arguments.end());
-    all.resize(std::max(all.size(), fixed), Missing{});
-    for (std::size_t i = 0; i < fixed; ++i)
-        if (all[i].isMissing())
-            all[i] = valueOf(member.entries[i].defaultValue);
-    if (value != nullptr)
-        all.push_back(*value);
-
-    Variant result = entry(object_, all, callers_);
-    for (std::size_t i = 0; i < std::min(arguments.size(), fixed); ++i)
-        if (member.entries[i].byReference && !arguments[i].isMissing())
-            arguments[i] = std::move(all[i]);
-    return result;
+                           std::optional<Variant> value) {
+    LentArguments lent(member, arguments);
+    return entry(object_, lent.complete(std::move(value)), callers_);
 }
 
 } // namespace lumtex::automation

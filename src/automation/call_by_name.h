@@ -6,7 +6,7 @@
 #include "guards/error.h"
 #include "model/list_view.h"
 
-#include <vector>
+#include <optional>
 
 namespace lumtex::automation {
 
@@ -32,8 +32,8 @@ class CallByName {
 
     Variant get(StringView name, std::span<Variant> arguments = {});
     /// Assigns a value. A reference is assigned with `set` alone, and only a reference.
-    void let(StringView name, std::span<Variant> arguments, const Variant& value);
-    void set(StringView name, std::span<Variant> arguments, const Variant& value);
+    void let(StringView name, std::span<Variant> arguments, Variant value);
+    void set(StringView name, std::span<Variant> arguments, Variant value);
     Variant call(StringView name, std::span<Variant> arguments = {});
 
     /// How the caller writes numbers and dates; arguments are converted by it. Null: as the control does.
@@ -43,16 +43,18 @@ class CallByName {
     // The same with a member of the class that was looked up before.
 
     Variant get(const Member& member, std::span<Variant> arguments);
-    void let(const Member& member, std::span<Variant> arguments, const Variant& value);
-    void set(const Member& member, std::span<Variant> arguments, const Variant& value);
+    void let(const Member& member, std::span<Variant> arguments, Variant value);
+    void set(const Member& member, std::span<Variant> arguments, Variant value);
     Variant call(const Member& member, std::span<Variant> arguments);
 
   private:
     CallByName(const ClassDescription& description, void* object) : class_(description), object_(object) {}
 
     const Member& needMember(StringView name) const;
-    Variant
-    invoke(const Member& member, Member::Invoke entry, std::span<Variant> arguments, const Variant* value);
+    Variant invoke(const Member& member,
+                   Member::Invoke entry,
+                   std::span<Variant> arguments,
+                   std::optional<Variant> value);
 
     const ClassDescription& class_;
     void* object_;

@@ -5,9 +5,9 @@ namespace lumtex::automation {
 
 std::span<const ClassDescription> classTable() {
     static const auto all = std::to_array<ClassDescription>({
-        {u"lmListView", words::phrase(u"class", u"lmListView"), memberTable()},
-        {u"SpEv", words::phrase(u"class", u"SpEv"), spEvMembers()},
-        {u"Error", words::phrase(u"class", u"Error"), errorMembers()},
+        {u"lmListView", words::phrase(u"class", u"lmListView"), memberTable(), MemberIndex(memberTable())},
+        {u"SpEv", words::phrase(u"class", u"SpEv"), spEvMembers(), MemberIndex(spEvMembers())},
+        {u"Error", words::phrase(u"class", u"Error"), errorMembers(), MemberIndex(errorMembers())},
     });
     return all;
 }

@@ -2,6 +2,7 @@
 /// The public classes of the component.
 #pragma once
 
+#include "automation/member_index.h"
 #include "automation/member_table.h"
 
 namespace lumtex::automation {
@@ -10,6 +11,7 @@ struct ClassDescription {
     StringView name;
     words::Phrase help;
     std::span<const Member> members;
+    MemberIndex index; ///< of `members`
 };
 
 const ClassDescription& listViewClass();

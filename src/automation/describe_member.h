@@ -14,11 +14,11 @@
 namespace lumtex::automation::detail {
 
 template <class T>
-Variant resultOf(const T& value) {
+Variant resultOf(T value) {
     if constexpr (std::is_same_v<T, FindResults>)
         return makeFoundRecord(value);
     else
-        return toVariant(value);
+        return toVariant(std::move(value));
 }
 
 /// A parameter's name, and what its absence means.

@@ -5,6 +5,7 @@
 #include "values/variant.h"
 
 #include <type_traits>
+#include <utility>
 
 namespace lumtex {
 
@@ -41,11 +42,11 @@ T fromVariant(const Variant& value) {
 
 /// An enumeration travels as a Long.
 template <class T>
-Variant toVariant(const T& value) {
+Variant toVariant(T value) {
     if constexpr (std::is_enum_v<T>)
         return static_cast<Long>(value);
     else
-        return value;
+        return Variant(std::move(value));
 }
 
 } // namespace lumtex

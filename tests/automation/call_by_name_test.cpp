@@ -1,4 +1,5 @@
 #include "automation/call_by_name.h"
+#include "automation/found_record.h"
 #include "error_number.h"
 #include "list_fixture.h"
 #include "variant_printing.h"
@@ -135,6 +136,39 @@ TEST_F(CallingByName, AListOfArgumentsMayBeAsLongAsTheCallerLikes) {
     EXPECT_EQ(list.ColumnWidth(3), 150);
     byName.call(u"AutoColumnSize");
     EXPECT_EQ(list.ColumnWidth(2), 150);
+}
+
+TEST_F(CallingByName, AListLongerThanAnyMembersParametersReturnsToTheCallerToo) {
+    addColumns({50, 50});
+    std::vector<Variant> columns(40, Variant(u"1"));
+    columns.back() = u"the second column is not named";
+    const std::vector<Variant> before = columns;
+    byName.call(u"AutoColumnSize", columns);
+    EXPECT_EQ(columns, before);
+    EXPECT_EQ(list.ColumnWidth(1), 150);
+    EXPECT_EQ(list.ColumnWidth(2), 750);
+}
+
+TEST_F(CallingByName, ArgumentsAreTheCallersAgainAfterACall) {
+    const String longText(40, u'x');
+    auto row = with(Missing{}, u";", longText);
+    addColumns({50});
+    byName.call(u"RowsAdd", row);
+    EXPECT_EQ(row, with(Missing{}, u";", longText)) << "what was left out stays so";
+    auto text = with(longText);
+    EXPECT_EQ(byName.call(u"WrongIndex", text), Variant(true));
+    EXPECT_EQ(text, with(longText));
+}
+
+TEST_F(CallingByName, ArgumentsAreTheCallersAgainAfterARefusal) {
+    const String longText(40, u'x');
+    const ObjectRef object = automation::makeFoundRecord({});
+    auto column = with(u"Name", Missing{}, Missing{}, Missing{}, longText);
+    EXPECT_EQ(errorNumberOf([&] { byName.call(u"ColumnsAdd", column); }), ErrorNumber::typeMismatch);
+    EXPECT_EQ(column, with(u"Name", Missing{}, Missing{}, Missing{}, longText));
+    auto search = with(Missing{}, Long{cFindStart}, object, longText);
+    EXPECT_EQ(errorNumberOf([&] { byName.call(u"FindItem", search); }), ErrorNumber::argumentNotOptional);
+    EXPECT_EQ(search, with(Missing{}, Long{cFindStart}, object, longText));
 }
 
 TEST_F(CallingByName, MembersAreFoundByTheirNumbersToo) {
