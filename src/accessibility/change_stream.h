@@ -5,6 +5,7 @@
 #include "accessibility/accessible_list.h"
 #include "accessibility/list_reader.h"
 
+#include <memory>
 #include <vector>
 
 namespace lumtex::accessibility {
@@ -65,7 +66,8 @@ class ChangeStream {
 
     const AccessibleList& list_;
     ListViewCore& core_;
-    ChangeListener listener_;
+    /// Shared, as it may be let go while it is called.
+    std::shared_ptr<const ChangeListener> listener_;
     Numbers numbers_;
     Shown shown_;
     std::vector<Change> changes_;
