@@ -6,6 +6,7 @@
 #include "values/version.h"
 #include "worlds/common/nesting_level.h"
 #include "worlds/win32/object_bridge.h"
+#include "worlds/win32/thread_slot.h"
 #include "worlds/win32/win32_locale.h"
 
 #include <limits>
@@ -15,6 +16,9 @@
 namespace lumtex::win32 {
 
 namespace {
+
+/// Before a runtime is made, and so before anybody asks for the state of a thread.
+[[maybe_unused]] const bool slotIsUsed = (useThreadSlot(), true);
 
 /// Of this thread. Not with the rest of what a thread shares (`ThreadState`): only this world has boxes of
 /// the system's.
