@@ -5,7 +5,6 @@
 #include "values/locale.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstring>
 #include <optional>
@@ -105,10 +104,14 @@ Double NumberReader::readKnownDate(const CompactText& text) {
     std::memcpy(&low, whole.data(), sizeof low);
     std::memcpy(&high, whole.data() + sizeof low, sizeof high);
     const std::uint64_t mixed = (low ^ (high * 0x9E3779B97F4A7C15U)) * 0xC2B2AE3D27D4EB4FU;
-    KnownDate& known = knownDates_[mixed >> (64U - bitsOfPlace)];
-    if (known.low != low || known.high != high)
-        known = {low, high, readText(text)};
-    return known.key;
+    Place& place = knownDates_[mixed >> (64U - bitsOfPlace)];
+    for (const KnownDate& known : place)
+        if (known.low == low && known.high == high)
+            return known.key;
+    const Double key = readText(text);
+    std::ranges::move_backward(place.begin(), place.end() - 1, place.end());
+    place.front() = {low, high, key};
+    return key;
 }
 
 /// A date that was read has whole seconds; a number of days need not.

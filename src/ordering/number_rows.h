@@ -5,6 +5,7 @@
 #include "records/compact_text.h"
 #include "records/enumerations.h"
 
+#include <array>
 #include <cstdint>
 #include <limits>
 #include <utility>
@@ -41,9 +42,12 @@ class NumberReader {
     Double readText(const CompactText& text);
     Double readDate();
 
+    /// A century has 36,525 days; a column may hold all of them.
     static constexpr unsigned bitsOfPlace = 14;
+    static constexpr std::size_t datesInPlace = 4;
 
-    std::vector<KnownDate> knownDates_; ///< by what their texts mix to
+    using Place = std::array<KnownDate, datesInPlace>; ///< the last one read comes first
+    std::vector<Place> knownDates_;                    ///< by what their texts mix to
     cSortType type_;
     unsigned char decimalMark_ = 0; ///< of plain numbers; 0 if it is no single byte
     bool readsBack_ = false;

@@ -1,6 +1,8 @@
 /// Dates that a reader met before are known by their texts, and never taken for another's.
 #include "ordering/number_rows.h"
 #include "ordering/sort_keys.h"
+#include "values/fixed_locale.h"
+#include "values/locale.h"
 #include "values/variant.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +12,30 @@ namespace {
 
 using ordering::numberKey;
 using ordering::NumberReader;
+
+/// The invariant one, which counts the dates that it was asked to read.
+class CountingLocale final : public Locale {
+  public:
+    NumberFromText readNumber(StringView text) const override { return rules_.readNumber(text); }
+    std::optional<Date> readDate(StringView text) const override {
+        ++datesRead;
+        return rules_.readDate(text);
+    }
+    String textOf(LongLong value) const override { return rules_.textOf(value); }
+    String textOf(UnsignedLongLong value) const override { return rules_.textOf(value); }
+    String textOf(Single value) const override { return rules_.textOf(value); }
+    String textOf(Double value) const override { return rules_.textOf(value); }
+    String textOf(Currency value) const override { return rules_.textOf(value); }
+    String textOf(const Decimal& value) const override { return rules_.textOf(value); }
+    String textOf(Date value) const override { return rules_.textOf(value); }
+    String dateText(Date date) const override { return rules_.dateText(date); }
+    String timeText(Date date) const override { return rules_.timeText(date); }
+
+    mutable int datesRead = 0;
+
+  private:
+    const Locale& rules_ = invariantLocale();
+};
 
 String digits(Long value) {
     return Variant(value).toText();
@@ -25,6 +51,28 @@ TEST(NumberReader, GivesEachDateItsOwnKeyHoweverManyItMet) {
             ASSERT_EQ(reader.read(CompactText(text)), numberKey(text, cSortDate)) << turn << " " << minute;
         }
     }
+}
+
+TEST(NumberReader, GivesEachDateItsOwnKeyBeyondWhatItsPlacesHold) {
+    constexpr int days = 80000;
+    NumberReader reader(cSortDate);
+    for (const int turn : {1, 2})
+        for (int day = 1; day <= days; ++day)
+            ASSERT_EQ(reader.read(CompactText(textFromDate(Date{static_cast<Double>(day)}))), day) << turn;
+}
+
+TEST(NumberReader, ReadsTheDaysOfAGenerationHardlyMoreThanOnce) {
+    constexpr int first = 32874; // 1 January 1990
+    constexpr int days = 13514;
+    const CountingLocale locale;
+    const UsingLocale inForce(locale);
+    NumberReader reader(cSortDate);
+    const int before = locale.datesRead;
+    for (int turn = 0; turn < 5; ++turn)
+        for (int day = first; day < first + days; ++day)
+            ASSERT_EQ(reader.read(CompactText(textFromDate(Date{static_cast<Double>(day)}))), day);
+    EXPECT_LE(locale.datesRead - before, days + days / 20);
+    EXPECT_GE(locale.datesRead - before, days);
 }
 
 TEST(NumberReader, KeepsNothingOfWhatIsNoDate) {
