@@ -1,9 +1,11 @@
 #include "records/compact_text.h"
 
+#include "records/block_pool.h"
 #include "values/unit_blocks.h"
 
 #include <cstring>
 #include <limits>
+#include <new>
 #include <stdexcept>
 
 namespace lumtex {
@@ -14,6 +16,22 @@ constexpr std::size_t longestText = std::numeric_limits<std::uint32_t>::max();
 
 constexpr bool fitsBytes(char16_t bits) {
     return bits < 256;
+}
+
+/// Texts of one column that differ in length are read one after another, and slabs would put them far apart.
+/// An allocator keeps them together, and what it adds is little beside a text that is longer than this.
+constexpr std::size_t longestPooled = 64;
+
+unsigned char* takeBytes(std::size_t size) {
+    return static_cast<unsigned char*>(size <= longestPooled ? BlockPool::takeOfThread(size)
+                                                             : ::operator new(size));
+}
+
+void giveBackBytes(unsigned char* bytes, std::size_t size) {
+    if (size <= longestPooled)
+        BlockPool::giveBackOfThread(bytes, size);
+    else
+        ::operator delete(bytes);
 }
 
 void demandStorable(std::size_t length) {
@@ -46,12 +64,13 @@ void CompactText::store(StringView text) {
     }
     demandStorable(text.size());
     if (fitsBytes(bitsOf(text.data(), text.size()))) {
-        auto* memory = new unsigned char[text.size()];
+        auto* const memory = takeBytes(text.size());
         copyUnits(text.data(), text.size(), memory);
         setHeap(memory, text.size(), narrowOnHeap);
     } else {
-        auto* memory = new unsigned char[text.size() * sizeof(char16_t)];
-        std::memcpy(memory, text.data(), text.size() * sizeof(char16_t));
+        const std::size_t size = text.size() * sizeof(char16_t);
+        auto* const memory = takeBytes(size);
+        std::memcpy(memory, text.data(), size);
         setHeap(memory, text.size(), wideOnHeap);
     }
 }
@@ -63,14 +82,14 @@ void CompactText::store(std::span<const unsigned char> units) {
         return;
     }
     demandStorable(units.size());
-    auto* memory = new unsigned char[units.size()];
+    auto* const memory = takeBytes(units.size());
     std::memcpy(memory, units.data(), units.size());
     setHeap(memory, units.size(), narrowOnHeap);
 }
 
 void CompactText::release() {
     if (onHeap())
-        delete[] heap();
+        giveBackBytes(heap(), heapLength() * (isWide() ? sizeof(char16_t) : 1));
 }
 
 String CompactText::toString() const {

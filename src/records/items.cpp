@@ -1,5 +1,8 @@
 #include "records/items.h"
 
+#include "records/block_pool.h"
+
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -7,12 +10,19 @@
 
 namespace lumtex {
 
-Items::Block* Items::allocate(std::size_t capacity) {
+/// Bytes of a block, in which there is room for a successor at any time.
+std::size_t Items::sizeOf(std::size_t capacity, bool hasExtras) {
+    const std::size_t behind = capacity * sizeof(ListViewItem) + (hasExtras ? Block::pointerSize : 0);
+    const std::size_t size = sizeof(Block) + std::max(behind, Block::pointerSize);
+    return (size + alignof(Block) - 1) / alignof(Block) * alignof(Block);
+}
+
+Items::Block* Items::allocate(std::size_t capacity, bool hasExtras) {
     if (capacity > Block::mostCells)
         throw std::length_error("a row holds too many cells");
-    void* memory = ::operator new(sizeof(Block) + capacity * sizeof(ListViewItem));
-    auto* block = new (memory) Block;
+    auto* block = new (BlockPool::takeOfThread(sizeOf(capacity, hasExtras))) Block;
     block->capacity = capacity;
+    block->hasExtras = hasExtras ? 1 : 0;
     return block;
 }
 
@@ -20,20 +30,21 @@ void Items::release(Block* block) {
     while (block != nullptr && --block->references == 0) {
         Block* next = nullptr;
         if (block->moved != 0) {
-            next = block->successor;
+            next = block->successor();
         } else {
-            delete block->extras;
+            delete block->extras();
             std::destroy_n(block->cells(), block->count);
         }
+        const std::size_t size = sizeOf(block->capacity, block->hasExtras != 0);
         block->~Block();
-        ::operator delete(block);
+        BlockPool::giveBackOfThread(block, size);
         block = next;
     }
 }
 
 Items Items::create(std::size_t capacity) {
     Items items;
-    items.block_ = allocate(capacity);
+    items.block_ = allocate(capacity, false);
     return items;
 }
 
@@ -56,49 +67,53 @@ Items::~Items() {
 Items::Block* Items::followed() const {
     while (block_->moved != 0) {
         Block* const signpost = block_;
-        block_ = shared(signpost->successor);
+        block_ = shared(signpost->successor());
         release(signpost);
     }
     return block_;
 }
 
-Items::Block* Items::grow(std::size_t capacity) {
+/// All holders find their cells in a larger block.
+Items::Block* Items::moveTo(std::size_t capacity, bool hasExtras) {
     Block* old = block();
-    Block* larger = allocate(capacity);
+    Block* larger = allocate(capacity, hasExtras);
     std::uninitialized_move_n(old->cells(), old->count, larger->cells());
     std::destroy_n(old->cells(), old->count);
     larger->count = old->count;
-    larger->extras = old->extras;
+    if (hasExtras)
+        larger->letExtras(old->extras());
     old->count = 0;
     old->moved = 1;
-    old->successor = larger;
+    old->letSuccessor(larger);
     return block();
 }
 
 void Items::append(StringView text, const StyleLease& style) {
     Block* current = block();
     if (current == nullptr)
-        current = block_ = allocate(1);
+        current = block_ = allocate(1, false);
     if (current->count == current->capacity)
-        current = grow(static_cast<std::size_t>(current->count) + 1);
+        current = moveTo(static_cast<std::size_t>(current->count) + 1, current->hasExtras != 0);
     new (current->cells() + current->count) ListViewItem(text, style);
     ++current->count;
 }
 
 const CellExtras* Items::extras(std::size_t index) const {
     const Block* current = block();
-    if (current == nullptr || current->extras == nullptr || index >= current->extras->size())
-        return nullptr;
-    return (*current->extras)[index].get();
+    const Extras* const extras = current != nullptr ? current->extras() : nullptr;
+    return extras != nullptr && index < extras->size() ? (*extras)[index].get() : nullptr;
 }
 
 CellExtras& Items::needExtras(std::size_t index) {
     Block* current = block();
-    if (current->extras == nullptr)
-        current->extras = new Block::Extras;
-    if (current->extras->size() <= index)
-        current->extras->resize(index + 1);
-    std::unique_ptr<CellExtras>& slot = (*current->extras)[index];
+    if (current->hasExtras == 0)
+        current = moveTo(current->capacity, true);
+    if (current->extras() == nullptr)
+        current->letExtras(new Extras);
+    Extras& extras = *current->extras();
+    if (extras.size() <= index)
+        extras.resize(index + 1);
+    std::unique_ptr<CellExtras>& slot = extras[index];
     if (!slot)
         slot = std::make_unique<CellExtras>();
     return *slot;
@@ -111,7 +126,7 @@ void Items::exchangeCell(std::size_t index, Items& other) {
     if (extras(index) != nullptr || other.extras(index) != nullptr) {
         needExtras(index);
         other.needExtras(index);
-        std::swap((*block()->extras)[index], (*other.block()->extras)[index]);
+        std::swap((*block()->extras())[index], (*other.block()->extras())[index]);
     }
     ListViewItem* const mine = &(*this)[index];
     ListViewItem* const theirs = &other[index];

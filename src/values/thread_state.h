@@ -6,6 +6,7 @@
 
 namespace lumtex {
 
+class BlockPool;
 class CellStyles;
 class ReleaseBin;
 class UsingLocale;
@@ -21,6 +22,7 @@ struct ThreadState {
     // thread's end still gives its counts back and lets go of what it holds.
     ReleaseBin* releaseBin = nullptr;
     CellStyles* cellStyles = nullptr;
+    BlockPool* blockPool = nullptr;
 
     /// Gives the calling thread's own, at every call the same one.
     using Finder = ThreadState& (*)();
