@@ -20,6 +20,8 @@ class FindMatcher {
     bool matches(const CompactText& text) const { return !refuses(text) && matchesWhatMay(text); }
     /// No match, by a look that runs no code of the host. What is not refused must be asked for.
     bool refuses(const CompactText& text) const { return !filter_.mayMatch(text); }
+    /// Marks for what is not refused.
+    ByteFilter::Marks marksOf(const CompactText& text) const { return filter_.marksOf(text); }
     bool matches(StringView text) const;
 
   private:

@@ -160,19 +160,35 @@ bool LikePattern::matchesUnits(const Unit* text, std::size_t size) const {
     return true;
 }
 
-/// Literals that at most two bytes are: letters in both cases, mostly.
+/// The bytes that such an element is, where it is a literal that at most two bytes are: a letter in both
+/// cases, mostly.
+std::optional<ByteFilter::Demand> LikePattern::demandOf(const Element& element) const {
+    if (element.kind != Element::literal)
+        return std::nullopt;
+    std::vector<unsigned char> bytes;
+    for (unsigned byte = 0; byte < 256; ++byte) {
+        if (letter(static_cast<char16_t>(byte)) == element.unit)
+            bytes.push_back(static_cast<unsigned char>(byte));
+    }
+    if (bytes.empty() || bytes.size() > 2)
+        return std::nullopt;
+    return ByteFilter::Demand{bytes.front(), bytes.back()};
+}
+
 ByteFilter LikePattern::filter() const {
     ByteFilter filter;
-    for (const Element& element : elements_) {
-        if (element.kind != Element::literal)
-            continue;
-        std::vector<unsigned char> bytes;
-        for (unsigned byte = 0; byte < 256; ++byte) {
-            if (letter(static_cast<char16_t>(byte)) == element.unit)
-                bytes.push_back(static_cast<unsigned char>(byte));
+    for (const Segment& segment : segments_) {
+        std::optional<ByteFilter::Demand> before;
+        for (std::size_t i = 0; i < segment.length; ++i) {
+            const std::optional<ByteFilter::Demand> demand = demandOf(elements_[segment.first + i]);
+            if (before && demand) {
+                filter.demandPair(*before, *demand);
+                return filter;
+            }
+            if (demand)
+                filter.demand(*demand);
+            before = demand;
         }
-        if (bytes.size() == 1 || bytes.size() == 2)
-            filter.demand(bytes.front(), bytes.back());
     }
     return filter;
 }

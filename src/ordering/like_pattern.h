@@ -7,6 +7,7 @@
 
 #include <bitset>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -73,6 +74,7 @@ class LikePattern {
     const Unit* find(const Segment& segment, const Unit* from, const Unit* end) const;
     bool accepts(const Element& element, char16_t unit) const;
     char16_t letter(char16_t unit) const;
+    std::optional<ByteFilter::Demand> demandOf(const Element& element) const;
 
     std::vector<Element> elements_;
     std::vector<List> lists_;

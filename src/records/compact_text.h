@@ -50,6 +50,14 @@ class CompactText {
 
     /// Where the text lies inside: sixteen bytes, of which it takes the first ones; else null.
     const unsigned char* insideBytes() const { return onHeap() ? nullptr : bytes_.data(); }
+    /// The same of any text in bytes: outside of a cell it takes them all, sixteen or more.
+    std::span<const unsigned char> bytesAround() const {
+        // Chosen without a branch, as nobody foresees which of the next texts are long.
+        const std::array<const unsigned char*, 2> places = {bytes_.data(), heap()};
+        const std::array<std::size_t, 2> sizes = {bytes_.size(), heapLength()};
+        const std::size_t place = onHeap() ? 1 : 0;
+        return {places[place], sizes[place]};
+    }
     /// Has the machine fetch a text that is about to be looked at.
     LUMTEX_PREFETCHING void prefetch() const {
         if (onHeap())

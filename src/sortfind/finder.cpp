@@ -74,16 +74,18 @@ bool Finder::readNotation(
 
 /// Goes through the cells of the lists from the stored place on, until `test` says that one is a hit. A cell
 /// that is not there is read through `report`, by whose name the failure goes, and ends the search. What
-/// `refuses` says of a cell, without host code, spares its row a test of each cell.
-template <class Refuses, class Test, class Report>
-FindResults Finder::scan(Refuses refuses, Test test, Report report) {
+/// `rowRefused` says of a row's cells, without host code, spares them a test of each.
+template <class RowRefused, class Test, class Report>
+FindResults Finder::scan(RowRefused rowRefused, Test test, Report report) {
     const auto rowEnd = static_cast<std::int64_t>(state_.findRowList.size());
     const auto columnEnd = static_cast<std::int64_t>(state_.findColumnList.size());
     if (state_.findColumnPos >= columnEnd)
         return {};
+    const auto lastColumn = static_cast<std::size_t>(std::max(records_.ColumnsCount() - 1, Long{0}));
     for (std::int64_t r = state_.findRowPos; r < rowEnd; ++r) {
-        records_.rows().prefetch(static_cast<std::size_t>(r) + rowsAhead, 0);
-        if (rowRefused(state_.findRowList.at(static_cast<std::size_t>(r)), refuses))
+        records_.rows().prefetch(static_cast<std::size_t>(r) + rowsAhead, lastColumn);
+        const Items* const inRow = records_.cellsOf(state_.findRowList.at(static_cast<std::size_t>(r)), 1);
+        if (inRow != nullptr && rowRefused(*inRow))
             continue;
         // Wanted: each row starts at the stored column, so that a continued search leaves out those before
         // it.
@@ -104,20 +106,17 @@ FindResults Finder::scan(Refuses refuses, Test test, Report report) {
 }
 
 /// Whether each cell that is searched in the row is there and no hit.
-template <class Refuses>
-bool Finder::rowRefused(Long row, Refuses refuses) {
-    const Items* const cells = records_.cellsOf(row, 1);
-    if (cells == nullptr)
-        return false;
-    const std::size_t count = cells->count();
+bool Finder::textsRefused(const ordering::FindMatcher& matcher, const Items& cells) {
+    const std::size_t count = cells.count();
     const auto columnEnd = static_cast<std::int64_t>(state_.findColumnList.size());
+    ordering::ByteFilter::Marks marks;
     for (std::int64_t c = state_.findColumnPos; c < columnEnd; ++c) {
         const Long column = state_.findColumnList.at(static_cast<std::size_t>(c));
-        if (column < 1 || static_cast<std::size_t>(column) > count ||
-            !refuses(*cells, static_cast<std::size_t>(column) - 1))
+        if (column < 1 || static_cast<std::size_t>(column) > count)
             return false;
+        marks |= matcher.marksOf(cells[static_cast<std::size_t>(column) - 1].text());
     }
-    return true;
+    return !marks.any();
 }
 
 /// `r` and `c` are positions in the lists, from 0.
@@ -135,14 +134,14 @@ FindResults Finder::noteHit(Long r, Long c) {
 }
 
 FindResults Finder::scanTexts(const ordering::FindMatcher& matcher) {
-    return scan([&](const Items& items, std::size_t cell) { return matcher.refuses(items[cell].text()); },
+    return scan([&](const Items& items) { return textsRefused(matcher, items); },
                 [&](const Items& items, std::size_t cell) { return matcher.matches(items[cell].text()); },
                 [&](Long row, Long column) { list_.ItemText(row, column); });
 }
 
 /// A tag without a text form is reported and no hit.
 FindResults Finder::scanTags(const ordering::FindMatcher& matcher, Procedure& p) {
-    return scan([](const Items& /*items*/, std::size_t /*cell*/) { return false; },
+    return scan([](const Items& /*items*/) { return false; },
                 [&](const Items& items, std::size_t cell) {
                     const CellExtras* extras = items.extras(cell);
                     String tag;

@@ -35,10 +35,9 @@ class Finder : private ListPart {
         StringView text, Long limit, String& cachedText, ordering::NumberList& cachedList, Procedure& p);
     FindResults scanTexts(const ordering::FindMatcher& matcher);
     FindResults scanTags(const ordering::FindMatcher& matcher, Procedure& p);
-    template <class Refuses, class Test, class Report>
-    FindResults scan(Refuses refuses, Test test, Report report);
-    template <class Refuses>
-    bool rowRefused(Long row, Refuses refuses);
+    template <class RowRefused, class Test, class Report>
+    FindResults scan(RowRefused rowRefused, Test test, Report report);
+    bool textsRefused(const ordering::FindMatcher& matcher, const Items& cells);
     FindResults noteHit(Long r, Long c);
 
     State state_;

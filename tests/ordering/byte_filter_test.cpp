@@ -34,7 +34,7 @@ TEST(ByteFilter, RefusesNoTextThatMatches) {
         const String pattern = u"*" + draws.text(u"aAbKk1?#\u00E4\u00C4\u00B5\u03BC\u0416\u212A", 3) +
                                (round % 8 != 0 ? u"*" : u"");
         // Up to fifteen units stay inside a cell; longer texts, and wide ones, do not.
-        const String text = draws.text(round % 3 != 0 ? u"aAbBkK1\u00E4\u00B5" : u"aK1\u0436\u212A", 24);
+        const String text = draws.text(round % 3 != 0 ? u"aAbBkK1\u00E4\u00B5" : u"aK1\u0436\u212A", 40);
         const CompactText cell(text);
         for (const auto letters : {LikePattern::byUnit, LikePattern::folded}) {
             const LikePattern like(pattern, letters);
@@ -56,10 +56,42 @@ TEST(ByteFilter, AsksForTwoBytesInOneCaseOrBoth) {
         const auto with = [&](StringView start) { return String(start) + String(rest); };
         EXPECT_FALSE(may(u"*Q7*", LikePattern::byUnit, with(u"q7")));
         EXPECT_FALSE(may(u"*Q7*", LikePattern::folded, with(u"q6")));
-        EXPECT_TRUE(may(u"*Q7*", LikePattern::folded, with(u"7q"))) << "the order is left to the pattern";
-        EXPECT_TRUE(may(u"*Q7*", LikePattern::byUnit, with(u"7 Q")));
+        EXPECT_FALSE(may(u"*Q7*", LikePattern::folded, with(u"7q")));
+        EXPECT_FALSE(may(u"*Q7*", LikePattern::byUnit, with(u"Q 7")));
+        EXPECT_TRUE(may(u"*Q7*", LikePattern::folded, with(u"-q7")));
+        EXPECT_TRUE(may(u"*Q?7*", LikePattern::byUnit, with(u"7Q"))) << "the order is left to the pattern";
+        EXPECT_FALSE(may(u"*Q*7*", LikePattern::byUnit, with(u"q7")));
+        EXPECT_FALSE(may(u"*Q*?*", LikePattern::byUnit, with(u"q7")));
         EXPECT_FALSE(may(u"Q7*", LikePattern::byUnit, with(u"q7")))
             << "what stands at an end is asked for too";
+    }
+}
+
+TEST(ByteFilter, FindsTwoBytesWhereverTheyStandInATextOfAnyLength) {
+    const ByteFilter filter = LikePattern(u"*Q7*", LikePattern::byUnit).filter();
+    for (std::size_t size = 2; size <= 70; ++size) {
+        for (std::size_t i = 0; i + 1 < size; ++i) {
+            String text(size, u'x');
+            text[i] = u'Q';
+            EXPECT_FALSE(filter.mayMatch(CompactText(text)));
+            text[i + 1] = u'7';
+            EXPECT_TRUE(filter.mayMatch(CompactText(text))) << size << " letters, at " << i;
+        }
+    }
+}
+
+TEST(ByteFilter, MarksOfSeveralTextsTellOfOneAmongThem) {
+    for (const StringView pattern : {u"*Q7*", u"*Q?7*", u"*Q*"}) {
+        const ByteFilter filter = LikePattern(pattern, LikePattern::byUnit).filter();
+        const CompactText without(u"seven");
+        const CompactText with(u"a long text in which Q77 stands somewhere");
+        ByteFilter::Marks marks;
+        EXPECT_FALSE(marks.any());
+        marks |= filter.marksOf(without);
+        EXPECT_FALSE(marks.any());
+        marks |= filter.marksOf(with);
+        marks |= filter.marksOf(without);
+        EXPECT_TRUE(marks.any());
     }
 }
 
