@@ -84,8 +84,17 @@ void prepare(lmListView& list) {
     list.ColumnsAdd(u"Amount", nullptr, nullptr, nullptr, cColumnRight, 143 * twipsPerPixel);
 }
 
+/// As a cell shows it: one & marks the letter behind it, two of them stand for one.
+std::string shown(const std::string& text) {
+    std::string result;
+    for (const char c : text)
+        result.append(c == '&' ? 2 : 1, c);
+    return result;
+}
+
 void add(lmListView& list, const Row& row) {
-    list.RowsAdd(-1, u";", fromUtf8(row.region + ';' + row.product + ';' + std::to_string(row.amount)));
+    const std::string cells = row.region + ';' + row.product + ';' + std::to_string(row.amount);
+    list.RowsAdd(-1, u";", fromUtf8(shown(cells)));
     const Long number = list.RowsCount();
     list.letItemAlignment(number, amountColumn, cItemRight); // a column aligns its header alone
     for (Long column = regionColumn; row.isSum && column <= amountColumn; ++column) {

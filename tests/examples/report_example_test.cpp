@@ -39,7 +39,7 @@ class ReportExample : public ::testing::Test {
                                     "Shelves",
                                     "Baskets",
                                     "Trays",
-                                    "Jugs"})
+                                    "Pots & pans"})
             for (const char* region : {"South", "East", "North", "West"}) {
                 amount = (amount * 31 + 1741) % 4001;
                 table += std::string(region) + ';' + product + ';' + std::to_string(amount) + '\n';
