@@ -27,6 +27,8 @@ class ManualTicks final : public win32::TickSource {
         std::erase_if(runs_, [&](const Run& known) { return known.window == window && known.number == run; });
     }
 
+    bool mayBeLate() const override { return false; }
+
     /// Lets time pass. `deliver` lets all messages through; it is called once before, and at each moment at
     /// which ticks were due.
     void advance(Span span, const std::function<void()>& deliver) {

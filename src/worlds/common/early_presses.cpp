@@ -73,9 +73,8 @@ void EarlyPresses::press(WindowHandle window, bool isEarly, const std::function<
         return;
     }
     const Noticed noticed = noticed_();
-    const bool isNoticed = inMove ? noticed == Noticed::already : noticed != Noticed::soon;
     const bool isWaiting = telling_ || !held_.empty();
-    if (isWaiting || (isNoticed && !isEarly)) {
+    if (isWaiting || (!isEarly && (!inMove || noticed == Noticed::already))) {
         tell();
         return;
     }

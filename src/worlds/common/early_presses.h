@@ -29,8 +29,8 @@ class EarlyPresses {
 
     /// Tells a move, and behind it what had to wait for that.
     void move(WindowHandle window, const std::function<void()>& tell);
-    /// Tells a press. `isEarly`: it came with its move, or of a touch or a pen. One that comes before those
-    /// timers have ticked, or in a yield of a move before any of them runs, did so too.
+    /// Tells a press. `isEarly`: it came with its move, of a touch or a pen, or before a tick that is late.
+    /// One that comes in a yield of a move before anything has noticed the mouse did so too.
     void press(WindowHandle window, bool isEarly, const std::function<void()>& tell);
     /// Tells whatever else the mouse does, in its turn.
     void other(WindowHandle window, const std::function<void()>& tell);

@@ -96,7 +96,9 @@ void QtWorld::mouseEvent(Point at, const QMouseEvent& event, WindowHandle window
     else if (isRelease)
         presses_.other(window, tell);
     else
-        presses_.press(window, moveIsFresh_ || isMadeUp(event), tell);
+        presses_.press(window,
+                       moveIsFresh_ || isMadeUp(event) || noticed() == worlds::EarlyPresses::Noticed::soon,
+                       tell);
 }
 
 } // namespace lumtex::qt

@@ -10,6 +10,7 @@ class SystemTicks final : public TickSource {
         return SetTimer(window, run, static_cast<UINT>(milliseconds), nullptr) != 0;
     }
     void stop(HWND window, UINT_PTR run) override { KillTimer(window, run); }
+    bool mayBeLate() const override { return true; }
 };
 
 } // namespace

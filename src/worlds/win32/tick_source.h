@@ -20,6 +20,9 @@ class TickSource {
     virtual bool start(HWND window, UINT_PTR run, Long milliseconds) = 0;
     /// A tick that is on its way already may still come.
     virtual void stop(HWND window, UINT_PTR run) = 0;
+    /// Whether ticks may come behind input that was there after their time, as those of the system do: it
+    /// hands them out last.
+    virtual bool mayBeLate() const = 0;
 };
 
 /// The timers of the system. One object for all threads.

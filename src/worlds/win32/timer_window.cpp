@@ -64,6 +64,10 @@ worlds::EarlyPresses::Noticed TimerWindow::noticed() const {
     return found;
 }
 
+bool TimerWindow::isLate() const {
+    return ticks_.mayBeLate() && noticed() == worlds::EarlyPresses::Noticed::soon;
+}
+
 void TimerWindow::tickQuickOnes() {
     std::vector<UINT_PTR> due;
     for (const auto& [number, run] : running_)

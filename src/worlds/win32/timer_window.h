@@ -25,6 +25,8 @@ class TimerWindow {
     void stop(UINT_PTR run);
     /// What the timers by which controls notice the mouse have done.
     worlds::EarlyPresses::Noticed noticed() const;
+    /// Whether one of them has not ticked that may be late.
+    bool isLate() const;
     /// Lets each of these tick that has not since it was started.
     void tickQuickOnes();
     /// Has the thread of the window call `work` with `argument` when its messages run next. May be called

@@ -84,6 +84,8 @@ class Win32World final : public World {
     static void refuseHugeSize(Long width, Long height);
 
     worlds::ClickSequence press;
+    /// The program was busy since the mouse came, and nothing has noticed the mouse yet.
+    bool tickIsLate() const { return timers_.isLate(); }
     worlds::EarlyPresses earlyPresses{[this] { return timers_.noticed(); },
                                       [this] { timers_.tickQuickOnes(); }};
 

@@ -96,7 +96,8 @@ class Win32Window::PressTarget final : public worlds::ClickSequence::Target {
 
 Win32Window::Answer Win32Window::pressed(MouseButton button, bool isSecond, const WindowMessage& message) {
     const worlds::ClickSequence::Event event = pressEvent(button, message);
-    world_.earlyPresses.press(hWnd(), isMadeFromTouch(), [event, isSecond, window = message.window] {
+    const bool isEarly = isMadeFromTouch() || world_.tickIsLate();
+    world_.earlyPresses.press(hWnd(), isEarly, [event, isSecond, window = message.window] {
         Win32Window* const self = of(window);
         if (self == nullptr)
             return;

@@ -35,26 +35,6 @@ TEST_F(EarlyPresses, AHandsPressIsToldAsItComes) {
     EXPECT_THAT(log, ElementsAre("move", "release", "press"));
 }
 
-TEST_F(EarlyPresses, AHandsPressInABusyProgramComesBehindTheTick) {
-    presses.move(list, says("move"));
-    noticed = Noticed::soon;
-    presses.press(list, false, [this] {
-        presses.other(list, says("release"));
-        log.emplace_back("press");
-    });
-    EXPECT_THAT(log, ElementsAre("move", "tick", "press", "release"));
-}
-
-TEST_F(EarlyPresses, AHandsPressThatHasBeenNoticedIsToldAsItComes) {
-    presses.move(list, says("move"));
-    noticed = Noticed::already;
-    presses.press(list, false, [this] {
-        presses.other(list, says("release"));
-        log.emplace_back("press");
-    });
-    EXPECT_THAT(log, ElementsAre("move", "release", "press"));
-}
-
 TEST_F(EarlyPresses, OneThatCameWithItsMoveComesBehindTheTick) {
     presses.move(list, says("move"));
     noticed = Noticed::soon;
@@ -152,7 +132,7 @@ TEST_F(EarlyPresses, AFailureOfAMoveLosesNoPress) {
 
 TEST_F(EarlyPresses, AFailureOfATickLosesNoPress) {
     worlds::EarlyPresses failing{[] { return Noticed::soon; }, [] { throw 1; }};
-    EXPECT_THROW(failing.press(list, false, says("press")), int);
+    EXPECT_THROW(failing.press(list, true, says("press")), int);
     EXPECT_THAT(log, ElementsAre("press"));
 }
 
