@@ -35,8 +35,9 @@ Long Scroller::VisibleItems() {
             const RowArray& rows = records_.rows();
             while (y <= available) {
                 // Rows without a height fit wherever the one before does.
-                state_.visibleRowCount = static_cast<Long>(
-                    rows.nextWithHeight(static_cast<std::size_t>(state_.visibleRowCount + 1)));
+                const Long next = state_.visibleRowCount + 1;
+                state_.visibleRowCount =
+                    static_cast<Long>(rows.nextWithHeight(static_cast<std::size_t>(next)));
                 if (state_.visibleRowCount > records_.upperBoundOfRows())
                     break;
                 y += records_.recordAt(state_.visibleRowCount).Height;
