@@ -2,6 +2,7 @@
 
 #include "guards/failure_of.h"
 #include "ordering/sort_keys.h"
+#include "values/date_text.h"
 #include "values/locale.h"
 
 #include <algorithm>
@@ -21,9 +22,14 @@ constexpr Double smallestInexact = 1e15;
 constexpr std::array<Double, mostExactDigits + 1> powersOfTen = {
     1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
+struct PlainDecimal {
+    Double value;
+    std::size_t places; ///< digits behind the mark
+};
+
 /// A number of digits alone, with a minus before it and a decimal mark inside. None for any other text, which
 /// may be a number still.
-std::optional<Double> plainDecimal(std::span<const unsigned char> text, unsigned char decimalMark) {
+std::optional<PlainDecimal> plainDecimal(std::span<const unsigned char> text, unsigned char decimalMark) {
     const bool negative = !text.empty() && text[0] == '-';
     if (negative)
         text = text.subspan(1);
@@ -39,14 +45,17 @@ std::optional<Double> plainDecimal(std::span<const unsigned char> text, unsigned
         else
             return std::nullopt;
     }
-    const Double value = static_cast<Double>(digits) / powersOfTen[text.size() - 1 - point];
-    return negative && digits != 0 ? -value : value;
+    const std::size_t places = text.size() - 1 - point;
+    const Double value = static_cast<Double>(digits) / powersOfTen[places];
+    return PlainDecimal{negative && digits != 0 ? -value : value, places};
 }
 
-/// Whether a number has a decimal form of at most 15 digits, six of them behind the point: such a number
-/// goes through 15 digits unchanged.
+/// A number of at most 15 digits, as many as these of them behind the point, goes through 15 digits
+/// unchanged.
+constexpr std::size_t mostShortPlaces = 6;
+
 bool isShortDecimal(Double value) {
-    for (std::size_t places = 0; places <= 6; places += 2) {
+    for (std::size_t places = 0; places <= mostShortPlaces; places += 2) {
         const Double scaled = value * powersOfTen[places];
         if (std::fabs(scaled) >= smallestInexact)
             return false;
@@ -57,22 +66,21 @@ bool isShortDecimal(Double value) {
 }
 
 /// The mark between the digits of 1.5, as far as it is a point or a comma.
-unsigned char decimalMark() {
+unsigned char decimalMark(const Locale& locale) {
     for (const unsigned char mark : {'.', ','}) {
-        const String text{u'1', mark, u'5'};
-        if (numberIn(text) == 1.5)
+        const NumberFromText number = locale.readNumber(String{u'1', mark, u'5'});
+        if (number.outcome == NumberFromText::number && number.value == 1.5)
             return mark;
     }
     return 0;
 }
 
-/// Whether the current locale writes dates so that nothing is lost: some users have it leave out the century
-/// or the seconds.
-bool datesKeepTheirTexts() {
+/// Whether a locale writes dates so that nothing is lost: some users have it leave out the century or the
+/// seconds.
+bool datesKeepTheirTexts(const Locale& locale) {
     static constexpr Double probes[] = {
         -36522.0, 2.25, 10958.999988, 36585.000012, 47483.5, 73050.75, 401768.0};
     static constexpr Double halfSecond = 0.5 / (24 * 60 * 60);
-    const Locale& locale = currentLocale();
     return std::ranges::all_of(probes, [&](Double days) {
         const auto first = locale.readDate(locale.textOf(Date{days}));
         return first && std::fabs(first->days - days) <= halfSecond &&
@@ -82,13 +90,14 @@ bool datesKeepTheirTexts() {
 
 } // namespace
 
-NumberReader::NumberReader(cSortType type) : type_(type) {
+NumberReader::NumberReader(cSortType type, const Locale& locale) : type_(type), locale_(locale) {
     if (type == cSortNumeric) {
-        decimalMark_ = decimalMark();
+        decimalMark_ = decimalMark(locale);
         return;
     }
     knownDates_.resize(std::size_t{1} << bitsOfPlace);
-    ignoringErrors([&] { readsBack_ = datesKeepTheirTexts(); });
+    readsBack_ = false;
+    ignoringErrors([&] { readsBack_ = datesKeepTheirTexts(locale); });
 }
 
 /// The same text is the same date as long as the locale stays, which it does for a sort.
@@ -116,22 +125,30 @@ Double NumberReader::readKnownDate(const CompactText& text) {
 
 /// A date that was read has whole seconds; a number of days need not.
 Double NumberReader::readDate() {
-    if (const auto date = currentLocale().readDate(buffer_))
+    if (const auto date = locale_.readDate(buffer_))
         return date->days;
     readsBack_ = false;
-    return numberKey(buffer_, type_);
+    const Double days = readNumber();
+    return isDateInRange(days) ? days : unreadable;
+}
+
+Double NumberReader::readNumber() {
+    const NumberFromText result = locale_.readNumber(buffer_);
+    return result.outcome == NumberFromText::number ? result.value : unreadable;
 }
 
 Double NumberReader::read(const CompactText& text) {
     if (type_ == cSortNumeric && !text.isWide()) {
-        const auto plain = text.visit([&]<class Units>(Units units) -> std::optional<Double> {
+        const auto plain = text.visit([&]<class Units>(Units units) -> std::optional<PlainDecimal> {
             if constexpr (std::is_same_v<Units, StringView>)
                 return std::nullopt;
             else
                 return plainDecimal(units, decimalMark_);
         });
-        if (plain)
-            return *plain;
+        if (plain) {
+            readsBack_ = readsBack_ && plain->places <= mostShortPlaces;
+            return plain->value;
+        }
     }
     return type_ == cSortDate ? readKnownDate(text) : readText(text);
 }
@@ -139,7 +156,9 @@ Double NumberReader::read(const CompactText& text) {
 Double NumberReader::readText(const CompactText& text) {
     text.copyTo(buffer_);
     Double key = unreadable;
-    ignoringErrors([&] { key = type_ == cSortDate ? readDate() : numberKey(buffer_, type_); });
+    ignoringErrors([&] { key = type_ == cSortDate ? readDate() : readNumber(); });
+    if (type_ == cSortNumeric)
+        readsBack_ = readsBack_ && (key != key || isShortDecimal(key));
     return key;
 }
 
@@ -155,6 +174,18 @@ Double throughPivotText(Double key, cSortType type) {
     else
         ignoringErrors([&] { pivot = numberKey(pivotText(key, type), type); });
     return pivot;
+}
+
+NumberKeys::NumberKeys(std::size_t rows)
+    : count_(rows), keys_(std::make_unique_for_overwrite<Key[]>(rows + 2)) {
+    keys_[0] = {unreadable, 0};
+    keys_[rows + 1] = {unreadable, 0};
+}
+
+std::vector<std::uint32_t> NumberKeys::order() const {
+    std::vector<std::uint32_t> order(count_);
+    std::transform(front(), front() + count_, order.begin(), [](const Key& key) { return key.row; });
+    return order;
 }
 
 } // namespace lumtex::ordering

@@ -2,12 +2,16 @@
 /// Numbers and dates as the keys of a sort.
 #pragma once
 
+#include "ordering/pieces.h"
 #include "records/compact_text.h"
 #include "records/enumerations.h"
+#include "values/locale.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -20,8 +24,8 @@ constexpr Double unreadable = std::numeric_limits<Double>::quiet_NaN();
 /// Reads keys as `numberKey` does, without its errors and, for plain decimal numbers, much faster.
 class NumberReader {
   public:
-    /// Throws std::bad_alloc, and so does `read`.
-    explicit NumberReader(cSortType type);
+    /// `locale` must outlive this. Throws std::bad_alloc, and so does `read`.
+    explicit NumberReader(cSortType type, const Locale& locale = currentLocale());
 
     /// `unreadable` for what `numberKey` throws at.
     Double read(const CompactText& text);
@@ -41,6 +45,7 @@ class NumberReader {
     Double readKnownDate(const CompactText& text);
     Double readText(const CompactText& text);
     Double readDate();
+    Double readNumber();
 
     /// A century has 36,525 days; a column may hold all of them.
     static constexpr unsigned bitsOfPlace = 14;
@@ -49,70 +54,88 @@ class NumberReader {
     using Place = std::array<KnownDate, datesInPlace>; ///< the last one read comes first
     std::vector<Place> knownDates_;                    ///< by what their texts mix to
     cSortType type_;
+    const Locale& locale_;
     unsigned char decimalMark_ = 0; ///< of plain numbers; 0 if it is no single byte
-    bool readsBack_ = false;
+    bool readsBack_ = true;
     String buffer_;
 };
 
 /// What a pivot compares as after it went through its text form; `unreadable` where that is too large.
 Double throughPivotText(Double key, cSortType type);
 
-/// The rows for `quickSort`.
+/// Numbers or dates of a list's rows, as keys of a sort.
+class NumberKeys {
+    struct Key {
+        Double value;
+        std::uint32_t row;
+    };
+
+  public:
+    /// Each piece of the rows is to be filled. Throws std::bad_alloc.
+    explicit NumberKeys(std::size_t rows);
+
+    /// The keys of a piece, one row after another; several pieces may be filled at the same time.
+    class Filler {
+      public:
+        Filler(NumberKeys& keys, Piece piece)
+            : next_(keys.front() + piece.first), row_(static_cast<std::uint32_t>(piece.first)) {}
+        void add(Double key) { *next_++ = {key, row_++}; }
+
+      private:
+        Key* next_;
+        std::uint32_t row_;
+    };
+
+    std::size_t count() const { return count_; }
+    /// Once sorted: where each row comes from.
+    std::vector<std::uint32_t> order() const;
+
+  private:
+    template <bool>
+    friend class NumberRows;
+
+    Key* front() const { return keys_.get() + 1; }
+
+    std::size_t count_;
+    std::unique_ptr<Key[]> keys_; ///< with an unreadable one at either end, which stops a scan that runs out
+};
+
+/// The rows for `quickSort`: a view of keys that were read, with a pivot of its own.
 template <bool descending>
 class NumberRows {
   public:
     static constexpr bool atHand = true;
 
-    NumberRows(std::size_t count, cSortType type) : type_(type) {
-        keys_.reserve(count + 2);
-        keys_.push_back({unreadable, 0});
-    }
-    void add(Double key) { keys_.push_back({key, static_cast<std::uint32_t>(keys_.size() - 1)}); }
-
-    /// Spares the pivots the way through their texts.
-    void letKeysAreTheirPivots(bool value) { keysAreTheirPivots_ = value; }
+    /// `keysAreTheirPivots` spares the pivots the way through their texts.
+    NumberRows(const NumberKeys& keys, cSortType type, bool keysAreTheirPivots)
+        : keys_(keys.keys_.get()), count_(static_cast<Long>(keys.count())), type_(type),
+          keysAreTheirPivots_(keysAreTheirPivots) {}
 
     void choosePivot(Long index) {
-        // The element behind the last stops a scan that runs out of the array.
-        if (!closed_)
-            keys_.push_back({unreadable, 0});
-        closed_ = true;
         pivot_ = keysAreTheirPivots_ ? at(index).value : throughPivotText(at(index).value, type_);
         // A pivot that is too large to read back fails at each comparison.
         wouldReport_ = wouldReport_ || pivot_ != pivot_;
     }
-    // Position -1 wraps round to the element in front.
+    // Position -1 is that of the element in front.
     bool before(Long i) const { return descending ? at(i).value > pivot_ : at(i).value < pivot_; }
     bool behind(Long j) const { return descending ? at(j).value < pivot_ : at(j).value > pivot_; }
     void swap(Long i, Long j) { std::swap(at(i), at(j)); }
-    void crossed(Long i, Long j) {
-        wouldReport_ = wouldReport_ || j < 0 || static_cast<std::size_t>(i) + 2 >= keys_.size();
-    }
+    void crossed(Long i, Long j) { wouldReport_ = wouldReport_ || j < 0 || i >= count_; }
+    void join(const NumberRows& other) { wouldReport_ = wouldReport_ || other.wouldReport_; }
 
     /// Whether a comparison failed for another reason than an unreadable key.
     bool wouldReport() const { return wouldReport_; }
 
-    std::vector<std::uint32_t> order() const {
-        std::vector<std::uint32_t> order;
-        order.reserve(keys_.size());
-        for (std::size_t i = 1; i + 1 < keys_.size(); ++i)
-            order.push_back(keys_[i].row);
-        return order;
-    }
-
   private:
-    struct Key {
-        Double value;
-        std::uint32_t row;
-    };
-    const Key& at(Long index) const { return keys_[static_cast<std::size_t>(index) + 1]; }
-    Key& at(Long index) { return keys_[static_cast<std::size_t>(index) + 1]; }
+    using Key = NumberKeys::Key;
 
-    std::vector<Key> keys_; ///< from the second element on; ends with one more
+    Key& at(Long index) const { return keys_[static_cast<std::ptrdiff_t>(index) + 1]; }
+
+    Key* keys_;
+    Long count_;
     Double pivot_ = 0;
     cSortType type_;
-    bool keysAreTheirPivots_ = false;
-    bool closed_ = false;
+    bool keysAreTheirPivots_;
     bool wouldReport_ = false;
 };
 

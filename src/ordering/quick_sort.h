@@ -64,6 +64,41 @@ void swapBlocks(Rows& rows, Long& i, Long& j) {
         j -= upper.places[upper.next];
 }
 
+/// Rows that are still to be sorted; both positions count from 0 and belong to it.
+struct SortRange {
+    Long first;
+    Long last;
+};
+
+/// Parts the rows of a range at the pivot in its middle, then hands `later` the ranges that are left to sort,
+/// the upper one first. What `rows` is: see `quickSort`.
+template <class Rows, class Later>
+void partition(Rows& rows, SortRange range, Later later) {
+    Long i = range.first;
+    Long j = range.last;
+    rows.choosePivot(middleOf(i, j));
+    if constexpr (RowsAtHand<Rows>)
+        swapBlocks(rows, i, j);
+    do {
+        while (rows.before(i))
+            ++i;
+        while (rows.behind(j))
+            --j;
+        if (i <= j) {
+            rows.swap(i, j);
+            ++i;
+            --j;
+        } else {
+            rows.crossed(i, j);
+        }
+    } while (i <= j);
+    // A scan that ran through the whole range changed nothing, and would do the same for ever.
+    if (i < range.last && i != range.first)
+        later(SortRange{i, range.last});
+    if (range.first < j && j != range.last)
+        later(SortRange{range.first, j});
+}
+
 /// A quick sort after Hoare with the pivot in the middle, from `first` to `last`, both 0-based. `rows` gives
 ///
 ///     choosePivot(index)         keeps the value of that row as the pivot
@@ -79,37 +114,11 @@ void swapBlocks(Rows& rows, Long& i, Long& j) {
 /// They come up in the order of the recursion, the lower half first.
 template <class Rows>
 void quickSort(Rows& rows, Long first, Long last) {
-    struct Range {
-        Long first;
-        Long last;
-    };
-    std::vector<Range> waiting{{first, last}};
+    std::vector<SortRange> waiting{{first, last}};
     while (!waiting.empty()) {
-        const Range range = waiting.back();
+        const SortRange range = waiting.back();
         waiting.pop_back();
-        Long i = range.first;
-        Long j = range.last;
-        rows.choosePivot(middleOf(i, j));
-        if constexpr (RowsAtHand<Rows>)
-            swapBlocks(rows, i, j);
-        do {
-            while (rows.before(i))
-                ++i;
-            while (rows.behind(j))
-                --j;
-            if (i <= j) {
-                rows.swap(i, j);
-                ++i;
-                --j;
-            } else {
-                rows.crossed(i, j);
-            }
-        } while (i <= j);
-        // A scan that ran through the whole range changed nothing, and would do the same for ever.
-        if (i < range.last && i != range.first)
-            waiting.push_back({i, range.last});
-        if (range.first < j && j != range.last)
-            waiting.push_back({range.first, j});
+        partition(rows, range, [&](SortRange part) { waiting.push_back(part); });
     }
 }
 

@@ -1,10 +1,11 @@
 #include "ordering/sort_at_once.h"
 
 #include "ordering/number_rows.h"
-#include "ordering/quick_sort.h"
+#include "ordering/shared_sort.h"
 #include "ordering/text_rows.h"
 
 #include <algorithm>
+#include <array>
 
 namespace lumtex::ordering {
 
@@ -23,89 +24,125 @@ const CompactText* textOf(const RowRecord& row, std::size_t cell) {
     return cell < row.items.count() ? &row.items[cell].text() : nullptr;
 }
 
-/// Hands `take` the text of each row, null where a row is too short, until it answers False. Rows lie
-/// anywhere in memory, so each is fetched some rows before its turn, and a text outside its cell a few rows
-/// later.
-/// `anyText` tells whether one of them holds more than blanks.
+/// Whether everything was read, or what stands against sorting at once.
+enum class Reading : Byte { whole, tooWide, reports };
+
+struct PieceRead {
+    Reading reading = Reading::whole;
+    bool anyText = false; ///< one of the texts holds more than blanks
+};
+
+/// Hands `take` the text of each row, null where a row is too short, until it answers something else than
+/// `whole`. Rows lie anywhere in memory, so each is fetched some rows before its turn, and a text outside its
+/// cell a few rows later.
 template <class Take>
-bool forEachText(const RowArray& rows, std::size_t cell, bool& anyText, Take take) {
+PieceRead readPiece(const RowArray& rows, Piece piece, std::size_t cell, Take take) {
     constexpr std::size_t rowAhead = 24;
     constexpr std::size_t textAhead = 12;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
+    PieceRead read;
+    for (std::size_t i = piece.first; i < piece.end && read.reading == Reading::whole; ++i) {
         rows.prefetch(i + rowAhead, cell);
         if (i + textAhead < rows.size()) {
             if (const CompactText* const text = textOf(rows[i + textAhead], cell))
                 text->prefetch();
         }
         const CompactText* const text = textOf(rows[i], cell);
-        anyText = anyText || (text != nullptr && holdsMoreThanBlanks(*text));
-        if (!take(text))
-            return false;
+        read.anyText = read.anyText || (text != nullptr && holdsMoreThanBlanks(*text));
+        read.reading = take(text);
     }
-    return true;
+    return read;
 }
 
-enum class Reading : Byte { whole, reports, tooWide };
+PieceRead joined(const std::array<PieceRead, mostPieces>& pieces) {
+    PieceRead all;
+    for (const PieceRead& piece : pieces) {
+        all.reading = std::max(all.reading, piece.reading);
+        all.anyText = all.anyText || piece.anyText;
+    }
+    return all;
+}
+
+template <class Rows>
+void sortAll(Rows& rows, std::size_t count, Hands hands) {
+    const Long last = static_cast<Long>(count) - 1;
+    if (hands == Hands::two)
+        quickSortSideBySide(rows, 0, last);
+    else
+        quickSort(rows, 0, last);
+}
 
 /// Sorts texts of such units; `order` is set where all were read.
 template <class Unit, bool descending>
-Reading orderOfUnits(const RowArray& rows, std::size_t cell, bool silent, Order& order) {
-    TextRows<Unit, descending> keys(rows.size());
-    Reading reading = Reading::whole;
-    bool anyText = false;
-    forEachText(rows, cell, anyText, [&](const CompactText* text) {
-        if (text == nullptr && !silent)
-            reading = Reading::reports;
-        else if (!keys.add(text))
-            reading = Reading::tooWide;
-        return reading == Reading::whole;
+Reading orderOfUnits(const RowArray& rows, std::size_t cell, bool silent, Hands hands, Order& order) {
+    TextKeys<Unit> keys(rows.size());
+    std::array<PieceRead, mostPieces> pieces;
+    forEachPiece(rows.size(), hands, [&](Piece piece) {
+        TextReader<Unit> reader(keys, piece);
+        pieces[piece.number] = readPiece(rows, piece, cell, [&](const CompactText* text) {
+            if (text == nullptr && !silent)
+                return Reading::reports;
+            return reader.add(text) ? Reading::whole : Reading::tooWide;
+        });
     });
-    if (reading == Reading::whole && !anyText) {
+    const PieceRead read = joined(pieces);
+    if (read.reading == Reading::whole && !read.anyText) {
         order.emplace();
-    } else if (reading == Reading::whole) {
-        quickSort(keys, 0, static_cast<Long>(rows.size()) - 1);
+    } else if (read.reading == Reading::whole) {
+        TextRows<Unit, descending> sorted(keys);
+        sortAll(sorted, keys.count(), hands);
         order = keys.order();
     }
-    return reading;
+    return read.reading;
 }
 
 template <bool descending>
-Order orderOfTexts(const RowArray& rows, std::size_t cell, bool silent) {
+Order orderOfTexts(const RowArray& rows, std::size_t cell, bool silent, Hands hands) {
     Order order;
-    if (orderOfUnits<unsigned char, descending>(rows, cell, silent, order) == Reading::tooWide)
-        orderOfUnits<char16_t, descending>(rows, cell, silent, order);
+    if (orderOfUnits<unsigned char, descending>(rows, cell, silent, hands, order) == Reading::tooWide)
+        orderOfUnits<char16_t, descending>(rows, cell, silent, hands, order);
     return order;
 }
 
 template <bool descending>
-Order orderOfNumbers(const RowArray& rows, std::size_t cell, cSortType type, bool silent) {
-    NumberRows<descending> keys(rows.size(), type);
-    NumberReader reader(type);
-    bool anyText = false;
-    const bool whole = forEachText(rows, cell, anyText, [&](const CompactText* text) {
-        const Double key = text != nullptr ? reader.read(*text) : unreadable;
-        keys.add(key);
-        return key == key || silent;
+Order orderOfNumbers(const RowArray& rows, std::size_t cell, cSortType type, bool silent, Hands hands) {
+    NumberKeys keys(rows.size());
+    std::array<PieceRead, mostPieces> pieces;
+    std::array<bool, mostPieces> readsBack{true, true};
+    const Locale& locale = currentLocale();
+    forEachPiece(rows.size(), hands, [&](Piece piece) {
+        NumberReader reader(type, locale);
+        NumberKeys::Filler filler(keys, piece);
+        pieces[piece.number] = readPiece(rows, piece, cell, [&](const CompactText* text) {
+            const Double key = text != nullptr ? reader.read(*text) : unreadable;
+            filler.add(key);
+            return key == key || silent ? Reading::whole : Reading::reports;
+        });
+        readsBack[piece.number] = reader.readsBackItsKeys();
     });
-    if (!whole)
+    const PieceRead read = joined(pieces);
+    if (read.reading != Reading::whole)
         return std::nullopt;
-    if (!anyText)
+    if (!read.anyText)
         return Order(std::in_place);
-    keys.letKeysAreTheirPivots(reader.readsBackItsKeys());
-    quickSort(keys, 0, static_cast<Long>(rows.size()) - 1);
-    if (keys.wouldReport() && !silent)
+    const bool keysAreTheirPivots = readsBack[0] && readsBack[1];
+    NumberRows<descending> sorted(keys, type, keysAreTheirPivots);
+    // A pivot that is no value of its range lets scans look at others, where another thread may be at work.
+    sortAll(sorted, keys.count(), keysAreTheirPivots ? hands : Hands::one);
+    if (sorted.wouldReport() && !silent)
         return std::nullopt;
     return keys.order();
 }
 
 } // namespace
 
-Order orderAtOnce(const RowArray& rows, std::size_t cell, cSortType type, cSortMode order, bool silent) {
+Order orderAtOnce(
+    const RowArray& rows, std::size_t cell, cSortType type, cSortMode order, bool silent, Hands hands) {
     const bool descending = order == cDescending;
     if (type == cSortText)
-        return descending ? orderOfTexts<true>(rows, cell, silent) : orderOfTexts<false>(rows, cell, silent);
-    return descending ? orderOfNumbers<true>(rows, cell, type, silent)
-                      : orderOfNumbers<false>(rows, cell, type, silent);
+        return descending ? orderOfTexts<true>(rows, cell, silent, hands)
+                          : orderOfTexts<false>(rows, cell, silent, hands);
+    return descending ? orderOfNumbers<true>(rows, cell, type, silent, hands)
+                      : orderOfNumbers<false>(rows, cell, type, silent, hands);
 }
 
 } // namespace lumtex::ordering

@@ -2,6 +2,7 @@
 /// Sorting at once: over keys that were read beforehand.
 #pragma once
 
+#include "ordering/pieces.h"
 #include "records/enumerations.h"
 #include "records/row_array.h"
 
@@ -19,8 +20,9 @@ bool holdsMoreThanBlanks(const CompactText& text);
 /// no row holds more than blanks there, and such a column is not sorted.
 ///
 /// None if that sort would report anything and `silent` is False: then the host's code may run in
-/// the middle, and only the statements themselves do what is due. Throws std::bad_alloc.
-std::optional<std::vector<std::uint32_t>>
-orderAtOnce(const RowArray& rows, std::size_t cell, cSortType type, cSortMode order, bool silent);
+/// the middle, and only the statements themselves do what is due. The order is the same for one thread and
+/// for two. Throws std::bad_alloc.
+std::optional<std::vector<std::uint32_t>> orderAtOnce(
+    const RowArray& rows, std::size_t cell, cSortType type, cSortMode order, bool silent, Hands hands);
 
 } // namespace lumtex::ordering

@@ -1,5 +1,7 @@
 #include "records/row_array.h"
 
+#include "values/side_by_side.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -104,10 +106,19 @@ void RowArray::reorder(std::span<const std::uint32_t> sources) {
     ordered.reserve(chunks_.size());
     for (std::size_t i = 0; i < chunks_.size(); ++i)
         ordered.push_back(makeChunk(mask_ + 1));
-    for (std::size_t i = 0; i < sources.size(); ++i) {
-        if (i + ahead < sources.size())
-            __builtin_prefetch(slotOf(sources[i + ahead]));
-        put(ordered[i >> chunkBits], i, std::move((*this)[sources[i]]));
+    // Each row is moved once, so that two threads may fill chunks of their own.
+    const auto fill = [&](std::size_t first, std::size_t end) {
+        for (std::size_t i = first; i < end; ++i) {
+            if (i + ahead < end)
+                __builtin_prefetch(slotOf(sources[i + ahead]));
+            put(ordered[i >> chunkBits], i, std::move((*this)[sources[i]]));
+        }
+    };
+    if (handsFor(sources.size()) == Hands::two) {
+        const std::size_t middle = (chunks_.size() / 2) << chunkBits;
+        sideBySide([&] { fill(0, middle); }, [&] { fill(middle, sources.size()); });
+    } else {
+        fill(0, sources.size());
     }
     chunks_ = std::move(ordered);
 }

@@ -87,7 +87,9 @@ bool Sorter::sortAtOnce(Long Column, cSortType SortType, cSortMode order) {
     bool sorted = false;
     ignoringErrors([&] {
         const auto cell = static_cast<std::size_t>(Column) - 1;
-        const auto sources = ordering::orderAtOnce(records_.rows(), cell, SortType, order, silentError());
+        const RowArray& rows = records_.rows();
+        const auto sources =
+            ordering::orderAtOnce(rows, cell, SortType, order, silentError(), handsFor(rows.size()));
         if (!sources)
             return;
         // Wanted: ListIndex, NewIndex, the top row and the anchors of the selection keep their numbers.

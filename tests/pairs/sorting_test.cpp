@@ -76,6 +76,17 @@ class SortOracle : public ListFixture {
         EXPECT_EQ(events.log, std::vector<std::string>{"SortDone"});
     }
 
+    void expectSameOrderByTwo(const std::vector<String>& texts, cSortType type) {
+        fill(texts);
+        for (const cSortMode mode : {cAscending, cDescending}) {
+            for (const bool silent : {false, true}) {
+                const auto byOne = ordering::orderAtOnce(inside.rows(), 0, type, mode, silent, Hands::one);
+                EXPECT_TRUE(byOne == ordering::orderAtOnce(inside.rows(), 0, type, mode, silent, Hands::two));
+                EXPECT_TRUE(!silent || byOne->size() == texts.size());
+            }
+        }
+    }
+
     std::mt19937 random{20261121};
 };
 
@@ -244,15 +255,16 @@ struct Shape {
     std::function<Long(Long, Long)> value; ///< of a 0-based place among so many
 };
 
+const Shape shapes[] = {
+    {"sorted", [](Long i, Long) { return i; }},
+    {"reversed", [](Long i, Long count) { return count - i; }},
+    {"equal", [](Long, Long) { return 7; }},
+    {"organ pipe", [](Long i, Long count) { return std::min(i, count - i); }},
+    {"valley", [](Long i, Long count) { return std::max(i, count - i); }},
+    {"killer", [](Long i, Long count) { return killerSequence(count)[static_cast<std::size_t>(i)]; }},
+};
+
 TEST_F(SortOracle, ShapesThatSplitBadlyEndInTheOrderOfThePlainRoutine) {
-    const Shape shapes[] = {
-        {"sorted", [](Long i, Long) { return i; }},
-        {"reversed", [](Long i, Long count) { return count - i; }},
-        {"equal", [](Long, Long) { return 7; }},
-        {"organ pipe", [](Long i, Long count) { return std::min(i, count - i); }},
-        {"valley", [](Long i, Long count) { return std::max(i, count - i); }},
-        {"killer", [](Long i, Long count) { return killerSequence(count)[static_cast<std::size_t>(i)]; }},
-    };
     for (const Shape& shape : shapes) {
         for (const Long count : {1, 2, 3, 4, 5, 6, 500}) {
             std::vector<String> texts;
@@ -264,6 +276,38 @@ TEST_F(SortOracle, ShapesThatSplitBadlyEndInTheOrderOfThePlainRoutine) {
                 expectSameOrder(texts, type, cDescending, false);
             }
         }
+    }
+}
+
+TEST_F(SortOracle, TwoThreadsFindTheOrderOfOneInListsOfAnyKind) {
+    const auto draw = [this](unsigned limit) { return below(limit); };
+    for (const Kind& kind : kinds) {
+        if (kind.type != cSortText && kind.type != cSortNumeric && kind.type != cSortDate)
+            continue;
+        // Long enough for ranges that change hands; the kinds alone hold many equal rows, and half the time a
+        // running number sets them apart.
+        for (const bool apart : {false, true}) {
+            std::vector<String> texts{u"1"};
+            for (Long i = 0; i < 10'000; ++i)
+                texts.push_back(kind.text(draw) + (apart ? decimal(below(100'000)) : String()));
+            SCOPED_TRACE(std::string(kind.name) + (apart ? ", apart" : ""));
+            expectSameOrderByTwo(texts, kind.type);
+        }
+    }
+}
+
+TEST_F(SortOracle, TwoThreadsFindTheOrderOfOneInShapesThatSplitBadly) {
+    constexpr Long count = 12'000;
+    for (const Shape& shape : shapes) {
+        // Its time grows with the square of its length, and its ranges never change hands.
+        if (std::string(shape.name) == "killer")
+            continue;
+        std::vector<String> texts;
+        for (Long i = 0; i < count; ++i)
+            texts.push_back(Variant(100'000 + shape.value(i, count)).toText());
+        SCOPED_TRACE(shape.name);
+        expectSameOrderByTwo(texts, cSortText);
+        expectSameOrderByTwo(texts, cSortNumeric);
     }
 }
 
