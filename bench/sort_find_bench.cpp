@@ -152,14 +152,20 @@ void peerScan(benchmark::State& state) {
 BENCHMARK(sortList)
     ->ArgNames({"type", "rows"})
     ->ArgsProduct({{0, 1, 2}, {100'000, 1'000'000}})
+    ->MeasureProcessCPUTime()
+    ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(sortMovedRows)
     ->ArgNames({"type", "rows"})
     ->ArgsProduct({{0, 1, 2}, {100'000, 1'000'000}})
+    ->MeasureProcessCPUTime()
+    ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(peerSort)
     ->ArgNames({"type", "rows"})
     ->ArgsProduct({{0, 1, 2}, {100'000, 1'000'000}})
+    ->MeasureProcessCPUTime()
+    ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(findNothing)
     ->ArgNames({"anchored", "text"})

@@ -96,7 +96,8 @@ class FltkPeer final : public Peer {
     bool show() override {
         table_.fitRows();
         window_.show();
-        Fl::wait(1);
+        // Until the display has shown it once, nothing that is asked for is painted.
+        window_.wait_for_expose();
         Fl::check();
         return true;
     }
