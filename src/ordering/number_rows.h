@@ -122,6 +122,10 @@ class NumberRows {
     void swap(Long i, Long j) { std::swap(at(i), at(j)); }
     void crossed(Long i, Long j) { wouldReport_ = wouldReport_ || j < 0 || i >= count_; }
     void join(const NumberRows& other) { wouldReport_ = wouldReport_ || other.wouldReport_; }
+    // A key that compares with none stops every scan.
+    bool pivotsAreRows() const { return keysAreTheirPivots_; }
+    Long stopFromBelow(Long i, Long k) const { return isReadable(i) && !comesFirst(k, i) ? k : i; }
+    Long stopFromAbove(Long i, Long k) const { return isReadable(i) && !comesFirst(i, k) ? k : i; }
 
     /// Whether a comparison failed for another reason than an unreadable key.
     bool wouldReport() const { return wouldReport_; }
@@ -130,6 +134,10 @@ class NumberRows {
     using Key = NumberKeys::Key;
 
     Key& at(Long index) const { return keys_[static_cast<std::ptrdiff_t>(index) + 1]; }
+    bool isReadable(Long i) const { return at(i).value == at(i).value; }
+    bool comesFirst(Long i, Long k) const {
+        return descending ? at(i).value > at(k).value : at(i).value < at(k).value;
+    }
 
     Key* keys_;
     Long count_;

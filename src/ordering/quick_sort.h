@@ -17,7 +17,12 @@ constexpr Long middleOf(Long first, Long last) {
 }
 
 /// Rows whose keys lie ready: asking about them has no effect, and every position of a range can be asked
-/// about.
+/// about. Besides what `quickSort` asks for they give
+///
+///     pivotsAreRows()            whether each pivot is a value of its range: then no scan leaves the range
+///     stopFromBelow(i, k)        the row of these two at which a scan with `before` stops if it does at the
+///                                other, whatever the pivot
+///     stopFromAbove(i, k)        the same with `behind`
 template <class Rows>
 concept RowsAtHand = Rows::atHand;
 
@@ -68,7 +73,19 @@ void swapBlocks(Rows& rows, Long& i, Long& j) {
 struct SortRange {
     Long first;
     Long last;
+    int partings = 0; ///< how many partitions led to it
 };
+
+/// Hands `later` the ranges that are left of `range` once its scans have met at `i` and `j`, the upper one
+/// first.
+template <class Later>
+void leaveRest(SortRange range, Long i, Long j, Later later) {
+    // A scan that ran through the whole range changed nothing, and would do the same for ever.
+    if (i < range.last && i != range.first)
+        later(SortRange{i, range.last, range.partings + 1});
+    if (range.first < j && j != range.last)
+        later(SortRange{range.first, j, range.partings + 1});
+}
 
 /// Parts the rows of a range at the pivot in its middle, then hands `later` the ranges that are left to sort,
 /// the upper one first. What `rows` is: see `quickSort`.
@@ -92,11 +109,7 @@ void partition(Rows& rows, SortRange range, Later later) {
             rows.crossed(i, j);
         }
     } while (i <= j);
-    // A scan that ran through the whole range changed nothing, and would do the same for ever.
-    if (i < range.last && i != range.first)
-        later(SortRange{i, range.last});
-    if (range.first < j && j != range.last)
-        later(SortRange{range.first, j});
+    leaveRest(range, i, j, later);
 }
 
 /// A quick sort after Hoare with the pivot in the middle, from `first` to `last`, both 0-based. `rows` gives

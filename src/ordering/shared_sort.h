@@ -2,7 +2,7 @@
 /// The quick sort by two threads.
 #pragma once
 
-#include "ordering/quick_sort.h"
+#include "ordering/scan_groups.h"
 #include "values/side_by_side.h"
 
 #include <condition_variable>
@@ -34,16 +34,16 @@ class WaitingRanges {
 };
 
 /// Sorts ranges until none is left. Short ones are not worth handing over.
-template <class Rows>
-void sortWaiting(Rows& rows, WaitingRanges& waiting) {
+template <RowsAtHand Rows>
+void sortWaiting(Rows& rows, int mostPartings, WaitingRanges& waiting) {
     constexpr Long leastHandedOver = 4096;
     try {
         while (const auto range = waiting.next()) {
-            partition(rows, *range, [&](SortRange part) {
+            partitionOrSort(rows, *range, mostPartings, [&](SortRange part) {
                 if (part.last - part.first >= leastHandedOver)
                     waiting.add(part);
                 else
-                    quickSort(rows, part.first, part.last);
+                    quickSortAtHand(rows, part, mostPartings);
             });
             waiting.finish();
         }
@@ -53,14 +53,21 @@ void sortWaiting(Rows& rows, WaitingRanges& waiting) {
     }
 }
 
-/// Leaves the order that `quickSort` leaves: no range looks at another, as long as each pivot is a value of
-/// its range, which the caller promises. A copy of `rows` sorts the same rows with a pivot of its own, and
-/// `join` tells the first what the copy found. Throws std::bad_alloc, with the rows in any order.
-template <class Rows>
-void quickSortSideBySide(Rows& rows, Long first, Long last) {
-    WaitingRanges waiting({first, last});
+/// Leaves the order that `quickSort` leaves of all `count` rows. Two threads may share the work where each
+/// pivot is a value of its range, since then no range looks at another: a copy of `rows` sorts the same rows
+/// with pivots of its own, and `join` tells the first what the copy found. Throws std::bad_alloc, with the
+/// rows in any order.
+template <RowsAtHand Rows>
+void quickSortAtHand(Rows& rows, std::size_t count, Hands hands) {
+    const SortRange whole{0, static_cast<Long>(count) - 1};
+    const int most = mostPartings(static_cast<Long>(count));
+    if (hands == Hands::one || !rows.pivotsAreRows()) {
+        quickSortAtHand(rows, whole, most);
+        return;
+    }
+    WaitingRanges waiting(whole);
     Rows others = rows;
-    sideBySide([&] { sortWaiting(rows, waiting); }, [&] { sortWaiting(others, waiting); });
+    sideBySide([&] { sortWaiting(rows, most, waiting); }, [&] { sortWaiting(others, most, waiting); });
     rows.join(others);
 }
 

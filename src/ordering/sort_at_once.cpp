@@ -62,15 +62,6 @@ PieceRead joined(const std::array<PieceRead, mostPieces>& pieces) {
     return all;
 }
 
-template <class Rows>
-void sortAll(Rows& rows, std::size_t count, Hands hands) {
-    const Long last = static_cast<Long>(count) - 1;
-    if (hands == Hands::two)
-        quickSortSideBySide(rows, 0, last);
-    else
-        quickSort(rows, 0, last);
-}
-
 /// Sorts texts of such units; `order` is set where all were read.
 template <class Unit, bool descending>
 Reading orderOfUnits(const RowArray& rows, std::size_t cell, bool silent, Hands hands, Order& order) {
@@ -89,7 +80,7 @@ Reading orderOfUnits(const RowArray& rows, std::size_t cell, bool silent, Hands 
         order.emplace();
     } else if (read.reading == Reading::whole) {
         TextRows<Unit, descending> sorted(keys);
-        sortAll(sorted, keys.count(), hands);
+        quickSortAtHand(sorted, keys.count(), hands);
         order = keys.order();
     }
     return read.reading;
@@ -109,7 +100,9 @@ Order orderOfNumbers(const RowArray& rows, std::size_t cell, cSortType type, boo
     std::array<PieceRead, mostPieces> pieces;
     std::array<bool, mostPieces> readsBack{true, true};
     const Locale& locale = currentLocale();
-    forEachPiece(rows.size(), hands, [&](Piece piece) {
+    // A column names the same days again and again, and each of two readers would have to learn them.
+    const Hands readers = type == cSortDate ? Hands::one : hands;
+    forEachPiece(rows.size(), readers, [&](Piece piece) {
         NumberReader reader(type, locale);
         NumberKeys::Filler filler(keys, piece);
         pieces[piece.number] = readPiece(rows, piece, cell, [&](const CompactText* text) {
@@ -124,10 +117,8 @@ Order orderOfNumbers(const RowArray& rows, std::size_t cell, cSortType type, boo
         return std::nullopt;
     if (!read.anyText)
         return Order(std::in_place);
-    const bool keysAreTheirPivots = readsBack[0] && readsBack[1];
-    NumberRows<descending> sorted(keys, type, keysAreTheirPivots);
-    // A pivot that is no value of its range lets scans look at others, where another thread may be at work.
-    sortAll(sorted, keys.count(), keysAreTheirPivots ? hands : Hands::one);
+    NumberRows<descending> sorted(keys, type, readsBack[0] && readsBack[1]);
+    quickSortAtHand(sorted, keys.count(), hands);
     if (sorted.wouldReport() && !silent)
         return std::nullopt;
     return keys.order();

@@ -177,12 +177,16 @@ class TextRows {
     void swap(Long i, Long j) { std::swap(at(i), at(j)); }
     void crossed(Long /*i*/, Long /*j*/) {}
     void join(const TextRows& /*other*/) {}
+    bool pivotsAreRows() const { return true; }
+    Long stopFromBelow(Long i, Long k) const { return comesFirst(i, k) ? k : i; }
+    Long stopFromAbove(Long i, Long k) const { return comesFirst(k, i) ? k : i; }
 
   private:
     using Text = typename TextKeys<Unit>::Text;
     using Key = typename TextKeys<Unit>::Key;
 
     Key& at(Long index) const { return keys_[static_cast<std::size_t>(index)]; }
+    bool comesFirst(Long i, Long k) const { return descending ? less(at(k), at(i)) : less(at(i), at(k)); }
 
     bool less(const Key& a, const Key& b) const {
         return a.head != b.head ? a.head < b.head : a.text != b.text && lessBehindHead(a, b);

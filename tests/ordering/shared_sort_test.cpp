@@ -12,7 +12,7 @@
 namespace lumtex::testing {
 namespace {
 
-using ordering::quickSortSideBySide;
+using ordering::quickSortAtHand;
 using ordering::SortRange;
 using ordering::WaitingRanges;
 
@@ -36,6 +36,9 @@ struct FailingRows {
     void swap(Long i, Long j) { std::swap(at(i), at(j)); }
     void crossed(Long /*i*/, Long /*j*/) {}
     void join(const FailingRows& other) { partitions += other.partitions; }
+    bool pivotsAreRows() const { return true; }
+    Long stopFromBelow(Long i, Long k) const { return at(i) < at(k) ? k : i; }
+    Long stopFromAbove(Long i, Long k) const { return at(k) < at(i) ? k : i; }
 };
 
 std::vector<Long> shuffled(Long count) {
@@ -48,7 +51,7 @@ std::vector<Long> shuffled(Long count) {
 TEST(SharedSort, EveryRangeIsSortedOnceByEitherThread) {
     std::vector<Long> shared = shuffled(100'000);
     FailingRows byTwo{&shared, -1};
-    quickSortSideBySide(byTwo, 0, 99'999);
+    quickSortAtHand(byTwo, 100'000, Hands::two);
     std::vector<Long> alone = shuffled(100'000);
     FailingRows byOne{&alone, -1};
     ordering::quickSort(byOne, 0, 99'999);
@@ -61,7 +64,7 @@ TEST(SharedSort, AThreadThatRunsOutOfMemoryEndsTheSortOfBoth) {
     for (const Long failAt : {1, 2, 5, 40, 1'000}) {
         std::vector<Long> values = shuffled(100'000);
         FailingRows rows{&values, failAt};
-        EXPECT_THROW(quickSortSideBySide(rows, 0, 99'999), std::bad_alloc) << failAt;
+        EXPECT_THROW(quickSortAtHand(rows, 100'000, Hands::two), std::bad_alloc) << failAt;
         // Whatever the order, no row is lost.
         EXPECT_EQ(std::set<Long>(values.begin(), values.end()).size(), 100'000U) << failAt;
     }
