@@ -19,7 +19,8 @@ file(GLOB desktop_sources CONFIGURE_DEPENDS ${rooms}/worlds/headless/*.cpp)
 add_library(
     lumtex_test_raster STATIC
     ${rooms}/raster/raster_surface.cpp ${rooms}/raster/blend.cpp ${rooms}/raster/fill.cpp
-    ${rooms}/raster/line.cpp ${rooms}/raster/polygon.cpp ${rooms}/raster/text_painter.cpp
+    ${rooms}/raster/line.cpp ${rooms}/raster/painted_parts.cpp ${rooms}/raster/polygon.cpp
+    ${rooms}/raster/text_painter.cpp
     ${desktop_sources} support/pixels.cpp windows/gdi_typefaces.cpp windows/picture_doubles.cpp)
 target_link_libraries(lumtex_test_raster PUBLIC lumtex_test_base lumtex_win32)
 

@@ -2,6 +2,8 @@
 /// Pixels that the primitives of the software surface paint on.
 #pragma once
 
+#include "raster/mask.h"
+#include "raster/painted_parts.h"
 #include "values/bitmap.h"
 #include "values/geometry.h"
 
@@ -12,16 +14,23 @@ namespace lumtex::raster {
 /// An opaque pixel, 0xFFRRGGBB.
 using Pixel = std::uint32_t;
 
-/// A borrowed block of pixels. Every primitive clips to it; coordinates may lie anywhere in 32 bits.
+/// A borrowed block of pixels. Every primitive clips to it, and notes what it paints; coordinates may lie
+/// anywhere in 32 bits.
 struct Canvas {
     Pixel* pixels;
     Long width;
     Long height;
+    PaintedParts* painted = nullptr; ///< null where nobody wants to know
 
     Pixel* row(Long y) const {
         return pixels + static_cast<std::size_t>(y) * static_cast<std::size_t>(width);
     }
     Rect bounds() const { return {0, 0, width, height}; }
+    /// `area` lies in the canvas.
+    void note(const Rect& area) const {
+        if (painted != nullptr)
+            painted->note(area);
+    }
 };
 
 Rect intersection(const Rect& a, const Rect& b);
@@ -41,12 +50,7 @@ void fillPolygon(const Canvas& canvas, std::span<const Point> points, Pixel colo
 void blendPicture(
     const Canvas& canvas, const Rect& clip, const Bitmap& source, const Rect& part, const Rect& target);
 
-/// `mask` holds coverage, one byte a pixel, rows of `maskWidth`; only what lies in `clip` is touched.
-void blendMask(const Canvas& canvas,
-               const Rect& clip,
-               Point at,
-               std::span<const Byte> mask,
-               Long maskWidth,
-               Pixel color);
+/// The mask's upper left corner comes to `at`. Only what lies in `clip` changes, which lies in the canvas.
+void blendMask(const Canvas& canvas, const Rect& clip, Point at, const Mask& mask, Pixel color);
 
 } // namespace lumtex::raster

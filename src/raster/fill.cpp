@@ -16,6 +16,7 @@ void fillArea(const Canvas& canvas, const Rect& area, Pixel color) {
     const Rect visible = intersection(area, canvas.bounds());
     if (visible.Left >= visible.Right)
         return;
+    canvas.note(visible);
     for (Long y = visible.Top; y < visible.Bottom; ++y)
         std::fill(canvas.row(y) + visible.Left, canvas.row(y) + visible.Right, color);
 }

@@ -76,6 +76,7 @@ void drawLine(const Canvas& canvas, Point from, Point to, Pixel color) {
         const auto x = static_cast<Long>(alongX ? major : minor);
         const auto y = static_cast<Long>(alongX ? minor : major);
         canvas.row(y)[x] = color;
+        canvas.note({x, y, x + 1, y + 1});
     }
 }
 

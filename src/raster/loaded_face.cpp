@@ -112,12 +112,9 @@ Glyph LoadedFace::drawOutline(std::uint32_t index) {
     glyph.left = slot->bitmap_left;
     glyph.top = slot->bitmap_top;
     glyph.width = static_cast<Long>(drawn.width);
-    glyph.mask.resize(std::size_t{drawn.width} * drawn.rows);
-    for (unsigned y = 0; y < drawn.rows; ++y) {
-        const unsigned char* row = drawn.buffer + static_cast<std::ptrdiff_t>(y) * drawn.pitch;
-        std::copy_n(
-            row, drawn.width, glyph.mask.begin() + static_cast<std::ptrdiff_t>(std::size_t{y} * drawn.width));
-    }
+    glyph.mask = Mask(glyph.width, static_cast<Long>(drawn.rows));
+    for (Long y = 0; y < glyph.mask.height; ++y)
+        std::copy_n(drawn.buffer + std::ptrdiff_t{y} * drawn.pitch, drawn.width, glyph.mask.row(y));
     return glyph;
 }
 

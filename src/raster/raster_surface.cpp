@@ -43,7 +43,7 @@ const std::shared_ptr<const Double>& usualDensity() {
 RasterSurface::RasterSurface(Long width, Long height, std::shared_ptr<FontLibrary> fonts)
     : width_(std::max<Long>(width, 0)), height_(std::max<Long>(height, 0)), pixelsPerInch_(usualDensity()),
       pixels_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_)),
-      clearing_(pixelOf(white)), fonts_(std::move(fonts)) {}
+      painted_(width_, height_), clearing_(pixelOf(white)), fonts_(std::move(fonts)) {}
 
 RasterSurface::~RasterSurface() = default;
 
@@ -52,6 +52,7 @@ void RasterSurface::resize(Long width, Long height) {
     height = std::max<Long>(height, 0);
     std::vector<Pixel> larger(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
                               pixelOf(backColor_));
+    PaintedParts painted(width, height);
     carryOutClearing();
     const Long keptWidth = std::min(width, width_);
     for (Long y = 0; y < std::min(height, height_); ++y) {
@@ -60,19 +61,24 @@ void RasterSurface::resize(Long width, Long height) {
                     larger.begin() + static_cast<std::ptrdiff_t>(y) * width);
     }
     pixels_ = std::move(larger);
+    painted_ = std::move(painted);
     width_ = width;
     height_ = height;
 }
 
 void RasterSurface::carryOutClearing() {
-    if (clearing_)
-        std::fill(pixels_.begin(), pixels_.end(), *clearing_);
+    if (!clearing_)
+        return;
+    if (*clearing_ != ground_)
+        painted_.noteAll();
+    painted_.clear(pixels_.data(), *clearing_);
+    ground_ = *clearing_;
     clearing_.reset();
 }
 
 Canvas RasterSurface::canvas() {
     carryOutClearing();
-    return {pixels_.data(), width_, height_};
+    return {pixels_.data(), width_, height_, &painted_};
 }
 
 std::span<const std::uint32_t> RasterSurface::pixels() {
@@ -134,6 +140,8 @@ void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const
     const Canvas target = canvas();
     const std::int64_t right = std::min<std::int64_t>(std::int64_t{x} + width, width_);
     const std::int64_t bottom = std::min<std::int64_t>(std::int64_t{y} + height, height_);
+    target.note(
+        {std::max<Long>(x, 0), std::max<Long>(y, 0), static_cast<Long>(right), static_cast<Long>(bottom)});
     for (std::int64_t row = std::max<std::int64_t>(y, 0); row < bottom; ++row) {
         const std::int64_t fromTop = nearestSource(row - y, height, source.height);
         const Byte* bytes =

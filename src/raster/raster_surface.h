@@ -65,6 +65,8 @@ class RasterSurface final : public Surface {
     Long height_;
     std::shared_ptr<const Double> pixelsPerInch_; ///< never null
     std::vector<Pixel> pixels_;
+    PaintedParts painted_; ///< outside of these all is `ground_`
+    Pixel ground_ = 0;
     /// The whole surface is this colour: a repaint clears twice in a row, and the second time counts.
     std::optional<Pixel> clearing_;
     OLE_COLOR backColor_ = white;

@@ -75,7 +75,7 @@ void TextPainter::rules(std::int64_t from, std::int64_t to, std::int64_t y, cons
 void TextPainter::drawGlyph(const Glyph& glyph, Point at, const Rect& clip) {
     const Bitmap& picture = glyph.picture;
     if (picture.width == 0)
-        blendMask(canvas_, clip, at, glyph.mask, glyph.width, color_);
+        blendMask(canvas_, clip, at, glyph.mask, color_);
     else
         blendPicture(canvas_,
                      clip,

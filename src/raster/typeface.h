@@ -2,6 +2,7 @@
 /// One font at one size: its measures and its glyphs as coverage masks, or as pictures.
 #pragma once
 
+#include "raster/mask.h"
 #include "values/bitmap.h"
 
 #include <memory>
@@ -16,8 +17,8 @@ struct Glyph {
     Long left = 0; ///< from the pen to the mask's left edge
     Long top = 0;  ///< from the base line up to the mask's upper edge
     Long width = 0;
-    std::vector<Byte> mask; ///< coverage, rows of `width`
-    Bitmap picture;         ///< in place of the mask, where a glyph has colours of its own
+    Mask mask;
+    Bitmap picture; ///< in place of the mask, where a glyph has colours of its own
 };
 
 struct PlacedGlyph {

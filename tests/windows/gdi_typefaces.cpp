@@ -41,9 +41,10 @@ struct Typeface::Implementation {
         PatBlt(sheet.dc(), 0, 0, sheet.width(), sheet.height(), BLACKNESS);
         TextOutW(sheet.dc(), margin, 0, &letter, 1);
         GdiFlush();
+        glyph.mask = Mask(glyph.width, lineHeight);
         for (Long y = 0; y < lineHeight; ++y) {
             for (Long x = 0; x < glyph.width; ++x)
-                glyph.mask.push_back(static_cast<Byte>(sheet.row(y)[x] & 0xFFU));
+                glyph.mask.row(y)[x] = static_cast<Byte>(sheet.row(y)[x] & 0xFFU);
         }
         return glyph;
     }
