@@ -35,9 +35,10 @@ class RowPlace {
 /// An array of rows, in which one at the front comes and goes about as fast as one at the end.
 ///
 /// The rows lie in chunks of one size, each of them a ring: where a row comes in, its own chunk makes room,
-/// and every chunk behind takes in one row at its front and hands one on at its end, which moves that row
-/// alone. Positions count from 0 and are in range. A change moves rows, and nobody keeps a reference to one
-/// over it.
+/// and every chunk on the way to the nearer end of the array takes in one row at one side and hands one on at
+/// the other, which moves that row alone. All chunks are full but for the first places of the first one and
+/// the last places of those at the end. Positions count from 0 and are in range. A change moves rows, and
+/// nobody keeps a reference to one over it.
 class RowArray {
   public:
     RowArray() = default;
@@ -64,7 +65,8 @@ class RowArray {
     /// A row without cells behind the last. Throws std::bad_alloc and is as it was then.
     void append();
     void dropLast() noexcept;
-    /// Those from `position` on move down by one.
+    /// Those from `position` on move down by one. Where the front is nearer it may take room there, and does
+    /// without where there is no memory.
     void moveLastTo(std::size_t position) noexcept;
     /// Those behind `position` move up by one.
     void remove(std::size_t position) noexcept;
@@ -103,25 +105,42 @@ class RowArray {
     static constexpr std::size_t firstRoom = 4;
 
     static Chunk makeChunk(std::size_t rows);
-    Chunk& chunkOf(std::size_t position) { return chunks_[position >> chunkBits]; }
+    std::size_t chunkIndexOf(std::size_t position) const { return (before_ + position) >> chunkBits; }
+    Chunk& chunkOf(std::size_t position) { return chunks_[chunkIndexOf(position)]; }
+    void put(std::size_t position, RowRecord row) noexcept {
+        put(chunkOf(position), before_ + position, std::move(row));
+    }
     /// Into the slot of a place; whole rows go in nowhere else.
     void put(Chunk& chunk, std::size_t place, RowRecord row) noexcept {
         chunk.hasHeights = chunk.hasHeights || row.Height != 0;
         slotIn(chunk, place) = std::move(row);
     }
     std::size_t room() const { return chunks_.size() * (mask_ + 1); }
-    /// By the row's own place: a chunk begins at a multiple of its slots.
+    /// A place counts from the first one of the chunk, or of any chunk before it.
     RowRecord& slotIn(const Chunk& chunk, std::size_t place) const {
         return chunk.rows[(chunk.head + place) & mask_];
     }
     RowRecord* slotOf(std::size_t position) const {
-        return &slotIn(chunks_[position >> chunkBits], position);
+        return &slotIn(chunks_[chunkIndexOf(position)], before_ + position);
     }
     void growFirst();
-    std::size_t rowsIn(std::size_t chunk) const;
+    /// The first place of a chunk that has a row.
+    std::size_t firstOf(std::size_t chunk) const { return chunk == 0 ? before_ : 0; }
+    std::size_t endOf(std::size_t chunk) const;
+    bool isNearerToFront(std::size_t position) const;
+    bool makeRoomInFront() noexcept;
+    void turnUp(Chunk& chunk) const noexcept { chunk.head = (chunk.head + 1) & mask_; }
+    void turnDown(Chunk& chunk) const noexcept { chunk.head = (chunk.head + mask_) & mask_; }
+    void moveUpWithin(Chunk& chunk, std::size_t from, std::size_t hole) noexcept;
+    void moveDownWithin(Chunk& chunk, std::size_t hole, std::size_t end) noexcept;
+    void openFromFront(std::size_t position) noexcept;
+    void openFromBack(std::size_t position) noexcept;
+    void closeFromFront(std::size_t position) noexcept;
+    void closeFromBack(std::size_t position) noexcept;
 
     std::vector<Chunk> chunks_;
     std::size_t size_ = 0;
+    std::size_t before_ = 0; ///< places of the first chunk in front of its rows, fewer than a whole chunk
     std::size_t mask_ =
         0; ///< slots of a chunk less 1; a chunk that is the only one may have fewer than the others
 };
@@ -131,7 +150,7 @@ std::size_t RowArray::sweep(std::size_t position, Judge verdict) {
     std::size_t stayed = position;
     const auto moveUp = [&](std::size_t from) {
         if (from != stayed)
-            put(chunkOf(stayed), stayed, std::exchange((*this)[from], RowRecord()));
+            put(stayed, std::exchange((*this)[from], RowRecord()));
         ++stayed;
     };
     std::size_t asked = position;

@@ -32,6 +32,12 @@ class Rows : public ::testing::Test {
         expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(position));
     }
     std::size_t below(std::size_t limit) { return random_() % limit; }
+    std::vector<const RowRecord*> places() const {
+        std::vector<const RowRecord*> all;
+        for (const RowRecord& row : rows)
+            all.push_back(&row);
+        return all;
+    }
 
     void check() {
         ASSERT_EQ(rows.size(), expected.size());
@@ -85,7 +91,9 @@ TEST_F(Rows, ComeAndGoAroundTheEndsOfAChunk) {
         while (rows.size() < count)
             append();
         for (const std::size_t position : {std::size_t{0},
+                                           count / 8,
                                            count / 4,
+                                           count * 3 / 8,
                                            count / 2,
                                            count - 1,
                                            std::min(count - 1, std::size_t{1023}),
@@ -99,11 +107,61 @@ TEST_F(Rows, ComeAndGoAroundTheEndsOfAChunk) {
     }
 }
 
+TEST_F(Rows, PassThroughLikeAQueueFromEitherEnd) {
+    for (const bool backwards : {false, true}) {
+        while (rows.size() < 2500)
+            append();
+        for (int i = 0; i < 6000; ++i) {
+            append();
+            if (backwards)
+                moveLastTo(0);
+            remove(backwards ? rows.size() - 1 : 0);
+            if (i % 500 == 0)
+                check();
+        }
+        check();
+    }
+}
+
+TEST_F(Rows, ComeAndGoAtTheFrontOfManyWithoutMovingThem) {
+    while (rows.size() < 5000)
+        append();
+    for (int i = 0; i < 1500; ++i) {
+        const std::vector<const RowRecord*> before =
+            i % 100 == 0 ? places() : std::vector<const RowRecord*>();
+        append();
+        moveLastTo(0);
+        for (std::size_t row = 0; row < before.size(); ++row)
+            ASSERT_EQ(&rows[row + 1], before[row]) << "row " << row << " in turn " << i;
+    }
+    check();
+    for (int i = 0; i < 1500; ++i) {
+        const std::vector<const RowRecord*> before =
+            i % 100 == 0 ? places() : std::vector<const RowRecord*>();
+        remove(0);
+        for (std::size_t row = 1; row < before.size(); ++row)
+            ASSERT_EQ(&rows[row - 1], before[row]) << "row " << row << " in turn " << i;
+    }
+    check();
+}
+
+TEST_F(Rows, LeaveNothingWhereTheyWere) {
+    while (rows.size() < 5000)
+        append();
+    for (int i = 0; i < 200; ++i)
+        remove(700);
+    for (int i = 0; i < 1024; ++i)
+        remove(0);
+    while (rows.size() < 6000)
+        append();
+    check();
+}
+
 TEST_F(Rows, TakeTheOrderThatTheyAreGiven) {
     for (const std::size_t count : {0U, 1U, 7U, 1024U, 2500U}) {
         while (rows.size() < count) {
             append();
-            moveLastTo(below(rows.size()));
+            moveLastTo(below(4) == 0 ? 0 : below(rows.size()));
         }
         std::vector<std::uint32_t> sources(count);
         std::iota(sources.begin(), sources.end(), 0U);
@@ -235,8 +293,10 @@ TEST_F(MeasuredRows, LetWalksPassTheOthersByTheThousand) {
 
 TEST_F(Rows, GoAllAndComeAgain) {
     for (const std::size_t count : {0U, 3U, 2500U, 40U}) {
-        while (rows.size() < count)
+        while (rows.size() < count) {
             append();
+            moveLastTo(0);
+        }
         if (count == 40)
             rows.release();
         else
