@@ -176,6 +176,29 @@ TEST_F(Rows, TakeTheOrderThatTheyAreGiven) {
     }
 }
 
+TEST_F(Rows, TakeTheirOrderFromTwoThreadsWhereTheyAreMany) {
+    // At last the list has room for more rows than it holds, behind the last and in front of the first.
+    for (int i = 0; i < 60'000; ++i)
+        append();
+    for (int i = 0; i < 300; ++i)
+        remove(0);
+    while (rows.size() > 21'000) {
+        rows.dropLast();
+        expected.pop_back();
+    }
+    for (int turn = 0; turn < 2; ++turn) {
+        std::vector<std::uint32_t> sources(rows.size());
+        std::iota(sources.begin(), sources.end(), 0U);
+        std::shuffle(sources.begin(), sources.end(), std::mt19937(20261123));
+        std::vector<Single> ordered;
+        for (const std::uint32_t source : sources)
+            ordered.push_back(expected[source]);
+        rows.reorder(sources);
+        expected = ordered;
+        check();
+    }
+}
+
 TEST_F(Rows, AreSweptLikeThoseOfAVector) {
     for (int round = 0; round < 60; ++round) {
         while (rows.size() < 3000) {
