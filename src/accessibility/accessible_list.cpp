@@ -37,6 +37,7 @@ void AccessibleList::controlEnds() noexcept {
     core_ = nullptr;
     if (stream_)
         stream_->close();
+    stream_.reset();
 }
 
 } // namespace lumtex::accessibility

@@ -19,8 +19,7 @@ constexpr int mostRounds = 16;
 } // namespace
 
 ChangeStream::ChangeStream(const AccessibleList& list, ListViewCore& core, ChangeListener listener)
-    : list_(list), core_(core), listener_(std::make_shared<ChangeListener>(std::move(listener))),
-      numbers_(numbersNow()), shown_(shownNow()) {}
+    : list_(list), core_(core), listener_(std::move(listener)), numbers_(numbersNow()), shown_(shownNow()) {}
 
 ChangeStream::Numbers ChangeStream::numbersNow() const {
     const ListReader reader(core_);
@@ -176,18 +175,17 @@ bool ChangeStream::deliver() {
     std::vector<Change> changes;
     changes.swap(changes_);
     for (const Change& change : changes) {
-        const std::shared_ptr<const ChangeListener> listener = listener_;
-        if (!listener)
+        if (closed_)
             return false;
         try {
-            (*listener)(change);
+            listener_(change);
         } catch (...) { // whoever listens has no one to tell
         }
     }
     // Its memory serves the next look.
     changes.clear();
     changes_.swap(changes);
-    return static_cast<bool>(listener_);
+    return !closed_;
 }
 
 void ChangeStream::look() noexcept {

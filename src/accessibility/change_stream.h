@@ -5,7 +5,6 @@
 #include "accessibility/accessible_list.h"
 #include "accessibility/list_reader.h"
 
-#include <memory>
 #include <vector>
 
 namespace lumtex::accessibility {
@@ -21,7 +20,7 @@ class ChangeStream {
     /// Calls the listener for each difference; again, a few times over, for what changes meanwhile.
     void look() noexcept;
     /// Nobody is called any more.
-    void close() { listener_ = nullptr; }
+    void close() { closed_ = true; }
 
   private:
     struct Numbers {
@@ -66,12 +65,13 @@ class ChangeStream {
 
     const AccessibleList& list_;
     ListViewCore& core_;
-    /// Shared, as it may be let go while it is called.
-    std::shared_ptr<const ChangeListener> listener_;
+    /// May close the stream while it is called, and stays as long as that.
+    ChangeListener listener_;
     Numbers numbers_;
     Shown shown_;
     std::vector<Change> changes_;
     bool focusMoved_ = false; ///< since the pass that `shown_` is of
+    bool closed_ = false;
     bool busy_ = false;
     bool again_ = false;
 };
