@@ -6,7 +6,6 @@
 #include "activex/com_guard.h"
 #include "activex/dual_arguments.h"
 #include "activex/face.h"
-#include "automation/argument_list.h"
 #include "worlds/win32/com_ref.h"
 
 #include <algorithm>
@@ -40,8 +39,8 @@ class AutomationFace : public Face<IDispatch> {
     HRESULT getBy(Long number, Result* result, Arguments... arguments) noexcept {
         return giving(
             result,
-            [&](automation::CallByName& byName, std::span<Variant> values) {
-                return byName.get(memberOf(number), values);
+            [&](automation::CallByName& byName, automation::ArgumentList& list) {
+                return byName.get(memberOf(number), list);
             },
             arguments...);
     }
@@ -49,8 +48,8 @@ class AutomationFace : public Face<IDispatch> {
     HRESULT callBy(Long number, Result* result, Arguments... arguments) noexcept {
         return giving(
             result,
-            [&](automation::CallByName& byName, std::span<Variant> values) {
-                return byName.call(memberOf(number), values);
+            [&](automation::CallByName& byName, automation::ArgumentList& list) {
+                return byName.call(memberOf(number), list);
             },
             arguments...);
     }
@@ -58,7 +57,7 @@ class AutomationFace : public Face<IDispatch> {
     HRESULT callBy(Long number, NoResult /*none*/, Arguments... arguments) noexcept {
         return entered([&] {
             passing([&](automation::CallByName& byName,
-                        std::span<Variant> values) { return byName.call(memberOf(number), values); },
+                        automation::ArgumentList& list) { return byName.call(memberOf(number), list); },
                     arguments...);
         });
     }
@@ -73,7 +72,7 @@ class AutomationFace : public Face<IDispatch> {
     }
 
   private:
-    using Assign = void (automation::CallByName::*)(const automation::Member&, std::span<Variant>, Variant);
+    using Assign = void (automation::CallByName::*)(const automation::Member&, automation::ArgumentList&);
 
     const automation::Member& memberOf(Long number) const;
     HRESULT told(const RuntimeError& error) const noexcept;
@@ -98,12 +97,11 @@ class AutomationFace : public Face<IDispatch> {
 
     template <class Call, class... Arguments>
     Variant passing(Call&& call, Arguments... arguments) {
-        automation::ArgumentList list;
-        auto& values = list.values();
-        (appendArgument(values, arguments), ...);
+        DualArguments own(target_.spareText(), arguments...);
         automation::CallByName byName = target_.byName();
-        Variant value = call(byName, values);
+        Variant value = call(byName, own.list());
         // A list of any length comes last and is never written back.
+        auto& values = own.list().values();
         values.resize(std::max(values.size(), sizeof...(Arguments)));
         [[maybe_unused]] std::size_t place = 0;
         (storeBack(values[place++], arguments), ...);
@@ -121,13 +119,9 @@ class AutomationFace : public Face<IDispatch> {
     template <class... Arguments>
     HRESULT assigning(Assign assign, Long number, Arguments... arguments) noexcept {
         return entered([&] {
-            automation::ArgumentList list;
-            auto& values = list.values();
-            (appendArgument(values, arguments), ...);
-            Variant value = std::move(values.back());
-            values.pop_back();
+            DualArguments own(target_.spareText(), arguments...);
             automation::CallByName byName = target_.byName();
-            (byName.*assign)(memberOf(number), values, std::move(value));
+            (byName.*assign)(memberOf(number), own.list());
         });
     }
 

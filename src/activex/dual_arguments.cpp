@@ -41,7 +41,11 @@ Variant dualArgument(IDispatch* object) {
     return fromVARIANT(value);
 }
 
-void appendArgument(std::pmr::vector<Variant>& arguments, SAFEARRAY* list) {
+void appendArgument(std::pmr::vector<Variant>& arguments, BSTR text, SpareText& spare) {
+    arguments.push_back(spare.copyOf(viewBSTR(text)));
+}
+
+void appendArgument(std::pmr::vector<Variant>& arguments, SAFEARRAY* list, SpareText& /*spare*/) {
     if (list == nullptr)
         return;
     if (SafeArrayGetDim(list) != 1)
@@ -86,6 +90,11 @@ void storeResult(const Variant& value, FindResultsRecord& place) {
 }
 
 void storeBack(const Variant& value, VARIANT* argument) {
+    // Most are places of rows that come back as the kind of number that they were.
+    if (const Long* const number = value.as<Long>(); number != nullptr && V_VT(argument) == VT_I4) {
+        V_I4(argument) = *number;
+        return;
+    }
     VARIANT place;
     VariantInit(&place);
     V_VT(&place) = VT_BYREF | VT_VARIANT;

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "activex/argument_bridge.h"
+#include "activex/spare_text.h"
+#include "automation/argument_list.h"
 #include "worlds/win32/variant_bridge.h"
 
 #include <memory_resource>
@@ -54,10 +56,29 @@ Variant dualArgument(T* place) {
 
 /// Appends one argument, or each item of an array. A null array has no items.
 template <class T>
-void appendArgument(std::pmr::vector<Variant>& arguments, T value) {
+void appendArgument(std::pmr::vector<Variant>& arguments, T value, SpareText& /*spare*/) {
     arguments.push_back(dualArgument(value));
 }
-void appendArgument(std::pmr::vector<Variant>& arguments, SAFEARRAY* list);
+void appendArgument(std::pmr::vector<Variant>& arguments, BSTR text, SpareText& spare);
+void appendArgument(std::pmr::vector<Variant>& arguments, SAFEARRAY* list, SpareText& spare);
+
+/// The arguments of one call, from the caller's values.
+class DualArguments {
+  public:
+    template <class... Values>
+    explicit DualArguments(SpareText& spare, Values... values) : spare_(spare) {
+        (appendArgument(list_.values(), values, spare), ...);
+    }
+    DualArguments(const DualArguments&) = delete;
+    DualArguments& operator=(const DualArguments&) = delete;
+    ~DualArguments() { spare_.takeFrom(list_.values()); }
+
+    automation::ArgumentList& list() { return list_; }
+
+  private:
+    SpareText& spare_;
+    automation::ArgumentList list_;
+};
 
 // What the control gave, put to where a caller wants it. What stood there before is not freed.
 

@@ -1,9 +1,9 @@
 /// Calls by member names over Variants.
 #include "automation/call_by_name.h"
 
-#include "automation/argument_list.h"
 #include "values/runtime_error.h"
 
+#include <bitset>
 #include <optional>
 #include <utility>
 
@@ -39,12 +39,17 @@ bool endsInList(const Member& member) {
     return member.count > 0 && member.entries[member.count - 1].type.code == TypeCode::variantList;
 }
 
+/// Parameters that are no list.
+std::size_t fixedOf(const Member& member) {
+    return endsInList(member) ? member.count - 1 : member.count;
+}
+
 /// The caller's arguments on their way through a call, complete with defaults. They are moved and not copied,
 /// since the copy of a text needs memory, and return to the caller when the call has ended, however it does.
 class LentArguments {
   public:
     LentArguments(const Member& member, std::span<Variant> callers)
-        : member_(member), callers_(callers), fixed_(endsInList(member) ? member.count - 1 : member.count) {
+        : member_(member), callers_(callers), fixed_(fixedOf(member)) {
         if (callers.size() > fixed_ && !endsInList(member))
             throw RuntimeError(ErrorNumber::wrongNumberOfArguments);
     }
@@ -76,9 +81,38 @@ class LentArguments {
   private:
     const Member& member_;
     std::span<Variant> callers_;
-    std::size_t fixed_; ///< parameters that are no list
+    std::size_t fixed_;
     std::size_t lent_ = 0;
     ArgumentList all_;
+};
+
+/// The call's own arguments, with defaults in the places of those that were left out as long as this stands.
+class FilledIn {
+  public:
+    FilledIn(const Member& member, std::span<Variant> own) : own_(own) {
+        const std::size_t fixed = fixedOf(member);
+        if (own.size() < fixed)
+            throw RuntimeError(ErrorNumber::argumentNotOptional);
+        for (std::size_t i = 0; i < fixed; ++i) {
+            if (own[i].isMissing()) {
+                own[i] = valueOf(member.entries[i].defaultValue);
+                leftOut_.set(i);
+            }
+        }
+    }
+    FilledIn(const FilledIn&) = delete;
+    FilledIn& operator=(const FilledIn&) = delete;
+    ~FilledIn() {
+        if (leftOut_.none())
+            return;
+        for (std::size_t i = 0; i < leftOut_.size(); ++i)
+            if (leftOut_.test(i))
+                own_[i] = Missing{};
+    }
+
+  private:
+    std::span<Variant> own_;
+    std::bitset<Member::mostParameters> leftOut_;
 };
 
 } // namespace
@@ -134,6 +168,26 @@ Variant CallByName::call(const Member& member, std::span<Variant> arguments) {
     return invoke(member, needEntry(member.call), arguments, std::nullopt);
 }
 
+Variant CallByName::get(const Member& member, ArgumentList& own) {
+    return invoke(member, needEntry(member.get), own);
+}
+
+void CallByName::let(const Member& member, ArgumentList& own) {
+    if (member.isReference())
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
+    invoke(member, needEntry(member.let), own);
+}
+
+void CallByName::set(const Member& member, ArgumentList& own) {
+    if (!member.isReference())
+        throw RuntimeError(ErrorNumber::objectDoesNotSupportMember);
+    invoke(member, needEntry(member.let), own);
+}
+
+Variant CallByName::call(const Member& member, ArgumentList& own) {
+    return invoke(member, needEntry(member.call), own);
+}
+
 /// `value` is what an assignment assigns.
 Variant CallByName::invoke(const Member& member,
                            Member::Invoke entry,
@@ -141,6 +195,11 @@ Variant CallByName::invoke(const Member& member,
                            std::optional<Variant> value) {
     LentArguments lent(member, arguments);
     return entry(object_, lent.complete(std::move(value)), callers_);
+}
+
+Variant CallByName::invoke(const Member& member, Member::Invoke entry, ArgumentList& own) {
+    const FilledIn complete(member, own.values());
+    return entry(object_, own.values(), callers_);
 }
 
 } // namespace lumtex::automation

@@ -2,6 +2,7 @@
 /// The public classes reached by member names at run time.
 #pragma once
 
+#include "automation/argument_list.h"
 #include "automation/class_table.h"
 #include "guards/error.h"
 #include "model/list_view.h"
@@ -47,6 +48,14 @@ class CallByName {
     void set(const Member& member, std::span<Variant> arguments, Variant value);
     Variant call(const Member& member, std::span<Variant> arguments);
 
+    // The same with arguments that nobody else has, one for each parameter: they serve where they lie. Of an
+    // assignment the value comes last. One that is `Missing` is so again when the call has ended.
+
+    Variant get(const Member& member, ArgumentList& own);
+    void let(const Member& member, ArgumentList& own);
+    void set(const Member& member, ArgumentList& own);
+    Variant call(const Member& member, ArgumentList& own);
+
   private:
     CallByName(const ClassDescription& description, void* object) : class_(description), object_(object) {}
 
@@ -55,6 +64,7 @@ class CallByName {
                    Member::Invoke entry,
                    std::span<Variant> arguments,
                    std::optional<Variant> value);
+    Variant invoke(const Member& member, Member::Invoke entry, ArgumentList& own);
 
     const ClassDescription& class_;
     void* object_;

@@ -171,6 +171,44 @@ TEST_F(CallingByName, ArgumentsAreTheCallersAgainAfterARefusal) {
     EXPECT_EQ(search, with(Missing{}, Long{cFindStart}, object, longText));
 }
 
+TEST_F(CallingByName, ArgumentsOfTheCallsOwnServeWhereTheyLie) {
+    addColumns({50});
+    const automation::ClassDescription& lists = automation::listViewClass();
+    automation::ArgumentList row;
+    for (const Variant& value : with(Long{99}, u";", Missing{}))
+        row.values().push_back(value);
+    byName.call(*automation::findMember(lists, u"RowsAdd"), row);
+    EXPECT_EQ(row.values()[0], Variant(Long{0})) << "the place that the row took";
+    EXPECT_TRUE(row.values()[2].isMissing()) << "what was left out stays so";
+
+    automation::ArgumentList cell;
+    for (const Variant& value : with(Long{1}, Long{1}, u"Ada"))
+        cell.values().push_back(value);
+    byName.let(*automation::findMember(lists, u"ItemText"), cell);
+    EXPECT_EQ(list.ItemText(1, 1), u"Ada");
+    cell.values().pop_back();
+    EXPECT_EQ(byName.get(*automation::findMember(lists, u"ItemText"), cell), Variant(u"Ada"));
+}
+
+TEST_F(CallingByName, ArgumentsOfTheCallsOwnAreRefusedLikeAnyOthers) {
+    const automation::ClassDescription& lists = automation::listViewClass();
+    automation::ArgumentList search;
+    for (const Variant& value : with(Missing{}, Long{cFindStart}, Long{cFindBinary}, Missing{}, Missing{}))
+        search.values().push_back(value);
+    const automation::Member& find = *automation::findMember(lists, u"FindItem");
+    EXPECT_EQ(errorNumberOf([&] { byName.call(find, search); }), ErrorNumber::argumentNotOptional);
+    search.values().resize(2);
+    EXPECT_EQ(errorNumberOf([&] { byName.call(find, search); }), ErrorNumber::argumentNotOptional);
+    EXPECT_EQ(errorNumberOf([&] { byName.get(find, search); }), ErrorNumber::objectDoesNotSupportMember);
+
+    automation::ArgumentList value;
+    value.values().push_back(true);
+    EXPECT_EQ(errorNumberOf([&] { byName.let(*automation::findMember(lists, u"Skin"), value); }),
+              ErrorNumber::objectDoesNotSupportMember);
+    EXPECT_EQ(errorNumberOf([&] { byName.set(*automation::findMember(lists, u"GridLines"), value); }),
+              ErrorNumber::objectDoesNotSupportMember);
+}
+
 TEST_F(CallingByName, MembersAreFoundByTheirNumbersToo) {
     EXPECT_EQ(automation::findMember(automation::listViewClass(), Long{5})->name, u"RowsAdd");
     EXPECT_EQ(automation::findMember(automation::listViewClass(), Long{-12345}), nullptr);

@@ -199,6 +199,19 @@ TEST_F(HostWrapper, ReachesTheHelpers) {
     DeleteFileW(file.c_str());
 }
 
+TEST_F(HostWrapper, HandsOnTextsOfAnyLengthOneAfterAnother) {
+    list.ColumnsAdd(L"Text");
+    const std::size_t lengths[] = {40, 3, 0, 60, 20, 5000, 4, 3000, 39};
+    long row = 0;
+    for (const std::size_t length : lengths) {
+        const std::wstring text(length, static_cast<wchar_t>(L'a' + row));
+        list.RowsAdd(-1, L", which is in none of them", text);
+        EXPECT_EQ(list.ItemText(++row, 1), text);
+        list.letItemText(1, 1, text + L"!");
+        EXPECT_EQ(list.ItemText(1, 1), text + L"!");
+    }
+}
+
 TEST_F(HostWrapper, ThrowsWhatACallWasRefusedWith) {
     fill();
     HRESULT elsewhere = S_OK;
