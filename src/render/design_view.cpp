@@ -6,7 +6,7 @@ namespace lumtex {
 
 namespace {
 
-constexpr Single margin = 3; // pixels
+constexpr Single frameMargin = 3; // pixels
 
 } // namespace
 
@@ -29,16 +29,16 @@ void Painting::paintDesignView() {
         p.step([&] {
             const Picture& box = *artwork_.img[1];
             const auto boxHeight = static_cast<Single>(drawing::GetPictureHeight(surface, box));
-            surface.paintPicture(box, margin, (surface.textHeight(u"A") - boxHeight) / 2 + margin);
+            surface.paintPicture(box, frameMargin, (surface.textHeight(u"A") - boxHeight) / 2 + frameMargin);
         });
         p.step([&] {
             const auto boxWidth = static_cast<Single>(drawing::GetPictureWidth(surface, *artwork_.img[2]));
-            left = margin + boxWidth + margin;
+            left = frameMargin + boxWidth + frameMargin;
         });
     } else {
-        left = margin;
+        left = frameMargin;
     }
-    p.step([&] { surface.print(left, margin, core_.host().extenderName()); });
+    p.step([&] { surface.print(left, frameMargin, core_.host().extenderName()); });
     if (properties_.BorderVisible)
         DrawBorder();
     p.step([&] { window_.present(); });
