@@ -3,7 +3,6 @@
 #include "content/content_colors.h"
 #include "guards/failure_of.h"
 #include "persistence/content_fields.h"
-#include "values/unit_blocks.h"
 
 #include <algorithm>
 
@@ -11,7 +10,6 @@ namespace lumtex {
 
 namespace {
 
-constexpr std::size_t lengthSize = sizeof(Long);
 constexpr std::size_t noPictures = 2; // a present byte each
 
 template <content::ContentNumber T>
@@ -81,21 +79,6 @@ const SaveAtOnce::Look& SaveAtOnce::lookOf(StyleHandle style) {
     return look_;
 }
 
-void SaveAtOnce::encodeText(const CompactText& text, Byte* target) {
-    const bool copied = text.visit([&]<class Units>(const Units& units) {
-        if constexpr (std::is_same_v<Units, StringView>) {
-            return false;
-        } else {
-            // The lower half of a byte's values is the same in every ANSI code page.
-            return copyUnits(units.data(), units.size(), target) < 0x80;
-        }
-    });
-    if (copied)
-        return;
-    text.copyTo(scratch_);
-    locale_.toAnsi(scratch_, {target, scratch_.size()});
-}
-
 bool SaveAtOnce::write(Long row, Long column) {
     bool written = false;
     // Where memory runs out, the other way tells.
@@ -107,16 +90,6 @@ bool SaveAtOnce::write(Long row, Long column) {
         const auto index = static_cast<std::size_t>(column) - 1;
         const ListViewItem& item = (*cells)[index];
         const std::size_t textSize = item.text().size();
-        if (!withProperties_) {
-            Byte* const place = file_.roomAtHand(lengthSize + textSize);
-            if (place == nullptr)
-                return;
-            content::storeNumber(place, static_cast<Long>(textSize));
-            encodeText(item.text(), place + lengthSize);
-            file_.taken(lengthSize + textSize);
-            written = true;
-            return;
-        }
         const CellExtras* extras = cells->extras(index);
         const bool hasTag = extras != nullptr && !extras->Tag.get().isEmpty();
         if (extras != nullptr &&
@@ -124,17 +97,17 @@ bool SaveAtOnce::write(Long row, Long column) {
             return;
         const StringView tag = hasTag ? StringView(*extras->Tag.get().text()) : StringView();
         const Look& look = lookOf(item.styleHandle());
-        const std::size_t size = lengthSize + textSize + look.beforeTag.size() + lengthSize + tag.size() +
-                                 look.behindTag.size() + noPictures;
+        const std::size_t size = textLengthSize + textSize + look.beforeTag.size() + textLengthSize +
+                                 tag.size() + look.behindTag.size() + noPictures;
         Byte* place = look.hasForm ? file_.roomAtHand(size) : nullptr;
         if (place == nullptr)
             return;
         content::storeNumber(place, static_cast<Long>(textSize));
-        encodeText(item.text(), place + lengthSize);
-        place = std::copy(look.beforeTag.begin(), look.beforeTag.end(), place + lengthSize + textSize);
+        encoder_.encode(item.text(), place + textLengthSize);
+        place = std::copy(look.beforeTag.begin(), look.beforeTag.end(), place + textLengthSize + textSize);
         content::storeNumber(place, static_cast<Long>(tag.size()));
-        locale_.toAnsi(tag, {place + lengthSize, tag.size()});
-        place = std::copy(look.behindTag.begin(), look.behindTag.end(), place + lengthSize + tag.size());
+        locale_.toAnsi(tag, {place + textLengthSize, tag.size()});
+        place = std::copy(look.behindTag.begin(), look.behindTag.end(), place + textLengthSize + tag.size());
         std::fill_n(place, noPictures, Byte{0});
         file_.taken(size);
         written = true;

@@ -1,9 +1,10 @@
 /// \file
-/// Saving a record at once, out of the cell as it lies.
+/// Saving a record with its properties at once, out of the cell as it lies.
 #pragma once
 
 #include "content/content_writer.h"
 #include "persistence/content_cells.h"
+#include "persistence/text_encoder.h"
 
 #include <vector>
 
@@ -12,11 +13,8 @@ namespace lumtex {
 /// Writes what the accessors would give, for cells whose values all have a form in the file.
 class SaveAtOnce {
   public:
-    SaveAtOnce(ListViewCore& core,
-               const SystemLocale& locale,
-               content::ContentWriter& file,
-               bool withProperties)
-        : cells_(core), locale_(locale), file_(file), withProperties_(withProperties) {}
+    SaveAtOnce(ListViewCore& core, const SystemLocale& locale, content::ContentWriter& file)
+        : cells_(core), locale_(locale), file_(file), encoder_(locale) {}
 
     /// False, with nothing written, for a cell that has to be written value by value: one that is missing,
     /// one with a picture or a value that could fail, and where the file has to be written or would fail.
@@ -38,14 +36,12 @@ class SaveAtOnce {
     void appendValue(std::vector<Byte>& bytes, const String& value);
     void appendValue(std::vector<Byte>& bytes, cItemAlign value);
     void appendColor(std::vector<Byte>& bytes, const Variant& color);
-    void encodeText(const CompactText& text, Byte* target);
 
     ContentCells cells_;
     const SystemLocale& locale_;
     content::ContentWriter& file_;
-    bool withProperties_;
+    TextEncoder encoder_;
     Look look_; ///< of the last cell
-    String scratch_;
 };
 
 } // namespace lumtex

@@ -42,11 +42,15 @@ class ContentRoundTrip : public ContentFixture {
     }
 
     void fill() {
+        const std::uint32_t columns = below(4);
+        fill(below(20), columns);
+    }
+    void fill(std::uint32_t rows, std::uint32_t columns) {
         list.RowsClear();
         list.ColumnsClear();
-        for (std::uint32_t i = below(4); i > 0; --i)
+        for (std::uint32_t i = columns; i > 0; --i)
             list.ColumnsAdd(u"");
-        for (std::uint32_t i = below(20); i > 0; --i)
+        for (std::uint32_t i = rows; i > 0; --i)
             list.RowsAdd();
         for (Long row = 1; row <= list.RowsCount(); ++row)
             for (Long column = 1; column <= list.ColumnsCount(); ++column)
@@ -144,6 +148,14 @@ TEST_F(ContentRoundTrip, SavedFilesHoldWhatTheAccessorsGive) {
         for (const bool properties : {false, true})
             ASSERT_EQ(saved(properties), expectedFile(properties)) << "list " << i;
     }
+    EXPECT_EQ(takeReports(), "");
+}
+
+TEST_F(ContentRoundTrip, FilesOfManyRowsHoldWhatTheAccessorsGive) {
+    list.letAutoRedraw(false);
+    fill(2'000, 4);
+    for (const bool properties : {false, true})
+        ASSERT_TRUE(saved(properties) == expectedFile(properties)) << properties;
     EXPECT_EQ(takeReports(), "");
 }
 
