@@ -138,17 +138,25 @@ void RasterSurface::stretchDIBits(Long x, Long y, Long width, Long height, const
     if (source.bytes.size() < stride * static_cast<std::size_t>(source.height))
         return;
     const Canvas target = canvas();
-    const std::int64_t right = std::min<std::int64_t>(std::int64_t{x} + width, width_);
-    const std::int64_t bottom = std::min<std::int64_t>(std::int64_t{y} + height, height_);
-    target.note(
-        {std::max<Long>(x, 0), std::max<Long>(y, 0), static_cast<Long>(right), static_cast<Long>(bottom)});
-    for (std::int64_t row = std::max<std::int64_t>(y, 0); row < bottom; ++row) {
-        const std::int64_t fromTop = nearestSource(row - y, height, source.height);
+    const Rect whole{std::max<Long>(x, 0),
+                     std::max<Long>(y, 0),
+                     static_cast<Long>(std::min<std::int64_t>(std::int64_t{x} + width, width_)),
+                     static_cast<Long>(std::min<std::int64_t>(std::int64_t{y} + height, height_))};
+    if (whole.Left >= whole.Right)
+        return;
+    target.note(whole);
+    std::int64_t lineAbove = -1; // of the source
+    for (Long row = whole.Top; row < whole.Bottom; ++row) {
+        const std::int64_t fromTop = nearestSource(std::int64_t{row} - y, height, source.height);
+        Pixel* pixels = target.row(row);
+        if (std::exchange(lineAbove, fromTop) == fromTop) {
+            std::copy(pixels - width_ + whole.Left, pixels - width_ + whole.Right, pixels + whole.Left);
+            continue;
+        }
         const Byte* bytes =
             source.bytes.data() + stride * static_cast<std::size_t>(source.height - 1 - fromTop);
-        Pixel* pixels = target.row(static_cast<Long>(row));
-        for (std::int64_t column = std::max<std::int64_t>(x, 0); column < right; ++column) {
-            const Byte* pixel = bytes + nearestSource(column - x, width, source.width) * 3;
+        for (Long column = whole.Left; column < whole.Right; ++column) {
+            const Byte* pixel = bytes + nearestSource(std::int64_t{column} - x, width, source.width) * 3;
             pixels[column] = fullAlpha | (Pixel{pixel[2]} << 16U) | (Pixel{pixel[1]} << 8U) | Pixel{pixel[0]};
         }
     }
