@@ -9,26 +9,35 @@ namespace lumtex::qt {
 
 namespace {
 
-constexpr std::uint32_t theSound = 1; // the only one at a time
+/// Null where there is no memory. Never destroyed: that unloads the code of the devices, in which the thread
+/// of a sound may still be on its way out, even of one that was cancelled.
+ca_context* devices() {
+    static ca_context* const context = [] {
+        ca_context* made = nullptr;
+        return ca_context_create(&made) == CA_SUCCESS ? made : nullptr;
+    }();
+    return context;
+}
 
 } // namespace
 
-void SoundPlayer::Close::operator()(ca_context* context) const {
-    ca_context_destroy(context);
+SoundPlayer::SoundPlayer() {
+    static std::uint32_t players = 0;
+    sound_ = ++players;
+}
+
+SoundPlayer::~SoundPlayer() {
+    if (played_)
+        ca_context_cancel(devices(), sound_);
 }
 
 bool SoundPlayer::play(const QString& file) {
-    if (!QFileInfo(file).isFile())
+    if (!QFileInfo(file).isFile() || devices() == nullptr)
         return false;
-    if (!context_) {
-        ca_context* made = nullptr;
-        if (ca_context_create(&made) != CA_SUCCESS)
-            return false;
-        context_.reset(made);
-    }
-    ca_context_cancel(context_.get(), theSound);
+    played_ = true;
+    ca_context_cancel(devices(), sound_);
     const QByteArray path = QFile::encodeName(QFileInfo(file).absoluteFilePath());
-    return ca_context_play(context_.get(), theSound, CA_PROP_MEDIA_FILENAME, path.constData(), nullptr) ==
+    return ca_context_play(devices(), sound_, CA_PROP_MEDIA_FILENAME, path.constData(), nullptr) ==
            CA_SUCCESS;
 }
 

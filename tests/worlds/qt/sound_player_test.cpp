@@ -53,6 +53,14 @@ TEST_F(Sounds, BeginWithoutWaitingAndOneInPlaceOfAnother) {
     EXPECT_TRUE(player.play(file("ding.wav")));
 }
 
+TEST_F(Sounds, MayEndWithTheirPlayerAsSoonAsTheyBegin) {
+    // The thread of each is still at work then.
+    for (int turn = 0; turn < 300; ++turn) {
+        qt::SoundPlayer shortLived;
+        ASSERT_TRUE(shortLived.play(file("ding.wav"))) << turn;
+    }
+}
+
 TEST_F(Sounds, AreNotHeardWhereThereIsNoSoundFile) {
     folder.write("text.wav", "no sound");
     EXPECT_FALSE(player.play(file("text.wav")));
