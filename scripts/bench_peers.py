@@ -70,9 +70,11 @@ def measure(options, results):
 
 def measure_component(options, results):
     command = ["scripts/on-display", "scripts/wine-run", "build/win64/bin/lumtex_bench_component.exe", "--results"]
-    for turn in range(options.rounds):
-        print(f"the component under Wine, round {turn + 1}", flush=True)
-        results += [[kind, USUAL, rows, name, str(turn), value, check] for kind, rows, name, value, check in run(command)]
+    for data in [USUAL, *parts(options.data)]:
+        for turn in range(options.rounds):
+            print(f"the component under Wine, {data} data, round {turn + 1}", flush=True)
+            results += [[kind, data, rows, name, str(turn), value, check]
+                        for kind, rows, name, value, check in run(command + [data])]
 
 
 def disagreements(results):

@@ -11,7 +11,7 @@ LIST, FLOOR, COMPONENT = "the list", "plain C++", "the component"
 USUAL = "usual"
 OTHER_DATA = {"long": "of names and cities of 40 to 200 letters", "few": "of 20 names, 5 cities, 20 amounts and 12 dates",
               "sorted": "with each column in ascending order", "reversed": "with each column in descending order",
-              "organ": "whose columns ascend to the middle and descend from there", "ten": "cut off behind five of ten columns"}
+              "organ": "whose columns ascend to the middle and descend from there", "ten": "of ten columns, in memory the first five"}
 WIDGET = "the widget"  # the list again, which is no peer of itself
 PLOTTED = ["load", "sort names", "sort numbers", "sort dates", "find nothing", "save a file", "load a file",
            "1,000 inserts at the front", "scroll by a page and repaint"]
@@ -83,8 +83,10 @@ def page(where, of_data):
             lines += [f"### {rows:,} rows {OTHER_DATA[data]}", ""] + table(of_data[data], rows, LIST, FLOOR) + [""]
     if sizes(values, COMPONENT):
         lines += ["### The component under Wine, beside the system's list", ""]
-        for rows in sizes(values, COMPONENT):
-            lines += [f"With {rows:,} rows:", ""] + table(values, rows, COMPONENT, None) + [""]
+    for data in of_data:
+        for rows in sizes(of_data[data], COMPONENT):
+            like = f" {OTHER_DATA[data]}" if data in OTHER_DATA else ""
+            lines += [f"With {rows:,} rows{like}:", ""] + table(of_data[data], rows, COMPONENT, None) + [""]
     return lines + ["![Milliseconds by rows](images/scaling.svg)"]
 
 

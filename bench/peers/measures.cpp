@@ -136,7 +136,7 @@ class Measures {
         peer_->removeFirst();
         const double inserting = timeOf([&] {
             for (int i = 0; i < rowsAtATime; ++i)
-                peer_->insertFirst(table_, i);
+                peer_->insertFirst(table_, i % rows_);
         });
         Sum sum;
         for (int i = 0; i < rowsAtATime; ++i)

@@ -3,8 +3,8 @@
 //
 // Prints a table for docs/performance.md: medians of three runs, in milliseconds of the wall clock. With an
 // argument it measures the component alone, in those rows of the table whose names contain the argument: for
-// profiles. With --results it goes through all once, beside the system's list in both its ways, for
-// scripts/bench-peers.
+// profiles. With --results and a kind of data it goes through all once, beside the system's list in both its
+// ways, for scripts/bench-peers.
 #include "hosted_list.h"
 
 #include <algorithm>
@@ -13,6 +13,7 @@
 #include <cstring>
 #include <exception>
 #include <functional>
+#include <iterator>
 #include <vector>
 
 #include <commctrl.h>
@@ -41,7 +42,7 @@ class List {
 
 class Component final : public List {
   public:
-    explicit Component(HWND parent) : list_(parent) {}
+    Component(HWND parent, int columns) : list_(parent, columns) {}
     void hold() override { list_.hold(); }
     void show() override { list_.show(); }
     void add(const Row& row) override { list_.add(row); }
@@ -70,16 +71,14 @@ class Component final : public List {
 
 // What both kinds of the system's list have in common.
 
-void addColumns(HWND list) {
+void addColumns(HWND list, int columns) {
     SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
-    int place = 0;
-    for (const int pixels : {70, 200, 160, 120, 110}) {
+    for (int place = 0; place < columns; ++place) {
         LVCOLUMNW column{};
         column.mask = LVCF_WIDTH | LVCF_TEXT;
-        column.cx = pixels;
+        column.cx = widths[place % std::size(widths)];
         column.pszText = const_cast<wchar_t*>(L"Column");
-        SendMessageW(
-            list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(place++), reinterpret_cast<LPARAM>(&column));
+        SendMessageW(list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(place), reinterpret_cast<LPARAM>(&column));
     }
 }
 
@@ -99,9 +98,9 @@ void scrollListTo(HWND list, int row) {
 /// The system's list, which keeps a copy of each text.
 class SystemList final : public List {
   public:
-    explicit SystemList(HWND parent)
+    SystemList(HWND parent, int columns)
         : list_(window(WC_LISTVIEWW, WS_CHILD | LVS_REPORT | LVS_SHOWSELALWAYS, parent)) {
-        addColumns(list_);
+        addColumns(list_, columns);
     }
     ~SystemList() override { DestroyWindow(list_); }
     void hold() override { SendMessageW(list_, WM_SETREDRAW, FALSE, 0); }
@@ -144,11 +143,11 @@ class SystemList final : public List {
 /// The system's list over texts that the host keeps, which it asks for as it paints.
 class VirtualList final : public List {
   public:
-    explicit VirtualList(HWND parent)
+    VirtualList(HWND parent, int columns)
         : list_(window(WC_LISTVIEWW, WS_CHILD | LVS_REPORT | LVS_SHOWSELALWAYS | LVS_OWNERDATA, parent)),
           parent_(parent) {
         SetWindowSubclass(parent, answer, 1, reinterpret_cast<DWORD_PTR>(this));
-        addColumns(list_);
+        addColumns(list_, columns);
     }
     ~VirtualList() override {
         RemoveWindowSubclass(parent_, answer, 1);
@@ -279,7 +278,7 @@ const Measure measures[] = {
 
 template <class Kind>
 double timeOnce(const Measure& measure, HWND parent, const std::vector<Row>& rows) {
-    Kind list(parent);
+    Kind list(parent, static_cast<int>(rows.front().cells.size()));
     list.hold();
     for (int row = 0; row < measure.rows; ++row)
         list.add(rows[static_cast<std::size_t>(row)]);
@@ -328,12 +327,12 @@ void printResults(HWND parent, const std::vector<Row>& rows) {
     }
 }
 
-void run(const char* what) {
+void run(const char* what, const char* data) {
     const INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&classes);
     startContainers();
     HWND parent = window(L"STATIC", WS_POPUP | WS_CLIPCHILDREN, nullptr);
-    const std::vector<Row> rows = rowsOf(loaded);
+    const std::vector<Row> rows = rowsOf(loaded, sampleDataNamed(data));
     if (what != nullptr && std::strcmp(what, "--results") == 0)
         printResults(parent, rows);
     else
@@ -348,7 +347,7 @@ int main(int count, char** arguments) {
         return 1;
     int status = 0;
     try {
-        run(count > 1 ? arguments[1] : nullptr);
+        run(count > 1 ? arguments[1] : nullptr, count > 2 ? arguments[2] : nameOf(SampleData::usual));
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         status = 1;

@@ -1,7 +1,6 @@
 #include "hosted_list.h"
 
-#include "sample_rows.h"
-
+#include <iterator>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
@@ -15,9 +14,9 @@ constexpr int height = 800;
 
 } // namespace
 
-std::vector<Row> rowsOf(int count) {
+std::vector<Row> rowsOf(int count, SampleData data) {
     std::vector<Row> rows;
-    for (const std::string& text : sampleRows(count)) {
+    for (const std::string& text : sampleRows(count, data)) {
         Row row{std::wstring(text.begin(), text.end()), {}};
         std::wistringstream pieces(row.whole);
         for (std::wstring cell; std::getline(pieces, cell, L'|');)
@@ -52,7 +51,8 @@ void startContainers() {
     must(start != nullptr && start() != FALSE, "atl.dll is not there");
 }
 
-HostedList::HostedList(HWND parent) : container_(window(L"AtlAxWin", WS_CHILD | WS_CLIPCHILDREN, parent)) {
+HostedList::HostedList(HWND parent, int columnsWanted)
+    : container_(window(L"AtlAxWin", WS_CHILD | WS_CLIPCHILDREN, parent)) {
     using namespace LumtexListView;
     const HMODULE library = LoadLibraryW(L"LumtexListView.ocx");
     must(library != nullptr, "LumtexListView.ocx must lie beside this program");
@@ -72,13 +72,13 @@ HostedList::HostedList(HWND parent) : container_(window(L"AtlAxWin", WS_CHILD | 
          "the container takes no control");
     hold();
     list_->put_RowsDynamic(VARIANT_FALSE);
-    for (const float pixels : {70, 200, 160, 120, 110})
+    for (int column = 0; column < columnsWanted; ++column)
         list_->ColumnsAdd(Text(L"Column"),
                           nullptr,
                           nullptr,
                           nullptr,
                           cColumnLeft,
-                          pixels * 15,
+                          static_cast<float>(widths[column % std::size(widths)] * 15),
                           VARIANT_TRUE,
                           0,
                           Text(L""),

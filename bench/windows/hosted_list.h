@@ -3,6 +3,7 @@
 #pragma once
 
 #include "LumtexListView.h"
+#include "sample_rows.h"
 
 #include <string>
 #include <vector>
@@ -19,10 +20,10 @@ struct Row {
     Cells cells;
 };
 
-constexpr int columns = 5;
+constexpr int columns = 5; ///< of the usual rows
 
-/// The usual rows.
-std::vector<Row> rowsOf(int count);
+/// Of rows with more columns the first five.
+std::vector<Row> rowsOf(int count, SampleData data = SampleData::usual);
 
 /// Throws std::runtime_error.
 void must(bool done, const char* what);
@@ -55,10 +56,13 @@ HWND window(const wchar_t* className, DWORD style, HWND parent);
 /// Readies the system's container for controls.
 void startContainers();
 
-/// A list of five columns that paints nothing until it is told to. The component lies beside the program.
+/// In pixels; further columns begin with the first width again.
+constexpr int widths[] = {70, 200, 160, 120, 110};
+
+/// A list that paints nothing until it is told to. The component lies beside the program.
 class HostedList {
   public:
-    explicit HostedList(HWND parent);
+    explicit HostedList(HWND parent, int columnsWanted = columns);
     HostedList(const HostedList&) = delete;
     HostedList& operator=(const HostedList&) = delete;
     ~HostedList();
