@@ -6,6 +6,7 @@
 #include "values/locale.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstring>
 #include <optional>
@@ -90,12 +91,14 @@ bool datesKeepTheirTexts(const Locale& locale) {
 
 } // namespace
 
-NumberReader::NumberReader(cSortType type, const Locale& locale) : type_(type), locale_(locale) {
+NumberReader::NumberReader(cSortType type, std::size_t rows, const Locale& locale)
+    : bitsOfPlace_(std::clamp(static_cast<unsigned>(std::bit_width(rows)), 1U, mostBitsOfPlace)), type_(type),
+      locale_(locale) {
     if (type == cSortNumeric) {
         decimalMark_ = decimalMark(locale);
         return;
     }
-    knownDates_.resize(std::size_t{1} << bitsOfPlace);
+    knownDates_.resize(std::size_t{1} << bitsOfPlace_);
     readsBack_ = false;
     ignoringErrors([&] { readsBack_ = datesKeepTheirTexts(locale); });
 }
@@ -113,7 +116,7 @@ Double NumberReader::readKnownDate(const CompactText& text) {
     std::memcpy(&low, whole.data(), sizeof low);
     std::memcpy(&high, whole.data() + sizeof low, sizeof high);
     const std::uint64_t mixed = (low ^ (high * 0x9E3779B97F4A7C15U)) * 0xC2B2AE3D27D4EB4FU;
-    Place& place = knownDates_[mixed >> (64U - bitsOfPlace)];
+    Place& place = knownDates_[mixed >> (64U - bitsOfPlace_)];
     for (const KnownDate& known : place)
         if (known.low == low && known.high == high)
             return known.key;

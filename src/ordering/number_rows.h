@@ -24,8 +24,8 @@ constexpr Double unreadable = std::numeric_limits<Double>::quiet_NaN();
 /// Reads keys as `numberKey` does, without its errors and, for plain decimal numbers, much faster.
 class NumberReader {
   public:
-    /// `locale` must outlive this. Throws std::bad_alloc, and so does `read`.
-    explicit NumberReader(cSortType type, const Locale& locale = currentLocale());
+    /// For about so many rows. `locale` must outlive this. Throws std::bad_alloc, and so does `read`.
+    NumberReader(cSortType type, std::size_t rows, const Locale& locale = currentLocale());
 
     /// `unreadable` for what `numberKey` throws at.
     Double read(const CompactText& text);
@@ -47,12 +47,13 @@ class NumberReader {
     Double readDate();
     Double readNumber();
 
-    /// A century has 36,525 days; a column may hold all of them.
-    static constexpr unsigned bitsOfPlace = 14;
+    /// A century has 36,525 days; a column may hold all of them, and a short one needs no room for them.
+    static constexpr unsigned mostBitsOfPlace = 14;
     static constexpr std::size_t datesInPlace = 4;
 
     using Place = std::array<KnownDate, datesInPlace>; ///< the last one read comes first
     std::vector<Place> knownDates_;                    ///< by what their texts mix to
+    unsigned bitsOfPlace_;
     cSortType type_;
     const Locale& locale_;
     unsigned char decimalMark_ = 0; ///< of plain numbers; 0 if it is no single byte

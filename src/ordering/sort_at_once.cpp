@@ -103,7 +103,7 @@ Order orderOfNumbers(const RowArray& rows, std::size_t cell, cSortType type, boo
     // A column names the same days again and again, and each of two readers would have to learn them.
     const Hands readers = type == cSortDate ? Hands::one : hands;
     forEachPiece(rows.size(), readers, [&](Piece piece) {
-        NumberReader reader(type, locale);
+        NumberReader reader(type, piece.end - piece.first, locale);
         NumberKeys::Filler filler(keys, piece);
         pieces[piece.number] = readPiece(rows, piece, cell, [&](const CompactText* text) {
             const Double key = text != nullptr ? reader.read(*text) : unreadable;

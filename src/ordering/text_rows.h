@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <memory>
 #include <utility>
@@ -92,8 +93,8 @@ class TextReader {
     TextReader(TextKeys<Unit>& keys, Piece piece)
         : next_(keys.keys_.get() + piece.first), row_(static_cast<std::uint32_t>(piece.first)),
           texts_(keys.texts_.get()), empty_(static_cast<std::uint32_t>(piece.first + piece.number)),
-          textCount_(empty_ + 1), known_(std::size_t{1} << bitsOfPlace, Known{0, 0, empty_}),
-          store_(keys.stores_[piece.number]) {
+          textCount_(empty_ + 1), bitsOfPlace_(bitsFor(piece.end - piece.first)),
+          known_(std::size_t{1} << bitsOfPlace_, Known{0, 0, empty_}), store_(keys.stores_[piece.number]) {
         texts_[empty_] = {nullptr, 0};
     }
 
@@ -128,7 +129,11 @@ class TextReader {
         std::uint32_t text;
     };
     static constexpr std::size_t bitsOfUnit = 8 * sizeof(Unit);
-    static constexpr unsigned bitsOfPlace = 12;
+    static constexpr unsigned mostBitsOfPlace = 12;
+
+    static unsigned bitsFor(std::size_t rows) {
+        return std::clamp(static_cast<unsigned>(std::bit_width(rows)), 1U, mostBitsOfPlace);
+    }
 
     static std::uint64_t headOf(const Text& text) {
         std::uint64_t head = 0;
@@ -143,7 +148,7 @@ class TextReader {
                                        ? headOf({text.begin + text.length - unitsInHead, unitsInHead})
                                        : text.length;
         const std::uint64_t mixed = (head ^ (tail * 0x9E3779B97F4A7C15U)) * 0xC2B2AE3D27D4EB4FU;
-        Known& slot = known_[mixed >> (64U - bitsOfPlace)];
+        Known& slot = known_[mixed >> (64U - bitsOfPlace_)];
         if (slot.head != head || slot.tail != tail || !same(texts_[slot.text], text)) {
             slot = {head, tail, textCount_++};
             texts_[slot.text] = text;
@@ -159,6 +164,7 @@ class TextReader {
     Text* texts_;
     std::uint32_t empty_; ///< place of the empty text
     std::uint32_t textCount_;
+    unsigned bitsOfPlace_;
     std::vector<Known> known_; ///< by what heads and tails mix to
     UnitStore<Unit>& store_;
 };

@@ -42,7 +42,7 @@ String digits(Long value) {
 }
 
 TEST(NumberReader, GivesEachDateItsOwnKeyHoweverManyItMet) {
-    NumberReader reader(cSortDate);
+    NumberReader reader(cSortDate, 24 * 60);
     // All start with the same eight units, and are so many that places for known ones are shared.
     for (const int turn : {1, 2}) {
         for (Long minute = 0; minute < 24 * 60; ++minute) {
@@ -55,7 +55,7 @@ TEST(NumberReader, GivesEachDateItsOwnKeyHoweverManyItMet) {
 
 TEST(NumberReader, GivesEachDateItsOwnKeyBeyondWhatItsPlacesHold) {
     constexpr int days = 80000;
-    NumberReader reader(cSortDate);
+    NumberReader reader(cSortDate, 1'000'000);
     for (const int turn : {1, 2})
         for (int day = 1; day <= days; ++day)
             ASSERT_EQ(reader.read(CompactText(textFromDate(Date{static_cast<Double>(day)}))), day) << turn;
@@ -66,7 +66,7 @@ TEST(NumberReader, ReadsTheDaysOfAGenerationHardlyMoreThanOnce) {
     constexpr int days = 13514;
     const CountingLocale locale;
     const UsingLocale inForce(locale);
-    NumberReader reader(cSortDate);
+    NumberReader reader(cSortDate, 1'000'000);
     const int before = locale.datesRead;
     for (int turn = 0; turn < 5; ++turn)
         for (int day = first; day < first + days; ++day)
@@ -76,7 +76,7 @@ TEST(NumberReader, ReadsTheDaysOfAGenerationHardlyMoreThanOnce) {
 }
 
 TEST(NumberReader, KeepsNothingOfWhatIsNoDate) {
-    NumberReader reader(cSortDate);
+    NumberReader reader(cSortDate, 1);
     for (const int turn : {1, 2}) {
         for (const StringView text : {u"", u"soon", u"2020-02-31 or so, as one says"}) {
             const Double key = reader.read(CompactText(text));
