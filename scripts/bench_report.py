@@ -75,7 +75,7 @@ def sizes(values, own):
 
 def page(where, of_data):
     values = of_data.get(USUAL, {})
-    lines = [f"{where}. `scripts/bench-peers`: medians of its rounds, behind them half the spread in percent.", ""]
+    lines = [f"{where}. `scripts/bench-peers`: medians of its rounds, behind them half the spread in percent; a million rows and more once.", ""]
     for rows in sizes(values, LIST):
         lines += [f"### {rows:,} rows", ""] + table(values, rows, LIST, FLOOR) + [""]
     for data in (data for data in of_data if data != USUAL):
