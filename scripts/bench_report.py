@@ -101,7 +101,7 @@ def curves(values):
 
 def plot(values):
     """Both axes by powers of ten; a straight line that rises by one square is in proportion to the rows."""
-    width, height, left, top, unit = 720, 420, 60, 16, 62
+    width, height, left, top, unit = 740, 420, 84, 16, 62
     lowest, decades = -1, 6
     found = list(curves(values))
     first = min(math.log10(points[0][0]) for _, points in found)
